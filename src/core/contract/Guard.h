@@ -1,0 +1,24 @@
+#pragma once
+
+#include <exception>
+#include <string>
+
+#include "core/contract/Contexto.h"
+
+namespace fidaleon {
+
+/// Runs a procedure; an error in it is reported with these labels and ends the procedure, not the
+/// program. True when it ran through.
+template <class Body>
+bool guarded(const Contexto& contexto, const std::string& objeto, const std::string& procedimiento,
+             Body&& body) {
+  try {
+    body();
+    return true;
+  } catch (const std::exception&) {
+    contexto.fidaleon()->vererror(MODULO, objeto, procedimiento);
+    return false;
+  }
+}
+
+}  // namespace fidaleon

@@ -1,0 +1,111 @@
+#pragma once
+
+#include <deque>
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "forms/Controls.h"
+#include "forms/Layout.h"
+#include "forms/UserInterface.h"
+
+namespace fidaleon::forms {
+
+/// Told of everything that changes while a form is shown. One at a time; not owned by the form.
+class FormObserver {
+ public:
+  virtual ~FormObserver() = default;
+  virtual void controlChanged(Control& control, Change what) = 0;
+  virtual void focusChanged(Control* active) = 0;
+  virtual void captionChanged() = 0;
+  virtual void unloaded() = 0;
+};
+
+/// A dialog without a toolkit: named controls, a layout, the focus, and one handler per event.
+/// The same object runs in a window and under a scripted user. The model owns the focus: leaving
+/// a field runs its handler, which may send the focus elsewhere.
+class Form {
+ public:
+  Form(UserInterface& ui, std::string name);
+  virtual ~Form();
+  Form(const Form&) = delete;
+  Form& operator=(const Form&) = delete;
+
+  const std::string& name() const { return name_; }
+  const std::string& caption() const { return caption_; }
+  void setCaption(const std::string& caption);
+  UserInterface& ui() const { return ui_; }
+
+  /// Runs Form_Load once; later calls do nothing.
+  void Load();
+  /// Loads if need be and stays until the form is unloaded. A form that unloads itself while
+  /// loading is not shown.
+  void Show();
+  /// Closes the form without asking; Form_Unload runs once.
+  void Unload();
+  bool isLoaded() const { return loaded_; }
+  bool isUnloaded() const { return unloaded_; }
+  /// Escape and the window's own close: presses the cancel button if there is one.
+  void requestClose();
+
+  Control* activeControl() const { return active_; }
+  /// The user's way to another control. The current field is left first, and its handler may keep
+  /// the focus or send it elsewhere; true when `next` has it in the end.
+  bool moveFocus(Control& next);
+  /// From code. Inside a handler it is queued and wins over where the user was going.
+  void setFocus(Control& control);
+  void focusFirst();
+  /// Next or previous control in tab order that can be reached.
+  void focusNext(bool backwards = false);
+  /// Leaves the current field, then clicks if the focus could come and the button is usable.
+  bool userClick(Button& button);
+  /// Enter in a form: leaves the field, then presses the default button.
+  bool pressEnter();
+
+  const std::vector<Control*>& controls() const { return controls_; }
+  /// Null when there is none of that name.
+  Control* find(std::string_view name) const;
+  std::vector<Control*> tabOrder() const;
+  const LayoutNode& layout() const { return layout_; }
+  /// Mnemonic letter of a control on this form, 0 when none is left: its own "&" first, then the
+  /// first free letter of its caption or label. Unique among the controls of one tab.
+  char32_t mnemonic(const Control& control) const;
+
+  void setObserver(FormObserver* observer) { observer_ = observer; }
+
+  // For controls.
+  void adopt(Control& control);
+  void disown(Control& control);
+  void controlChanged(Control& control, Change what);
+  Label& makeLabel(const std::string& name, const std::string& caption);
+
+ protected:
+  virtual void Form_Load() {}
+  virtual void Form_Unload() {}
+  void setLayout(LayoutNode layout);
+
+ private:
+  void place(LayoutNode& node, Frame* frame, TabStrip* strip, int page);
+  void settleFocus(Control* target);
+  void rescueFocus(Control& lost);
+  void assignMnemonics() const;
+
+  UserInterface& ui_;
+  std::string name_;
+  std::string caption_;
+  std::vector<Control*> controls_;
+  std::vector<std::unique_ptr<Label>> ownLabels_;
+  LayoutNode layout_;
+  Control* active_ = nullptr;
+  Control* pending_ = nullptr;
+  bool moving_ = false;
+  bool loaded_ = false;
+  bool unloaded_ = false;
+  FormObserver* observer_ = nullptr;
+  mutable std::vector<std::pair<const Control*, char32_t>> mnemonics_;
+  mutable bool mnemonicsKnown_ = false;
+};
+
+}  // namespace fidaleon::forms

@@ -1,0 +1,62 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+namespace fidaleon::forms {
+
+class Form;
+
+enum class Answer { None, Ok, Yes, No, Cancel };
+enum class MsgButtons { Ok, OkCancel, YesNo, YesNoCancel };
+enum class MsgIcon { None, Information, Exclamation, Question, Critical };
+
+/// The one port between dialogs and whoever sits in front of them: a window, or a scripted user.
+/// Everything blocks until the user has answered.
+class UserInterface {
+ public:
+  virtual ~UserInterface() = default;
+
+  /// Shows the form and returns when it has been unloaded.
+  virtual void showModal(Form& form) = 0;
+  /// An empty title is the application's.
+  virtual Answer msgBox(const std::string& text, MsgButtons buttons, MsgIcon icon,
+                        const std::string& title = {}) = 0;
+  /// Empty when cancelled.
+  virtual std::optional<std::string> inputBox(const std::string& prompt, const std::string& title,
+                                              const std::string& initial = {}) = 0;
+  virtual void beep() = 0;
+  /// Calls nest.
+  virtual void setHourglass(bool on) = 0;
+
+  virtual std::string clipboardText() const = 0;
+  virtual void setClipboardText(const std::string& text) = 0;
+
+  virtual bool hasPrinter() const = 0;
+  /// Width of a text on the printer, in twentieths of a point, at 8 points of the named font.
+  virtual double printerTextWidth(const std::string& text, const std::string& font) const = 0;
+
+  virtual void progressOpen(std::int64_t count, const std::string& message) = 0;
+  virtual void progressMove(std::int64_t position) = 0;
+  virtual void progressClose() = 0;
+};
+
+/// Hourglass pointer for the length of a block.
+class Hourglass {
+ public:
+  explicit Hourglass(UserInterface& ui) : ui_(ui) { ui_.setHourglass(true); }
+  ~Hourglass() { ui_.setHourglass(false); }
+  Hourglass(const Hourglass&) = delete;
+  Hourglass& operator=(const Hourglass&) = delete;
+
+ private:
+  UserInterface& ui_;
+};
+
+/// A beep and a message with one button, as every refusal of the dialogs is told.
+void warn(UserInterface& ui, const std::string& text, MsgIcon icon = MsgIcon::Exclamation);
+/// A beep and a question; true for Yes.
+bool ask(UserInterface& ui, const std::string& text, const std::string& title = {});
+
+}  // namespace fidaleon::forms

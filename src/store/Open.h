@@ -1,0 +1,27 @@
+#pragma once
+// Opening, creating and copying databases. Nothing above this header knows which engine runs.
+
+#include <filesystem>
+#include <memory>
+
+#include "store/Connection.h"
+
+namespace fidaleon::store {
+
+/// The two catalogues of the program, built once.
+const Schema& parishSchema();   // the registers, the institutions, the census
+const Schema& reportsSchema();  // the scratch tables that templates print from
+
+/// Opens the database and brings an older one up to the schema's version, in place and as one
+/// step. Throws Missing, NotADatabase, NewerSchema, Busy, ReadOnly, DiskFull.
+std::unique_ptr<Connection> openDatabase(const std::filesystem::path& file, const Schema& schema);
+/// Creates the database with its tables and seed rows; refuses to overwrite (Constraint).
+std::unique_ptr<Connection> createDatabase(const std::filesystem::path& file, const Schema& schema);
+/// An unnamed database in memory with tables and seed rows, for tests and measurements.
+std::unique_ptr<Connection> memoryDatabase(const Schema& schema,
+                                           const std::string& dataSource = "/tmp/fidaleon.mdb");
+/// A consistent copy of an open database through the engine's own backup call, verified by
+/// reopening it.
+void backupDatabase(Connection& from, const std::filesystem::path& to);
+
+}  // namespace fidaleon::store
