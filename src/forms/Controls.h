@@ -167,7 +167,9 @@ class ListControl : public Control {
   struct Item {
     std::string text;
     std::int64_t data;
+    bool selected = false;
   };
+  friend class ListBox;
   std::vector<Item> items_;
   int listIndex_ = -1;
   bool locked_ = false;
@@ -193,7 +195,6 @@ class ListBox : public ListControl {
  private:
   bool multiSelect_ = false;
   int rows_ = 8;
-  std::map<int, bool> selected_;
 };
 
 class CheckBox : public Control {
