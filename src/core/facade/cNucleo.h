@@ -1,0 +1,120 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "core/contract/Contexto.h"
+
+namespace fidaleon {
+
+/// The library's one public class. The main program creates it once and calls one operation per
+/// user command. Every operation blocks until its dialog is closed or its document is written,
+/// and holds no lock when it returns; afterwards the main program refreshes its own tree and list.
+///
+/// - Refused locks end an operation silently: the lock service has told the user. So does a node
+///   name that the operation does not know.
+/// - An error inside an operation is told to the user; nothing is thrown.
+/// - Connections stay the caller's. The configuration is kept by reference until another call
+///   hands in its own, and must live as long.
+/// - Node names: "PartidasBautismo" and its like for entries, "SolicitudesBautismo" for requests,
+///   "LibrosBautismo" for books.
+class cNucleo {
+ public:
+  /// Sets the application's title and help file. `entorno` must outlive this object.
+  explicit cNucleo(Entorno& entorno);
+
+  // Entries
+  void NuevaPartida(FDAPI::Conexion& conBaseDatos, const FDAPI::cConfig& objConfig,
+                    const std::string& strNodo);
+  void AntiguaPartida(FDAPI::Conexion& conBaseDatos, const FDAPI::cConfig& objConfig,
+                      const std::string& strNodo);
+  /// Opens the entry read-only, with nothing but the cancel button, while another works on it.
+  void PropiedadesPartida(FDAPI::Conexion& conBaseDatos, std::int32_t lngID,
+                          const FDAPI::cConfig& objConfig, const std::string& strNodo);
+  /// Annuls the entry, or validates an annulled one.
+  void AnularPartidas(FDAPI::Conexion& conBaseDatos, std::int32_t lngID,
+                      const FDAPI::cConfig& objConfig, const std::string& strTextDescription);
+  /// Any entry of an old book, only the last one of an open new book, none of a closed one. Asks.
+  void EliminarPartida(FDAPI::Conexion& conBaseDatos, std::int32_t lngID,
+                       const FDAPI::cConfig& objConfig, const std::string& strNodo);
+  /// Asks, then deletes the entry with its parents' and marriage rows, whoever shares them, and
+  /// resets the counters of its book.
+  void BorrarPartidaBautismo(FDAPI::Conexion& conBaseDatos, std::int32_t lngID);
+
+  // Requests
+  void NuevaSolicitud(FDAPI::Conexion& conBaseDatos, const FDAPI::cConfig& objConfig,
+                      const std::string& strNodo);
+  void PropiedadesSolicitudes(FDAPI::Conexion& conBaseDatos, std::int32_t lngID,
+                              const FDAPI::cConfig& objConfig, const std::string& strNodo);
+  /// Deletes without asking.
+  void EliminarSolicitud(FDAPI::Conexion& conBaseDatos, std::int32_t lngID,
+                         const FDAPI::cConfig& objConfig, const std::string& strNodo);
+
+  // Books
+  void NuevoLibro(FDAPI::Conexion& conBaseDatos, const FDAPI::cConfig& objConfig,
+                  const std::string& strNodoPadre);
+  /// Each asks, and refuses an old book and one that is closed already.
+  void cerrarLiBautismo(FDAPI::Conexion& conBaseDatos, std::int32_t IDlng,
+                        const FDAPI::cConfig& objConfig);
+  void cerrarLiconfirmacion(FDAPI::Conexion& conBaseDatos, std::int32_t IDlng,
+                            const FDAPI::cConfig& objConfig);
+  void cerrarLiMatrimonio(FDAPI::Conexion& conBaseDatos, std::int32_t IDlng,
+                          const FDAPI::cConfig& objConfig);
+  void cerrarLiDefuncion(FDAPI::Conexion& conBaseDatos, std::int32_t IDlng,
+                         const FDAPI::cConfig& objConfig);
+  /// Asks, and refuses a book that holds entries.
+  void EliminarLibro(FDAPI::Conexion& conBaseDatos, std::int32_t IDlng,
+                     const FDAPI::cConfig& objConfig, const std::string& strNodoPadre);
+
+  // Setup
+  /// Asks for the data that documents need of every institution. False when the user gave up
+  /// before they were complete; the main program then ends.
+  void DatosSetup(FDAPI::Conexion& conFidaleon, bool& result);
+  /// Who signs a document, and its date as "yyyymmdd". `Sacramento` is the word of the entry's
+  /// table ("Bautismo"). Cancelled: an empty keeper and today's date.
+  void SelecEncargado(FDAPI::Conexion& conBaseDatos, const std::string& Sacramento,
+                      std::int32_t IDPartida, std::string& strFechaInf, std::string& result);
+
+  // Baptism documents: each adds one finished row to Documentos_Bautismo, or none when the entry
+  // is gone or held by another. `strFecha` is "yyyymmdd". The caller empties the table before.
+  void InformeCertificadoPartidaBautismo(FDAPI::Conexion& conFidaleon, FDAPI::Conexion& conInformes,
+                                         std::int32_t lngID, const std::string& strEncargado,
+                                         const std::string& strFecha);
+  void InformeCertificadoPartidaBautismoMenorca(FDAPI::Conexion& conFidaleon,
+                                                FDAPI::Conexion& conInformes, std::int32_t lngID,
+                                                const std::string& strEncargado,
+                                                const std::string& strFecha);
+  void InformeCertificadoLiteralPartidaBautismo(FDAPI::Conexion& conFidaleon,
+                                                FDAPI::Conexion& conInformes, std::int32_t lngID,
+                                                const std::string& strEncargado,
+                                                const std::string& strFecha);
+  void InformeCertificadoLiteralPartidaBautismoMenorca(FDAPI::Conexion& conFidaleon,
+                                                       FDAPI::Conexion& conInformes,
+                                                       std::int32_t lngID,
+                                                       const std::string& strEncargado,
+                                                       const std::string& strFecha);
+  void InformePartidaBautismo(FDAPI::Conexion& conFidaleon, FDAPI::Conexion& conInformes,
+                              std::int32_t lngID);
+  void InformePartidaBautismoMenorca(FDAPI::Conexion& conFidaleon, FDAPI::Conexion& conInformes,
+                                     std::int32_t lngID);
+  void InformeVolanteBautismo(FDAPI::Conexion& conFidaleon, FDAPI::Conexion& conInformes,
+                              std::int32_t lngID);
+  /// Writes the same row as InformeVolanteBautismo: it has the columns of both editions.
+  void InformeVolanteBautismoMenorca(FDAPI::Conexion& conFidaleon, FDAPI::Conexion& conInformes,
+                                     std::int32_t lngID);
+  void InformeSolicitudPartidaBautismoDatos(FDAPI::Conexion& conFidaleon,
+                                            FDAPI::Conexion& conInformes, std::int32_t lngID);
+  void InformeSolicitudPartidaBautismoDatosMenorca(FDAPI::Conexion& conFidaleon,
+                                                   FDAPI::Conexion& conInformes,
+                                                   std::int32_t lngID);
+  void InformeSolicitudPartidaBautismoDatosSantiago(FDAPI::Conexion& conFidaleon,
+                                                    FDAPI::Conexion& conInformes,
+                                                    std::int32_t lngID);
+
+ private:
+  void InicializaConfiguracion(const FDAPI::cConfig& objConfig);
+
+  Contexto contexto_;
+};
+
+}  // namespace fidaleon
