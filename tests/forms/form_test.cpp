@@ -1,0 +1,209 @@
+#include <gtest/gtest.h>
+
+#include <set>
+
+#include "forms/ScriptedUser.h"
+
+using namespace fidaleon::forms;
+
+namespace {
+
+/// Two tabs with fields, a list, and the usual two buttons.
+struct SampleForm : Form {
+  explicit SampleForm(UserInterface& ui) : Form(ui, "frmSample") {
+    cmdAccept.setDefault(true);
+    cmdCancel.setCancel(true);
+    cmdAccept.onClick = [this] {
+      ++accepted;
+      Unload();
+    };
+    cmdCancel.onClick = [this] {
+      ++cancelled;
+      Unload();
+    };
+    setLayout(column({tabs(mst, {page({fields(2, {item(txtName), item(txtCode), item(txtDate)}),
+                                       group(fra, {fields(1, {item(cbo)})})}),
+                                 page({fields(1, {item(txtNotes), item(txtTime)})})}),
+                      buttons({&cmdAccept, &cmdCancel})}));
+  }
+
+  TabStrip mst{*this, "mst", {"Primera", "Segunda"}};
+  TextBox txtName{*this, "txtName", "NOMBRE:"};
+  TextBox txtCode{*this, "txtCode", "NÚMERO:"};
+  DateField txtDate{*this, "txtDate", "FECHA:"};
+  Frame fra{*this, "fra", "PADRE:"};
+  ComboBox cbo{*this, "cbo", "PROVINCIA:"};
+  TextBox txtNotes{*this, "txtNotes", "NOTAS:"};
+  TimeField txtTime{*this, "txtTime", "HORA:"};
+  Button cmdAccept{*this, "cmd(0)", "ACEPTAR"};
+  Button cmdCancel{*this, "cmd(1)", "CANCELAR"};
+  int accepted = 0;
+  int cancelled = 0;
+};
+
+struct FormTest : ::testing::Test {
+  FormTest() {
+    form.Load();
+    form.focusFirst();
+  }
+  ScriptedUser user;
+  SampleForm form{user};
+  std::vector<std::string> problems;
+  FormDriver driver{form, problems};
+};
+
+TEST_F(FormTest, leaving_handlerSendsFocusElsewhere_wins) {
+  Control* next = nullptr;
+  form.txtName.onLostFocus = [&](Control* to) {
+    next = to;
+    form.setFocus(form.txtDate);
+  };
+  EXPECT_FALSE(form.moveFocus(form.txtCode));
+  EXPECT_EQ(next, &form.txtCode);
+  EXPECT_EQ(form.activeControl(), &form.txtDate);
+}
+
+TEST_F(FormTest, click_afterRefusedLeave_isDropped) {
+  form.txtName.onLostFocus = [&](Control* to) {
+    if (to != &form.cmdCancel) form.setFocus(form.txtName);
+  };
+  driver.click("cmd(0)");
+  EXPECT_EQ(form.accepted, 0);
+  EXPECT_FALSE(form.pressEnter());
+  driver.escape();
+  EXPECT_EQ(form.cancelled, 1);
+  EXPECT_TRUE(form.isUnloaded());
+}
+
+TEST_F(FormTest, handlerThatThrows_leavesTheFocusUsable) {
+  form.txtName.onLostFocus = [](Control*) { throw std::runtime_error("fallo"); };
+  EXPECT_THROW(form.moveFocus(form.txtCode), std::runtime_error);
+  form.txtName.onLostFocus = nullptr;
+  EXPECT_TRUE(form.moveFocus(form.txtCode));
+}
+
+TEST_F(FormTest, quotes_typedOrPasted_followTheRuleOfTheField) {
+  driver.type("txtName", "Juan \"el Viejo\"");
+  EXPECT_EQ(form.txtName.text(), "Juan ''el Viejo''");
+  form.txtCode.setQuoteRule(QuoteRule::Remove);
+  driver.paste("txtCode", "a\"b");
+  driver.focus("txtName");
+  EXPECT_EQ(form.txtCode.text(), "ab");
+  driver.paste("txtName", "c\"d");
+  driver.focus("txtCode");
+  EXPECT_EQ(form.txtName.text(), "c''d");
+}
+
+TEST_F(FormTest, pastedText_losesLineBreaksControlCharactersAndExcess) {
+  form.txtName.setMaxLength(6);
+  driver.paste("txtName",
+               "añ\r\n\x01"
+               "😀bcdef");
+  EXPECT_EQ(form.txtName.text(), "añ 😀bc");
+  form.txtCode.setDigitsOnly(true);
+  driver.paste("txtCode", "1a2");
+  EXPECT_EQ(form.txtCode.text(), "12");
+  driver.type("txtCode", "7x8");
+  EXPECT_EQ(form.txtCode.text(), "78");
+}
+
+TEST_F(FormTest, typing_overMaxLengthWithSelection_replacesOnlyWhatFits) {
+  form.txtName.setMaxLength(3);
+  driver.type("txtName", "ñandú");
+  EXPECT_EQ(form.txtName.text(), "ñan");
+  form.txtName.setSelection(1, 1);
+  driver.press("txtName", {Key::Character, U'é'});
+  EXPECT_EQ(form.txtName.text(), "ñén");
+  EXPECT_EQ(form.txtName.selStart(), 2);
+}
+
+TEST_F(FormTest, dates_typedShort_takeFullForm_andNonsenseStays) {
+  driver.type("txtDate", "1/2/1998");
+  driver.focus("txtName");
+  EXPECT_EQ(form.txtDate.text(), "01/02/1998");
+  EXPECT_EQ(form.txtDate.stored(), "19980201");
+  driver.type("txtDate", "29021999");
+  user.expectMessage("«29/02/1999» no es una fecha. Escríbala como día/mes/año: 03/05/1998.");
+  driver.focus("txtName");
+  EXPECT_EQ(driver.focused(), "txtDate");
+  driver.escape();
+  EXPECT_TRUE(form.isUnloaded());
+  EXPECT_TRUE(user.problems().empty());
+}
+
+TEST_F(FormTest, tabs_mouseDownRefuses_staysAndFiresNothing) {
+  int clicks = 0;
+  form.mst.onMouseDown = [](int) { return false; };
+  form.mst.onClick = [&](int) { ++clicks; };
+  driver.tab("mst", 1);
+  EXPECT_EQ(form.mst.tab(), 0);
+  form.mst.onMouseDown = nullptr;
+  form.mst.onClick = [&](int previous) {
+    ++clicks;
+    form.mst.setTab(previous);
+  };
+  driver.tab("mst", 1);
+  EXPECT_EQ(form.mst.tab(), 0);
+  EXPECT_EQ(clicks, 1);
+}
+
+TEST_F(FormTest, hiddenFocusedControl_handsTheFocusOnWithoutLeaving) {
+  int left = 0;
+  form.txtName.onLostFocus = [&](Control*) { ++left; };
+  form.txtName.setVisible(false);
+  EXPECT_EQ(form.activeControl(), &form.txtCode);
+  EXPECT_EQ(left, 0);
+  EXPECT_FALSE(form.txtName.label()->visible());
+  form.fra.setEnabled(false);
+  EXPECT_FALSE(form.cbo.usable());
+}
+
+TEST_F(FormTest, lists_fireTheirClickFromCode_andLockedOnesRefuseTheUser) {
+  int clicks = 0;
+  form.cbo.addItem("Ávila", 5);
+  form.cbo.addItem("Burgos", 9);
+  form.cbo.onClick = [&] { ++clicks; };
+  EXPECT_TRUE(form.cbo.selectData(9));
+  EXPECT_EQ(clicks, 1);
+  form.cbo.setListIndex(-1);
+  EXPECT_EQ(clicks, 1);
+  form.cbo.setLocked(true);
+  driver.choose("cbo", "Ávila");
+  EXPECT_EQ(form.cbo.listIndex(), -1);
+  EXPECT_EQ(problems.size(), 1u);
+}
+
+TEST_F(FormTest, driver_notesWhatNobodyCouldDo) {
+  driver.type("txtNotes", "en otra pestaña");
+  form.cmdAccept.setEnabled(false);
+  driver.click("cmd(0)");
+  EXPECT_EQ(problems.size(), 2u);
+  EXPECT_EQ(form.accepted, 0);
+}
+
+TEST_F(FormTest, mnemonics_areUniqueOnWhatIsSeenAtOnce) {
+  for (int tab = 0; tab < 2; ++tab) {
+    form.mst.setTab(tab);
+    std::set<char32_t> seen;
+    for (Control* control : form.tabOrder()) {
+      const char32_t letter = control->reachable() ? form.mnemonic(*control) : 0;
+      EXPECT_TRUE(letter == 0 || seen.insert(letter).second) << control->name();
+    }
+    EXPECT_GE(seen.size(), 4u);
+  }
+  EXPECT_EQ(form.mnemonic(form.cmdAccept), U'A');
+}
+
+TEST(ScriptedUser, unexpectedAndMissing_areNotedAndAnsweredSafely) {
+  ScriptedUser user;
+  SampleForm form{user};
+  user.expectForm("frmOther", [](FormDriver&) {});
+  form.Show();
+  EXPECT_TRUE(form.isUnloaded());
+  EXPECT_EQ(user.msgBox("¿Seguro?", MsgButtons::YesNo, MsgIcon::Question, ""), Answer::No);
+  const auto problems = user.problems();
+  ASSERT_EQ(problems.size(), 3u);
+  EXPECT_NE(problems[2].find("never came"), std::string::npos);
+}
+
+}  // namespace
