@@ -1,0 +1,84 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <vector>
+
+#include "core/contract/Contexto.h"
+#include "core/contract/Sacramento.h"
+#include "forms/Controls.h"
+#include "registers/allocation/Posicion.h"
+#include "registers/allocation/PosicionEnLista.h"
+
+namespace fidaleon {
+
+/// The origin of an entry dialog that was opened from the list of a book of this sacrament.
+FDAPI::cCOrigen origenLista(const Sacramento& sacramento);
+
+/// What the position routines work on in an entry dialog. The controls are the dialog's.
+struct CamposPosicion {
+  forms::ListControl& institucion;
+  forms::ListControl& libro;
+  forms::TextBox& folio;
+  forms::TextBox& numero;
+  forms::TabStrip& pestanas;
+  /// Positions of the items of the book's list that are not to be deleted. Asked for only when
+  /// the dialog was opened from that list.
+  std::function<std::vector<Posicion>()> coleccion;
+};
+
+/// Folio and number of an entry dialog: the proposals, the check of a typed position, the page
+/// limit and the warning of a jump, for all four sacraments. Shows its own messages; errors are
+/// thrown to the guard of the dialog's procedure.
+class PosicionPartida {
+ public:
+  PosicionPartida(Contexto& contexto, const Sacramento& sacramento, CamposPosicion campos);
+
+  /// To be called before the routines; the connection is not owned.
+  void abrir(FDAPI::Conexion& conexion, FDAPI::cCOrigen origen);
+
+  /// Next position of a new book, of the institution and book chosen in the lists. Locks the
+  /// lists when the dialog comes from a book's list.
+  void RellenarFolioyNumero();
+  /// First free position of an old book. Mends the book's counters as it goes; the fields stay
+  /// as they are when it gives up.
+  void ComprobarFolioyNumeroAntiguas();
+  /// The proposal from the items of the book's list.
+  void CalcularColeccionFolioyNumero(std::int32_t libro);
+
+  /// The check of a typed position on leaving the first tab for an old entry. False when the
+  /// dialog is to stay: it then shows its first tab, with the focus on the folio. Without an
+  /// institution, a book or a folio there is nothing to check.
+  bool comprobarPosicionTecleada();
+
+  /// Folio and number as they stand in the fields.
+  Posicion enCampos() const;
+  /// Warns when the position in the fields is not the one that follows `anterior`.
+  void avisarSalto(const Posicion& anterior);
+
+  /// The last proposal passed the page limit: the entry must not be accepted.
+  bool limiteSuperado() const { return limiteSuperado_; }
+
+ private:
+  struct Libro {
+    std::int64_t id = 0;
+    std::int64_t codFormato = 0;
+  };
+  std::string institucionElegida() const;
+  void proponer(const Posicion& posicion);
+  void comprobarLimite(std::int64_t folio);
+  void fijarListas();
+  void avanzarContadores(const Libro& libro, Posicion& posicion);
+  bool ofrecerLetra(const Libro& libro);
+  bool ocupado(const Libro& libro, const std::string& numero) const;
+  bool volverAlFolio();
+
+  Contexto& contexto_;
+  const Sacramento& sacramento_;
+  CamposPosicion campos_;
+  FDAPI::Conexion* conexion_ = nullptr;
+  FDAPI::cCOrigen origen_{};
+  bool limiteSuperado_ = false;
+};
+
+}  // namespace fidaleon
