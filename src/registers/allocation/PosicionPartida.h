@@ -64,14 +64,20 @@ class PosicionPartida {
     std::int64_t id = 0;
     std::int64_t codFormato = 0;
   };
-  std::string institucionElegida() const;
-  void proponer(const Posicion& posicion);
-  void comprobarLimite(std::int64_t folio);
-  void fijarListas();
-  void avanzarContadores(const Libro& libro, Posicion& posicion);
+  std::int64_t institucionElegida() const;
+  Libro libroNuevoElegido() const;
+  Libro libroAntiguoElegido() const;
+  Libro leerLibro(const store::Recordset& fila) const;
+  void seguirA(const Libro& libro, std::int64_t folio, const std::string& numero);
+  std::int64_t cuentaDelFolio(const Libro& libro, std::int64_t folio);
   bool ofrecerLetra(const Libro& libro);
   bool ocupado(const Libro& libro, const std::string& numero) const;
   bool volverAlFolio();
+  void proponer(const Posicion& posicion);
+  void ponerFolio(std::int64_t folio);
+  std::string ajusteLimite() const;
+  void comprobarLimite();
+  void fijarListas();
 
   Contexto& contexto_;
   const Sacramento& sacramento_;
