@@ -1,0 +1,50 @@
+#pragma once
+// A document's row as data: which column takes which value, in the order of the statement.
+
+#include <initializer_list>
+#include <string_view>
+#include <vector>
+
+namespace fidaleon::documents {
+
+/// How a column's value comes about; "field" is a field of the record set.
+enum class Source {
+  Stored,           // the field as it is, Null as empty
+  Printable,        // the field through ValorImprimible
+  PrintableUpper,   // the same in capitals
+  DashesIfEmpty,    // the field, "---" when it is empty
+  PaddedNotes,      // the field with its dotted line
+  ShortDate,        // the date in the field, "dd/mm/yyyy"
+  LongDate,         // in words, in the wording of the document
+  LongDateMenorca,  // in words, in Catalan whatever the document's wording
+  Town,             // name of the municipality whose key is in the field
+  Province,         // name of its province
+  ChildWord,        // "al niño", "a la niña" and their like
+  BornWord,         // "nacido", "nacida" and their like
+  FormOfAddress,    // "D.", "Dª."
+  Keeper,           // who signs
+  IssueShort,       // date of issue
+  IssueLong,
+  IssueMenorca,
+};
+
+/// Which quotes stand around the value in the statement; single ones take any text.
+enum class Quoting { Double, Single };
+
+struct Column {
+  const char* name;  // as the statement writes it, with brackets where it needs them
+  Source source;
+  const char* field = "";
+  Quoting quoting = Quoting::Double;
+};
+
+using Columns = std::vector<Column>;
+
+Columns joined(std::initializer_list<Columns> groups);
+/// These lists are read like sentences: a name that is not in the list is a mistake of the caller
+/// and throws std::logic_error.
+Columns without(Columns columns, std::initializer_list<std::string_view> names);
+Columns replacing(Columns columns, std::string_view name, const Column& by);
+Columns insertingBehind(Columns columns, std::string_view name, const Column& added);
+
+}  // namespace fidaleon::documents

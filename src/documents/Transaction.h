@@ -1,0 +1,37 @@
+#pragma once
+
+#include "store/Connection.h"
+
+namespace fidaleon::documents {
+
+/// A transaction for the length of a block, rolled back unless it was committed.
+class Transaction {
+ public:
+  explicit Transaction(store::Connection& connection) : connection_(connection) {
+    connection_.BeginTrans();
+  }
+  ~Transaction() {
+    if (!committed_) rollBack();
+  }
+  Transaction(const Transaction&) = delete;
+  Transaction& operator=(const Transaction&) = delete;
+
+  void commit() {
+    connection_.CommitTrans();
+    committed_ = true;
+  }
+
+ private:
+  /// The error that leads here is the one worth telling.
+  void rollBack() noexcept {
+    try {
+      connection_.RollbackTrans();
+    } catch (const std::exception&) {
+    }
+  }
+
+  store::Connection& connection_;
+  bool committed_ = false;
+};
+
+}  // namespace fidaleon::documents

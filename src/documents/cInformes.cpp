@@ -1,0 +1,24 @@
+#include "documents/cInformes.h"
+
+#include "core/contract/Guard.h"
+#include "documents/Transaction.h"
+
+namespace fidaleon {
+
+void cInformes::escribirDocumento(const documents::DocumentKind& kind, FDAPI::Conexion& conFidaleon,
+                                  FDAPI::Conexion& conInformes, const std::string& statement,
+                                  const documents::Signature& signature, const char* readBack) {
+  guarded(contexto_, "cInformes", kind.member, [&] {
+    documents::Transaction transaction(conInformes);
+    documents::Lookups lookups(contexto_, conFidaleon);
+    const forms::Hourglass hourglass(contexto_.ui());
+    const store::Recordset entry = conFidaleon.Execute(statement);
+    if (!entry.EOF_()) {
+      conInformes.Execute(documents::insertStatement(kind, entry, signature, lookups));
+      if (readBack) conInformes.Execute(readBack).Close();
+    }
+    transaction.commit();
+  });
+}
+
+}  // namespace fidaleon

@@ -1,0 +1,65 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "core/contract/Contexto.h"
+#include "documents/DocumentRow.h"
+
+namespace fidaleon {
+
+/// Writes the finished rows that the main program's templates print: one member per document and
+/// edition. Each reads an entry of `conFidaleon` by its key and adds one row to a table of
+/// `conInformes`, within a transaction; an entry that is not there adds none and is no error.
+/// Rows of earlier runs stay: the caller empties the table. An error is told to the user and
+/// leaves the table as it was. `strFecha` is the date of issue as "yyyymmdd".
+class cInformes {
+ public:
+  /// `contexto` must outlive this object.
+  explicit cInformes(Contexto& contexto) : contexto_(contexto) {}
+
+  // Baptism: Documentos_Bautismo
+  void ImprimirCertificadoPartidaBautismo(FDAPI::Conexion& conFidaleon,
+                                          FDAPI::Conexion& conInformes, std::int32_t lngID,
+                                          const std::string& strEncargado,
+                                          const std::string& strFecha);
+  void ImprimirCertificadoPartidaBautismoMenorca(FDAPI::Conexion& conFidaleon,
+                                                 FDAPI::Conexion& conInformes, std::int32_t lngID,
+                                                 const std::string& strEncargado,
+                                                 const std::string& strFecha);
+  void ImprimirCertificadoLiteralPartidaBautismo(FDAPI::Conexion& conFidaleon,
+                                                 FDAPI::Conexion& conInformes, std::int32_t lngID,
+                                                 const std::string& strEncargado,
+                                                 const std::string& strFecha);
+  void ImprimirCertificadoLiteralPartidaBautismoMenorca(FDAPI::Conexion& conFidaleon,
+                                                        FDAPI::Conexion& conInformes,
+                                                        std::int32_t lngID,
+                                                        const std::string& strEncargado,
+                                                        const std::string& strFecha);
+  void ImprimirPartidaBautismo(FDAPI::Conexion& conFidaleon, FDAPI::Conexion& conInformes,
+                               std::int32_t lngID);
+  void ImprimirPartidaBautismoMenorca(FDAPI::Conexion& conFidaleon, FDAPI::Conexion& conInformes,
+                                      std::int32_t lngID);
+  /// Fills the columns of both editions.
+  void ImprimirVolanteBautismo(FDAPI::Conexion& conFidaleon, FDAPI::Conexion& conInformes,
+                               std::int32_t lngID);
+  /// For a request: an entry of a book has no row here.
+  void ImprimirSolicitudPartidaBautismoDatos(FDAPI::Conexion& conFidaleon,
+                                             FDAPI::Conexion& conInformes, std::int32_t lngID);
+  void ImprimirSolicitudPartidaBautismoDatosMenorca(FDAPI::Conexion& conFidaleon,
+                                                    FDAPI::Conexion& conInformes,
+                                                    std::int32_t lngID);
+  void ImprimirSolicitudPartidaBautismoDatosSantiago(FDAPI::Conexion& conFidaleon,
+                                                     FDAPI::Conexion& conInformes,
+                                                     std::int32_t lngID);
+
+ private:
+  /// The life of one document. `readBack`, if any, is run behind the row and its answer dropped.
+  void escribirDocumento(const documents::DocumentKind& kind, FDAPI::Conexion& conFidaleon,
+                         FDAPI::Conexion& conInformes, const std::string& statement,
+                         const documents::Signature& signature, const char* readBack = nullptr);
+
+  Contexto& contexto_;
+};
+
+}  // namespace fidaleon
