@@ -1,0 +1,133 @@
+// Inserting a baptism, and walking a collection that does.
+
+#include "core/contract/Guard.h"
+#include "registers/baptism/TablasBautismo.h"
+#include "registers/cBaseDatos.h"
+
+namespace fidaleon {
+
+using FDAPI::cCOperacion;
+using FDAPI::Conexion;
+
+namespace {
+
+/// Ends the transaction that a failure left open. There is no roll-back: what had been inserted
+/// stays, but nothing written later may hang on a transaction that nobody ends.
+void cerrarTransaccion(Conexion& conexion) {
+  try {
+    conexion.CommitTrans();
+  } catch (const std::exception&) {
+    conexion.RollbackTrans();
+  }
+}
+
+class TransaccionSinVuelta {
+ public:
+  explicit TransaccionSinVuelta(Conexion& conexion) : conexion_(conexion) {
+    conexion_.BeginTrans();
+  }
+  ~TransaccionSinVuelta() {
+    try {
+      if (abierta_) cerrarTransaccion(conexion_);
+    } catch (const std::exception&) {  // the connection itself is lost
+    }
+  }
+  void terminar() {
+    conexion_.CommitTrans();
+    abierta_ = false;
+  }
+
+ private:
+  Conexion& conexion_;
+  bool abierta_ = true;
+};
+
+std::int32_t claveNueva(Conexion& conexion, const std::string& sql, const std::string& texto) {
+  return static_cast<std::int32_t>(conexion.Execute(sql + entreComillas(texto)).integer("ID"));
+}
+
+}  // namespace
+
+void cBaseDatos::insertarPadres(Conexion& conBaseDatos, cBautismo& record) {
+  TransaccionSinVuelta transaccion(conBaseDatos);
+  conBaseDatos.Execute(sqlInsertar(TABLA_PADRES, record));
+  conBaseDatos.Execute(sqlInsertar(TABLA_MADRES, record));
+  conBaseDatos.Execute(sqlInsertar(TABLA_MATRIMONIO, record));
+  if (lngIDPadres_ == 0)
+    lngIDPadres_ = claveNueva(conBaseDatos,
+                              "SELECT MAX(IDPadres) AS ID FROM bautismo_padres WHERE Nombre = ",
+                              record.NombrePadres);
+  if (lngIDMadres_ == 0)
+    lngIDMadres_ = claveNueva(conBaseDatos,
+                              "SELECT MAX(IDMadres) AS ID FROM bautismo_madres WHERE Nombre = ",
+                              record.NombreMadres);
+  if (lngIDMatrimonio_ == 0)
+    lngIDMatrimonio_ = claveNueva(
+        conBaseDatos, "SELECT MAX(IDMatrimonio) AS ID FROM bautismo_matrimonio WHERE Parroquia = ",
+        record.ParroquiaMatrimonio);
+  transaccion.terminar();
+}
+
+bool cBaseDatos::AltaPartidaBautismo(Conexion& conBaseDatos, cBautismo& record) {
+  return guarded(contexto_, "cBaseDatos", "AltaPartidaBautismo", [&] {
+    insertarPadres(conBaseDatos, record);
+    record.CodPadres = record.IDPadres = lngIDPadres_;
+    record.CodMadres = record.IDMadres = lngIDMadres_;
+    record.CodMatrimonio = record.IDMatrimonio = lngIDMatrimonio_;
+    if (record.EdadPadrino.empty()) record.EdadPadrino = "0";
+    if (record.EdadMadrina.empty()) record.EdadMadrina = "0";
+    conBaseDatos.Execute(sqlInsertar(TABLA_BAUTISMO, record));
+    record.IDBautismo = static_cast<std::int32_t>(
+        conBaseDatos.Execute("SELECT * FROM bautismo ORDER BY idbautismo DESC")
+            .integer("idbautismo"));
+    record.CodBautismo = record.IDBautismo;
+    conBaseDatos.Execute(sqlInsertar(TABLA_HIJO, record));
+  });
+}
+
+bool cBaseDatos::GrabarColeccionBasesDatos(Conexion& conBaseDatos, ColeccionBautismo& colPartidas,
+                                           bool& blnSalto) {
+  const forms::Hourglass reloj(contexto_.ui());
+  bool todas = true;
+  for (cBautismo& partida : colPartidas) {
+    lngIDPadres_ = lngIDMadres_ = lngIDMatrimonio_ = 0;
+    guarded(contexto_, "cBaseDatos", "GrabarColeccionBasesDatos", [&] {
+      todas = false;
+      todas = guardar(conBaseDatos, partida, blnSalto);
+    });
+    if (!todas) return false;
+  }
+  return true;
+}
+
+bool cBaseDatos::guardar(Conexion& conBaseDatos, cBautismo& partida, bool& blnSalto) {
+  const auto hecho = [&](bool estado) {
+    partida.Estado = estado;
+    if (partida.Operacion != cCOperacion::Borrar) partida.Operacion = {};
+    return true;
+  };
+  if (partida.Estado) {
+    switch (partida.Operacion) {
+      case cCOperacion::EDITAR:
+      case cCOperacion::EDITARSOLICITUD:
+        return ActualizarPartidaBautismo(conBaseDatos, partida) && hecho(true);
+      case cCOperacion::Borrar:
+        return BorrarPartidaBautismo(conBaseDatos, partida.IDBautismo) && hecho(false);
+      default:
+        return true;
+    }
+  }
+  if (partida.Operacion == cCOperacion::Borrar) return true;
+  const bool antiguo =
+      partida.Operacion == cCOperacion::ANTIGUA ||
+      (partida.CodLibroBautismo != 0 &&
+       !conBaseDatos
+            .Execute("SELECT nuevo FROM Libro_Bautismo WHERE idlibrobautismo=" +
+                     std::to_string(partida.CodLibroBautismo))
+            .flag("nuevo"));
+  if (!AltaPartidaBautismo(conBaseDatos, partida)) return false;
+  hecho(true);
+  return !antiguo || ActualizacionFormatoBautismo(conBaseDatos, partida, blnSalto);
+}
+
+}  // namespace fidaleon

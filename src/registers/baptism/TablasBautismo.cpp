@@ -1,0 +1,137 @@
+#include "registers/baptism/TablasBautismo.h"
+
+namespace fidaleon {
+
+#define TEXTO(columna, miembro) {columna, #miembro, &cBautismo::miembro, Cita::Texto}
+#define NUMERO(columna, miembro) {columna, #miembro, &cBautismo::miembro, Cita::Numero}
+
+namespace {
+
+constexpr Columna<cBautismo> PADRES[] = {
+    TEXTO("nombre", NombrePadres),
+    TEXTO("primerapellido", PrimerApellidoPadres),
+    TEXTO("segundoapellido", SegundoApellidoPadres),
+    NUMERO("codmunicipio", CodPoblacionPadres),
+    TEXTO("abuelo", AbueloPadres),
+    NUMERO("codmunicipioabuelo", CodPoblacionAbueloPadres),
+    TEXTO("abuela", AbuelaPadres),
+    NUMERO("codmunicipioabuela", CodPoblacionAbuelaPadres),
+    TEXTO("PadreParroquiaBaut", PadreParroquiaBaut),
+    NUMERO("PadreCodMunicipioParrBaut", PadreCodMunicipioParrBaut),
+    TEXTO("PadreProfesion", PadreProfesion),
+    TEXTO("AbueloPatParroquiaBaut", AbueloPatParroquiaBaut),
+    NUMERO("AbueloPatCodMunicipioParrBaut", AbueloPatCodMunicipioParrBaut),
+    TEXTO("AbuelaPatParroquiaBaut", AbuelaPatParroquiaBaut),
+    NUMERO("AbuelaPatCodMunicipioParrBaut", AbuelaPatCodMunicipioParrBaut),
+    TEXTO("TelefonoPadre", TelefonoPadre),
+    TEXTO("EmailPadre", EmailPadre),
+};
+
+constexpr Columna<cBautismo> MADRES[] = {
+    TEXTO("nombre", NombreMadres),
+    TEXTO("primerapellido", PrimerApellidoMadres),
+    TEXTO("segundoapellido", SegundoApellidoMadres),
+    NUMERO("codmunicipio", CodPoblacionMadres),
+    TEXTO("abuelo", AbueloMadres),
+    NUMERO("codmunicipioabuelo", CodPoblacionAbueloMadres),
+    TEXTO("abuela", AbuelaMadres),
+    NUMERO("codmunicipioabuela", CodPoblacionAbuelaMadres),
+    TEXTO("MadreParroquiaBaut", MadreParroquiaBaut),
+    NUMERO("MadreCodMunicipioParrBaut", MadreCodMunicipioParrBaut),
+    TEXTO("MadreProfesion", MadreProfesion),
+    TEXTO("AbueloMatParroquiaBaut", AbueloMatParroquiaBaut),
+    NUMERO("AbueloMatCodMunicipioParrBaut", AbueloMatCodMunicipioParrBaut),
+    TEXTO("AbuelaMatParroquiaBaut", AbuelaMatParroquiaBaut),
+    NUMERO("AbuelaMatCodMunicipioParrBaut", AbuelaMatCodMunicipioParrBaut),
+    TEXTO("EmailMadre", EmailMadre),
+    TEXTO("TelefonoMadre", TelefonoMadre),
+};
+
+constexpr Columna<cBautismo> MATRIMONIOS[] = {
+    TEXTO("parroquia", ParroquiaMatrimonio),
+    TEXTO("fechamatr", FechaMatrMatrimonio),
+    NUMERO("codmunicipiomatr", CodPoblacionMatrMatrimonio),
+    TEXTO("direccionpadres", DireccionPadresMatrimonio),
+    NUMERO("codmunicipiopadres", CodPoblacionPadresMatrimonio),
+    TEXTO("DiocesisMatrimonio ", DiocesisMatrimonio),
+    TEXTO("TelefonoPadres", TelefonoPadres),
+};
+
+constexpr Columna<cBautismo> BAUTISMOS[] = {
+    NUMERO("codpadres", CodPadres),
+    NUMERO("codmadres", CodMadres),
+    NUMERO("codmatrimonio", CodMatrimonio),
+    NUMERO("institucionsolicitud", CodInstitucionBautismo),
+    TEXTO("fechabautismo", FechaBautismo),
+    TEXTO("padrino", PadrinoBautismo),
+    TEXTO("madrina", MadrinaBautismo),
+    TEXTO("ministro", MinistroBautismo),
+    TEXTO("parroquia", ParroquiaBautismo),
+    NUMERO("codmunicipio", CodPoblacionBautismo),
+    TEXTO("diocesis", DiocesisBautismo),
+    TEXTO("notasmarginales", NotasMarginalesBautismo),
+    TEXTO("observaciones", ObservacionesBautismo),
+    NUMERO("codlibro", CodLibroBautismo),
+    NUMERO("folio", FolioBautismo),
+    TEXTO("numero", NumeroBautismo),
+    NUMERO("anulada", AnuladaBautismo),
+    TEXTO("EdadPadrino", EdadPadrino),
+    TEXTO("EdadMadrina", EdadMadrina),
+    TEXTO("ParroquiaDomicilioPadrino", ParroquiaDomicilioPadrino),
+    TEXTO("ParroquiaDomicilioMadrina", ParroquiaDomicilioMadrina),
+    TEXTO("ProfesionPadrino", ProfesionPadrino),
+    TEXTO("NaturalPadrino", NaturalPadrino),
+    TEXTO("EstatPadrino", EstatPadrino),
+    TEXTO("ProfesionMadrina", ProfesionMadrina),
+    TEXTO("NaturalMadrina", NaturalMadrina),
+    TEXTO("EstatMadrina ", EstatMadrina),
+    TEXTO("MinistroCargo", MinistroCargo),
+};
+
+constexpr Columna<cBautismo> HIJOS[] = {
+    NUMERO("codbautismo", CodBautismo),
+    TEXTO("nombre", NombreHijo),
+    TEXTO("primerapellido", PrimerApellidoHijo),
+    TEXTO("segundoapellido", SegundoApellidoHijo),
+    TEXTO("sexo", SexoHijo),
+    TEXTO("fechanac", FechaNacHijo),
+    TEXTO("horanac", HoraNacHijo),
+    TEXTO("direccionnac", DireccionNacHijo),
+    NUMERO("codmunicipionac", CodPoblacionNacHijo),
+};
+
+}  // namespace
+
+const Tabla<cBautismo> TABLA_PADRES{"bautismo_padres", ", ", "=", PADRES};
+const Tabla<cBautismo> TABLA_MADRES{"bautismo_madres", ", ", "=", MADRES};
+const Tabla<cBautismo> TABLA_MATRIMONIO{"bautismo_matrimonio", ",", "=", MATRIMONIOS};
+const Tabla<cBautismo> TABLA_BAUTISMO{"bautismo", ", ", " = ", BAUTISMOS};
+const Tabla<cBautismo> TABLA_HIJO{"bautismo_hijo", ",", "=", HIJOS};
+
+std::string sqlPartidaBautismo(std::int32_t id) {
+  return "SELECT Bautismo.IDBautismo, Bautismo_Padres.IDPadres, Bautismo_Madres.IDMadres, "
+         "Bautismo_Matrimonio.IDMatrimonio, " +
+         sqlAlias(TABLA_BAUTISMO, "Bautismo") + ", " + sqlAlias(TABLA_HIJO, "Bautismo_Hijo") +
+         ", " + sqlAlias(TABLA_PADRES, "Bautismo_Padres") + ", " +
+         sqlAlias(TABLA_MADRES, "Bautismo_Madres") + ", " +
+         sqlAlias(TABLA_MATRIMONIO, "Bautismo_Matrimonio") +
+         " FROM Bautismo, Bautismo_Hijo, Bautismo_Madres, Bautismo_Padres, Bautismo_Matrimonio"
+         " WHERE IDBautismo=" +
+         std::to_string(id) +
+         " AND idBautismo=codBautismo AND Bautismo_Madres.IDMadres=Bautismo.CodMadres"
+         " AND Bautismo_Padres.IDPadres=Bautismo.CodPadres"
+         " AND Bautismo_Matrimonio.IDMatrimonio=Bautismo.CodMatrimonio";
+}
+
+void copiarPartidaBautismo(const store::Recordset& fila, cBautismo& record) {
+  for (const Tabla<cBautismo>* t :
+       {&TABLA_BAUTISMO, &TABLA_HIJO, &TABLA_PADRES, &TABLA_MADRES, &TABLA_MATRIMONIO})
+    copiarFila(*t, fila, record, true);
+  record.IDBautismo = static_cast<std::int32_t>(fila.integer("IDBautismo"));
+  record.IDPadres = static_cast<std::int32_t>(fila.integer("IDPadres"));
+  record.IDMadres = static_cast<std::int32_t>(fila.integer("IDMadres"));
+  record.IDMatrimonio = static_cast<std::int32_t>(fila.integer("IDMatrimonio"));
+  record.IDLibroBautismo = record.CodLibroBautismo;
+}
+
+}  // namespace fidaleon

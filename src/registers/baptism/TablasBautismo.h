@@ -1,0 +1,20 @@
+#pragma once
+
+#include "registers/baptism/cBautismo.h"
+#include "registers/common/Columnas.h"
+
+namespace fidaleon {
+
+// The five tables of a baptism, columns in the order of their statements.
+extern const Tabla<cBautismo> TABLA_PADRES;
+extern const Tabla<cBautismo> TABLA_MADRES;
+extern const Tabla<cBautismo> TABLA_MATRIMONIO;
+extern const Tabla<cBautismo> TABLA_BAUTISMO;
+extern const Tabla<cBautismo> TABLA_HIJO;
+
+/// All columns of entry `id`, the child and the parents, under the names of the properties.
+std::string sqlPartidaBautismo(std::int32_t id);
+/// Copies the current row of that statement into the record, keys included.
+void copiarPartidaBautismo(const store::Recordset& fila, cBautismo& record);
+
+}  // namespace fidaleon

@@ -1,0 +1,64 @@
+#include "registers/common/ListasDeLibro.h"
+
+#include "text/Utf8.h"
+
+namespace fidaleon {
+
+using FDAPI::cCRegistry;
+
+ListasDeLibro::ListasDeLibro(Contexto& contexto, const Sacramento& sacramento,
+                             forms::ComboBox& institucion, forms::ComboBox& libro)
+    : contexto_(contexto), sacramento_(sacramento), institucion_(institucion), libro_(libro) {}
+
+void ListasDeLibro::cargarInstituciones(std::int32_t id) {
+  contexto_.entorno.support.create_cIListas()->fillInstituciones(institucion_, id, *conexion_);
+}
+
+void ListasDeLibro::CargarComboLibrosNuevos() {
+  cargarLibros("nuevo=true");
+}
+
+void ListasDeLibro::CargarComboLibrosAntiguos() {
+  cargarLibros("nuevo=false");
+}
+
+void ListasDeLibro::cargarLibros(const std::string& condicion) {
+  libro_.clear();
+  if (institucion_.listIndex() < 0) return;
+  // A closed new book takes no more entries.
+  store::Recordset filas = conexion_->Execute(
+      std::string("SELECT Nombre, ") + sacramento_.claveLibro + " FROM " +
+      text::lower(sacramento_.tablaLibros) + " WHERE " + condicion +
+      " AND codinstitucion=" + std::to_string(institucion_.data()) + " AND cerrado=false");
+  for (; !filas.EOF_(); filas.MoveNext())
+    libro_.addItem(filas.text("Nombre"), filas.integer(sacramento_.claveLibro));
+}
+
+void ListasDeLibro::fijarLibro(std::int32_t id, const std::string& nombre) {
+  libro_.clear();
+  libro_.addItem(nombre, id);
+  libro_.setListIndex(0);
+}
+
+void ListasDeLibro::elegirUltimaInstitucion() {
+  institucion_.selectText(contexto_.leerAjuste(cCRegistry::ultimos, cCRegistry::ultimos_Institucion));
+}
+
+void ListasDeLibro::guardarUltimaInstitucion() {
+  contexto_.guardarAjuste(cCRegistry::ultimos, cCRegistry::ultimos_Institucion,
+                          institucion_.text());
+}
+
+void ListasDeLibro::agregarInstitucion() {
+  const std::int64_t elegida = institucion_.data();
+  contexto_.fidaleon()->NuevaInstitucion(*conexion_, contexto_.config());
+  store::Recordset filas =
+      conexion_->Execute("SELECT Nombre, IDInstitucion FROM Institucion ORDER BY IDInstitucion");
+  if (filas.EOF_()) return;
+  const bool agregada = filas.RecordCount() > institucion_.listCount();
+  filas.MoveLast();
+  cargarInstituciones(0);
+  institucion_.selectData(agregada ? filas.integer("IDInstitucion") : elegida);
+}
+
+}  // namespace fidaleon

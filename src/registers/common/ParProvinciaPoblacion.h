@@ -1,0 +1,38 @@
+#pragma once
+
+#include <cstdint>
+
+#include "core/contract/Contexto.h"
+#include "forms/Controls.h"
+
+namespace fidaleon {
+
+/// A municipality on a dialog: a list of provinces and, of the chosen one, its towns. The lists
+/// are the dialog's.
+class ParProvinciaPoblacion {
+ public:
+  ParProvinciaPoblacion(Contexto& contexto, forms::ComboBox& provincia,
+                        forms::ComboBox& poblacion);
+  ParProvinciaPoblacion(const ParProvinciaPoblacion&) = delete;
+  ParProvinciaPoblacion& operator=(const ParProvinciaPoblacion&) = delete;
+
+  /// Fills the provinces, with none chosen. The connection is not owned.
+  void abrir(FDAPI::Conexion& conexion);
+  /// Shows a municipality; 0 and a key that does not exist show none.
+  void poner(std::int32_t idMunicipio);
+  /// Key of the chosen town, 0 when none is.
+  std::int32_t valor() const { return static_cast<std::int32_t>(poblacion_.data()); }
+  bool visible() const { return provincia_.visible(); }
+  /// Reads both lists anew and keeps what was chosen.
+  void refrescar();
+
+ private:
+  void llenarPoblaciones(std::int32_t elegida);
+
+  Contexto& contexto_;
+  forms::ComboBox& provincia_;
+  forms::ComboBox& poblacion_;
+  FDAPI::Conexion* conexion_ = nullptr;
+};
+
+}  // namespace fidaleon
