@@ -1,0 +1,85 @@
+#include "locks/LockTexts.h"
+
+#include <array>
+
+#include "text/Utf8.h"
+
+namespace fidaleon::locks {
+
+namespace {
+
+struct Words {
+  const char* table;
+  const char* one;
+  const char* all;
+};
+
+constexpr std::array<Words, 19> WORDS{{
+    {"Bautismo", "la partida de bautismo", "las partidas de bautismo"},
+    {"Confirmacion", "la partida de confirmación", "las partidas de confirmación"},
+    {"Matrimonio", "la partida de matrimonio", "las partidas de matrimonio"},
+    {"Defuncion", "la partida de defunción", "las partidas de defunción"},
+    {"Libro_Bautismo", "el libro de bautismo", "los libros de bautismo"},
+    {"Libro_Confirmacion", "el libro de confirmación", "los libros de confirmación"},
+    {"Libro_Matrimonio", "el libro de matrimonio", "los libros de matrimonio"},
+    {"Libro_Defuncion", "el libro de defunción", "los libros de defunción"},
+    {"Institucion", "la institución", "las instituciones"},
+    {"Institucion_Encargado", "el encargado del archivo", "los encargados del archivo"},
+    {"Provincia", "la provincia", "las provincias"},
+    {"Municipio", "el municipio", "los municipios"},
+    {"Libros_Formato", "el formato de los libros", "los formatos de los libros"},
+    {"Libros_TipoNombre", "el tipo de nombre de los libros", "los tipos de nombre de los libros"},
+    {"Padron", "la persona", "las personas"},
+    {"Padron_Actividad", "la actividad del colaborador", "las actividades de los colaboradores"},
+    {"Actividad", "la actividad", "las actividades"},
+    {"Grupo", "el grupo", "los grupos"},
+    {"Cargo", "el cargo", "los cargos"},
+}};
+
+const Words* wordsOf(const std::string& table) {
+  for (const Words& w : WORDS)
+    if (text::equalsNoCase(w.table, table)) return &w;
+  return nullptr;
+}
+
+bool wholeTable(Kind kind) {
+  return kind == Kind::Table || kind == Kind::SharedTable;
+}
+
+std::string whoHas(const HeldEntry& held, const Holder& own) {
+  const bool here = held.holder.host == own.host && held.holder.process == own.process;
+  const std::string what =
+      held.entry.kind == Kind::Table ? "Tiene reservado todo el conjunto: " : "Lo está usando: ";
+  const std::string who = held.holder.user.empty() ? "usuario sin nombre" : held.holder.user;
+  const std::string where =
+      here ? "este mismo equipo, en otra ventana del programa" : "el equipo " + held.holder.host;
+  return what + who + ", en " + where + ", desde el " + held.holder.since + ".";
+}
+
+}  // namespace
+
+std::string oneOf(const std::string& table) {
+  const Words* w = wordsOf(table);
+  return w ? w->one : "el registro de " + table;
+}
+
+std::string allOf(const std::string& table) {
+  const Words* w = wordsOf(table);
+  return w ? w->all : "los registros de " + table;
+}
+
+std::string refusal(const LockEntry& wanted, const HeldEntry& held, const Holder& own) {
+  std::string text;
+  if (wholeTable(wanted.kind))
+    text = "En este momento no se puede trabajar con " + allOf(wanted.table) + ".";
+  else
+    text = "En este momento no se puede abrir " + oneOf(wanted.table) + ".";
+  return text + "\n" + whoHas(held, own) + "\nInténtelo de nuevo cuando termine.";
+}
+
+std::string recordGone(const LockEntry& wanted) {
+  return "Ya no existe " + oneOf(wanted.table) +
+         ": se ha eliminado desde otro puesto. Actualice la lista.";
+}
+
+}  // namespace fidaleon::locks

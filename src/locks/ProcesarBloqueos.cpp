@@ -1,0 +1,180 @@
+#include "locks/ProcesarBloqueos.h"
+
+#include <unistd.h>
+
+#include <algorithm>
+#include <stdexcept>
+
+#include "locks/LockTexts.h"
+#include "text/Utf8.h"
+
+namespace fidaleon::locks {
+
+using FDAPI::DefinicionBloqueo;
+
+namespace {
+
+bool isStatement(const std::string& record) {
+  return text::equalsNoCase(text::left(text::trim(record), 7), "SELECT ");
+}
+
+Kind kindOf(const DefinicionBloqueo& d) {
+  if (d.blnBloqueoParcialTabla) return Kind::SharedTable;
+  if (d.strRegistro.empty()) return Kind::Table;
+  return d.blnBloqueoParcialRegistro ? Kind::SharedRecord : Kind::Record;
+}
+
+bool needsConnection(const DefinicionBloqueo& d) {
+  return isStatement(d.strRegistro) || (d.blnComprobarExisteRegistro && !d.strRegistro.empty());
+}
+
+std::string existenceStatement(const DefinicionBloqueo& d) {
+  const std::string sql = text::trim(d.strSQLExisteRegistro);
+  if (sql.empty()) return isStatement(d.strRegistro) ? d.strRegistro : std::string();
+  return sql.ends_with('=') && !isStatement(d.strRegistro) ? sql + d.strRegistro : sql;
+}
+
+/// The name by which a lock is given back: its table, or its table and what tells it apart.
+bool goesBy(const std::string& name, const LockEntry& e) {
+  return text::equalsNoCase(name, e.table) ||
+         (e.counter != 0 && text::equalsNoCase(name, e.table + std::to_string(e.counter))) ||
+         (!e.record.empty() && text::equalsNoCase(name, e.table + e.record));
+}
+
+}  // namespace
+
+ProcesarBloqueos::ProcesarBloqueos(forms::UserInterface& ui, const Clock& clock, std::string user,
+                                   std::string host)
+    : ui_(ui), clock_(clock), user_(std::move(user)), host_(std::move(host)) {}
+
+ProcesarBloqueos::~ProcesarBloqueos() {
+  if (directory_) directory_->withdraw();
+}
+
+void ProcesarBloqueos::Inicializar(const std::string& strDirectorioTemporal) {
+  LiberarBloqueos();
+  directory_.emplace(strDirectorioTemporal);
+}
+
+void ProcesarBloqueos::DefinirBloqueo(DefinicionBloqueo definicion) {
+  if (needsConnection(definicion) && !definicion.conBd)
+    throw std::invalid_argument("Falta la conexión para bloquear " + oneOf(definicion.strTabla) +
+                                ".");
+  if (pendingRefused_) pending_.clear();
+  pendingRefused_ = false;
+  pending_.push_back(std::move(definicion));
+}
+
+long ProcesarBloqueos::lngEfectuarBloqueos(bool blnSoloComprobar) {
+  Outcome outcome;
+  try {
+    outcome = attempt(blnSoloComprobar);
+  } catch (const Unusable& e) {
+    outcome = {FDAPI::BloqueoSesion, e.what()};
+  }
+  lastError_ = outcome.error;
+  pendingRefused_ = outcome.error != FDAPI::BloqueoNinguno;
+  if (!pendingRefused_ && !blnSoloComprobar) pending_.clear();
+  if (pendingRefused_) forms::warn(ui_, outcome.message);
+  return lastError_;
+}
+
+ProcesarBloqueos::Outcome ProcesarBloqueos::attempt(bool onlyTest) {
+  if (!directory_) return {FDAPI::BloqueoSesion, "La sesión de bloqueos no se ha abierto."};
+  const SharedDirectory::Guard guard = directory_->enter();
+  std::vector<LockEntry> wanted;
+  Outcome outcome = tryAll(guard, wanted);
+  if (outcome.error == FDAPI::BloqueoNinguno && !onlyTest) keep(guard, wanted);
+  return outcome;
+}
+
+// The statements run while nobody else can take or give back a lock: a record that exists here
+// cannot have been deleted by a session that held it.
+ProcesarBloqueos::Outcome ProcesarBloqueos::tryAll(const SharedDirectory::Guard& guard,
+                                                   std::vector<LockEntry>& wanted) {
+  for (const DefinicionBloqueo& d : pending_) {
+    if (const auto gone = missing(d)) return {FDAPI::BloqueoRegistroNoExiste, recordGone(*gone)};
+    for (LockEntry& e : resolve(d)) wanted.push_back(std::move(e));
+  }
+  const std::vector<HeldEntry> others = directory_->others(guard);
+  for (const LockEntry& e : wanted) {
+    const auto other = std::find_if(others.begin(), others.end(),
+                                    [&](const HeldEntry& held) { return conflict(e, held.entry); });
+    if (other != others.end()) return {errorFor(e.kind), refusal(e, *other, self())};
+  }
+  return {};
+}
+
+std::optional<LockEntry> ProcesarBloqueos::missing(const DefinicionBloqueo& d) const {
+  if (!d.blnComprobarExisteRegistro) return std::nullopt;
+  const std::string sql = existenceStatement(d);
+  if (sql.empty() || !d.conBd || !d.conBd->Execute(sql).EOF_()) return std::nullopt;
+  return LockEntry{kindOf(d), d.strTabla, d.strRegistro, d.lngContador};
+}
+
+std::vector<LockEntry> ProcesarBloqueos::resolve(const DefinicionBloqueo& d) const {
+  const Kind kind = kindOf(d);
+  if (kind == Kind::Table || kind == Kind::SharedTable)
+    return {{kind, d.strTabla, {}, d.lngContador}};
+  if (!isStatement(d.strRegistro))
+    return {{kind, d.strTabla, text::trim(d.strRegistro), d.lngContador}};
+  std::vector<LockEntry> entries;
+  for (store::Recordset rs = d.conBd->Execute(d.strRegistro); !rs.EOF_(); rs.MoveNext())
+    entries.push_back({kind, d.strTabla, rs.Fields(0).Value().text(), d.lngContador});
+  return entries;
+}
+
+bool ProcesarBloqueos::sharesRecord() const {
+  const auto shared = [](Kind kind) { return kind == Kind::SharedRecord; };
+  return std::any_of(pending_.begin(), pending_.end(),
+                     [&](const DefinicionBloqueo& d) { return shared(kindOf(d)); }) ||
+         std::any_of(held_.begin(), held_.end(),
+                     [&](const HeldEntry& h) { return shared(h.entry.kind); });
+}
+
+long ProcesarBloqueos::errorFor(Kind kind) const {
+  if (kind == Kind::Table) return FDAPI::BloqueoTabla;
+  if (kind != Kind::Record) return FDAPI::BloqueoCompartido;
+  return sharesRecord() ? FDAPI::BloqueoRegistroConPadres : FDAPI::BloqueoRegistro;
+}
+
+void ProcesarBloqueos::keep(const SharedDirectory::Guard& guard,
+                            const std::vector<LockEntry>& wanted) {
+  if (wanted.empty()) return;
+  std::vector<HeldEntry> all = held_;
+  for (const LockEntry& e : wanted)
+    if (std::none_of(all.begin(), all.end(), [&](const HeldEntry& h) { return h.entry == e; }))
+      all.push_back({e, self()});
+  directory_->publish(guard, all);
+  held_ = std::move(all);
+}
+
+Holder ProcesarBloqueos::self() const {
+  return {user_, host_, ::getpid(), text::toShort(clock_.today()) + " a las " + clock_.now()};
+}
+
+void ProcesarBloqueos::LiberarBloqueo(const std::string& strTabla) {
+  std::erase_if(pending_, [&](const DefinicionBloqueo& d) {
+    return goesBy(strTabla, {kindOf(d), d.strTabla, d.strRegistro, d.lngContador});
+  });
+  if (std::erase_if(held_, [&](const HeldEntry& h) { return goesBy(strTabla, h.entry); }) == 0)
+    return;
+  if (held_.empty()) {
+    directory_->withdraw();
+    return;
+  }
+  try {
+    directory_->publish(directory_->enter(), held_);
+  } catch (const Unusable& e) {
+    forms::warn(ui_, e.what());
+  }
+}
+
+void ProcesarBloqueos::LiberarBloqueos() {
+  pending_.clear();
+  pendingRefused_ = false;
+  held_.clear();
+  if (directory_) directory_->withdraw();
+}
+
+}  // namespace fidaleon::locks
