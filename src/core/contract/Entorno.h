@@ -1,7 +1,9 @@
 #pragma once
 
 #include <memory>
+#include <stdexcept>
 #include <string>
+#include <vector>
 
 #include "core/contract/FDAPI.h"
 #include "forms/UserInterface.h"
@@ -19,6 +21,22 @@ class Settings {
   /// Throws std::runtime_error with a message in Spanish when the value cannot be kept.
   virtual void write(const std::string& application, const std::string& section,
                      const std::string& key, const std::string& value) = 0;
+
+  struct Name {
+    std::string section;
+    std::string key;
+  };
+  /// All that is kept for an application, in the order of section and key.
+  virtual std::vector<Name> names(const std::string& application) const {
+    (void)application;
+    throw std::runtime_error("Estos ajustes no se pueden enumerar.");
+  }
+  /// A value that does not exist is no error; otherwise throws as write() does.
+  virtual void remove(const std::string& application, const std::string& section,
+                      const std::string& key) {
+    (void)application, (void)section, (void)key;
+    throw std::runtime_error("Estos ajustes no se pueden borrar.");
+  }
 };
 
 class Clock {

@@ -51,7 +51,7 @@ class frmAltaLibro : public forms::Form {
   void construirNombre();
   void aceptar();
   void avisarFalta();
-  bool rechazar(const std::string& mensaje);
+  void rechazar(const std::string& mensaje);
   bool hayFilas(const std::string& sql);
   std::string institucion() const;
   /// The statement, written for baptism, with the book table as this dialog spells it.
