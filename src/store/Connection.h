@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -41,6 +42,8 @@ class Connection {
 
   const Schema& schema() const;
   Engine& engine();
+  /// Puts something between the connection and its engine; tests make statements fail by it.
+  void wrapEngine(const std::function<std::unique_ptr<Engine>(std::unique_ptr<Engine>)>& wrap);
 
  private:
   struct Impl;

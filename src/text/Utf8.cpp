@@ -1,9 +1,10 @@
 #include "text/Utf8.h"
 
+#include <unicode/locid.h>
+#include <unicode/normalizer2.h>
 #include <unicode/uchar.h>
 #include <unicode/ucol.h>
 #include <unicode/unistr.h>
-#include <unicode/normalizer2.h>
 #include <unicode/utf8.h>
 
 #include <algorithm>
@@ -86,7 +87,9 @@ std::size_t length(std::string_view s) {
   return n;
 }
 
-std::string left(std::string_view s, std::size_t n) { return valid(s.substr(0, byteOf(s, n))); }
+std::string left(std::string_view s, std::size_t n) {
+  return valid(s.substr(0, byteOf(s, n)));
+}
 
 std::string right(std::string_view s, std::size_t n) {
   const std::size_t all = length(s);
@@ -104,9 +107,13 @@ std::string trim(std::string_view s) {
   return valid(s.substr(first, s.find_last_not_of(' ') - first + 1));
 }
 
-std::string upper(std::string_view s) { return fromIcu(toIcu(s).toUpper(icu::Locale("es"))); }
+std::string upper(std::string_view s) {
+  return fromIcu(toIcu(s).toUpper(icu::Locale("es")));
+}
 
-std::string lower(std::string_view s) { return fromIcu(toIcu(s).toLower(icu::Locale("es"))); }
+std::string lower(std::string_view s) {
+  return fromIcu(toIcu(s).toLower(icu::Locale("es")));
+}
 
 std::string foldCase(std::string_view s) {
   if (!isAscii(s)) return fromIcu(toIcu(s).foldCase());
@@ -159,6 +166,14 @@ int compare(std::string_view a, std::string_view b) {
   UErrorCode status = U_ZERO_ERROR;
   return ucol_strcollUTF8(spanish(), a.data(), static_cast<std::int32_t>(a.size()), b.data(),
                           static_cast<std::int32_t>(b.size()), &status);
+}
+
+std::string orderVersion() {
+  UVersionInfo version;
+  ucol_getVersion(spanish(), version);
+  char buffer[U_MAX_VERSION_STRING_LENGTH];
+  u_versionToString(version, buffer);
+  return buffer;
 }
 
 std::string sanitized(std::string_view s) {

@@ -29,6 +29,9 @@ std::string replaceAll(std::string_view s, std::string_view what, std::string_vi
 
 /// Spanish order (ñ after n), accents count, case does not. Below, equal or above 0.
 int compare(std::string_view a, std::string_view b);
+/// Changes when the machine's libraries order text in another way: what was sorted is to be
+/// sorted anew.
+std::string orderVersion();
 
 /// Valid UTF-8 without control characters other than tab, carriage return and line feed.
 std::string sanitized(std::string_view s);

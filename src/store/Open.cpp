@@ -1,0 +1,123 @@
+#include "store/Open.h"
+
+#include <map>
+
+#include "store/schema/Installer.h"
+#include "store/sqlite/NetworkDisk.h"
+#include "store/sqlite/SqliteEngine.h"
+
+namespace fidaleon::store {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+/// A file that is removed unless it becomes the one wanted.
+class Draft {
+ public:
+  Draft(const fs::path& file, const char* ending) : file_(file), draft_(file) {
+    draft_ += ending;
+    std::error_code ignored;
+    fs::remove(draft_, ignored);
+  }
+  ~Draft() {
+    std::error_code ignored;
+    fs::remove(draft_, ignored);
+  }
+  Draft(const Draft&) = delete;
+  Draft& operator=(const Draft&) = delete;
+
+  const fs::path& path() const { return draft_; }
+  void accept() {
+    std::error_code failed;
+    fs::rename(draft_, file_, failed);
+    if (failed) {
+      throw Error(ErrorKind::Connection, "No se puede crear el archivo «" + file_.string() + "».");
+    }
+  }
+
+ private:
+  fs::path file_;
+  fs::path draft_;
+};
+
+void requireFile(const fs::path& file) {
+  std::error_code failed;
+  const fs::file_status status = fs::status(file, failed);
+  if (status.type() == fs::file_type::not_found) {
+    throw Error(ErrorKind::Missing, "No se encuentra la base de datos «" + file.string() + "».");
+  }
+  if (status.type() == fs::file_type::directory) {
+    throw Error(ErrorKind::NotADatabase, "«" + file.string() + "» es una carpeta.");
+  }
+}
+
+void requireFree(const fs::path& file) {
+  std::error_code failed;
+  if (fs::exists(file, failed)) {
+    throw Error(ErrorKind::Constraint, "Ya existe el archivo «" + file.string() + "».");
+  }
+}
+
+std::unique_ptr<SqliteEngine> freshMemory(const Schema& schema) {
+  auto engine = std::make_unique<SqliteEngine>();
+  Installer(*engine, schema).create();
+  return engine;
+}
+
+}  // namespace
+
+std::unique_ptr<Connection> openDatabase(const fs::path& file, const Schema& schema) {
+  requireFile(file);
+  auto engine = std::make_unique<SqliteEngine>(file, SqliteEngine::Access::Existing);
+  if (engine->readOnly()) {
+    throw Error(ErrorKind::ReadOnly,
+                "La base de datos «" + file.string() + "» está protegida contra escritura.");
+  }
+  Installer(*engine, schema).upgrade();
+  return std::make_unique<Connection>(std::move(engine), schema, fs::absolute(file).string());
+}
+
+std::unique_ptr<Connection> createDatabase(const fs::path& file, const Schema& schema) {
+  requireFree(file);
+  {
+    // A draft first: whoever is killed here leaves no half database under the name.
+    Draft draft(file, ".nueva");
+    {
+      SqliteEngine engine(draft.path(), SqliteEngine::Access::Create);
+      Installer(engine, schema).create();
+      if (!isNetworkDisk(draft.path())) engine.run("PRAGMA journal_mode = WAL;");
+    }
+    requireFree(file);
+    draft.accept();
+  }
+  return openDatabase(file, schema);
+}
+
+std::unique_ptr<Connection> memoryDatabase(const Schema& schema, const std::string& dataSource) {
+  std::unique_ptr<SqliteEngine> engine;
+  if (&schema == &parishSchema() || &schema == &reportsSchema()) {
+    // Copying pages is many times faster than defining some sixty tables anew.
+    static std::map<const Schema*, std::unique_ptr<SqliteEngine>> originals;
+    auto& original = originals[&schema];
+    if (original == nullptr) original = freshMemory(schema);
+    engine = std::make_unique<SqliteEngine>();
+    engine->copyFrom(*original);
+  } else {
+    engine = freshMemory(schema);
+  }
+  return std::make_unique<Connection>(std::move(engine), schema, dataSource);
+}
+
+void backupDatabase(Connection& from, const fs::path& to) {
+  Draft draft(to, ".parte");
+  from.engine().backup(draft.path());
+  {
+    SqliteEngine copy(draft.path(), SqliteEngine::Access::Existing);
+    Installer(copy, from.schema()).version();
+    copy.requireSound();
+  }
+  draft.accept();
+}
+
+}  // namespace fidaleon::store

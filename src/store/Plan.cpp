@@ -1,0 +1,38 @@
+#include "store/Plan.h"
+
+#include <algorithm>
+
+#include "text/Utf8.h"
+
+namespace fidaleon::store {
+
+std::unique_ptr<Statement> Plan::lend(Engine& engine) {
+  if (!idle_.empty()) {
+    auto statement = std::move(idle_.back());
+    idle_.pop_back();
+    return statement;
+  }
+  auto statement = engine.prepare(rewritten_.sql, shape_);
+  if (columns_.empty()) {
+    for (int i = 0; i < statement->columnCount(); ++i) {
+      const std::string name = statement->columnName(i);
+      const bool first = std::none_of(columns_.begin(), columns_.end(), [&](const auto& c) {
+        return text::equalsNoCase(c.name, name);
+      });
+      columns_.push_back({name, statement->columnTable(i), first});
+    }
+  }
+  return statement;
+}
+
+void Plan::giveBack(std::unique_ptr<Statement> statement) {
+  statement->reset();
+  if (!retired_ && idle_.size() < kIdle) idle_.push_back(std::move(statement));
+}
+
+void Plan::retire() {
+  retired_ = true;
+  idle_.clear();
+}
+
+}  // namespace fidaleon::store

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "store/Engine.h"
+#include "store/dialect/Rewriter.h"
+
+namespace fidaleon::store {
+
+/// What is known of all statements of one shape, and the engine's statements prepared for it that
+/// nobody uses at the moment.
+class Plan {
+ public:
+  struct ResultColumn {
+    std::string name;
+    std::string table;
+    bool first = true;  // no column before it has the name
+  };
+
+  Plan(std::string shape, Rewritten rewritten)
+      : shape_(std::move(shape)), rewritten_(std::move(rewritten)) {}
+
+  const std::string& shape() const { return shape_; }
+  bool returnsRows() const { return rewritten_.returnsRows; }
+  const std::vector<const Column*>& targets() const { return rewritten_.targets; }
+  /// Known once a statement has been prepared.
+  const std::vector<ResultColumn>& columns() const { return columns_; }
+
+  std::unique_ptr<Statement> lend(Engine& engine);
+  void giveBack(std::unique_ptr<Statement> statement);
+  /// No statement is kept any more.
+  void retire();
+
+ private:
+  static constexpr std::size_t kIdle = 4;
+
+  std::string shape_;
+  Rewritten rewritten_;
+  std::vector<ResultColumn> columns_;
+  std::vector<std::unique_ptr<Statement>> idle_;
+  bool retired_ = false;
+};
+
+}  // namespace fidaleon::store

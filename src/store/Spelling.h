@@ -1,0 +1,32 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "store/schema/Schema.h"
+
+namespace fidaleon::store {
+
+/// How one engine writes what the dialect leaves open.
+class Spelling {
+ public:
+  virtual ~Spelling() = default;
+
+  virtual std::string name(std::string_view canonical) const = 0;
+  /// `number` counts from 1.
+  virtual std::string parameter(int number) const = 0;
+  virtual std::string text(std::string_view value) const = 0;
+  /// The engine's function for one of the dialect's; empty when there is none.
+  virtual std::string function(std::string_view lowerCaseName) const = 0;
+  /// What a Yes/No column stores for the truth of an expression.
+  virtual std::string yesNo(const std::string& expression) const = 0;
+  virtual std::string limit(const std::string& count) const = 0;
+  /// Orders the rows of a table whose key is not unique as they were entered.
+  virtual std::string entryOrder(std::string_view canonicalTable) const = 0;
+
+  virtual std::string createTable(const Table& table) const = 0;
+  virtual std::string addColumn(const Table& table, const Column& column) const = 0;
+  virtual std::string createIndex(const Table& table, const Index& index) const = 0;
+};
+
+}  // namespace fidaleon::store

@@ -1,0 +1,83 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "store/Spelling.h"
+#include "store/dialect/Scope.h"
+#include "store/dialect/Tokens.h"
+
+namespace fidaleon::store {
+
+/// A statement in the engine's own SQL.
+struct Rewritten {
+  std::string sql;
+  /// For each parameter the column that its value is stored in; null for a value that is only
+  /// compared.
+  std::vector<const Column*> targets;
+  bool returnsRows = false;
+};
+
+/// Turns the shape of a Jet statement into the engine's SQL. Follows clauses and resolves names
+/// in the catalogue; expressions pass through piece by piece.
+///
+/// What a Jet store does unasked is written out: rows of one table come in the order of its key,
+/// those of DISTINCT and GROUP BY sorted. A bare name that several tables have is the first
+/// table's.
+class Rewriter {
+ public:
+  Rewriter(const Schema& schema, const Spelling& spelling) : schema_(schema), spelling_(spelling) {}
+
+  Rewritten rewrite(std::string_view shape);
+
+ private:
+  struct SelectParts;
+
+  void insert();
+  void update();
+  void remove();
+  void select(const Scope* outer);
+
+  void selectHead(SelectParts& parts);
+  void selectList(SelectParts& parts, Scope& scope);
+  /// How many columns one item of the select list stands for.
+  std::size_t columnsOf(std::size_t begin, std::size_t end, const Scope& scope) const;
+  void selectOrder(const SelectParts& parts, const Scope& scope);
+  std::string defaultOrder(const SelectParts& parts, const Scope& scope) const;
+  void collectSources(std::size_t end, Scope& scope);
+  void sources(std::size_t end, const Scope& scope);
+
+  void expression(std::size_t end, const Scope& scope);
+  void wordOrName(std::size_t end, const Scope& scope);
+  void functionCall();
+  void symbol(const Scope& scope);
+  /// The value of a column: checked against its type when it is a single literal.
+  void assigned(std::size_t end, const Column& target, const Scope& scope);
+  std::string columnName(std::size_t end, const Scope& scope);
+  const Column& targetColumn(const Table& table);
+  const Table& tableName();
+
+  const Token& token(std::size_t ahead = 0) const;
+  bool accept(std::uint64_t word);
+  bool accept(char symbol);
+  void expect(std::uint64_t word);
+  void expect(char symbol);
+  void expectEnd() const;
+  /// Where the clause that begins here ends: at a word that begins another one, or at the
+  /// bracket that closes the whole.
+  std::size_t clauseEnd() const;
+  std::size_t valueEnd() const;
+  [[noreturn]] void fail() const;
+  void put(std::string_view piece) { out_.append(" ").append(piece); }
+
+  const Schema& schema_;
+  const Spelling& spelling_;
+  std::vector<Token> tokens_;
+  std::size_t at_ = 0;
+  int depth_ = 0;  // of nested SELECTs
+  std::string out_;
+  Rewritten result_;
+};
+
+}  // namespace fidaleon::store

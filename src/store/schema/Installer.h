@@ -1,0 +1,38 @@
+#pragma once
+
+#include <string>
+
+#include "store/Engine.h"
+#include "store/schema/Schema.h"
+
+namespace fidaleon::store {
+
+/// Brings a database in line with a schema. The table Esquema of the database names the schema
+/// and its version.
+class Installer {
+ public:
+  Installer(Engine& engine, const Schema& schema) : engine_(engine), schema_(schema) {}
+
+  /// All tables, indexes and first rows, as one step.
+  void create();
+  /// Throws NotADatabase for a database of another kind, NewerSchema for a newer one. An older
+  /// one gets what it lacks, as one step.
+  void upgrade();
+  /// The version kept in the database; throws NotADatabase when it is none of this schema.
+  int version();
+
+  /// Builds indexes anew when the libraries of this machine order text in another way than those
+  /// that wrote the database.
+  void adoptTextOrder();
+
+ private:
+  void addSince(int version);
+  void addRows(const Table& table);
+  Value stored(const std::string& column);
+  std::string valueText(const Value& value) const;
+
+  Engine& engine_;
+  const Schema& schema_;
+};
+
+}  // namespace fidaleon::store

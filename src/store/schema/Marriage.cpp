@@ -1,0 +1,110 @@
+// A marriage: the entry, the two spouses with their civil registry and baptism data, the
+// celebration, the witnesses of the dossier and the sworn examinations.
+
+#include "store/schema/Parish.h"
+
+namespace fidaleon::store {
+
+namespace {
+
+Table entry() {
+  Table table("Matrimonio");
+  table.counter("IDMatrimonio")
+      .longs({"CodNovios", "CodNovias", "InstitucionSolicitud"})
+      .texts({"Parroquia"})
+      .longs({"CodMunicipio"})
+      .texts({"Diocesis"})
+      .longs({"Estado"})
+      .memos({"NotasMarginales", "Observaciones"})
+      .longs({"CodLibro", "Folio"})
+      .texts({"Numero"})
+      .yesNos({"Anulada"})
+      .index({"CodLibro", "Folio", "Val(Numero)"})
+      .index({"CodNovios"})
+      .index({"CodNovias"});
+  return table;
+}
+
+/// `spouse` is "Novio" or "Novia".
+void addSpouse(std::vector<Table>& tables, const std::string& spouse) {
+  const std::string base = "Matrimonio_" + spouse + "s";
+  const std::string link = "Cod" + spouse + "s";
+  tables.push_back(
+      Table(base)
+          .counter("ID" + spouse + "s")
+          .texts({"Nombre", "PrimerApellido", "SegundoApellido", "DNI", "Edad", "Religion"})
+          .add(Type::Text, {"FechaNac"}, 10)
+          .longs({"CodMunicipioNac"})
+          .texts({"DomicilioActual"})
+          .longs({"CodMunicipioActual"})
+          .texts({"DomicilioAnterior"})
+          .longs({"CodMunicipioAnterior"})
+          .add(Type::Text, {"FechaConfirmacion"}, 10)
+          .longs({"CodMunicipioConfirmacion"})
+          .add(Type::Byte, {"TResidenciaDomAct"})
+          .texts({"Profesion", "DiocesisNac", "Nacionalidad", ("Email" + spouse).c_str(),
+                  ("Telefono" + spouse).c_str(), "ParroquiaExhorto", "PoblacionExhorto",
+                  "DiocesisExhorto"})
+          .index({"PrimerApellido", "SegundoApellido", "Nombre"}));
+  tables.push_back(Table(base + "_RegCivil")
+                       .longs({link.c_str()})
+                       .texts({"EstadoCivil", "NombrePadre", "NombreMadre", "MunicipioInscrito",
+                               "Tomo", "Pagina", "NombreCivil", "SujetoDerecho"})
+                       .key({link.c_str()}, false));
+  tables.push_back(Table(base + "_Bautismo")
+                       .longs({link.c_str()})
+                       .add(Type::Text, {"FechaBaut"}, 10)
+                       .texts({"ParroquiaBaut", "DiocesisBaut"})
+                       .longs({"CodMunicipioBaut"})
+                       .texts({"LibroBaut"})
+                       .longs({"FolioBaut"})
+                       .texts({"NumeroBaut"})
+                       .key({link.c_str()}, false));
+}
+
+Table celebration() {
+  Table table("Matrimonio_Compromiso");
+  table.longs({"CodMatrimonio"})
+      .add(Type::Text, {"FechaMatrimonio", "HoraMatrimonio"}, 10)
+      .texts({"Padrino", "Madrina", "Testigos", "Celebrante", "ExpedInst", "DomicilioMatrimonio"})
+      .longs({"CodMunicipioDomicMatr"})
+      .texts({"TelefonoDomicMatr", "CPCompromiso", "NihilObstat", "Demarcacion",
+              "TestigosParroquia", "Testigo1", "Testigo1_Natural_de", "Testigo1_Poblacion",
+              "Testigo2", "Testigo2_Natural_de", "Testigo2_Poblacion"})
+      .key({"CodMatrimonio"}, false);
+  return table;
+}
+
+Table dossier() {
+  Table table("Matrimonio_Expediente");
+  table.longs({"CodMatrimonio"});
+  for (const std::string n : {"1", "2"}) {
+    table.texts({("NombreTestigo" + n).c_str(), ("PrimerApellidoTestigo" + n).c_str(),
+                 ("SegundoApellidoTestigo" + n).c_str(), ("DNITestigo" + n).c_str(),
+                 ("DomicilioTestigo" + n).c_str()});
+    table.longs({("CodMunicipioTestigo" + n).c_str()});
+  }
+  table.key({"CodMatrimonio"}, false);
+  return table;
+}
+
+Table examinations() {
+  Table table("Matrimonio_Cursos");
+  table.longs({"CodMatrimonio", "Cod_Tipo_Persona"});
+  for (int answer = 0; answer <= 33; ++answer) table.memos({std::to_string(answer).c_str()});
+  table.key({"CodMatrimonio", "Cod_Tipo_Persona"}, false);
+  return table;
+}
+
+}  // namespace
+
+void addMarriage(std::vector<Table>& tables) {
+  tables.push_back(entry());
+  addSpouse(tables, "Novio");
+  addSpouse(tables, "Novia");
+  tables.push_back(celebration());
+  tables.push_back(dossier());
+  tables.push_back(examinations());
+}
+
+}  // namespace fidaleon::store

@@ -1,0 +1,23 @@
+#include "store/schema/Parish.h"
+
+#include "store/Open.h"
+
+namespace fidaleon::store {
+
+const Schema& parishSchema() {
+  static const Schema schema("Parroquia", 1, [] {
+    std::vector<Table> tables;
+    addCatalogues(tables);
+    addBooks(tables);
+    addBaptism(tables);
+    addConfirmation(tables);
+    addMarriage(tables);
+    addDeath(tables);
+    addCensus(tables);
+    for (Table& table : tables) table.zeroNumbers();
+    return tables;
+  }());
+  return schema;
+}
+
+}  // namespace fidaleon::store

@@ -1,0 +1,112 @@
+#include "store/sqlite/SqliteEngine.h"
+
+#include "store/sqlite/NetworkDisk.h"
+#include "store/sqlite/SqliteErrors.h"
+#include "store/sqlite/SqliteFunctions.h"
+#include "store/sqlite/SqliteStatement.h"
+
+namespace fidaleon::store {
+
+namespace {
+
+constexpr int kBusyMilliseconds = 4000;
+
+std::string savepoint(int depth) {
+  return "parte" + std::to_string(depth);
+}
+
+}  // namespace
+
+SqliteEngine::SqliteEngine(const std::filesystem::path& file, Access access) {
+  const bool create = access == Access::Create;
+  open(file.string(), create ? SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE : SQLITE_OPEN_READWRITE);
+  try {
+    if (!create && isNetworkDisk(file) && usesWriteAheadLog(file)) leaveWriteAheadLog();
+    // Reads the file, so that one that is no database is found out here.
+    run("PRAGMA synchronous = FULL; SELECT count(*) FROM sqlite_schema;");
+  } catch (...) {
+    sqlite3_close_v2(db_);
+    throw;
+  }
+}
+
+SqliteEngine::SqliteEngine() {
+  open(":memory:", SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
+}
+
+SqliteEngine::~SqliteEngine() {
+  sqlite3_close_v2(db_);
+}
+
+void SqliteEngine::open(const std::string& name, int flags) {
+  const int code = sqlite3_open_v2(name.c_str(), &db_, flags | SQLITE_OPEN_EXRESCODE, nullptr);
+  if (code != SQLITE_OK) {
+    const Error error = sqliteError(code, db_);
+    sqlite3_close_v2(db_);
+    throw error;
+  }
+  sqlite3_busy_timeout(db_, kBusyMilliseconds);
+  sqlite3_db_config(db_, SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
+  sqlite3_db_config(db_, SQLITE_DBCONFIG_DQS_DDL, 0, nullptr);
+  addFunctions(db_);
+}
+
+/// Needs the file for itself; whoever keeps it open on its own machine makes us fail as Busy.
+void SqliteEngine::leaveWriteAheadLog() {
+  run("PRAGMA locking_mode = EXCLUSIVE; PRAGMA journal_mode = DELETE; "
+      "PRAGMA locking_mode = NORMAL; SELECT count(*) FROM sqlite_schema;");
+}
+
+std::unique_ptr<Statement> SqliteEngine::prepare(std::string_view sql, std::string_view) {
+  return std::make_unique<SqliteStatement>(db_, sql);
+}
+
+void SqliteEngine::run(std::string_view sql) {
+  check(sqlite3_exec(db_, std::string(sql).c_str(), nullptr, nullptr, nullptr), db_);
+}
+
+void SqliteEngine::begin(int depth) {
+  // Immediate: to wait for another writer at the start is safe, to meet one half way is not.
+  run(depth == 0 ? "BEGIN IMMEDIATE" : "SAVEPOINT " + savepoint(depth));
+}
+
+void SqliteEngine::commit(int depth) {
+  run(depth == 0 ? "COMMIT" : "RELEASE " + savepoint(depth));
+}
+
+void SqliteEngine::rollback(int depth) {
+  const std::string name = savepoint(depth);
+  run(depth == 0 ? "ROLLBACK" : "ROLLBACK TO " + name + "; RELEASE " + name);
+}
+
+bool SqliteEngine::inTransaction() const {
+  return sqlite3_get_autocommit(db_) == 0;
+}
+
+bool SqliteEngine::readOnly() const {
+  return sqlite3_db_readonly(db_, "main") == 1;
+}
+
+void SqliteEngine::requireSound() {
+  SqliteStatement statement(db_, "PRAGMA integrity_check");
+  RowStore rows(1);
+  while (statement.step()) statement.read(rows);
+  if (rows.rows() != 1 || rows.at(0, 0).text() != "ok") throw sqliteError(SQLITE_CORRUPT, nullptr);
+}
+
+void SqliteEngine::copyFrom(SqliteEngine& from) {
+  sqlite3_backup* copy = sqlite3_backup_init(db_, "main", from.db_, "main");
+  if (copy == nullptr) throw sqliteError(sqlite3_errcode(db_), db_);
+  const int stepped = sqlite3_backup_step(copy, -1);
+  const int finished = sqlite3_backup_finish(copy);
+  if (stepped != SQLITE_DONE && stepped != SQLITE_OK) throw sqliteError(stepped, db_);
+  check(finished, db_);
+}
+
+void SqliteEngine::backup(const std::filesystem::path& to) {
+  SqliteEngine copy(to, Access::Create);
+  copy.copyFrom(*this);
+  copy.run("PRAGMA journal_mode = DELETE;");
+}
+
+}  // namespace fidaleon::store

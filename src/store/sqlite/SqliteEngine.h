@@ -1,0 +1,46 @@
+#pragma once
+
+#include <sqlite3.h>
+
+#include "store/Engine.h"
+#include "store/sqlite/SqliteSpelling.h"
+
+namespace fidaleon::store {
+
+class SqliteEngine : public Engine {
+ public:
+  enum class Access { Existing, Create };
+
+  /// An existing file, or a new one that must not be there yet. A file on a network disk is
+  /// taken out of write-ahead logging, which is not safe there.
+  SqliteEngine(const std::filesystem::path& file, Access access);
+  /// In memory.
+  SqliteEngine();
+  ~SqliteEngine() override;
+  SqliteEngine(const SqliteEngine&) = delete;
+  SqliteEngine& operator=(const SqliteEngine&) = delete;
+
+  std::unique_ptr<Statement> prepare(std::string_view sql, std::string_view source) override;
+  void run(std::string_view sql) override;
+  void begin(int depth) override;
+  void commit(int depth) override;
+  void rollback(int depth) override;
+  bool inTransaction() const override;
+  const Spelling& spelling() const override { return spelling_; }
+  void backup(const std::filesystem::path& to) override;
+
+  /// Replaces what this database holds by what `from` holds.
+  void copyFrom(SqliteEngine& from);
+  bool readOnly() const;
+  /// Reads the whole file; throws NotADatabase when it is damaged.
+  void requireSound();
+
+ private:
+  void open(const std::string& name, int flags);
+  void leaveWriteAheadLog();
+
+  sqlite3* db_ = nullptr;
+  SqliteSpelling spelling_;
+};
+
+}  // namespace fidaleon::store

@@ -1,0 +1,96 @@
+#include "store/sqlite/SqliteSpelling.h"
+
+#include "text/Utf8.h"
+
+namespace fidaleon::store {
+
+std::string SqliteSpelling::name(std::string_view canonical) const {
+  return "\"" + text::replaceAll(canonical, "\"", "\"\"") + "\"";
+}
+
+std::string SqliteSpelling::parameter(int number) const {
+  return "?" + std::to_string(number);
+}
+
+std::string SqliteSpelling::text(std::string_view value) const {
+  return "'" + text::replaceAll(value, "'", "''") + "'";
+}
+
+std::string SqliteSpelling::function(std::string_view lowerCaseName) const {
+  for (const char* same :
+       {"max", "min", "count", "sum", "avg", "val", "cint", "clng", "cstr", "trim"}) {
+    if (lowerCaseName == same) return same;
+  }
+  if (lowerCaseName == "len") return "length";
+  return {};
+}
+
+std::string SqliteSpelling::yesNo(const std::string& expression) const {
+  return "-((" + expression + ") <> 0)";
+}
+
+std::string SqliteSpelling::limit(const std::string& count) const {
+  return "LIMIT " + count;
+}
+
+std::string SqliteSpelling::entryOrder(std::string_view source) const {
+  return std::string(source) + "._rowid_";
+}
+
+std::string SqliteSpelling::definition(const Table& table, const Column& column) const {
+  const std::string quoted = name(column.name);
+  const auto number = [&](const char* low, const char* high) {
+    // What no binder has looked at, such as the result of an expression, is caught here.
+    return quoted + " INTEGER" + (table.numbersStartAtZero() ? " DEFAULT 0" : "") + " CHECK (" +
+           quoted + " IS NULL OR typeof(" + quoted + ") = 'integer' AND " + quoted + " BETWEEN " +
+           low + " AND " + high + ")";
+  };
+  switch (column.type) {
+    case Type::Counter:
+      return quoted + " INTEGER PRIMARY KEY AUTOINCREMENT";
+    case Type::Long:
+      return number("-2147483648", "2147483647");
+    case Type::Integer:
+      return number("-32768", "32767");
+    case Type::Byte:
+      return number("0", "255");
+    case Type::YesNo:
+      return quoted + " INTEGER NOT NULL DEFAULT 0 CHECK (" + quoted + " IN (-1, 0))";
+    case Type::Double:
+      return quoted + " REAL" + (table.numbersStartAtZero() ? " DEFAULT 0" : "");
+    case Type::Text:
+    case Type::Memo:
+      break;
+  }
+  return quoted + " TEXT COLLATE ES";
+}
+
+std::string SqliteSpelling::createTable(const Table& table) const {
+  std::string sql = "CREATE TABLE " + name(table.name()) + " (";
+  const char* separator = "\n  ";
+  for (const Column& column : table.columns()) {
+    sql += separator + definition(table, column);
+    separator = ",\n  ";
+  }
+  return sql + ")";
+}
+
+std::string SqliteSpelling::addColumn(const Table& table, const Column& column) const {
+  return "ALTER TABLE " + name(table.name()) + " ADD COLUMN " + definition(table, column);
+}
+
+std::string SqliteSpelling::createIndex(const Table& table, const Index& index) const {
+  std::string label = table.name();
+  std::string columns;
+  for (const std::string& entry : index.columns) {
+    label += "_" + entry;
+    const bool expression = entry.starts_with("Val(");
+    const std::string column = expression ? entry.substr(4, entry.size() - 5) : entry;
+    columns += columns.empty() ? "" : ", ";
+    columns += expression ? "val(" + name(column) + ")" : name(column);
+  }
+  return std::string("CREATE ") + (index.unique ? "UNIQUE " : "") + "INDEX " + name(label) +
+         " ON " + name(table.name()) + " (" + columns + ")";
+}
+
+}  // namespace fidaleon::store
