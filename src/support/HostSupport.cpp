@@ -1,0 +1,47 @@
+#include "support/HostSupport.h"
+
+#include <unistd.h>
+
+#include <array>
+
+#include "locks/ProcesarBloqueos.h"
+#include "support/Fidaleon.h"
+#include "support/Informes.h"
+#include "support/Listas.h"
+
+namespace fidaleon::support {
+
+namespace {
+
+std::string hostName() {
+  std::array<char, 256> name{};
+  return ::gethostname(name.data(), name.size() - 1) == 0 ? name.data() : "desconocido";
+}
+
+}  // namespace
+
+HostSupport::HostSupport(forms::UserInterface& ui, Settings& settings, const Clock& clock,
+                         const FDAPI::cConfig& config, std::string host)
+    : ui_(ui),
+      settings_(settings),
+      clock_(clock),
+      config_(config),
+      host_(host.empty() ? hostName() : std::move(host)) {}
+
+std::unique_ptr<FDAPI::cFidaleon> HostSupport::create_cFidaleon() {
+  return std::make_unique<Fidaleon>(ui_, settings_, clock_);
+}
+
+std::unique_ptr<FDAPI::cIListas> HostSupport::create_cIListas() {
+  return std::make_unique<Listas>(settings_, config_.AppTitle);
+}
+
+std::unique_ptr<FDAPI::cProcesarBloqueos> HostSupport::create_cProcesarBloqueos() {
+  return std::make_unique<locks::ProcesarBloqueos>(ui_, clock_, config_.Usuario, host_);
+}
+
+std::unique_ptr<FDAPI::cInformes> HostSupport::create_cInformes() {
+  return std::make_unique<Informes>();
+}
+
+}  // namespace fidaleon::support

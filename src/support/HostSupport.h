@@ -1,0 +1,32 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "core/contract/Entorno.h"
+
+namespace fidaleon::support {
+
+/// Makes the support objects of one installation. Nothing handed in is owned; all of it must
+/// outlive the factory and what it made.
+class HostSupport : public SupportFactory {
+ public:
+  /// `config` is read when an object is made, so a change of user counts from the next one.
+  /// `host` names this machine to users of others; empty takes the system's own name.
+  HostSupport(forms::UserInterface& ui, Settings& settings, const Clock& clock,
+              const FDAPI::cConfig& config, std::string host = {});
+
+  std::unique_ptr<FDAPI::cFidaleon> create_cFidaleon() override;
+  std::unique_ptr<FDAPI::cIListas> create_cIListas() override;
+  std::unique_ptr<FDAPI::cProcesarBloqueos> create_cProcesarBloqueos() override;
+  std::unique_ptr<FDAPI::cInformes> create_cInformes() override;
+
+ private:
+  forms::UserInterface& ui_;
+  Settings& settings_;
+  const Clock& clock_;
+  const FDAPI::cConfig& config_;
+  std::string host_;
+};
+
+}  // namespace fidaleon::support
