@@ -34,6 +34,7 @@ class SqliteEngine : public Engine {
   bool readOnly() const;
   /// Reads the whole file; throws NotADatabase when it is damaged.
   void requireSound();
+  sqlite3* handle() { return db_; }
 
  private:
   void open(const std::string& name, int flags);
