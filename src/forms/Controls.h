@@ -21,7 +21,10 @@ class Label : public Control {
   void setCaption(std::string caption);
   /// Bold and in the colour of warnings: the mark of an annulled entry and its like.
   bool emphasised() const { return emphasised_; }
-  void setEmphasised(bool on) { emphasised_ = on; }
+  void setEmphasised(bool on) {
+    emphasised_ = on;
+    changed(Change::Caption);
+  }
 
  private:
   std::string caption_;

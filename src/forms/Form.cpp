@@ -205,7 +205,10 @@ void Form::setLayout(LayoutNode layout) {
 void Form::place(LayoutNode& node, Frame* frame, TabStrip* strip, int page) {
   if (node.control) node.control->placeIn(frame, strip, page);
   if (node.control && node.control->label()) node.control->label()->placeIn(frame, strip, page);
-  for (Control* control : node.beside) control->placeIn(frame, strip, page);
+  for (Control* control : node.beside) {
+    control->placeIn(frame, strip, page);
+    if (control->label()) control->label()->placeIn(frame, strip, page);
+  }
   if (node.kind == LayoutNode::Kind::Group) frame = static_cast<Frame*>(node.control);
   if (node.kind == LayoutNode::Kind::Tabs) {
     auto* inner = static_cast<TabStrip*>(node.control);

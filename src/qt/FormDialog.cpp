@@ -1,0 +1,260 @@
+#include "qt/FormDialog.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QScopedValueRollback>
+#include <QScreen>
+#include <QScrollArea>
+
+#include "qt/Appearance.h"
+#include "qt/LayoutBuilder.h"
+#include "qt/Text.h"
+#include "qt/views/PlainViews.h"
+#include "qt/views/TabsView.h"
+#include "qt/views/makeView.h"
+
+namespace fidaleon::qt {
+
+using forms::Change;
+using forms::Control;
+
+namespace {
+
+constexpr double SHARE_OF_SCREEN = 0.95;
+
+/// Counts a block in which the focus moves by our own doing.
+class Settling {
+ public:
+  explicit Settling(int& depth) : depth_(depth) { ++depth_; }
+  ~Settling() { --depth_; }
+
+ private:
+  int& depth_;
+};
+
+QSize screenFor(const QWidget* parent) {
+  const QScreen* screen = parent ? parent->screen() : QGuiApplication::primaryScreen();
+  return screen ? screen->availableSize() : QSize(1366, 768);
+}
+
+/// Scrolls every page around a field that has just been reached.
+void reveal(QWidget* field) {
+  for (QWidget* around = field->parentWidget(); around; around = around->parentWidget()) {
+    if (auto* area = qobject_cast<QScrollArea*>(around))
+      area->ensureWidgetVisible(field, 0, field->fontMetrics().height());
+    if (around->isWindow()) return;
+  }
+}
+
+}  // namespace
+
+FormDialog::FormDialog(forms::Form& form, QWidget* parent, Use use, QSize room)
+    : QDialog(parent, Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+                          Qt::WindowMaximizeButtonHint | Qt::WindowCloseButtonHint),
+      form_(form),
+      use_(use),
+      room_(room.isEmpty() ? screenFor(parent) : room) {
+  const Settling building(settling_);
+  setObjectName(toQt(form.name()));
+  setModal(true);
+  applyPalette();
+  buildViews();
+  connectLabels();
+  chainTabOrder();
+  setWindowTitle(plainCaption(form_.caption()));
+  for (auto& [control, view] : views_) view->refreshAll();
+  fitScreen();
+  if (use_ == Use::Picture) return;
+  form_.setObserver(this);
+  connect(qApp, &QApplication::focusChanged, this,
+          [this](QWidget*, QWidget* now) { userWent(now); });
+}
+
+FormDialog::~FormDialog() {
+  ++settling_;
+  if (use_ == Use::Window) form_.setObserver(nullptr);
+}
+
+void FormDialog::buildViews() {
+  LayoutBuilder builder(
+      [this](Control& c, QWidget* parent) -> ControlView& { return makeViewOf(c, parent); }, room_);
+  builder.build(form_.layout(), this);
+}
+
+ControlView& FormDialog::makeViewOf(Control& control, QWidget* parent) {
+  auto& view = views_[&control];
+  view = makeView(control, parent);
+  view->widget()->setObjectName(toQt(control.name()));
+  byWidget_[view->widget()] = view.get();
+  byWidget_[view->focusWidget()] = view.get();
+  return *view;
+}
+
+void FormDialog::connectLabels() {
+  for (auto& [control, view] : views_) {
+    if (!control->canTakeFocus()) continue;
+    view->nameForAccessibility();
+    if (auto* label = static_cast<LabelView*>(viewOf(control->label())))
+      label->setBuddy(*control, view->focusWidget());
+  }
+}
+
+void FormDialog::chainTabOrder() {
+  QWidget* before = nullptr;
+  for (const Control* control : form_.tabOrder()) {
+    QWidget* field = fieldOf(*control);
+    if (before && field) setTabOrder(before, field);
+    if (field) before = field;
+  }
+}
+
+void FormDialog::applyPalette() {
+  const QPalette wanted = legible(QApplication::palette());
+  if (palette() != wanted) setPalette(wanted);
+}
+
+void FormDialog::fitScreen() {
+  layout()->activate();
+  const QSize most = room_ * SHARE_OF_SCREEN;
+  const QSize wish = sizeHint().expandedTo(QSize(charsWidth(*this, 40), 0));
+  setMinimumSize(minimumSizeHint().boundedTo(most));
+  layout()->setSizeConstraint(QLayout::SetNoConstraint);
+  resize(wish.boundedTo(most));
+}
+
+ControlView* FormDialog::viewOf(const Control* control) const {
+  const auto found = views_.find(control);
+  return found == views_.end() ? nullptr : found->second.get();
+}
+
+ControlView* FormDialog::viewAt(QWidget* widget) const {
+  for (; widget && widget != this; widget = widget->parentWidget()) {
+    const auto found = byWidget_.find(widget);
+    if (found != byWidget_.end()) return found->second;
+    if (qobject_cast<QDialog*>(widget)) return nullptr;
+  }
+  return nullptr;
+}
+
+QWidget* FormDialog::widgetOf(const Control& control) const {
+  ControlView* view = viewOf(&control);
+  return view ? view->widget() : nullptr;
+}
+
+QWidget* FormDialog::fieldOf(const Control& control) const {
+  ControlView* view = viewOf(&control);
+  return view ? view->focusWidget() : nullptr;
+}
+
+void FormDialog::flush() {
+  for (auto& [control, view] : views_) view->flush();
+}
+
+void FormDialog::userWent(QWidget* now) {
+  if (settling_ || !now || form_.isUnloaded()) return;
+  ControlView* view = viewAt(now);
+  if (!view || !view->control().canTakeFocus()) return;
+  if (&view->control() == form_.activeControl()) return reveal(now);
+  {
+    const Settling asking(settling_);
+    form_.moveFocus(view->control());
+  }
+  pushFocus();
+}
+
+void FormDialog::pushFocus() {
+  ControlView* view = viewOf(form_.activeControl());
+  if (!view || form_.isUnloaded()) return;
+  const Settling pushing(settling_);
+  if (focusWidget() != view->focusWidget() || !view->focusWidget()->hasFocus())
+    view->focusWidget()->setFocus(reason_);
+  reveal(view->focusWidget());
+}
+
+bool FormDialog::focusNextPrevChild(bool next) {
+  // While widgets hide or shut under the focus, the toolkit looks for another place; only a key
+  // of the user is the form's business.
+  if (settling_) return QDialog::focusNextPrevChild(next);
+  const QScopedValueRollback byTab(reason_, next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+  form_.focusNext(!next);
+  pushFocus();
+  return true;
+}
+
+void FormDialog::showEvent(QShowEvent* event) {
+  QDialog::showEvent(event);
+  if (use_ == Use::Picture || event->spontaneous()) return;
+  if (!form_.activeControl()) form_.focusFirst();
+  pushFocus();
+}
+
+void FormDialog::changeEvent(QEvent* event) {
+  QDialog::changeEvent(event);
+  if (event->type() == QEvent::ApplicationPaletteChange) applyPalette();
+  if (event->type() != QEvent::PaletteChange || settling_) return;
+  const Settling repainting(settling_);
+  for (auto& [control, view] : views_) view->refresh(Change::Locked);
+}
+
+void FormDialog::keyPressEvent(QKeyEvent* event) {
+  const bool ctrl = event->modifiers().testFlag(Qt::ControlModifier);
+  switch (event->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+      if (!ctrl) form_.pressEnter();
+      return;
+    case Qt::Key_Escape:
+      return form_.requestClose();
+    case Qt::Key_PageUp:
+    case Qt::Key_Backtab:
+      return ctrl ? switchTab(true) : event->ignore();
+    case Qt::Key_PageDown:
+    case Qt::Key_Tab:
+      return ctrl ? switchTab(false) : event->ignore();
+    default:
+      return QDialog::keyPressEvent(event);
+  }
+}
+
+void FormDialog::switchTab(bool backwards) {
+  for (auto& [control, view] : views_) {
+    auto* tabs = dynamic_cast<TabsView*>(view.get());
+    if (tabs && control->reachable()) return tabs->askNext(backwards);
+  }
+}
+
+void FormDialog::reject() {
+  form_.requestClose();
+}
+
+void FormDialog::closeEvent(QCloseEvent* event) {
+  event->ignore();
+  if (!form_.isUnloaded()) form_.requestClose();
+}
+
+void FormDialog::controlChanged(Control& control, Change what) {
+  if (ControlView* view = viewOf(&control)) {
+    const Settling refreshing(settling_);
+    view->refresh(what);
+  }
+  // A letter may now belong to another control.
+  if (what == Change::Caption) {
+    for (auto& [other, view] : views_)
+      if (other != &control && other->canTakeFocus()) view->showCaption();
+  }
+}
+
+void FormDialog::focusChanged(Control*) {
+  pushFocus();
+}
+
+void FormDialog::captionChanged() {
+  setWindowTitle(plainCaption(form_.caption()));
+}
+
+void FormDialog::unloaded() {
+  done(QDialog::Accepted);
+}
+
+}  // namespace fidaleon::qt

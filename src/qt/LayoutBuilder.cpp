@@ -1,0 +1,235 @@
+#include "qt/LayoutBuilder.h"
+
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
+
+#include "forms/Controls.h"
+#include "qt/Appearance.h"
+#include "qt/PageScroll.h"
+#include "qt/views/PlainViews.h"
+#include "qt/views/TabsView.h"
+
+namespace fidaleon::qt {
+
+using forms::LayoutNode;
+using Kind = LayoutNode::Kind;
+
+namespace {
+
+bool isTall(const forms::Control& control) {
+  const auto* text = dynamic_cast<const forms::TextBox*>(&control);
+  return dynamic_cast<const forms::Grid*>(&control) ||
+         dynamic_cast<const forms::ListBox*>(&control) || (text && text->multiline());
+}
+
+/// Fields up to this wish get exactly it; longer ones take what room there is.
+constexpr int FIXED_UP_TO = 30;
+
+bool isWide(const forms::Control& control) {
+  if (control.widthChars() > 0) return control.widthChars() > FIXED_UP_TO;
+  return isTall(control) || dynamic_cast<const forms::TextBox*>(&control) ||
+         dynamic_cast<const forms::ComboBox*>(&control) ||
+         dynamic_cast<const forms::Progress*>(&control) ||
+         dynamic_cast<const forms::Label*>(&control);
+}
+
+/// Whether a part of the layout uses what height is left.
+bool grows(const LayoutNode& node) {
+  if (node.kind == Kind::Tabs || node.kind == Kind::Stretch) return true;
+  if (node.control && node.kind == Kind::Item && isTall(*node.control)) return true;
+  return std::any_of(node.children.begin(), node.children.end(), grows);
+}
+
+bool anyGrows(const forms::Nodes& nodes) {
+  return std::any_of(nodes.begin(), nodes.end(), grows);
+}
+
+}  // namespace
+
+QWidget* LayoutBuilder::control(forms::Control& control, QWidget* parent) {
+  ControlView& view = make_(control, parent);
+  if (control.widthChars() > 0 && !isWide(control)) view.fixWidth(control.widthChars());
+  return view.widget();
+}
+
+QWidget* LayoutBuilder::label(forms::Control& control, QWidget* parent) {
+  if (!control.label()) return nullptr;
+  return make_(*control.label(), parent).widget();
+}
+
+void LayoutBuilder::build(const LayoutNode& root, QWidget* window) {
+  auto* outer = new QVBoxLayout(window);
+  forms::Nodes nodes = root.kind == Kind::Column ? root.children : forms::Nodes{root};
+  forms::Nodes foot;
+  while (!nodes.empty() && nodes.back().kind == Kind::Buttons) {
+    foot.insert(foot.begin(), nodes.back());
+    nodes.pop_back();
+  }
+  QWidget* page = scrolled(nodes, window);
+  page->layout()->setContentsMargins(0, 0, 0, 0);
+  outer->addWidget(new PageScroll(page, room_, window), 1);
+  addAll(foot, *outer, window);
+}
+
+QWidget* LayoutBuilder::scrolled(const forms::Nodes& nodes, QWidget* parent) {
+  auto* content = new QWidget(parent);
+  auto* column = new QVBoxLayout(content);
+  addAll(nodes, *column, content);
+  if (!anyGrows(nodes)) column->addStretch(1);
+  return content;
+}
+
+void LayoutBuilder::addAll(const forms::Nodes& nodes, QBoxLayout& box, QWidget* parent) {
+  for (const LayoutNode& node : nodes) add(node, box, parent);
+}
+
+void LayoutBuilder::add(const LayoutNode& node, QBoxLayout& box, QWidget* parent) {
+  switch (node.kind) {
+    case Kind::Column:
+    case Kind::Page: {
+      auto* inner = new QVBoxLayout;
+      box.addLayout(inner, grows(node) ? 1 : 0);
+      return addAll(node.children, *inner, parent);
+    }
+    case Kind::Row:
+      return addRow(node, box, parent);
+    case Kind::Fields:
+      return addFields(node, box, parent);
+    case Kind::Item:
+      return addItem(node, box, parent);
+    case Kind::Group:
+      return addGroup(node, box, parent);
+    case Kind::Tabs:
+      return addTabs(node, box, parent);
+    case Kind::Buttons:
+      return addButtons(node, box, parent);
+    case Kind::Stretch:
+      return box.addStretch(1);
+  }
+}
+
+void LayoutBuilder::addRow(const LayoutNode& node, QBoxLayout& box, QWidget* parent) {
+  auto* row = new QHBoxLayout;
+  box.addLayout(row, grows(node) ? 1 : 0);
+  bool wide = false;
+  for (const LayoutNode& child : node.children) {
+    if (child.kind == Kind::Item) {
+      if (QWidget* front = label(*child.control, parent)) row->addWidget(front);
+      QWidget* widget = control(*child.control, parent);
+      QBoxLayout* cell = withBeside(widget, child, parent);
+      const bool takes = isWide(*child.control);
+      cell ? row->addLayout(cell, takes) : row->addWidget(widget, takes);
+      wide = wide || takes;
+      continue;
+    }
+    // Parts of a row share its width, and stand at the top unless they use the height.
+    auto* part = new QVBoxLayout;
+    row->addLayout(part, child.kind == Kind::Buttons ? 0 : 1);
+    add(child, *part, parent);
+    if (!grows(child)) part->addStretch(1);
+    wide = true;
+  }
+  if (!wide) row->addStretch(1);
+}
+
+void LayoutBuilder::addButtons(const LayoutNode& node, QBoxLayout& box, QWidget* parent) {
+  auto* row = new QHBoxLayout;
+  row->addStretch(1);
+  for (const LayoutNode& child : node.children)
+    if (child.control) row->addWidget(control(*child.control, parent));
+  box.addLayout(row);
+}
+
+void LayoutBuilder::addGroup(const LayoutNode& node, QBoxLayout& box, QWidget* parent) {
+  QWidget* frame = control(*node.control, parent);
+  auto* inside = new QVBoxLayout(frame);
+  addAll(node.children, *inside, frame);
+  box.addWidget(frame, grows(node) ? 1 : 0);
+}
+
+void LayoutBuilder::addTabs(const LayoutNode& node, QBoxLayout& box, QWidget* parent) {
+  auto& tabs = static_cast<TabsView&>(make_(*node.control, parent));
+  for (const LayoutNode& page : node.children) {
+    auto* area = new PageScroll(
+        scrolled(page.kind == Kind::Page ? page.children : forms::Nodes{page}, tabs.widget()),
+        room_, tabs.widget());
+    tabs.addPage(area);
+  }
+  box.addWidget(tabs.widget(), 1);
+}
+
+QBoxLayout* LayoutBuilder::withBeside(QWidget* first, const LayoutNode& node, QWidget* parent) {
+  if (node.beside.empty()) return nullptr;
+  auto* row = new QHBoxLayout;
+  row->addWidget(first, isWide(*node.control) ? 1 : 0);
+  bool wide = isWide(*node.control);
+  for (forms::Control* next : node.beside) {
+    if (QWidget* front = label(*next, parent)) row->addWidget(front);
+    row->addWidget(control(*next, parent), isWide(*next) ? 1 : 0);
+    wide = wide || isWide(*next);
+  }
+  if (!wide) row->addStretch(1);
+  return row;
+}
+
+void LayoutBuilder::addItem(const LayoutNode& node, QBoxLayout& box, QWidget* parent) {
+  const bool tall = isTall(*node.control);
+  QBoxLayout* line = tall ? static_cast<QBoxLayout*>(new QVBoxLayout) : new QHBoxLayout;
+  box.addLayout(line, tall ? 1 : 0);
+  if (QWidget* front = label(*node.control, parent)) line->addWidget(front);
+  QWidget* widget = control(*node.control, parent);
+  if (auto* text = qobject_cast<QLabel*>(widget)) text->setWordWrap(true);
+  QBoxLayout* cell = withBeside(widget, node, parent);
+  cell ? line->addLayout(cell, 1) : line->addWidget(widget, isWide(*node.control) ? 1 : 0);
+  if (!cell && !tall && !isWide(*node.control)) line->addStretch(1);
+}
+
+void LayoutBuilder::addFields(const LayoutNode& node, QBoxLayout& box, QWidget* parent) {
+  auto* grid = new QGridLayout;
+  box.addLayout(grid, grows(node) ? 1 : 0);
+  const int pairs = std::max(1, node.columns);
+  for (int pair = 0; pair < pairs; ++pair) grid->setColumnStretch(2 * pair + 1, 1);
+  int row = 0, pair = 0;
+  for (const LayoutNode& child : node.children) {
+    const bool field = child.kind == Kind::Item;
+    const int span = field ? std::clamp(child.span, 1, pairs) : pairs;
+    if (pair + span > pairs) {
+      ++row;
+      pair = 0;
+    }
+    if (field) {
+      addField(child, *grid, row, pair, span, parent);
+    } else {
+      auto* part = new QVBoxLayout;
+      grid->addLayout(part, row, 0, 1, 2 * pairs);
+      add(child, *part, parent);
+    }
+    pair += span;
+  }
+}
+
+void LayoutBuilder::addField(const LayoutNode& node, QGridLayout& grid, int row, int pair, int span,
+                             QWidget* parent) {
+  const bool tall = isTall(*node.control);
+  QWidget* front = label(*node.control, parent);
+  if (front) {
+    // Pairs that stand beside each other keep more distance than a label from its field.
+    const int apart = pair == 0 ? 0 : charsWidth(*front, 2);
+    front->setContentsMargins(apart, tall ? charsWidth(*front, 0.5) : 0, 0, 0);
+    grid.addWidget(front, row, 2 * pair, tall ? Qt::AlignTop : Qt::AlignVCenter);
+  }
+  QWidget* widget = control(*node.control, parent);
+  auto* text = qobject_cast<QLabel*>(widget);
+  if (text) text->setWordWrap(span > 1);
+  const int first = 2 * pair + (text ? 0 : 1);
+  const int columns = 2 * span - (text ? 0 : 1);
+  if (tall) grid.setRowStretch(row, 1);
+  if (QBoxLayout* cell = withBeside(widget, node, parent))
+    return grid.addLayout(cell, row, first, 1, columns);
+  const Qt::Alignment place =
+      isWide(*node.control) ? Qt::Alignment() : Qt::AlignLeft | Qt::AlignVCenter;
+  grid.addWidget(widget, row, first, 1, columns, place);
+}
+
+}  // namespace fidaleon::qt

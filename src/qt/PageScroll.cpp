@@ -1,0 +1,29 @@
+#include "qt/PageScroll.h"
+
+#include <QScrollBar>
+
+namespace fidaleon::qt {
+
+PageScroll::PageScroll(QWidget* content, const QSize& room, QWidget* parent)
+    : QScrollArea(parent), room_(room) {
+  setWidget(content);
+  setWidgetResizable(true);
+  setFrameShape(QFrame::NoFrame);
+  setFocusPolicy(Qt::NoFocus);
+  viewport()->setAutoFillBackground(false);
+  content->setAutoFillBackground(false);
+}
+
+QSize PageScroll::sizeHint() const {
+  return widget()->sizeHint().expandedTo(widget()->minimumSizeHint());
+}
+
+QSize PageScroll::minimumSizeHint() const {
+  const QSize content = widget()->minimumSizeHint();
+  const int bar = verticalScrollBar()->sizeHint().width();
+  const int lines = fontMetrics().lineSpacing() * 8;
+  return {std::min(content.width() + bar, room_.width() * 8 / 10),
+          std::min(content.height(), lines)};
+}
+
+}  // namespace fidaleon::qt

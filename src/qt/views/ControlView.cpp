@@ -1,0 +1,81 @@
+#include "qt/views/ControlView.h"
+
+#include <QAbstractScrollArea>
+#include <QEvent>
+
+#include "qt/Appearance.h"
+#include "qt/Keys.h"
+#include "qt/Text.h"
+
+namespace fidaleon::qt {
+
+void ControlView::refresh(forms::Change what) {
+  switch (what) {
+    case forms::Change::Enabled:
+      return widget()->setEnabled(control_.enabled());
+    case forms::Change::Visible:
+      return widget()->setVisible(control_.visible());
+    case forms::Change::ToolTip:
+      return widget()->setToolTip(toQt(control_.toolTip()).toHtmlEscaped());
+    case forms::Change::Caption:
+      return showCaption();
+    default:
+      return;
+  }
+}
+
+void ControlView::refreshAll() {
+  using forms::Change;
+  for (const Change what : {Change::Enabled, Change::Visible, Change::Text, Change::Caption,
+                            Change::Items, Change::Selection, Change::Locked, Change::Grid,
+                            Change::Tab, Change::Progress, Change::ToolTip})
+    refresh(what);
+  flush();
+}
+
+void ControlView::nameForAccessibility() {
+  std::string name;
+  if (control_.label())
+    name = control_.label()->caption();
+  else if (!control_.toolTip().empty())
+    name = control_.toolTip();
+  else if (control_.frame())
+    name = control_.frame()->caption();
+  if (!name.empty()) focusWidget()->setAccessibleName(plainCaption(name));
+}
+
+void ControlView::fixWidth(int letters) {
+  widget()->setFixedWidth(charsWidth(*widget(), letters + 2));
+}
+
+void ControlView::watch() {
+  focusWidget()->installEventFilter(this);
+  if (auto* area = qobject_cast<QAbstractScrollArea*>(focusWidget()))
+    area->viewport()->installEventFilter(this);
+}
+
+bool ControlView::keyPressed(QKeyEvent& event) {
+  if (!control_.onKeyPress) return false;
+  forms::KeyPress press = toKeyPress(event);
+  control_.onKeyPress(press);
+  return press.changed();
+}
+
+bool ControlView::eventFilter(QObject* watched, QEvent* event) {
+  switch (event->type()) {
+    case QEvent::KeyPress:
+      flush();
+      return watched == focusWidget() && keyPressed(static_cast<QKeyEvent&>(*event));
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::MouseButtonRelease:
+      flush();
+      // The field that had the focus refused to be left: what was aimed at another one is dropped.
+      return focusWidget()->focusPolicy() & Qt::ClickFocus &&
+             control_.form().activeControl() != &control_;
+    default:
+      return false;
+  }
+}
+
+}  // namespace fidaleon::qt

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "qt/views/TextView.h"
+
+class QLineEdit;
+
+namespace fidaleon::qt {
+
+/// A field of one line.
+class LineView : public TextView {
+ public:
+  LineView(forms::TextBox& box, QWidget* parent);
+  QWidget* widget() const override;
+  QWidget* focusWidget() const override;
+  void fixWidth(int letters) override;
+
+ protected:
+  QLineEdit* edit() const { return edit_; }
+  std::string shownText() const override;
+  void showText(const std::string& text, bool undoable) override;
+  void insertText(const QString& text) override;
+  std::pair<int, int> shownSelection() const override;
+  void showSelection(int start, int length) override;
+  void showLocked() override;
+
+ private:
+  QLineEdit* edit_;
+};
+
+}  // namespace fidaleon::qt

@@ -1,0 +1,95 @@
+#include "qt/views/MemoView.h"
+
+#include <QPlainTextEdit>
+#include <QTextBlock>
+
+#include "qt/Appearance.h"
+#include "qt/Text.h"
+#include "text/Utf8.h"
+
+namespace fidaleon::qt {
+
+namespace {
+
+// The control breaks lines with two characters, the widget with one.
+QString withCrLf(QString text) {
+  return text.replace(u'\n', QStringLiteral("\r\n"));
+}
+
+QString withoutCr(QString text) {
+  return text.remove(u'\r');
+}
+
+}  // namespace
+
+MemoView::MemoView(forms::TextBox& box, QWidget* parent)
+    : TextView(box), edit_(new QPlainTextEdit(parent)) {
+  edit_->setTabChangesFocus(true);
+  edit_->setAcceptDrops(false);
+  const double frame = 2 * (edit_->frameWidth() + edit_->document()->documentMargin());
+  const double height = edit_->fontMetrics().lineSpacing() * box.lines() + frame;
+  edit_->setMinimumHeight(static_cast<int>(height) + 1);
+  edit_->setMinimumWidth(charsWidth(*edit_, 16));
+  connect(edit_, &QPlainTextEdit::textChanged, this, [this] { userEdited(); });
+  connect(edit_, &QPlainTextEdit::cursorPositionChanged, this, [this] { selectionMoved(); });
+  connect(edit_, &QPlainTextEdit::selectionChanged, this, [this] { selectionMoved(); });
+  watch();
+}
+
+QWidget* MemoView::widget() const {
+  return edit_;
+}
+
+std::string MemoView::shownText() const {
+  return fromQt(withCrLf(edit_->toPlainText()));
+}
+
+void MemoView::showText(const std::string& text, bool undoable) {
+  if (!undoable) return edit_->setPlainText(withoutCr(toQt(text)));
+  QTextCursor cursor(edit_->document());
+  const int caret = edit_->textCursor().position();
+  cursor.joinPreviousEditBlock();
+  cursor.select(QTextCursor::Document);
+  cursor.insertText(withoutCr(toQt(text)));
+  cursor.endEditBlock();
+  cursor.setPosition(std::min(caret, edit_->document()->characterCount() - 1));
+  edit_->setTextCursor(cursor);
+}
+
+void MemoView::insertText(const QString& text) {
+  edit_->insertPlainText(withoutCr(text));
+}
+
+std::pair<int, int> MemoView::shownSelection() const {
+  const QString text = edit_->toPlainText();
+  const auto position = [&](int at) {
+    const QString before = withCrLf(text.left(at));
+    return codePoints(before, before.size());
+  };
+  const int from = position(edit_->textCursor().selectionStart());
+  return {from, position(edit_->textCursor().selectionEnd()) - from};
+}
+
+void MemoView::showSelection(int start, int length) {
+  if (shownSelection() == std::pair(start, length)) return;
+  const QString text = withCrLf(edit_->toPlainText());
+  const auto position = [&](int at) {
+    return static_cast<int>(withoutCr(text.left(utf16Position(text, at))).size());
+  };
+  QTextCursor cursor(edit_->document());
+  cursor.setPosition(position(start));
+  cursor.setPosition(position(start + length), QTextCursor::KeepAnchor);
+  edit_->setTextCursor(cursor);
+}
+
+void MemoView::showLocked() {
+  edit_->setReadOnly(box().locked());
+  if (box().locked())  // readable with the keyboard too
+    edit_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+  QPalette palette;
+  if (box().locked())
+    palette.setColor(QPalette::Base, lockedColour(edit_->parentWidget()->palette()));
+  edit_->setPalette(palette);
+}
+
+}  // namespace fidaleon::qt

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "qt/views/TextView.h"
+
+class QPlainTextEdit;
+
+namespace fidaleon::qt {
+
+/// A field of several lines. Tab leaves it.
+class MemoView : public TextView {
+ public:
+  MemoView(forms::TextBox& box, QWidget* parent);
+  QWidget* widget() const override;
+
+ protected:
+  std::string shownText() const override;
+  void showText(const std::string& text, bool undoable) override;
+  void insertText(const QString& text) override;
+  std::pair<int, int> shownSelection() const override;
+  void showSelection(int start, int length) override;
+  void showLocked() override;
+
+ private:
+  QPlainTextEdit* edit_;
+};
+
+}  // namespace fidaleon::qt

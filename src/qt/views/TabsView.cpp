@@ -1,0 +1,87 @@
+#include "qt/views/TabsView.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QShortcutEvent>
+
+#include "qt/Text.h"
+
+namespace fidaleon::qt {
+
+bool AskingTabBar::event(QEvent* event) {
+  if (event->type() != QEvent::Shortcut) return QTabBar::event(event);
+  const QKeySequence key = static_cast<QShortcutEvent*>(event)->key();
+  for (int tab = 0; tab < count(); ++tab)
+    if (isTabVisible(tab) && QKeySequence::mnemonic(tabText(tab)) == key) ask(tab);
+  return true;
+}
+
+void AskingTabBar::mousePressEvent(QMouseEvent* event) {
+  if (event->button() == Qt::LeftButton && tabAt(event->pos()) >= 0) ask(tabAt(event->pos()));
+}
+
+void AskingTabBar::keyPressEvent(QKeyEvent* event) {
+  const bool back = event->key() == Qt::Key_Left;
+  if (!back && event->key() != Qt::Key_Right) return event->ignore();
+  for (int tab = currentIndex() + (back ? -1 : 1); tab >= 0 && tab < count(); tab += back ? -1 : 1)
+    if (isTabVisible(tab)) return ask(tab);
+}
+
+void AskingTabBar::wheelEvent(QWheelEvent* event) {
+  event->ignore();
+}
+
+class TabsView::Pages : public QTabWidget {
+ public:
+  Pages(QWidget* parent, QTabBar* bar) : QTabWidget(parent) { setTabBar(bar); }
+
+ protected:
+  // Its own keys would switch without asking.
+  void keyPressEvent(QKeyEvent* event) override { event->ignore(); }
+};
+
+TabsView::TabsView(forms::TabStrip& strip, QWidget* parent)
+    : ControlView(strip), strip_(strip), bar_(new AskingTabBar), pages_(new Pages(parent, bar_)) {
+  bar_->setFocusPolicy(Qt::TabFocus);
+  bar_->setElideMode(Qt::ElideNone);
+  bar_->setUsesScrollButtons(true);
+  bar_->ask = [this](int tab) { strip_.userSelect(tab); };
+  watch();
+}
+
+QWidget* TabsView::widget() const {
+  return pages_;
+}
+
+QWidget* TabsView::focusWidget() const {
+  return bar_;
+}
+
+void TabsView::addPage(QWidget* page) {
+  const int tab = pages_->count();
+  pages_->addTab(page, tab < strip_.tabCount() ? toQt(strip_.caption(tab)) : QString());
+}
+
+void TabsView::refresh(forms::Change what) {
+  ControlView::refresh(what);
+  if (what != forms::Change::Tab) return;
+  for (int tab = 0; tab < pages_->count() && tab < strip_.tabCount(); ++tab) {
+    if (pages_->tabText(tab) != toQt(strip_.caption(tab)))
+      pages_->setTabText(tab, toQt(strip_.caption(tab)));
+    if (pages_->isTabVisible(tab) != strip_.tabVisible(tab))
+      pages_->setTabVisible(tab, strip_.tabVisible(tab));
+  }
+  pages_->setCurrentIndex(strip_.tab());
+}
+
+void TabsView::askNext(bool backwards) {
+  const int count = strip_.tabCount();
+  for (int step = 1; step < count; ++step) {
+    const int tab = (strip_.tab() + (backwards ? count - step : step)) % count;
+    if (!strip_.tabVisible(tab)) continue;
+    strip_.userSelect(tab);
+    return;
+  }
+}
+
+}  // namespace fidaleon::qt

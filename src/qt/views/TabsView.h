@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QTabBar>
+#include <QTabWidget>
+#include <functional>
+
+#include "qt/views/ControlView.h"
+
+namespace fidaleon::qt {
+
+/// A row of tabs that asks before it switches.
+class AskingTabBar : public QTabBar {
+ public:
+  using QTabBar::QTabBar;
+  std::function<void(int tab)> ask;
+
+ protected:
+  bool event(QEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void wheelEvent(QWheelEvent* event) override;
+};
+
+class TabsView : public ControlView {
+ public:
+  TabsView(forms::TabStrip& strip, QWidget* parent);
+  QWidget* widget() const override;
+  QWidget* focusWidget() const override;
+  void refresh(forms::Change what) override;
+  void addPage(QWidget* page);
+  /// The next tab that can be seen, around the end.
+  void askNext(bool backwards);
+
+ private:
+  class Pages;
+  forms::TabStrip& strip_;
+  AskingTabBar* bar_;
+  Pages* pages_;
+};
+
+}  // namespace fidaleon::qt
