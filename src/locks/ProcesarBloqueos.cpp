@@ -67,6 +67,8 @@ void ProcesarBloqueos::DefinirBloqueo(DefinicionBloqueo definicion) {
 
 long ProcesarBloqueos::lngEfectuarBloqueos(bool blnSoloComprobar) {
   Outcome outcome;
+  lastError_ = FDAPI::BloqueoSesion;  // stands if a statement of the definitions throws
+  pendingRefused_ = true;
   try {
     outcome = attempt(blnSoloComprobar);
   } catch (const Unusable& e) {

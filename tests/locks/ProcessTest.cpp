@@ -1,0 +1,143 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <chrono>
+#include <csignal>
+#include <fstream>
+
+#include "forms/ScriptedUser.h"
+#include "locks/ProcesarBloqueos.h"
+#include "support/TestWorld.h"
+
+namespace fidaleon::tests {
+namespace {
+
+/// Another process with a session of its own, told by pipes when to go on.
+class OtherProcess {
+ public:
+  template <class Work>
+  explicit OtherProcess(Work work) {
+    if (::pipe(said_) != 0) std::abort();
+    pid_ = ::fork();
+    if (pid_ != 0) return;
+    work(said_[1]);
+    ::_exit(0);
+  }
+  ~OtherProcess() {
+    kill();
+    ::close(said_[0]);
+    ::close(said_[1]);
+  }
+  char hear() {
+    char c = 0;
+    return ::read(said_[0], &c, 1) == 1 ? c : '?';
+  }
+  void kill() {
+    if (pid_ <= 0) return;
+    ::kill(pid_, SIGKILL);
+    int status = 0;
+    ::waitpid(pid_, &status, 0);
+    pid_ = -1;
+  }
+
+ private:
+  int said_[2] = {-1, -1};
+  pid_t pid_ = -1;
+};
+
+void say(int pipe, char c) {
+  if (::write(pipe, &c, 1) != 1) ::_exit(1);
+}
+
+struct Workstation {
+  explicit Workstation(const TempDirectory& directory, const char* name)
+      : session(user, clock, name, name) {
+    user.answerAnything(forms::Answer::Ok);
+    session.Inicializar(directory.path().string());
+  }
+  long lock(const std::string& table, const std::string& record = {}) {
+    FDAPI::DefinicionBloqueo d;
+    d.strTabla = table;
+    d.strRegistro = record;
+    session.DefinirBloqueo(d);
+    return session.lngEfectuarBloqueos();
+  }
+  forms::ScriptedUser user;
+  support::FixedClock clock{text::Date{2026, 11, 22}};
+  locks::ProcesarBloqueos session;
+};
+
+TEST(TwoProcesses, OneHolds_TheOtherIsRefusedUntilItIsKilled) {
+  TempDirectory directory;
+  OtherProcess holder([&](int pipe) {
+    Workstation there(directory, "sacristia");
+    say(pipe, there.lock("Bautismo", "7") == 0 ? 'y' : 'n');
+    for (;;) ::pause();
+  });
+  ASSERT_EQ(holder.hear(), 'y');
+  Workstation here(directory, "despacho");
+  EXPECT_EQ(here.lock("Bautismo", "7"), FDAPI::BloqueoRegistro);
+  ASSERT_FALSE(here.user.messages().empty());
+  EXPECT_THAT(here.user.messages()[0].text,
+              ::testing::HasSubstr("sacristia, en el equipo sacristia"));
+  EXPECT_EQ(here.lock("Bautismo", "8"), 0);
+  holder.kill();
+  const auto start = std::chrono::steady_clock::now();
+  EXPECT_EQ(here.lock("Bautismo", "7"), 0);
+  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(1));
+}
+
+// Killed at any instant of taking and giving back: never a lock left, never a broken directory.
+TEST(TwoProcesses, KilledWhileTakingAndReleasing_LeaveNoLock) {
+  TempDirectory directory;
+  for (int round = 0; round < 40; ++round) {
+    OtherProcess busy([&](int pipe) {
+      Workstation there(directory, "sacristia");
+      say(pipe, 'y');
+      for (;;) {
+        there.lock("Bautismo");
+        there.lock("Confirmacion", "3");
+        there.session.LiberarBloqueo("Bautismo");
+        there.session.LiberarBloqueos();
+      }
+    });
+    ASSERT_EQ(busy.hear(), 'y');
+    ::usleep(static_cast<useconds_t>(137 * round % 2000));
+    busy.kill();
+    Workstation here(directory, "despacho");
+    ASSERT_EQ(here.lock("Bautismo"), 0) << round;
+    ASSERT_EQ(here.lock("Confirmacion", "3"), 0) << round;
+  }
+}
+
+// Each adds one to a number in a file under the lock; none may get lost.
+TEST(TwoProcesses, UnderOneExclusiveLock_WorkOneAfterTheOther) {
+  constexpr int EACH = 100;
+  TempDirectory directory;
+  const std::string counter = (directory.path() / "cuenta").string();
+  std::ofstream(counter) << 0;
+  const auto work = [&](int pipe) {
+    Workstation there(directory, "uno");
+    for (int done = 0; done < EACH;) {
+      if (there.lock("Bautismo") != 0) continue;
+      int n = 0;
+      std::ifstream(counter) >> n;
+      std::ofstream(counter) << n + 1;
+      ++done;
+      there.session.LiberarBloqueos();
+    }
+    say(pipe, 'y');
+  };
+  OtherProcess a(work);
+  OtherProcess b(work);
+  ASSERT_EQ(a.hear(), 'y');
+  ASSERT_EQ(b.hear(), 'y');
+  int n = 0;
+  std::ifstream(counter) >> n;
+  EXPECT_EQ(n, 2 * EACH);
+}
+
+}  // namespace
+}  // namespace fidaleon::tests
