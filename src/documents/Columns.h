@@ -28,7 +28,8 @@ enum class Source {
   IssueMenorca,
 };
 
-/// Which quotes stand around the value in the statement; single ones take any text.
+/// Which quotes stand around the value in the statement. Single ones take any text; a double quote
+/// in a value between double ones breaks the statement, and the document with it.
 enum class Quoting { Double, Single };
 
 struct Column {

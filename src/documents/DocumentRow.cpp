@@ -1,5 +1,6 @@
 #include "documents/DocumentRow.h"
 
+#include "core/contract/EnSacramento.h"
 #include "text/Utf8.h"
 
 namespace fidaleon::documents {
@@ -61,7 +62,7 @@ std::string insertStatement(const DocumentKind& kind, const store::Recordset& en
     names += separator;
     names += column.name;
     values += separator;
-    values += column.quoting == Quoting::Single ? singleQuoted(value) : doubleQuoted(value);
+    values += column.quoting == Quoting::Single ? singleQuoted(value) : entreComillas(value);
   }
   return std::string("INSERT INTO ") + kind.table + " (" + names + ") VALUES (" + values + ")";
 }

@@ -28,10 +28,6 @@ std::string singleQuoted(std::string_view value) {
   return "'" + text::replaceAll(value, "'", "''") + "'";
 }
 
-std::string doubleQuoted(std::string_view value) {
-  return "\"" + std::string(value) + "\"";
-}
-
 bool GenderWords::isBoy(std::string_view sexo) const {
   return sexo == "Hombre" || (blankIsBoy && sexo == BLANK);
 }

@@ -21,8 +21,6 @@ std::string paddedNotes(const std::string& notes);
 
 /// A text between single quotes, its apostrophes doubled.
 std::string singleQuoted(std::string_view value);
-/// A text between double quotes as it is: a double quote in it breaks the statement.
-std::string doubleQuoted(std::string_view value);
 
 /// Words that agree with the child's sex. The register holds "Hombre", "Mujer" or "---".
 struct GenderWords {
