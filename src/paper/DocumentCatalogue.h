@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QString>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace fidaleon::paper {
+
+enum class Edition { Base, Menorca, Santiago };
+
+/// Which template shows what an operation of cNucleo wrote, and under which name.
+struct Document {
+  std::string operation;
+  std::string templateName;
+  QString title;
+  Edition edition = Edition::Base;
+  bool signedByKeeper = false;  // the operation takes the keeper of the archive and a date
+};
+
+const std::vector<Document>& documentCatalogue();
+
+/// Null when no document belongs to the operation.
+const Document* documentOf(std::string_view operation);
+
+}  // namespace fidaleon::paper

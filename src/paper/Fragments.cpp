@@ -1,0 +1,163 @@
+#include "paper/Fragments.h"
+
+#include <QPainter>
+#include <algorithm>
+
+namespace fidaleon::paper {
+
+Fragment::Parts Fragment::split(qreal available, bool must) const {
+  if (must || height() <= available) return {shared_from_this(), nullptr};
+  return {nullptr, shared_from_this()};
+}
+
+void RuleFragment::paint(QPainter& painter, QPointF topLeft) const {
+  painter.fillRect(QRectF(topLeft, QSizeF(width_, thickness_)), Qt::black);
+}
+
+TextFragment::TextFragment(std::shared_ptr<const QTextLayout> layout, int first, int last,
+                           qreal leading)
+    : layout_(std::move(layout)), first_(first), last_(last), leading_(leading) {}
+
+qreal TextFragment::heightOf(int line) const { return layout_->lineAt(line).height() * leading_; }
+
+qreal TextFragment::height() const {
+  qreal sum = 0;
+  for (int i = first_; i < last_; ++i) sum += heightOf(i);
+  return sum;
+}
+
+void TextFragment::paint(QPainter& painter, QPointF topLeft) const {
+  qreal y = topLeft.y();
+  for (int i = first_; i < last_; ++i) {
+    const QTextLine line = layout_->lineAt(i);
+    const qreal lead = (heightOf(i) - line.height()) / 2;
+    line.draw(&painter, {topLeft.x(), y + lead - line.y()});
+    y += heightOf(i);
+  }
+}
+
+FragmentPtr TextFragment::part(int first, int last) const {
+  return std::make_shared<TextFragment>(layout_, first, last, leading_);
+}
+
+Fragment::Parts TextFragment::split(qreal available, bool must) const {
+  const int count = last_ - first_;
+  int fits = 0;
+  for (qreal y = heightOf(first_); fits < count && y <= available;) {
+    ++fits;
+    if (fits < count) y += heightOf(first_ + fits);
+  }
+  if (fits == count) return {shared_from_this(), nullptr};
+  // No single line of a longer paragraph is left alone at the foot or the head of a page.
+  if (count > 3 && fits == count - 1) --fits;
+  if (count > 3 && fits == 1 && !must) fits = 0;
+  if (fits == 0 && must) fits = 1;
+  if (fits == 0) return {nullptr, shared_from_this()};
+  return {part(first_, first_ + fits), part(first_ + fits, last_)};
+}
+
+StackFragment::StackFragment(std::vector<FragmentPtr> children, bool keep)
+    : children_(std::move(children)), keep_(keep), height_(0) {
+  for (const FragmentPtr& c : children_) height_ += c->height();
+}
+
+void StackFragment::paint(QPainter& painter, QPointF topLeft) const {
+  for (const FragmentPtr& c : children_) {
+    c->paint(painter, topLeft);
+    topLeft.ry() += c->height();
+  }
+}
+
+Fragment::Parts StackFragment::split(qreal available, bool must) const {
+  if (height_ <= available) return {shared_from_this(), nullptr};
+  if (keep_ && !must) return {nullptr, shared_from_this()};
+  std::vector<FragmentPtr> head, rest;
+  bool printed = false;
+  for (const FragmentPtr& c : children_) {
+    if (!rest.empty()) {
+      rest.push_back(c);
+      continue;
+    }
+    const Parts parts = c->split(available, must && !printed && !c->isSpace());
+    if (parts.head) {
+      head.push_back(parts.head);
+      available -= parts.head->height();
+      printed = printed || !c->isSpace();
+    }
+    if (parts.rest && !c->isSpace()) rest.push_back(parts.rest);
+  }
+  const auto stack = [](std::vector<FragmentPtr> v) -> FragmentPtr {
+    if (v.empty()) return nullptr;
+    return std::make_shared<StackFragment>(std::move(v), false);
+  };
+  if (!printed && !must) return {nullptr, shared_from_this()};
+  return {stack(std::move(head)), stack(std::move(rest))};
+}
+
+ColumnsFragment::ColumnsFragment(std::vector<Column> columns, Look look)
+    : columns_(std::move(columns)), look_(look), height_(0) {
+  for (const Column& c : columns_)
+    if (c.content) height_ = std::max(height_, c.content->height());
+}
+
+void ColumnsFragment::paint(QPainter& painter, QPointF topLeft) const {
+  for (const Column& c : columns_) {
+    if (c.content) c.content->paint(painter, {topLeft.x() + c.x, topLeft.y()});
+    if (look_.dividerThickness > 0 && &c != &columns_.front())
+      painter.fillRect(QRectF(topLeft.x() + c.x - look_.gap / 2, topLeft.y(),
+                              look_.dividerThickness, height_),
+                       Qt::black);
+  }
+}
+
+Fragment::Parts ColumnsFragment::split(qreal available, bool must) const {
+  if (height_ <= available) return {shared_from_this(), nullptr};
+  if (look_.keep && !must) return {nullptr, shared_from_this()};
+  std::vector<Column> head, rest;
+  bool anyHead = false;
+  bool anyRest = false;
+  for (const Column& c : columns_) {
+    const Parts parts = c.content ? c.content->split(available, must) : Parts{};
+    head.push_back({c.x, parts.head});
+    rest.push_back({c.x, parts.rest});
+    anyHead = anyHead || parts.head;
+    anyRest = anyRest || parts.rest;
+  }
+  if (!anyHead) return {nullptr, shared_from_this()};
+  return {std::make_shared<ColumnsFragment>(std::move(head), look_),
+          anyRest ? std::make_shared<ColumnsFragment>(std::move(rest), look_) : nullptr};
+}
+
+BoxFragment::BoxFragment(FragmentPtr content, Look look)
+    : content_(std::move(content)), look_(look) {}
+
+qreal BoxFragment::height() const {
+  const qreal inside = content_ ? content_->height() : 0;
+  return std::max(look_.leastHeight, inside + 2 * look_.padding);
+}
+
+void BoxFragment::paint(QPainter& painter, QPointF topLeft) const {
+  QPen pen(Qt::black, look_.thickness, look_.dashed ? Qt::DashLine : Qt::SolidLine,
+           Qt::FlatCap, Qt::MiterJoin);
+  painter.save();
+  painter.setPen(pen);
+  painter.setBrush(Qt::NoBrush);
+  const qreal half = look_.thickness / 2;
+  if (look_.thickness > 0)
+    painter.drawRect(
+        QRectF(topLeft, QSizeF(look_.width, height())).adjusted(half, half, -half, -half));
+  painter.restore();
+  if (content_) content_->paint(painter, topLeft + QPointF(look_.padding, look_.padding));
+}
+
+Fragment::Parts BoxFragment::split(qreal available, bool must) const {
+  if (height() <= available) return {shared_from_this(), nullptr};
+  if ((look_.keep && !must) || !content_ || content_->height() + 2 * look_.padding <= available)
+    return Fragment::split(available, must);
+  const Parts parts = content_->split(available - 2 * look_.padding, must);
+  if (!parts.head) return {nullptr, shared_from_this()};
+  return {std::make_shared<BoxFragment>(parts.head, look_),
+          parts.rest ? std::make_shared<BoxFragment>(parts.rest, look_) : nullptr};
+}
+
+}  // namespace fidaleon::paper

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QStringList>
+#include <optional>
+#include <vector>
+
+#include "paper/Template.h"
+#include "paper/XmlTree.h"
+
+namespace fidaleon::paper {
+
+/// The running text of an element: its text with {{Column}} place-holders, b, i, sc, br, if and
+/// unless. Columns not yet in `columns` are added. Throws Error(BrokenTemplate).
+std::vector<Inline> readInlines(const XmlNode& node, QStringList& columns);
+
+/// The condition of the attributes if, unless and matches; empty when none is given.
+struct ConditionText {
+  QString ifColumns;
+  QString unlessColumns;
+  QString pattern;
+};
+std::optional<Condition> readCondition(const XmlNode& node, const ConditionText& text,
+                                       QStringList& columns);
+
+/// Text of blanks only: what stands between the elements of a file.
+bool isBlankText(const XmlNode& node);
+
+[[noreturn]] void failUnknown(const XmlNode& node);
+
+}  // namespace fidaleon::paper

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <string>
+#include <vector>
+
+#include "store/Connection.h"
+
+namespace fidaleon::paper {
+
+/// The rows of a scratch table, as text that may be printed: control characters are taken out.
+class Rows {
+ public:
+  /// All rows of the table, in the order in which they were written. Throws store::Error.
+  Rows(store::Connection& connection, const std::string& table);
+  Rows(QStringList columns, std::vector<std::vector<QString>> rows);
+
+  std::size_t size() const { return rows_.size(); }
+  const QStringList& columns() const { return columns_; }
+  /// A Null column is a null QString. `column` from position().
+  const QString& value(std::size_t row, int column) const {
+    return rows_[row][static_cast<std::size_t>(column)];
+  }
+  /// Position of a column whatever its case; -1 when there is none.
+  int position(const QString& column) const;
+
+  void arrange(const std::vector<std::size_t>& order);
+
+ private:
+  QStringList columns_;
+  std::vector<std::vector<QString>> rows_;
+};
+
+/// One row, as it is handed to the caller's questions about it.
+class Row {
+ public:
+  Row(const Rows& rows, std::size_t index) : rows_(&rows), index_(index) {}
+  /// Empty for Null and for a column that does not exist.
+  QString value(const QString& column) const;
+  std::size_t index() const { return index_; }
+
+ private:
+  const Rows* rows_;
+  std::size_t index_;
+};
+
+/// Null, blanks, "---" and "//": nothing that a reader would miss.
+bool isBlankValue(const QString& value);
+
+}  // namespace fidaleon::paper

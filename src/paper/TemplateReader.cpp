@@ -1,0 +1,276 @@
+#include "paper/TemplateReader.h"
+
+#include <QHash>
+#include <functional>
+
+#include "paper/Error.h"
+#include "paper/InlineReader.h"
+#include "paper/XmlTree.h"
+
+namespace fidaleon::paper {
+namespace {
+
+const QStringList kDefaultFonts{
+    QStringLiteral("Linux Libertine O"), QStringLiteral("Linux Libertine"),
+    QStringLiteral("Libertinus Serif"),  QStringLiteral("TeX Gyre Termes"),
+    QStringLiteral("Liberation Serif"),  QStringLiteral("DejaVu Serif"),
+    QStringLiteral("serif")};
+
+/// Reads the attributes of one element; what is left unread at the end is an error.
+class Attributes {
+ public:
+  explicit Attributes(const XmlNode& node) : node_(node), left_(node.attributes) {}
+
+  QString text(const char* name, const QString& otherwise = {}) {
+    const QString key = QString::fromLatin1(name);
+    return left_.contains(key) ? left_.take(key) : otherwise;
+  }
+
+  qreal number(const char* name, qreal otherwise) {
+    const QString value = text(name);
+    if (value.isNull()) return otherwise;
+    bool ok = false;
+    const qreal n = value.toDouble(&ok);
+    if (!ok || n < 0 || n > 2000)
+      failAt(node_, QStringLiteral("«%1» no es una medida: «%2»").arg(QLatin1String(name), value));
+    return n;
+  }
+
+  bool flag(const char* name, bool otherwise) {
+    return choice<bool>(name, otherwise, {{"yes", true}, {"no", false}});
+  }
+
+  template <class T>
+  T choice(const char* name, T otherwise, std::initializer_list<std::pair<const char*, T>> known) {
+    const QString value = text(name);
+    if (value.isNull()) return otherwise;
+    for (const auto& [word, meaning] : known)
+      if (value == QLatin1String(word)) return meaning;
+    failAt(node_, QStringLiteral("«%1» no admite «%2»").arg(QLatin1String(name), value));
+  }
+
+  void done() {
+    if (!left_.isEmpty())
+      failAt(node_, QStringLiteral("«%1» no tiene el atributo «%2»").arg(node_.name, left_.firstKey()));
+  }
+
+  const XmlNode& node() const { return node_; }
+
+ private:
+  const XmlNode& node_;
+  QMap<QString, QString> left_;
+};
+
+class Reader {
+ public:
+  ReportTemplate read(const XmlNode& root, const std::string& name) {
+    if (root.name != QLatin1String("template"))
+      failAt(root, QStringLiteral("el primer elemento debe ser «template»"));
+    t_.name = QString::fromStdString(name);
+    t_.fonts = kDefaultFonts;
+    Attributes a(root);
+    t_.table = a.text("table");
+    t_.language = a.text("language", t_.language);
+    t_.flow = a.choice<Flow>("flow", Flow::Page,
+                             {{"page", Flow::Page}, {"continuous", Flow::Continuous}});
+    t_.smallestScale = a.number("smallest-scale", 1);
+    a.done();
+    if (t_.table.isEmpty()) failAt(root, QStringLiteral("falta el atributo «table»"));
+    for (const XmlNode& child : root.children) readTop(child);
+    if (t_.body.empty()) failAt(root, QStringLiteral("falta el elemento «body»"));
+    return std::move(t_);
+  }
+
+ private:
+  void readTop(const XmlNode& node) {
+    static const QHash<QString, void (Reader::*)(const XmlNode&)> known{
+        {QStringLiteral("page"), &Reader::readPage},
+        {QStringLiteral("font"), &Reader::readFont},
+        {QStringLiteral("style"), &Reader::readStyle},
+        {QStringLiteral("formula"), &Reader::readFormula},
+        {QStringLiteral("header"), &Reader::readHeader},
+        {QStringLiteral("footer"), &Reader::readFooter},
+        {QStringLiteral("body"), &Reader::readBody},
+    };
+    if (isBlankText(node)) return;
+    const auto found = known.find(node.name);
+    if (found == known.end()) failUnknown(node);
+    (this->*found.value())(node);
+  }
+
+  void readPage(const XmlNode& node) {
+    Attributes a(node);
+    t_.page = {a.number("width", 210), a.number("height", 297)};
+    t_.marginTop = a.number("top", t_.marginTop);
+    t_.marginRight = a.number("right", t_.marginRight);
+    t_.marginBottom = a.number("bottom", t_.marginBottom);
+    t_.marginLeft = a.number("left", t_.marginLeft);
+    a.done();
+    if (t_.page.width() - t_.marginLeft - t_.marginRight < 30 ||
+        t_.page.height() - t_.marginTop - t_.marginBottom < 30)
+      failAt(node, QStringLiteral("los márgenes no dejan sitio al texto"));
+  }
+
+  void readFont(const XmlNode& node) {
+    Attributes a(node);
+    const QString family = a.text("family");
+    if (!family.isEmpty()) t_.fonts.prepend(family);
+    base_ = styleOf(a, base_);
+    a.done();
+  }
+
+  void readStyle(const XmlNode& node) {
+    Attributes a(node);
+    const QString name = a.text("name");
+    if (name.isEmpty()) failAt(node, QStringLiteral("falta el atributo «name»"));
+    styles_[name] = styleOf(a, base_);
+    a.done();
+  }
+
+  void readFormula(const XmlNode& node) {
+    Attributes a(node);
+    Formula f;
+    f.name = a.text("name");
+    f.as = a.choice<Formula::As>("as", Formula::As::Text,
+                                 {{"text", Formula::As::Text},
+                                  {"number", Formula::As::Number},
+                                  {"date", Formula::As::Date}});
+    a.done();
+    if (f.name.isEmpty()) failAt(node, QStringLiteral("falta el atributo «name»"));
+    f.text = readInlines(node, t_.columns);
+    t_.formulas.push_back(std::move(f));
+  }
+
+  void readHeader(const XmlNode& node) { readFurniture(node, t_.header); }
+  void readFooter(const XmlNode& node) { readFurniture(node, t_.footer); }
+
+  void readFurniture(const XmlNode& node, Furniture& f) {
+    Attributes a(node);
+    f.fromPage = static_cast<int>(a.number("from", 1));
+    f.onlyWhenSeveral = a.flag("only-when-several", false);
+    a.done();
+    f.blocks = readBlocks(node);
+  }
+
+  void readBody(const XmlNode& node) {
+    Attributes(node).done();
+    for (Block& block : readBlocks(node)) t_.body.push_back(std::move(block));
+  }
+
+  std::vector<Block> readBlocks(const XmlNode& node) {
+    std::vector<Block> blocks;
+    for (const XmlNode& child : node.children)
+      if (!isBlankText(child)) blocks.push_back(readBlock(child));
+    return blocks;
+  }
+
+  Block readBlock(const XmlNode& node) {
+    using Read = void (Reader::*)(Attributes&, Block&);
+    static const QHash<QString, std::pair<Block::Kind, Read>> known{
+        {QStringLiteral("p"), {Block::Kind::Paragraph, &Reader::readParagraph}},
+        {QStringLiteral("group"), {Block::Kind::Group, &Reader::readGroup}},
+        {QStringLiteral("column"), {Block::Kind::Group, &Reader::readGroup}},
+        {QStringLiteral("columns"), {Block::Kind::Columns, &Reader::readColumns}},
+        {QStringLiteral("box"), {Block::Kind::Box, &Reader::readBox}},
+        {QStringLiteral("field"), {Block::Kind::Field, &Reader::readField}},
+        {QStringLiteral("rule"), {Block::Kind::Rule, &Reader::readRule}},
+        {QStringLiteral("space"), {Block::Kind::Space, &Reader::readSpace}},
+    };
+    const auto found = known.find(node.name);
+    if (found == known.end()) failUnknown(node);
+    Block block;
+    block.kind = found->first;
+    Attributes a(node);
+    block.condition = readCondition(
+        node, {a.text("if"), a.text("unless"), a.text("matches")}, t_.columns);
+    (this->*found->second)(a, block);
+    a.done();
+    return block;
+  }
+
+  void readParagraph(Attributes& a, Block& block) {
+    block.style = namedStyle(a);
+    block.text = readInlines(a.node(), t_.columns);
+  }
+
+  void readGroup(Attributes& a, Block& block) {
+    block.keep = a.flag("keep", false);
+    block.width = a.number("width", 0);
+    block.children = readBlocks(a.node());
+  }
+
+  void readColumns(Attributes& a, Block& block) {
+    block.gap = a.number("gap", 5);
+    block.divider = a.flag("divider", false);
+    block.keep = a.flag("keep", false);
+    block.children = readBlocks(a.node());
+    for (const XmlNode& child : a.node().children)
+      if (!isBlankText(child) && child.name != QLatin1String("column"))
+        failAt(child, QStringLiteral("«columns» solo contiene «column»"));
+  }
+
+  void readBox(Attributes& a, Block& block) {
+    block.padding = a.number("padding", 2);
+    block.thickness = a.number("thickness", block.thickness);
+    block.height = a.number("height", 0);
+    block.dashed = a.flag("dashed", false);
+    block.keep = a.flag("keep", false);
+    block.children = readBlocks(a.node());
+  }
+
+  void readField(Attributes& a, Block& block) {
+    XmlNode label = a.node();
+    label.children = {{{}, a.text("label"), {}, {}, label.file, label.line}};
+    block.label = readInlines(label, t_.columns);
+    block.width = a.number("label-width", 0);
+    block.writeIn = a.flag("write-in", false);
+    block.style = namedStyle(a);
+    block.labelStyle = styles_.value(QStringLiteral("label"), base_);
+    block.text = readInlines(a.node(), t_.columns);
+  }
+
+  void readRule(Attributes& a, Block& block) {
+    block.thickness = a.number("thickness", block.thickness);
+    block.style.before = a.number("before", 0);
+    block.style.after = a.number("after", 0);
+  }
+
+  void readSpace(Attributes& a, Block& block) { block.height = a.number("height", 4); }
+
+  TextStyle namedStyle(Attributes& a) {
+    const QString name = a.text("style");
+    if (!name.isEmpty() && !styles_.contains(name))
+      failAt(a.node(), QStringLiteral("no hay ningún estilo «%1»").arg(name));
+    return styleOf(a, name.isEmpty() ? base_ : styles_[name]);
+  }
+
+  static TextStyle styleOf(Attributes& a, TextStyle s) {
+    s.size = a.number("size", s.size);
+    s.bold = a.flag("bold", s.bold);
+    s.italic = a.flag("italic", s.italic);
+    s.smallCaps = a.flag("small-caps", s.smallCaps);
+    s.tracking = a.number("tracking", s.tracking);
+    s.leading = a.number("leading", s.leading);
+    s.before = a.number("before", s.before);
+    s.after = a.number("after", s.after);
+    s.indent = a.number("indent", s.indent);
+    s.align = a.choice<Qt::Alignment>("align", s.align,
+                                      {{"left", Qt::AlignLeft},
+                                       {"right", Qt::AlignRight},
+                                       {"center", Qt::AlignHCenter},
+                                       {"justify", Qt::AlignJustify}});
+    return s;
+  }
+
+  ReportTemplate t_;
+  TextStyle base_;
+  QHash<QString, TextStyle> styles_;
+};
+
+}  // namespace
+
+ReportTemplate readTemplate(const std::filesystem::path& directory, const std::string& name) {
+  return Reader().read(readXml(directory / (name + ".xml")), name);
+}
+
+}  // namespace fidaleon::paper

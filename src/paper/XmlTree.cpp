@@ -1,0 +1,92 @@
+#include "paper/XmlTree.h"
+
+#include <QFile>
+#include <QXmlStreamReader>
+
+#include "paper/Error.h"
+
+namespace fidaleon::paper {
+namespace {
+
+constexpr int kDeepestInclude = 4;
+constexpr int kDeepestNesting = 60;
+
+QString nameOf(const std::filesystem::path& file) {
+  return QString::fromStdString(file.filename().string());
+}
+
+class TreeReader {
+ public:
+  TreeReader(QFile& device, const std::filesystem::path& file, int depth)
+      : xml_(&device), file_(file), depth_(depth) {}
+
+  XmlNode readRoot() {
+    if (xml_.readNextStartElement()) {
+      XmlNode root = readElement(0);
+      while (!xml_.atEnd()) xml_.readNext();
+      if (!xml_.hasError()) return root;
+    }
+    failHere(xml_.hasError() ? xml_.errorString() : QStringLiteral("el archivo está vacío"));
+  }
+
+ private:
+  XmlNode readElement(int nesting) {
+    XmlNode node{xml_.name().toString(), {}, {}, {}, nameOf(file_), xml_.lineNumber()};
+    if (nesting > kDeepestNesting) failAt(node, QStringLiteral("demasiados elementos anidados"));
+    for (const QXmlStreamAttribute& a : xml_.attributes())
+      node.attributes.insert(a.name().toString(), a.value().toString());
+    while (!xml_.atEnd()) {
+      const auto token = xml_.readNext();
+      if (token == QXmlStreamReader::EndElement) return node;
+      if (token == QXmlStreamReader::Characters)
+        node.children.push_back(
+            {{}, xml_.text().toString(), {}, {}, nameOf(file_), xml_.lineNumber()});
+      if (token == QXmlStreamReader::StartElement) addChild(node, readElement(nesting + 1));
+    }
+    failHere(xml_.errorString());
+  }
+
+  void addChild(XmlNode& parent, XmlNode child) {
+    if (child.name != QLatin1String("include")) {
+      parent.children.push_back(std::move(child));
+      return;
+    }
+    const QString name = child.attributes.value(QStringLiteral("file"));
+    if (name.isEmpty() || name.contains(QLatin1Char('/')))
+      failAt(child, QStringLiteral("«include» necesita «file», un archivo de la misma carpeta"));
+    if (depth_ >= kDeepestInclude) failAt(child, QStringLiteral("demasiados «include» anidados"));
+    XmlNode included = readXml(file_.parent_path() / name.toStdString(), depth_ + 1);
+    for (XmlNode& c : included.children) parent.children.push_back(std::move(c));
+  }
+
+  [[noreturn]] void failHere(const QString& message) {
+    failAt({{}, {}, {}, {}, nameOf(file_), xml_.lineNumber()}, message);
+  }
+
+  QXmlStreamReader xml_;
+  std::filesystem::path file_;
+  int depth_;
+};
+
+}  // namespace
+
+void failAt(const XmlNode& node, const QString& message) {
+  throw Error(ErrorKind::BrokenTemplate,
+              QStringLiteral("La plantilla «%1» está dañada (línea %2): %3.")
+                  .arg(node.file)
+                  .arg(node.line)
+                  .arg(message)
+                  .toStdString());
+}
+
+XmlNode readXml(const std::filesystem::path& file, int depth) {
+  QFile device(QString::fromStdString(file.string()));
+  if (!device.open(QIODevice::ReadOnly))
+    throw Error(ErrorKind::MissingTemplate,
+                QStringLiteral("No se encuentra la plantilla del documento: %1 (%2).")
+                    .arg(device.fileName(), device.errorString())
+                    .toStdString());
+  return TreeReader(device, file, depth).readRoot();
+}
+
+}  // namespace fidaleon::paper

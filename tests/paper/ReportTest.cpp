@@ -1,0 +1,278 @@
+// The engine: pages, order, marks, files, and templates that are missing or broken.
+
+#include "paper/Report.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <QPainter>
+#include <QPrinter>
+#include <fstream>
+
+#include "paper/PdfText.h"
+#include "paper/Rows.h"
+
+namespace fidaleon::paper::test {
+namespace {
+
+using ::testing::HasSubstr;
+using ::testing::Not;
+
+const std::string kSmall =
+    "<template table='Documentos_Bautismo'><body><p>[{{NombreHijo}}]</p></body></template>";
+
+class Engine : public ::testing::Test {
+ protected:
+  Report small(const std::string& content, ReportOptions options = {}) {
+    folder_.write("prueba.xml", content);
+    return Report(*reports_, folder_.path(), "prueba", "Prueba", std::move(options));
+  }
+
+  std::string messageOf(const std::string& content, ErrorKind kind, ReportOptions options = {}) {
+    try {
+      small(content, std::move(options));
+    } catch (const Error& e) {
+      EXPECT_EQ(e.kind(), kind) << e.what();
+      return e.what();
+    }
+    ADD_FAILURE() << "no error";
+    return {};
+  }
+
+  void child(const std::string& name, const std::string& date = "", const std::string& folio = "",
+             const std::string& number = "") {
+    insert(*reports_, {{"NombreHijo", name},
+                       {"FechaBautismoCorta", date},
+                       {"Folio", folio},
+                       {"Numero", number}});
+  }
+
+  TemporaryFolder folder_;
+  std::unique_ptr<store::Connection> reports_ = store::memoryDatabase(store::reportsSchema());
+};
+
+TEST_F(Engine, emptyTable_hasNoPages) { EXPECT_EQ(small(kSmall).pageCount(), 0); }
+
+TEST_F(Engine, valuesAreText_neverMarkup) {
+  child("<b>A & B</b> \"c\" {{Libro}} ñ Ç 中 🎉\x01");
+  const std::string text = pdfText(small(kSmall));
+  EXPECT_THAT(text, HasSubstr("[<b>A & B</b> \"c\" {{Libro}} ñ Ç"));
+}
+
+TEST_F(Engine, wordWiderThanTheLine_isBrokenNotCut) {
+  child(std::string(400, 'x') + "FIN");
+  const std::string text = pdfText(small(kSmall));
+  EXPECT_EQ(std::count(text.begin(), text.end(), 'x'), 400);
+}
+
+TEST_F(Engine, samePage_isPaintedTheSameTwice) {
+  child("Ana");
+  EXPECT_EQ(small(kSmall).pageImage(0, 96), small(kSmall).pageImage(0, 96));
+}
+
+TEST_F(Engine, pageImage_hasTheSizeOfTheSheet) {
+  child("Ana");
+  EXPECT_EQ(small(kSmall).pageImage(0, 254).size(), QSize(2100, 2970));
+}
+
+TEST_F(Engine, pdf_isA4WithTitleAndEmbeddedFonts) {
+  child("Añón");
+  const auto file = folder_.path() / "a.pdf";
+  small(kSmall).savePdf(file);
+  const std::string info = outputOf("pdfinfo '" + file.string() + "'");
+  EXPECT_THAT(info, HasSubstr("Prueba"));
+  EXPECT_THAT(info, HasSubstr("A4"));
+  const std::string fonts = outputOf("pdffonts '" + file.string() + "' | tail -n +3");
+  EXPECT_THAT(fonts, HasSubstr("yes"));
+  EXPECT_THAT(fonts, HasSubstr("Libertine"));
+}
+
+TEST_F(Engine, mark_isPaintedOnTheRowsAskedFor) {
+  child("Ana");
+  child("Eva");
+  ReportOptions options;
+  options.mark = [](const Row& row) {
+    return row.value("NombreHijo") == "Eva" ? QStringLiteral("ANULADA") : QString();
+  };
+  const Report marked = small(kSmall, options);
+  const Report plain = small(kSmall);
+  ASSERT_EQ(marked.pageCount(), 2);
+  EXPECT_EQ(marked.pageImage(0, 50), plain.pageImage(0, 50));
+  EXPECT_NE(marked.pageImage(1, 50), plain.pageImage(1, 50));
+  EXPECT_THAT(pdfText(marked), HasSubstr("ANULADA"));
+}
+
+const std::string kSorted =
+    "<template table='Documentos_Bautismo' flow='continuous'>"
+    "<formula name='FechaBautismo' as='date'>{{FechaBautismoCorta}}</formula>"
+    "<formula name='Folio' as='number'>{{Folio}}</formula>"
+    "<formula name='Numero' as='number'>{{Numero}}</formula>"
+    "<formula name='Nombre'>{{NombreHijo}}</formula>"
+    "<body><p>{{NombreHijo}}</p></body></template>";
+
+TEST_F(Engine, orderString_sortsByDateFolioAndNumber) {
+  child("c10", "02/01/2004", "3", "10");
+  child("a", "31/12/2003", "9", "1");
+  child("c2", "02/01/2004", "3", "2");
+  child("c2a", "02/01/2004", "3", "2a");
+  child("b", "02/01/2004", "2", "11");
+  ReportOptions options;
+  options.order = "+{@FechaBautismo},+{@Folio},+{@Numero}";
+  EXPECT_THAT(pdfText(small(kSorted, options)), HasSubstr("a b c2 c2a c10"));
+  options.order = "-{@Folio},+{@Nombre}";
+  EXPECT_THAT(pdfText(small(kSorted, options)), HasSubstr("a c10 c2 c2a b"));
+}
+
+TEST_F(Engine, orderByName_isSpanish) {
+  for (const char* name : {"Ñuño", "Óscar", "Nuria", "andrés"}) child(name);
+  ReportOptions options;
+  options.order = "+{@Nombre}";
+  EXPECT_THAT(pdfText(small(kSorted, options)), HasSubstr("andrés Nuria Ñuño Óscar"));
+}
+
+TEST_F(Engine, orderStringThatNamesNoFormula_isRefused) {
+  child("Ana");
+  ReportOptions options;
+  options.order = "+{@FechaCreacion}";
+  EXPECT_THAT(messageOf(kSorted, ErrorKind::BadOrder, options), HasSubstr("FechaCreacion"));
+  options.order = "FechaBautismo";
+  EXPECT_THAT(messageOf(kSorted, ErrorKind::BadOrder, options), HasSubstr("orden"));
+}
+
+TEST_F(Engine, continuousRows_areNotCutWhereTheyFitOnAPage) {
+  for (int i = 0; i < 20; ++i) child("n" + std::to_string(i) + "f");
+  const Report r = small(
+      "<template table='Documentos_Bautismo' flow='continuous'>"
+      "<page width='100' height='100' top='5' bottom='5' left='5' right='5'/>"
+      "<header><p>Folios {{@Pagina}} de {{@Paginas}}</p></header>"
+      "<body><p>{{NombreHijo}}</p><space height='25'/><p>fin</p></body></template>");
+  EXPECT_EQ(r.pageCount(), 10);
+  const std::string text = pdfText(r);
+  EXPECT_THAT(text, HasSubstr("Folios 2 de 10 n2f fin n3f fin"));
+}
+
+TEST_F(Engine, progressThatSaysNo_cancels) {
+  for (int i = 0; i < 5; ++i) child("Ana");
+  std::size_t seen = 0;
+  ReportOptions options;
+  options.progress = [&](std::size_t done, std::size_t) { return (seen = done) < 3; };
+  messageOf(kSmall, ErrorKind::Cancelled, options);
+  EXPECT_EQ(seen, 3U);
+}
+
+TEST_F(Engine, cancelledWhileWriting_leavesNoFile) {
+  child("Ana");
+  child("Eva");
+  bool laidOut = false;
+  ReportOptions options;
+  options.progress = [&](std::size_t, std::size_t) { return !laidOut; };
+  const Report r = small(kSmall, options);
+  laidOut = true;
+  const TemporaryFolder target;
+  EXPECT_THROW(r.savePdf(target.path() / "a.pdf"), Error);
+  EXPECT_TRUE(std::filesystem::is_empty(target.path()));
+}
+
+TEST_F(Engine, folderThatDoesNotExist_isSaidAndNothingIsLeft) {
+  child("Ana");
+  const Report r = small(kSmall);
+  try {
+    r.savePdf(folder_.path() / "no existe" / "a.pdf");
+    FAIL();
+  } catch (const Error& e) {
+    EXPECT_EQ(e.kind(), ErrorKind::CannotWrite);
+    EXPECT_THAT(e.what(), HasSubstr("No se puede guardar el documento en"));
+  }
+}
+
+TEST_F(Engine, diskThatFillsUp_leavesTheOldFile) {
+  child("Ana");
+  const Report r = small(kSmall);
+  EXPECT_THROW(r.savePdf("/dev/full"), Error);
+  EXPECT_THROW(r.savePdf(folder_.path()), Error);
+  EXPECT_TRUE(std::filesystem::is_directory(folder_.path()));
+}
+
+TEST_F(Engine, printer_printsTheRangeAskedFor) {
+  for (const char* name : {"uno", "dos", "tres", "cuatro"}) child(name);
+  QPrinter printer;
+  printer.setOutputFormat(QPrinter::PdfFormat);
+  const auto file = folder_.path() / "p.pdf";
+  printer.setOutputFileName(QString::fromStdString(file.string()));
+  printer.setFromTo(2, 3);
+  small(kSmall).print(printer);
+  const std::string text = outputOf("pdftotext '" + file.string() + "' -");
+  EXPECT_THAT(text, HasSubstr("dos"));
+  EXPECT_THAT(text, HasSubstr("tres"));
+  EXPECT_THAT(text, Not(HasSubstr("uno")));
+  EXPECT_THAT(text, Not(HasSubstr("cuatro")));
+}
+
+TEST_F(Engine, printerThatCannotStart_isSaid) {
+  child("Ana");
+  QPrinter printer;
+  printer.setOutputFormat(QPrinter::PdfFormat);
+  printer.setOutputFileName(QStringLiteral("/no/existe/p.pdf"));
+  try {
+    small(kSmall).print(printer);
+    FAIL();
+  } catch (const Error& e) {
+    EXPECT_EQ(e.kind(), ErrorKind::NoPrinter);
+  }
+}
+
+TEST_F(Engine, missingTemplate_isSaid) {
+  try {
+    Report(*reports_, folder_.path(), "no_existe", "x");
+    FAIL();
+  } catch (const Error& e) {
+    EXPECT_EQ(e.kind(), ErrorKind::MissingTemplate);
+    EXPECT_THAT(e.what(), HasSubstr("no_existe.xml"));
+  }
+}
+
+struct Broken {
+  const char* body;
+  const char* says;
+};
+
+TEST_F(Engine, brokenTemplates_areNamedWithFileAndReason) {
+  const auto wrap = [](const std::string& body) {
+    return "<template table='Documentos_Bautismo'>\n<body>" + body + "</body></template>";
+  };
+  for (const Broken& b : std::initializer_list<Broken>{
+           {"<p>{{NombreHijo}</p>", "llaves"},
+           {"<p>{{NombreHijo|grande}}</p>", "no se entiende"},
+           {"<p colour='red'>a</p>", "colour"},
+           {"<p style='nada'>a</p>", "ningún estilo «nada»"},
+           {"<table/>", "no se conoce el elemento «table»"},
+           {"<p><if>a</if></p>", "falta el atributo «column»"},
+           {"<p if='Libro' matches='('>a</p>", "matches"},
+           {"<p size='grande'>a</p>", "no es una medida"},
+           {"suelto", "texto fuera"},
+           {"<include file='../x.xml'/>", "include"},
+           {"<p>sin cerrar", "línea"},
+           {"", "falta el elemento «body»"}}) {
+    const std::string message = messageOf(wrap(b.body), ErrorKind::BrokenTemplate);
+    EXPECT_THAT(message, HasSubstr(b.says));
+    EXPECT_THAT(message, HasSubstr("«prueba.xml»"));
+  }
+  messageOf("", ErrorKind::BrokenTemplate);
+  messageOf(wrap("<include file='prueba.xml'/>"), ErrorKind::BrokenTemplate);
+}
+
+TEST_F(Engine, columnThatTheTableLacks_isNamed) {
+  const std::string message =
+      messageOf("<template table='Documentos_Bautismo'><body><p>{{Nombres}}</p></body></template>",
+                ErrorKind::MissingColumn);
+  EXPECT_THAT(message, HasSubstr("«Nombres»"));
+  EXPECT_THAT(message, HasSubstr("Documentos_Bautismo"));
+}
+
+TEST_F(Engine, tableThatDoesNotExist_isAStoreError) {
+  folder_.write("prueba.xml", "<template table='Nada'><body><p>a</p></body></template>");
+  EXPECT_THROW(Report(*reports_, folder_.path(), "prueba", "x"), store::Error);
+}
+
+}  // namespace
+}  // namespace fidaleon::paper::test
