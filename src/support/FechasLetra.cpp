@@ -33,6 +33,9 @@ constexpr std::array<const char*, 12> MESOS{
     "de gener",  "de febrer", "de març",     "d'abril",   "de maig",     "de juny",
     "de juliol", "d'agost",   "de setembre", "d'octubre", "de novembre", "de desembre"};
 
+// A stored date that is no day of the calendar ("20030230") is not to be read as one of antiquity.
+constexpr int EARLIEST_TURNED = 1000;
+
 std::string underHundred(int n) {
   if (n <= 31) return NUMEROS.at(n - 1);
   const std::string tens = DECENAS.at(n / 10 - 3);
@@ -57,7 +60,8 @@ std::optional<text::Date> fechaDeDocumento(std::string_view fecha) {
   if (fecha.size() != 8) return std::nullopt;
   const std::string turned = std::string(fecha.substr(4, 4)) + std::string(fecha.substr(2, 2)) +
                              std::string(fecha.substr(0, 2));
-  return text::parseStored(turned);
+  const auto d = text::parseStored(turned);
+  return d && d->year >= EARLIEST_TURNED ? d : std::nullopt;
 }
 
 std::string numeroEnCastellano(int n) {

@@ -1,0 +1,255 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "support/Catalogos.h"
+#include "support/TestWorld.h"
+#include "support/frmInstitucion.h"
+#include "support/frmMunicipio.h"
+#include "support/frmProvincia.h"
+
+namespace fidaleon::support {
+namespace {
+
+using forms::FormDriver;
+using tests::TestWorld;
+
+class Catalogues : public ::testing::Test {
+ protected:
+  template <class Dialog>
+  bool edit(std::int32_t id) {
+    Dialog dialog(w.user, w.settings, w.clock, w.con(), w.config, id);
+    dialog.Show();
+    return dialog.aceptado();
+  }
+  bool addProvince() {
+    bool added = false;
+    w.contexto.fidaleon()->NuevaProvincia(added, w.con(), w.config);
+    return added;
+  }
+  bool addTown() {
+    bool added = false;
+    w.contexto.fidaleon()->NuevoMunicipio(added, w.con(), w.config);
+    return added;
+  }
+  void TearDown() override { EXPECT_SCRIPT_DONE(w.user); }
+  TestWorld w;
+};
+
+TEST_F(Catalogues, NewProvince_IsStoredAndIsTheHighestKey) {
+  w.user.expectForm("frmProvincia", [](FormDriver& u) {
+    EXPECT_EQ(u.caption(), "Agregar provincia");
+    u.type("txtNombre", "  La \"Isla\"  ");
+    u.click("cmdBoton(0)");
+  });
+  EXPECT_TRUE(addProvince());
+  EXPECT_EQ(w.value("SELECT Nombre FROM Provincia WHERE IDProvincia IN (SELECT MAX(IDProvincia) "
+                    "FROM Provincia)"),
+            "La ''Isla''");
+}
+
+TEST_F(Catalogues, ProvinceWithoutNameOrTwice_IsRefusedAndStaysToBeMended) {
+  w.user.expectForm("frmProvincia", [this](FormDriver& u) {
+    w.user.expectMessage("Falta rellenar el campo «NOMBRE».");
+    u.click("cmdBoton(0)");
+    EXPECT_EQ(u.focused(), "txtNombre");
+    u.type("txtNombre", "MADRID");
+    w.user.expectMessage("¡Ya existe una provincia con ese nombre!");
+    u.enter();
+    EXPECT_EQ(u.text("txtNombre"), "MADRID");
+    u.type("txtNombre", "Nueva");
+    u.type("txtCodigoOficial", "28");
+    w.user.expectMessage("¡Ya existe una provincia con ese código oficial!");
+    u.click("cmdBoton(0)");
+    u.escape();
+  });
+  EXPECT_FALSE(addProvince());
+  EXPECT_EQ(w.count("Provincia"), 52);
+}
+
+TEST_F(Catalogues, ProvinceEdited_KeepsItsKeyAndMayKeepItsName) {
+  const auto id = w.provincia("Gerona de prueba");
+  w.user.expectForm("frmProvincia", [](FormDriver& u) {
+    EXPECT_EQ(u.text("txtNombre"), "Gerona de prueba");
+    u.click("cmdBoton(0)");
+  });
+  EXPECT_TRUE(edit<frmProvincia>(id));
+  w.user.expectForm("frmProvincia", [](FormDriver& u) {
+    u.type("txtNombre", "Girona de prueba");
+    u.click("cmdBoton(0)");
+  });
+  EXPECT_TRUE(edit<frmProvincia>(id));
+  EXPECT_EQ(w.provincia("Girona de prueba"), id);
+  EXPECT_EQ(w.count("Provincia"), 53);
+}
+
+TEST_F(Catalogues, RowGoneBeforeEditing_IsToldAndNothingOpens) {
+  w.user.expectMessage(
+      textoError("La provincia ya no existe.", "FidaleonSoporte", "frmProvincia", "Form_Load()"));
+  EXPECT_FALSE(edit<frmProvincia>(999));
+}
+
+TEST_F(Catalogues, NewTown_NeedsItsProvinceWhichCanBeAdded) {
+  w.user.expectForm("frmMunicipio", [this](FormDriver& u) {
+    u.type("txtNombre", "Castrillo");
+    w.user.expectMessage("Falta rellenar el campo «PROVINCIA».");
+    u.click("cmdBoton(0)");
+    w.user.expectForm("frmProvincia", [](FormDriver& p) {
+      p.type("txtNombre", "Tierra de Campos");
+      p.click("cmdBoton(0)");
+    });
+    u.click("cmdAltaProvincia");
+    EXPECT_EQ(u.text("cboProvincia"), "Tierra de Campos");
+    u.type("txtNombre", " ");
+    w.user.expectMessage("Falta rellenar el campo «NOMBRE».");
+    u.click("cmdBoton(0)");
+    u.type("txtNombre", "Castrillo");
+    u.click("cmdBoton(0)");
+  });
+  EXPECT_TRUE(addTown());
+  EXPECT_EQ(w.value("SELECT CodProvincia FROM Municipio WHERE Nombre=\"Castrillo\""),
+            std::to_string(w.provincia("Tierra de Campos")));
+}
+
+TEST_F(Catalogues, TownTwice_IsRefusedInOneProvinceOnly) {
+  w.municipio("Villanueva", "Madrid");
+  w.user.expectForm("frmMunicipio", [this](FormDriver& u) {
+    u.choose("cboProvincia", "Madrid");
+    u.type("txtNombre", "villanueva");
+    w.user.expectMessage("¡Ya existe un municipio con ese nombre en la provincia!");
+    u.click("cmdBoton(0)");
+    u.choose("cboProvincia", "Toledo");
+    u.click("cmdBoton(0)");
+  });
+  EXPECT_TRUE(addTown());
+  EXPECT_EQ(w.count("Municipio"), 2);
+}
+
+TEST_F(Catalogues, NewInstitution_ComesWithItsLastValues) {
+  const auto town = w.municipio("Getafe", "Madrid");
+  w.user.expectForm("frmInstitucion", [](FormDriver& u) {
+    EXPECT_EQ(u.text("txtInstitucion(1)"), "Parroquia de");
+    u.type("txtInstitucion(0)", "San \"José\"");
+    u.type("txtInstitucion(7)", "R0800010A");
+    EXPECT_EQ(u.text("txtInstitucion(2)"), "San ''José''");
+    u.choose("cboProvincia", "Madrid");
+    u.choose("cboPoblacion", "Getafe");
+    u.type("txtInstitucion(4)", "28901");
+    u.type("txtInstitucion(8)", "Getafe");
+    u.type("txtInstitucion(11)", "Pedro Ruiz");
+    u.click("cmdBoton(0)");
+  });
+  w.contexto.fidaleon()->NuevaInstitucion(w.con(), w.config);
+  const store::Recordset rs = w.con().Execute("SELECT * FROM Institucion");
+  ASSERT_EQ(rs.RecordCount(), 1);
+  EXPECT_EQ(rs.text("Nombre"), "San ''José''");
+  EXPECT_EQ(rs.text("InstitucionTipo"), "Parroquia de");
+  EXPECT_EQ(rs.integer("CodMunicipio"), town);
+  EXPECT_EQ(rs.text("CIF"), "R0800010A");
+  EXPECT_EQ(rs.text("Parroco"), "Pedro Ruiz");
+  EXPECT_EQ(rs.text("Vicaria"), "");
+  EXPECT_EQ(w.value("SELECT IDInstitucion FROM Ultimos"), rs.text("IDInstitucion"));
+}
+
+TEST_F(Catalogues, InstitutionWithBadData_IsRefusedFieldByField) {
+  w.institucion("San Pedro");
+  w.user.expectForm("frmInstitucion", [this](FormDriver& u) {
+    w.user.expectMessage("Falta rellenar el campo «NOMBRE».");
+    u.click("cmdBoton(0)");
+    u.type("txtInstitucion(0)", "san pedro");
+    w.user.expectMessage("¡Ya existe una institución con ese nombre!");
+    u.click("cmdBoton(0)");
+    u.type("txtInstitucion(0)", "San Pablo");
+    u.type("txtInstitucion(7)", "R0800010X");
+    w.user.expectMessage("¡El C.I.F. no es válido!");
+    u.click("cmdBoton(0)");
+    EXPECT_EQ(u.focused(), "txtInstitucion(7)");
+    u.type("txtInstitucion(7)", "");
+    u.type("txtInstitucion(4)", "280");
+    w.user.expectMessage("¡El código postal debe tener cinco cifras!");
+    u.click("cmdBoton(0)");
+    u.click("cmdBoton(1)");
+  });
+  w.contexto.fidaleon()->NuevaInstitucion(w.con(), w.config);
+  EXPECT_EQ(w.count("Institucion"), 1);
+  EXPECT_EQ(w.count("Ultimos"), 1);
+}
+
+TEST_F(Catalogues, InstitutionEdited_KeepsWhatWasNotTouched) {
+  const auto town = w.municipio("Getafe", "Madrid");
+  const auto id = w.institucion("San Pedro", town);
+  w.user.expectForm("frmInstitucion", [](FormDriver& u) {
+    EXPECT_EQ(u.caption(), "Propiedades de la institución");
+    EXPECT_EQ(u.text("cboPoblacion"), "Getafe");
+    u.type("txtInstitucion(11)", "Juan \"el bueno\"");
+    u.click("cmdBoton(0)");
+  });
+  EXPECT_TRUE(edit<frmInstitucion>(id));
+  const store::Recordset rs = w.con().Execute("SELECT * FROM Institucion");
+  EXPECT_EQ(rs.text("Parroco"), "Juan ''el bueno''");
+  EXPECT_EQ(rs.integer("CodMunicipio"), town);
+  EXPECT_EQ(rs.text("Diocesis"), "Madrid");
+  EXPECT_EQ(w.count("Ultimos"), 1);
+}
+
+TEST_F(Catalogues, InstitutionThatCannotBeStored_IsToldAndNothingIsLost) {
+  w.user.expectForm("frmInstitucion", [this](FormDriver& u) {
+    const std::string longName(300, 'a');  // the table refuses it
+    u.get<forms::TextBox>("txtInstitucion(0)").setMaxLength(0);
+    u.get<forms::TextBox>("txtInstitucion(2)").setMaxLength(0);
+    u.paste("txtInstitucion(0)", longName);
+    w.user.answerAnything(forms::Answer::Ok);
+    u.click("cmdBoton(0)");
+    EXPECT_FALSE(u.closed());
+    EXPECT_EQ(u.text("txtInstitucion(0)"), longName);
+    u.escape();
+  });
+  w.contexto.fidaleon()->NuevaInstitucion(w.con(), w.config);
+  ASSERT_EQ(w.user.messages().size(), 1u);
+  EXPECT_EQ(w.user.messages()[0].icon, forms::MsgIcon::Critical);
+  EXPECT_EQ(w.count("Institucion"), 0);
+}
+
+TEST_F(Catalogues, UsedRows_AreNotDeletedAndFreeOnesAfterAQuestion) {
+  const auto fidaleon = w.contexto.fidaleon();
+  const auto town = w.municipio("Getafe", "Provincia de prueba");
+  const auto province = w.provincia("Provincia de prueba");
+  const auto id = w.institucion("San Pedro", town);
+  w.con().Execute(
+      "INSERT INTO Libro_Bautismo (CodInstitucion, CodFormato, CodTipoNombre, Nombre) VALUES (" +
+      std::to_string(id) + ", 3, 4, \"Uno\")");
+  w.user.expectMessage(
+      "¡Esta institución no se puede eliminar, tiene libros u otros datos asociados!");
+  EXPECT_FALSE(eliminarInstitucion(*fidaleon, w.user, w.con(), id));
+  w.user.expectMessage("¡Esta provincia no se puede eliminar, tiene municipios asociados!");
+  EXPECT_FALSE(eliminarProvincia(*fidaleon, w.user, w.con(), province));
+  w.user.expectMessage(
+      "¡Este municipio no se puede eliminar, se usa en partidas o en otros datos!");
+  EXPECT_FALSE(eliminarMunicipio(*fidaleon, w.user, w.con(), town));
+
+  w.con().Execute("DELETE * FROM Libro_Bautismo");
+  w.user.expectMessage("¿Seguro que quiere eliminar la institución?", forms::Answer::No);
+  EXPECT_FALSE(eliminarInstitucion(*fidaleon, w.user, w.con(), id));
+  w.user.expectMessage("¿Seguro que quiere eliminar la institución?", forms::Answer::Yes);
+  EXPECT_TRUE(eliminarInstitucion(*fidaleon, w.user, w.con(), id));
+  EXPECT_EQ(w.count("Institucion") + w.count("Ultimos"), 0);
+  w.user.expectMessage("¿Seguro que quiere eliminar el municipio?", forms::Answer::Yes);
+  EXPECT_TRUE(eliminarMunicipio(*fidaleon, w.user, w.con(), town));
+  w.user.expectMessage("¿Seguro que quiere eliminar la provincia?", forms::Answer::Yes);
+  EXPECT_TRUE(eliminarProvincia(*fidaleon, w.user, w.con(), province));
+  EXPECT_EQ(w.count("Provincia"), 52);
+}
+
+TEST_F(Catalogues, PastedTextOfAnyKind_IsStoredWithoutHarm) {
+  w.user.expectForm("frmMunicipio", [](FormDriver& u) {
+    u.choose("cboProvincia", "Madrid");
+    u.paste("txtNombre", "北京 🙂 \"a\" \x01 O'Hara; DROP TABLE Municipio");
+    u.click("cmdBoton(0)");
+  });
+  EXPECT_TRUE(addTown());
+  EXPECT_THAT(w.value("SELECT Nombre FROM Municipio"),
+              ::testing::AllOf(::testing::HasSubstr("北京 🙂 ''a''"),
+                               ::testing::HasSubstr("O'Hara; DROP TABLE Municipio")));
+}
+
+}  // namespace
+}  // namespace fidaleon::support

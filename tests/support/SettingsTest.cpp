@@ -1,0 +1,112 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <fstream>
+#include <sstream>
+
+#include "support/FileSettings.h"
+#include "support/TestWorld.h"
+
+namespace fidaleon::support {
+namespace {
+
+namespace fs = std::filesystem;
+
+class SettingsFile : public ::testing::Test {
+ protected:
+  std::string content() const {
+    std::ostringstream out;
+    out << std::ifstream(file).rdbuf();
+    return out.str();
+  }
+  tests::TempDirectory directory;
+  const fs::path file = directory.path() / "fidaleon" / "ajustes.ini";
+  const std::string section = "ana\\Castellano\\Grids\\Propiedades Libros\\[=#%]";
+};
+
+TEST_F(SettingsFile, ValuesOfAnyText_AreReadBackByAnother) {
+  FileSettings here(file);
+  EXPECT_EQ(here.read("Fidaleon", section, "0", "-1"), "-1");
+  EXPECT_FALSE(fs::exists(file));
+  const std::string odd = " ñ=\r\n[x]\t% \"#";
+  here.write("Fidaleon/2", section, "=clave", odd);
+  here.write("Fidaleon", section, "0", "1200");
+  FileSettings there(file);
+  EXPECT_EQ(there.read("Fidaleon/2", section, "=clave"), odd);
+  EXPECT_EQ(there.read("Fidaleon", section, "0"), "1200");
+  EXPECT_EQ(there.read("Fidaleon", section, "1", "x"), "x");
+}
+
+TEST_F(SettingsFile, TwoThatWrite_KeepWhatTheOtherWrote) {
+  FileSettings a(file);
+  FileSettings b(file);
+  a.write("F", "s", "uno", "1");
+  b.write("F", "s", "dos", "2");
+  a.write("F", "s", "tres", "3");
+  EXPECT_EQ(a.read("F", "s", "dos"), "2");
+  EXPECT_EQ(b.read("F", "s", "tres"), "3");
+}
+
+TEST_F(SettingsFile, TwoProcessesAtOnce_LoseNothing) {
+  const auto work = [&](const std::string& name) {
+    FileSettings settings(file);
+    for (int i = 0; i < 50; ++i) settings.write("F", name, std::to_string(i), "v");
+  };
+  const pid_t other = ::fork();
+  if (other == 0) {
+    work("otro");
+    ::_exit(0);
+  }
+  work("este");
+  int status = 0;
+  ::waitpid(other, &status, 0);
+  FileSettings settings(file);
+  for (int i = 0; i < 50; ++i) {
+    EXPECT_EQ(settings.read("F", "este", std::to_string(i)), "v") << i;
+    EXPECT_EQ(settings.read("F", "otro", std::to_string(i)), "v") << i;
+  }
+}
+
+TEST_F(SettingsFile, Damaged_IsKeptAsideReportedOnceAndWhatIsReadableKept) {
+  FileSettings(file).write("F", "s", "clave", "valor");
+  const std::string good = content();
+  for (const std::string& damage :
+       {std::string("\xff\xfe\0\1", 4), std::string("sin igual"), std::string("[sin cierre\n"),
+        std::string("clave2=%Z1\n"), std::string("clave2=cortad")}) {
+    std::ofstream(file) << good << damage;
+    int reports = 0;
+    std::string said;
+    FileSettings settings(file, [&](const std::string& message) {
+      ++reports;
+      said = message;
+    });
+    EXPECT_EQ(settings.read("F", "s", "clave"), "valor");
+    EXPECT_EQ(settings.read("F", "s", "clave2", "nada"), "nada");
+    EXPECT_EQ(reports, 1) << damage;
+    EXPECT_THAT(said, ::testing::HasSubstr("ajustes.ini.danado"));
+    EXPECT_TRUE(fs::exists(file.string() + ".danado"));
+    EXPECT_EQ(content(), good);
+    fs::remove(file.string() + ".danado");
+  }
+}
+
+TEST_F(SettingsFile, CannotBeWritten_SaysSoAndChangesNothing) {
+  std::ofstream(directory.path() / "fidaleon") << "a file where the folder should be";
+  FileSettings settings(file);
+  EXPECT_EQ(settings.read("F", "s", "k", "x"), "x");
+  EXPECT_THROW(settings.write("F", "s", "k", "v"), std::runtime_error);
+  EXPECT_EQ(settings.read("F", "s", "k", "x"), "x");
+}
+
+TEST_F(SettingsFile, DefaultPlace_FollowsTheConfigurationFolder) {
+  ::setenv("XDG_CONFIG_HOME", "/tmp/ajustes-de-prueba", 1);
+  EXPECT_EQ(FileSettings::defaultFile(), "/tmp/ajustes-de-prueba/fidaleon/ajustes.ini");
+  ::unsetenv("XDG_CONFIG_HOME");
+  ::setenv("HOME", "/tmp/casa", 1);
+  EXPECT_EQ(FileSettings::defaultFile(), "/tmp/casa/.config/fidaleon/ajustes.ini");
+}
+
+}  // namespace
+}  // namespace fidaleon::support
