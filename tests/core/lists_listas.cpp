@@ -1,0 +1,187 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "core/contract/CcNodos.h"
+#include "core/contract/Sacramento.h"
+#include "core/lists/cIListas.h"
+#include "forms/Form.h"
+#include "support/TestWorld.h"
+
+namespace fidaleon {
+namespace {
+
+using FDAPI::cCOrigen;
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+struct Ventana : forms::Form {
+  explicit Ventana(forms::UserInterface& ui)
+      : Form(ui, "ventana"),
+        lista(*this, "cboLista"),
+        provincia(*this, "cboProvincia"),
+        otra(*this, "cboPoblacion"),
+        rejilla(*this, "msgRejilla") {}
+  forms::ComboBox lista;
+  forms::ComboBox provincia;
+  forms::ComboBox otra;
+  forms::Grid rejilla;
+};
+
+class Listas : public ::testing::Test {
+ protected:
+  static std::vector<std::int64_t> datos(const forms::ListControl& lista) {
+    std::vector<std::int64_t> all;
+    for (int i = 0; i < lista.listCount(); ++i) all.push_back(lista.itemData(i));
+    return all;
+  }
+  std::vector<std::int64_t> formatos(cCOrigen origen, int nuevo) {
+    listas.fillFormatoLibro(ventana.lista, origen, mundo.con(), nuevo);
+    return datos(ventana.lista);
+  }
+  void libro(const std::string& nombre) {
+    mundo.con().Execute(
+        "INSERT into Libro_Bautismo (codinstitucion, codFormato, codTipoNombre, nombre, "
+        "fechacreacion, Nuevo, Cerrado, NumeroSiguiente, FolioSiguiente) values (1, 3, 1, \"" +
+        nombre + "\", \"20260101\", 0, 0, 1, 1)");
+  }
+  std::string nombre(std::int64_t tipo, const Sacramento& s = BAUTISMO) {
+    return listas.ObtenerNombreLibro(mundo.con(), tipo, 1, s.byte, error);
+  }
+  std::string ancho(const std::string& camino, int columna) {
+    return mundo.settings.read("Fidaleon", "ana\\Castellano\\Grids\\" + camino,
+                               std::to_string(columna), "nada");
+  }
+
+  tests::TestWorld mundo;
+  cIListas listas{mundo.contexto};
+  Ventana ventana{mundo.user};
+  bool error = false;
+};
+
+TEST_F(Listas, sex_offersBothAndChoosesNone) {
+  listas.fillSexo(ventana.lista);
+  EXPECT_THAT(datos(ventana.lista), ElementsAre(HOMBRE, MUJER));
+  EXPECT_EQ(ventana.lista.list(0), "Hombre");
+  EXPECT_EQ(ventana.lista.list(1), "Mujer");
+  EXPECT_EQ(ventana.lista.listIndex(), -1);
+}
+
+TEST_F(Listas, bookFormats_followOriginAndEdition) {
+  EXPECT_THAT(formatos(cCOrigen::NuevoLibro, 1), ElementsAre(3));
+  EXPECT_THAT(formatos(cCOrigen::NuevoLibro, 0), ElementsAre(1));
+  EXPECT_THAT(formatos(cCOrigen::ANTIGUOLIBRO, 0), ElementsAre(1, 2, 3, 4));
+  mundo.entorno.installation.Aplicacion = FDAPI::cCAplicacion::APP_FIDALEON_MENORCA;
+  EXPECT_THAT(formatos(cCOrigen::NuevoLibro, 1), ElementsAre(2, 3));
+}
+
+TEST_F(Listas, bookFormatsThatCannotBeRead_areReportedAndTheListStays) {
+  ventana.lista.addItem("sigue", 9);
+  mundo.user.answerAnything(forms::Answer::Ok);
+  // A database that has no such table.
+  listas.fillFormatoLibro(ventana.lista, cCOrigen::ANTIGUOLIBRO, mundo.conInformes(), 0);
+  EXPECT_THAT(datos(ventana.lista), ElementsAre(9));
+  ASSERT_EQ(mundo.user.messages().size(), 1u);
+  EXPECT_THAT(mundo.user.messages()[0].text,
+              ::testing::HasSubstr("¡ Error al selecionar el formato de los libros !"));
+}
+
+TEST_F(Listas, nameTypes_forNewAndOldBooks) {
+  listas.fillTipoNombre(ventana.lista, mundo.con(), "Nuevo");
+  EXPECT_THAT(datos(ventana.lista), ElementsAre(1, 4));
+  listas.fillTipoNombre(ventana.lista, mundo.con(), "Antiguo");
+  EXPECT_THAT(datos(ventana.lista), ElementsAre(2, 3, 4));
+}
+
+TEST_F(Listas, bookName_isTheFirstFreeOneOfItsType) {
+  EXPECT_EQ(nombre(1), "2026/01");
+  EXPECT_EQ(nombre(2), "1");
+  EXPECT_EQ(nombre(3), "I");
+  EXPECT_EQ(nombre(4), "");
+  for (const char* n : {"2026/01", "2026/03", "1", "2", "4", "I", "II", "III"}) libro(n);
+  EXPECT_EQ(nombre(1), "2026/02");
+  EXPECT_EQ(nombre(2), "3");
+  EXPECT_EQ(nombre(3), "IV");
+  EXPECT_EQ(nombre(2, DEFUNCION), "1") << "each register counts apart";
+  EXPECT_FALSE(error);
+}
+
+TEST_F(Listas, bookNameOfAYearWith99Books_isRefused) {
+  for (int n = 1; n <= 99; ++n) libro("2026/" + std::string(n < 10 ? "0" : "") + std::to_string(n));
+  mundo.user.expectMessage("¡No se pueden crear más libros para el formato elegido!");
+  EXPECT_EQ(nombre(1), "");
+  EXPECT_TRUE(error);
+  EXPECT_EQ(mundo.user.beeps(), 1);
+  EXPECT_EQ(mundo.user.messages().at(0).icon, forms::MsgIcon::Exclamation);
+  EXPECT_SCRIPT_DONE(mundo.user);
+}
+
+TEST_F(Listas, bookNameThatCannotBeLookedUp_isReportedAndFails) {
+  mundo.user.answerAnything(forms::Answer::Ok);
+  EXPECT_EQ(listas.ObtenerNombreLibro(mundo.conInformes(), 2, 1, BAUTISMO.byte, error), "");
+  EXPECT_TRUE(error);
+  ASSERT_FALSE(mundo.user.messages().empty());
+  EXPECT_THAT(mundo.user.messages()[0].text, ::testing::HasSubstr("ObtenerNombreLibro()"));
+}
+
+TEST_F(Listas, grid_keepsStoredWidthsAndWritesMissingOnes) {
+  const std::string camino = "Propiedades Libros\\PropiedadesLibro";
+  mundo.settings.write("Fidaleon", "ana\\Castellano\\Grids\\" + camino, "2", "777");
+  mundo.settings.write("Fidaleon", "ana\\Castellano\\Grids\\" + camino, "3", "-1");
+  listas.ConfigGridPropiedadesLibro(ventana.rejilla);
+  ASSERT_EQ(ventana.rejilla.columns(), 7);
+  EXPECT_EQ(ventana.rejilla.header(0), "Folio");
+  EXPECT_EQ(ventana.rejilla.header(4), "2º Apellido");
+  EXPECT_EQ(ventana.rejilla.header(6), "Anulada");
+  EXPECT_EQ(ancho(camino, 0), "nada");
+  EXPECT_EQ(ancho(camino, 2), "777");
+  EXPECT_EQ(ancho(camino, 3), "1200");
+  EXPECT_EQ(ventana.rejilla.columnWidth(2), 777);
+  EXPECT_EQ(ventana.rejilla.columnWidth(5), 1200);
+}
+
+TEST_F(Listas, gridsOfTheSisters_haveTheirOwnColumnsAndPaths) {
+  listas.ConfigGridPropiedadesLibroMatrimonio(ventana.rejilla);
+  EXPECT_EQ(ventana.rejilla.columns(), 10);
+  EXPECT_EQ(ventana.rejilla.header(8), "Fecha Matrimonio");
+  EXPECT_EQ(ancho("Propiedades Libros\\PropiedadesLibroMatrimonio", 8), "1410");
+  listas.ConfigGridBuscaPadres(ventana.rejilla);
+  EXPECT_EQ(ventana.rejilla.columns(), 6);
+  EXPECT_EQ(ancho("BuscaPadres\\BuscaPadres", 3), "1620");
+  listas.ConfigGridBuscaPadresConfirmacion(ventana.rejilla);
+  listas.ConfigGridBuscaPadresMatrimonio(ventana.rejilla);
+  listas.ConfigGridBuscaPadresDefuncion(ventana.rejilla);
+  EXPECT_EQ(ventana.rejilla.columns(), 4);
+  EXPECT_EQ(ventana.rejilla.header(3), "Fecha de bautismo");
+  for (const char* fin : {"Confirmacion", "Matrimonio", "Defuncion"})
+    EXPECT_EQ(ancho(std::string("BuscaPadres\\BuscaBautizado") + fin, 0), "1980");
+}
+
+TEST_F(Listas, gridOfMessages_isHeadedByItsTray) {
+  listas.ConfigGridMensajes(ventana.rejilla, CcNodos::BANDEJAENTRADA);
+  EXPECT_EQ(ventana.rejilla.header(1), "Enviado el");
+  listas.ConfigGridMensajes(ventana.rejilla, CcNodos::ELEMENTOSENVIADOS);
+  EXPECT_EQ(ventana.rejilla.header(1), "Para");
+  EXPECT_EQ(ventana.rejilla.header(2), "Recibido el");
+  EXPECT_EQ(ancho("Mensajeria\\Mensajes", 1), "4500");
+}
+
+TEST_F(Listas, provinces_areFilledAnewWithTheirChoiceKept) {
+  const std::int32_t madrid = mundo.provincia("Madrid");
+  ventana.provincia.addItem("Madrid", madrid);
+  ventana.provincia.setListIndex(0);
+  ventana.otra.addItem("Getafe", 1);
+  listas.TodoProvincias(mundo.con(), ventana);
+  EXPECT_GE(ventana.provincia.listCount(), 52);
+  EXPECT_EQ(ventana.provincia.data(), madrid);
+  EXPECT_THAT(datos(ventana.otra), ElementsAre(1));
+}
+
+TEST_F(Listas, selectedField_isSelectedWhole) {
+  forms::TextBox campo(ventana, "txtCampo");
+  campo.setText("José");
+  listas.SelText(campo);
+  EXPECT_EQ(campo.selLength(), 4);
+}
+
+}  // namespace
+}  // namespace fidaleon
