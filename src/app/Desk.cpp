@@ -1,0 +1,35 @@
+#include "app/Desk.h"
+
+namespace fidaleon::app {
+namespace {
+
+FDAPI::cConfig configFor(const std::string& user) {
+  FDAPI::cConfig config;
+  config.Usuario = user;
+  return config;
+}
+
+}  // namespace
+
+Desk::Desk(const ParishFiles& files, const std::string& user, forms::UserInterface& ui,
+           Settings& settings, Clock& clock)
+    : files_(files),
+      open_(openParish(files_)),
+      config_(configFor(user)),
+      support_(ui, settings, clock, config_),
+      entorno_{
+          ui, support_, settings, clock, {readEdition(files_), editionName(readEdition(files_))}},
+      nucleo_(entorno_) {}
+
+std::string Desk::parishName() {
+  const auto rows = parish().Execute("SELECT Nombre FROM Institucion ORDER BY IDInstitucion");
+  return rows.EOF_() ? std::string() : rows.text("Nombre");
+}
+
+bool Desk::setUp() {
+  bool complete = false;
+  nucleo_.DatosSetup(parish(), complete);
+  return complete;
+}
+
+}  // namespace fidaleon::app

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <string>
+
+#include "app/ParishFiles.h"
+#include "core/facade/cNucleo.h"
+#include "support/HostSupport.h"
+
+namespace fidaleon::app {
+
+/// An open parish with everything the library needs of the world around it. This is the one place
+/// where they are put together; a window and a scripted walk-through use it alike.
+class Desk {
+ public:
+  /// The user interface, the settings and the clock stay the caller's and must outlive the desk.
+  /// Throws store::Error as openParish does.
+  Desk(const ParishFiles& files, const std::string& user, forms::UserInterface& ui,
+       Settings& settings, Clock& clock);
+  Desk(const Desk&) = delete;
+  Desk& operator=(const Desk&) = delete;
+
+  cNucleo& nucleo() { return nucleo_; }
+  Entorno& entorno() { return entorno_; }
+  const FDAPI::cConfig& config() const { return config_; }
+  store::Connection& parish() { return *open_.parish; }
+  store::Connection& reports() { return *open_.reports; }
+  const ParishFiles& files() const { return files_; }
+  /// Set when the reports database was unusable and has been put aside under this name.
+  const std::filesystem::path& reportsPutAside() const { return open_.reportsPutAside; }
+  /// Short name of the first institution.
+  std::string parishName();
+  std::string edition() const { return editionName(entorno_.installation.Aplicacion); }
+
+  /// Asks for what the documents need of each institution. False when the user gave up: the
+  /// program then ends.
+  bool setUp();
+
+ private:
+  ParishFiles files_;
+  OpenParish open_;
+  FDAPI::cConfig config_;
+  support::HostSupport support_;
+  Entorno entorno_;
+  cNucleo nucleo_;
+};
+
+}  // namespace fidaleon::app

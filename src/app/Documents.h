@@ -1,0 +1,46 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "app/NodeView.h"
+#include "core/facade/cNucleo.h"
+#include "paper/Report.h"
+
+namespace fidaleon::app {
+
+class Desk;
+
+/// What an operation that writes a document works on.
+struct DocumentRun {
+  cNucleo& nucleo;
+  FDAPI::Conexion& parish;
+  FDAPI::Conexion& reports;
+  std::int32_t id;
+  std::string keeper;
+  std::string date;  // "yyyymmdd"
+};
+
+/// One document in one edition: which operation writes its row. Template, title and whether it is
+/// signed are in the catalogue of templates, under the name of the operation.
+struct Document {
+  std::string command;    // the command that asks for it
+  std::string edition;    // code; empty for all editions without a line of their own
+  std::string operation;  // of the library
+  NodeKind kind = NodeKind::Entries;
+  void (*run)(DocumentRun&) = nullptr;
+};
+
+const std::vector<Document>& documents();
+/// The edition's own document of a command, or the common one; null when there is none.
+const Document* findDocument(const std::string& command, const std::string& edition);
+
+/// Empties the scratch tables, asks for keeper and date where the document is signed, runs the
+/// operation and lays out what it wrote. Nothing when it wrote no row: whoever refused has told
+/// the user. The document of an annulled entry carries a mark across it. Throws paper::Error and
+/// store::Error.
+std::optional<paper::Report> makeReport(Desk& desk, const Document& document, std::int32_t id);
+
+}  // namespace fidaleon::app

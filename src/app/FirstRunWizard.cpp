@@ -1,0 +1,162 @@
+#include "app/FirstRunWizard.h"
+
+#include <QButtonGroup>
+#include <QComboBox>
+#include <QFileDialog>
+#include <QFormLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QToolButton>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <vector>
+
+#include "app/ParishFiles.h"
+#include "app/SampleNames.h"
+#include "core/contract/FDAPI.h"
+#include "store/Open.h"
+#include "store/schema/Schema.h"
+#include "text/Utf8.h"
+
+namespace fidaleon::app {
+namespace {
+
+using Editions = FDAPI::cCAplicacion;
+
+struct Province {
+  std::int32_t code;
+  std::string name;
+};
+
+// The provinces that every parish database begins with.
+std::vector<Province> provinces() {
+  std::vector<Province> all;
+  const store::Table* table = store::parishSchema().find("Provincia");
+  for (const auto& row : table->rows())
+    all.push_back({static_cast<std::int32_t>(row.at(2).integer()), row.at(1).text()});
+  std::sort(all.begin(), all.end(),
+            [](const Province& a, const Province& b) { return text::compare(a.name, b.name) < 0; });
+  return all;
+}
+
+QLabel* explanation(const QString& text, QWidget* parent) {
+  auto* label = new QLabel(text, parent);
+  label->setWordWrap(true);
+  label->setContentsMargins(24, 0, 0, 8);
+  return label;
+}
+
+}  // namespace
+
+FirstRunWizard::FirstRunWizard(const NewParish& proposal, QWidget* parent) : QWizard(parent) {
+  setWindowTitle(tr("Bienvenida a Fidaleon"));
+  setWizardStyle(QWizard::ModernStyle);
+  setOption(QWizard::NoBackButtonOnStartPage);
+  setButtonText(QWizard::NextButton, tr("&Siguiente"));
+  setButtonText(QWizard::BackButton, tr("&Atrás"));
+  setButtonText(QWizard::FinishButton, tr("&Crear la parroquia"));
+  setButtonText(QWizard::CancelButton, tr("Cancelar"));
+  addPage(parishPage(proposal));
+  addPage(contentPage(proposal));
+  setMinimumWidth(560);
+}
+
+QWizardPage* FirstRunWizard::parishPage(const NewParish& proposal) {
+  auto* page = new QWizardPage(this);
+  page->setTitle(tr("La parroquia"));
+  page->setSubTitle(
+      tr("Estos datos aparecerán en las listas y en los documentos. Podrá corregirlos después."));
+  auto* layout = new QFormLayout(page);
+  name_ = new QLineEdit(QString::fromStdString(proposal.name), page);
+  name_->setMaxLength(120);
+  name_->setPlaceholderText(tr("Por ejemplo: San Esteban Protomártir"));
+  layout->addRow(tr("&Nombre de la parroquia:"), name_);
+  province_ = new QComboBox(page);
+  for (const Province& p : provinces()) province_->addItem(QString::fromStdString(p.name), p.code);
+  province_->setCurrentIndex(province_->findData(proposal.province));
+  province_->setPlaceholderText(tr("Elija la provincia"));
+  layout->addRow(tr("&Provincia:"), province_);
+  town_ = new QLineEdit(QString::fromStdString(proposal.town), page);
+  town_->setMaxLength(120);
+  layout->addRow(tr("P&oblación:"), town_);
+  edition_ = new QComboBox(page);
+  for (const char* code : {Editions::APP_FIDALEON_MADRID, Editions::APP_FIDALEON_SANTIAGO,
+                           Editions::APP_FIDALEON_ZARAGOZA, Editions::APP_FIDALEON_MENORCA})
+    edition_->addItem(QString::fromStdString(editionName(code)), QString(code));
+  edition_->setCurrentIndex(
+      std::max(0, edition_->findData(QString::fromStdString(proposal.edition))));
+  layout->addRow(tr("&Edición:"), edition_);
+  user_ = new QLineEdit(QString::fromStdString(proposal.user), page);
+  user_->setMaxLength(60);
+  layout->addRow(tr("&Usuario de este equipo:"), user_);
+  return page;
+}
+
+QWizardPage* FirstRunWizard::contentPage(const NewParish& proposal) {
+  auto* page = new QWizardPage(this);
+  page->setTitle(tr("Los datos"));
+  page->setSubTitle(tr("Con qué se empieza y dónde se guarda."));
+  auto* layout = new QVBoxLayout(page);
+  content_ = new QButtonGroup(page);
+  auto* empty = new QRadioButton(tr("Empezar con una parroquia &vacía"), page);
+  layout->addWidget(empty);
+  layout->addWidget(explanation(tr("Sin libros ni partidas, lista para trabajar."), page));
+  auto* sample = new QRadioButton(tr("Crear una parroquia de &ejemplo"), page);
+  layout->addWidget(sample);
+  layout->addWidget(explanation(
+      tr("Con dos libros, más de un centenar de bautismos y personas inventadas, para aprender y "
+         "probar sin miedo. No sirve para trabajar de verdad."),
+      page));
+  content_->addButton(empty, static_cast<int>(Content::Empty));
+  content_->addButton(sample, static_cast<int>(Content::Sample));
+  content_->button(static_cast<int>(proposal.content))->setChecked(true);
+  auto* label = new QLabel(tr("&Carpeta de los datos:"), page);
+  layout->addWidget(label);
+  auto* line = new QHBoxLayout;
+  directory_ = new QLineEdit(QString::fromStdString(proposal.directory.string()), page);
+  label->setBuddy(directory_);
+  line->addWidget(directory_);
+  auto* browse = new QToolButton(page);
+  browse->setText(tr("E&xaminar…"));
+  connect(browse, &QToolButton::clicked, this, [this] { chooseDirectory(); });
+  line->addWidget(browse);
+  layout->addLayout(line);
+  layout->addWidget(explanation(
+      tr("Si varios equipos van a trabajar a la vez, elija una carpeta compartida por todos."),
+      page));
+  layout->addStretch();
+  return page;
+}
+
+void FirstRunWizard::chooseDirectory() {
+  const QString chosen =
+      QFileDialog::getExistingDirectory(this, tr("Carpeta de los datos"), directory_->text());
+  if (!chosen.isEmpty()) directory_->setText(chosen);
+}
+
+NewParish FirstRunWizard::parish() const {
+  NewParish p;
+  p.name = text::trim(text::sanitized(name_->text().toStdString()));
+  p.province = province_->currentData().toInt();
+  p.town = text::trim(text::sanitized(town_->text().toStdString()));
+  p.edition = edition_->currentData().toString().toStdString();
+  p.user = text::trim(text::sanitized(user_->text().toStdString()));
+  p.content = static_cast<Content>(content_->checkedId());
+  p.directory = directory_->text().trimmed().toStdString();
+  return p;
+}
+
+bool FirstRunWizard::validateCurrentPage() {
+  NewParish entered = parish();
+  const bool lastPage = nextId() == -1;
+  if (!lastPage) entered.directory = "/nonexistent/fidaleon";  // asked for on the next page
+  const std::string missing = whatIsMissing(entered);
+  if (missing.empty()) return true;
+  QMessageBox::warning(this, windowTitle(), QString::fromStdString(missing));
+  return false;
+}
+
+}  // namespace fidaleon::app

@@ -1,0 +1,380 @@
+#include "app/MainWindow.h"
+
+#include <QAction>
+#include <QCloseEvent>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QSplitter>
+#include <QStackedWidget>
+#include <QStatusBar>
+#include <QTableView>
+#include <QToolBar>
+#include <QTreeView>
+#include <QVBoxLayout>
+
+#include "app/Documents.h"
+#include "app/Icons.h"
+#include "app/PreviewDialog.h"
+#include "app/TreeModel.h"
+#include "app/WindowSettings.h"
+
+namespace fidaleon::app {
+
+MainWindow::MainWindow(Desk& desk, QWidget* parent) : QMainWindow(parent), desk_(desk) {
+  setWindowTitle(tr("%1 — Fidaleon").arg(QString::fromStdString(desk.parishName())));
+  setObjectName("MainWindow");
+  splitter_ = new QSplitter(this);
+  setCentralWidget(splitter_);
+  buildTree();
+  buildList();
+  buildCommands();
+  buildStatusBar();
+  splitter_->setStretchFactor(1, 1);
+  restoreWindow();
+  showNode("PartidasBautismo");
+}
+
+MainWindow::~MainWindow() = default;
+
+void MainWindow::buildTree() {
+  tree_ = new QTreeView(splitter_);
+  tree_->setModel(makeTreeModel(palette(), tree_));
+  tree_->setHeaderHidden(true);
+  tree_->setEditTriggers(QAbstractItemView::NoEditTriggers);
+  tree_->setAccessibleName(tr("Apartados"));
+  tree_->expandAll();
+  connect(tree_->selectionModel(), &QItemSelectionModel::currentChanged, this,
+          [this] { nodeChosen(); });
+}
+
+void MainWindow::buildList() {
+  right_ = new QStackedWidget(splitter_);
+  folder_ = new QLabel(tr("Elija un apartado del árbol."), right_);
+  folder_->setAlignment(Qt::AlignCenter);
+  folder_->setForegroundRole(QPalette::PlaceholderText);
+  right_->addWidget(folder_);
+
+  auto* page = new QWidget(right_);
+  auto* layout = new QVBoxLayout(page);
+  layout->setContentsMargins(6, 6, 6, 0);
+  filter_ = new QLineEdit(page);
+  filter_->setPlaceholderText(
+      tr("Filtrar: escriba parte de un nombre, un apellido, una fecha…  (Ctrl+F)"));
+  filter_->setClearButtonEnabled(true);
+  filter_->setAccessibleName(tr("Filtro"));
+  filter_->installEventFilter(this);
+  layout->addWidget(filter_);
+
+  shown_.setSourceModel(&rows_);
+  table_ = new QTableView(page);
+  table_->setModel(&shown_);
+  table_->setSelectionBehavior(QAbstractItemView::SelectRows);
+  table_->setSelectionMode(QAbstractItemView::SingleSelection);
+  table_->setEditTriggers(QAbstractItemView::NoEditTriggers);
+  table_->setAlternatingRowColors(true);
+  table_->setShowGrid(false);
+  table_->setWordWrap(false);
+  table_->setTabKeyNavigation(false);
+  table_->setSortingEnabled(true);
+  table_->setContextMenuPolicy(Qt::CustomContextMenu);
+  table_->verticalHeader()->hide();
+  table_->verticalHeader()->setDefaultSectionSize(table_->fontMetrics().height() + 8);
+  table_->horizontalHeader()->setHighlightSections(false);
+  table_->horizontalHeader()->setStretchLastSection(true);
+  table_->horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
+  table_->horizontalHeader()->setSortIndicatorClearable(true);
+  table_->installEventFilter(this);
+  table_->viewport()->installEventFilter(this);
+  layout->addWidget(table_);
+  right_->addWidget(page);
+
+  empty_ = new QLabel(table_->viewport());
+  empty_->setAlignment(Qt::AlignCenter);
+  empty_->setWordWrap(true);
+  empty_->setForegroundRole(QPalette::PlaceholderText);
+  empty_->setAttribute(Qt::WA_TransparentForMouseEvents);
+  empty_->hide();
+
+  connect(filter_, &QLineEdit::textChanged, this, [this] { filterChanged(); });
+  connect(table_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+          [this] { updateCommands(); });
+  connect(table_, &QTableView::doubleClicked, this, [this] { openChosen(); });
+  connect(table_, &QTableView::customContextMenuRequested, this,
+          [this](const QPoint& at) { showContextMenu(at); });
+}
+
+void MainWindow::buildCommands() {
+  const std::map<Menu, QMenu*> menus{{Menu::File, menuBar()->addMenu(tr("&Archivo"))},
+                                     {Menu::Record, menuBar()->addMenu(tr("&Registro"))},
+                                     {Menu::Documents, menuBar()->addMenu(tr("&Documentos"))},
+                                     {Menu::View, menuBar()->addMenu(tr("&Ver"))},
+                                     {Menu::Help, menuBar()->addMenu(tr("A&yuda"))}};
+  bar_ = addToolBar(tr("Órdenes"));
+  bar_->setObjectName("commands");
+  bar_->setMovable(false);
+  bar_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+  for (const Command& command : commands()) {
+    auto* action = new QAction(QString::fromStdString(command.text), this);
+    action->setIcon(icon(command.icon, palette()));
+    const QKeySequence key(QString::fromStdString(command.shortcut));
+    const QString tip = QString::fromStdString(command.tip);
+    action->setToolTip(key.isEmpty() ? tip
+                                     : tip + " (" + key.toString(QKeySequence::NativeText) + ")");
+    action->setStatusTip(tip);
+    if (key == QKeySequence(Qt::Key_Return))
+      action->setShortcuts({key, QKeySequence(Qt::Key_Enter)});
+    else
+      action->setShortcut(key);
+    // Keys that a text field needs for itself belong to the list alone.
+    if (command.kinds != 0 && !command.shortcut.starts_with("Ctrl")) {
+      action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+      table_->addAction(action);
+    }
+    connect(action, &QAction::triggered, this, [this, &command] { run(command); });
+    menus.at(command.menu)->addAction(action);
+    if (command.toolbar) bar_->addAction(action);
+    actions_[command.id] = action;
+  }
+}
+
+void MainWindow::buildStatusBar() {
+  count_ = new QLabel(this);
+  statusBar()->addWidget(count_);
+  const QString parish = QString::fromStdString(desk_.parishName());
+  const QString user = QString::fromStdString(desk_.config().Usuario);
+  const QString edition = QString::fromStdString(desk_.edition());
+  for (const QString& text : {tr("Parroquia: %1").arg(parish), tr("Usuario: %1").arg(user),
+                              tr("Edición: %1").arg(edition)})
+    statusBar()->addPermanentWidget(new QLabel(text, this));
+}
+
+QAction* MainWindow::action(const std::string& command) const {
+  return actions_.at(command);
+}
+
+void MainWindow::showNode(const std::string& name) {
+  const QModelIndex index = treeIndexOf(*tree_->model(), name);
+  if (index.isValid()) tree_->setCurrentIndex(index);
+}
+
+void MainWindow::nodeChosen() {
+  const QModelIndex index = tree_->currentIndex();
+  const NodeView* chosen = findNode(index.data(NodeNameRole).toString().toStdString());
+  if (!chosen || chosen == node_) return;
+  rememberColumns();
+  node_ = chosen;
+  filter_->clear();
+  right_->setCurrentIndex(node_->kind == NodeKind::Folder ? 0 : 1);
+  loadRows();
+  applyColumns();
+  if (shown_.rowCount() > 0) table_->selectRow(0);
+  updateCommands();
+}
+
+Choice MainWindow::choice() const {
+  Choice c;
+  c.node = node_;
+  const QModelIndex index = shown_.mapToSource(table_->currentIndex());
+  if (!index.isValid() || !table_->selectionModel()->hasSelection()) return c;
+  c.id = rows_.key(index.row());
+  c.annulled = rows_.annulled(index.row());
+  return c;
+}
+
+void MainWindow::run(const Command& command) {
+  const Choice chosen = choice();
+  if (busy_ || !applies(command, chosen)) return;
+  busy_ = true;
+  try {
+    command.run(*this, chosen);
+  } catch (const store::Error& e) {
+    desk_.entorno().ui.msgBox(e.what(), forms::MsgButtons::Ok, forms::MsgIcon::Critical);
+  } catch (const paper::Error& e) {
+    desk_.entorno().ui.msgBox(e.what(), forms::MsgButtons::Ok, forms::MsgIcon::Critical);
+  }
+  busy_ = false;
+  if (node_ == chosen.node && command.menu != Menu::File) refresh(chosen.id);
+}
+
+void MainWindow::loadRows() {
+  try {
+    rows_.load(desk_.parish(), *node_);
+  } catch (const store::Error& e) {
+    desk_.entorno().ui.msgBox(e.what(), forms::MsgButtons::Ok, forms::MsgIcon::Critical);
+  }
+}
+
+// A row that came to be is chosen; otherwise the one that was, or the one that took its place.
+void MainWindow::refresh(std::int32_t keep) {
+  std::int32_t newest = 0;
+  for (int row = 0; row < rows_.rowCount(); ++row) newest = std::max(newest, rows_.key(row));
+  const int place = table_->currentIndex().row();
+  const bool hadRows = rows_.rowCount() > 0;
+  loadRows();
+  std::int32_t added = 0;
+  for (int row = 0; row < rows_.rowCount(); ++row) added = std::max(added, rows_.key(row));
+  const bool chosen = (added > newest && hadRows && chooseRow(added)) || chooseRow(keep);
+  if (!chosen && shown_.rowCount() > 0)
+    table_->selectRow(std::clamp(place, 0, shown_.rowCount() - 1));
+  updateCommands();
+}
+
+bool MainWindow::chooseRow(std::int32_t key) {
+  for (int row = 0; row < shown_.rowCount(); ++row) {
+    if (shown_.index(row, 0).data(RowsModel::KeyRole).toInt() != key) continue;
+    table_->selectRow(row);
+    table_->scrollTo(shown_.index(row, 0));
+    return true;
+  }
+  return false;
+}
+
+void MainWindow::updateCommands() {
+  const Choice chosen = choice();
+  for (const Command& command : commands()) {
+    QAction* action = actions_.at(command.id);
+    action->setEnabled(applies(command, chosen));
+    const bool other = command.needs == Needs::AnnulledRow || command.needs == Needs::ValidRow;
+    const bool seen =
+        belongs(command, chosen) &&
+        (!other || action->isEnabled() || (command.needs == Needs::ValidRow && !chosen.annulled));
+    action->setVisible(seen);
+  }
+  updateCount();
+}
+
+void MainWindow::updateCount() {
+  if (!node_ || node_->kind == NodeKind::Folder) return count_->clear();
+  const int shown = shown_.rowCount();
+  const int all = rows_.rowCount();
+  const QString things = QString::fromStdString(node_->things);
+  count_->setText(shown == all ? tr("%L1 %2").arg(all).arg(things)
+                               : tr("%L1 de %L2 %3").arg(shown).arg(all).arg(things));
+  empty_->setText(all == 0
+                      ? tr("Todavía no hay %1.\nPulse la tecla Insert para añadir.").arg(things)
+                      : tr("Ninguna fila contiene «%1».").arg(filter_->text()));
+  empty_->setVisible(shown == 0);
+}
+
+void MainWindow::filterChanged() {
+  const std::int32_t keep = choice().id;
+  shown_.setText(filter_->text());
+  if (!chooseRow(keep) && shown_.rowCount() > 0) table_->selectRow(0);
+  updateCommands();
+}
+
+void MainWindow::showContextMenu(const QPoint& at) {
+  QMenu menu(this);
+  Menu last = Menu::Record;
+  const Choice chosen = choice();
+  for (const Command& command : commands()) {
+    if (command.kinds == 0 || !belongs(command, chosen)) continue;
+    if (!actions_.at(command.id)->isVisible()) continue;
+    if (command.menu != last) menu.addSeparator();
+    last = command.menu;
+    menu.addAction(actions_.at(command.id));
+    if (command.opens) menu.setDefaultAction(actions_.at(command.id));
+  }
+  if (!menu.isEmpty()) menu.exec(table_->viewport()->mapToGlobal(at));
+}
+
+void MainWindow::openChosen() {
+  for (const Command& command : commands())
+    if (command.opens && applies(command, choice())) return run(command);
+}
+
+void MainWindow::showDocument(const Document& document, std::int32_t id) {
+  std::optional<paper::Report> report = makeReport(desk_, document, id);
+  if (!report) return;
+  PreviewDialog preview(std::move(*report), this);
+  preview.exec();
+}
+
+void MainWindow::focusFilter() {
+  filter_->setFocus(Qt::ShortcutFocusReason);
+  filter_->selectAll();
+}
+
+void MainWindow::about() {
+  QMessageBox::about(
+      this, tr("Acerca de Fidaleon"),
+      tr("<b>Fidaleon</b><br>Registros sacramentales de la parroquia.<br><br>"
+         "Parroquia: %1<br>Edición: %2<br>Datos: %3")
+          .arg(QString::fromStdString(desk_.parishName()).toHtmlEscaped(),
+               QString::fromStdString(desk_.edition()).toHtmlEscaped(),
+               QString::fromStdString(desk_.files().parish().string()).toHtmlEscaped()));
+}
+
+bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == table_->viewport() && event->type() == QEvent::Resize)
+    empty_->setGeometry(table_->viewport()->rect());
+  if (event->type() != QEvent::KeyPress) return QMainWindow::eventFilter(watched, event);
+  auto* key = static_cast<QKeyEvent*>(event);
+  if (watched == filter_) {
+    if (key->key() == Qt::Key_Down || key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter) {
+      table_->setFocus(Qt::TabFocusReason);
+      return true;
+    }
+    if (key->key() == Qt::Key_Escape) {
+      filter_->clear();
+      table_->setFocus(Qt::TabFocusReason);
+      return true;
+    }
+  } else if (watched == table_ && !key->text().isEmpty() && key->text().at(0).isLetterOrNumber() &&
+             !(key->modifiers() & (Qt::ControlModifier | Qt::AltModifier))) {
+    // Writing over the list filters it.
+    filter_->setFocus(Qt::OtherFocusReason);
+    filter_->setText(filter_->text() + key->text());
+    return true;
+  }
+  return QMainWindow::eventFilter(watched, event);
+}
+
+void MainWindow::applyColumns() {
+  if (node_->columns.empty()) return;
+  QHeaderView* header = table_->horizontalHeader();
+  const std::string state = read("columnas." + node_->node.Nombre);
+  if (state.empty() || !header->restoreState(QByteArray::fromBase64(state.c_str()))) {
+    header->setSortIndicator(-1, Qt::AscendingOrder);
+    const int letter = table_->fontMetrics().averageCharWidth();
+    for (std::size_t c = 0; c < node_->columns.size(); ++c)
+      table_->setColumnWidth(static_cast<int>(c), node_->columns[c].chars * letter + 24);
+  }
+  shown_.sort(header->sortIndicatorSection(), header->sortIndicatorOrder());
+}
+
+void MainWindow::rememberColumns() {
+  if (!node_ || node_->columns.empty()) return;
+  write("columnas." + node_->node.Nombre,
+        table_->horizontalHeader()->saveState().toBase64().toStdString());
+}
+
+std::string MainWindow::read(const std::string& key) const {
+  return readWindowSetting(desk_, key);
+}
+
+void MainWindow::write(const std::string& key, const std::string& value) {
+  writeWindowSetting(desk_, key, value);
+}
+
+void MainWindow::restoreWindow() {
+  const std::string geometry = read("geometria");
+  if (geometry.empty() || !restoreGeometry(QByteArray::fromBase64(geometry.c_str())))
+    resize(1180, 680);
+  const std::string splitter = read("division");
+  if (splitter.empty() || !splitter_->restoreState(QByteArray::fromBase64(splitter.c_str())))
+    splitter_->setSizes({230, 950});
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+  if (busy_) return event->ignore();
+  rememberColumns();
+  write("geometria", saveGeometry().toBase64().toStdString());
+  write("division", splitter_->saveState().toBase64().toStdString());
+  QMainWindow::closeEvent(event);
+}
+
+}  // namespace fidaleon::app

@@ -1,0 +1,94 @@
+#pragma once
+
+#include <QMainWindow>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "app/Command.h"
+#include "app/Desk.h"
+#include "app/RowsFilter.h"
+#include "app/RowsModel.h"
+
+class QAction;
+class QLabel;
+class QLineEdit;
+class QMenu;
+class QSplitter;
+class QStackedWidget;
+class QTableView;
+class QToolBar;
+class QTreeView;
+
+namespace fidaleon::app {
+
+/// The window of the program: the tree on the left, the rows of its node on the right, and the
+/// commands for both.
+class MainWindow : public QMainWindow, private Workplace {
+  Q_OBJECT
+
+ public:
+  explicit MainWindow(Desk& desk, QWidget* parent = nullptr);
+  ~MainWindow() override;
+
+  void showNode(const std::string& name) override;
+  Choice choice() const;
+  /// The action of a command; never null for an id of the table.
+  QAction* action(const std::string& command) const;
+  QTableView& table() { return *table_; }
+  QLineEdit& filter() { return *filter_; }
+  /// Chooses the row of that key; false when the list does not show it.
+  bool chooseRow(std::int32_t key);
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  // What commands work with.
+  cNucleo& nucleo() override { return desk_.nucleo(); }
+  Entorno& entorno() override { return desk_.entorno(); }
+  FDAPI::Conexion& parish() override { return desk_.parish(); }
+  const FDAPI::cConfig& config() const override { return desk_.config(); }
+  void showDocument(const Document& document, std::int32_t id) override;
+  void focusFilter() override;
+  void about() override;
+  void leave() override { close(); }
+
+  void buildTree();
+  void buildList();
+  void buildCommands();
+  void buildStatusBar();
+  void nodeChosen();
+  void run(const Command& command);
+  void refresh(std::int32_t keep);
+  void loadRows();
+  void updateCommands();
+  void updateCount();
+  void showContextMenu(const QPoint& at);
+  void openChosen();
+  void filterChanged();
+  void applyColumns();
+  void rememberColumns();
+  std::string read(const std::string& key) const;
+  void write(const std::string& key, const std::string& value);
+  void restoreWindow();
+
+  Desk& desk_;
+  const NodeView* node_ = nullptr;
+  bool busy_ = false;
+  QSplitter* splitter_ = nullptr;
+  QTreeView* tree_ = nullptr;
+  QStackedWidget* right_ = nullptr;
+  QTableView* table_ = nullptr;
+  QLineEdit* filter_ = nullptr;
+  QLabel* folder_ = nullptr;
+  QLabel* empty_ = nullptr;
+  QLabel* count_ = nullptr;
+  QToolBar* bar_ = nullptr;
+  RowsModel rows_;
+  RowsFilter shown_;
+  std::map<std::string, QAction*> actions_;
+};
+
+}  // namespace fidaleon::app

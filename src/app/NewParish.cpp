@@ -1,0 +1,93 @@
+#include "app/NewParish.h"
+
+#include "app/Insert.h"
+#include "app/ParishFiles.h"
+#include "app/SampleParish.h"
+#include "store/Open.h"
+#include "text/Utf8.h"
+
+namespace fidaleon::app {
+namespace {
+
+void fill(store::Connection& connection, const NewParish& parish, const text::Date& today) {
+  connection.BeginTrans();
+  if (parish.content == Content::Sample)
+    fillSampleParish(connection, parish, today);
+  else
+    addInstitution(connection, text::trim(parish.name),
+                   townKey(connection, parish.town, parish.province));
+  connection.CommitTrans();
+}
+
+void removeWithCompanions(const std::filesystem::path& database) {
+  std::error_code ignored;
+  for (const char* ending : {"", "-journal", "-wal", "-shm"}) {
+    std::filesystem::path file = database;
+    file += ending;
+    std::filesystem::remove(file, ignored);
+  }
+}
+
+}  // namespace
+
+std::string whatIsMissing(const NewParish& parish) {
+  if (text::trim(parish.name).empty()) return "Escriba el nombre de la parroquia.";
+  if (text::trim(parish.user).empty()) return "Escriba el nombre del usuario.";
+  if (text::trim(parish.town).empty()) return "Escriba la población de la parroquia.";
+  if (parish.province == 0) return "Elija la provincia de la parroquia.";
+  if (parish.directory.empty()) return "Elija la carpeta donde se guardarán los datos.";
+  if (ParishFiles(parish.directory).exists())
+    return "En esa carpeta ya hay una parroquia. Elija otra carpeta, o abra la que ya existe.";
+  return {};
+}
+
+void createParish(const NewParish& parish, const text::Date& today) {
+  const ParishFiles files(parish.directory);
+  std::filesystem::create_directories(parish.directory);
+  if (files.exists())
+    throw store::Error(store::ErrorKind::Constraint, "Ya existe una parroquia en esa carpeta.");
+  try {
+    const auto connection = store::createDatabase(files.parish(), store::parishSchema());
+    fill(*connection, parish, today);
+    writeEdition(files, parish.edition);
+  } catch (...) {
+    removeWithCompanions(files.parish());
+    throw;
+  }
+  if (!std::filesystem::exists(files.reports()))
+    store::createDatabase(files.reports(), store::reportsSchema());
+}
+
+std::int32_t townKey(store::Connection& connection, const std::string& town,
+                     std::int32_t province) {
+  const auto found = connection.Execute("SELECT IDProvincia FROM Provincia WHERE Codigo_Oficial=" +
+                                        std::to_string(province));
+  const std::int64_t key = found.EOF_() ? 0 : found.integer("IDProvincia");
+  const std::string name = text::trim(town);
+  const auto rows =
+      connection.Execute("SELECT IDMunicipio FROM Municipio WHERE Nombre=" + quoted(name) +
+                         " AND CodProvincia=" + std::to_string(key));
+  if (!rows.EOF_()) return static_cast<std::int32_t>(rows.integer("IDMunicipio"));
+  return Insert("Municipio")
+      .text("Nombre", name)
+      .number("CodProvincia", key)
+      .into(connection, "IDMunicipio");
+}
+
+std::int32_t addInstitution(store::Connection& connection, const std::string& name,
+                            std::int32_t town) {
+  const std::int32_t id = Insert("Institucion")
+                              .text("Nombre", name)
+                              .text("InstitucionNombre", name)
+                              .text("InstitucionTipo", "Parroquia de")
+                              .number("CodMunicipio", town)
+                              .text("Parroco", "")
+                              .text("Diocesis", "")
+                              .text("Vicaria", "")
+                              .text("EncargadoArchivo", "")
+                              .into(connection, "IDInstitucion");
+  Insert("Ultimos").number("IDInstitucion", id).text("Encargado", "").into(connection);
+  return id;
+}
+
+}  // namespace fidaleon::app

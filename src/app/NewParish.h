@@ -1,0 +1,40 @@
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <string>
+
+#include "store/Connection.h"
+#include "text/Dates.h"
+
+namespace fidaleon::app {
+
+enum class Content { Empty, Sample };
+
+/// What the first run asks for.
+struct NewParish {
+  std::string name;     // of the parish, as its documents print it
+  std::string edition;  // a code of FDAPI::cCAplicacion
+  std::string user;
+  std::string town;
+  std::int32_t province = 0;  // official code of its province
+  Content content = Content::Empty;
+  std::filesystem::path directory;
+};
+
+/// What is missing or wrong in it, in Spanish; empty when it can be made.
+std::string whatIsMissing(const NewParish& parish);
+
+/// Creates the directory, the parish database with its first institution (and the sample register
+/// when asked), the reports database and the note of the edition. On failure nothing of it stays
+/// behind and store::Error or std::filesystem::filesystem_error is thrown; files that were there
+/// before are never touched.
+void createParish(const NewParish& parish, const text::Date& today);
+
+/// Adds an institution with its line in Ultimos and gives its key.
+std::int32_t addInstitution(store::Connection& connection, const std::string& name,
+                            std::int32_t town);
+/// The key of the town in the province of that official code, added if it is new.
+std::int32_t townKey(store::Connection& connection, const std::string& town, std::int32_t province);
+
+}  // namespace fidaleon::app

@@ -1,0 +1,55 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/contract/Sacramento.h"
+#include "core/contract/cNodo.h"
+
+namespace fidaleon::app {
+
+enum class NodeKind : unsigned {
+  Folder = 1,
+  Books = 2,
+  Entries = 4,
+  Requests = 8,
+  Institutions = 16,
+  Provinces = 32,
+  Towns = 64,
+};
+
+constexpr unsigned bit(NodeKind kind) {
+  return static_cast<unsigned>(kind);
+}
+
+/// How a column is shown and sorted: texts in Spanish order, numbers by value ("12a" as 12), dates
+/// by their stored form and shown as dd/mm/yyyy, flags as a word or nothing.
+enum class ColumnKind { Text, Number, Date, Flag };
+
+struct ColumnView {
+  std::string field;  // of the node's statement
+  std::string title;
+  ColumnKind kind = ColumnKind::Text;
+  int chars = 12;    // wished width in characters
+  std::string word;  // of a Flag that is set
+};
+
+/// One node of the tree with the list it shows.
+struct NodeView {
+  cNodo node;
+  NodeKind kind = NodeKind::Folder;
+  const Sacramento* sacrament = nullptr;
+  std::string key;  // field of the statement that tells the rows apart
+  std::vector<ColumnView> columns;
+  std::string annulled;  // field of the mark of an annulled row; empty when there is none
+  std::string things;    // "partidas": what the rows are, for the status bar
+};
+
+/// The nodes that work, parents before their children. `Nombre` of a node is the name that the
+/// operations take ("PartidasBautismo").
+const std::vector<NodeView>& nodeViews();
+/// Null when there is none of that name.
+const NodeView* findNode(std::string_view name);
+
+}  // namespace fidaleon::app

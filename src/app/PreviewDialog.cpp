@@ -1,0 +1,235 @@
+#include "app/PreviewDialog.h"
+
+#include <QAction>
+#include <QComboBox>
+#include <QFileDialog>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QMessageBox>
+#include <QPainter>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QPrinterInfo>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QStandardPaths>
+#include <QStyle>
+#include <QToolBar>
+#include <QToolButton>
+#include <QVBoxLayout>
+#include <array>
+#include <cmath>
+
+namespace fidaleon::app {
+namespace {
+
+constexpr double MILLIMETRES_PER_INCH = 25.4;
+constexpr int MARGIN = 16;  // around the sheet, in pixels
+constexpr std::array<int, 7> ZOOMS{50, 75, 100, 125, 150, 200, 300};
+
+}  // namespace
+
+/// The sheet on the desk: paper stays white in a dark theme.
+class PreviewDialog::Sheet : public QWidget {
+ public:
+  Sheet(const paper::Report& report, QWidget* parent) : QWidget(parent), report_(report) {
+    setAccessibleName(tr("Página del documento"));
+  }
+  void show(int page) {
+    page_ = page;
+    update();
+  }
+  void setScale(double percent) {
+    const QSizeF inches = report_.pageSizeMillimetres() / MILLIMETRES_PER_INCH;
+    scale_ = percent / 100;
+    const QSizeF paper(inches.width() * logicalDpiX() * scale_,
+                       inches.height() * logicalDpiY() * scale_);
+    setFixedSize(paper.toSize() + QSize(2 * MARGIN, 2 * MARGIN));
+    update();
+  }
+
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    QPainter painter(this);
+    const QRect paper = rect().adjusted(MARGIN, MARGIN, -MARGIN, -MARGIN);
+    painter.fillRect(paper.translated(3, 3), QColor(0, 0, 0, 60));
+    painter.fillRect(paper, Qt::white);
+    if (page_ >= report_.pageCount()) return;
+    painter.setClipRect(paper);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.setRenderHint(QPainter::TextAntialiasing);
+    painter.translate(paper.topLeft());
+    painter.scale(scale_, scale_);
+    report_.paintPage(painter, page_);
+  }
+
+ private:
+  const paper::Report& report_;
+  int page_ = 0;
+  double scale_ = 1;
+};
+
+PreviewDialog::PreviewDialog(paper::Report report, QWidget* parent)
+    : QDialog(parent), report_(std::move(report)) {
+  setWindowTitle(report_.title());
+  setWindowFlag(Qt::WindowMaximizeButtonHint);
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSpacing(0);
+  sheet_ = new Sheet(report_, this);
+  scroll_ = new QScrollArea(this);
+  scroll_->setBackgroundRole(QPalette::Dark);
+  scroll_->setAlignment(Qt::AlignCenter);
+  scroll_->setWidget(sheet_);
+  buildBar();
+  layout->addWidget(scroll_);
+  const QSize room = screen()->availableSize();
+  resize(std::min(900, room.width() * 9 / 10), std::min(960, room.height() * 9 / 10));
+  showPage(0);
+}
+
+PreviewDialog::~PreviewDialog() = default;
+
+void PreviewDialog::buildBar() {
+  auto* bar = new QToolBar(this);
+  bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+  layout()->addWidget(bar);
+  const auto add = [&](QStyle::StandardPixmap icon, const QString& text, const QKeySequence& key,
+                       auto&& what) {
+    QAction* action = bar->addAction(style()->standardIcon(icon), text);
+    action->setShortcut(key);
+    action->setToolTip(
+        key.isEmpty() ? text : tr("%1 (%2)").arg(text, key.toString(QKeySequence::NativeText)));
+    connect(action, &QAction::triggered, this, what);
+    return action;
+  };
+  add(QStyle::SP_DialogOkButton, tr("Imprimir…"), QKeySequence::Print, [this] { print(); });
+  add(QStyle::SP_DialogSaveButton, tr("Guardar como PDF…"), QKeySequence::Save,
+      [this] { savePdf(); });
+  bar->addSeparator();
+  first_ = add(QStyle::SP_MediaSkipBackward, tr("Primera"), {}, [this] { showPage(0); });
+  back_ =
+      add(QStyle::SP_ArrowBack, tr("Anterior"), Qt::Key_PageUp, [this] { showPage(page_ - 1); });
+  place_ = new QLabel(bar);
+  place_->setContentsMargins(6, 0, 6, 0);
+  bar->addWidget(place_);
+  forward_ = add(QStyle::SP_ArrowForward, tr("Siguiente"), Qt::Key_PageDown,
+                 [this] { showPage(page_ + 1); });
+  last_ = add(QStyle::SP_MediaSkipForward, tr("Última"), {},
+              [this] { showPage(report_.pageCount() - 1); });
+  for (QAction* a : {first_, last_})
+    qobject_cast<QToolButton*>(bar->widgetForAction(a))->setToolButtonStyle(Qt::ToolButtonIconOnly);
+  bar->addSeparator();
+  zooms_ = new QComboBox(bar);
+  zooms_->setAccessibleName(tr("Ampliación"));
+  zooms_->addItem(tr("Ajustar al ancho"), 0);
+  for (const int percent : ZOOMS) zooms_->addItem(tr("%1 %").arg(percent), percent);
+  connect(zooms_, &QComboBox::activated, this,
+          [this](int index) { setZoom(zooms_->itemData(index).toDouble()); });
+  bar->addWidget(zooms_);
+  auto* stretch = new QWidget(bar);
+  stretch->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+  bar->addWidget(stretch);
+  add(QStyle::SP_DialogCloseButton, tr("Cerrar"), {}, [this] { reject(); });
+}
+
+void PreviewDialog::showPage(int page) {
+  const int pages = report_.pageCount();
+  page_ = std::clamp(page, 0, std::max(0, pages - 1));
+  place_->setText(tr("Página %1 de %2").arg(page_ + 1).arg(pages));
+  first_->setEnabled(page_ > 0);
+  back_->setEnabled(page_ > 0);
+  forward_->setEnabled(page_ + 1 < pages);
+  last_->setEnabled(page_ + 1 < pages);
+  sheet_->show(page_);
+  scroll_->verticalScrollBar()->setValue(0);
+}
+
+void PreviewDialog::setZoom(double percent) {
+  zoom_ = percent;
+  const int index = zooms_->findData(static_cast<int>(percent));
+  if (index >= 0) zooms_->setCurrentIndex(index);
+  applyZoom();
+}
+
+void PreviewDialog::applyZoom() {
+  if (zoom_ > 0) return sheet_->setScale(zoom_);
+  const double natural =
+      report_.pageSizeMillimetres().width() / MILLIMETRES_PER_INCH * sheet_->logicalDpiX();
+  const int room = scroll_->viewport()->width() - 2 * MARGIN;
+  sheet_->setScale(std::clamp(100.0 * room / natural, 25.0, 300.0));
+}
+
+void PreviewDialog::zoomStep(int direction) {
+  const double now = sheet_->width() - 2 * MARGIN;
+  const double natural =
+      report_.pageSizeMillimetres().width() / MILLIMETRES_PER_INCH * sheet_->logicalDpiX();
+  const double percent = 100 * now / natural;
+  if (direction > 0) {
+    for (const int zoom : ZOOMS)
+      if (zoom > percent + 1) return setZoom(zoom);
+  } else {
+    for (auto zoom = ZOOMS.rbegin(); zoom != ZOOMS.rend(); ++zoom)
+      if (*zoom < percent - 1) return setZoom(*zoom);
+  }
+}
+
+void PreviewDialog::keyPressEvent(QKeyEvent* event) {
+  switch (event->key()) {
+    case Qt::Key_Home:
+      return showPage(0);
+    case Qt::Key_End:
+      return showPage(report_.pageCount() - 1);
+    case Qt::Key_Plus:
+      return zoomStep(+1);
+    case Qt::Key_Minus:
+      return zoomStep(-1);
+    default:
+      QDialog::keyPressEvent(event);
+  }
+}
+
+void PreviewDialog::showEvent(QShowEvent* event) {
+  QDialog::showEvent(event);
+  applyZoom();
+}
+
+void PreviewDialog::resizeEvent(QResizeEvent* event) {
+  QDialog::resizeEvent(event);
+  applyZoom();
+}
+
+void PreviewDialog::print() {
+  if (QPrinterInfo::availablePrinterNames().isEmpty()) {
+    QMessageBox::information(this, windowTitle(),
+                             tr("No hay ninguna impresora instalada en este equipo.\n"
+                                "Puede guardar el documento como PDF e imprimirlo en otro."));
+    return;
+  }
+  QPrinter printer(QPrinter::HighResolution);
+  QPrintDialog dialog(&printer, this);
+  dialog.setMinMax(1, report_.pageCount());
+  if (dialog.exec() != QDialog::Accepted) return;
+  try {
+    report_.print(printer);
+  } catch (const std::exception& e) {
+    QMessageBox::warning(this, windowTitle(), QString::fromUtf8(e.what()));
+  }
+}
+
+void PreviewDialog::savePdf() {
+  const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+  QString file = QFileDialog::getSaveFileName(this, tr("Guardar como PDF"),
+                                              folder + "/" + report_.title() + ".pdf",
+                                              tr("Documentos PDF (*.pdf)"));
+  if (file.isEmpty()) return;
+  if (!file.endsWith(".pdf", Qt::CaseInsensitive)) file += ".pdf";
+  try {
+    report_.savePdf(file.toStdString());
+  } catch (const std::exception& e) {
+    QMessageBox::warning(this, windowTitle(), QString::fromUtf8(e.what()));
+  }
+}
+
+}  // namespace fidaleon::app

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "core/contract/Entorno.h"
+#include "core/facade/cNucleo.h"
+
+namespace fidaleon::app {
+
+struct Document;
+
+/// What a command works with: the open parish, and the window around it. The window refreshes its
+/// list after every command.
+class Workplace {
+ public:
+  virtual ~Workplace() = default;
+
+  virtual cNucleo& nucleo() = 0;
+  virtual Entorno& entorno() = 0;
+  virtual FDAPI::Conexion& parish() = 0;
+  virtual const FDAPI::cConfig& config() const = 0;
+
+  /// Writes the document of that entry and shows it. Nothing is shown when the operation wrote no
+  /// row: whoever refused has told the user.
+  virtual void showDocument(const Document& document, std::int32_t id) = 0;
+  virtual void focusFilter() = 0;
+  /// Chooses the node of that name.
+  virtual void showNode(const std::string& name) = 0;
+  virtual void about() = 0;
+  virtual void leave() = 0;
+};
+
+}  // namespace fidaleon::app
