@@ -54,13 +54,13 @@ void cBaseDatos::insertarPadres(Conexion& conBaseDatos, cBautismo& record) {
   conBaseDatos.Execute(sqlInsertar(TABLA_MADRES, record));
   conBaseDatos.Execute(sqlInsertar(TABLA_MATRIMONIO, record));
   if (lngIDPadres_ == 0)
-    lngIDPadres_ = claveNueva(conBaseDatos,
-                              "SELECT MAX(IDPadres) AS ID FROM bautismo_padres WHERE Nombre = ",
-                              record.NombrePadres);
+    lngIDPadres_ = claveNueva(
+        conBaseDatos,
+        "SELECT MAX(IDPadres) AS ID FROM bautismo_padres WHERE Nombre = ", record.NombrePadres);
   if (lngIDMadres_ == 0)
-    lngIDMadres_ = claveNueva(conBaseDatos,
-                              "SELECT MAX(IDMadres) AS ID FROM bautismo_madres WHERE Nombre = ",
-                              record.NombreMadres);
+    lngIDMadres_ = claveNueva(
+        conBaseDatos,
+        "SELECT MAX(IDMadres) AS ID FROM bautismo_madres WHERE Nombre = ", record.NombreMadres);
   if (lngIDMatrimonio_ == 0)
     lngIDMatrimonio_ = claveNueva(
         conBaseDatos, "SELECT MAX(IDMatrimonio) AS ID FROM bautismo_matrimonio WHERE Parroquia = ",
@@ -118,13 +118,12 @@ bool cBaseDatos::guardar(Conexion& conBaseDatos, cBautismo& partida, bool& blnSa
     }
   }
   if (partida.Operacion == cCOperacion::Borrar) return true;
-  const bool antiguo =
-      partida.Operacion == cCOperacion::ANTIGUA ||
-      (partida.CodLibroBautismo != 0 &&
-       !conBaseDatos
-            .Execute("SELECT nuevo FROM Libro_Bautismo WHERE idlibrobautismo=" +
-                     std::to_string(partida.CodLibroBautismo))
-            .flag("nuevo"));
+  const bool antiguo = partida.Operacion == cCOperacion::ANTIGUA ||
+                       (partida.CodLibroBautismo != 0 &&
+                        !conBaseDatos
+                             .Execute("SELECT nuevo FROM Libro_Bautismo WHERE idlibrobautismo=" +
+                                      std::to_string(partida.CodLibroBautismo))
+                             .flag("nuevo"));
   if (!AltaPartidaBautismo(conBaseDatos, partida)) return false;
   hecho(true);
   return !antiguo || ActualizacionFormatoBautismo(conBaseDatos, partida, blnSalto);

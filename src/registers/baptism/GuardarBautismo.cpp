@@ -46,8 +46,7 @@ cBautismo itemDeLista(const store::Recordset& fila) {
 
 /// Deletes a shared row unless another entry points to it.
 void borrarSiNadieLaUsa(Conexion& conexion, const std::string& enlace, const std::string& tabla,
-                        const std::string& clave, const std::string& valor,
-                        const std::string& id) {
+                        const std::string& clave, const std::string& valor, const std::string& id) {
   const bool otra = !conexion
                          .Execute("SELECT * FROM bautismo WHERE " + enlace + "=" + valor +
                                   " AND idbautismo<>" + id)
@@ -94,7 +93,7 @@ bool cBaseDatos::ActualizarPartidaBautismo(Conexion& conBaseDatos, const cBautis
     if (record.CambioMatrimonio)
       conBaseDatos.Execute(sqlActualizar(TABLA_MATRIMONIO, record) +
                            " WHERE idmatrimonio = " + std::to_string(record.IDMatrimonio));
-    conBaseDatos.Execute(sqlActualizar(TABLA_BAUTISMO, record) +
+    conBaseDatos.Execute(sqlActualizar(TABLA_BAUTISMO_AL_ACTUALIZAR, record) +
                          " WHERE IDBautismo = " + std::to_string(record.IDBautismo));
     conBaseDatos.Execute(sqlActualizar(TABLA_HIJO, record) +
                          " WHERE codbautismo=" + std::to_string(record.IDBautismo));

@@ -1,9 +1,15 @@
 #include "registers/baptism/TablasBautismo.h"
 
+#include <algorithm>
+#include <array>
+#include <string_view>
+
 namespace fidaleon {
 
-#define TEXTO(columna, miembro) {columna, #miembro, &cBautismo::miembro, Cita::Texto}
-#define NUMERO(columna, miembro) {columna, #miembro, &cBautismo::miembro, Cita::Numero}
+#define TEXTO(columna, miembro) \
+  { columna, #miembro, &cBautismo::miembro, Cita::Texto }
+#define NUMERO(columna, miembro) \
+  { columna, #miembro, &cBautismo::miembro, Cita::Numero }
 
 namespace {
 
@@ -100,12 +106,24 @@ constexpr Columna<cBautismo> HIJOS[] = {
     NUMERO("codmunicipionac", CodPoblacionNacHijo),
 };
 
+/// The same columns as an update names them: the mark of annulment follows the keys.
+constexpr auto BAUTISMOS_AL_ACTUALIZAR = [] {
+  auto columnas = std::to_array(BAUTISMOS);
+  const auto anulada = std::find_if(columnas.begin(), columnas.end(), [](const auto& c) {
+    return std::string_view(c.nombre) == "anulada";
+  });
+  std::rotate(columnas.begin() + 3, anulada, anulada + 1);
+  return columnas;
+}();
+
 }  // namespace
 
 const Tabla<cBautismo> TABLA_PADRES{"bautismo_padres", ", ", "=", PADRES};
 const Tabla<cBautismo> TABLA_MADRES{"bautismo_madres", ", ", "=", MADRES};
 const Tabla<cBautismo> TABLA_MATRIMONIO{"bautismo_matrimonio", ",", "=", MATRIMONIOS};
 const Tabla<cBautismo> TABLA_BAUTISMO{"bautismo", ", ", " = ", BAUTISMOS};
+const Tabla<cBautismo> TABLA_BAUTISMO_AL_ACTUALIZAR{"bautismo", ", ", " = ",
+                                                    BAUTISMOS_AL_ACTUALIZAR};
 const Tabla<cBautismo> TABLA_HIJO{"bautismo_hijo", ",", "=", HIJOS};
 
 std::string sqlPartidaBautismo(std::int32_t id) {

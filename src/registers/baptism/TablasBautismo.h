@@ -10,6 +10,8 @@ extern const Tabla<cBautismo> TABLA_PADRES;
 extern const Tabla<cBautismo> TABLA_MADRES;
 extern const Tabla<cBautismo> TABLA_MATRIMONIO;
 extern const Tabla<cBautismo> TABLA_BAUTISMO;
+/// The columns of the entry in the order of its UPDATE.
+extern const Tabla<cBautismo> TABLA_BAUTISMO_AL_ACTUALIZAR;
 extern const Tabla<cBautismo> TABLA_HIJO;
 
 /// All columns of entry `id`, the child and the parents, under the names of the properties.

@@ -121,7 +121,15 @@ class frmPartidaBautismo : public forms::Form {
   };
   enum CampoLibro { FOLIO = 1, NUMERO = 2 };
   enum Boton { ACEPTAR = 0, CANCELAR = 1, ANULAR = 2 };
-  enum Pestana { GENERAL, BAUTIZADO, PADRE, MADRE, MATRIMONIO, BAUTISMO_, NOTAS };
+  enum Pestana {
+    TAB_GENERAL,
+    TAB_BAUTIZADO,
+    TAB_PADRE,
+    TAB_MADRE,
+    TAB_MATRIMONIO,
+    TAB_BAUTISMO,
+    TAB_NOTAS
+  };
 
   forms::TabStrip mstBautismo;
   forms::ControlArray<forms::TextBox> txtBautismo;
@@ -137,8 +145,7 @@ class frmPartidaBautismo : public forms::Form {
   forms::Frame fraAbuelosMaternos;
   forms::Frame fraMatrimonio;
   forms::Frame fraDomicilio;
-  forms::Frame fraPadrino;
-  forms::Frame fraMadrina;
+  forms::Frame fraPadrinos;
   forms::Label lblPartidaAnulada;
   forms::Button cmdAltaInstitucion;
   forms::Button cmdAltaLibro;
@@ -236,7 +243,7 @@ class frmPartidaBautismo : public forms::Form {
   bool ComprobarCambios(cBautismo& nuevo) const;
 
   template <class Body>
-  bool procedimiento(const char* nombre, Body&& body);
+  bool procedimiento(const char* nombre, Body&& body) const;
 
   Contexto& contexto_;
   bool santiago_;

@@ -8,6 +8,7 @@
 #include <string_view>
 #include <variant>
 
+#include "core/contract/EnSacramento.h"
 #include "core/contract/FDAPI.h"
 #include "text/Numbers.h"
 #include "text/Utf8.h"
@@ -35,12 +36,6 @@ struct Tabla {
   std::span<const Columna<Registro>> columnas;
 };
 
-/// A text between double quotes. One that slipped in is turned into two apostrophes, since quoted
-/// texts are not escaped.
-inline std::string entreComillas(std::string_view s) {
-  return '"' + text::replaceAll(s, "\"", "''") + '"';
-}
-
 /// A text as a number; what is none ("---", empty) is 0. Digits too many for a number are left to
 /// the store to refuse.
 inline std::string comoNumero(std::string_view s) {
@@ -49,23 +44,41 @@ inline std::string comoNumero(std::string_view s) {
 }
 
 namespace columnas_detalle {
-inline std::string texto(const std::string& v) { return v; }
-inline std::string texto(std::int32_t v) { return std::to_string(v); }
-inline std::string texto(std::uint8_t v) { return std::to_string(v); }
-inline std::string texto(bool v) { return v ? "True" : "False"; }
-inline std::string numero(const std::string& v) { return comoNumero(v); }
+inline std::string texto(const std::string& v) {
+  return v;
+}
+inline std::string texto(std::int32_t v) {
+  return std::to_string(v);
+}
+inline std::string texto(std::uint8_t v) {
+  return std::to_string(v);
+}
+inline std::string texto(bool v) {
+  return v ? "True" : "False";
+}
+/// A double quote that slipped in becomes two apostrophes: quoted texts are not escaped.
+inline std::string citado(const std::string& v) {
+  return entreComillas(text::replaceAll(v, "\"", "''"));
+}
+inline std::string numero(const std::string& v) {
+  return comoNumero(v);
+}
 template <class T>
 std::string numero(const T& v) {
   return texto(v);
 }
-inline void asignar(std::string& a, const store::Value& v) { a = v.text(); }
+inline void asignar(std::string& a, const store::Value& v) {
+  a = v.text();
+}
 inline void asignar(std::int32_t& a, const store::Value& v) {
   a = static_cast<std::int32_t>(v.integer());
 }
 inline void asignar(std::uint8_t& a, const store::Value& v) {
   a = static_cast<std::uint8_t>(v.integer());
 }
-inline void asignar(bool& a, const store::Value& v) { a = v.flag(); }
+inline void asignar(bool& a, const store::Value& v) {
+  a = v.flag();
+}
 }  // namespace columnas_detalle
 
 /// The value of a column, as it stands in a statement.
@@ -73,7 +86,7 @@ template <class Registro>
 std::string valorSQL(const Registro& r, const Columna<Registro>& c) {
   return std::visit(
       [&](auto miembro) {
-        return c.cita == Cita::Texto ? entreComillas(columnas_detalle::texto(r.*miembro))
+        return c.cita == Cita::Texto ? columnas_detalle::citado(columnas_detalle::texto(r.*miembro))
                                      : columnas_detalle::numero(r.*miembro);
       },
       c.miembro);
@@ -84,7 +97,8 @@ template <class Registro>
 std::string sqlInsertar(const Tabla<Registro>& t, const Registro& r) {
   std::string nombres, valores;
   for (const Columna<Registro>& c : t.columnas) {
-    nombres += (nombres.empty() ? "" : t.separador) + std::string(c.nombre);
+    const char* separador = nombres.ends_with(' ') ? "," : t.separador;
+    nombres += (nombres.empty() ? "" : separador) + std::string(c.nombre);
     valores += (valores.empty() ? "" : ", ") + valorSQL(r, c);
   }
   return std::string("INSERT INTO ") + t.nombre + " (" + nombres + ") VALUES (" + valores + ")";

@@ -41,7 +41,8 @@ void ListasDeLibro::fijarLibro(std::int32_t id, const std::string& nombre) {
 }
 
 void ListasDeLibro::elegirUltimaInstitucion() {
-  institucion_.selectText(contexto_.leerAjuste(cCRegistry::ultimos, cCRegistry::ultimos_Institucion));
+  institucion_.selectText(
+      contexto_.leerAjuste(cCRegistry::ultimos, cCRegistry::ultimos_Institucion));
 }
 
 void ListasDeLibro::guardarUltimaInstitucion() {

@@ -11,8 +11,7 @@ namespace fidaleon {
 /// are the dialog's.
 class ParProvinciaPoblacion {
  public:
-  ParProvinciaPoblacion(Contexto& contexto, forms::ComboBox& provincia,
-                        forms::ComboBox& poblacion);
+  ParProvinciaPoblacion(Contexto& contexto, forms::ComboBox& provincia, forms::ComboBox& poblacion);
   ParProvinciaPoblacion(const ParProvinciaPoblacion&) = delete;
   ParProvinciaPoblacion& operator=(const ParProvinciaPoblacion&) = delete;
 

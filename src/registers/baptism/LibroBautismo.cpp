@@ -1,0 +1,136 @@
+// Institution, book, position and tabs of the baptism dialog.
+
+#include "registers/baptism/ProcedimientoBautismo.h"
+#include "text/Numbers.h"
+#include "text/Utf8.h"
+
+namespace fidaleon {
+
+using FDAPI::cCOperacion;
+
+void frmPartidaBautismo::llenarLibros() {
+  if (Operacion == cCOperacion::ANADIR) listas_->CargarComboLibrosNuevos();
+  if (Operacion == cCOperacion::ANTIGUA) listas_->CargarComboLibrosAntiguos();
+}
+
+void frmPartidaBautismo::abrirPosicion(bool abierta) {
+  for (const CampoLibro campo : {FOLIO, NUMERO}) txtLibro[campo].setLocked(!abierta);
+}
+
+void frmPartidaBautismo::cboInstitucion_Click() {
+  procedimiento("cboBautismo_Click", [this] {
+    if (!esAlta() || esSolicitud() || lngLibro != 0) return;
+    llenarLibros();
+    for (const CampoLibro campo : {FOLIO, NUMERO}) txtLibro[campo].setText("");
+  });
+}
+
+void frmPartidaBautismo::cboLibro_Click() {
+  procedimiento("cboBautismo_Click", [this] {
+    if (esAlta()) proponerPosicion();
+  });
+}
+
+void frmPartidaBautismo::proponerPosicion() {
+  if (esSolicitud()) return;
+  if (desdeLista())
+    posicion_->CalcularColeccionFolioyNumero(static_cast<std::int32_t>(cboBautismo[Libro].data()));
+  else if (Operacion == cCOperacion::ANADIR)
+    posicion_->RellenarFolioyNumero();
+  else
+    posicion_->ComprobarFolioyNumeroAntiguas();
+}
+
+std::vector<Posicion> frmPartidaBautismo::posicionesDeColeccion() const {
+  std::vector<Posicion> posiciones;
+  for (const cBautismo& item : *colPartidas)
+    if (item.Operacion != cCOperacion::Borrar)
+      posiciones.push_back({text::toInteger(item.FolioBautismo).value_or(0), item.NumeroBautismo});
+  return posiciones;
+}
+
+void frmPartidaBautismo::refrescarTitulo() {
+  std::string titulo;
+  switch (Operacion) {
+    case cCOperacion::ANADIR:
+      titulo = "Agregar partida de bautismo nueva";
+      break;
+    case cCOperacion::ANTIGUA:
+      titulo = "Agregar partida de bautismo antigua";
+      break;
+    case cCOperacion::EDITAR:
+      titulo =
+          std::string("Propiedades de partida de bautismo ") + (libroNuevo_ ? "nueva" : "antigua");
+      break;
+    case cCOperacion::ANADIRSOLICITUD:
+      titulo = "Agregar solicitud de bautismo";
+      break;
+    default:
+      titulo = "Propiedades de solicitud de bautismo";
+  }
+  const std::string folio = txtLibro[FOLIO].text();
+  const bool conPosicion = Operacion != cCOperacion::ANADIR || !folio.empty();
+  if (!esSolicitud() && conPosicion)
+    titulo += ". Folio:" + folio + " número:" + txtLibro[NUMERO].text();
+  setCaption(titulo);
+}
+
+bool frmPartidaBautismo::faltaInstitucionOLibro() {
+  std::string mensaje;
+  Lista falta = Institucion;
+  if (cboBautismo[Institucion].listIndex() < 0) {
+    mensaje = std::string("¡Antes de introducir datos en la ") +
+              (esSolicitud() ? "solicitud" : "partida") + ", tiene que elegir una Institución!";
+  } else if (!esSolicitud() && cboBautismo[Libro].listIndex() < 0) {
+    mensaje = "¡Antes de introducir datos en la partida, tiene que elegir un libro!";
+    falta = Libro;
+  }
+  if (mensaje.empty()) return false;
+  forms::warn(ui(), mensaje);
+  mstBautismo.setTab(TAB_GENERAL);
+  setFocus(cboBautismo[falta]);
+  return true;
+}
+
+bool frmPartidaBautismo::faltaPosicion() {
+  if (esSolicitud()) return false;
+  for (const auto& [campo, nombre] : {std::pair{FOLIO, "folio"}, {NUMERO, "número"}}) {
+    if (!text::trim(txtLibro[campo].text()).empty()) continue;
+    forms::warn(ui(), std::string("¡Debe introducir datos en el campo ") + nombre + "!");
+    mstBautismo.setTab(TAB_GENERAL);
+    setFocus(txtLibro[campo]);
+    return true;
+  }
+  return false;
+}
+
+bool frmPartidaBautismo::mstBautismo_MouseDown() {
+  bool adelante = false;
+  procedimiento("mstBautismo_MouseDown", [&] {
+    const bool comprobar = mstBautismo.tab() == TAB_GENERAL && Operacion == cCOperacion::ANTIGUA;
+    adelante = !comprobar || posicion_->comprobarPosicionTecleada();
+  });
+  return adelante;
+}
+
+void frmPartidaBautismo::mstBautismo_Click() {
+  procedimiento("mstBautismo_Click", [this] {
+    if (faltaInstitucionOLibro()) return;
+    refrescarTitulo();
+    for (forms::Control* control : tabOrder()) {
+      if (control->strip() != &mstBautismo || !control->reachable()) continue;
+      setFocus(*control);
+      return;
+    }
+  });
+}
+
+void frmPartidaBautismo::txtLibro_LostFocus(CampoLibro indice, const forms::Control* siguiente) {
+  if (siguiente == &cmdBautismo[CANCELAR] || !text::trim(txtLibro[indice].text()).empty()) return;
+  if (txtLibro[indice].locked()) return;
+  forms::warn(ui(), std::string("¡Debe introducir datos en el campo ") +
+                        (indice == FOLIO ? "folio!" : "número!"));
+  setFocus(txtLibro[indice]);
+}
+
+}  // namespace fidaleon

@@ -1,0 +1,162 @@
+// Is the entry being accepted already in a book, and has it changed at all?
+
+#include "registers/baptism/ProcedimientoBautismo.h"
+#include "registers/baptism/TablasBautismo.h"
+#include "text/Utf8.h"
+
+namespace fidaleon {
+
+using FDAPI::cCOperacion;
+
+namespace {
+
+std::string igual(const char* columna, const std::string& texto) {
+  return std::string(" AND ") + columna + " = " + entreComillas(texto);
+}
+
+std::string igual(const char* columna, std::int32_t numero) {
+  return std::string(" AND ") + columna + " = " + std::to_string(numero);
+}
+
+/// Parents' rows with the same values, as a statement.
+std::string sqlPadres(const cBautismo& b) {
+  return "SELECT IDPadres FROM bautismo_padres WHERE Nombre = " + entreComillas(b.NombrePadres) +
+         igual("PrimerApellido", b.PrimerApellidoPadres) +
+         igual("SegundoApellido", b.SegundoApellidoPadres) +
+         igual("CodMunicipio", b.CodPoblacionPadres) + igual("Abuelo", b.AbueloPadres) +
+         igual("CodMunicipioAbuelo", b.CodPoblacionAbueloPadres) + igual("Abuela", b.AbuelaPadres) +
+         igual("TelefonoPadre", b.TelefonoPadre) + igual("EmailPadre", b.EmailPadre) +
+         igual("CodMunicipioAbuela", b.CodPoblacionAbuelaPadres);
+}
+
+std::string sqlMadres(const cBautismo& b) {
+  return "SELECT IDMadres FROM Bautismo_Madres WHERE Nombre = " + entreComillas(b.NombreMadres) +
+         igual("PrimerApellido", b.PrimerApellidoMadres) +
+         igual("SegundoApellido", b.SegundoApellidoMadres) +
+         igual("CodMunicipio", b.CodPoblacionMadres) + igual("Abuelo", b.AbueloMadres) +
+         igual("CodMunicipioAbuelo", b.CodPoblacionAbueloMadres) + igual("Abuela", b.AbuelaMadres) +
+         igual("TelefonoMadre", b.TelefonoMadre) + igual("EmailMadre", b.EmailMadre) +
+         igual("CodMunicipioAbuela", b.CodPoblacionAbuelaMadres);
+}
+
+std::string sqlMatrimonio(const cBautismo& b) {
+  return "SELECT IDMatrimonio FROM Bautismo_Matrimonio WHERE Parroquia = " +
+         entreComillas(b.ParroquiaMatrimonio) + igual("FechaMatr", b.FechaMatrMatrimonio) +
+         igual("DireccionPadres", b.DireccionPadresMatrimonio) +
+         igual("CodMunicipioMatr", b.CodPoblacionMatrMatrimonio) +
+         igual("CodMunicipioPadres", b.CodPoblacionPadresMatrimonio);
+}
+
+/// "CodPadres = 7" with the row found. Each child of a family has rows of its own with the same
+/// values, so where several rows are found any of them counts. Empty when none is.
+std::string condicionEnlace(FDAPI::Conexion& conexion, const char* enlace, const std::string& sql) {
+  store::Recordset filas = conexion.Execute(sql);
+  if (filas.EOF_()) return {};
+  const std::string primera = filas.Fields(0).Value().text();
+  filas.MoveNext();
+  return std::string(" AND ") + enlace + (filas.EOF_() ? " = " + primera : " IN (" + sql + ")");
+}
+
+/// What both records must share to be the same baptism, parents aside.
+bool mismosDatos(const cBautismo& a, const cBautismo& b) {
+  for (const auto miembro :
+       {&cBautismo::FechaBautismo, &cBautismo::PadrinoBautismo, &cBautismo::MadrinaBautismo,
+        &cBautismo::ParroquiaBautismo, &cBautismo::DiocesisBautismo, &cBautismo::MinistroBautismo,
+        &cBautismo::NombreHijo, &cBautismo::PrimerApellidoHijo, &cBautismo::SegundoApellidoHijo,
+        &cBautismo::SexoHijo, &cBautismo::FechaNacHijo, &cBautismo::HoraNacHijo,
+        &cBautismo::DireccionNacHijo})
+    if (!text::equalsNoCase(a.*miembro, b.*miembro)) return false;
+  return a.CodPoblacionNacHijo == b.CodPoblacionNacHijo &&
+         a.CodPoblacionBautismo == b.CodPoblacionBautismo;
+}
+
+}  // namespace
+
+bool frmPartidaBautismo::ComprobarDatosBaseDatos() {
+  if (esSolicitud()) return true;
+  const cBautismo partida = leerCampos();
+  if (!repetidaEnColeccion(partida) && !repetida(partida)) return true;
+  return forms::ask(ui(), "La partida de " + partida.NombreHijo + " " + partida.PrimerApellidoHijo +
+                              " " + partida.SegundoApellidoHijo +
+                              " ya existe en el libro correspondiente, ¿Quiere continuar?");
+}
+
+bool frmPartidaBautismo::repetida(const cBautismo& b) {
+  const std::string padres = condicionEnlace(*conBaseDatos, "CodPadres", sqlPadres(b));
+  if (padres.empty()) return false;
+  const std::string madres = condicionEnlace(*conBaseDatos, "CodMadres", sqlMadres(b));
+  if (madres.empty()) return false;
+  const std::string matrimonio = condicionEnlace(*conBaseDatos, "CodMatrimonio", sqlMatrimonio(b));
+  const std::string libros = condicionLibros();
+  if (matrimonio.empty() || libros.empty()) return false;
+  store::Recordset filas = conBaseDatos->Execute(
+      "SELECT * FROM Bautismo, Bautismo_Hijo WHERE FechaBautismo = " +
+      entreComillas(b.FechaBautismo) + igual("Padrino", b.PadrinoBautismo) +
+      igual("Madrina", b.MadrinaBautismo) + padres + igual("Parroquia", b.ParroquiaBautismo) +
+      igual("Diocesis", b.DiocesisBautismo) + madres + matrimonio +
+      igual("Ministro", b.MinistroBautismo) + igual("Nombre", b.NombreHijo) +
+      igual("CodMunicipioNac", b.CodPoblacionNacHijo) + igual("Sexo", b.SexoHijo) +
+      igual("PrimerApellido", b.PrimerApellidoHijo) +
+      igual("SegundoApellido", b.SegundoApellidoHijo) + igual("FechaNac", b.FechaNacHijo) +
+      igual("HoraNac", b.HoraNacHijo) + igual("DireccionNac", b.DireccionNacHijo) +
+      igual("CodMunicipio", b.CodPoblacionBautismo) + " AND CodBautismo = IDBautismo AND (" +
+      libros + ")");
+  for (; !filas.EOF_(); filas.MoveNext()) {
+    const std::int64_t id = filas.integer("IDBautismo");
+    if (id != b.IDBautismo && !marcadaParaBorrar(id)) return true;
+  }
+  return false;
+}
+
+std::string frmPartidaBautismo::condicionLibros() const {
+  store::Recordset filas = conBaseDatos->Execute(
+      "SELECT idlibrobautismo FROM Libro_Bautismo WHERE (nuevo=true AND cerrado=false) OR "
+      "(nuevo=false AND fechacreacion<=(SELECT fechacreacion FROM Libro_Bautismo WHERE nombre=" +
+      entreComillas(cboBautismo[Libro].text()) +
+      " AND codinstitucion=" + std::to_string(cboBautismo[Institucion].data()) + "))");
+  std::string libros;
+  for (; !filas.EOF_(); filas.MoveNext())
+    libros += (libros.empty() ? "codlibro=" : " OR codlibro=") + filas.text("idlibrobautismo");
+  return libros;
+}
+
+bool frmPartidaBautismo::repetidaEnColeccion(const cBautismo& partida) const {
+  if (!desdeLista()) return false;
+  for (std::size_t i = 0; i < colPartidas->size(); ++i) {
+    const cBautismo& item = (*colPartidas)[i];
+    const bool esElMismo = !esAlta() && i == lngPosicion;
+    if (esElMismo || item.Operacion == cCOperacion::Borrar) continue;
+    if (mismosDatos(item, partida) && mismaFila(TABLA_PADRES, item, partida) &&
+        mismaFila(TABLA_MADRES, item, partida) && mismaFila(TABLA_MATRIMONIO, item, partida))
+      return true;
+  }
+  return false;
+}
+
+bool frmPartidaBautismo::marcadaParaBorrar(std::int64_t id) const {
+  if (!desdeLista()) return false;
+  for (const cBautismo& item : *colPartidas)
+    if (item.Estado && item.IDBautismo == id) return item.Operacion == cCOperacion::Borrar;
+  return false;
+}
+
+bool frmPartidaBautismo::ComprobarCambios(cBautismo& nuevo) const {
+  bool cambios = false;
+  procedimiento("ComprobarCambios", [&] {
+    const bool telefonos = nuevo.TelefonoMadre != registro_.TelefonoMadre ||
+                           nuevo.TelefonoPadres != registro_.TelefonoPadres;
+    const bool padre = !mismaFila(TABLA_PADRES, registro_, nuevo) || telefonos;
+    const bool madre = !mismaFila(TABLA_MADRES, registro_, nuevo);
+    const bool matrimonio = !mismaFila(TABLA_MATRIMONIO, registro_, nuevo);
+    const bool general =
+        !mismaFila(TABLA_BAUTISMO, registro_, nuevo) || !mismaFila(TABLA_HIJO, registro_, nuevo);
+    cambios = padre || madre || matrimonio || general;
+    // An item of a list may have been changed before, in the same sitting.
+    nuevo.CambioPadre = nuevo.CambioPadre || padre;
+    nuevo.CambioMadre = nuevo.CambioMadre || madre;
+    nuevo.CambioMatrimonio = nuevo.CambioMatrimonio || matrimonio;
+  });
+  return cambios;
+}
+
+}  // namespace fidaleon

@@ -1,0 +1,101 @@
+// What the controls of the baptism dialog set off.
+
+#include "core/contract/Guard.h"
+#include "registers/baptism/ProcedimientoBautismo.h"
+#include "registers/books/frmAltaLibro.h"
+
+namespace fidaleon {
+
+void frmPartidaBautismo::crearSucesos() {
+  listas_.emplace(contexto_, BAUTISMO, cboBautismo[Institucion], cboBautismo[Libro]);
+  posicion_.emplace(
+      contexto_, BAUTISMO,
+      CamposPosicion{cboBautismo[Institucion], cboBautismo[Libro], txtLibro[FOLIO],
+                     txtLibro[NUMERO], mstBautismo, [this] { return posicionesDeColeccion(); }});
+  limiteNotas_.emplace(ui(), txtBautismo[NotasMarginales]);
+  txtBautismo[NotasMarginales].onChange = [this] {
+    if (!cargando_) limiteNotas_->comprobar();
+  };
+
+  mstBautismo.onMouseDown = [this](int) { return mstBautismo_MouseDown(); };
+  mstBautismo.onClick = [this](int) { mstBautismo_Click(); };
+  cboBautismo[Institucion].onClick = [this] { cboInstitucion_Click(); };
+  cboBautismo[Libro].onClick = [this] { cboLibro_Click(); };
+  cboBautismo[Sexo].onKeyPress = [this](forms::KeyPress& tecla) {
+    contexto_.fidaleon()->Comprobar_borrarcombo(tecla, cboBautismo[Sexo]);
+  };
+  for (const CampoLibro campo : {FOLIO, NUMERO}) {
+    txtLibro[campo].onLostFocus = [this, campo](forms::Control* siguiente) {
+      txtLibro_LostFocus(campo, siguiente);
+    };
+    txtLibro[campo].onChange = [this] {
+      procedimiento("txtLibro_Change", [this] { refrescarTitulo(); });
+    };
+  }
+  for (const Texto apellido : {PrimerApellidoHijo, SegundoApellidoHijo})
+    txtBautismo[apellido].onLostFocus = [this](forms::Control* siguiente) {
+      apellidos_LostFocus(siguiente);
+    };
+  for (forms::TextBox* parroquia :
+       {&txtSC[PadreParroquia], &txtBautismo[ParroquiaMatrimonio], &txtBautismo[ParroquiaBautismo]})
+    parroquia->onGotFocus = [this] { BuscarPadres(); };
+
+  cmdAltaInstitucion.onClick = [this] { cmdAltaInstitucion_Click(); };
+  cmdAltaLibro.onClick = [this] { cmdAltaLibro_Click(); };
+  cmdAltaProvincia.onClick = [this] { cmdAltaProvincia_Click(); };
+  cmdAltaPoblacion.onClick = [this] { cmdAltaPoblacion_Click(); };
+  cmdBautismo[ACEPTAR].onClick = [this] {
+    procedimiento("cmdBautismo_Click", [this] { aceptar(); });
+  };
+  cmdBautismo[CANCELAR].onClick = [this] { Unload(); };
+  cmdBautismo[ANULAR].onClick = [this] {
+    procedimiento("cmdBautismo_Click", [this] { anular(); });
+  };
+}
+
+void frmPartidaBautismo::soloLectura() {
+  for (forms::Control* control : controls())
+    if (auto* boton = dynamic_cast<forms::Button*>(control)) boton->setEnabled(false);
+  cmdBautismo[CANCELAR].setEnabled(true);
+}
+
+void frmPartidaBautismo::cmdAltaInstitucion_Click() {
+  procedimiento("cmdAltaInstitucion_Click", [this] { listas_->agregarInstitucion(); });
+}
+
+void frmPartidaBautismo::cmdAltaLibro_Click() {
+  procedimiento("cmdAltaLibro_Click", [this] {
+    forms::ComboBox& libros = cboBautismo[Libro];
+    const std::int64_t elegido = libros.data();
+    const int antes = libros.listCount();
+    frmAltaLibroBautismo alta(contexto_);
+    alta.conBaseDatos = conBaseDatos;
+    alta.lngInstitucion = static_cast<std::int32_t>(cboBautismo[Institucion].data());
+    alta.Show();
+    llenarLibros();
+    if (libros.listCount() > antes)
+      libros.setListIndex(libros.listCount() - 1);
+    else
+      libros.selectData(elegido);
+  });
+}
+
+void frmPartidaBautismo::cmdAltaProvincia_Click() {
+  procedimiento("cmdAltaProvincia_Click", [this] {
+    bool agregada = false;
+    contexto_.fidaleon()->NuevaProvincia(agregada, *conBaseDatos, contexto_.config());
+    if (!agregada) return;
+    for (ParProvinciaPoblacion& par : pares_) par.refrescar();
+  });
+}
+
+void frmPartidaBautismo::cmdAltaPoblacion_Click() {
+  procedimiento("cmdAltaPoblacion_Click", [this] {
+    bool agregada = false;
+    contexto_.fidaleon()->NuevoMunicipio(agregada, *conBaseDatos, contexto_.config());
+    if (!agregada) return;
+    for (ParProvinciaPoblacion& par : pares_) par.refrescar();
+  });
+}
+
+}  // namespace fidaleon
