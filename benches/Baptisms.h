@@ -36,17 +36,24 @@ inline std::string entryStatement(int n, int book, int folio, const std::string&
 /// All five rows of an entry, with keys `n`; a folio holds ten entries.
 inline void insertBaptism(store::Connection& connection, int n, int book, int position) {
   const std::string id = std::to_string(n);
-  connection.Execute("INSERT INTO bautismo_padres (nombre, primerapellido, segundoapellido) "
-                     "VALUES (\"Juan\",\"" + pick(n, 3) + "\",\"" + pick(n, 4) + "\")");
-  connection.Execute("INSERT INTO bautismo_madres (nombre, primerapellido, segundoapellido) "
-                     "VALUES (\"Ana\",\"" + pick(n, 5) + "\",\"" + pick(n, 6) + "\")");
-  connection.Execute("INSERT INTO bautismo_matrimonio (parroquia,fechamatr) VALUES (\"San Pedro "
-                     "Apóstol\",\"19990501\")");
+  connection.Execute(
+      "INSERT INTO bautismo_padres (nombre, primerapellido, segundoapellido) "
+      "VALUES (\"Juan\",\"" +
+      pick(n, 3) + "\",\"" + pick(n, 4) + "\")");
+  connection.Execute(
+      "INSERT INTO bautismo_madres (nombre, primerapellido, segundoapellido) "
+      "VALUES (\"Ana\",\"" +
+      pick(n, 5) + "\",\"" + pick(n, 6) + "\")");
+  connection.Execute(
+      "INSERT INTO bautismo_matrimonio (parroquia,fechamatr) VALUES (\"San Pedro "
+      "Apóstol\",\"19990501\")");
   connection.Execute(entryStatement(n, book, 1 + position / 10, std::to_string(1 + position)));
-  connection.Execute("INSERT INTO bautismo_hijo (codbautismo,nombre,primerapellido,"
-                     "segundoapellido,sexo,fechanac,horanac,direccionnac,codmunicipionac) VALUES "
-                     "(" + id + ",\"José\",\"" + pick(n, 3) + "\",\"" + pick(n, 5) +
-                     "\",\"Hombre\",\"20030501\",\"10:30\",\"---\",1)");
+  connection.Execute(
+      "INSERT INTO bautismo_hijo (codbautismo,nombre,primerapellido,"
+      "segundoapellido,sexo,fechanac,horanac,direccionnac,codmunicipionac) VALUES "
+      "(" +
+      id + ",\"José\",\"" + pick(n, 3) + "\",\"" + pick(n, 5) +
+      "\",\"Hombre\",\"20030501\",\"10:30\",\"---\",1)");
 }
 
 }  // namespace fidaleon::bench

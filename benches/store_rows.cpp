@@ -36,7 +36,6 @@ class ByHand : public store::SqliteEngine {
   }
 };
 
-
 void insertOurs(store::Connection& connection, const std::vector<std::string>& statements) {
   connection.BeginTrans();
   for (const std::string& sql : statements) connection.Execute(sql);
@@ -58,13 +57,34 @@ bool isNumber(int column) {
 
 std::vector<std::string> valuesOf(int n) {
   const std::string id = std::to_string(n);
-  return {id, id, id, "0", "20030504", "Antonio " + bench::pick(n, 1) + " Romero",
-          "Dolores " + bench::pick(n, 2) + " Gil", "D. Manuel Ortega Prieto", "San Pedro Apóstol",
-          "1", "Alcalá de Henares",
-          "Contrajo matrimonio en la parroquia de Santa María el 4 de mayo de 2001", "---",
-          std::to_string(1 + n % 5), std::to_string(1 + n / 50), std::to_string(1 + n / 5), "0",
-          "34", "31", "San Pedro", "Santa María", "carpintero", "Alcalá", "casado", "modista",
-          "Alcalá", "casada", "Párroco"};
+  return {id,
+          id,
+          id,
+          "0",
+          "20030504",
+          "Antonio " + bench::pick(n, 1) + " Romero",
+          "Dolores " + bench::pick(n, 2) + " Gil",
+          "D. Manuel Ortega Prieto",
+          "San Pedro Apóstol",
+          "1",
+          "Alcalá de Henares",
+          "Contrajo matrimonio en la parroquia de Santa María el 4 de mayo de 2001",
+          "---",
+          std::to_string(1 + n % 5),
+          std::to_string(1 + n / 50),
+          std::to_string(1 + n / 5),
+          "0",
+          "34",
+          "31",
+          "San Pedro",
+          "Santa María",
+          "carpintero",
+          "Alcalá",
+          "casado",
+          "modista",
+          "Alcalá",
+          "casada",
+          "Párroco"};
 }
 
 void insertByHand(ByHand& db, const std::vector<std::vector<std::string>>& rows,
@@ -95,17 +115,20 @@ void measureInsert() {
     rows.push_back(valuesOf(n));
     std::vector<int> parsed(28);
     for (int c = 1; c <= 28; ++c) {
-      if (isNumber(c)) parsed[static_cast<std::size_t>(c - 1)] = std::stoi(rows.back()[static_cast<std::size_t>(c - 1)]);
+      if (isNumber(c))
+        parsed[static_cast<std::size_t>(c - 1)] =
+            std::stoi(rows.back()[static_cast<std::size_t>(c - 1)]);
     }
     numbers.push_back(parsed);
-    statements.push_back(bench::entryStatement(n, 1 + n % 5, 1 + n / 50, std::to_string(1 + n / 5)));
+    statements.push_back(
+        bench::entryStatement(n, 1 + n % 5, 1 + n / 50, std::to_string(1 + n / 5)));
   }
   bench::Pair best;
   for (int run = 0; run < kRuns; ++run) {
     const auto connection = store::memoryDatabase(store::parishSchema());
     ByHand db(*connection);
-    best.limit = std::min(best.limit,
-                          bench::milliseconds(1, [&] { insertByHand(db, rows, numbers); }));
+    best.limit =
+        std::min(best.limit, bench::milliseconds(1, [&] { insertByHand(db, rows, numbers); }));
     best.ours =
         std::min(best.ours, bench::milliseconds(1, [&] { insertOurs(*connection, statements); }));
   }
@@ -135,13 +158,35 @@ long readByHand(ByHand& db) {
 }
 
 long readOurs(store::Connection& connection) {
-  static constexpr const char* names[] = {
-      "IDBautismo", "CodPadres", "CodMadres", "CodMatrimonio", "InstitucionSolicitud",
-      "FechaBautismo", "Padrino", "Madrina", "Ministro", "Parroquia", "CodMunicipio", "Diocesis",
-      "NotasMarginales", "Observaciones", "CodLibro", "Folio", "Numero", "Anulada", "EdadPadrino",
-      "EdadMadrina", "ParroquiaDomicilioPadrino", "ParroquiaDomicilioMadrina", "ProfesionPadrino",
-      "NaturalPadrino", "EstatPadrino", "ProfesionMadrina", "NaturalMadrina", "EstatMadrina",
-      "MinistroCargo"};
+  static constexpr const char* names[] = {"IDBautismo",
+                                          "CodPadres",
+                                          "CodMadres",
+                                          "CodMatrimonio",
+                                          "InstitucionSolicitud",
+                                          "FechaBautismo",
+                                          "Padrino",
+                                          "Madrina",
+                                          "Ministro",
+                                          "Parroquia",
+                                          "CodMunicipio",
+                                          "Diocesis",
+                                          "NotasMarginales",
+                                          "Observaciones",
+                                          "CodLibro",
+                                          "Folio",
+                                          "Numero",
+                                          "Anulada",
+                                          "EdadPadrino",
+                                          "EdadMadrina",
+                                          "ParroquiaDomicilioPadrino",
+                                          "ParroquiaDomicilioMadrina",
+                                          "ProfesionPadrino",
+                                          "NaturalPadrino",
+                                          "EstatPadrino",
+                                          "ProfesionMadrina",
+                                          "NaturalMadrina",
+                                          "EstatMadrina",
+                                          "MinistroCargo"};
   long sum = 0;
   auto set = connection.Execute("SELECT * FROM Bautismo ORDER BY IDBautismo");
   std::vector<std::string> texts(29);

@@ -1,5 +1,8 @@
 #include "store/Open.h"
 
+#include <fcntl.h>
+#include <unistd.h>
+
 #include <map>
 
 #include "store/schema/Installer.h"
@@ -52,6 +55,16 @@ void requireFile(const fs::path& file) {
   }
 }
 
+/// Both the file and its folder, where the journal is kept.
+void requireWritable(const fs::path& file) {
+  const fs::path folder = file.has_parent_path() ? file.parent_path() : ".";
+  for (const fs::path& path : {file, folder}) {
+    if (faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) == 0) continue;
+    throw Error(ErrorKind::ReadOnly, "No se puede escribir en «" + path.string() +
+                                         "»: está protegido contra escritura.");
+  }
+}
+
 void requireFree(const fs::path& file) {
   std::error_code failed;
   if (fs::exists(file, failed)) {
@@ -69,11 +82,8 @@ std::unique_ptr<SqliteEngine> freshMemory(const Schema& schema) {
 
 std::unique_ptr<Connection> openDatabase(const fs::path& file, const Schema& schema) {
   requireFile(file);
+  requireWritable(file);
   auto engine = std::make_unique<SqliteEngine>(file, SqliteEngine::Access::Existing);
-  if (engine->readOnly()) {
-    throw Error(ErrorKind::ReadOnly,
-                "La base de datos «" + file.string() + "» está protegida contra escritura.");
-  }
   Installer(*engine, schema).upgrade();
   return std::make_unique<Connection>(std::move(engine), schema, fs::absolute(file).string());
 }

@@ -81,13 +81,17 @@ Value Recordset::value(std::string_view name) const {
 }
 
 std::string Recordset::text(std::string_view name) const {
-  return value(name).text();
+  RecordsetState& state = opened(state_);
+  return state.text(state.find(name));
 }
+
 std::int64_t Recordset::integer(std::string_view name) const {
-  return value(name).integer();
+  RecordsetState& state = opened(state_);
+  return state.integer(state.find(name));
 }
+
 bool Recordset::flag(std::string_view name) const {
-  return value(name).flag();
+  return integer(name) != 0;
 }
 
 }  // namespace fidaleon::store

@@ -13,7 +13,7 @@ namespace {
 constexpr auto kAll = std::numeric_limits<std::int64_t>::max();
 
 bool sameName(std::string_view a, std::string_view b) {
-  return a.size() == b.size() ? a == b || text::equalsNoCase(a, b) : text::equalsNoCase(a, b);
+  return a == b || text::equalsNoCase(a, b);
 }
 
 }  // namespace
@@ -140,12 +140,12 @@ int RecordsetState::find(std::string_view name) {
   throw Error(ErrorKind::UnknownName, "No existe el campo «" + std::string(name) + "».");
 }
 
-Value RecordsetState::value(int position) {
+const RowStore& RecordsetState::current(int position) {
   column(position);
   if (position_ < 0 || !fetch(position_ + 1)) {
     throw Error(ErrorKind::Misuse, "No hay ningún registro en curso.");
   }
-  return rows_.at(position_, position);
+  return rows_;
 }
 
 }  // namespace fidaleon::store

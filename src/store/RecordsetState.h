@@ -45,7 +45,9 @@ class RecordsetState {
   const Plan::ResultColumn& column(int position) const;
   /// Throws UnknownName.
   int find(std::string_view name);
-  Value value(int column);
+  Value value(int column) { return current(column).at(position_, column); }
+  std::string text(int column) { return current(column).text(position_, column); }
+  std::int64_t integer(int column) { return current(column).integer(position_, column); }
 
   /// Fetches until there are `rows` rows or no more; true when there are as many.
   bool fetch(std::int64_t rows);
@@ -53,6 +55,8 @@ class RecordsetState {
   void abandon();
 
  private:
+  /// The rows, once it is sure that they have this cell.
+  const RowStore& current(int column);
   void finish();
   bool matches(int position, std::string_view name) const;
 

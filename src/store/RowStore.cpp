@@ -4,53 +4,75 @@
 
 namespace fidaleon::store {
 
+void RowStore::beginRow() {
+  const std::int64_t place = rows_ - kFirstRows;
+  if (rows_ != 0 && (place < 0 || place % kRows != 0)) return;
+  const int rows = rows_ == 0 ? kFirstRows : kRows;
+  cells_.push_back(std::make_unique_for_overwrite<Cell[]>(static_cast<std::size_t>(rows * width_)));
+  next_ = cells_.back().get();
+}
+
 void RowStore::addInteger(std::int64_t n) {
-  Cell cell{Kind::Integer, 0, {}};
-  cell.payload.integer = n;
-  cells_.push_back(cell);
+  next_->kind = Kind::Integer;
+  next_++->payload.integer = n;
 }
 
 void RowStore::addReal(double n) {
-  Cell cell{Kind::Real, 0, {}};
-  cell.payload.real = n;
-  cells_.push_back(cell);
+  next_->kind = Kind::Real;
+  next_++->payload.real = n;
 }
 
 void RowStore::addText(std::string_view s) {
   char* copy = room(s.size());
   if (!s.empty()) std::memcpy(copy, s.data(), s.size());
-  Cell cell{Kind::Text, static_cast<std::uint32_t>(s.size()), {}};
-  cell.payload.text = copy;
-  cells_.push_back(cell);
+  next_->kind = Kind::Text;
+  next_->size = static_cast<std::uint32_t>(s.size());
+  next_++->payload.text = copy;
 }
 
 char* RowStore::room(std::size_t size) {
   if (size > left_) {
-    // The first block is small: most record sets hold one row.
-    const std::size_t block = blocks_.empty() ? 1024 : kBlock;
+    const std::size_t block = texts_.empty() ? 1024 : 64 * 1024;
     left_ = size > block ? size : block;
-    blocks_.push_back(std::make_unique_for_overwrite<char[]>(left_));
-    next_ = blocks_.back().get();
+    texts_.push_back(std::make_unique_for_overwrite<char[]>(left_));
+    free_ = texts_.back().get();
   }
-  char* here = next_;
-  next_ += size;
+  char* here = free_;
+  free_ += size;
   left_ -= size;
   return here;
 }
 
+const RowStore::Cell& RowStore::cell(std::int64_t row, int column) const {
+  const bool first = row < kFirstRows;
+  const std::int64_t place = first ? row : row - kFirstRows;
+  const auto block = first ? 0 : static_cast<std::size_t>(1 + place / kRows);
+  return cells_[block][static_cast<std::size_t>((first ? place : place % kRows) * width_ + column)];
+}
+
 Value RowStore::at(std::int64_t row, int column) const {
-  const Cell& cell = cells_[static_cast<std::size_t>(row * width_ + column)];
-  switch (cell.kind) {
+  const Cell& c = cell(row, column);
+  switch (c.kind) {
     case Kind::Integer:
-      return Value(cell.payload.integer);
+      return Value(c.payload.integer);
     case Kind::Real:
-      return Value(cell.payload.real);
+      return Value(c.payload.real);
     case Kind::Text:
-      return Value(std::string(cell.payload.text, cell.size));
+      return Value(std::string(c.payload.text, c.size));
     case Kind::Null:
       break;
   }
   return {};
+}
+
+std::string RowStore::text(std::int64_t row, int column) const {
+  const Cell& c = cell(row, column);
+  return c.kind == Kind::Text ? std::string(c.payload.text, c.size) : at(row, column).text();
+}
+
+std::int64_t RowStore::integer(std::int64_t row, int column) const {
+  const Cell& c = cell(row, column);
+  return c.kind == Kind::Integer ? c.payload.integer : at(row, column).integer();
 }
 
 }  // namespace fidaleon::store

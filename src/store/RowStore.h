@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -15,15 +16,19 @@ class RowStore {
   explicit RowStore(int width) : width_(width) {}
 
   /// An engine adds the cells of a row in order, then ends the row.
-  void addNull() { cells_.push_back({Kind::Null, 0, {}}); }
+  void addNull() { *next_++ = Cell{}; }
   void addInteger(std::int64_t n);
   void addReal(double n);
   void addText(std::string_view s);
+  void beginRow();
   void endRow() { ++rows_; }
 
   std::int64_t rows() const { return rows_; }
   int width() const { return width_; }
   Value at(std::int64_t row, int column) const;
+  /// As Value would read them, without making one.
+  std::string text(std::int64_t row, int column) const;
+  std::int64_t integer(std::int64_t row, int column) const;
 
  private:
   enum class Kind : std::uint32_t { Null, Integer, Real, Text };
@@ -33,19 +38,23 @@ class RowStore {
     const char* text;
   };
   struct Cell {
-    Kind kind;
-    std::uint32_t size;
-    Payload payload;
+    Kind kind = Kind::Null;
+    std::uint32_t size = 0;
+    Payload payload{};
   };
-  static constexpr std::size_t kBlock = 64 * 1024;
+  /// Rows in one block of cells: the first block is small, since most record sets hold one row.
+  static constexpr int kFirstRows = 4;
+  static constexpr int kRows = 64;
 
+  const Cell& cell(std::int64_t row, int column) const;
   char* room(std::size_t size);
 
   int width_;
   std::int64_t rows_ = 0;
-  std::vector<Cell> cells_;
-  std::vector<std::unique_ptr<char[]>> blocks_;
-  char* next_ = nullptr;
+  std::vector<std::unique_ptr<Cell[]>> cells_;
+  Cell* next_ = nullptr;
+  std::vector<std::unique_ptr<char[]>> texts_;
+  char* free_ = nullptr;
   std::size_t left_ = 0;
 };
 

@@ -180,6 +180,9 @@ void LiteralLifter::number(std::size_t start) {
   last_ = {};
   afterOperand_ = true;
   if (!lifting()) return;
+  if (at_ < sql_.size() && classOf(sql_[at_]) == Class::Letter) {
+    throw Error(ErrorKind::Syntax, "Hay un número mal escrito en la instrucción.");
+  }
   const bool negative = sql_[start] == '-';
   Literal literal;
   literal.kind = Literal::Kind::Integer;

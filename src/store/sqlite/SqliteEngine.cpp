@@ -83,10 +83,6 @@ bool SqliteEngine::inTransaction() const {
   return sqlite3_get_autocommit(db_) == 0;
 }
 
-bool SqliteEngine::readOnly() const {
-  return sqlite3_db_readonly(db_, "main") == 1;
-}
-
 void SqliteEngine::requireSound() {
   SqliteStatement statement(db_, "PRAGMA integrity_check");
   RowStore rows(1);

@@ -31,7 +31,6 @@ class SqliteEngine : public Engine {
 
   /// Replaces what this database holds by what `from` holds.
   void copyFrom(SqliteEngine& from);
-  bool readOnly() const;
   /// Reads the whole file; throws NotADatabase when it is damaged.
   void requireSound();
   sqlite3* handle() { return db_; }

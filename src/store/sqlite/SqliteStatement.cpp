@@ -55,6 +55,7 @@ bool SqliteStatement::step() {
 }
 
 void SqliteStatement::read(RowStore& rows) {
+  rows.beginRow();
   for (int i = 0; i < rows.width(); ++i) {
     switch (i < columns_ ? sqlite3_column_type(statement_, i) : SQLITE_NULL) {
       case SQLITE_INTEGER:

@@ -1,0 +1,277 @@
+// Databases as files: creation, opening, upgrade, copies, and everything that can be wrong with
+// a file or its disk.
+
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <signal.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <fstream>
+#include <functional>
+
+#include "store/Engine.h"
+#include "store/Error.h"
+#include "store/Open.h"
+#include "store/schema/Schema.h"
+#include "store/sqlite/NetworkDisk.h"
+
+namespace fidaleon::store {
+namespace {
+
+namespace fs = std::filesystem;
+
+class Files : public testing::Test {
+ protected:
+  void SetUp() override {
+    std::string name = (fs::temp_directory_path() / "fidaleon-XXXXXX").string();
+    ASSERT_NE(mkdtemp(name.data()), nullptr);
+    folder = name;
+    file = folder / "parroquia.fid";
+  }
+  void TearDown() override { fs::remove_all(folder); }
+
+  ErrorKind kindOf(const std::function<void()>& act) {
+    try {
+      act();
+    } catch (const Error& error) {
+      message = error.what();
+      EXPECT_FALSE(message.empty());
+      return error.kind();
+    }
+    ADD_FAILURE() << "nothing was thrown";
+    return ErrorKind::Other;
+  }
+  ErrorKind kindOfOpening() {
+    return kindOf([&] { openDatabase(file, parishSchema()); });
+  }
+
+  /// Runs `work` in another process and gives its exit status as waitpid tells it.
+  static int inChild(const std::function<void()>& work) {
+    const pid_t child = fork();
+    if (child == 0) {
+      try {
+        work();
+      } catch (const Error& error) {
+        _exit(100 + static_cast<int>(error.kind()));
+      }
+      _exit(0);
+    }
+    int status = 0;
+    waitpid(child, &status, 0);
+    return status;
+  }
+
+  fs::path folder;
+  fs::path file;
+  std::string message;
+};
+
+constexpr const char* kInsert = "INSERT INTO Cargo (Nombre) VALUES (\"Sacristán\")";
+
+std::int64_t count(Connection& connection, const std::string& table = "Cargo") {
+  return connection.Execute("SELECT COUNT(*) AS n FROM " + table).integer("n");
+}
+
+TEST_F(Files, created_keepsWhatIsWrittenAndIsNotOverwritten) {
+  {
+    const auto connection = createDatabase(file, parishSchema());
+    EXPECT_EQ(connection->Properties("data source").Value, file.string());
+    EXPECT_EQ(kindOf([&] { connection->Properties("USER ID"); }), ErrorKind::UnknownName);
+    EXPECT_EQ(count(*connection, "Provincia"), 52);
+    EXPECT_EQ(
+        connection->Execute("SELECT Nombre FROM Provincia WHERE Codigo_Oficial = 7").text("Nombre"),
+        "Illes Balears");
+    EXPECT_EQ(
+        connection->Execute("SELECT Nombre FROM Provincia WHERE IDProvincia = 50").text("Nombre"),
+        "Zaragoza");
+    connection->Execute(kInsert);
+  }
+  EXPECT_EQ(count(*openDatabase(file, parishSchema())), 1);
+  EXPECT_EQ(kindOf([&] { createDatabase(file, parishSchema()); }), ErrorKind::Constraint);
+  EXPECT_EQ(count(*openDatabase(file, parishSchema())), 1);
+  EXPECT_EQ(kindOf([&] { createDatabase(folder / "no" / "hay.fid", parishSchema()); }),
+            ErrorKind::Connection);
+}
+
+TEST_F(Files, whatIsNoDatabase_isRefused) {
+  EXPECT_EQ(kindOfOpening(), ErrorKind::Missing);
+  EXPECT_NE(message.find("parroquia.fid"), std::string::npos);
+  std::ofstream(file) << "";
+  EXPECT_EQ(kindOfOpening(), ErrorKind::NotADatabase);
+  std::ofstream(file) << std::string(5000, 'x');
+  EXPECT_EQ(kindOfOpening(), ErrorKind::NotADatabase);
+  fs::remove(file);
+  createDatabase(file, reportsSchema());
+  EXPECT_EQ(kindOfOpening(), ErrorKind::NotADatabase) << "another kind of database";
+  fs::remove(file);
+  fs::create_directory(file);
+  EXPECT_EQ(kindOfOpening(), ErrorKind::NotADatabase);
+}
+
+TEST_F(Files, cutOffFile_isRefusedOrReportedWhenRead) {
+  createDatabase(file, parishSchema());
+  fs::resize_file(file, fs::file_size(file) / 2);
+  EXPECT_EQ(kindOf([&] {
+              const auto connection = openDatabase(file, parishSchema());
+              for (const Table& table : parishSchema().tables()) count(*connection, table.name());
+            }),
+            ErrorKind::NotADatabase);
+}
+
+TEST_F(Files, readOnlyFile_isRefused) {
+  createDatabase(file, parishSchema());
+  fs::permissions(file, fs::perms::owner_read | fs::perms::others_read);
+  fs::permissions(folder, fs::perms::owner_all | fs::perms::others_read | fs::perms::others_exec);
+  const int status = inChild([&] {
+    if (geteuid() == 0 && seteuid(65534) != 0) _exit(1);
+    openDatabase(file, parishSchema());
+  });
+  EXPECT_EQ(WEXITSTATUS(status), 100 + static_cast<int>(ErrorKind::ReadOnly));
+}
+
+Schema version(int number) {
+  Table persons("Persona");
+  persons.counter("ID").texts({"Nombre"}).zeroNumbers();
+  std::vector<Table> tables;
+  if (number >= 2) {
+    persons.from(2).longs({"Año"}).yesNos({"Activa"}).index({"Año"});
+    Table second("Segunda", 2);
+    second.counter("ID").texts({"Texto"}).row({Value(std::int64_t{1}), Value(std::string("a'b"))});
+    tables.push_back(second);
+  }
+  tables.insert(tables.begin(), persons);
+  return Schema("Ensayo", number, std::move(tables));
+}
+
+TEST_F(Files, olderDatabase_getsWhatItLacksAndKeepsItsRows) {
+  const Schema old = version(1);
+  const Schema current = version(2);
+  createDatabase(file, old)->Execute("INSERT INTO Persona (Nombre) VALUES ('Ana')");
+  {
+    const auto connection = openDatabase(file, current);
+    const auto row = connection->Execute("SELECT * FROM Persona");
+    EXPECT_EQ(row.text("Nombre"), "Ana");
+    EXPECT_EQ(row.integer("año"), 0);
+    EXPECT_FALSE(row.value("activa").isNull());
+    EXPECT_EQ(connection->Execute("SELECT Texto FROM Segunda").text("Texto"), "a'b");
+    connection->Execute("UPDATE Persona SET AÑO = 1950, Activa = true WHERE ID = 1");
+  }
+  EXPECT_EQ(openDatabase(file, current)->Execute("SELECT * FROM Persona").integer("Año"), 1950);
+  EXPECT_EQ(kindOf([&] { openDatabase(file, old); }), ErrorKind::NewerSchema);
+}
+
+TEST_F(Files, failedUpgrade_leavesTheOldDatabase) {
+  const Schema old = version(1);
+  createDatabase(file, old)->engine().run("CREATE TABLE Segunda (Estorbo)");
+  EXPECT_THROW(openDatabase(file, version(2)), Error);
+  const auto connection = openDatabase(file, old);
+  EXPECT_EQ(connection->Execute("SELECT * FROM Persona").FieldCount(), 2);
+}
+
+TEST_F(Files, heldByAnotherProcess_isBusyAndNothingIsWritten) {
+  const auto connection = createDatabase(file, parishSchema());
+  int ready[2];
+  int done[2];
+  ASSERT_EQ(pipe(ready) + pipe(done), 0);
+  const pid_t child = fork();
+  if (child == 0) {
+    const auto other = openDatabase(file, parishSchema());
+    other->BeginTrans();
+    other->Execute(kInsert);
+    char c = 0;
+    if (write(ready[1], "x", 1) != 1 || read(done[0], &c, 1) != 1) _exit(1);
+    _exit(0);  // without commit
+  }
+  char c = 0;
+  ASSERT_EQ(read(ready[0], &c, 1), 1);
+  EXPECT_EQ(kindOf([&] { connection->Execute(kInsert); }), ErrorKind::Busy);
+  EXPECT_NE(message.find("usando la base de datos"), std::string::npos);
+  EXPECT_EQ(count(*connection), 0) << "reading goes on";
+  ASSERT_EQ(write(done[1], "x", 1), 1);
+  waitpid(child, nullptr, 0);
+  connection->Execute(kInsert);
+  EXPECT_EQ(count(*connection), 1);
+}
+
+TEST_F(Files, writerKilled_leavesADatabaseThatOpensWithAllThatWasStored) {
+  createDatabase(file, parishSchema());
+  int stored[2];
+  ASSERT_EQ(pipe(stored), 0);
+  const pid_t child = fork();
+  if (child == 0) {
+    const auto connection = openDatabase(file, parishSchema());
+    for (;;) {
+      connection->Execute(kInsert);
+      if (write(stored[1], "x", 1) != 1) _exit(1);
+      connection->BeginTrans();
+      connection->Execute("INSERT INTO Grupo (Nombre) VALUES ('uno')");
+      connection->Execute("INSERT INTO Grupo (Nombre) VALUES ('dos')");
+      connection->CommitTrans();
+    }
+  }
+  char c = 0;
+  std::int64_t told = 0;
+  for (; told < 20; ++told) ASSERT_EQ(read(stored[0], &c, 1), 1);
+  kill(child, SIGKILL);
+  waitpid(child, nullptr, 0);
+  close(stored[1]);
+  while (read(stored[0], &c, 1) == 1) ++told;
+  const auto connection = openDatabase(file, parishSchema());
+  EXPECT_GE(count(*connection), told);
+  EXPECT_EQ(count(*connection, "Grupo") % 2, 0) << "half a transaction";
+  connection->Execute(kInsert);
+}
+
+TEST_F(Files, fullDisk_isToldAndLosesNothingStored) {
+  createDatabase(file, parishSchema())->Execute(kInsert);
+  const int status = inChild([&] {
+    signal(SIGXFSZ, SIG_IGN);
+    const auto connection = openDatabase(file, parishSchema());
+    const rlimit limit{fs::file_size(file), fs::file_size(file)};
+    setrlimit(RLIMIT_FSIZE, &limit);
+    connection->BeginTrans();
+    for (int i = 0; i < 20000; ++i) {
+      connection->Execute("INSERT INTO Cargo (Nombre, Descripcion) VALUES ('x', '" +
+                          std::string(4000, 'x') + "')");
+    }
+    connection->CommitTrans();
+  });
+  EXPECT_EQ(WEXITSTATUS(status), 100 + static_cast<int>(ErrorKind::DiskFull));
+  const auto connection = openDatabase(file, parishSchema());
+  EXPECT_EQ(count(*connection), 1);
+  connection->Execute(kInsert);
+}
+
+TEST_F(Files, backup_isACompleteDatabaseAndReplacesOnlyWhenWhole) {
+  const fs::path copy = folder / "copia.copia";
+  const auto connection = createDatabase(file, parishSchema());
+  connection->Execute(kInsert);
+  backupDatabase(*connection, copy);
+  connection->Execute(kInsert);
+  EXPECT_EQ(count(*openDatabase(copy, parishSchema())), 1);
+  backupDatabase(*connection, copy);
+  EXPECT_EQ(count(*openDatabase(copy, parishSchema())), 2);
+  EXPECT_THROW(backupDatabase(*connection, folder / "no" / "copia"), Error);
+  std::size_t files = 0;
+  for ([[maybe_unused]] const auto& entry : fs::directory_iterator(folder)) ++files;
+  EXPECT_LE(files, 4U) << "drafts are left behind";
+}
+
+TEST_F(Files, localDisk_usesTheWriteAheadLogAndNetworksAreTold) {
+  createDatabase(file, parishSchema());
+  EXPECT_TRUE(usesWriteAheadLog(file));
+  EXPECT_FALSE(isNetworkDisk(file));
+  EXPECT_FALSE(usesWriteAheadLog(folder / "nada"));
+}
+
+TEST_F(Files, pathWithBlanksAndAccents_works) {
+  const fs::path odd = folder / "Parroquia de Ñuño 100%? #1.fid";
+  createDatabase(odd, parishSchema())->Execute(kInsert);
+  EXPECT_EQ(count(*openDatabase(odd, parishSchema())), 1);
+}
+
+}  // namespace
+}  // namespace fidaleon::store

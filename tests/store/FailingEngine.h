@@ -1,0 +1,123 @@
+#pragma once
+// Makes chosen statements of a connection fail, to walk the failure paths of whoever uses it:
+//
+//   FailingEngine* faults = FailingEngine::wrap(*connection);
+//   faults->failOn("INSERT INTO bautismo_hijo", store::ErrorKind::DiskFull);
+//
+// A part is looked for, without regard to case, in the statement as it was issued, with "?" in
+// the place of each value. Transactions are "BEGIN", "COMMIT" and "ROLLBACK".
+
+#include <string>
+#include <vector>
+
+#include "store/Connection.h"
+#include "store/Engine.h"
+#include "store/Spelling.h"
+#include "text/Utf8.h"
+
+namespace fidaleon::store {
+
+class FailingEngine : public Engine {
+ public:
+  /// The engine belongs to the connection and lives as long.
+  static FailingEngine* wrap(Connection& connection) {
+    FailingEngine* wrapper = nullptr;
+    connection.wrapEngine([&](std::unique_ptr<Engine> inner) {
+      auto made = std::make_unique<FailingEngine>(std::move(inner));
+      wrapper = made.get();
+      return made;
+    });
+    return wrapper;
+  }
+
+  explicit FailingEngine(std::unique_ptr<Engine> inner) : inner_(std::move(inner)) {}
+
+  /// The execution number `nth`, from 1, of a statement with this part fails, once.
+  void failOn(const std::string& part, ErrorKind kind = ErrorKind::Other, int nth = 1) {
+    faults_.push_back({text::foldCase(part), kind, nth, false});
+  }
+  /// Every execution fails.
+  void failAlwaysOn(const std::string& part, ErrorKind kind = ErrorKind::Other) {
+    faults_.push_back({text::foldCase(part), kind, 1, true});
+  }
+  void clear() { faults_.clear(); }
+  /// Faults that have not come about.
+  std::size_t pending() const { return faults_.size(); }
+  /// What was executed, in order, failed statements included.
+  const std::vector<std::string>& executed() const { return executed_; }
+
+  std::unique_ptr<Statement> prepare(std::string_view sql, std::string_view source) override {
+    const std::string shown = text::replaceAll(source, "\x01", "?");
+    return std::make_unique<FailingStatement>(*this, inner_->prepare(sql, source), shown);
+  }
+  void run(std::string_view sql) override { inner_->run(sql); }
+  void begin(int depth) override {
+    meet("BEGIN");
+    inner_->begin(depth);
+  }
+  void commit(int depth) override {
+    meet("COMMIT");
+    inner_->commit(depth);
+  }
+  void rollback(int depth) override {
+    meet("ROLLBACK");
+    inner_->rollback(depth);
+  }
+  bool inTransaction() const override { return inner_->inTransaction(); }
+  const Spelling& spelling() const override { return inner_->spelling(); }
+  void backup(const std::filesystem::path& to) override { inner_->backup(to); }
+
+ private:
+  struct Fault {
+    std::string part;
+    ErrorKind kind;
+    int left;
+    bool always;
+  };
+
+  class FailingStatement : public Statement {
+   public:
+    FailingStatement(FailingEngine& engine, std::unique_ptr<Statement> inner, std::string source)
+        : engine_(engine), inner_(std::move(inner)), source_(std::move(source)) {}
+
+    int columnCount() const override { return inner_->columnCount(); }
+    std::string columnName(int position) const override { return inner_->columnName(position); }
+    std::string columnTable(int position) const override { return inner_->columnTable(position); }
+    void bind(int number, const Literal& value, Lifetime lifetime) override {
+      inner_->bind(number, value, lifetime);
+    }
+    bool step() override {
+      if (!begun_) engine_.meet(source_);
+      begun_ = true;
+      return inner_->step();
+    }
+    void read(RowStore& rows) override { inner_->read(rows); }
+    void reset() override {
+      begun_ = false;
+      inner_->reset();
+    }
+
+   private:
+    FailingEngine& engine_;
+    std::unique_ptr<Statement> inner_;
+    std::string source_;
+    bool begun_ = false;
+  };
+
+  void meet(const std::string& source) {
+    executed_.push_back(source);
+    const std::string folded = text::foldCase(source);
+    for (auto fault = faults_.begin(); fault != faults_.end(); ++fault) {
+      if (folded.find(fault->part) == std::string::npos || --fault->left > 0) continue;
+      const ErrorKind kind = fault->kind;
+      if (!fault->always) faults_.erase(fault);
+      throw Error(kind, "Fallo provocado por la prueba.");
+    }
+  }
+
+  std::unique_ptr<Engine> inner_;
+  std::vector<Fault> faults_;
+  std::vector<std::string> executed_;
+};
+
+}  // namespace fidaleon::store

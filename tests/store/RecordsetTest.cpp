@@ -1,0 +1,203 @@
+#include <gtest/gtest.h>
+
+#include "store/Engine.h"
+#include "store/Error.h"
+#include "store/FailingEngine.h"
+#include "store/Open.h"
+
+namespace fidaleon::store {
+namespace {
+
+class Recordsets : public testing::Test {
+ protected:
+  void fill(int rows) {
+    connection->BeginTrans();
+    for (int i = 1; i <= rows; ++i) {
+      connection->Execute("INSERT INTO Cargo (Nombre, Descripcion) VALUES (\"Cargo " +
+                          std::to_string(i) + "\", '')");
+    }
+    connection->CommitTrans();
+  }
+
+  std::unique_ptr<Connection> connection = memoryDatabase(parishSchema());
+};
+
+ErrorKind kindOf(const std::function<void()>& act) {
+  try {
+    act();
+  } catch (const Error& error) {
+    EXPECT_STRNE(error.what(), "");
+    return error.kind();
+  }
+  ADD_FAILURE() << "nothing was thrown";
+  return ErrorKind::Other;
+}
+
+TEST_F(Recordsets, moves_goBothWaysAndStopBeyondTheEnds) {
+  fill(4);
+  auto set = connection->Execute("SELECT * FROM Cargo ORDER BY IDCargo");
+  EXPECT_FALSE(set.BOF());
+  EXPECT_FALSE(set.EOF_());
+  EXPECT_EQ(set.RecordCount(), 4);
+  EXPECT_EQ(set.integer("IDCargo"), 1);
+  set.MoveLast();
+  EXPECT_EQ(set.integer("IDCargo"), 4);
+  set.MoveNext();
+  EXPECT_TRUE(set.EOF_());
+  EXPECT_EQ(kindOf([&] { set.text("Nombre"); }), ErrorKind::Misuse);
+  EXPECT_EQ(kindOf([&] { set.MoveNext(); }), ErrorKind::Misuse);
+  set.MovePrevious();
+  EXPECT_EQ(set.integer("idcargo"), 4);
+  set.MoveFirst();
+  set.MovePrevious();
+  EXPECT_TRUE(set.BOF());
+  EXPECT_EQ(kindOf([&] { set.text("Nombre"); }), ErrorKind::Misuse);
+  set.MoveNext();
+  EXPECT_EQ(set.integer("IDCargo"), 1);
+}
+
+TEST_F(Recordsets, empty_isAtBothEndsAndRefusesMoves) {
+  auto set = connection->Execute("SELECT * FROM Cargo");
+  EXPECT_TRUE(set.EOF_());
+  EXPECT_TRUE(set.BOF());
+  EXPECT_EQ(set.RecordCount(), 0);
+  EXPECT_EQ(kindOf([&] { set.MoveFirst(); }), ErrorKind::Misuse);
+  EXPECT_EQ(kindOf([&] { set.MoveLast(); }), ErrorKind::Misuse);
+  EXPECT_EQ(kindOf([&] { set.MoveNext(); }), ErrorKind::Misuse);
+}
+
+TEST_F(Recordsets, closed_isWhatAWriteGivesAndRefusesUse) {
+  auto set = connection->Execute("DELETE * FROM Cargo");
+  EXPECT_EQ(set.State(), 0);
+  EXPECT_EQ(kindOf([&] { set.EOF_(); }), ErrorKind::Misuse);
+  set = connection->Execute("SELECT * FROM Cargo");
+  EXPECT_EQ(set.State(), 1);
+  set.Close();
+  EXPECT_EQ(set.State(), 0);
+}
+
+TEST_F(Recordsets, open_showsRowsAsTheyWereWhenOpened) {
+  fill(50);
+  auto set = connection->Execute("SELECT * FROM Cargo ORDER BY IDCargo DESC");
+  connection->Execute("DELETE * FROM Cargo WHERE IDCargo < 40");
+  connection->Execute("UPDATE Cargo SET Nombre='otro'");
+  EXPECT_EQ(set.RecordCount(), 50);
+  set.MoveLast();
+  EXPECT_EQ(set.text("Nombre"), "Cargo 1");
+
+  auto inside = connection->Execute("SELECT * FROM Cargo");
+  connection->BeginTrans();
+  connection->Execute("DELETE * FROM Cargo");
+  auto none = connection->Execute("SELECT * FROM Cargo");
+  connection->RollbackTrans();
+  EXPECT_EQ(none.RecordCount(), 0);
+  EXPECT_EQ(inside.RecordCount(), 11);
+}
+
+TEST_F(Recordsets, sameStatementTwice_keepsEachItsOwnPlace) {
+  fill(20);
+  const char* sql = "SELECT * FROM Cargo ORDER BY IDCargo";
+  auto one = connection->Execute(sql);
+  one.MoveNext();
+  auto two = connection->Execute(sql);
+  for (int i = 0; i < 5; ++i) one.MoveNext();
+  EXPECT_EQ(one.integer("IDCargo"), 7);
+  EXPECT_EQ(two.integer("IDCargo"), 1);
+}
+
+/// Counts the rows that are stepped over.
+class CountingEngine : public Engine {
+ public:
+  CountingEngine(std::unique_ptr<Engine> inner, int& rows)
+      : inner_(std::move(inner)), rows_(rows) {}
+
+  std::unique_ptr<Statement> prepare(std::string_view sql, std::string_view source) override {
+    struct Counted : Statement {
+      Counted(std::unique_ptr<Statement> s, int& n) : inner(std::move(s)), rows(n) {}
+      int columnCount() const override { return inner->columnCount(); }
+      std::string columnName(int i) const override { return inner->columnName(i); }
+      std::string columnTable(int i) const override { return inner->columnTable(i); }
+      void bind(int i, const Literal& v, Lifetime l) override { inner->bind(i, v, l); }
+      bool step() override { return inner->step(); }
+      void read(RowStore& store) override {
+        ++rows;
+        inner->read(store);
+      }
+      void reset() override { inner->reset(); }
+      std::unique_ptr<Statement> inner;
+      int& rows;
+    };
+    return std::make_unique<Counted>(inner_->prepare(sql, source), rows_);
+  }
+  void run(std::string_view sql) override { inner_->run(sql); }
+  void begin(int depth) override { inner_->begin(depth); }
+  void commit(int depth) override { inner_->commit(depth); }
+  void rollback(int depth) override { inner_->rollback(depth); }
+  bool inTransaction() const override { return inner_->inTransaction(); }
+  const Spelling& spelling() const override { return inner_->spelling(); }
+  void backup(const std::filesystem::path& to) override { inner_->backup(to); }
+
+ private:
+  std::unique_ptr<Engine> inner_;
+  int& rows_;
+};
+
+TEST_F(Recordsets, longOnes_areFetchedOnDemandAndDrainedBeforeAWrite) {
+  fill(500);
+  int rows = 0;
+  connection->wrapEngine([&](std::unique_ptr<Engine> inner) {
+    return std::make_unique<CountingEngine>(std::move(inner), rows);
+  });
+  {
+    const auto last = connection->Execute("SELECT * FROM Cargo ORDER BY IDCargo DESC");
+    EXPECT_EQ(last.integer("IDCargo"), 500);
+    EXPECT_LT(rows, 10);
+  }
+  connection->Execute("DELETE * FROM Cargo WHERE IDCargo = 500");
+  EXPECT_LT(rows, 10) << "a record set that is gone need not be drained";
+  rows = 0;
+  const auto open = connection->Execute("SELECT * FROM Cargo");
+  connection->Execute("DELETE * FROM Cargo WHERE IDCargo = 499");
+  EXPECT_EQ(rows, 499);
+}
+
+TEST_F(Recordsets, connectionGone_keepsNothingDangling) {
+  fill(100);
+  auto set = connection->Execute("SELECT * FROM Cargo");
+  connection.reset();
+  EXPECT_EQ(set.integer("IDCargo"), 1);
+}
+
+TEST_F(Recordsets, values_readAsTextNumberAndFlag) {
+  connection->Execute(
+      "INSERT INTO Libro_Bautismo (Nombre, Nuevo, FolioSiguiente, NumeroSiguiente) VALUES "
+      "(\"12a\", true, 7, 3)");
+  const auto row = connection->Execute("SELECT * FROM Libro_Bautismo");
+  EXPECT_EQ(row.integer("Nombre"), 12);
+  EXPECT_EQ(row.text("FolioSiguiente"), "7");
+  EXPECT_TRUE(row.value("NumeroSiguiente").isText());
+  EXPECT_TRUE(row.flag("Nuevo"));
+  EXPECT_EQ(row.integer("Nuevo"), -1);
+  EXPECT_FALSE(row.flag("Cerrado"));
+  EXPECT_TRUE(row.value("FechaCreacion").isNull());
+  EXPECT_EQ(row.text("FechaCreacion"), "");
+  EXPECT_EQ(Value(2.5).text(), "2.5");
+  EXPECT_EQ(Value(3.0).text(), "3");
+}
+
+TEST_F(Recordsets, failingStatement_failsOnceAndLeavesTheRest) {
+  FailingEngine* faults = FailingEngine::wrap(*connection);
+  faults->failOn("insert into CARGO", ErrorKind::DiskFull, 2);
+  const std::string insert = "INSERT INTO Cargo (Nombre) VALUES ('a')";
+  connection->Execute(insert);
+  EXPECT_EQ(kindOf([&] { connection->Execute(insert); }), ErrorKind::DiskFull);
+  EXPECT_EQ(faults->pending(), 0U);
+  connection->Execute(insert);
+  EXPECT_EQ(connection->Execute("SELECT * FROM Cargo").RecordCount(), 2);
+  faults->failOn("BEGIN", ErrorKind::Busy);
+  EXPECT_EQ(kindOf([&] { connection->BeginTrans(); }), ErrorKind::Busy);
+  EXPECT_FALSE(connection->inTransaction());
+}
+
+}  // namespace
+}  // namespace fidaleon::store

@@ -1,0 +1,129 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <vector>
+
+#include "text/Dates.h"
+#include "text/Numbers.h"
+#include "text/Utf8.h"
+
+namespace fidaleon::text {
+namespace {
+
+TEST(Utf8, positions_countLetters) {
+  EXPECT_EQ(length("Ñoño 😀"), 6U);
+  EXPECT_EQ(left("Ñoño", 2), "Ño");
+  EXPECT_EQ(left("Ñoño", 9), "Ñoño");
+  EXPECT_EQ(right("Ñoño", 2), "ño");
+  EXPECT_EQ(right("Ñoño", 0), "");
+  EXPECT_EQ(mid("Ñoño", 1, 2), "oñ");
+  EXPECT_EQ(mid("Ñoño", 2), "ño");
+  EXPECT_EQ(mid("Ñoño", 7), "");
+  EXPECT_EQ(trim("  a b\t "), "a b\t");
+  EXPECT_EQ(trim("   "), "");
+  EXPECT_EQ(toUtf8(toUtf32("ñ😀")), "ñ😀");
+}
+
+TEST(Utf8, brokenBytes_becomeTheReplacementCharacter) {
+  const std::string broken = "a\xC3(\xF0\x9F";
+  EXPECT_EQ(left(broken, 2), "a\uFFFD");
+  EXPECT_EQ(sanitized(broken), "a\uFFFD(\uFFFD");
+  EXPECT_EQ(sanitized(std::string("a\0b\x1B[c\x7F\u0085d\te\r\n", 14)), "ab[cd\te\r\n");
+  EXPECT_EQ(toUtf32("\xFF").front(), U'\uFFFD');
+}
+
+TEST(Utf8, letterCase_isThatOfUnicode) {
+  EXPECT_EQ(upper("ñandú"), "ÑANDÚ");
+  EXPECT_EQ(lower("ÀNGELA ÑÁÑEZ"), "àngela ñáñez");
+  EXPECT_TRUE(equalsNoCase("AÑO", "año"));
+  EXPECT_FALSE(equalsNoCase("AÑO", "ano"));
+  EXPECT_EQ(foldCase("Cumpleaños"), foldCase("CUMPLEAÑOS"));
+}
+
+TEST(Utf8, searchKey_findsWithoutAccents) {
+  EXPECT_EQ(searchKey("José Muñoz"), "jose munoz");
+  EXPECT_EQ(searchKey("muñoz"), searchKey("MUNOZ"));
+  EXPECT_EQ(searchKey("l·l"), "l·l");
+}
+
+TEST(Utf8, replaceAll_doesNotLookAgainAtWhatItPutIn) {
+  EXPECT_EQ(replaceAll("a\"b\"", "\"", "''"), "a''b''");
+  EXPECT_EQ(replaceAll("aaa", "a", "aa"), "aaaaaa");
+  EXPECT_EQ(replaceAll("abc", "", "x"), "abc");
+}
+
+TEST(Utf8, compare_isSpanishOrder) {
+  std::vector<std::string> names = {"Ñáñez",  "Oro",     "nuño",    "Nuñez", "Núñez",
+                                    "zurita", "Álvarez", "alvarez", "Nz"};
+  std::sort(names.begin(), names.end(),
+            [](const auto& a, const auto& b) { return compare(a, b) < 0; });
+  EXPECT_EQ(names, (std::vector<std::string>{"alvarez", "Álvarez", "Nuñez", "Núñez", "nuño", "Nz",
+                                             "Ñáñez", "Oro", "zurita"}));
+  EXPECT_EQ(compare("JOSÉ", "josé"), 0);
+  EXPECT_NE(compare("Jose", "José"), 0);
+  EXPECT_NE(compare("a", "a "), 0);
+  EXPECT_EQ(compare("e\u0301", "é"), 0) << "both ways of writing é";
+  EXPECT_FALSE(orderVersion().empty());
+}
+
+TEST(Numbers, Val_readsTheLeadingNumber) {
+  const struct {
+    const char* text;
+    double value;
+  } cases[] = {{"12a", 12}, {"a12", 0}, {" 7", 7},    {"", 0},      {"---", 0},  {"-3.5x", -3.5},
+               {"1 2", 12}, {"+4", 4},  {"12e5", 12}, {"0012", 12}, {".5", 0.5}, {"1.2.3", 1.2}};
+  for (const auto& c : cases) EXPECT_EQ(Val(c.text), c.value) << c.text;
+}
+
+TEST(Numbers, wholeTexts_areNumbersOrNot) {
+  for (const char* number : {"12", " 12 ", "-1", "+3.5", ".5"}) EXPECT_TRUE(isNumeric(number));
+  for (const char* other : {"", " ", "-", "12a", "1.2.3", "---", "1 2"}) {
+    EXPECT_FALSE(isNumeric(other)) << other;
+  }
+  EXPECT_EQ(toInteger(" 2147483647 "), 2147483647);
+  EXPECT_EQ(toInteger("-5"), -5);
+  EXPECT_EQ(toInteger("+5"), 5);
+  for (const char* other : {"2147483648", "", "5.0", "+-5", "5a"}) {
+    EXPECT_FALSE(toInteger(other)) << other;
+  }
+}
+
+TEST(Dates, stored_isEightDigitsOfADay) {
+  EXPECT_EQ(parseStored("20000229"), (Date{2000, 2, 29}));
+  for (const char* other : {"19000229", "20031301", "2003010", "---", "", "2003 101", "00000101"}) {
+    EXPECT_FALSE(parseStored(other)) << other;
+  }
+  EXPECT_EQ(toStored({987, 3, 4}), "09870304");
+  EXPECT_EQ(toShort({987, 3, 4}), "04/03/0987");
+}
+
+TEST(Dates, typed_isReadWithAnySeparator) {
+  for (const char* typed : {"4/3/1987", "04-03-1987", " 4.03.1987 "}) {
+    EXPECT_EQ(parseShort(typed), (Date{1987, 3, 4})) << typed;
+  }
+  for (const char* other : {"31/4/1987", "4/3/87", "4/3", "", "//", "a/3/1987", "4/3/1987/1"}) {
+    EXPECT_FALSE(parseShort(other)) << other;
+  }
+  EXPECT_TRUE(isBlankDate(""));
+  EXPECT_TRUE(isBlankDate(" --- "));
+  EXPECT_FALSE(isBlankDate("20030101"));
+}
+
+TEST(Dates, time_isReadWithAndWithoutColon) {
+  EXPECT_EQ(parseTime("9:05"), "09:05");
+  EXPECT_EQ(parseTime("905"), "09:05");
+  EXPECT_EQ(parseTime("2359"), "23:59");
+  for (const char* other : {"24:00", "12:60", "9", "95", "1:5", "12:345", "ab:cd", "", ":30"}) {
+    EXPECT_FALSE(parseTime(other)) << other;
+  }
+}
+
+TEST(Dates, years_areWholeOnes) {
+  EXPECT_EQ(yearsBetween({2000, 2, 29}, {2001, 2, 28}), 0);
+  EXPECT_EQ(yearsBetween({2000, 2, 29}, {2001, 3, 1}), 1);
+  EXPECT_EQ(yearsBetween({1950, 5, 4}, {2003, 5, 4}), 53);
+  EXPECT_EQ(yearsBetween({2003, 1, 1}, {1950, 1, 1}), 0);
+}
+
+}  // namespace
+}  // namespace fidaleon::text
