@@ -1,6 +1,7 @@
 #include "support/FileSettings.h"
 
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <chrono>
@@ -61,37 +62,46 @@ fs::path FileSettings::defaultFile() {
   return base / "fidaleon" / "ajustes.ini";
 }
 
-void FileSettings::refresh() const {
-  std::error_code error;
-  const auto time = fs::last_write_time(file_, error);
-  const auto size = error ? 0 : fs::file_size(file_, error);
-  if (error) {
-    values_.clear();
-    seen_ = {};
-    return;
-  }
-  if (time == seen_ && size == seenSize_) return;
-  std::ifstream in(file_, std::ios::binary);
-  std::ostringstream content;
-  content << in.rdbuf();
-  ReadSettings found = parseSettings(content.str());
-  values_ = std::move(found.values);
-  seen_ = time;
-  seenSize_ = size;
-  if (found.damaged) setAside();
+FileSettings::Stamp FileSettings::stamp() const {
+  struct stat file {};
+  if (::stat(file_.c_str(), &file) != 0) return {};
+  return {file.st_ino, file.st_mtim.tv_sec, file.st_mtim.tv_nsec, file.st_size};
 }
 
-// Copied rather than moved: what could be read stays in force until the next write.
-void FileSettings::setAside() const {
-  const fs::path kept = with(file_, ".danado");
-  std::error_code error;
-  fs::copy_file(file_, kept, fs::copy_options::overwrite_existing, error);
-  if (error) return;
-  try {
-    save();
-  } catch (const std::system_error&) {
-    return;
+/// Throws std::system_error when there is a file that cannot be read.
+void FileSettings::load() const {
+  seen_ = stamp();
+  values_.clear();
+  damaged_ = false;
+  if (seen_ == Stamp()) return;
+  const int fd = ::open(file_.c_str(), O_RDONLY | O_CLOEXEC);
+  if (fd >= 0) ::close(fd);
+  std::ifstream in(file_, std::ios::binary);
+  std::ostringstream content;
+  if (fd < 0 || !in || (seen_.size > 0 && !(content << in.rdbuf()))) {
+    seen_ = {};
+    throw std::system_error(EACCES, std::generic_category());
   }
+  ReadSettings found = parseSettings(content.str());
+  values_ = std::move(found.values);
+  damaged_ = found.damaged;
+}
+
+void FileSettings::refresh() const {
+  if (stamp() == seen_) return;
+  load();
+  if (!damaged_) return;
+  const locks::File turn = turnToWrite(file_);
+  load();  // another program may have mended it meanwhile
+  mend();
+}
+
+void FileSettings::mend() const {
+  if (!damaged_) return;
+  const fs::path kept = with(file_, ".danado");
+  fs::copy_file(file_, kept, fs::copy_options::overwrite_existing);
+  save();
+  damaged_ = false;
   if (report_)
     report_(
         "El fichero de ajustes estaba dañado. Se ha conservado lo que se podía leer y se ha "
@@ -101,29 +111,50 @@ void FileSettings::setAside() const {
 
 void FileSettings::save() const {
   replaceFile(file_, formatSettings(values_));
-  std::error_code ignored;
-  seen_ = fs::last_write_time(file_, ignored);
-  seenSize_ = fs::file_size(file_, ignored);
+  seen_ = stamp();
 }
 
 std::string FileSettings::read(const std::string& application, const std::string& section,
                                const std::string& key, const std::string& byDefault) const {
-  refresh();
+  try {
+    refresh();
+  } catch (const std::system_error&) {
+    // Unreadable, or damaged where nothing may be written: what could be read serves.
+  }
   const auto found = values_.find({application, section, key});
   return found == values_.end() ? byDefault : found->second;
 }
 
 void FileSettings::write(const std::string& application, const std::string& section,
                          const std::string& key, const std::string& value) {
+  update([&] {
+    const auto [entry, isNew] = values_.try_emplace({application, section, key}, value);
+    if (!isNew && entry->second == value) return false;
+    entry->second = value;
+    return true;
+  });
+}
+
+std::vector<Settings::Name> FileSettings::names(const std::string& application) const {
+  refresh();
+  std::vector<Name> all;
+  for (const auto& [name, value] : values_)
+    if (std::get<0>(name) == application) all.push_back({std::get<1>(name), std::get<2>(name)});
+  return all;
+}
+
+void FileSettings::remove(const std::string& application, const std::string& section,
+                          const std::string& key) {
+  update([&] { return values_.erase({application, section, key}) != 0; });
+}
+
+void FileSettings::update(const std::function<bool()>& change) {
   try {
     fs::create_directories(file_.parent_path());
     const locks::File turn = turnToWrite(file_);
-    seen_ = {};  // two writes may share one tick of the file's time
-    refresh();
-    const auto [entry, isNew] = values_.try_emplace({application, section, key}, value);
-    if (!isNew && entry->second == value) return;
-    entry->second = value;
-    save();
+    load();
+    mend();
+    if (change()) save();
   } catch (const std::system_error& e) {
     throw std::runtime_error("No se ha podido guardar el ajuste en «" + file_.string() +
                              "»: " + e.code().message() + ".");

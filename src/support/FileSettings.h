@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
 #include <functional>
 #include <string>
@@ -25,18 +26,33 @@ class FileSettings : public Settings {
                    const std::string& key, const std::string& byDefault = {}) const override;
   void write(const std::string& application, const std::string& section, const std::string& key,
              const std::string& value) override;
+  std::vector<Name> names(const std::string& application) const override;
+  void remove(const std::string& application, const std::string& section,
+              const std::string& key) override;
 
  private:
+  /// Makes a change to what the file holds at that moment; `change` says whether there was one.
+  void update(const std::function<bool()>& change);
+  /// What the file is now; any difference means that somebody has written it.
+  struct Stamp {
+    std::uint64_t inode = 0;
+    std::int64_t seconds = 0;
+    std::int64_t nanoseconds = 0;
+    std::int64_t size = 0;
+    friend bool operator==(const Stamp&, const Stamp&) = default;
+  };
+  Stamp stamp() const;
   void refresh() const;
-  void setAside() const;
+  void load() const;
+  void mend() const;
   void save() const;
 
   std::filesystem::path file_;
   Report report_;
   // What the file held when it was last looked at.
   mutable SettingValues values_;
-  mutable std::filesystem::file_time_type seen_{};
-  mutable std::uintmax_t seenSize_ = 0;
+  mutable Stamp seen_;
+  mutable bool damaged_ = false;
 };
 
 }  // namespace fidaleon::support

@@ -1,9 +1,10 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <map>
-
 #include "core/lists/RegistryKey.h"
+#include "support/FileSettings.h"
+#include "support/MemorySettings.h"
+#include "support/TestWorld.h"
 
 namespace fidaleon {
 namespace {
@@ -11,32 +12,7 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-/// Settings that can be enumerated and deleted from.
-class Almacen : public Settings {
- public:
-  std::string read(const std::string& application, const std::string& section,
-                   const std::string& key, const std::string& byDefault) const override {
-    const auto found = values_.find({application, section, key});
-    return found == values_.end() ? byDefault : found->second;
-  }
-  void write(const std::string& application, const std::string& section, const std::string& key,
-             const std::string& value) override {
-    values_[{application, section, key}] = value;
-  }
-  std::vector<Name> names(const std::string& application) const override {
-    std::vector<Name> all;
-    for (const auto& [name, value] : values_)
-      if (std::get<0>(name) == application) all.push_back({std::get<1>(name), std::get<2>(name)});
-    return all;
-  }
-  void remove(const std::string& application, const std::string& section,
-              const std::string& key) override {
-    values_.erase({application, section, key});
-  }
-
- private:
-  std::map<std::tuple<std::string, std::string, std::string>, std::string> values_;
-};
+using Almacen = support::MemorySettings;
 
 TEST(RegistryKey, keyThatIsNotThere_doesNotOpen) {
   Almacen almacen;
@@ -73,6 +49,26 @@ TEST(RegistryKey, valuesAndKeysUnderIt_areListedOnceAndDeleted) {
   EXPECT_EQ(almacen.read("Fidaleon", "anabel", "a", ""), "1");
   clave.CloseKey();
   EXPECT_THROW(clave.ValueNames(), std::logic_error);
+}
+
+TEST(RegistryKey, onTheSettingsFile_keepsWhatIsWrittenAndForgetsWhatIsDeleted) {
+  const tests::TempDirectory carpeta;
+  const auto fichero = carpeta.path() / "ajustes.ini";
+  {
+    support::FileSettings ajustes(fichero);
+    RegistryKey clave(ajustes);
+    clave.CreateKey("Fidaleon", "Instalación\\Ruta");
+    clave.Value("Disco", "C:\\Fidaleon = \"uno\"");
+    clave.Value("Sobra", "1");
+    clave.DeleteValue("Sobra");
+  }
+  support::FileSettings ajustes(fichero);
+  RegistryKey clave(ajustes);
+  ASSERT_TRUE(clave.OpenKey("Fidaleon", "Instalación"));
+  EXPECT_THAT(clave.SubKeyNames(), ElementsAre("Ruta"));
+  ASSERT_TRUE(clave.OpenKey("Fidaleon", "Instalación\\Ruta"));
+  EXPECT_THAT(clave.ValueNames(), ElementsAre("Disco"));
+  EXPECT_EQ(clave.Value("Disco"), "C:\\Fidaleon = \"uno\"");
 }
 
 }  // namespace

@@ -1,0 +1,196 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <set>
+#include <stdexcept>
+
+#include "registers/allocation/LimiteFolios.h"
+#include "registers/allocation/Posicion.h"
+#include "registers/allocation/PosicionEnLista.h"
+#include "registers/allocation/PosicionTecleada.h"
+
+namespace fidaleon {
+
+void PrintTo(const Posicion& p, std::ostream* out) {
+  *out << p.folio << "/" << p.numero;
+}
+
+namespace {
+
+using Lista = std::vector<Posicion>;
+
+/// "1/1 1/2 2/3" as positions.
+Lista posiciones(const std::string& texto) {
+  Lista lista;
+  std::istringstream in(texto);
+  for (std::string una; in >> una;)
+    lista.push_back({std::stoi(una), una.substr(una.find('/') + 1)});
+  return lista;
+}
+
+struct Caso {
+  const char* que;
+  int p;
+  const char* ocupadas;
+  const char* siguiente;  // "-": the position stands
+};
+
+class Huecos : public ::testing::TestWithParam<Caso> {};
+
+TEST_P(Huecos, nextPosition) {
+  const Caso& c = GetParam();
+  const auto siguiente = siguienteEnLista(posiciones(c.ocupadas), c.p, Numeracion::Huecos);
+  if (std::string(c.siguiente) == "-")
+    EXPECT_EQ(siguiente, std::nullopt) << c.que;
+  else
+    EXPECT_EQ(siguiente, posiciones(c.siguiente).at(0)) << c.que;
+}
+
+INSTANTIATE_TEST_SUITE_P(UnaPorFolio, Huecos,
+                         ::testing::Values(Caso{"empty list", 1, "", "1/1"},
+                                           Caso{"behind the last", 1, "1/1 2/2", "3/3"},
+                                           Caso{"folio 1 is missing", 1, "2/2 3/3", "1/1"},
+                                           Caso{"hole in the middle", 1, "1/1 2/2 4/4 6/6", "3/3"},
+                                           Caso{"in any order", 1, "4/4 1/1 2/2", "3/3"},
+                                           Caso{"number before the hole has a letter", 1,
+                                                "1/7 2/7a 4/9", "3/8"},
+                                           Caso{"last number has a letter", 1, "1/7 2/7a", "3/8"},
+                                           Caso{"starts at folio 3", 1, "3/1 4/2", "1/1"}));
+
+INSTANTIATE_TEST_SUITE_P(DosPorFolio, Huecos,
+                         ::testing::Values(Caso{"room on the last folio", 2, "1/1 1/2 2/3", "2/4"},
+                                           Caso{"last folio full", 2, "1/1 1/2 2/3 2/4", "3/5"},
+                                           Caso{"one entry", 2, "1/1", "1/2"},
+                                           Caso{"one entry that is not number 1", 2, "1/2", "1/1"},
+                                           Caso{"room on folio 1", 2, "1/2 2/3 2/4", "1/1"},
+                                           Caso{"room on folio 1, number 1 taken", 2, "1/1 2/3 2/4",
+                                                "1/2"},
+                                           Caso{"folio 2 is empty", 2, "1/1 1/2 3/5 3/6", "2/3"},
+                                           Caso{"room on folio 2, its first number is missing", 2,
+                                                "1/1 1/2 2/4 3/5 3/6", "2/3"},
+                                           Caso{"room on folio 2", 2, "1/1 1/2 2/3 3/5", "2/4"}));
+
+INSTANTIATE_TEST_SUITE_P(
+    CuatroPorFolio, Huecos,
+    ::testing::Values(
+        Caso{"one break on the last folio", 4, "1/1 1/2 1/3 1/4 2/5 2/6 2/8", "2/7"},
+        Caso{"the highest break wins", 4, "1/1 1/2 1/3 1/4 2/5 2/7 2/9", "2/8"},
+        Caso{"the break before the last folio does not count", 4, "1/1 1/2 1/3 1/4 2/6 2/7", "2/8"},
+        Caso{"last folio full", 4, "1/1 1/2 1/3 1/4", "2/5"},
+        Caso{"fewer than a folio, with a break", 4, "1/1 1/2 1/4", "1/3"},
+        Caso{"fewer than a folio, without number 1", 4, "1/2 1/4", "1/1"},
+        Caso{"folios 1 and 3 filled", 4, "1/1 1/2 1/3 1/4 3/9 3/10 3/11 3/12", "2/5"},
+        Caso{"folio 1 has room: smallest missing number", 4, "1/1 1/3 1/4 2/5 2/6 2/7 2/8", "1/2"},
+        Caso{"folio 2 has room", 4, "1/1 1/2 1/3 1/4 2/5 2/6 2/8 3/9", "2/7"},
+        Caso{"folio 2 has room behind its numbers", 4, "1/1 1/2 1/3 1/4 2/5 2/6 3/9", "2/7"},
+        Caso{"letters count as their digits", 4, "1/12 1/12a 1/12b 1/13 2/14", "2/15"},
+        Caso{"numbers sort by value, not by text", 4, "1/10 1/9 1/8 1/7", "2/11"}));
+
+INSTANTIATE_TEST_SUITE_P(OtrasCapacidades, Huecos,
+                         ::testing::Values(Caso{"no capacity", 0, "1/1", "-"},
+                                           Caso{"three per folio", 3, "1/1", "-"},
+                                           Caso{"empty list all the same", 3, "", "1/1"}));
+
+TEST(SoloAdelante, newBook_goesBehindTheLastWhateverItsCapacity) {
+  EXPECT_EQ(siguienteEnLista(posiciones("1/1 3/3"), 4, Numeracion::SoloAdelante),
+            (Posicion{4, "4"}));
+  EXPECT_EQ(siguienteEnLista({}, 4, Numeracion::SoloAdelante), Posicion{});
+}
+
+TEST(Huecos, bookFilledByItsProposals_neverGivesAPositionTwiceNorLeavesOneOut) {
+  for (const int p : {1, 2, 4}) {
+    Lista libro;
+    for (int n = 1; n <= 30; ++n) {
+      const auto siguiente = siguienteEnLista(libro, p, Numeracion::Huecos);
+      ASSERT_EQ(siguiente, (Posicion{(n + p - 1) / p, std::to_string(n)})) << p;
+      libro.push_back(*siguiente);
+    }
+    // Whatever entry is taken out, its place is the next to be proposed.
+    for (std::size_t i = 0; i < libro.size(); ++i) {
+      Lista conHueco = libro;
+      conHueco.erase(conHueco.begin() + static_cast<long>(i));
+      const auto hueco = siguienteEnLista(conHueco, p, Numeracion::Huecos);
+      EXPECT_EQ(hueco->folio, libro[i].folio) << p << " " << libro[i].numero;
+    }
+  }
+}
+
+TEST(ValNumero, letterIsStripped_andWhatIsNoNumberIsAnError) {
+  EXPECT_EQ(valNumero("12"), 12);
+  EXPECT_EQ(valNumero("12a"), 12);
+  EXPECT_EQ(valNumero("100000"), 100000);
+  EXPECT_EQ(valNumero("7ñ"), 7);
+  for (const char* malo : {"", "a", "12ab", "---", "40000a"})
+    EXPECT_THROW(valNumero(malo), std::range_error) << malo;
+}
+
+TEST(LimiteFolios, equalIsAllowed_andAnEmptySettingIsNoLimit) {
+  EXPECT_FALSE(pasaLimiteDeFolios("200", 200));
+  EXPECT_TRUE(pasaLimiteDeFolios("200", 201));
+  EXPECT_FALSE(pasaLimiteDeFolios("", 1'000'000));
+  EXPECT_FALSE(pasaLimiteDeFolios("muchos", 1'000'000));
+  EXPECT_TRUE(pasaLimiteDeFolios("0", 1));
+}
+
+TEST(FolioCompleto, refusalIsThatOfTheFormat) {
+  const auto rechazo = [](int formato, int n) {
+    return rechazoFolioCompleto(formato, "7", n).value_or("");
+  };
+  EXPECT_EQ(rechazo(1, 3), "");
+  EXPECT_EQ(rechazo(1, 4),
+            "¡No puede introducir ninguna partida en el folio 7 porque ya hay cuatro partidas en "
+            "él!");
+  for (const int formato : {2, 4}) {
+    EXPECT_EQ(rechazo(formato, 1), "");
+    EXPECT_EQ(rechazo(formato, 2),
+              "¡No puede introducir ninguna partida en el folio 7 porque ya hay 2 partidas en él!");
+  }
+  EXPECT_EQ(rechazo(3, 1),
+            "¡No puede introducir ninguna partida en el folio 7 porque ya tiene una partida!");
+  EXPECT_EQ(rechazo(3, 0), "");
+  EXPECT_EQ(rechazo(9, 100), "");
+}
+
+TEST(NumeroConLetra, takesTheNextFreeLetter) {
+  const auto nuevo = [](const std::string& tecleado, std::set<std::string> ocupados) {
+    return numeroConLetra(tecleado, [&](const std::string& n) { return ocupados.contains(n); });
+  };
+  EXPECT_EQ(nuevo("12", {"12"}), "12a");
+  EXPECT_EQ(nuevo("12", {"12", "12a"}), "12b");
+  EXPECT_EQ(nuevo("12a", {"12", "12a"}), "12b");
+  EXPECT_EQ(nuevo("12a", {"12a", "12b"}), "12c");
+  EXPECT_EQ(nuevo("12z", {"12z"}), "12a");
+}
+
+TEST(PreguntaReemplazo, wordingAndTitle_followFormatAndSacrament) {
+  const auto cuatro = preguntaReemplazo(BAUTISMO, 1, "12a");
+  EXPECT_EQ(cuatro.texto,
+            "La partida que va a introducir coincide con otra. El numero se reemplazará por el "
+            "12a ¿Desea continuar?");
+  EXPECT_EQ(cuatro.titulo, "Fidaleon2000");
+  const auto dos = preguntaReemplazo(DEFUNCION, 2, "12a");
+  EXPECT_EQ(dos.texto,
+            "La partida que va a introducir coincide con otra. El número se reemplazará por el "
+            "12a ¿Desea continuar?");
+  EXPECT_EQ(dos.titulo, "");
+  EXPECT_THAT(preguntaReemplazo(DEFUNCION, 1, "3a").texto,
+              ::testing::HasSubstr("El numero se reemplazara por el 3a"));
+}
+
+TEST(Salto, isAForwardMoveOfMoreThanOne) {
+  const auto salta = [](const Sacramento& s, Posicion a, Posicion b) { return haySalto(s, a, b); };
+  EXPECT_FALSE(salta(BAUTISMO, {3, "12"}, {4, "13"}));
+  EXPECT_TRUE(salta(BAUTISMO, {3, "12"}, {5, "13"}));
+  EXPECT_TRUE(salta(BAUTISMO, {3, "12a"}, {3, "14"}));
+  EXPECT_FALSE(salta(BAUTISMO, {9, "40"}, {2, "5"})) << "going back into a hole is no jump";
+  EXPECT_TRUE(salta(MATRIMONIO, {9, "40"}, {2, "5"}));
+  EXPECT_EQ(mensajeSalto(BAUTISMO, {5, "14"}),
+            "¡Se ha producido un salto, la siguiente partida a introducir es \n"
+            "la correspondiente al folio 5, número 14!");
+  EXPECT_EQ(mensajeSalto(MATRIMONIO, {5, "14"}),
+            "¡Se ha producido un salto, la siguiente partida a introducir es la correspondiente "
+            "al folio 5, número 14!");
+}
+
+}  // namespace
+}  // namespace fidaleon

@@ -1,0 +1,303 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "registers/books/frmAltaLibro.h"
+#include "store/FailingEngine.h"
+#include "support/TestWorld.h"
+
+namespace fidaleon {
+namespace {
+
+using forms::FormDriver;
+using ::testing::AllOf;
+using ::testing::HasSubstr;
+
+class AltaLibro : public ::testing::TestWithParam<std::size_t> {
+ protected:
+  const Sacramento& s = SACRAMENTOS.at(GetParam());
+  tests::TestWorld mundo;
+  std::int32_t sanJuan = mundo.institucion("San Juan");
+  std::int32_t santaAna = mundo.institucion("Santa Ana");
+  std::vector<std::string> esperados;
+
+  void abrir(forms::ScriptedUser::Act acto, std::int32_t institucion = 0) {
+    const std::string nombre = std::string("frmAltaLibro") + s.palabra;
+    mundo.user.expectForm(nombre, std::move(acto));
+    for (const std::string& mensaje : esperados) mundo.user.expectMessage(mensaje);
+    const auto alta = crearAltaLibro(mundo.contexto, s);
+    alta->conBaseDatos = mundo.parish.get();
+    alta->lngInstitucion = institucion;
+    alta->Show();
+  }
+  /// While the dialog is open.
+  void espera(const std::string& mensaje) { esperados.push_back(mensaje); }
+
+  std::string libro(const char* columnas, const std::string& donde = "1=1") {
+    return mundo.value(std::string("SELECT ") + columnas + " FROM " + s.tablaLibros + " WHERE " +
+                       donde);
+  }
+  std::int64_t libros() { return mundo.count(s.tablaLibros); }
+  void crear(const std::string& nombre, std::int32_t institucion, bool nuevo) {
+    mundo.con().Execute(std::string("INSERT into ") + s.tablaLibros +
+                        " (codinstitucion, codFormato, codTipoNombre, nombre, fechacreacion, "
+                        "Nuevo, Cerrado, NumeroSiguiente, FolioSiguiente) values (" +
+                        std::to_string(institucion) + ", 3, 4, \"" + nombre + "\", \"20200101\", " +
+                        (nuevo ? "1" : "0") + ", 0, 1, 1)");
+  }
+  std::string ultima() {
+    return mundo.settings.read("Fidaleon", "ana\\Castellano\\ultimos", "ultimos_Institucion");
+  }
+
+  static void rellenarAntiguo(FormDriver& f) {
+    f.choose("cboInstituciones", "San Juan");
+    f.click("optAntiguo");
+    f.chooseData("cboTipoNombre", 4);
+    f.type("txtNombreLibro", "Libro 12");
+    f.chooseData("cboFormato", 2);
+    f.type("adtpAltaLibro", "3/2/1898");
+  }
+};
+
+INSTANTIATE_TEST_SUITE_P(Sacramentos, AltaLibro, ::testing::Range<std::size_t>(0, 4),
+                         [](const auto& p) { return SACRAMENTOS.at(p.param).palabra; });
+
+class AltaLibroBautismo : public AltaLibro {};
+INSTANTIATE_TEST_SUITE_P(Una, AltaLibroBautismo, ::testing::Values(0));
+
+TEST_P(AltaLibro, newBook_isStoredOpenWithItsCountersAtOne) {
+  abrir([&](FormDriver& f) {
+    for (const char* campo :
+         {"optNuevo", "optAntiguo", "cboTipoNombre", "txtNombreLibro", "cboFormato"})
+      EXPECT_FALSE(f.enabled(campo)) << campo;
+    f.choose("cboInstituciones", "San Juan");
+    f.click("optNuevo");
+    EXPECT_EQ(f.text("adtpAltaLibro"), "22/11/2026");
+    EXPECT_TRUE(f.locked("adtpAltaLibro"));
+    f.chooseData("cboTipoNombre", 1);
+    EXPECT_EQ(f.text("txtNombreLibro"), "2026/01");
+    EXPECT_TRUE(f.locked("txtNombreLibro"));
+    EXPECT_EQ(f.get<forms::ComboBox>("cboFormato").listCount(), 1);
+    f.chooseData("cboFormato", 3);
+    f.click("cmdBoton(0)");
+    EXPECT_TRUE(f.closed());
+  });
+  ASSERT_EQ(libros(), 1);
+  const store::Recordset fila = mundo.con().Execute(std::string("SELECT * FROM ") + s.tablaLibros);
+  EXPECT_EQ(fila.integer("CodInstitucion"), sanJuan);
+  EXPECT_EQ(fila.integer("CodFormato"), 3);
+  EXPECT_EQ(fila.integer("CodTipoNombre"), 1);
+  EXPECT_EQ(fila.text("Nombre"), "2026/01");
+  EXPECT_EQ(fila.text("FechaCreacion"), "20261122");
+  EXPECT_TRUE(fila.flag("Nuevo"));
+  EXPECT_FALSE(fila.flag("Cerrado"));
+  EXPECT_EQ(fila.text("NumeroSiguiente"), "1");
+  EXPECT_EQ(fila.integer("FolioSiguiente"), 1);
+  EXPECT_EQ(libro("Nombre", "nuevo=true and cerrado=false"), "2026/01");
+  EXPECT_EQ(ultima(), "San Juan");
+  EXPECT_EQ(mundo.user.hourglassDepth(), 0);
+  EXPECT_SCRIPT_DONE(mundo.user);
+}
+
+TEST_P(AltaLibro, oldBook_takesAnyFormatAndItsOwnDate) {
+  abrir([&](FormDriver& f) {
+    rellenarAntiguo(f);
+    EXPECT_EQ(f.get<forms::ComboBox>("cboFormato").listCount(), 4);
+    f.click("cmdBoton(0)");
+    EXPECT_TRUE(f.closed());
+  });
+  EXPECT_EQ(libro("Nombre", "nuevo=false and FechaCreacion=\"18980203\""), "Libro 12");
+  EXPECT_SCRIPT_DONE(mundo.user);
+}
+
+TEST_P(AltaLibro, secondOpenNewBookOfAnInstitution_isRefusedAtAcceptance) {
+  crear("Abierto ya", sanJuan, true);
+  espera("¡Para la Institución San Juan ya existe un libro nuevo abierto!");
+  abrir([&](FormDriver& f) {
+    f.choose("cboInstituciones", "San Juan");
+    f.click("optNuevo");
+    f.chooseData("cboTipoNombre", 4);
+    f.type("txtNombreLibro", "Otro");
+    f.chooseData("cboFormato", 3);
+    f.click("cmdBoton(0)");
+    EXPECT_FALSE(f.closed());
+    EXPECT_EQ(f.focused(), "cboInstituciones");
+    f.choose("cboInstituciones", "Santa Ana");
+    f.click("optNuevo");
+    f.chooseData("cboTipoNombre", 4);
+    f.type("txtNombreLibro", "Otro");
+    f.chooseData("cboFormato", 3);
+    f.click("cmdBoton(0)");
+    EXPECT_TRUE(f.closed()) << "another institution has a book of its own";
+  });
+  EXPECT_EQ(libros(), 2);
+  EXPECT_SCRIPT_DONE(mundo.user);
+}
+
+TEST_P(AltaLibro, nameThatExists_isRefusedWithinTheInstitution) {
+  crear("libro 12", sanJuan, false);
+  espera("¡El nombre del libro introducido ya existe!");
+  abrir([&](FormDriver& f) {
+    rellenarAntiguo(f);
+    f.click("cmdBoton(0)");
+    EXPECT_FALSE(f.closed());
+    f.type("txtNombreLibro", "Libro 13");
+    f.click("cmdBoton(0)");
+    EXPECT_TRUE(f.closed());
+  });
+  EXPECT_EQ(libros(), 2);
+  EXPECT_SCRIPT_DONE(mundo.user);
+}
+
+TEST_P(AltaLibro, storeThatFails_keepsTheDialogWithWhatWasTyped) {
+  auto* fallos = store::FailingEngine::wrap(mundo.con());
+  fallos->failOn("insert into", store::ErrorKind::DiskFull);
+  mundo.user.answerAnything(forms::Answer::Ok);
+  abrir([&](FormDriver& f) {
+    rellenarAntiguo(f);
+    f.click("cmdBoton(0)");
+    EXPECT_FALSE(f.closed());
+    EXPECT_EQ(f.text("txtNombreLibro"), "Libro 12");
+    f.click("cmdBoton(0)");
+    EXPECT_TRUE(f.closed());
+  });
+  ASSERT_EQ(mundo.user.messages().size(), 1u);
+  EXPECT_THAT(mundo.user.messages()[0].text,
+              AllOf(HasSubstr("FidaleonNucleo"), HasSubstr("GuardarDatos()"),
+                    HasSubstr(std::string("frmAltaLibro") + s.palabra)));
+  EXPECT_EQ(libros(), 1);
+}
+
+TEST_P(AltaLibro, errorsInLoadAndAcceptance_bearTheNamesOfTheDialog) {
+  const std::array<std::string, 4> carga{"Form_Load()", "From_Load()", "From_Load()",
+                                         "Form_Load()"};
+  const std::array<std::string, 4> boton{"cmdBoton_Click()", "cmdBoton_Click()",
+                                         "cmdBoton_Click(Index As Integer)", "cmdBoton_Click()"};
+  auto* fallos = store::FailingEngine::wrap(mundo.con());
+  fallos->failOn("from institucion");
+  fallos->failOn("where cerrado=");
+  mundo.user.answerAnything(forms::Answer::Ok);
+  abrir([&](FormDriver& f) {
+    f.click("cmdBoton(0)");
+    f.escape();
+    EXPECT_TRUE(f.closed());
+  });
+  ASSERT_EQ(mundo.user.messages().size(), 2u);
+  EXPECT_THAT(mundo.user.messages()[0].text, HasSubstr(carga[GetParam()] + ")"));
+  EXPECT_THAT(mundo.user.messages()[1].text, HasSubstr(boton[GetParam()] + ")"));
+}
+
+TEST_P(AltaLibroBautismo, whatIsMissing_isToldInOrderAndGetsTheFocus) {
+  const auto falta = [&](FormDriver& f, const char* control) {
+    f.click("cmdBoton(0)");
+    EXPECT_FALSE(f.closed());
+    EXPECT_EQ(f.focused(), control);
+  };
+  for (const char* campo : {"Institución", "Tipo de nombre", "Tipo de nombre", "Nombre del libro",
+                            "Formato", "Fecha de creación"})
+    espera(std::string("Falta rellenar el campo «") + campo + "».");
+  abrir([&](FormDriver& f) {
+    falta(f, "cboInstituciones");
+    f.choose("cboInstituciones", "San Juan");
+    falta(f, "cboTipoNombre");  // neither new nor old
+    f.click("optAntiguo");
+    falta(f, "cboTipoNombre");
+    f.chooseData("cboTipoNombre", 4);
+    falta(f, "txtNombreLibro");
+    f.type("txtNombreLibro", "Libro 12");
+    falta(f, "cboFormato");
+    f.chooseData("cboFormato", 1);
+    falta(f, "adtpAltaLibro");
+    f.type("adtpAltaLibro", "01021900");
+    f.click("cmdBoton(0)");
+    EXPECT_TRUE(f.closed());
+  });
+  EXPECT_SCRIPT_DONE(mundo.user);
+}
+
+TEST_P(AltaLibroBautismo, doubleQuotesInTheName_neverReachTheStore) {
+  abrir([&](FormDriver& f) {
+    rellenarAntiguo(f);
+    f.type("txtNombreLibro", "El \"Viejo\"");
+    EXPECT_EQ(f.text("txtNombreLibro"), "El ''Viejo''");
+    f.paste("txtNombreLibro", "El \"Nuevo\"");
+    f.focus("cboFormato");
+    EXPECT_EQ(f.text("txtNombreLibro"), "El Nuevo");
+    f.paste("txtNombreLibro", "\"Ñu\" 🕊'; DROP TABLE Bautismo; --");
+    f.click("cmdBoton(0)");
+  });
+  EXPECT_EQ(libro("Nombre"), "Ñu 🕊'; DROP TABLE Bautismo; --");
+  EXPECT_SCRIPT_DONE(mundo.user);
+}
+
+TEST_P(AltaLibroBautismo, yearWith99Books_fallsBackToAFreeName) {
+  for (int n = 1; n <= 99; ++n)
+    crear("2026/" + std::string(n < 10 ? "0" : "") + std::to_string(n), sanJuan, false);
+  espera("¡No se pueden crear más libros para el formato elegido!");
+  abrir([&](FormDriver& f) {
+    f.choose("cboInstituciones", "San Juan");
+    f.click("optNuevo");
+    f.chooseData("cboTipoNombre", 1);
+    EXPECT_EQ(f.text("cboTipoNombre"), "Abierto");
+    EXPECT_EQ(f.text("txtNombreLibro"), "");
+    f.type("txtNombreLibro", "Cien");
+    f.escape();
+  });
+  EXPECT_EQ(libros(), 99) << "cancelling stores nothing";
+  EXPECT_SCRIPT_DONE(mundo.user);
+}
+
+TEST_P(AltaLibroBautismo, menorca_offersTwoEntriesPerFolioToNewBooks) {
+  mundo.entorno.installation.Aplicacion = FDAPI::cCAplicacion::APP_FIDALEON_MENORCA;
+  abrir([&](FormDriver& f) {
+    f.choose("cboInstituciones", "San Juan");
+    f.click("optNuevo");
+    f.chooseData("cboFormato", 2);
+    f.chooseData("cboFormato", 3);
+    f.escape();
+  });
+  EXPECT_SCRIPT_DONE(mundo.user);
+}
+
+TEST_P(AltaLibroBautismo, fixedInstitution_cannotBeChanged) {
+  abrir(
+      [&](FormDriver& f) {
+        EXPECT_EQ(f.text("cboInstituciones"), "Santa Ana");
+        EXPECT_TRUE(f.locked("cboInstituciones"));
+        EXPECT_FALSE(f.enabled("cmdAgregarInstitucion"));
+        EXPECT_TRUE(f.enabled("optNuevo"));
+        f.escape();
+      },
+      santaAna);
+  EXPECT_SCRIPT_DONE(mundo.user);
+}
+
+TEST_P(AltaLibroBautismo, lastInstitution_isOfferedAgain) {
+  mundo.settings.write("Fidaleon", "ana\\Castellano\\ultimos", "ultimos_Institucion", "Santa Ana");
+  abrir([&](FormDriver& f) {
+    EXPECT_EQ(f.text("cboInstituciones"), "Santa Ana");
+    f.escape();
+  });
+  mundo.settings.write("Fidaleon", "ana\\Castellano\\ultimos", "ultimos_Institucion", "Ya no está");
+  abrir([&](FormDriver& f) {
+    EXPECT_EQ(f.text("cboInstituciones"), "");
+    f.escape();
+  });
+  EXPECT_SCRIPT_DONE(mundo.user);
+}
+
+TEST_P(AltaLibroBautismo, anotherInstitution_startsTheChoicesAnew) {
+  abrir([&](FormDriver& f) {
+    rellenarAntiguo(f);
+    f.choose("cboInstituciones", "Santa Ana");
+    EXPECT_FALSE(f.get<forms::OptionButton>("optAntiguo").value());
+    EXPECT_EQ(f.text("txtNombreLibro"), "");
+    f.click("optAntiguo");
+    EXPECT_EQ(f.text("adtpAltaLibro"), "");
+    EXPECT_FALSE(f.locked("adtpAltaLibro"));
+    f.escape();
+  });
+  EXPECT_SCRIPT_DONE(mundo.user);
+}
+
+}  // namespace
+}  // namespace fidaleon

@@ -1,0 +1,148 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "registers/books/OperacionesLibro.h"
+#include "store/FailingEngine.h"
+#include "support/TestWorld.h"
+
+namespace fidaleon {
+namespace {
+
+using forms::Answer;
+using ::testing::HasSubstr;
+
+constexpr const char* PREGUNTA_CERRAR =
+    "Si cierra este libro no podrá introducir más partidas. ¿Desea cerrarlo?";
+constexpr const char* PREGUNTA_ELIMINAR = "¿Seguro que quiere eliminar el libro?";
+
+class OperacionesLibro : public ::testing::TestWithParam<std::size_t> {
+ protected:
+  const Sacramento& s = SACRAMENTOS.at(GetParam());
+  tests::TestWorld mundo;
+
+  std::int32_t libro(bool nuevo, bool cerrado = false) {
+    mundo.con().Execute(std::string("INSERT into ") + s.tablaLibros +
+                        " (codinstitucion, codFormato, codTipoNombre, nombre, fechacreacion, "
+                        "Nuevo, Cerrado, NumeroSiguiente, FolioSiguiente) values (1, 3, 4, "
+                        "\"Libro\", \"20200101\", " +
+                        (nuevo ? "1" : "0") + ", " + (cerrado ? "1" : "0") + ", 1, 1)");
+    return std::stoi(
+        mundo.value(std::string("SELECT MAX(") + s.claveLibro + ") AS ID FROM " + s.tablaLibros));
+  }
+  bool cerrado() {
+    return mundo.con().Execute(std::string("SELECT * FROM ") + s.tablaLibros).flag("Cerrado");
+  }
+  std::int64_t libros() { return mundo.count(s.tablaLibros); }
+  void partidaEn(std::int32_t libro) {
+    mundo.con().Execute(std::string("INSERT INTO ") + s.tablaPartidas +
+                        " (codlibro, folio, numero) VALUES (" + std::to_string(libro) +
+                        ", 1, \"1\")");
+  }
+  void cerrar(std::int32_t id) { cerrarLibro(mundo.contexto, mundo.con(), id, s); }
+  void eliminar(std::int32_t id) { eliminarLibro(mundo.contexto, mundo.con(), id, s); }
+  /// Another workstation holds the book.
+  std::unique_ptr<FDAPI::cProcesarBloqueos> ocuparLibro(std::int32_t id) {
+    auto otra = mundo.otherSession();
+    FDAPI::DefinicionBloqueo b;
+    b.strTabla = s.tablaLibros;
+    b.strRegistro = std::to_string(id);
+    b.conBd = mundo.parish.get();
+    otra->DefinirBloqueo(b);
+    EXPECT_EQ(otra->lngEfectuarBloqueos(), 0);
+    return otra;
+  }
+};
+
+INSTANTIATE_TEST_SUITE_P(Sacramentos, OperacionesLibro, ::testing::Range<std::size_t>(0, 4),
+                         [](const auto& p) { return SACRAMENTOS.at(p.param).palabra; });
+
+TEST_P(OperacionesLibro, openNewBook_isClosedAfterAsking) {
+  const std::int32_t id = libro(true);
+  mundo.user.expectMessage(PREGUNTA_CERRAR, Answer::No);
+  cerrar(id);
+  EXPECT_FALSE(cerrado());
+  mundo.user.expectMessage(PREGUNTA_CERRAR, Answer::Yes);
+  cerrar(id);
+  EXPECT_TRUE(cerrado());
+  mundo.user.expectMessage("¡No se puede cerrar un libro que ya está cerrado!");
+  cerrar(id);
+  EXPECT_SCRIPT_DONE(mundo.user);
+}
+
+TEST_P(OperacionesLibro, oldBook_isNotClosed) {
+  mundo.user.expectMessage("¡No se puede cerrar un libro antiguo!");
+  cerrar(libro(false));
+  EXPECT_EQ(mundo.user.messages().at(0).icon, forms::MsgIcon::Exclamation);
+  EXPECT_SCRIPT_DONE(mundo.user);
+}
+
+TEST_P(OperacionesLibro, bookWithEntries_isNotDeleted) {
+  const std::int32_t id = libro(false);
+  partidaEn(id);
+  mundo.user.expectMessage("¡Este libro no se puede eliminar, tiene partidas asociadas!");
+  eliminar(id);
+  EXPECT_EQ(libros(), 1);
+  EXPECT_SCRIPT_DONE(mundo.user);
+}
+
+TEST_P(OperacionesLibro, emptyBook_isDeletedAfterAsking) {
+  const std::int32_t id = libro(false);
+  libro(true);
+  mundo.user.expectMessage(PREGUNTA_ELIMINAR, Answer::No);
+  eliminar(id);
+  EXPECT_EQ(libros(), 2);
+  mundo.user.expectMessage(PREGUNTA_ELIMINAR, Answer::Yes);
+  eliminar(id);
+  EXPECT_EQ(libros(), 1);
+  EXPECT_EQ(mundo.value(std::string("SELECT ") + s.claveLibro + " FROM " + s.tablaLibros),
+            std::to_string(id + 1));
+  EXPECT_SCRIPT_DONE(mundo.user);
+}
+
+TEST_P(OperacionesLibro, bookHeldByAnother_isLeftAlone) {
+  const std::int32_t id = libro(true);
+  const auto otra = ocuparLibro(id);
+  mundo.user.answerAnything(Answer::Yes);
+  cerrar(id);
+  eliminar(id);
+  EXPECT_FALSE(cerrado());
+  EXPECT_EQ(libros(), 1);
+  EXPECT_EQ(mundo.user.messages().size(), 4u) << "each time the question and who holds the book";
+}
+
+TEST_P(OperacionesLibro, afterEachWayOut_nothingStaysLocked) {
+  const std::int32_t id = libro(true);
+  mundo.user.expectMessage(PREGUNTA_CERRAR, Answer::Yes);
+  cerrar(id);
+  ocuparLibro(id);
+  EXPECT_SCRIPT_DONE(mundo.otherUser);
+}
+
+TEST_P(OperacionesLibro, bookThatIsGone_isToldAndNothingChanges) {
+  libro(true);
+  mundo.user.answerAnything(Answer::Yes);
+  cerrar(999);
+  eliminar(999);
+  EXPECT_FALSE(cerrado());
+  EXPECT_EQ(libros(), 1);
+}
+
+TEST_P(OperacionesLibro, storeThatFails_isReportedUnderTheNameOfTheOperation) {
+  const std::array<const char*, 4> nombres{"cerrarLiBautismo", "cerrarLiconfirmacion",
+                                           "cerrarLimatrimonio", "cerrarLidefuncion"};
+  const std::int32_t id = libro(true);
+  auto* fallos = store::FailingEngine::wrap(mundo.con());
+  fallos->failOn("update libro", store::ErrorKind::ReadOnly);
+  fallos->failOn("delete * from libro", store::ErrorKind::ReadOnly);
+  mundo.user.answerAnything(Answer::Yes);
+  cerrar(id);
+  eliminar(id);
+  ASSERT_EQ(mundo.user.messages().size(), 4u);
+  EXPECT_THAT(mundo.user.messages()[1].text, HasSubstr(nombres[GetParam()]));
+  EXPECT_THAT(mundo.user.messages()[3].text, HasSubstr("EliminarLibro"));
+  EXPECT_FALSE(cerrado());
+  EXPECT_EQ(libros(), 1);
+}
+
+}  // namespace
+}  // namespace fidaleon
