@@ -113,6 +113,9 @@ class cNucleo {
 
  private:
   void InicializaConfiguracion(const FDAPI::cConfig& objConfig);
+  /// `cuales` chooses the books that may take the entry.
+  void altaPartida(FDAPI::Conexion& conBaseDatos, const FDAPI::cConfig& objConfig,
+                   const std::string& strNodo, FDAPI::cCOperacion operacion, const char* cuales);
 
   Contexto contexto_;
 };

@@ -1,0 +1,22 @@
+#include "core/facade/Operacion.h"
+
+namespace fidaleon {
+
+void mostrarPartida(Contexto& contexto, DialogoPartida& dialogo, FDAPI::Conexion& conBaseDatos,
+                    const DialogoPartida::Apertura& apertura, SesionBloqueos::Apertura modo) {
+  dialogo.preparar(conBaseDatos, apertura);
+  const std::string portapapeles = contexto.ui().clipboardText();
+  if (!portapapeles.empty()) dialogo.portapapeles() = portapapeles;
+  dialogo.formulario().Load();
+  if (contexto.ui().clipboardText().empty() && !dialogo.portapapeles().empty())
+    contexto.ui().setClipboardText(dialogo.portapapeles());
+  if (modo == SesionBloqueos::Apertura::SOLO_LECTURA) dialogo.soloLectura();
+  dialogo.formulario().Show();
+}
+
+std::string existePartida(const Sacramento& sacramento, std::int32_t id) {
+  return std::string("SELECT ") + sacramento.clavePartida + " FROM " + sacramento.tablaPartidas +
+         " WHERE " + sacramento.clavePartida + "=" + std::to_string(id);
+}
+
+}  // namespace fidaleon

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <string>
+#include <utility>
+
+#include "core/contract/Guard.h"
+#include "core/contract/Sacramento.h"
+#include "core/facade/DialogoPartida.h"
+#include "core/facade/SesionBloqueos.h"
+
+namespace fidaleon {
+
+/// Runs an operation of cNucleo; an error in it is reported under the operation's name.
+template <class Body>
+void operacion(Contexto& contexto, const char* nombre, Body&& body) {
+  guarded(contexto, "cNucleo", nombre, std::forward<Body>(body));
+}
+
+/// Fills the dialog's public fields, loads it and shows it until the user is done. The dialogs
+/// empty the clipboard on loading; what it held is back in it when the user sees the dialog.
+void mostrarPartida(Contexto& contexto, DialogoPartida& dialogo, FDAPI::Conexion& conBaseDatos,
+                    const DialogoPartida::Apertura& apertura,
+                    SesionBloqueos::Apertura modo = SesionBloqueos::Apertura::NORMAL);
+
+/// "SELECT IDBautismo FROM Bautismo WHERE IDBautismo=" and the key, for any sacrament.
+std::string existePartida(const Sacramento& sacramento, std::int32_t id);
+
+}  // namespace fidaleon

@@ -1,0 +1,70 @@
+#include "core/facade/SesionBloqueos.h"
+
+namespace fidaleon {
+
+SesionBloqueos::~SesionBloqueos() {
+  if (!rehusado_) sesion_->LiberarBloqueos();
+}
+
+void SesionBloqueos::tabla(const char* nombre) {
+  FDAPI::DefinicionBloqueo bloqueo;
+  bloqueo.strTabla = nombre;
+  sesion_->DefinirBloqueo(bloqueo);
+}
+
+void SesionBloqueos::tablasCompartidas(std::initializer_list<const char*> nombres) {
+  for (const char* nombre : nombres) {
+    FDAPI::DefinicionBloqueo bloqueo;
+    bloqueo.strTabla = nombre;
+    bloqueo.blnBloqueoParcialTabla = true;
+    sesion_->DefinirBloqueo(bloqueo);
+  }
+}
+
+void SesionBloqueos::registros(const char* nombreTabla, const std::string& cuales) {
+  FDAPI::DefinicionBloqueo bloqueo;
+  bloqueo.strTabla = nombreTabla;
+  bloqueo.strRegistro = cuales;
+  bloqueo.conBd = &conexion_;
+  sesion_->DefinirBloqueo(bloqueo);
+}
+
+void SesionBloqueos::registrosCompartidos(const char* nombreTabla, const std::string& cuales) {
+  FDAPI::DefinicionBloqueo bloqueo;
+  bloqueo.strTabla = nombreTabla;
+  bloqueo.blnBloqueoParcialRegistro = true;
+  bloqueo.strRegistro = cuales;
+  bloqueo.conBd = &conexion_;
+  sesion_->DefinirBloqueo(bloqueo);
+}
+
+void SesionBloqueos::registro(const char* nombreTabla, std::int32_t id, const std::string& existe) {
+  FDAPI::DefinicionBloqueo bloqueo;
+  bloqueo.strTabla = nombreTabla;
+  bloqueo.strRegistro = std::to_string(id);
+  bloqueo.conBd = &conexion_;
+  bloqueo.blnComprobarExisteRegistro = true;
+  bloqueo.strSQLExisteRegistro = existe;
+  sesion_->DefinirBloqueo(bloqueo);
+}
+
+bool SesionBloqueos::efectuar() {
+  rehusado_ = sesion_->lngEfectuarBloqueos() != FDAPI::BloqueoNinguno;
+  return !rehusado_;
+}
+
+SesionBloqueos::Apertura SesionBloqueos::efectuarParaAbrir() {
+  sesion_->lngEfectuarBloqueos();
+  switch (sesion_->lngUltimoBloqueoError()) {
+    case FDAPI::BloqueoNinguno:
+      return Apertura::NORMAL;
+    case FDAPI::BloqueoRegistroNoExiste:
+    case FDAPI::BloqueoSesion:
+      rehusado_ = true;
+      return Apertura::NINGUNA;
+    default:
+      return Apertura::SOLO_LECTURA;
+  }
+}
+
+}  // namespace fidaleon

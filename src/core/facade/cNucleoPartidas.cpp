@@ -1,0 +1,92 @@
+#include "core/facade/Operacion.h"
+#include "core/facade/cNucleo.h"
+#include "registers/baptism/EliminarPartida.h"
+#include "registers/cBaseDatos.h"
+
+namespace fidaleon {
+
+using FDAPI::cCOperacion;
+using FDAPI::cCOrigen;
+
+void cNucleo::NuevaPartida(FDAPI::Conexion& conBaseDatos, const FDAPI::cConfig& objConfig,
+                           const std::string& strNodo) {
+  operacion(contexto_, "NuevaPartida", [&] {
+    InicializaConfiguracion(objConfig);
+    altaPartida(conBaseDatos, objConfig, strNodo, cCOperacion::ANADIR,
+                " Nuevo = True AND Cerrado = False");
+  });
+}
+
+void cNucleo::AntiguaPartida(FDAPI::Conexion& conBaseDatos, const FDAPI::cConfig& objConfig,
+                             const std::string& strNodo) {
+  operacion(contexto_, "AntiguaPartida", [&] {
+    altaPartida(conBaseDatos, objConfig, strNodo, cCOperacion::ANTIGUA, "Nuevo = False");
+  });
+}
+
+void cNucleo::altaPartida(FDAPI::Conexion& conBaseDatos, const FDAPI::cConfig& objConfig,
+                          const std::string& strNodo, cCOperacion operacionPartida,
+                          const char* cuales) {
+  const Sacramento* s = sacramentoDeNodo(strNodo, "Partidas");
+  const CrearDialogoPartida crear = dialogoDePartida(s);
+  if (!crear) return;
+  SesionBloqueos sesion(contexto_, conBaseDatos);
+  sesion.tablasCompartidas({"Institucion", "Provincia", "Municipio"});
+  sesion.registros(s->tablaLibros, std::string("SELECT ") + s->claveLibro + " FROM " +
+                                       s->tablaLibros + " WHERE " + cuales);
+  sesion.tabla(s->tablaPartidas);
+  if (!sesion.efectuar()) return;
+  contexto_.gobjConfig = &objConfig;
+  const auto dialogo = crear(contexto_);
+  mostrarPartida(contexto_, *dialogo, conBaseDatos, {0, operacionPartida, cCOrigen::PRINCIPAL});
+}
+
+void cNucleo::PropiedadesPartida(FDAPI::Conexion& conBaseDatos, std::int32_t lngID,
+                                 const FDAPI::cConfig& objConfig, const std::string& strNodo) {
+  operacion(contexto_, "PropiedadesPartida", [&] {
+    const Sacramento* s = sacramentoDeNodo(strNodo, "Partidas");
+    const CrearDialogoPartida crear = dialogoDePartida(s);
+    if (!crear) return;
+    const std::string libro = std::string("SELECT CodLibro FROM ") + s->tablaPartidas + " WHERE " +
+                              s->clavePartida + "=" + std::to_string(lngID);
+    SesionBloqueos sesion(contexto_, conBaseDatos);
+    sesion.tablasCompartidas({"Provincia", "Municipio"});
+    sesion.registrosCompartidos("Institucion", std::string("SELECT CodInstitucion FROM ") +
+                                                   s->tablaLibros + " WHERE " + s->claveLibro +
+                                                   " IN (" + libro + ")");
+    sesion.registrosCompartidos(s->tablaLibros, libro);
+    sesion.registro(s->tablaPartidas, lngID, existePartida(*s, lngID));
+    const SesionBloqueos::Apertura modo = sesion.efectuarParaAbrir();
+    if (modo == SesionBloqueos::Apertura::NINGUNA) return;
+    contexto_.gobjConfig = &objConfig;
+    const auto dialogo = crear(contexto_);
+    mostrarPartida(contexto_, *dialogo, conBaseDatos,
+                   {lngID, cCOperacion::EDITAR, cCOrigen::PRINCIPAL}, modo);
+  });
+}
+
+void cNucleo::AnularPartidas(FDAPI::Conexion& conBaseDatos, std::int32_t lngID,
+                             const FDAPI::cConfig&, const std::string& strTextDescription) {
+  operacion(contexto_, "AnularPartidas", [&] {
+    const Sacramento* s = sacramentoDeNodo(strTextDescription, "Partidas");
+    if (s != &BAUTISMO) return;
+    SesionBloqueos sesion(contexto_, conBaseDatos);
+    sesion.registro(s->tablaPartidas, lngID, existePartida(*s, lngID));
+    if (sesion.efectuar()) cBaseDatos(contexto_).AnularDesanularPar(conBaseDatos, lngID);
+  });
+}
+
+void cNucleo::EliminarPartida(FDAPI::Conexion& conBaseDatos, std::int32_t lngID,
+                              const FDAPI::cConfig& objConfig, const std::string& strNodo) {
+  const Sacramento* s = sacramentoDeNodo(strNodo, "Partidas");
+  if (s != &BAUTISMO) return;
+  contexto_.gobjConfig = &objConfig;
+  eliminarPartida(contexto_, conBaseDatos, lngID, *s,
+                  [&] { BorrarPartidaBautismo(conBaseDatos, lngID); });
+}
+
+void cNucleo::BorrarPartidaBautismo(FDAPI::Conexion& conBaseDatos, std::int32_t lngID) {
+  borrarPartidaBautismo(contexto_, conBaseDatos, lngID);
+}
+
+}  // namespace fidaleon

@@ -1,0 +1,49 @@
+#include "core/facade/Operacion.h"
+#include "core/facade/cNucleo.h"
+#include "registers/requests/EliminarSolicitud.h"
+
+namespace fidaleon {
+
+using FDAPI::cCOperacion;
+
+void cNucleo::NuevaSolicitud(FDAPI::Conexion& conBaseDatos, const FDAPI::cConfig& objConfig,
+                             const std::string& strNodo) {
+  operacion(contexto_, "NuevaSolicitud", [&] {
+    InicializaConfiguracion(objConfig);
+    const Sacramento* s = sacramentoDeNodo(strNodo, "Solicitudes");
+    const CrearDialogoPartida crear = dialogoDePartida(s);
+    if (!crear) return;
+    SesionBloqueos sesion(contexto_, conBaseDatos);
+    sesion.tablasCompartidas({"Institucion", "Provincia", "Municipio"});
+    sesion.tabla(s->tablaPartidas);
+    if (!sesion.efectuar()) return;
+    const auto dialogo = crear(contexto_);
+    mostrarPartida(contexto_, *dialogo, conBaseDatos, {0, cCOperacion::ANADIRSOLICITUD, {}});
+  });
+}
+
+void cNucleo::PropiedadesSolicitudes(FDAPI::Conexion& conBaseDatos, std::int32_t lngID,
+                                     const FDAPI::cConfig& objConfig, const std::string& strNodo) {
+  operacion(contexto_, "PropiedadesSolicitudes", [&] {
+    const Sacramento* s = sacramentoDeNodo(strNodo, "Solicitudes");
+    const CrearDialogoPartida crear = dialogoDePartida(s);
+    if (!crear) return;
+    SesionBloqueos sesion(contexto_, conBaseDatos);
+    sesion.tablasCompartidas({"Institucion", "Provincia", "Municipio"});
+    sesion.registro(s->tablaPartidas, lngID, existePartida(*s, lngID));
+    const SesionBloqueos::Apertura modo = sesion.efectuarParaAbrir();
+    if (modo == SesionBloqueos::Apertura::NINGUNA) return;
+    contexto_.gobjConfig = &objConfig;
+    const auto dialogo = crear(contexto_);
+    mostrarPartida(contexto_, *dialogo, conBaseDatos, {lngID, cCOperacion::EDITARSOLICITUD, {}},
+                   modo);
+  });
+}
+
+void cNucleo::EliminarSolicitud(FDAPI::Conexion& conBaseDatos, std::int32_t lngID,
+                                const FDAPI::cConfig&, const std::string& strNodo) {
+  if (sacramentoDeNodo(strNodo, "Solicitudes") != &BAUTISMO) return;
+  eliminarSolicitudBautismo(contexto_, conBaseDatos, lngID);
+}
+
+}  // namespace fidaleon

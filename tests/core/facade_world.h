@@ -1,0 +1,103 @@
+#pragma once
+// The library as the main program has it, over a parish with one baptism; with real locks, or with
+// lock sessions that note what they are told and answer what the test wants.
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "core/facade/cNucleo.h"
+#include "documents/BautismoWorld.h"
+
+namespace fidaleon::tests {
+
+using Log = std::vector<std::string>;
+
+/// What a lock definition says, in one line.
+inline std::string describe(const FDAPI::DefinicionBloqueo& d) {
+  std::string line = d.strTabla;
+  if (d.blnBloqueoParcialTabla) line += " compartida";
+  if (d.blnBloqueoParcialRegistro) line += " parcial";
+  if (!d.strRegistro.empty()) line += " [" + d.strRegistro + "]";
+  if (d.blnComprobarExisteRegistro) line += " existe [" + d.strSQLExisteRegistro + "]";
+  if (!d.strRegistro.empty() && !d.conBd) line += " sin conexión";
+  return line;
+}
+
+class SpySession : public FDAPI::cProcesarBloqueos {
+ public:
+  SpySession(Log& log, const long& answer) : log_(log), answer_(answer) {}
+  void Inicializar(const std::string& directory) override { log_.push_back("en " + directory); }
+  void DefinirBloqueo(FDAPI::DefinicionBloqueo d) override { log_.push_back(describe(d)); }
+  long lngEfectuarBloqueos(bool onlyTest) override {
+    log_.push_back(onlyTest ? "comprobar" : "efectuar");
+    return answer_;
+  }
+  long lngUltimoBloqueoError() const override { return answer_; }
+  void LiberarBloqueo(const std::string& table) override { log_.push_back("liberar " + table); }
+  void LiberarBloqueos() override { log_.push_back("liberar"); }
+
+ private:
+  Log& log_;
+  const long& answer_;
+};
+
+/// The host's support with lock sessions that only note.
+class SpySupport : public SupportFactory {
+ public:
+  explicit SpySupport(SupportFactory& host) : host_(host) {}
+  std::unique_ptr<FDAPI::cFidaleon> create_cFidaleon() override { return host_.create_cFidaleon(); }
+  std::unique_ptr<FDAPI::cIListas> create_cIListas() override { return host_.create_cIListas(); }
+  std::unique_ptr<FDAPI::cInformes> create_cInformes() override { return host_.create_cInformes(); }
+  std::unique_ptr<FDAPI::cProcesarBloqueos> create_cProcesarBloqueos() override {
+    return std::make_unique<SpySession>(log, answer);
+  }
+  Log log;
+  long answer = 0;
+
+ private:
+  SupportFactory& host_;
+};
+
+struct FacadeWorld : BautismoWorld {
+  cNucleo nucleo{entorno};
+
+  std::string directorio() { return "en " + directory.path().string(); }
+  /// Another workstation takes the record; it keeps it as long as the session lives.
+  std::unique_ptr<FDAPI::cProcesarBloqueos> ocupar(const char* tabla, const char* registro = "") {
+    auto otra = otherSession();
+    FDAPI::DefinicionBloqueo b;
+    b.strTabla = tabla;
+    b.strRegistro = registro;
+    b.conBd = parish.get();
+    otra->DefinirBloqueo(b);
+    EXPECT_EQ(otra->lngEfectuarBloqueos(), 0) << tabla;
+    return otra;
+  }
+  /// No lock is left on what the operations use.
+  void esperarLibre() {
+    for (const char* tabla : {"Bautismo", "Libro_Bautismo", "Institucion", "Provincia", "Municipio",
+                              "Libros_Formato", "Libros_TipoNombre"})
+      ocupar(tabla);
+  }
+};
+
+struct SpyWorld : BautismoWorld {
+  SpySupport spy{host};
+  Entorno observed{user, spy, settings, clock, entorno.installation};
+  cNucleo nucleo{observed};
+
+  /// The log without its first line, which names the directory of the database.
+  Log bloqueos() {
+    EXPECT_FALSE(spy.log.empty());
+    if (spy.log.empty()) return {};
+    EXPECT_EQ(spy.log.front(), "en " + directory.path().string());
+    return {spy.log.begin() + 1, spy.log.end()};
+  }
+};
+
+inline void cancelar(forms::FormDriver& u) {
+  u.click("cmdBautismo(1)");
+}
+
+}  // namespace fidaleon::tests
