@@ -39,7 +39,8 @@ SqliteEngine::~SqliteEngine() {
 }
 
 void SqliteEngine::open(const std::string& name, int flags) {
-  const int code = sqlite3_open_v2(name.c_str(), &db_, flags | SQLITE_OPEN_EXRESCODE, nullptr);
+  const int code = sqlite3_open_v2(name.c_str(), &db_,
+                                   flags | SQLITE_OPEN_EXRESCODE | SQLITE_OPEN_NOMUTEX, nullptr);
   if (code != SQLITE_OK) {
     const Error error = sqliteError(code, db_);
     sqlite3_close_v2(db_);

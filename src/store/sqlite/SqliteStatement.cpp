@@ -57,19 +57,21 @@ bool SqliteStatement::step() {
 void SqliteStatement::read(RowStore& rows) {
   rows.beginRow();
   for (int i = 0; i < rows.width(); ++i) {
-    switch (i < columns_ ? sqlite3_column_type(statement_, i) : SQLITE_NULL) {
+    // The value is looked up once: each of SQLite's column functions would do it again.
+    sqlite3_value* value = sqlite3_column_value(statement_, i);
+    switch (i < columns_ ? sqlite3_value_type(value) : SQLITE_NULL) {
       case SQLITE_INTEGER:
-        rows.addInteger(sqlite3_column_int64(statement_, i));
+        rows.addInteger(sqlite3_value_int64(value));
         break;
       case SQLITE_FLOAT:
-        rows.addReal(sqlite3_column_double(statement_, i));
+        rows.addReal(sqlite3_value_double(value));
         break;
       case SQLITE_NULL:
         rows.addNull();
         break;
       default: {
-        const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(statement_, i));
-        rows.addText({text, static_cast<std::size_t>(sqlite3_column_bytes(statement_, i))});
+        const auto* text = reinterpret_cast<const char*>(sqlite3_value_text(value));
+        rows.addText({text, static_cast<std::size_t>(sqlite3_value_bytes(value))});
       }
     }
   }
