@@ -46,11 +46,11 @@ std::string newSessionName() {
 
 }  // namespace
 
-SharedDirectory::SharedDirectory(fs::path directory)
-    : directory_(directory.empty() ? fs::path("/") : std::move(directory)) {}
+SharedDirectory::SharedDirectory(fs::path directory, std::chrono::milliseconds patience)
+    : directory_(directory.empty() ? fs::path("/") : std::move(directory)), patience_(patience) {}
 
 SharedDirectory::Guard SharedDirectory::enter() const {
-  const auto until = std::chrono::steady_clock::now() + PATIENCE;
+  const auto until = std::chrono::steady_clock::now() + patience_;
   try {
     File file = File::openOrCreate(directory_ / GUARD_FILE);
     for (auto pause = std::chrono::microseconds(200); !file.tryLock(); pause += pause / 2) {

@@ -25,7 +25,9 @@ class Unusable : public std::runtime_error {
 /// nobody has locked belongs to a session that is dead, and is swept by the next one that looks.
 class SharedDirectory {
  public:
-  explicit SharedDirectory(std::filesystem::path directory);
+  static constexpr std::chrono::milliseconds PATIENCE{5000};
+  explicit SharedDirectory(std::filesystem::path directory,
+                           std::chrono::milliseconds patience = PATIENCE);
 
   /// The right to look and write; given back when dropped.
   class Guard {
@@ -35,7 +37,7 @@ class SharedDirectory {
    private:
     File file_;
   };
-  /// Waits a few seconds at most. Throws Unusable.
+  /// Waits no longer than its patience. Throws Unusable.
   Guard enter() const;
 
   /// What all other living sessions hold; sweeps the dead. Wants the guard.
@@ -47,12 +49,12 @@ class SharedDirectory {
 
   static constexpr const char* GUARD_FILE = "fidaleon.bloqueos";
   static constexpr const char* SESSION_PREFIX = ".fidaleon.bloqueos.";
-  static constexpr std::chrono::seconds PATIENCE{5};
 
  private:
   void ensureOwnFile();
 
   std::filesystem::path directory_;
+  std::chrono::milliseconds patience_;
   std::filesystem::path ownPath_;
   std::optional<File> own_;
 };

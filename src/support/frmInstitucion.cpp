@@ -156,11 +156,14 @@ bool frmInstitucion::comprobar() {
 void frmInstitucion::guardar() {
   if (sinBlancos(txtInstitucion[InstitucionNombre]).empty())
     txtInstitucion[InstitucionNombre].setText(sinBlancos(txtInstitucion[Nombre]));
+  const std::int32_t edited = id_;
   conexion_.BeginTrans();
   try {
-    id_ == 0 ? insert() : update();
+    edited != 0 ? update() : insert();
+    ensureLastValues();
     conexion_.CommitTrans();
   } catch (const std::exception&) {
+    id_ = edited;
     conexion_.RollbackTrans();
     throw;
   }
@@ -182,8 +185,14 @@ void frmInstitucion::insert() {
   conexion_.Execute("INSERT INTO Institucion (" + columns() + ") VALUES (" + values() + ")");
   const std::string id =
       conexion_.Execute("SELECT MAX(IDInstitucion) AS ID FROM Institucion").text("ID");
-  conexion_.Execute("INSERT INTO Ultimos (IDInstitucion, Encargado) VALUES (" + id + ", \"\")");
   id_ = text::toInteger(id).value_or(0);
+}
+
+// The library only updates this row: an institution of another origin may still be without it.
+void frmInstitucion::ensureLastValues() {
+  const std::string id = std::to_string(id_);
+  if (conexion_.Execute("SELECT IDInstitucion FROM Ultimos WHERE IDInstitucion=" + id).EOF_())
+    conexion_.Execute("INSERT INTO Ultimos (IDInstitucion, Encargado) VALUES (" + id + ", \"\")");
 }
 
 void frmInstitucion::update() {

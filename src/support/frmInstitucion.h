@@ -48,6 +48,7 @@ class frmInstitucion : public Ficha {
   void cmdAltaPoblacion_Click();
   void insert();
   void update();
+  void ensureLastValues();
   /// As the list of columns, or of values, in one order.
   std::string columns() const;
   std::string values() const;

@@ -177,6 +177,7 @@ TEST_F(Catalogues, InstitutionWithBadData_IsRefusedFieldByField) {
 TEST_F(Catalogues, InstitutionEdited_KeepsWhatWasNotTouched) {
   const auto town = w.municipio("Getafe", "Madrid");
   const auto id = w.institucion("San Pedro", town);
+  w.con().Execute("DELETE * FROM Ultimos");  // as in a parish of another origin
   w.user.expectForm("frmInstitucion", [](FormDriver& u) {
     EXPECT_EQ(u.caption(), "Propiedades de la institución");
     EXPECT_EQ(u.text("cboPoblacion"), "Getafe");

@@ -100,6 +100,14 @@ TEST_F(SettingsFile, CannotBeWritten_SaysSoAndChangesNothing) {
   EXPECT_EQ(settings.read("F", "s", "k", "x"), "x");
 }
 
+TEST_F(SettingsFile, CannotBeRead_IsNotOverwritten) {
+  fs::create_directories(file);  // a folder in the place of the file
+  FileSettings settings(file);
+  EXPECT_EQ(settings.read("F", "s", "k", "x"), "x");
+  EXPECT_THROW(settings.write("F", "s", "k", "v"), std::runtime_error);
+  EXPECT_TRUE(fs::is_directory(file));
+}
+
 TEST_F(SettingsFile, DefaultPlace_FollowsTheConfigurationFolder) {
   ::setenv("XDG_CONFIG_HOME", "/tmp/ajustes-de-prueba", 1);
   EXPECT_EQ(FileSettings::defaultFile(), "/tmp/ajustes-de-prueba/fidaleon/ajustes.ini");

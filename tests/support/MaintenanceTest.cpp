@@ -1,0 +1,64 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "support/Mantenimiento.h"
+#include "support/TestWorld.h"
+
+namespace fidaleon::support {
+namespace {
+
+class Maintenance : public ::testing::Test {
+ protected:
+  FDAPI::DefinicionBloqueo shared(const char* table) {
+    FDAPI::DefinicionBloqueo lock;
+    lock.strTabla = table;
+    lock.blnBloqueoParcialTabla = true;
+    return lock;
+  }
+  void TearDown() override { EXPECT_SCRIPT_DONE(w.user); }
+  tests::TestWorld w;
+  Mantenimiento commands{w.contexto, w.con()};
+};
+
+TEST_F(Maintenance, WhileOthersUseTheTable_OneMayAddAndCorrectButNotDelete) {
+  const auto id = w.institucion("San Pedro");
+  auto other = w.otherSession();
+  other->DefinirBloqueo(shared("Institucion"));
+  ASSERT_EQ(other->lngEfectuarBloqueos(), 0);
+  w.user.expectForm("frmInstitucion", [](forms::FormDriver& u) {
+    u.type("txtInstitucion(0)", "San Pablo");
+    u.click("cmdBoton(0)");
+  });
+  EXPECT_TRUE(commands.agregar(Catalogo::Institucion));
+  w.user.expectForm("frmInstitucion", [](forms::FormDriver& u) { u.escape(); });
+  EXPECT_FALSE(commands.propiedades(Catalogo::Institucion, id));
+  w.user.expectMessage(
+      "En este momento no se puede trabajar con las instituciones.\n"
+      "Lo está usando: luis, en el equipo SACRISTIA, desde el 22/11/2026 a las 10:30.\n"
+      "Inténtelo de nuevo cuando termine.");
+  EXPECT_FALSE(commands.eliminar(Catalogo::Institucion, id));
+  other->LiberarBloqueos();
+  w.user.expectMessage("¿Seguro que quiere eliminar la institución?", forms::Answer::Yes);
+  EXPECT_TRUE(commands.eliminar(Catalogo::Institucion, id));
+}
+
+TEST_F(Maintenance, RowOnEditInAnotherWorkstation_IsRefusedAndGoneOnesAreTold) {
+  const auto town = w.municipio("Getafe", "Madrid");
+  auto other = w.otherSession();
+  FDAPI::DefinicionBloqueo row;
+  row.strTabla = "Municipio";
+  row.strRegistro = std::to_string(town);
+  other->DefinirBloqueo(row);
+  ASSERT_EQ(other->lngEfectuarBloqueos(), 0);
+  w.user.expectMessage(
+      "En este momento no se puede abrir el municipio.\n"
+      "Lo está usando: luis, en el equipo SACRISTIA, desde el 22/11/2026 a las 10:30.\n"
+      "Inténtelo de nuevo cuando termine.");
+  EXPECT_FALSE(commands.propiedades(Catalogo::Municipio, town));
+  w.user.expectMessage(
+      "Ya no existe la provincia: se ha eliminado desde otro puesto. Actualice la lista.");
+  EXPECT_FALSE(commands.propiedades(Catalogo::Provincia, 999));
+}
+
+}  // namespace
+}  // namespace fidaleon::support
