@@ -38,9 +38,9 @@ class OperacionLibro {
         id_(std::to_string(id)),
         s_(s),
         sesion_(abrirSesion(contexto, conexion)) {}
-  ~OperacionLibro() { sesion_->LiberarBloqueos(); }
-  OperacionLibro(const OperacionLibro&) = delete;
-  OperacionLibro& operator=(const OperacionLibro&) = delete;
+
+  /// Gives the locks back; after an error, dropping the session does.
+  void terminar() { sesion_->LiberarBloqueos(); }
 
   void cerrar() {
     if (const char* motivo = motivoParaNoCerrar()) return forms::warn(contexto_.ui(), motivo);
@@ -95,14 +95,20 @@ class OperacionLibro {
 
 void cerrarLibro(Contexto& contexto, FDAPI::Conexion& conexion, std::int32_t id,
                  const Sacramento& sacramento) {
-  guarded(contexto, OBJETO, PROCEDIMIENTOS_CERRAR.at(sacramento.byte),
-          [&] { OperacionLibro(contexto, conexion, id, sacramento).cerrar(); });
+  guarded(contexto, OBJETO, PROCEDIMIENTOS_CERRAR.at(sacramento.byte), [&] {
+    OperacionLibro libro(contexto, conexion, id, sacramento);
+    libro.cerrar();
+    libro.terminar();
+  });
 }
 
 void eliminarLibro(Contexto& contexto, FDAPI::Conexion& conexion, std::int32_t id,
                    const Sacramento& sacramento) {
-  guarded(contexto, OBJETO, "EliminarLibro",
-          [&] { OperacionLibro(contexto, conexion, id, sacramento).eliminar(); });
+  guarded(contexto, OBJETO, "EliminarLibro", [&] {
+    OperacionLibro libro(contexto, conexion, id, sacramento);
+    libro.eliminar();
+    libro.terminar();
+  });
 }
 
 }  // namespace fidaleon
