@@ -1,5 +1,6 @@
 #include "census/setup/frmDatosSetup.h"
 
+#include "store/FailingEngine.h"
 #include "support/TestWorld.h"
 
 namespace fidaleon::tests {
@@ -154,19 +155,21 @@ TEST(FrmDatosSetup, Cancelled_AsksAndNoStays) {
 
 TEST(FrmDatosSetup, StoreFails_IsReportedAndTheFieldsStay) {
   SetupWorld w;
-  w.vacia("San Ginés");
+  const std::int32_t id = w.vacia("San Ginés");
+  store::FailingEngine* fallos = store::FailingEngine::wrap(w.con());
+  fallos->failOn("INSERT INTO Institucion_Encargado", store::ErrorKind::DiskFull);
   w.user.answerAnything(forms::Answer::Ok);
   const bool resultado = w.abrir([&](FormDriver& u) {
     rellenar(u, "Pedro Ruiz");
-    w.con().Execute("DROP TABLE Institucion_Encargado");
     u.click(ACEPTAR);
     EXPECT_FALSE(u.closed());
     EXPECT_EQ(u.text(PARROCO), "Pedro Ruiz");
-    w.user.answerAnything(forms::Answer::Yes);
-    u.click(CANCELAR);
+    u.click(ACEPTAR);
   });
-  EXPECT_FALSE(resultado);
+  EXPECT_TRUE(resultado);
+  ASSERT_EQ(w.user.messages().size(), 1u);
   EXPECT_THAT(w.user.messages()[0].text, ::testing::HasSubstr("FidaleonNucleo / frmDatosSetup"));
+  EXPECT_EQ(w.encargado(id), "Rosa Gil");
   EXPECT_SCRIPT_DONE(w.user);
 }
 

@@ -139,9 +139,10 @@ TEST(FacadeLocks, HeldByAnother_OpensWithTheCancelButtonOnly) {
     SpyWorld w;
     w.spy.answer = error;
     const auto soloCancelar = [](forms::FormDriver& u) {
-      for (forms::Control* control : u.form().controls())
-        if (dynamic_cast<forms::Button*>(control))
-          EXPECT_EQ(control->enabled(), control->name() == "cmdBautismo(1)") << control->name();
+      for (forms::Control* control : u.form().controls()) {
+        if (!dynamic_cast<forms::Button*>(control)) continue;
+        EXPECT_EQ(control->enabled(), control->name() == "cmdBautismo(1)") << control->name();
+      }
       cancelar(u);
     };
     w.user.expectForm("frmPartidaBautismo", soloCancelar);

@@ -1,6 +1,8 @@
 // The operations as the main program calls them, with real locks.
 
+#include "core/contract/Sacramento.h"
 #include "facade_world.h"
+#include "store/FailingEngine.h"
 
 namespace fidaleon::tests {
 namespace {
@@ -85,14 +87,13 @@ TEST(FacadeDialogs, EntryGone_OpensNothing) {
 
 TEST(FacadeDialogs, OperationFails_IsReportedUnderItsNameWithoutLocks) {
   FacadeWorld w;
-  w.run("DROP TABLE Libro_Bautismo");
+  store::FailingEngine::wrap(w.con())->failOn("FROM Libro_Bautismo WHERE  Nuevo");
   w.user.answerAnything(Answer::Ok);
   w.nucleo.NuevaPartida(w.con(), w.config, NODO);
   ASSERT_EQ(w.user.messages().size(), 1u);
   EXPECT_THAT(w.user.messages()[0].text,
               ::testing::HasSubstr("FidaleonNucleo / cNucleo / NuevaPartida"));
-  w.ocupar("Bautismo");
-  w.ocupar("Institucion");
+  w.esperarLibre();
   EXPECT_SCRIPT_DONE(w.user);
 }
 
@@ -183,7 +184,7 @@ TEST(FacadeBooks, ClosingAndDeleting_ReachTheirOwnTable) {
   const Cerrar cerrar[] = {&cNucleo::cerrarLiBautismo, &cNucleo::cerrarLiconfirmacion,
                            &cNucleo::cerrarLiMatrimonio, &cNucleo::cerrarLiDefuncion};
   w.run("DELETE * FROM Bautismo");
-  for (const Sacramento& s : SACRAMENTOS) {
+  for (const auto& s : SACRAMENTOS) {
     const std::string tabla = s.tablaLibros;
     if (&s != &BAUTISMO)
       w.run("INSERT INTO " + tabla +

@@ -3,6 +3,7 @@
 #include "BautismoWorld.h"
 #include "documents/TextRules.h"
 #include "documents/TextosPartida.h"
+#include "store/FailingEngine.h"
 
 namespace fidaleon::tests {
 namespace {
@@ -90,6 +91,37 @@ TEST_P(BaptismMembers, StatementBreaks_RollsBackAndNamesTheMember) {
 
 INSTANTIATE_TEST_SUITE_P(Documents, BaptismMembers, ::testing::ValuesIn(CASOS),
                          [](const auto& caso) { return std::string(caso.param.nombre); });
+
+TEST(BaptismDocuments, StoreOfReportsFails_LeavesNoRowAndNoTransaction) {
+  for (const char* paso :
+       {"BEGIN", "INSERT INTO Documentos_Bautismo", "SELECT MAX(Folio)", "COMMIT"}) {
+    BautismoWorld w;
+    store::FailingEngine::wrap(w.conInformes())->failOn(paso, store::ErrorKind::DiskFull);
+    w.user.answerAnything(forms::Answer::Ok);
+    w.informes.ImprimirVolanteBautismo(w.con(), w.conInformes(), 1);
+    EXPECT_EQ(w.user.messages().size(), 1u) << paso;
+    EXPECT_FALSE(w.conInformes().inTransaction()) << paso;
+    EXPECT_EQ(w.filas(), 0) << paso;
+    EXPECT_SCRIPT_DONE(w.user);
+  }
+}
+
+TEST(BaptismDocuments, Volante_ReadsItsTableBackBeforeTheCommit) {
+  BautismoWorld w;
+  const store::FailingEngine* motor = store::FailingEngine::wrap(w.conInformes());
+  w.informes.ImprimirVolanteBautismo(w.con(), w.conInformes(), 1);
+  EXPECT_THAT(motor->executed(),
+              ::testing::ElementsAre("BEGIN", ::testing::StartsWith("INSERT INTO"),
+                                     "SELECT MAX(Folio) AS ID FROM Documentos_Bautismo", "COMMIT"));
+}
+
+TEST(BaptismDocuments, EachPlace_IsAskedForOnce) {
+  BautismoWorld w;
+  const store::FailingEngine* motor = store::FailingEngine::wrap(w.con());
+  w.informes.ImprimirPartidaBautismo(w.con(), w.conInformes(), 1);
+  // Three towns by name and province, and the key 0, which needs no statement.
+  EXPECT_LE(motor->executed().size(), 1u + 2u * 4u);
+}
 
 TEST(BaptismDocuments, QuoteInNote_BreaksCertificateButNotEntry) {
   BautismoWorld w;
