@@ -8,11 +8,19 @@
 #include "paper/Units.h"
 
 namespace fidaleon::paper {
+namespace {
+
+constexpr qreal kSlightestSpacing = 1.0 / 64;  // dots: the least that the toolkit keeps
+constexpr qreal kFieldGap = 1.5;               // millimetres between label and value
+constexpr qreal kFieldDrop = 0.5;              // between value and line
+constexpr qreal kFieldLine = 0.1;
+
+}  // namespace
 
 BlockLayout::BlockLayout(const ReportTemplate& t, qreal scale) : template_(t), scale_(scale) {}
 
-FragmentPtr BlockLayout::layOut(const std::vector<Block>& blocks, const Source& source,
-                                qreal width, bool keep) const {
+FragmentPtr BlockLayout::layOut(const std::vector<Block>& blocks, const Source& source, qreal width,
+                                bool keep) const {
   std::vector<FragmentPtr> out;
   for (const Block& block : blocks) add(block, source, width, out);
   if (out.empty()) return nullptr;
@@ -59,7 +67,8 @@ void BlockLayout::addSpace(qreal millimetres, std::vector<FragmentPtr>& out) con
 
 FragmentPtr BlockLayout::columns(const Block& block, const Source& source, qreal width) const {
   const qreal gap = dotsOfMillimetres(block.gap);
-  qreal left = width - gap * static_cast<qreal>(std::max<std::size_t>(block.children.size(), 1) - 1);
+  qreal left =
+      width - gap * static_cast<qreal>(std::max<std::size_t>(block.children.size(), 1) - 1);
   int sharing = 0;
   for (const Block& c : block.children) {
     left -= dotsOfMillimetres(c.width);
@@ -97,24 +106,31 @@ FragmentPtr BlockLayout::field(const Block& block, const Source& source, qreal w
   const Expanded label = expand(block.label, source);
   const QFontMetricsF labelMetrics(font(block.labelStyle, {}));
   const QFontMetricsF valueMetrics(font(block.style, {}));
-  const qreal gap = dotsOfMillimetres(1.5);
+  const qreal gap = dotsOfMillimetres(kFieldGap);
   qreal labelWidth = dotsOfMillimetres(block.width);
   if (labelWidth <= 0 && !label.text.isEmpty())
     labelWidth = labelMetrics.horizontalAdvance(label.text) + dotsOfPoints(1);
   const qreal x = labelWidth > 0 ? labelWidth + gap : 0;
 
+  // All the leading goes above the value, so that it stands on its line.
+  const qreal above = valueMetrics.height() * (block.style.leading - 1);
   std::vector<FragmentPtr> left;
-  const qreal drop = valueMetrics.ascent() * block.style.leading - labelMetrics.ascent();
-  if (drop > 0) left.push_back(std::make_shared<SpaceFragment>(drop));
+  left.push_back(std::make_shared<SpaceFragment>(
+      std::max<qreal>(0, above + valueMetrics.ascent() - labelMetrics.ascent())));
   TextStyle labelStyle = block.labelStyle;
   labelStyle.align = Qt::AlignLeft;
   if (FragmentPtr p = paragraph(label, labelStyle, std::max(labelWidth, gap))) left.push_back(p);
 
   Expanded value = expand(block.text, source);
-  if (value.text.isEmpty() || (block.writeIn && !value.anyValue)) value = {QStringLiteral(" "), {}, false};
-  std::vector<FragmentPtr> right;
-  if (FragmentPtr p = paragraph(value, block.style, width - x)) right.push_back(p);
-  right.push_back(std::make_shared<RuleFragment>(width - x, dotsOfMillimetres(0.12)));
+  if (value.text.isEmpty() || (block.writeIn && !value.anyValue))
+    value = {QStringLiteral(" "), {}, false};
+  TextStyle valueStyle = block.style;
+  valueStyle.leading = 1;
+  std::vector<FragmentPtr> right{std::make_shared<SpaceFragment>(above)};
+  if (FragmentPtr p = paragraph(value, valueStyle, width - x)) right.push_back(p);
+  right.push_back(std::make_shared<SpaceFragment>(dotsOfMillimetres(kFieldDrop)));
+  right.push_back(std::make_shared<RuleFragment>(width - x, dotsOfMillimetres(kFieldLine),
+                                                 RuleFragment::Ink::Grey));
 
   std::vector<ColumnsFragment::Column> made{
       {0, std::make_shared<StackFragment>(std::move(left), false)},
@@ -165,7 +181,12 @@ const QFont& BlockLayout::font(const TextStyle& style, const Face& face) const {
   f.setBold(bold);
   f.setItalic(italic);
   if (smallCaps) f.setCapitalization(QFont::SmallCaps);
-  if (style.tracking > 0) f.setLetterSpacing(QFont::PercentageSpacing, 100 + style.tracking);
+  // Spacing of any width also keeps "fi" from becoming one glyph, which names copied out of a
+  // PDF could not be found by.
+  if (style.tracking > 0)
+    f.setLetterSpacing(QFont::PercentageSpacing, 100 + style.tracking);
+  else
+    f.setLetterSpacing(QFont::AbsoluteSpacing, kSlightestSpacing);
   f.setHintingPreference(QFont::PreferNoHinting);
   f.setStyleStrategy(QFont::PreferOutline);
   return fonts_.emplace(key, f).first->second;

@@ -96,22 +96,21 @@ std::vector<int> positionsOf(const ReportTemplate& t, const Rows& rows) {
   for (const QString& column : t.columns) {
     const int position = rows.position(column);
     if (position < 0)
-      throw Error(ErrorKind::MissingColumn,
-                  QStringLiteral("La plantilla «%1» pide la columna «%2», que la tabla %3 no tiene.")
-                      .arg(t.name, column, t.table)
-                      .toStdString());
+      throw Error(
+          ErrorKind::MissingColumn,
+          QStringLiteral("La plantilla «%1» pide la columna «%2», que la tabla %3 no tiene.")
+              .arg(t.name, column, t.table)
+              .toStdString());
     positions.push_back(position);
   }
   return positions;
 }
 
 bool holds(const Condition& condition, const Source& source) {
-  const bool any = std::any_of(
-      condition.columns.begin(), condition.columns.end(), [&](int column) {
-        const QString& value = source.value(column);
-        return condition.pattern ? condition.pattern->match(value).hasMatch()
-                                 : !isBlankValue(value);
-      });
+  const bool any = std::any_of(condition.columns.begin(), condition.columns.end(), [&](int column) {
+    const QString& value = source.value(column);
+    return condition.pattern ? condition.pattern->match(value).hasMatch() : !isBlankValue(value);
+  });
   return any != condition.negated;
 }
 

@@ -11,14 +11,17 @@ Fragment::Parts Fragment::split(qreal available, bool must) const {
 }
 
 void RuleFragment::paint(QPainter& painter, QPointF topLeft) const {
-  painter.fillRect(QRectF(topLeft, QSizeF(width_, thickness_)), Qt::black);
+  painter.fillRect(QRectF(topLeft, QSizeF(width_, thickness_)),
+                   ink_ == Ink::Black ? QColor(Qt::black) : QColor(130, 130, 130));
 }
 
 TextFragment::TextFragment(std::shared_ptr<const QTextLayout> layout, int first, int last,
                            qreal leading)
     : layout_(std::move(layout)), first_(first), last_(last), leading_(leading) {}
 
-qreal TextFragment::heightOf(int line) const { return layout_->lineAt(line).height() * leading_; }
+qreal TextFragment::heightOf(int line) const {
+  return layout_->lineAt(line).height() * leading_;
+}
 
 qreal TextFragment::height() const {
   qreal sum = 0;
@@ -104,9 +107,9 @@ void ColumnsFragment::paint(QPainter& painter, QPointF topLeft) const {
   for (const Column& c : columns_) {
     if (c.content) c.content->paint(painter, {topLeft.x() + c.x, topLeft.y()});
     if (look_.dividerThickness > 0 && &c != &columns_.front())
-      painter.fillRect(QRectF(topLeft.x() + c.x - look_.gap / 2, topLeft.y(),
-                              look_.dividerThickness, height_),
-                       Qt::black);
+      painter.fillRect(
+          QRectF(topLeft.x() + c.x - look_.gap / 2, topLeft.y(), look_.dividerThickness, height_),
+          Qt::black);
   }
 }
 
@@ -137,8 +140,8 @@ qreal BoxFragment::height() const {
 }
 
 void BoxFragment::paint(QPainter& painter, QPointF topLeft) const {
-  QPen pen(Qt::black, look_.thickness, look_.dashed ? Qt::DashLine : Qt::SolidLine,
-           Qt::FlatCap, Qt::MiterJoin);
+  QPen pen(Qt::black, look_.thickness, look_.dashed ? Qt::DashLine : Qt::SolidLine, Qt::FlatCap,
+           Qt::MiterJoin);
   painter.save();
   painter.setPen(pen);
   painter.setBrush(Qt::NoBrush);

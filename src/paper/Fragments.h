@@ -21,13 +21,16 @@ class SpaceFragment : public Fragment {
 /// A horizontal line.
 class RuleFragment : public Fragment {
  public:
-  RuleFragment(qreal width, qreal thickness) : width_(width), thickness_(thickness) {}
+  enum class Ink { Black, Grey };
+  RuleFragment(qreal width, qreal thickness, Ink ink = Ink::Black)
+      : width_(width), thickness_(thickness), ink_(ink) {}
   qreal height() const override { return thickness_; }
   void paint(QPainter& painter, QPointF topLeft) const override;
 
  private:
   qreal width_;
   qreal thickness_;
+  Ink ink_;
 };
 
 /// Lines first to last of a paragraph, a line taking `leading` times its natural height.

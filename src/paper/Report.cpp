@@ -1,5 +1,6 @@
 #include "paper/Report.h"
 
+#include <QBuffer>
 #include <QPageLayout>
 #include <QPainter>
 #include <QPdfWriter>
@@ -26,9 +27,9 @@ struct Report::Impl {
 
   void paintFurniture(QPainter& painter, const Page& page) const;
   void paintMarks(QPainter& painter, const Page& page) const;
+  void writePdf(QBuffer& to, const Report& report) const;
   bool shows(const Furniture& f, const Page& page) const {
-    return !f.blocks.empty() && page.number >= f.fromPage &&
-           (!f.onlyWhenSeveral || page.total > 1);
+    return !f.blocks.empty() && page.number >= f.fromPage && (!f.onlyWhenSeveral || page.total > 1);
   }
   Source source(const Page& page) const {
     const std::size_t row = page.parts.empty() ? 0 : page.parts.front().row;
@@ -58,13 +59,13 @@ void paintMark(QPainter& painter, const QString& word, const QRectF& area) {
   QFont f = painter.font();
   f.setBold(true);
   f.setPixelSize(1000);
-  f.setLetterSpacing(QFont::PercentageSpacing, 110);
   const QFontMetricsF metrics(f);
-  const qreal angle = std::min<qreal>(
-      45, qRadiansToDegrees(std::atan2(area.height() * 0.8, area.width())));
+  const qreal angle =
+      std::min<qreal>(45, qRadiansToDegrees(std::atan2(area.height() * 0.8, area.width())));
   const qreal room = std::hypot(area.width(), area.height()) * 0.62;
-  f.setPixelSize(std::max(10, static_cast<int>(1000 * std::min(room / metrics.horizontalAdvance(word),
-                                                              area.height() * 0.8 / metrics.height()))));
+  f.setPixelSize(
+      std::max(10, static_cast<int>(1000 * std::min(room / metrics.horizontalAdvance(word),
+                                                    area.height() * 0.8 / metrics.height()))));
   painter.translate(area.center());
   painter.rotate(-angle);
   painter.setFont(f);
@@ -84,18 +85,26 @@ Report::Report(store::Connection& reports, const std::filesystem::path& template
       Impl{std::move(layout), std::move(rows), {}, std::move(title), std::move(options), {}});
   impl_->positions = positionsOf(impl_->layout, impl_->rows);
   sortRows(impl_->rows, impl_->layout, impl_->positions, impl_->options.order);
-  impl_->pages = PageComposer(impl_->layout, impl_->rows, impl_->positions)
-                     .compose(impl_->options.progress);
+  impl_->pages =
+      PageComposer(impl_->layout, impl_->rows, impl_->positions).compose(impl_->options.progress);
 }
 
 Report::~Report() = default;
 Report::Report(Report&&) noexcept = default;
 Report& Report::operator=(Report&&) noexcept = default;
 
-const QString& Report::title() const { return impl_->title; }
-std::size_t Report::rowCount() const { return impl_->rows.size(); }
-int Report::pageCount() const { return static_cast<int>(impl_->pages.size()); }
-QSizeF Report::pageSizeMillimetres() const { return impl_->layout.page; }
+const QString& Report::title() const {
+  return impl_->title;
+}
+std::size_t Report::rowCount() const {
+  return impl_->rows.size();
+}
+int Report::pageCount() const {
+  return static_cast<int>(impl_->pages.size());
+}
+QSizeF Report::pageSizeMillimetres() const {
+  return impl_->layout.page;
+}
 
 void Report::Impl::paintFurniture(QPainter& painter, const Page& page) const {
   const BlockLayout blocks(layout);
@@ -107,9 +116,8 @@ void Report::Impl::paintFurniture(QPainter& painter, const Page& page) const {
       header->paint(painter, {left, dotsOfMillimetres(layout.marginTop)});
   if (shows(layout.footer, page))
     if (const FragmentPtr footer = blocks.layOut(layout.footer.blocks, source(page), width))
-      footer->paint(painter,
-                    {left, dotsOfMillimetres(layout.page.height() - layout.marginBottom +
-                                             kFooterGap)});
+      footer->paint(painter, {left, dotsOfMillimetres(layout.page.height() - layout.marginBottom +
+                                                      kFooterGap)});
 }
 
 void Report::Impl::paintMarks(QPainter& painter, const Page& page) const {
@@ -157,25 +165,31 @@ void Report::savePdf(const std::filesystem::path& path) const {
   QSaveFile file(QString::fromStdString(path.string()));
   const auto refuse = [&] {
     throw Error(ErrorKind::CannotWrite,
-                QStringLiteral("No se puede guardar el documento en «%1»: %2.")
-                    .arg(file.fileName(), file.errorString())
+                QStringLiteral("No se puede guardar el documento en «%1». Compruebe que la carpeta "
+                               "existe, que puede escribir en ella y que queda sitio en el disco.")
+                    .arg(file.fileName())
                     .toStdString());
   };
   if (!file.open(QIODevice::WriteOnly)) refuse();
-  QPdfWriter writer(&file);
-  writer.setTitle(impl_->title);
+  QBuffer made;
+  impl_->writePdf(made, *this);
+  // The writer of PDF does not look at what the disk answers, so the file is written here.
+  if (file.write(made.data()) != made.size() || !file.flush() || !file.commit()) refuse();
+}
+
+void Report::Impl::writePdf(QBuffer& to, const Report& report) const {
+  to.open(QIODevice::WriteOnly);
+  QPdfWriter writer(&to);
+  writer.setTitle(title);
   writer.setCreator(QStringLiteral("Fidaleon"));
   writer.setResolution(static_cast<int>(kDotsPerInch));
-  writer.setPageLayout(sheetOf(impl_->layout));
-  QPainter painter;
-  if (!painter.begin(&writer)) refuse();
-  for (int page = 0; page < pageCount(); ++page) {
+  writer.setPageLayout(sheetOf(layout));
+  QPainter painter(&writer);
+  for (int page = 0; page < report.pageCount(); ++page) {
     if (page > 0) writer.newPage();
-    paintPage(painter, page);
-    impl_->reportProgress(page + 1, pageCount());
+    report.paintPage(painter, page);
+    reportProgress(page + 1, report.pageCount());
   }
-  painter.end();
-  if (!file.commit()) refuse();
 }
 
 void Report::print(QPrinter& printer) const {

@@ -32,10 +32,9 @@ std::vector<Term> parse(const ReportTemplate& t, const QString& order) {
     const auto match = shape.match(item);
     if (!match.hasMatch())
       fail(QStringLiteral("No se entiende el orden pedido para el documento: «%1».").arg(order));
-    const auto found =
-        std::find_if(t.formulas.begin(), t.formulas.end(), [&](const Formula& f) {
-          return f.name.compare(match.captured(2), Qt::CaseInsensitive) == 0;
-        });
+    const auto found = std::find_if(t.formulas.begin(), t.formulas.end(), [&](const Formula& f) {
+      return f.name.compare(match.captured(2), Qt::CaseInsensitive) == 0;
+    });
     if (found == t.formulas.end())
       fail(QStringLiteral("La plantilla «%1» no define el campo de orden «%2».")
                .arg(t.name, match.captured(2)));

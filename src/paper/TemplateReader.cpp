@@ -10,11 +10,13 @@
 namespace fidaleon::paper {
 namespace {
 
-const QStringList kDefaultFonts{
-    QStringLiteral("Linux Libertine O"), QStringLiteral("Linux Libertine"),
-    QStringLiteral("Libertinus Serif"),  QStringLiteral("TeX Gyre Termes"),
-    QStringLiteral("Liberation Serif"),  QStringLiteral("DejaVu Serif"),
-    QStringLiteral("serif")};
+const QStringList kDefaultFonts{QStringLiteral("Linux Libertine O"),
+                                QStringLiteral("Linux Libertine"),
+                                QStringLiteral("Libertinus Serif"),
+                                QStringLiteral("TeX Gyre Termes"),
+                                QStringLiteral("Liberation Serif"),
+                                QStringLiteral("DejaVu Serif"),
+                                QStringLiteral("serif")};
 
 /// Reads the attributes of one element; what is left unread at the end is an error.
 class Attributes {
@@ -51,7 +53,8 @@ class Attributes {
 
   void done() {
     if (!left_.isEmpty())
-      failAt(node_, QStringLiteral("«%1» no tiene el atributo «%2»").arg(node_.name, left_.firstKey()));
+      failAt(node_,
+             QStringLiteral("«%1» no tiene el atributo «%2»").arg(node_.name, left_.firstKey()));
   }
 
   const XmlNode& node() const { return node_; }
@@ -181,8 +184,8 @@ class Reader {
     Block block;
     block.kind = found->first;
     Attributes a(node);
-    block.condition = readCondition(
-        node, {a.text("if"), a.text("unless"), a.text("matches")}, t_.columns);
+    block.condition =
+        readCondition(node, {a.text("if"), a.text("unless"), a.text("matches")}, t_.columns);
     (this->*found->second)(a, block);
     a.done();
     return block;

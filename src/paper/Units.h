@@ -9,7 +9,11 @@ namespace fidaleon::paper {
 inline constexpr qreal kDotsPerPoint = 10;
 inline constexpr qreal kDotsPerInch = 72 * kDotsPerPoint;
 
-constexpr qreal dotsOfPoints(qreal points) { return points * kDotsPerPoint; }
-constexpr qreal dotsOfMillimetres(qreal millimetres) { return millimetres * kDotsPerInch / 25.4; }
+constexpr qreal dotsOfPoints(qreal points) {
+  return points * kDotsPerPoint;
+}
+constexpr qreal dotsOfMillimetres(qreal millimetres) {
+  return millimetres * kDotsPerInch / 25.4;
+}
 
 }  // namespace fidaleon::paper

@@ -26,7 +26,7 @@ class TreeReader {
       while (!xml_.atEnd()) xml_.readNext();
       if (!xml_.hasError()) return root;
     }
-    failHere(xml_.hasError() ? xml_.errorString() : QStringLiteral("el archivo está vacío"));
+    failHere(notWellFormed());
   }
 
  private:
@@ -43,7 +43,7 @@ class TreeReader {
             {{}, xml_.text().toString(), {}, {}, nameOf(file_), xml_.lineNumber()});
       if (token == QXmlStreamReader::StartElement) addChild(node, readElement(nesting + 1));
     }
-    failHere(xml_.errorString());
+    failHere(notWellFormed());
   }
 
   void addChild(XmlNode& parent, XmlNode child) {
@@ -57,6 +57,10 @@ class TreeReader {
     if (depth_ >= kDeepestInclude) failAt(child, QStringLiteral("demasiados «include» anidados"));
     XmlNode included = readXml(file_.parent_path() / name.toStdString(), depth_ + 1);
     for (XmlNode& c : included.children) parent.children.push_back(std::move(c));
+  }
+
+  QString notWellFormed() const {
+    return QStringLiteral("no es XML bien formado (%1)").arg(xml_.errorString());
   }
 
   [[noreturn]] void failHere(const QString& message) {
@@ -83,8 +87,8 @@ XmlNode readXml(const std::filesystem::path& file, int depth) {
   QFile device(QString::fromStdString(file.string()));
   if (!device.open(QIODevice::ReadOnly))
     throw Error(ErrorKind::MissingTemplate,
-                QStringLiteral("No se encuentra la plantilla del documento: %1 (%2).")
-                    .arg(device.fileName(), device.errorString())
+                QStringLiteral("No se encuentra la plantilla del documento o no se puede leer: %1.")
+                    .arg(device.fileName())
                     .toStdString());
   return TreeReader(device, file, depth).readRoot();
 }

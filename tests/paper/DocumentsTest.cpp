@@ -96,13 +96,24 @@ TEST(Wording, entryOfAGirl_standsInItsOrder) {
   const std::string text = printed(op, fullRow(op));
   std::size_t from = 0;
   for (const char* piece :
-       {"En la Parroquia de Nuestra Señora", "provincia de Madrid",
-        "del Arzobispado Obispado de Madrid-Alcalá", "el día 12 de octubre de 1987",
-        "el Presbítero D.", "bautizó solemnemente a la niña", "nacida el 3 de septiembre",
-        "a las 14:35 horas, en Hospital", "siendo natural de Alcalá", "Es hijo de D.",
-        "natural de Priego", "y de Dª.", "residentes en calle Mayor",
-        "Contrajeron matrimonio en la Parroquia de Santa María", "Son sus abuelos paternos D.",
-        "y Dª.", "Son sus abuelos maternos D.", "Fueron padrinos D.",
+       {"En la Parroquia de Nuestra Señora",
+        "provincia de Madrid",
+        "del Arzobispado Obispado de Madrid-Alcalá",
+        "el día 12 de octubre de 1987",
+        "el Presbítero D.",
+        "bautizó solemnemente a la niña",
+        "nacida el 3 de septiembre",
+        "a las 14:35 horas, en Hospital",
+        "siendo natural de Alcalá",
+        "Es hijo de D.",
+        "natural de Priego",
+        "y de Dª.",
+        "residentes en calle Mayor",
+        "Contrajeron matrimonio en la Parroquia de Santa María",
+        "Son sus abuelos paternos D.",
+        "y Dª.",
+        "Son sus abuelos maternos D.",
+        "Fueron padrinos D.",
         "a los que se advirtió el parentesco espiritual con el bautizado y las demás "
         "obligaciones.",
         "Y para que conste lo firmo, fecha ut supra"}) {
@@ -128,16 +139,14 @@ TEST(Wording, literalCopyWithoutATime_printsDashes) {
 TEST(Wording, menorcaSlip_putsTheSpanishWordIntoCatalan) {
   const std::string op = "InformeVolanteBautismoMenorca";
   EXPECT_THAT(printed(op, fullRow(op)), HasSubstr("filla del Sr."));
-  EXPECT_THAT(printed(op, with(fullRow(op), "[Nacido/Nacida]", "hijo")),
-              HasSubstr("fill del Sr."));
+  EXPECT_THAT(printed(op, with(fullRow(op), "[Nacido/Nacida]", "hijo")), HasSubstr("fill del Sr."));
 }
 
 TEST(Wording, dioceseNamedInFull_isNotNamedTwice) {
   const std::string op = "InformeCertificadoPartidaBautismo";
   EXPECT_THAT(printed(op, fullRow(op)), HasSubstr("Diócesis de Madrid-Alcalá"));
-  EXPECT_THAT(
-      printed(op, with(fullRow(op), "InstitucionDiocesis", "Archidiócesis de Madrid")),
-      Not(HasSubstr("Diócesis de Archi")));
+  EXPECT_THAT(printed(op, with(fullRow(op), "InstitucionDiocesis", "Archidiócesis de Madrid")),
+              Not(HasSubstr("Diócesis de Archi")));
 }
 
 TEST(Catalogue, unknownOperation_hasNoDocument) {

@@ -29,8 +29,7 @@ std::string outputOf(const std::string& command) {
   if (!pipe) throw std::runtime_error("cannot run " + command);
   std::string out;
   char buffer[4096];
-  for (std::size_t n; (n = fread(buffer, 1, sizeof buffer, pipe.get())) > 0;)
-    out.append(buffer, n);
+  for (std::size_t n; (n = fread(buffer, 1, sizeof buffer, pipe.get())) > 0;) out.append(buffer, n);
   return out;
 }
 
@@ -38,8 +37,8 @@ std::string pdfText(const Report& report) {
   const TemporaryFolder folder;
   const auto file = folder.path() / "documento.pdf";
   report.savePdf(file);
-  const QString text = QString::fromStdString(
-      outputOf("pdftotext -raw -enc UTF-8 '" + file.string() + "' - 2>&1"));
+  const QString text =
+      QString::fromStdString(outputOf("pdftotext -raw -enc UTF-8 '" + file.string() + "' - 2>&1"));
   return text.simplified().replace(QChar(QChar::Nbsp), QLatin1Char(' ')).toStdString();
 }
 
