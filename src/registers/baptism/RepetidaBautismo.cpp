@@ -57,6 +57,11 @@ std::string condicionEnlace(FDAPI::Conexion& conexion, const char* enlace, const
   return std::string(" AND ") + enlace + (filas.EOF_() ? " = " + primera : " IN (" + sql + ")");
 }
 
+bool mismoTexto(const std::string& a, const std::string& b) {
+  const auto enBlanco = [](const std::string& v) { return v.empty() || v == "---"; };
+  return a == b || (enBlanco(a) && enBlanco(b));
+}
+
 /// What both records must share to be the same baptism, parents aside.
 bool mismosDatos(const cBautismo& a, const cBautismo& b) {
   for (const auto miembro :
@@ -143,9 +148,9 @@ bool frmPartidaBautismo::marcadaParaBorrar(std::int64_t id) const {
 bool frmPartidaBautismo::ComprobarCambios(cBautismo& nuevo) const {
   bool cambios = false;
   procedimiento("ComprobarCambios", [&] {
-    const bool telefonos = nuevo.TelefonoMadre != registro_.TelefonoMadre ||
-                           nuevo.TelefonoPadres != registro_.TelefonoPadres;
-    const bool padre = !mismaFila(TABLA_PADRES, registro_, nuevo) || telefonos;
+    const bool padre = !mismaFila(TABLA_PADRES, registro_, nuevo) ||
+                       !mismoTexto(registro_.TelefonoMadre, nuevo.TelefonoMadre) ||
+                       !mismoTexto(registro_.TelefonoPadres, nuevo.TelefonoPadres);
     const bool madre = !mismaFila(TABLA_MADRES, registro_, nuevo);
     const bool matrimonio = !mismaFila(TABLA_MATRIMONIO, registro_, nuevo);
     const bool general =

@@ -46,7 +46,8 @@ void frmBuscaPadres::Form_Load() {
     origen_->cargar(*this);
   });
   if (!cargada) return Unload();
-  if (rejilla().rowCount() > 0) rejilla().setRow(1);
+  if (rejilla().rowCount() == 0) return Unload();
+  rejilla().setRow(1);
 }
 
 void frmBuscaPadres::Form_Unload() {

@@ -1,0 +1,371 @@
+// New and old entries through the dialog, from the tree and from a book's list.
+
+#include "registers/baptism_world.h"
+
+namespace fidaleon::tests {
+
+class NewBaptism : public BaptismWorld {};
+
+TEST_F(NewBaptism, UsualEntry_IsStoredAndFollowedByTheNext) {
+  book("Libro 1", true, 3);
+  open(cCOperacion::ANADIR, [&](FormDriver& d) {
+    EXPECT_EQ(d.caption(), "Agregar partida de bautismo nueva");
+    EXPECT_FALSE(d.visible("cmdBautismo(2)"));
+    chooseBook(d, "Libro 1");
+    EXPECT_EQ(d.text("txtLibro(1)"), "1");
+    EXPECT_EQ(d.text("txtLibro(2)"), "1");
+    EXPECT_TRUE(d.locked("txtLibro(1)"));
+    typeChild(d, "Luis");
+    EXPECT_EQ(d.caption(), "Agregar partida de bautismo nueva. Folio:1 número:1");
+    EXPECT_EQ(d.text("adtpBautismo(0)"), "22/11/2026");
+    d.choose("cboBautismo(20)", "Hombre");
+    d.type("txtHoraNac", "9:05");
+    d.choose("cboBautismo(0)", "Madrid");
+    d.choose("cboBautismo(1)", "Alcalá de Henares");
+    typeParents(d);
+    w.user.expectMessage(EMPTY_FIELDS, Answer::Yes);
+    w.user.expectMessage(FURTHER, Answer::Yes);
+    accept(d);
+    EXPECT_EQ(d.text("txtLibro(1)"), "2");
+    EXPECT_EQ(d.text("txtBautismo(7)"), "");
+    EXPECT_EQ(d.get<forms::TabStrip>("mstBautismo").tab(), 0);
+    cancel(d);
+  });
+  EXPECT_EQ(w.count("bautismo"), 1);
+  EXPECT_EQ(w.value("SELECT Folio FROM bautismo"), "1");
+  EXPECT_EQ(w.value("SELECT FechaBautismo FROM bautismo"), "20261122");
+  EXPECT_EQ(w.value("SELECT Padrino FROM bautismo"), "---");
+  EXPECT_EQ(w.value("SELECT Sexo FROM bautismo_hijo"), "Hombre");
+  EXPECT_EQ(w.value("SELECT HoraNac FROM bautismo_hijo"), "09:05");
+  EXPECT_EQ(w.value("SELECT CodMunicipioNac FROM bautismo_hijo"), std::to_string(town));
+  EXPECT_EQ(w.value("SELECT Nombre FROM bautismo_madres"), "Ana");
+  EXPECT_EQ(w.contexto.leerAjuste("ultimos", "ultimos_Institucion"), "San Pedro");
+  EXPECT_SCRIPT_DONE(w.user);
+}
+
+TEST_F(NewBaptism, RequiredFields_AreAskedForOneByOne) {
+  book("Libro 1", true, 3);
+  open(cCOperacion::ANADIR, [&](FormDriver& d) {
+    chooseBook(d, "Libro 1");
+    w.user.expectMessage("Falta rellenar el campo «NOMBRE».");
+    accept(d);
+    EXPECT_EQ(d.focused(), "txtBautismo(7)");
+    d.type("txtBautismo(7)", "Luis");
+    w.user.expectMessage("Falta rellenar el campo «PRIMER APELLIDO».");
+    accept(d);
+    EXPECT_EQ(d.focused(), "txtBautismo(8)");
+    d.type("txtBautismo(8)", "García");
+    w.user.expectMessage(EMPTY_FIELDS, Answer::No);
+    accept(d);
+    EXPECT_EQ(d.text("txtBautismo(9)"), "");
+    cancel(d);
+  });
+  EXPECT_EQ(w.count("bautismo"), 0);
+  EXPECT_EQ(w.count("bautismo_padres"), 0);
+  EXPECT_SCRIPT_DONE(w.user);
+}
+
+TEST_F(NewBaptism, WithoutInstitutionOrBook_TabsAndAcceptanceAreRefused) {
+  book("Libro 1", true, 3);
+  book("Cerrado", true, 3, "19900101", true);
+  open(cCOperacion::ANADIR, [&](FormDriver& d) {
+    w.user.expectMessage(
+        "¡Antes de introducir datos en la partida, tiene que elegir una Institución!");
+    d.tab("mstBautismo", 1);
+    EXPECT_EQ(d.get<forms::TabStrip>("mstBautismo").tab(), 0);
+    EXPECT_EQ(d.focused(), "cboBautismo(22)");
+    d.choose("cboBautismo(22)", "San Pedro");
+    EXPECT_EQ(d.get<forms::ComboBox>("cboBautismo(23)").listCount(), 1);  // no closed book
+    w.user.expectMessage("¡Antes de introducir datos en la partida, tiene que elegir un libro!");
+    accept(d);
+    EXPECT_EQ(d.focused(), "cboBautismo(23)");
+    cancel(d);
+  });
+  EXPECT_SCRIPT_DONE(w.user);
+}
+
+TEST_F(NewBaptism, SameDataAgain_AsksTheExistenceQuestion) {
+  book("Libro 1", true, 3);
+  const std::string again =
+      "La partida de Luis García Pérez ya existe en el libro correspondiente, ¿Quiere continuar?";
+  const auto enter = [&](FormDriver& d) {
+    typeChild(d, "Luis");
+    typeParents(d);
+    w.user.expectMessage(EMPTY_FIELDS, Answer::Yes);
+  };
+  open(cCOperacion::ANADIR, [&](FormDriver& d) {
+    chooseBook(d, "Libro 1");
+    enter(d);
+    w.user.expectMessage(FURTHER, Answer::Yes);
+    accept(d);
+    w.user.expectForm("frmBuscaPadres", [](FormDriver& hits) { hits.click("cmdBoton(1)"); });
+    enter(d);
+    w.user.expectMessage(again, Answer::No);
+    accept(d);
+    EXPECT_FALSE(d.closed());
+    d.tab("mstBautismo", frmPartidaBautismo::TAB_PADRE);
+    d.type("txtBautismo(33)", "600 000 000");         // another telephone, another father
+    w.user.expectMessage(EMPTY_FIELDS, Answer::Yes);  // no list has a choice yet
+    w.user.expectMessage(FURTHER, Answer::No);
+    accept(d);
+  });
+  EXPECT_EQ(w.count("bautismo"), 2);
+  EXPECT_SCRIPT_DONE(w.user);
+}
+
+TEST_F(NewBaptism, PageLimitPassed_IsRefusedUntilComputedAnew) {
+  const std::int32_t libro = book("Libro 1", true, 3);
+  store(record("Luis", libro, 1, "1"));
+  w.contexto.guardarAjuste("documentos", "DOCUMENTOS_MAXPAGLIBRO", "1");
+  const char* limit = "¡Ha llegado al límite de folios establecidos para un libro!";
+  open(cCOperacion::ANADIR, [&](FormDriver& d) {
+    w.user.expectMessage(limit);
+    chooseBook(d, "Libro 1");
+    EXPECT_EQ(d.text("txtLibro(1)"), "2");
+    typeChild(d, "Eva", "Otro", "Más");
+    w.user.expectMessage(limit);
+    accept(d);
+    w.contexto.guardarAjuste("documentos", "DOCUMENTOS_MAXPAGLIBRO", "5");
+    d.tab("mstBautismo", 0);
+    d.choose("cboBautismo(23)", "Libro 1");
+    w.user.expectMessage(EMPTY_FIELDS, Answer::Yes);
+    w.user.expectMessage(FURTHER, Answer::No);
+    accept(d);
+  });
+  EXPECT_EQ(w.count("bautismo"), 2);
+  EXPECT_SCRIPT_DONE(w.user);
+}
+
+TEST_F(NewBaptism, AnyText_IsKeptWithoutBreakingTheStatement) {
+  book("Libro 1", true, 3);
+  open(cCOperacion::ANADIR, [&](FormDriver& d) {
+    chooseBook(d, "Libro 1");
+    typeChild(d, "Jo\"sé");
+    d.paste("txtBautismo(7)", "José \"Pepe\" 👶");
+    d.tab("mstBautismo", frmPartidaBautismo::TAB_BAUTISMO);
+    d.paste("txtBautismo(31)", "Ermita \"La Luz\"\x01; DELETE * FROM bautismo");
+    d.type("txtBautismo(32)", "a\"b");
+    d.tab("mstBautismo", frmPartidaBautismo::TAB_NOTAS);
+    d.paste("txtBautismo(23)", "Línea 1\nΔοκιμή \"dos\"");
+    w.user.expectMessage(EMPTY_FIELDS, Answer::Yes);
+    w.user.expectMessage(FURTHER, Answer::No);
+    accept(d);
+  });
+  EXPECT_EQ(w.value("SELECT Nombre FROM bautismo_hijo"), "José Pepe 👶");
+  EXPECT_EQ(w.value("SELECT Parroquia FROM bautismo"), "Ermita ''La Luz''; DELETE * FROM bautismo");
+  EXPECT_EQ(w.value("SELECT Diocesis FROM bautismo"), "a''b");
+  EXPECT_EQ(w.value("SELECT NotasMarginales FROM bautismo"), "Línea 1\r\nΔοκιμή ''dos''");
+  EXPECT_SCRIPT_DONE(w.user);
+}
+
+TEST_F(NewBaptism, FailingStore_KeepsTheDialogAndWhatWasTyped) {
+  book("Libro 1", true, 3);
+  auto* faults = store::FailingEngine::wrap(w.con());
+  open(cCOperacion::ANADIR, [&](FormDriver& d) {
+    chooseBook(d, "Libro 1");
+    typeChild(d, "Luis");
+    faults->failOn("INSERT INTO bautismo_padres", store::ErrorKind::DiskFull);
+    w.user.answerAnything(Answer::Yes);
+    accept(d);
+    EXPECT_FALSE(d.closed());
+    EXPECT_EQ(d.text("txtBautismo(7)"), "Luis");
+    EXPECT_THAT(w.user.messages().back().text, ::testing::HasSubstr("AltaPartidaBautismo"));
+    EXPECT_EQ(w.count("bautismo"), 0);
+    accept(d);
+    cancel(d);
+  });
+  EXPECT_EQ(w.count("bautismo"), 1);
+  EXPECT_EQ(w.user.hourglassDepth(), 0);
+}
+
+TEST_F(NewBaptism, Clipboard_IsPutBack) {
+  w.user.expectForm(DIALOG, [](FormDriver& d) { cancel(d); });
+  frmPartidaBautismo dialog(w.contexto);
+  dialog.conBaseDatos = &w.con();
+  dialog.Operacion = cCOperacion::ANADIR;
+  dialog.Origen = cCOrigen::PRINCIPAL;
+  dialog.strPortapapeles = "copiado antes";
+  dialog.Show();
+  EXPECT_EQ(w.user.clipboardText(), "copiado antes");
+}
+
+TEST_F(NewBaptism, MarginalNotes_WarnOnceUntilTheyBecomeShorter) {
+  book("Libro 1", true, 3);
+  const char* warning =
+      "El campo de notas marginales ha sobrepasado el límite máximo \n"
+      "establecido para los documentos. Si continúa \n"
+      "introduciendo datos puede ser que algunos de los informes se impriman en varias hojas.";
+  std::string lines;
+  for (int i = 0; i < 42; ++i) lines += "línea\r\n";
+  open(cCOperacion::ANADIR, [&](FormDriver& d) {
+    chooseBook(d, "Libro 1");
+    d.tab("mstBautismo", frmPartidaBautismo::TAB_NOTAS);
+    d.paste("txtBautismo(23)", lines.substr(0, lines.size() - 2));  // 42 lines are the limit
+    w.user.expectMessage(warning);
+    d.paste("txtBautismo(23)", lines + "más");
+    d.paste("txtBautismo(23)", lines + "más y más");
+    d.paste("txtBautismo(23)", lines);  // shorter: the last line is empty, and counts
+    w.user.expectMessage(warning);
+    w.user.printer = false;
+    d.paste("txtBautismo(23)", "corto");
+    d.paste("txtBautismo(23)", lines + "sin impresora");
+    w.user.printer = true;
+    d.paste("txtBautismo(23)", lines + "con impresora");
+    cancel(d);
+  });
+  EXPECT_EQ(w.user.messages().size(), 3u);
+}
+
+class OldBaptism : public BaptismWorld {};
+
+TEST_F(OldBaptism, TypedPosition_IsCheckedOnLeavingTheFirstTab) {
+  const std::int32_t libro = book("Antiguo", false, 2);
+  store(record("A", libro, 1, "1"));
+  store(record("B", libro, 1, "2"));
+  store(record("C", libro, 2, "12"));
+  open(cCOperacion::ANTIGUA, [&](FormDriver& d) {
+    chooseBook(d, "Antiguo");
+    EXPECT_FALSE(d.locked("txtLibro(1)"));
+    d.type("txtLibro(1)", "1");
+    w.user.expectMessage(
+        "¡No puede introducir ninguna partida en el folio 1 porque ya hay 2 partidas en él!");
+    d.tab("mstBautismo", 1);
+    EXPECT_EQ(d.focused(), "txtLibro(1)");
+    d.type("txtLibro(1)", "2");
+    d.type("txtLibro(2)", "12");
+    const char* taken =
+        "La partida que va a introducir coincide con otra. El número se reemplazará por el 12a "
+        "¿Desea continuar?";
+    w.user.expectMessage(taken, Answer::No);
+    d.tab("mstBautismo", 1);
+    EXPECT_EQ(d.get<forms::TabStrip>("mstBautismo").tab(), 0);
+    w.user.expectMessage(taken, Answer::Yes);
+    d.tab("mstBautismo", 1);
+    EXPECT_EQ(d.text("txtLibro(2)"), "12a");
+    EXPECT_EQ(d.caption(), "Agregar partida de bautismo antigua. Folio:2 número:12a");
+    typeChild(d, "Eva", "Otro", "Más");
+    w.user.expectMessage(FURTHER, Answer::No);
+    accept(d);
+  });
+  EXPECT_EQ(w.count("bautismo WHERE Folio=2 AND Numero=\"12a\""), 1);
+  EXPECT_SCRIPT_DONE(w.user);
+}
+
+TEST_F(OldBaptism, LaterDate_MovesTheBookForwardAndAnnulmentIsStored) {
+  book("Antiguo", false, 3, "19500101");
+  open(cCOperacion::ANTIGUA, [&](FormDriver& d) {
+    chooseBook(d, "Antiguo");
+    d.type("txtLibro(1)", "");
+    w.user.expectMessage("¡Debe introducir datos en el campo folio!");
+    d.focus("txtLibro(2)");
+    EXPECT_EQ(d.focused(), "txtLibro(1)");
+    d.type("txtLibro(1)", "3");
+    typeChild(d, "Eva");
+    d.tab("mstBautismo", frmPartidaBautismo::TAB_BAUTISMO);
+    d.type("adtpBautismo(2)", "5/7/1961");
+    d.click("cmdBautismo(2)");
+    EXPECT_EQ(d.text("cmdBautismo(2)"), "&Validar");
+    EXPECT_TRUE(d.visible("lblPartidaAnulada"));
+    w.user.expectMessage(FURTHER, Answer::No);
+    accept(d);
+  });
+  EXPECT_EQ(w.value("SELECT FechaCreacion FROM Libro_Bautismo"), "19610705");
+  EXPECT_EQ(w.count("bautismo WHERE Anulada=true AND FechaBautismo=\"19610705\""), 1);
+  EXPECT_EQ(w.value("SELECT FolioSiguiente FROM Libro_Bautismo"), "4");
+  EXPECT_SCRIPT_DONE(w.user);
+}
+
+TEST_F(OldBaptism, JumpToTheNextHole_IsTold) {
+  const std::int32_t libro = book("Antiguo", false, 3);
+  store(record("A", libro, 1, "1"));
+  store(record("B", libro, 3, "3"));
+  w.con().Execute("UPDATE Libro_Bautismo SET FolioSiguiente=2, NumeroSiguiente=\"2\"");
+  open(cCOperacion::ANTIGUA, [&](FormDriver& d) {
+    chooseBook(d, "Antiguo");
+    EXPECT_EQ(d.text("txtLibro(1)"), "2");
+    typeChild(d, "Eva", "Otro", "Más");
+    w.user.expectMessage(FURTHER, Answer::Yes);
+    w.user.expectMessage(
+        "¡Se ha producido un salto, la siguiente partida a introducir es \n"
+        "la correspondiente al folio 4, número 4!");
+    accept(d);
+    EXPECT_EQ(d.text("txtLibro(1)"), "4");
+    cancel(d);
+  });
+  EXPECT_SCRIPT_DONE(w.user);
+}
+
+class BaptismOfAList : public BaptismWorld {};
+
+TEST_F(BaptismOfAList, NewItems_StayInTheCollectionAndTakeTheNextPositions) {
+  const std::int32_t libro = book("Libro 1", true, 3);
+  ColeccionBautismo items;
+  openFromList(cCOperacion::ANADIR, libro, items, [&](FormDriver& d) {
+    EXPECT_TRUE(d.locked("cboBautismo(22)"));
+    EXPECT_TRUE(d.locked("cboBautismo(23)"));
+    EXPECT_FALSE(d.enabled("cmdAltaInstitucion"));
+    typeChild(d, "Luis");
+    w.user.expectMessage(EMPTY_FIELDS, Answer::Yes);
+    w.user.expectMessage(FURTHER, Answer::Yes);
+    accept(d);
+    EXPECT_EQ(d.text("txtLibro(1)"), "2");
+    typeChild(d, "Luis");
+    w.user.expectMessage(EMPTY_FIELDS, Answer::Yes);
+    w.user.expectMessage(
+        "La partida de Luis García Pérez ya existe en el libro correspondiente, "
+        "¿Quiere continuar?",
+        Answer::Yes);
+    w.user.expectMessage(FURTHER, Answer::No);
+    accept(d);
+  });
+  EXPECT_EQ(w.count("bautismo"), 0);
+  ASSERT_EQ(items.size(), 2u);
+  EXPECT_EQ(items[1].FolioBautismo, "2");
+  EXPECT_FALSE(items[1].Estado);
+  EXPECT_EQ(items[1].Operacion, cCOperacion::ANADIR);
+  EXPECT_SCRIPT_DONE(w.user);
+}
+
+TEST_F(BaptismOfAList, OldBook_TurnsTheOperationToAntigua) {
+  const std::int32_t libro = book("Antiguo", false, 3);
+  ColeccionBautismo items;
+  openFromList(cCOperacion::ANADIR, libro, items, [&](FormDriver& d) {
+    EXPECT_EQ(d.caption(), "Agregar partida de bautismo antigua. Folio:1 número:1");
+    EXPECT_FALSE(d.locked("txtLibro(1)"));
+    typeChild(d, "Luis");
+    w.user.expectMessage(FURTHER, Answer::No);
+    accept(d);
+  });
+  ASSERT_EQ(items.size(), 1u);
+  EXPECT_EQ(items[0].Operacion, cCOperacion::ANTIGUA);
+  EXPECT_SCRIPT_DONE(w.user);
+}
+
+TEST_F(BaptismOfAList, EditedItems_KeepWhatIsStillToBeDoneToThem) {
+  const std::int32_t libro = book("Antiguo", false, 3);
+  const std::int32_t id = store(record("Luis", libro, 1, "1"));
+  ColeccionBautismo items{cBautismo(), record("Eva", libro, 2, "2")};
+  ASSERT_TRUE(cBaseDatos(w.contexto).ActualizarColeccion(w.con(), id, items, 0));
+  items[0].Estado = true;
+  const auto rename = [&](std::size_t position) {
+    openFromList(
+        cCOperacion::EDITAR, 0, items,
+        [&](FormDriver& d) {
+          d.tab("mstBautismo", frmPartidaBautismo::TAB_PADRE);
+          d.type("txtBautismo(11)", "Pedro");
+          accept(d);
+        },
+        position);
+  };
+  rename(0);
+  rename(1);
+  EXPECT_EQ(items[0].Operacion, cCOperacion::EDITAR);
+  EXPECT_TRUE(items[0].CambioPadre);
+  EXPECT_FALSE(items[0].CambioMadre);
+  EXPECT_EQ(items[1].Operacion, cCOperacion::ANADIR);  // still to be added
+  EXPECT_EQ(items[1].NombrePadres, "Pedro");
+  EXPECT_EQ(w.value("SELECT Nombre FROM bautismo_padres"), "Juan");
+  EXPECT_SCRIPT_DONE(w.user);
+}
+
+}  // namespace fidaleon::tests

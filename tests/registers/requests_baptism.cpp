@@ -1,0 +1,76 @@
+// Requests of baptism through the entry dialog.
+
+#include "registers/baptism_world.h"
+
+namespace fidaleon::tests {
+
+class BaptismRequest : public BaptismWorld {
+ protected:
+  void enter(const std::string& name) {
+    open(cCOperacion::ANADIRSOLICITUD, [&](FormDriver& d) {
+      EXPECT_EQ(d.caption(), "Agregar solicitud de bautismo");
+      EXPECT_FALSE(d.visible("cboBautismo(23)"));
+      EXPECT_FALSE(d.visible("fraLibro"));
+      EXPECT_FALSE(d.visible("cmdAltaLibro"));
+      EXPECT_FALSE(d.visible("cmdBautismo(2)"));
+      d.choose("cboBautismo(22)", "San Pedro");
+      typeChild(d, name);
+      w.user.expectMessage("¿Desea dar de alta nuevas solicitudes?", Answer::No);
+      accept(d);
+    });
+  }
+};
+
+TEST_F(BaptismRequest, New_IsStoredOutsideAnyBook) {
+  enter("Luis");
+  EXPECT_EQ(w.count("bautismo WHERE codlibro=0 AND folio=0 AND numero=\"---\""), 1);
+  EXPECT_EQ(w.value("SELECT InstitucionSolicitud FROM bautismo"), std::to_string(parish));
+  EXPECT_SCRIPT_DONE(w.user);
+}
+
+TEST_F(BaptismRequest, WithoutInstitution_IsRefusedInItsOwnWords) {
+  open(cCOperacion::ANADIRSOLICITUD, [&](FormDriver& d) {
+    w.user.expectMessage(
+        "¡Antes de introducir datos en la solicitud, tiene que elegir una Institución!");
+    d.tab("mstBautismo", 1);
+    cancel(d);
+  });
+  EXPECT_SCRIPT_DONE(w.user);
+}
+
+TEST_F(BaptismRequest, Edited_KeepsItsInstitution) {
+  enter("Luis");
+  const std::int32_t id = std::stoi(w.value("SELECT IDBautismo FROM bautismo"));
+  open(
+      cCOperacion::EDITARSOLICITUD,
+      [&](FormDriver& d) {
+        EXPECT_EQ(d.caption(), "Propiedades de solicitud de bautismo");
+        EXPECT_EQ(d.text("cboBautismo(22)"), "San Pedro");
+        d.tab("mstBautismo", frmPartidaBautismo::TAB_BAUTIZADO);
+        d.type("txtBautismo(7)", "Carlos");
+        accept(d);
+      },
+      id);
+  EXPECT_EQ(w.value("SELECT Nombre FROM bautismo_hijo"), "Carlos");
+  EXPECT_EQ(w.value("SELECT InstitucionSolicitud FROM bautismo"), std::to_string(parish));
+  EXPECT_EQ(w.count("bautismo WHERE codlibro=0"), 1);
+  EXPECT_SCRIPT_DONE(w.user);
+}
+
+TEST_F(BaptismRequest, InstitutionBeyondOneByte_IsReportedAndNothingWritten) {
+  w.con().Execute("INSERT INTO Institucion (IDInstitucion, Nombre) VALUES (300, \"Lejana\")");
+  w.user.answerAnything(Answer::Ok);
+  open(cCOperacion::ANADIRSOLICITUD, [&](FormDriver& d) {
+    d.choose("cboBautismo(22)", "Lejana");
+    typeChild(d, "Luis");
+    accept(d);
+    EXPECT_FALSE(d.closed());
+    cancel(d);
+  });
+  ASSERT_EQ(w.user.messages().size(), 1u);
+  EXPECT_THAT(w.user.messages()[0].text, ::testing::HasSubstr("255"));
+  EXPECT_EQ(w.count("bautismo"), 0);
+  EXPECT_EQ(w.count("bautismo_padres"), 0);
+}
+
+}  // namespace fidaleon::tests
