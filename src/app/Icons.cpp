@@ -1,52 +1,81 @@
 #include "app/Icons.h"
 
 #include <QPainter>
+#include <QPainterPath>
 #include <QPixmap>
-#include <QSvgRenderer>
 #include <array>
-#include <string_view>
+#include <sstream>
 
 namespace fidaleon::app {
 namespace {
 
+/// Strokes on a sheet of 24 by 24: M x y lifts the pen to a point, L x y draws to one, Z closes
+/// the line, O x y r draws a circle.
 struct Drawing {
-  std::string_view name;
-  std::string_view path;  // strokes on a sheet of 24 by 24
+  const char* name;
+  const char* strokes;
 };
 
 constexpr std::array<Drawing, 15> DRAWINGS{{
-    {"new", "M13 3H6v18h12V8zM13 3v5h5M12 11v6M9 14h6"},
-    {"old", "M5 4h11a3 3 0 0 1 3 3v13H8a3 3 0 0 1-3-3zM5 17a3 3 0 0 1 3-3h11M9 8h6"},
-    {"edit", "M4 20l1-4L16 5l3 3L8 19zM14 7l3 3"},
-    {"annul", "M12 4a8 8 0 1 0 .01 0M6.5 6.5l11 11"},
-    {"valid", "M12 4a8 8 0 1 0 .01 0M8 12l3 3 5-6"},
-    {"print", "M7 9V3h10v6M7 17H4V9h16v8h-3M7 14h10v7H7z"},
-    {"lock", "M6 11h12v9H6zM8.500 11V8a3.500 3.500 0 0 1 7 0v3M12 14.500v2.500"},
-    {"list", "M4 6h2M9 6h11M4 12h2M9 12h11M4 18h2M9 18h11"},
-    {"folder", "M3 6h7l2 2h9v11H3z"},
-    {"book", "M5 4h12v16H7a2 2 0 0 1-2-2zM5 18a2 2 0 0 1 2-2h10M9 8h4"},
-    {"entry", "M6 3h12v18H6zM9 8h6M9 12h6M9 16h4"},
-    {"request", "M4 6h16v12H4zM4 7l8 6 8-6"},
-    {"church", "M12 2v5M10 4h4M12 7l5 4v10H7V11zM7 14H3v7h4M17 14h4v7h-4M10.500 21v-4h3v4"},
-    {"map", "M9 4L3 6v14l6-2 6 2 6-2V4l-6 2zM9 4v14M15 6v14"},
-    {"town", "M4 21V10l5-4 5 4v11M14 21v-8h6v8M2 21h20M8 13h2M8 17h2"},
+    {"new",
+     "M 13 3 L 6 3 L 6 21 L 18 21 L 18 8 Z M 13 3 L 13 8 L 18 8 M 12 11 L 12 17 M 9 14 L "
+     "15 14"},
+    {"old", "M 5 4 L 19 4 L 19 20 L 5 20 Z M 5 17 L 19 17 M 9 8 L 15 8 M 9 12 L 15 12"},
+    {"edit", "M 4 20 L 5 16 L 16 5 L 19 8 L 8 19 Z M 14 7 L 17 10"},
+    {"annul", "O 12 12 8 M 6.400 6.400 L 17.600 17.600"},
+    {"valid", "O 12 12 8 M 8 12 L 11 15 L 16 9"},
+    {"print",
+     "M 7 9 L 7 3 L 17 3 L 17 9 M 7 17 L 4 17 L 4 9 L 20 9 L 20 17 L 17 17 M 7 14 L 17 "
+     "14 L 17 21 L 7 21 Z"},
+    {"lock",
+     "M 6 11 L 18 11 L 18 20 L 6 20 Z M 8.500 11 L 8.500 6 L 10 4 L 14 4 L 15.500 6 L "
+     "15.500 11 M 12 14.500 L 12 17"},
+    {"list", "M 4 6 L 6 6 M 9 6 L 20 6 M 4 12 L 6 12 M 9 12 L 20 12 M 4 18 L 6 18 M 9 18 L 20 18"},
+    {"folder", "M 3 6 L 10 6 L 12 8 L 21 8 L 21 19 L 3 19 Z"},
+    {"book", "M 5 4 L 18 4 L 18 20 L 5 20 Z M 5 17 L 18 17 M 9 8 L 14 8"},
+    {"entry", "M 6 3 L 18 3 L 18 21 L 6 21 Z M 9 8 L 15 8 M 9 12 L 15 12 M 9 16 L 13 16"},
+    {"request", "M 4 6 L 20 6 L 20 18 L 4 18 Z M 4 7 L 12 13 L 20 7"},
+    {"church",
+     "M 12 2 L 12 7 M 10 4 L 14 4 M 12 7 L 17 11 L 17 21 L 7 21 L 7 11 Z M 7 14 L 3 14 L "
+     "3 21 L 7 21 M 17 14 L 21 14 L 21 21 L 17 21 M 10.500 21 L 10.500 17 L 13.500 17 L "
+     "13.500 21"},
+    {"map",
+     "M 9 4 L 3 6 L 3 20 L 9 18 L 15 20 L 21 18 L 21 4 L 15 6 Z M 9 4 L 9 18 M 15 6 L 15 "
+     "20"},
+    {"town",
+     "M 4 21 L 4 10 L 9 6 L 14 10 L 14 21 M 14 21 L 14 13 L 20 13 L 20 21 M 2 21 L 22 21 "
+     "M 8 13 L 10 13 M 8 17 L 10 17"},
 }};
 
-QByteArray svg(std::string_view path, const QColor& colour) {
-  return QByteArray("<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 24 24'><path d='") +
-         QByteArray(path.data(), static_cast<qsizetype>(path.size())) +
-         "' fill='none' stroke-width='1.600' stroke-linecap='round' stroke-linejoin='round' "
-         "stroke='" +
-         colour.name().toLatin1() + "'/></svg>";
+QPainterPath pathOf(const char* strokes) {
+  QPainterPath path;
+  std::istringstream in(strokes);
+  char pen = 0;
+  while (in >> pen) {
+    if (pen == 'Z') {
+      path.closeSubpath();
+      continue;
+    }
+    double x = 0;
+    double y = 0;
+    double radius = 0;
+    in >> x >> y;
+    if (pen == 'M') path.moveTo(x, y);
+    if (pen == 'L') path.lineTo(x, y);
+    if (pen == 'O' && in >> radius) path.addEllipse(QPointF(x, y), radius, radius);
+  }
+  return path;
 }
 
-void draw(QIcon& icon, QIcon::Mode mode, std::string_view path, const QColor& colour) {
-  QSvgRenderer renderer(svg(path, colour));
+void draw(QIcon& icon, QIcon::Mode mode, const QPainterPath& path, const QColor& colour) {
   for (const int size : {16, 24, 32, 48}) {
     QPixmap sheet(size, size);
     sheet.fill(Qt::transparent);
     QPainter painter(&sheet);
-    renderer.render(&painter);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.scale(size / 24.0, size / 24.0);
+    painter.setPen(QPen(colour, 1.6, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.drawPath(path);
     icon.addPixmap(sheet, mode);
   }
 }
@@ -56,10 +85,11 @@ void draw(QIcon& icon, QIcon::Mode mode, std::string_view path, const QColor& co
 QIcon icon(const std::string& name, const QPalette& palette) {
   QIcon made;
   for (const Drawing& d : DRAWINGS) {
-    if (d.name != name) continue;
-    draw(made, QIcon::Normal, d.path, palette.color(QPalette::Active, QPalette::WindowText));
-    draw(made, QIcon::Disabled, d.path, palette.color(QPalette::Disabled, QPalette::WindowText));
-    draw(made, QIcon::Selected, d.path, palette.color(QPalette::Active, QPalette::HighlightedText));
+    if (name != d.name) continue;
+    const QPainterPath path = pathOf(d.strokes);
+    draw(made, QIcon::Normal, path, palette.color(QPalette::Active, QPalette::WindowText));
+    draw(made, QIcon::Disabled, path, palette.color(QPalette::Disabled, QPalette::WindowText));
+    draw(made, QIcon::Selected, path, palette.color(QPalette::Active, QPalette::HighlightedText));
   }
   return made;
 }

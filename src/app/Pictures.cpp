@@ -1,6 +1,6 @@
 #include "app/Pictures.h"
 
-#include <QApplication>
+#include <QLineEdit>
 #include <QTemporaryDir>
 #include <array>
 #include <functional>

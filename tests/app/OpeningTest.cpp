@@ -1,0 +1,166 @@
+#include <sys/file.h>
+
+#include <fstream>
+
+#include "app/FormWatch.h"
+#include "app/OpeningFault.h"
+#include "app/Parish.h"
+#include "app/Preferences.h"
+#include "store/Open.h"
+
+namespace fidaleon::app {
+namespace {
+
+using store::ErrorKind;
+
+class Opening : public ParishTest {
+ protected:
+  ErrorKind failure() {
+    try {
+      openParish(files());
+    } catch (const store::Error& e) {
+      fault = describeFault(e, files());
+      return e.kind();
+    }
+    ADD_FAILURE() << "opened";
+    return ErrorKind::Other;
+  }
+  bool offers(Remedy remedy) const {
+    return std::find(fault.remedies.begin(), fault.remedies.end(), remedy) != fault.remedies.end();
+  }
+  void write(const std::filesystem::path& file, const std::string& text) {
+    std::ofstream(file) << text;
+  }
+  OpeningFault fault;
+};
+
+TEST_F(Opening, firstRun_makesBothDatabasesTheTownAndTheLastValues) {
+  create(Content::Empty);
+  EXPECT_TRUE(std::filesystem::exists(files().parish()));
+  EXPECT_TRUE(std::filesystem::exists(files().reports()));
+  EXPECT_EQ(desk->parishName(), "San Blas");
+  EXPECT_EQ(desk->edition(), "Madrid");
+  EXPECT_EQ(count("SELECT COUNT(IDProvincia) FROM Provincia"), 52);
+  EXPECT_EQ(rowsOf("SELECT Institucion.IDInstitucion FROM Institucion, Ultimos, Municipio, "
+                   "Provincia WHERE Ultimos.IDInstitucion=Institucion.IDInstitucion AND "
+                   "IDMunicipio=CodMunicipio AND IDProvincia=CodProvincia AND "
+                   "Provincia.Nombre=\"Madrid\""),
+            1);
+}
+
+TEST_F(Opening, firstRun_givenUpInTheSetup_endsTheProgram) {
+  create(Content::Empty);
+  user.expectForm("frmDatosSetup", [](forms::FormDriver& d) { d.click("cmdBoton(1)"); });
+  user.answerAnything(forms::Answer::Yes);
+  EXPECT_FALSE(desk->setUp());
+}
+
+TEST_F(Opening, firstRun_missingAnswersAreNamed) {
+  NewParish p = described();
+  EXPECT_EQ(whatIsMissing(p), "");
+  p.name = "  ";
+  EXPECT_EQ(whatIsMissing(p), "Escriba el nombre de la parroquia.");
+  p = described();
+  p.province = 0;
+  EXPECT_EQ(whatIsMissing(p), "Elija la provincia de la parroquia.");
+}
+
+TEST_F(Opening, firstRun_neverTouchesAParishThatIsThere) {
+  create(Content::Empty);
+  EXPECT_NE(whatIsMissing(described()), "");
+  EXPECT_THROW(createParish(described(), clock.today()), store::Error);
+  open();
+  EXPECT_EQ(desk->parishName(), "San Blas");
+}
+
+TEST_F(Opening, firstRun_quotesInANameDoNoHarm) {
+  NewParish p = described(Content::Empty);
+  p.name = "San \"Blas\"; DROP TABLE Institucion";
+  createParish(p, clock.today());
+  open();
+  EXPECT_EQ(desk->parishName(), "San ''Blas''; DROP TABLE Institucion");
+}
+
+TEST_F(Opening, missing_offersANewParish) {
+  EXPECT_EQ(failure(), ErrorKind::Missing);
+  EXPECT_TRUE(offers(Remedy::NewParish));
+  EXPECT_THAT(fault.text, ::testing::HasSubstr(files().parish().string()));
+}
+
+TEST_F(Opening, noDatabase_isNotTouched) {
+  write(files().parish(), std::string(4096, 'x'));
+  EXPECT_EQ(failure(), ErrorKind::NotADatabase);
+  EXPECT_TRUE(offers(Remedy::OtherFolder));
+  EXPECT_FALSE(offers(Remedy::NewParish));
+  EXPECT_EQ(std::filesystem::file_size(files().parish()), 4096u);
+}
+
+TEST_F(Opening, theOtherKindOfDatabase_isRefused) {
+  create(Content::Empty);
+  desk.reset();
+  std::filesystem::copy_file(files().reports(), files().parish(),
+                             std::filesystem::copy_options::overwrite_existing);
+  failure();
+  EXPECT_FALSE(fault.text.empty());
+}
+
+TEST_F(Opening, badReports_arePutAsideAndMadeAnew) {
+  create(Content::Empty);
+  desk.reset();
+  write(files().reports(), std::string(4096, 'x'));
+  open();
+  EXPECT_TRUE(std::filesystem::exists(desk->reportsPutAside()));
+  EXPECT_EQ(desk->reports().Execute("SELECT * FROM Documentos_Bautismo").RecordCount(), 0);
+}
+
+TEST_F(Opening, everyFaultSaysSomethingAndLetsTheUserOut) {
+  for (int kind = 0; kind <= static_cast<int>(ErrorKind::Other); ++kind) {
+    fault = describeFault(store::Error(static_cast<ErrorKind>(kind), "motivo"), files());
+    EXPECT_FALSE(fault.title.empty());
+    EXPECT_FALSE(fault.text.empty());
+    EXPECT_TRUE(offers(Remedy::Exit));
+    EXPECT_GE(fault.remedies.size(), 2u);
+  }
+}
+
+TEST_F(Opening, preferences_areKept) {
+  EXPECT_TRUE(readPreferences(settings).directory.empty());
+  writePreferences(settings, {"Secretaría", "/datos/parroquia"});
+  EXPECT_EQ(readPreferences(settings).user, "Secretaría");
+  EXPECT_EQ(readPreferences(settings).directory, "/datos/parroquia");
+}
+
+TEST_F(Opening, edition_isTheParishs) {
+  NewParish p = described(Content::Empty);
+  p.edition = FDAPI::cCAplicacion::APP_FIDALEON_MENORCA;
+  createParish(p, clock.today());
+  EXPECT_EQ(readEdition(files()), FDAPI::cCAplicacion::APP_FIDALEON_MENORCA);
+  write(files().note(), "Marte\n");
+  EXPECT_EQ(readEdition(files()), FDAPI::cCAplicacion::APP_FIDALEON_MADRID);
+}
+
+TEST_F(Opening, draft_holdsWhatStandsInTheOpenForms) {
+  class Sheet : public forms::Form {
+   public:
+    explicit Sheet(forms::UserInterface& ui) : Form(ui, "frmHoja") { setCaption("Hoja"); }
+    forms::TextBox name{*this, "txtNombre", "NOMBRE:"};
+    forms::TextBox empty{*this, "txtVacio", "VACIO:"};
+  };
+  FormWatch watch(user);
+  Sheet sheet(watch);
+  std::filesystem::path draft;
+  user.expectForm("frmHoja", [&](forms::FormDriver& d) {
+    d.get<forms::TextBox>("txtNombre").setText("Íñigo");
+    EXPECT_EQ(watch.draft(), "Hoja\n\nNOMBRE: Íñigo\n\n");
+    draft = saveDraft(watch, directory(), "20260520");
+    EXPECT_NE(saveDraft(watch, directory(), "20260520"), draft);
+    d.form().Unload();
+  });
+  sheet.Show();
+  EXPECT_TRUE(std::filesystem::exists(draft));
+  EXPECT_EQ(watch.draft(), "");
+  EXPECT_TRUE(saveDraft(watch, directory(), "20260520").empty());
+}
+
+}  // namespace
+}  // namespace fidaleon::app

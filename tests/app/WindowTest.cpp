@@ -1,0 +1,153 @@
+#include <QAction>
+#include <QLineEdit>
+#include <QStatusBar>
+#include <QTableView>
+#include <sstream>
+
+#include "app/Demo.h"
+#include "app/Documents.h"
+#include "app/FirstRunWizard.h"
+#include "app/MainWindow.h"
+#include "app/Parish.h"
+
+namespace fidaleon::app {
+namespace {
+
+class Window : public ParishTest {
+ protected:
+  void SetUp() override {
+    create();
+    window = std::make_unique<MainWindow>(*desk);
+    window->show();
+  }
+  bool enabled(const char* command) const { return window->action(command)->isEnabled(); }
+  bool visible(const char* command) const { return window->action(command)->isVisible(); }
+  int shown() const { return window->table().model()->rowCount(); }
+
+  std::unique_ptr<MainWindow> window;
+};
+
+TEST_F(Window, opensOnTheEntriesWithARowChosen) {
+  EXPECT_EQ(window->choice().node->node.Nombre, "PartidasBautismo");
+  EXPECT_NE(window->choice().id, 0);
+  EXPECT_TRUE(enabled("propiedades-partida"));
+  EXPECT_FALSE(visible("nuevo-libro"));
+}
+
+TEST_F(Window, anotherNode_bringsItsRowsAndCommands) {
+  window->showNode("LibrosBautismo");
+  EXPECT_EQ(shown(), 2);
+  EXPECT_TRUE(enabled("cerrar-libro"));
+  EXPECT_FALSE(visible("nueva-partida"));
+  window->showNode("LibrosDefuncion");
+  EXPECT_EQ(shown(), 0);
+  EXPECT_TRUE(enabled("nuevo-libro"));
+  EXPECT_FALSE(enabled("cerrar-libro"));
+  window->showNode("Partidas");
+  EXPECT_FALSE(visible("nueva-partida"));
+}
+
+TEST_F(Window, filter_narrowsAndTheCommandsFollowTheRow) {
+  const int all = shown();
+  window->filter().setText("zzzz");
+  EXPECT_EQ(shown(), 0);
+  EXPECT_FALSE(enabled("propiedades-partida"));
+  window->filter().clear();
+  EXPECT_EQ(shown(), all);
+  EXPECT_TRUE(enabled("propiedades-partida"));
+}
+
+TEST_F(Window, annulling_asksAndKeepsTheRowChosen) {
+  const auto id = static_cast<std::int32_t>(
+      count("SELECT MAX(IDBautismo) FROM Bautismo WHERE CodLibro<>0 AND Anulada=false"));
+  ASSERT_TRUE(window->chooseRow(id));
+  user.expectMessage(
+      "La partida quedará anulada: conservará su folio y su número. ¿Desea anularla?",
+      forms::Answer::Yes);
+  window->action("anular")->trigger();
+  EXPECT_EQ(window->choice().id, id);
+  EXPECT_TRUE(window->choice().annulled);
+  EXPECT_FALSE(visible("anular"));
+  window->action("validar")->trigger();
+  EXPECT_FALSE(window->choice().annulled);
+  EXPECT_THAT(user.problems(), ::testing::IsEmpty());
+}
+
+TEST_F(Window, deletingARequest_asksFirst) {
+  window->showNode("SolicitudesBautismo");
+  const int before = shown();
+  user.expectMessage("¿Está seguro que desea eliminar la solicitud?", forms::Answer::No);
+  window->action("eliminar-solicitud")->trigger();
+  EXPECT_EQ(shown(), before);
+  user.expectMessage("¿Está seguro que desea eliminar la solicitud?", forms::Answer::Yes);
+  window->action("eliminar-solicitud")->trigger();
+  EXPECT_EQ(shown(), before - 1);
+  EXPECT_NE(window->choice().id, 0);
+  EXPECT_THAT(user.problems(), ::testing::IsEmpty());
+}
+
+TEST_F(Window, whatIsAddedIsChosen) {
+  window->showNode("Municipios");
+  const int before = shown();
+  user.expectForm("frmMunicipio", [](forms::FormDriver& d) {
+    d.type("txtNombre", "Aldea del Ñandú");
+    d.choose("cboProvincia", "Madrid");
+    d.click("cmdBoton(0)");
+  });
+  window->action("nuevo-municipio")->trigger();
+  EXPECT_EQ(shown(), before + 1);
+  EXPECT_EQ(window->choice().id, count("SELECT MAX(IDMunicipio) FROM Municipio"));
+  EXPECT_THAT(user.problems(), ::testing::IsEmpty());
+}
+
+TEST_F(Window, document_twiceInARowHoldsOneRow) {
+  const Document* slip = findDocument("volante", FDAPI::cCAplicacion::APP_FIDALEON_MADRID);
+  for (int i = 0; i < 2; ++i) {
+    const auto report = makeReport(*desk, *slip, 1);
+    ASSERT_TRUE(report);
+    EXPECT_EQ(report->rowCount(), 1u);
+  }
+}
+
+TEST_F(Window, documentOfAnEntryThatIsGone_isNothing) {
+  const Document* slip = findDocument("volante", FDAPI::cCAplicacion::APP_FIDALEON_MADRID);
+  user.answerAnything(forms::Answer::Ok);
+  EXPECT_FALSE(makeReport(*desk, *slip, 999999));
+}
+
+TEST_F(Window, widthsAndPlaceComeBack) {
+  window->table().setColumnWidth(3, 321);
+  window->resize(1000, 555);
+  window->close();
+  window = std::make_unique<MainWindow>(*desk);
+  EXPECT_EQ(window->table().columnWidth(3), 321);
+  EXPECT_EQ(window->height(), 555);
+}
+
+TEST_F(ParishTest, wizardGivesBackWhatItWasOffered) {
+  const FirstRunWizard wizard(described());
+  const NewParish p = wizard.parish();
+  EXPECT_EQ(p.name, "San Blas");
+  EXPECT_EQ(p.province, 28);
+  EXPECT_EQ(p.edition, described().edition);
+  EXPECT_EQ(p.content, Content::Sample);
+  EXPECT_EQ(p.directory, directory());
+}
+
+TEST_F(ParishTest, demo_walksTheWholeRoad) {
+  std::ostringstream out;
+  EXPECT_TRUE(runDemo(directory() / "demo", out)) << out.str();
+  for (const char* file : {"demo.log", "certificado.pdf", "literal.pdf", "volante.pdf"})
+    EXPECT_TRUE(std::filesystem::exists(directory() / "demo" / file)) << file;
+  EXPECT_TRUE(runDemo(directory() / "demo", out)) << "a second time: " << out.str();
+}
+
+TEST_F(ParishTest, demo_leavesAnotherParishAlone) {
+  create(Content::Empty);
+  std::ostringstream out;
+  EXPECT_FALSE(runDemo(directory(), out));
+  EXPECT_EQ(desk->parishName(), "San Blas");
+}
+
+}  // namespace
+}  // namespace fidaleon::app
