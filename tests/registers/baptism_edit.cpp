@@ -216,6 +216,23 @@ TEST_F(Family, CancelledOrNotFound_CopiesNothing) {
   EXPECT_SCRIPT_DONE(w.user);
 }
 
+TEST_F(Family, FailureWhileImporting_IsReportedAndCopiesNothing) {
+  auto* faults = store::FailingEngine::wrap(w.con());
+  w.user.answerAnything(Answer::Ok);
+  open(cCOperacion::ANADIR, [&](FormDriver& d) {
+    chooseBook(d, "Libro 1");
+    w.user.expectForm("frmBuscaPadres", [&](FormDriver& hits) {
+      faults->failOn("FROM Bautismo_Matrimonio WHERE IDMatrimonio");
+      hits.click("cmdBoton(0)");
+    });
+    typeChild(d, "Eva");
+    d.focus("txtBautismo(10)");
+    EXPECT_EQ(d.text("txtBautismo(11)"), "");
+    EXPECT_THAT(w.user.messages().back().text, ::testing::HasSubstr("ImportarDatosBautismo"));
+    cancel(d);
+  });
+}
+
 TEST_F(Family, LaterBooksAndRequests_AreNotLookedIn) {
   w.con().Execute("UPDATE Libro_Bautismo SET FechaCreacion=\"20200101\"");
   book("Anterior", true, 3, "19800101");

@@ -178,6 +178,63 @@ TEST_F(NewBaptism, FailingStore_KeepsTheDialogAndWhatWasTyped) {
   EXPECT_EQ(w.user.hourglassDepth(), 0);
 }
 
+TEST_F(NewBaptism, FailedProposal_LeavesNoPositionThatCouldBeTaken) {
+  const std::int32_t libro = book("Libro 1", true, 3);
+  store(record("Luis", libro, 1, "1"));
+  auto* faults = store::FailingEngine::wrap(w.con());
+  w.user.answerAnything(Answer::Yes);
+  open(cCOperacion::ANADIR, [&](FormDriver& d) {
+    chooseBook(d, "Libro 1");
+    EXPECT_EQ(d.text("txtLibro(1)"), "2");
+    faults->failOn("SELECT folio,numero FROM bautismo");
+    d.choose("cboBautismo(23)", "Libro 1");
+    EXPECT_EQ(d.text("txtLibro(1)"), "");
+    typeChild(d, "Eva", "Otro", "Más");
+    accept(d);
+    EXPECT_EQ(w.user.messages().back().text, "¡Debe introducir datos en el campo folio!");
+    cancel(d);
+  });
+  EXPECT_EQ(w.count("bautismo"), 1);
+}
+
+TEST_F(NewBaptism, BookAndTownAddedFromInside_CanBeChosenAtOnce) {
+  book("Libro 1", false, 3);
+  open(cCOperacion::ANTIGUA, [&](FormDriver& d) {
+    d.choose("cboBautismo(22)", "San Pedro");
+    w.user.expectForm("frmAltaLibroBautismo", [](FormDriver& alta) {
+      alta.click("optAntiguo");
+      alta.choose("cboTipoNombre", "Abierto");
+      alta.type("txtNombreLibro", "Libro viejo");
+      alta.choose("cboFormato", "Una partida por folio");
+      alta.type("adtpAltaLibro", "01/01/1900");
+      alta.click("cmdBoton(0)");
+    });
+    d.click("cmdAltaLibro");
+    EXPECT_EQ(d.text("cboBautismo(23)"), "Libro viejo");
+    EXPECT_EQ(d.text("txtLibro(1)"), "1");
+    d.tab("mstBautismo", frmPartidaBautismo::TAB_BAUTIZADO);
+    d.choose("cboBautismo(0)", "Madrid");
+    d.choose("cboBautismo(1)", "Alcalá de Henares");
+    w.user.expectForm("frmMunicipio", [](FormDriver& municipio) {
+      municipio.type("txtNombre", "Meco");
+      municipio.choose("cboProvincia", "Madrid");
+      municipio.click("cmdBoton(0)");
+    });
+    d.click("cmdAltaPoblacion");
+    EXPECT_EQ(d.text("cboBautismo(1)"), "Alcalá de Henares");
+    d.choose("cboBautismo(1)", "Meco");
+    w.user.expectForm("frmProvincia", [](FormDriver& provincia) { provincia.escape(); });
+    d.click("cmdAltaProvincia");
+    EXPECT_EQ(d.text("cboBautismo(1)"), "Meco");
+    d.tab("mstBautismo", 0);
+    w.user.expectForm("frmInstitucion", [](FormDriver& institucion) { institucion.escape(); });
+    d.click("cmdAltaInstitucion");
+    EXPECT_EQ(d.text("cboBautismo(22)"), "San Pedro");
+    cancel(d);
+  });
+  EXPECT_SCRIPT_DONE(w.user);
+}
+
 TEST_F(NewBaptism, Clipboard_IsPutBack) {
   w.user.expectForm(DIALOG, [](FormDriver& d) { cancel(d); });
   frmPartidaBautismo dialog(w.contexto);

@@ -26,13 +26,17 @@ void frmPartidaBautismo::cboInstitucion_Click() {
 }
 
 void frmPartidaBautismo::cboLibro_Click() {
-  procedimiento("cboBautismo_Click", [this] {
-    if (esAlta()) proponerPosicion();
-  });
+  if (esAlta()) proponerPosicion();
 }
 
 void frmPartidaBautismo::proponerPosicion() {
   if (esSolicitud()) return;
+  // A position that could not be worked out must not be taken for the one of the entry before.
+  if (!procedimiento("cboBautismo_Click", [this] { calcularPosicion(); }))
+    for (const CampoLibro campo : {FOLIO, NUMERO}) txtLibro[campo].setText("");
+}
+
+void frmPartidaBautismo::calcularPosicion() {
   if (desdeLista())
     posicion_->CalcularColeccionFolioyNumero(static_cast<std::int32_t>(cboBautismo[Libro].data()));
   else if (Operacion == cCOperacion::ANADIR)

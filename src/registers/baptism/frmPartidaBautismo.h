@@ -199,6 +199,7 @@ class frmPartidaBautismo : public forms::Form {
   void llenarLibros();
   void abrirPosicion(bool abierta);
   void proponerPosicion();
+  void calcularPosicion();
   std::vector<Posicion> posicionesDeColeccion() const;
   void refrescarTitulo();
   bool faltaInstitucionOLibro();
