@@ -11,6 +11,7 @@
 #include "paper/Rows.h"
 #include "paper/ScratchTables.h"
 #include "paper/TemplateReader.h"
+#include "store/schema/Schema.h"
 #include "text/Utf8.h"
 
 namespace fidaleon::paper::test {
@@ -152,6 +153,12 @@ TEST(Wording, dioceseNamedInFull_isNotNamedTwice) {
 TEST(Catalogue, unknownOperation_hasNoDocument) {
   EXPECT_EQ(documentOf("InformeQueNoExiste"), nullptr);
   EXPECT_TRUE(documentOf("InformeCertificadoPartidaBautismo")->signedByKeeper);
+}
+
+TEST(ScratchTables, areAllTablesOfTheReportsDatabase) {
+  std::vector<std::string> names;
+  for (const store::Table& table : store::reportsSchema().tables()) names.push_back(table.name());
+  EXPECT_THAT(scratchTables(), ::testing::UnorderedElementsAreArray(names));
 }
 
 TEST(ScratchTables, emptied_leaveNoRowAnywhere) {
