@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QKeyEvent>
+#include <QLayout>
 #include <QScopedValueRollback>
 #include <QScreen>
 #include <QScrollArea>
@@ -73,6 +74,7 @@ FormDialog::FormDialog(forms::Form& form, QWidget* parent, Use use, QSize room)
 
 FormDialog::~FormDialog() {
   ++settling_;
+  disconnect(qApp, nullptr, this, nullptr);
   if (use_ == Use::Window) form_.setObserver(nullptr);
 }
 
@@ -115,9 +117,12 @@ void FormDialog::applyPalette() {
 }
 
 void FormDialog::fitScreen() {
+  // Captions came in after the layouts had asked for sizes.
+  for (QWidget* inner : findChildren<QWidget*>()) inner->updateGeometry();
+  for (QLayout* inner : findChildren<QLayout*>()) inner->invalidate();
   layout()->activate();
   const QSize most = room_ * SHARE_OF_SCREEN;
-  const QSize wish = sizeHint().expandedTo(QSize(charsWidth(*this, 40), 0));
+  const QSize wish = sizeHint().expandedTo(QSize(charsWidth(*this, 44), 0));
   setMinimumSize(minimumSizeHint().boundedTo(most));
   layout()->setSizeConstraint(QLayout::SetNoConstraint);
   resize(wish.boundedTo(most));

@@ -114,7 +114,7 @@ void LayoutBuilder::addRow(const LayoutNode& node, QBoxLayout& box, QWidget* par
   box.addLayout(row, grows(node) ? 1 : 0);
   bool wide = false;
   for (const LayoutNode& child : node.children) {
-    if (child.kind == Kind::Item) {
+    if (child.kind == Kind::Item && !isTall(*child.control)) {
       if (QWidget* front = label(*child.control, parent)) row->addWidget(front);
       QWidget* widget = control(*child.control, parent);
       QBoxLayout* cell = withBeside(widget, child, parent);

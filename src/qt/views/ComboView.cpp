@@ -1,10 +1,11 @@
 #include "qt/views/ComboView.h"
 
 #include <QComboBox>
-#include <QCoreApplication>
 #include <QKeyEvent>
 #include <QListView>
 #include <QProxyStyle>
+#include <QStyleOptionFrame>
+#include <QStylePainter>
 
 #include "qt/Appearance.h"
 
@@ -22,15 +23,40 @@ class ListPopups : public QProxyStyle {
   }
 };
 
+/// One that is locked looks like a field that is: no arrow, no raised button.
+class LockableCombo : public QComboBox {
+ public:
+  LockableCombo(const forms::ComboBox& list, QWidget* parent) : QComboBox(parent), list_(list) {}
+
+ protected:
+  void paintEvent(QPaintEvent* event) override {
+    if (!list_.locked()) return QComboBox::paintEvent(event);
+    QStyleOptionFrame frame;
+    frame.initFrom(this);
+    frame.state |= QStyle::State_Sunken | QStyle::State_ReadOnly;
+    frame.lineWidth = style()->pixelMetric(QStyle::PM_DefaultFrameWidth, nullptr, this);
+    QStylePainter painter(this);
+    painter.drawPrimitive(QStyle::PE_PanelLineEdit, frame);
+    const int margin = frame.lineWidth + 2;
+    const QRect inside = rect().adjusted(margin, 0, -margin, 0);
+    const QString text = fontMetrics().elidedText(currentText(), Qt::ElideRight, inside.width());
+    painter.drawItemText(inside, Qt::AlignVCenter | Qt::AlignLeft, palette(), isEnabled(), text,
+                         QPalette::Text);
+  }
+
+ private:
+  const forms::ComboBox& list_;
+};
+
 }  // namespace
 
 ComboView::ComboView(forms::ComboBox& list, QWidget* parent)
-    : ListView(list), combo_(new QComboBox(parent)) {
+    : ListView(list), combo_(new LockableCombo(list, parent)) {
   auto* style = new ListPopups;
   style->setParent(combo_);
   combo_->setStyle(style);
   combo_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-  combo_->setMinimumContentsLength(8);
+  combo_->setMinimumContentsLength(10);
   combo_->setMaxVisibleItems(15);
   if (auto* lines = qobject_cast<QListView*>(combo_->view())) lines->setUniformItemSizes(true);
   combo_->setModel(&model());
@@ -72,11 +98,8 @@ void ComboView::showSelection() {
 
 void ComboView::showLocked() {
   QPalette palette;
-  if (list().locked()) {
-    const QColor flat = lockedColour(combo_->parentWidget()->palette());
-    palette.setColor(QPalette::Button, flat);
-    palette.setColor(QPalette::Base, flat);
-  }
+  if (list().locked())
+    palette.setColor(QPalette::Base, lockedColour(combo_->parentWidget()->palette()));
   combo_->setPalette(palette);
 }
 
