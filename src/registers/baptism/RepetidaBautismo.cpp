@@ -92,8 +92,9 @@ bool frmPartidaBautismo::repetida(const cBautismo& b) {
   const std::string madres = condicionEnlace(*conBaseDatos, "CodMadres", sqlMadres(b));
   if (madres.empty()) return false;
   const std::string matrimonio = condicionEnlace(*conBaseDatos, "CodMatrimonio", sqlMatrimonio(b));
+  if (matrimonio.empty()) return false;
   const std::string libros = condicionLibros();
-  if (matrimonio.empty() || libros.empty()) return false;
+  if (libros.empty()) return false;
   store::Recordset filas = conBaseDatos->Execute(
       "SELECT * FROM Bautismo, Bautismo_Hijo WHERE FechaBautismo = " +
       entreComillas(b.FechaBautismo) + igual("Padrino", b.PadrinoBautismo) +
