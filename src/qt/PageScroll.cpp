@@ -15,7 +15,10 @@ PageScroll::PageScroll(QWidget* content, const QSize& room, QWidget* parent)
 }
 
 QSize PageScroll::sizeHint() const {
-  return widget()->sizeHint().expandedTo(widget()->minimumSizeHint());
+  QSize size = widget()->sizeHint().expandedTo(widget()->minimumSizeHint());
+  // One that may have to scroll down must not then have to scroll sideways too.
+  if (size.height() > room_.height() / 2) size.rwidth() += verticalScrollBar()->sizeHint().width();
+  return size;
 }
 
 QSize PageScroll::minimumSizeHint() const {

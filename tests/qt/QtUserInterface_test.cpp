@@ -39,6 +39,12 @@ QAbstractButton* buttonOf(QWidget& window, const QString& caption) {
   return nullptr;
 }
 
+/// What a window manager does when the window above has gone.
+void comeBackTo(QWidget& window) {
+  window.activateWindow();
+  EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+}
+
 TEST(QtUserInterface, Messages_HaveSpanishButtonsInOrderAndEscapeIsTheSafeOne) {
   QtUserInterface ui;
   std::vector<std::string> captions;
@@ -96,6 +102,7 @@ TEST(QtUserInterface, FormThatAsksWhileItIsLeft_MessageStandsOverItAndAllGoesOn)
     });
     QTest::mouseClick(dialog.fieldOf(form.surname1), Qt::LeftButton);
     EXPECT_TRUE(asked);
+    comeBackTo(dialog);
     EXPECT_EQ(form.activeControl(), &form.name);
     EXPECT_EQ(QApplication::focusWidget(), dialog.fieldOf(form.name));
     QTest::keyClick(&dialog, Qt::Key_Escape);
@@ -121,6 +128,7 @@ TEST(QtUserInterface, FormOpenedByAForm_ClosesAloneAndGivesTheFocusBack) {
     auto& dialog = dynamic_cast<FormDialog&>(window);
     QTest::mouseClick(dialog.fieldOf(outer.addInstitution), Qt::LeftButton);
     EXPECT_TRUE(dialog.isVisible());
+    comeBackTo(dialog);
     EXPECT_EQ(outer.activeControl(), &outer.folio);
     EXPECT_EQ(QApplication::focusWidget(), dialog.fieldOf(outer.folio));
     outer.Unload();

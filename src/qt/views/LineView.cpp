@@ -10,7 +10,7 @@ namespace fidaleon::qt {
 LineView::LineView(forms::TextBox& box, QWidget* parent)
     : TextView(box), edit_(new QLineEdit(parent)) {
   edit_->setAcceptDrops(false);
-  edit_->setMinimumWidth(charsWidth(*edit_, 14));
+  edit_->setMinimumWidth(charsWidth(*edit_, 11));
   if (box.password()) edit_->setEchoMode(QLineEdit::Password);
   connect(edit_, &QLineEdit::textEdited, this, [this] { userEdited(); });
   connect(edit_, &QLineEdit::cursorPositionChanged, this, [this] { selectionMoved(); });
