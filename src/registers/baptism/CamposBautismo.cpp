@@ -201,29 +201,23 @@ void frmPartidaBautismo::crearCamposDeEdicion() {
 }
 
 LayoutNode frmPartidaBautismo::disposicion() {
+  const LayoutNode padre =
+      page({group(fraPadre, {persona(NombrePadre, PadreProfesion, PadreParroquia, ProvinciaPadre,
+                                     ProvinciaParroquiaPadre, TelefonoPadre)}),
+            group(fraAbuelosPaternos, {abuelos(AbueloPaterno, ProvinciaAbueloPaterno,
+                                               AbueloPatParroquia, ProvinciaParroquiaAbueloPat)}),
+            forms::stretch()});
+  const LayoutNode madre =
+      page({group(fraMadre, {persona(NombreMadre, MadreProfesion, MadreParroquia, ProvinciaMadre,
+                                     ProvinciaParroquiaMadre, TelefonoMadre)}),
+            group(fraAbuelosMaternos, {abuelos(AbueloMaterno, ProvinciaAbueloMaterno,
+                                               AbueloMatParroquia, ProvinciaParroquiaAbueloMat)}),
+            forms::stretch()});
+  const LayoutNode notas =
+      page({fields(1, {item(txtBautismo[NotasMarginales]), item(txtBautismo[Observaciones])})});
   return forms::column(
-      {forms::tabs(
-           mstBautismo,
-           {paginaGeneral(), paginaBautizado(),
-            page(
-                {group(fraPadre, {persona(NombrePadre, PadreProfesion, PadreParroquia,
-                                          ProvinciaPadre, ProvinciaParroquiaPadre, TelefonoPadre)}),
-                 group(fraAbuelosPaternos,
-                       {fields(3, abuelo(AbueloPaterno, ProvinciaAbueloPaterno, AbueloPatParroquia,
-                                         ProvinciaParroquiaAbueloPat)),
-                        fields(3, abuelo(AbuelaPaterna, ProvinciaAbuelaPaterna, AbuelaPatParroquia,
-                                         ProvinciaParroquiaAbuelaPat))})}),
-            page(
-                {group(fraMadre, {persona(NombreMadre, MadreProfesion, MadreParroquia,
-                                          ProvinciaMadre, ProvinciaParroquiaMadre, TelefonoMadre)}),
-                 group(fraAbuelosMaternos,
-                       {fields(3, abuelo(AbueloMaterno, ProvinciaAbueloMaterno, AbueloMatParroquia,
-                                         ProvinciaParroquiaAbueloMat)),
-                        fields(3, abuelo(AbuelaMaterna, ProvinciaAbuelaMaterna, AbuelaMatParroquia,
-                                         ProvinciaParroquiaAbuelaMat))})}),
-            paginaMatrimonio(), paginaBautismo(),
-            page({fields(
-                1, {item(txtBautismo[NotasMarginales]), item(txtBautismo[Observaciones])})})}),
+      {forms::tabs(mstBautismo, {paginaGeneral(), paginaBautizado(), padre, madre,
+                                 paginaMatrimonio(), paginaBautismo(), notas}),
        forms::row({forms::buttons({&cmdAltaProvincia, &cmdAltaPoblacion, &cmdBautismo[ANULAR],
                                    &cmdBautismo[ACEPTAR], &cmdBautismo[CANCELAR]})})});
 }
@@ -254,14 +248,19 @@ LayoutNode frmPartidaBautismo::persona(Texto nombre, TextoSC profesion, TextoSC 
           item(txtBautismo[telefono + 1])});
 }
 
-Nodes frmPartidaBautismo::abuelo(Texto nombre, Lista provincia, TextoSC parroquia,
-                                 Lista provinciaParroquia) {
-  return {item(txtBautismo[nombre]),
-          item(cboBautismo[provincia]),
-          item(cboBautismo[provincia + 1]),
-          item(txtSC[parroquia]),
-          item(cboBautismo[provinciaParroquia]),
-          item(cboBautismo[provinciaParroquia + 1])};
+LayoutNode frmPartidaBautismo::abuelos(Texto abuelo, Lista provincia, TextoSC parroquia,
+                                       Lista provinciaParroquia) {
+  Nodes filas;
+  for (int abuela = 0; abuela < 2; ++abuela) {
+    const int lista = provincia + 2 * abuela;
+    const int listaParroquia = provinciaParroquia + 2 * abuela;
+    for (LayoutNode nodo :
+         {item(txtBautismo[abuelo + abuela]), item(cboBautismo[lista]),
+          item(cboBautismo[lista + 1]), item(txtSC[parroquia + abuela]),
+          item(cboBautismo[listaParroquia]), item(cboBautismo[listaParroquia + 1])})
+      filas.push_back(std::move(nodo));
+  }
+  return fields(3, std::move(filas));
 }
 
 LayoutNode frmPartidaBautismo::paginaMatrimonio() {
@@ -278,17 +277,18 @@ LayoutNode frmPartidaBautismo::paginaMatrimonio() {
 }
 
 LayoutNode frmPartidaBautismo::paginaBautismo() {
-  const auto padrino = [this](Texto nombre, int madrina) {
-    return fields(
-        3, {item(txtBautismo[nombre], 2), item(txtSC[EdadPadrino + madrina]),
-            item(txtSC[DomicilioPadrino + madrina], 2), item(txtSC[ProfesionPadrino + madrina]),
-            item(txtSC[NaturalPadrino + madrina], 2), item(txtSC[EstatPadrino + madrina])});
-  };
+  Nodes padrinos;
+  for (int madrina = 0; madrina < 2; ++madrina)
+    for (LayoutNode nodo :
+         {item(txtBautismo[Padrino + madrina], 2), item(txtSC[EdadPadrino + madrina]),
+          item(txtSC[DomicilioPadrino + madrina], 2), item(txtSC[ProfesionPadrino + madrina]),
+          item(txtSC[NaturalPadrino + madrina], 2), item(txtSC[EstatPadrino + madrina])})
+      padrinos.push_back(std::move(nodo));
   return page({fields(2, {item(adtpBautismo[FechaBautismo], 2), item(txtBautismo[Ministro]),
                           item(txtBautismo[MinistroCargo]), item(txtBautismo[ParroquiaBautismo]),
                           item(txtBautismo[DiocesisBautismo]), item(cboBautismo[ProvinciaBautismo]),
                           item(cboBautismo[ProvinciaBautismo + 1])}),
-               group(fraPadrinos, {padrino(Padrino, 0), padrino(Madrina, 1)}), forms::stretch()});
+               group(fraPadrinos, {fields(3, std::move(padrinos))}), forms::stretch()});
 }
 
 }  // namespace fidaleon

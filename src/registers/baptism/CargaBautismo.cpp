@@ -96,15 +96,19 @@ void frmPartidaBautismo::prepararSolicitud() {
   cboBautismo[Libro].setVisible(false);
   fraLibro.setVisible(false);
   cmdAltaLibro.setVisible(false);
-  if (Operacion == cCOperacion::EDITARSOLICITUD) {
+  const bool edicion = Operacion == cCOperacion::EDITARSOLICITUD;
+  if (edicion) {
     leerPartida();
     InstitucionSolicitud = registro_.CodInstitucionBautismo;
-    cboBautismo[Institucion].setLocked(true);
-    cmdAltaInstitucion.setEnabled(false);
+    const bool fijada = InstitucionSolicitud != 0;
+    cboBautismo[Institucion].setLocked(fijada);
+    cmdAltaInstitucion.setEnabled(!fijada);
   }
   listas_->cargarInstituciones(InstitucionSolicitud);
-  if (InstitucionSolicitud == 0) listas_->elegirUltimaInstitucion();
-  if (Operacion == cCOperacion::EDITARSOLICITUD) mostrarRegistro();
+  if (edicion)
+    mostrarRegistro();
+  else if (InstitucionSolicitud == 0)
+    listas_->elegirUltimaInstitucion();
 }
 
 void frmPartidaBautismo::prepararEdicion() {

@@ -180,7 +180,9 @@ class frmPartidaBautismo : public forms::Form {
   forms::LayoutNode paginaBautismo();
   forms::LayoutNode persona(Texto nombre, TextoSC profesion, TextoSC parroquia, Lista provincia,
                             Lista provinciaParroquia, Texto telefono);
-  forms::Nodes abuelo(Texto nombre, Lista provincia, TextoSC parroquia, Lista provinciaParroquia);
+  /// Both grandparents of one side, the grandfather's controls given.
+  forms::LayoutNode abuelos(Texto abuelo, Lista provincia, TextoSC parroquia,
+                            Lista provinciaParroquia);
 
   // Loading
   void cargar();
