@@ -88,14 +88,12 @@ bool cBaseDatos::AltaPartidaBautismo(Conexion& conBaseDatos, cBautismo& record) 
 bool cBaseDatos::GrabarColeccionBasesDatos(Conexion& conBaseDatos, ColeccionBautismo& colPartidas,
                                            bool& blnSalto) {
   const forms::Hourglass reloj(contexto_.ui());
-  bool todas = true;
   for (cBautismo& partida : colPartidas) {
     lngIDPadres_ = lngIDMadres_ = lngIDMatrimonio_ = 0;
-    guarded(contexto_, "cBaseDatos", "GrabarColeccionBasesDatos", [&] {
-      todas = false;
-      todas = guardar(conBaseDatos, partida, blnSalto);
-    });
-    if (!todas) return false;
+    bool guardada = false;
+    guarded(contexto_, "cBaseDatos", "GrabarColeccionBasesDatos",
+            [&] { guardada = guardar(conBaseDatos, partida, blnSalto); });
+    if (!guardada) return false;
   }
   return true;
 }
