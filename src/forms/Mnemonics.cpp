@@ -60,6 +60,12 @@ void Form::assignMnemonics() const {
     mnemonics_.push_back({&c, letter});
   };
   const std::vector<Control*> order = tabOrder();
+  // Letters that tabs bear themselves are theirs alone.
+  for (const Control* control : order)
+    if (const auto* tabs = dynamic_cast<const TabStrip*>(control))
+      for (int tab = 0; tab < tabs->tabCount(); ++tab)
+        if (const char32_t own = ownMnemonic(tabs->caption(tab)))
+          taken.push_back({{tabs->strip(), tabs->page()}, own});
   for (const Control* control : order)
     if (const char32_t own = ownMnemonic(mnemonicText(*control))) take(*control, own);
   const auto assign = [&](const Control& control) {

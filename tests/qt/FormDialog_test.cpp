@@ -327,7 +327,14 @@ TEST_F(FormDialogTest, TabClicked_FormAskedFirstAndMaySayNo) {
   QTest::keyClick(&field<QTabBar>(form.strip), Qt::Key_Right);
   EXPECT_EQ(field<QTabBar>(form.strip).currentIndex(), 1);
   form.strip.setTab(0);
-  QTest::keyClick(dialog.get(), Qt::Key_P, Qt::AltModifier);
+  form.province.setListIndex(3);
+  go(form.province);
+  QTest::keyClick(&field<QComboBox>(form.province), Qt::Key_PageDown, Qt::ControlModifier);
+  EXPECT_EQ(form.strip.tab(), 1);
+  EXPECT_EQ(form.province.listIndex(), 3);
+  form.strip.setTab(0);
+  go(form.name);
+  QTest::keyClick(&line(form.name), Qt::Key_P, Qt::AltModifier);
   EXPECT_EQ(form.strip.tab(), 1);
 }
 

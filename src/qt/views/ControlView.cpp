@@ -61,10 +61,24 @@ bool ControlView::keyPressed(QKeyEvent& event) {
   return press.changed();
 }
 
+namespace {
+
+/// Keys that switch the tabs of the form, whatever the widget would do with them.
+bool switchesTabs(const QKeyEvent& event) {
+  const bool page = event.key() == Qt::Key_PageUp || event.key() == Qt::Key_PageDown;
+  return page && event.modifiers().testFlag(Qt::ControlModifier);
+}
+
+}  // namespace
+
 bool ControlView::eventFilter(QObject* watched, QEvent* event) {
   switch (event->type()) {
     case QEvent::KeyPress:
       flush();
+      if (switchesTabs(static_cast<QKeyEvent&>(*event))) {
+        event->ignore();
+        return true;
+      }
       return watched == focusWidget() && keyPressed(static_cast<QKeyEvent&>(*event));
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
