@@ -78,6 +78,7 @@ void MainWindow::buildList() {
   table_->setShowGrid(false);
   table_->setWordWrap(false);
   table_->setTabKeyNavigation(false);
+  table_->setStyleSheet("QTableView::item { padding: 0 6px; }");
   table_->setSortingEnabled(true);
   table_->setContextMenuPolicy(Qt::CustomContextMenu);
   table_->verticalHeader()->hide();
@@ -148,7 +149,7 @@ void MainWindow::buildStatusBar() {
   const QString edition = QString::fromStdString(desk_.edition());
   for (const QString& text : {tr("Parroquia: %1").arg(parish), tr("Usuario: %1").arg(user),
                               tr("Edición: %1").arg(edition)})
-    statusBar()->addPermanentWidget(new QLabel(text, this));
+    statusBar()->addPermanentWidget(new QLabel("  " + text + "  ", this));
 }
 
 QAction* MainWindow::action(const std::string& command) const {

@@ -73,14 +73,14 @@ void describeEntries(NodeView& v) {
       "Institucion.IDInstitucion=Libro_Bautismo.CodInstitucion ORDER BY "
       "Libro_Bautismo.FechaCreacion, Bautismo.CodLibro, Bautismo.Folio, Val(Bautismo.Numero), "
       "Bautismo.IDBautismo";
-  v.columns = {{"Libro", "Libro", ColumnKind::Text, 12, {}},
+  v.columns = {{"Libro", "Libro", ColumnKind::Text, 10, {}},
                {"Folio", "Folio", ColumnKind::Number, 6, {}},
                {"Numero", "Número", ColumnKind::Number, 8, {}},
                {"Nombre", "Nombre", ColumnKind::Text, 18, {}},
-               {"PrimerApellido", "Primer apellido", ColumnKind::Text, 17, {}},
-               {"SegundoApellido", "Segundo apellido", ColumnKind::Text, 17, {}},
-               {"FechaBautismo", "Fecha de bautismo", ColumnKind::Date, 17, {}},
-               {"FechaNac", "Nacimiento", ColumnKind::Date, 12, {}},
+               {"PrimerApellido", "Primer apellido", ColumnKind::Text, 15, {}},
+               {"SegundoApellido", "Segundo apellido", ColumnKind::Text, 15, {}},
+               {"FechaBautismo", "Bautismo", ColumnKind::Date, 11, {}},
+               {"FechaNac", "Nacimiento", ColumnKind::Date, 11, {}},
                {"Anulada", "Anulada", ColumnKind::Flag, 9, "Anulada|"},
                {"Institucion", "Institución", ColumnKind::Text, 22, {}}};
 }
@@ -96,10 +96,10 @@ void describeRequests(NodeView& v) {
       "Bautismo.CodLibro=0 AND Bautismo_Hijo.CodBautismo=Bautismo.IDBautismo AND "
       "Institucion.IDInstitucion=Bautismo.InstitucionSolicitud ORDER BY Bautismo.IDBautismo";
   v.columns = {{"Nombre", "Nombre", ColumnKind::Text, 18, {}},
-               {"PrimerApellido", "Primer apellido", ColumnKind::Text, 17, {}},
-               {"SegundoApellido", "Segundo apellido", ColumnKind::Text, 17, {}},
-               {"FechaNac", "Nacimiento", ColumnKind::Date, 12, {}},
-               {"FechaBautismo", "Fecha de bautismo", ColumnKind::Date, 17, {}},
+               {"PrimerApellido", "Primer apellido", ColumnKind::Text, 15, {}},
+               {"SegundoApellido", "Segundo apellido", ColumnKind::Text, 15, {}},
+               {"FechaNac", "Nacimiento", ColumnKind::Date, 11, {}},
+               {"FechaBautismo", "Bautismo", ColumnKind::Date, 11, {}},
                {"Institucion", "Institución", ColumnKind::Text, 28, {}}};
 }
 

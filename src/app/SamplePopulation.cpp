@@ -10,7 +10,8 @@ namespace fidaleon::app::sample {
 namespace {
 
 constexpr int FIRST_YEAR = 1924;
-constexpr int FOUNDERS = 9;
+constexpr int FOUNDERS = 12;
+constexpr int YEARS_BETWEEN_FOUNDERS = 2;
 constexpr int NEW_NAMES_FROM = 1988;
 
 constexpr std::array<std::string_view, 7> MINISTERS{
@@ -85,7 +86,8 @@ class Builder {
   }
 
   void found(int position) {
-    const text::Date wedding{FIRST_YEAR - 1 + position / 3, 1 + dice_.upTo(12), 1 + dice_.upTo(28)};
+    const text::Date wedding{FIRST_YEAR - 1 + position * YEARS_BETWEEN_FOUNDERS, 1 + dice_.upTo(12),
+                             1 + dice_.upTo(28)};
     Person father = stranger(false, 1900);
     Person mother = stranger(true, 1900);
     // The first founders carry the names that the whole valley descends from.

@@ -83,7 +83,7 @@ TEST_F(Rows, textSortsInSpanishOrder) {
 
 TEST_F(Rows, numbersSortByValue_datesByTheDay) {
   EXPECT_THAT(sorted("Número", "Número"), ElementsAre("1", "2", "10", "12a"));
-  EXPECT_THAT(sorted("Fecha de bautismo", "Fecha de bautismo", Qt::DescendingOrder),
+  EXPECT_THAT(sorted("Bautismo", "Bautismo", Qt::DescendingOrder),
               ElementsAre("03/02/2001", "01/01/1999", "31/12/1905", ""));
 }
 

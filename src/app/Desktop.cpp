@@ -1,0 +1,133 @@
+#include "app/Desktop.h"
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QPushButton>
+#include <map>
+
+#include "app/FirstRunWizard.h"
+#include "app/LastWords.h"
+#include "app/MainWindow.h"
+
+namespace fidaleon::app {
+
+Desktop::Desktop()
+    : settings_(support::FileSettings::defaultFile(),
+                [](const std::string& message) {
+                  QMessageBox::warning(nullptr, "Fidaleon", QString::fromStdString(message));
+                }),
+      preferences_(readPreferences(settings_)) {}
+
+int Desktop::run(const std::filesystem::path& asked) {
+  ParishFiles files(asked.empty() ? usualDirectory() : asked);
+  if (!files.exists() && isFirstRun(files) && !createFirst(files)) return 0;
+  const std::unique_ptr<Desk> desk = open(files);
+  return desk ? work(*desk) : 0;
+}
+
+std::filesystem::path Desktop::usualDirectory() const {
+  return preferences_.directory.empty() ? defaultDirectory() : preferences_.directory;
+}
+
+// A folder that once held a parish and holds none now is a fault, not a first run.
+bool Desktop::isFirstRun(const ParishFiles& files) const {
+  return preferences_.directory != std::filesystem::absolute(files.directory) &&
+         !std::filesystem::exists(files.note());
+}
+
+bool Desktop::createFirst(ParishFiles& files) {
+  NewParish proposal;
+  proposal.directory = files.directory;
+  proposal.user = user();
+  FirstRunWizard wizard(proposal);
+  while (wizard.exec() == QDialog::Accepted) {
+    const NewParish parish = wizard.parish();
+    try {
+      createParish(parish, clock_.today());
+      files = ParishFiles(parish.directory);
+      preferences_.user = parish.user;
+      return true;
+    } catch (const std::exception& e) {
+      QMessageBox::critical(nullptr, QObject::tr("No se puede crear la parroquia"),
+                            QString::fromUtf8(e.what()));
+    }
+  }
+  return false;
+}
+
+std::unique_ptr<Desk> Desktop::open(ParishFiles& files) {
+  while (true) {
+    try {
+      auto desk = std::make_unique<Desk>(files, user(), watch_, settings_, clock_);
+      remember(files);
+      return desk;
+    } catch (const std::exception& e) {
+      if (!tryRemedy(describeFault(e, files), files)) return nullptr;
+    }
+  }
+}
+
+std::string Desktop::user() const {
+  return preferences_.user.empty() ? accountName() : preferences_.user;
+}
+
+void Desktop::remember(const ParishFiles& files) {
+  preferences_.directory = std::filesystem::absolute(files.directory);
+  preferences_.user = user();
+  try {
+    writePreferences(settings_, preferences_);
+  } catch (const std::runtime_error& e) {
+    QMessageBox::warning(nullptr, "Fidaleon", QString::fromUtf8(e.what()));
+  }
+}
+
+// False when the user gives up.
+bool Desktop::tryRemedy(const OpeningFault& fault, ParishFiles& files) {
+  QMessageBox box(QMessageBox::Critical, QString::fromStdString(fault.title),
+                  "<b>" + QString::fromStdString(fault.title).toHtmlEscaped() + "</b>");
+  box.setInformativeText(QString::fromStdString(fault.text));
+  std::map<QAbstractButton*, Remedy> buttons;
+  for (const Remedy remedy : fault.remedies) {
+    const auto role = remedy == Remedy::Exit ? QMessageBox::RejectRole : QMessageBox::AcceptRole;
+    buttons[box.addButton(QString::fromStdString(remedyName(remedy)), role)] = remedy;
+  }
+  box.exec();
+  const auto chosen = buttons.find(box.clickedButton());
+  switch (chosen == buttons.end() ? Remedy::Exit : chosen->second) {
+    case Remedy::Retry:
+      return true;
+    case Remedy::NewParish:
+      createFirst(files);
+      return true;
+    case Remedy::OtherFolder:
+      chooseFolder(files);
+      return true;
+    case Remedy::Exit:
+      return false;
+  }
+  return false;
+}
+
+void Desktop::chooseFolder(ParishFiles& files) const {
+  const QString chosen =
+      QFileDialog::getExistingDirectory(nullptr, QObject::tr("Carpeta de la parroquia"),
+                                        QString::fromStdString(files.directory.string()));
+  if (!chosen.isEmpty()) files = ParishFiles(chosen.toStdString());
+}
+
+int Desktop::work(Desk& desk) {
+  const LastWords lastWords(watch_, desk.files().directory);
+  if (!desk.reportsPutAside().empty())
+    QMessageBox::information(
+        nullptr, "Fidaleon",
+        QObject::tr("La base de datos de informes estaba estropeada y se ha creado de nuevo. No "
+                    "contenía datos de la parroquia.\nLa estropeada se ha guardado como «%1».")
+            .arg(QString::fromStdString(desk.reportsPutAside().string())));
+  if (!desk.setUp()) return 0;
+  MainWindow window(desk);
+  window.show();
+  return QApplication::exec();
+}
+
+}  // namespace fidaleon::app
