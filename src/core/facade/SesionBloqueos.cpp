@@ -53,18 +53,17 @@ bool SesionBloqueos::efectuar() {
   return !rehusado_;
 }
 
-SesionBloqueos::Apertura SesionBloqueos::efectuarParaAbrir() {
+long SesionBloqueos::intentar() {
   sesion_->lngEfectuarBloqueos();
-  switch (sesion_->lngUltimoBloqueoError()) {
-    case FDAPI::BloqueoNinguno:
-      return Apertura::NORMAL;
-    case FDAPI::BloqueoRegistroNoExiste:
-    case FDAPI::BloqueoSesion:
-      rehusado_ = true;
-      return Apertura::NINGUNA;
-    default:
-      return Apertura::SOLO_LECTURA;
-  }
+  const long error = sesion_->lngUltimoBloqueoError();
+  rehusado_ = error == FDAPI::BloqueoRegistroNoExiste || error == FDAPI::BloqueoSesion;
+  return error;
+}
+
+SesionBloqueos::Apertura SesionBloqueos::efectuarParaAbrir() {
+  const long error = intentar();
+  if (rehusado_) return Apertura::NINGUNA;
+  return error == FDAPI::BloqueoNinguno ? Apertura::NORMAL : Apertura::SOLO_LECTURA;
 }
 
 }  // namespace fidaleon

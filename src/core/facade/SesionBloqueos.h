@@ -30,6 +30,9 @@ class SesionBloqueos {
   /// False when the operation has to end here; the user knows why.
   bool efectuar();
 
+  /// For those who go on with what they got: 0 or what could not be had (FDAPI::ErrorBloqueo).
+  long intentar();
+
   enum class Apertura { NINGUNA, SOLO_LECTURA, NORMAL };
   /// For an entry that may also be looked at while another works on it.
   Apertura efectuarParaAbrir();

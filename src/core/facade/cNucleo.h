@@ -49,10 +49,17 @@ class cNucleo {
   /// Deletes without asking.
   void EliminarSolicitud(FDAPI::Conexion& conBaseDatos, std::int32_t lngID,
                          const FDAPI::cConfig& objConfig, const std::string& strNodo);
+  /// Moves requests into the open new book of an institution; says so when there are none.
+  void ImportarSolicitudes(FDAPI::Conexion& conBaseDatos, const FDAPI::cConfig& objConfig,
+                           const std::string& strNodo);
 
   // Books
   void NuevoLibro(FDAPI::Conexion& conBaseDatos, const FDAPI::cConfig& objConfig,
                   const std::string& strNodoPadre);
+  /// The book with the list of its entries. While another works on the book nothing in it can be
+  /// changed; while another holds what its name rests on, all but the name can.
+  void PropiedadesLibro(FDAPI::Conexion& conBaseDatos, std::int32_t lngLibro,
+                        const FDAPI::cConfig& objConfig, const std::string& strNodoPadre);
   /// Each asks, and refuses an old book and one that is closed already.
   void cerrarLiBautismo(FDAPI::Conexion& conBaseDatos, std::int32_t IDlng,
                         const FDAPI::cConfig& objConfig);

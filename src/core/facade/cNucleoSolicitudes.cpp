@@ -1,6 +1,7 @@
 #include "core/facade/Operacion.h"
 #include "core/facade/cNucleo.h"
 #include "registers/requests/EliminarSolicitud.h"
+#include "registers/requests/frmSolicitudes.h"
 
 namespace fidaleon {
 
@@ -44,6 +45,24 @@ void cNucleo::EliminarSolicitud(FDAPI::Conexion& conBaseDatos, std::int32_t lngI
                                 const FDAPI::cConfig&, const std::string& strNodo) {
   if (sacramentoDeNodo(strNodo, "Solicitudes") != &BAUTISMO) return;
   eliminarSolicitudBautismo(contexto_, conBaseDatos, lngID);
+}
+
+void cNucleo::ImportarSolicitudes(FDAPI::Conexion& conBaseDatos, const FDAPI::cConfig& objConfig,
+                                  const std::string& strNodo) {
+  operacion(contexto_, "ImportarSolicitudes", [&] {
+    InicializaConfiguracion(objConfig);
+    const OrigenSolicitudes* origen = origenSolicitudes(sacramentoDeNodo(strNodo, "Solicitudes"));
+    if (!origen) return;
+    SesionBloqueos sesion(contexto_, conBaseDatos);
+    sesion.tablasCompartidas({"Institucion"});
+    if (!sesion.efectuar()) return;
+    if (conBaseDatos.Execute(origen->sqlAlguna).RecordCount() == 0)
+      return forms::warn(contexto_.ui(), "¡No hay solicitudes para importar!");
+    frmSolicitudes dialogo(contexto_);
+    dialogo.conBaseDatos = &conBaseDatos;
+    dialogo.Origen = origen->origen;
+    dialogo.Show();
+  });
 }
 
 }  // namespace fidaleon

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <utility>
+
+#include "core/contract/Guard.h"
+#include "core/lists/cIListas.h"
+#include "registers/books/frmPropiedadesLibro.h"
+
+namespace fidaleon {
+
+struct VariantePropiedadesLibro {
+  const char* pestana;
+  void (cIListas::*configurar)(forms::Grid&);
+  const char* ruta;  // of the grid's widths
+};
+
+inline constexpr std::int64_t NOMBRE_ABIERTO = 4;  // of Libros_TipoNombre: typed freely
+
+template <class Body>
+bool frmPropiedadesLibro::procedimiento(const char* nombre, Body&& body) {
+  return guarded(contexto_, name(), nombre, std::forward<Body>(body));
+}
+
+}  // namespace fidaleon

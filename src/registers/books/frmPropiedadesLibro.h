@@ -1,0 +1,128 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "core/contract/Contexto.h"
+#include "core/contract/Sacramento.h"
+#include "forms/Form.h"
+#include "registers/books/PartidasDeLibro.h"
+
+namespace fidaleon {
+
+/// How the dialog of one sacrament differs from its sisters.
+struct VariantePropiedadesLibro;
+
+/// A book: its data on one tab, all its entries on another. Set the public fields, then Show().
+/// The entries are a working copy: nothing of them is stored before the dialog is accepted, and a
+/// cancelled dialog leaves the book as it was. The caller holds the lock of the book; those of the
+/// entries are the dialog's own and are kept until it closes.
+class frmPropiedadesLibro : public forms::Form {
+ public:
+  /// Not owned; must be set before the dialog loads.
+  FDAPI::Conexion* conBaseDatos = nullptr;
+  std::int32_t lngLibro = 0;
+
+  /// For a loaded dialog: name and name type stay as they are, since another uses what they rest
+  /// on.
+  void sinNombre();
+  /// For a loaded dialog: nothing can be changed, since another works on the book.
+  void soloLectura();
+
+  forms::TabStrip mstLibro;
+  forms::TextBox txtInstitucion;
+  forms::TextBox txtFormato;
+  forms::ComboBox cboTipoNombre;
+  forms::TextBox txtNombreLibro;
+  forms::TextBox txtFolios;
+  forms::DateField dtpFecha;
+  forms::Grid msgPartidas;  // the key of a row is the entry's place in the working copy
+  forms::ControlArray<forms::Button> cmdPartidas;
+  enum Entrada { AGREGAR, PROPIEDADES, ANULAR, ELIMINAR };
+  forms::ControlArray<forms::Button> cmdBoton;
+  enum Boton { ACEPTAR = 0, CANCELAR = 1 };
+  enum Pestana { TAB_LIBRO, TAB_PARTIDAS };
+
+ protected:
+  frmPropiedadesLibro(Contexto& contexto, const Sacramento& sacramento,
+                      std::unique_ptr<PartidasDeLibro> partidas);
+  void Form_Load() override;
+  void Form_Unload() override;
+
+ private:
+  // Loading
+  void prepararControles();
+  void cargar();
+  void mostrarLibro(const store::Recordset& libro);
+  void mostrarTipoNombre(std::int64_t tipo);
+  void cerrarDatos();
+  void configurarRejilla();
+  std::int64_t ContarFolios();
+
+  // Book
+  void mstLibro_Click();
+  void cboTipoNombre_Click();
+  void construirNombre(std::int64_t tipo);
+
+  // Entries
+  void CargarGridPartidasDColeccion();
+  void llenarRejilla();
+  void permitirPartidas(bool permitidas);
+  void msgPartidas_RowChange();
+  void msgPartidas_DblClick();
+  void cmdPartidas_Click(Entrada boton);
+  void agregar(bool nuevoCerrado);
+  void propiedades();
+  void anular();
+  void eliminar(bool nuevoCerrado);
+  std::optional<std::size_t> elegida() const;
+  /// Asks for the lock of a stored entry; what the session then says, 0 for one not yet stored.
+  long bloquear(const PartidaEnLista& partida);
+  AperturaDeLista apertura(std::optional<std::size_t> posicion) const;
+  void avisarIlegible();
+  void refrescarFecha();
+
+  // Acceptance
+  void cmdBoton_Click(Boton boton);
+  void aceptar();
+  void cancelar();
+  bool hayCambios() const;
+  bool ValidarDatos();
+  forms::Control* campoQueFalta();
+  bool faltaFecha() const;
+  bool GuardarDatos();
+
+  bool hayFilas(const std::string& sql);
+  /// The statement, written for baptism, in the tables of this sacrament.
+  std::string sentencia(const char* enBautismo) const;
+  std::string libro() const { return std::to_string(lngLibro); }
+  template <class Body>
+  bool procedimiento(const char* nombre, Body&& body);
+
+  Contexto& contexto_;
+  const Sacramento& sacramento_;
+  const VariantePropiedadesLibro& variante_;
+  std::unique_ptr<PartidasDeLibro> partidas_;
+  std::unique_ptr<FDAPI::cProcesarBloqueos> sesion_;
+  std::int32_t institucion_ = 0;
+  bool nuevo_ = true;
+  bool cargado_ = false;
+  std::int64_t tipoViejo_ = 0;
+  std::string nombreViejo_;
+  std::int64_t tipo_ = 0;     // as the list shows it
+  std::string fechaLeida_;    // as the field took it
+  std::string fechaEnTabla_;  // as the table has it
+};
+
+class frmPropiedadesLibroBautismo : public frmPropiedadesLibro {
+ public:
+  explicit frmPropiedadesLibroBautismo(Contexto& contexto);
+};
+
+/// Null for a sacrament that has no such dialog.
+std::unique_ptr<frmPropiedadesLibro> crearPropiedadesLibro(Contexto& contexto,
+                                                           const Sacramento& sacramento);
+
+}  // namespace fidaleon

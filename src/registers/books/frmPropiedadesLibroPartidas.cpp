@@ -1,0 +1,144 @@
+// The entries of the book: the grid and its four buttons.
+
+#include "core/contract/EnSacramento.h"
+#include "registers/books/VariantePropiedadesLibro.h"
+#include "registers/common/Bloqueos.h"
+
+namespace fidaleon {
+
+using FDAPI::cCOperacion;
+
+void frmPropiedadesLibro::CargarGridPartidasDColeccion() {
+  procedimiento("CargarGridPartidasDColeccion()", [this] { llenarRejilla(); });
+}
+
+void frmPropiedadesLibro::llenarRejilla() {
+  const auto fidaleon = contexto_.fidaleon();
+  const std::size_t antes = elegida().value_or(0);
+  int fila = 0;
+  msgPartidas.beginUpdate();
+  msgPartidas.clearRows();
+  for (std::size_t i = 0; i < partidas_->cuenta(); ++i) {
+    const PartidaEnLista partida = partidas_->partida(i);
+    if (partida.Operacion == cCOperacion::Borrar) continue;
+    std::vector<std::string> celdas = partidas_->celdas(i, *fidaleon);
+    celdas.push_back(partida.Anulada ? "SI" : "NO");
+    const int nueva = msgPartidas.addRow(std::move(celdas), static_cast<std::int64_t>(i));
+    if (i <= antes || fila == 0) fila = nueva;
+  }
+  msgPartidas.endUpdate();
+  permitirPartidas(fila != 0);
+  msgPartidas.setRow(fila);
+}
+
+void frmPropiedadesLibro::permitirPartidas(bool permitidas) {
+  for (const Entrada boton : {PROPIEDADES, ANULAR, ELIMINAR})
+    cmdPartidas[boton].setEnabled(permitidas);
+}
+
+std::optional<std::size_t> frmPropiedadesLibro::elegida() const {
+  if (msgPartidas.row() == 0) return std::nullopt;
+  return static_cast<std::size_t>(msgPartidas.rowKey(msgPartidas.row()));
+}
+
+void frmPropiedadesLibro::msgPartidas_RowChange() {
+  if (const auto posicion = elegida())
+    cmdPartidas[ANULAR].setCaption(partidas_->partida(*posicion).Anulada ? "Validar" : "Anular");
+}
+
+void frmPropiedadesLibro::msgPartidas_DblClick() {
+  if (cmdPartidas[PROPIEDADES].enabled() && elegida()) cmdPartidas_Click(PROPIEDADES);
+}
+
+void frmPropiedadesLibro::cmdPartidas_Click(Entrada boton) {
+  procedimiento("cmdPartidas_Click()", [&] {
+    const bool nuevoCerrado =
+        hayFilas(sentencia("SELECT * FROM Libro_Bautismo WHERE Cerrado = True AND Nuevo = True "
+                           "AND IDLibroBautismo = ") +
+                 libro());
+    if (boton == AGREGAR) return agregar(nuevoCerrado);
+    if (!elegida()) return;
+    if (boton == PROPIEDADES) return propiedades();
+    if (boton == ANULAR) return anular();
+    eliminar(nuevoCerrado);
+  });
+}
+
+void frmPropiedadesLibro::agregar(bool nuevoCerrado) {
+  if (nuevoCerrado)
+    return forms::warn(ui(), "¡No se pueden añadir partidas a un libro nuevo cerrado!");
+  for (const char* tabla : {"Provincia", "Municipio"})
+    sesion_->DefinirBloqueo(bloqueoDeTablaCompartida(tabla));
+  sesion_->DefinirBloqueo(bloqueoDeTabla(sacramento_.tablaPartidas));
+  if (sesion_->lngEfectuarBloqueos() != FDAPI::BloqueoNinguno) return;
+  const std::size_t antes = partidas_->cuenta();
+  partidas_->abrir(apertura(std::nullopt));
+  refrescarFecha();
+  CargarGridPartidasDColeccion();
+  if (partidas_->cuenta() != antes) msgPartidas.setRow(msgPartidas.rowCount());
+}
+
+AperturaDeLista frmPropiedadesLibro::apertura(std::optional<std::size_t> posicion) const {
+  return {*conBaseDatos, institucion_, lngLibro, posicion};
+}
+
+// An old entry entered from here may have moved the book's date forward, at once and in the table:
+// accepting the book must not put it back.
+void frmPropiedadesLibro::refrescarFecha() {
+  if (dtpFecha.stored() != fechaLeida_ || !dtpFecha.valid()) return;
+  fechaEnTabla_ =
+      conBaseDatos
+          ->Execute(sentencia("SELECT Fechacreacion FROM Libro_Bautismo WHERE IdLibroBautismo=") +
+                    libro())
+          .text("Fechacreacion");
+  dtpFecha.setStored(fechaEnTabla_);
+  fechaLeida_ = dtpFecha.stored();
+}
+
+long frmPropiedadesLibro::bloquear(const PartidaEnLista& partida) {
+  if (!partida.guardada) return FDAPI::BloqueoNinguno;
+  for (const char* tabla : {"Provincia", "Municipio"})
+    sesion_->DefinirBloqueo(bloqueoDeTablaCompartida(tabla));
+  sesion_->DefinirBloqueo(bloqueoDeRegistro(*conBaseDatos, sacramento_.tablaPartidas,
+                                            sacramento_.clavePartida, partida.id));
+  sesion_->lngEfectuarBloqueos();
+  return sesion_->lngUltimoBloqueoError();
+}
+
+void frmPropiedadesLibro::propiedades() {
+  const std::size_t posicion = *elegida();
+  const long error = bloquear(partidas_->partida(posicion));
+  if (error == FDAPI::BloqueoRegistroNoExiste || error == FDAPI::BloqueoSesion) return;
+  AperturaDeLista como = apertura(posicion);
+  como.soloLectura = error != FDAPI::BloqueoNinguno;
+  if (!partidas_->abrir(como)) avisarIlegible();
+  CargarGridPartidasDColeccion();
+}
+
+void frmPropiedadesLibro::avisarIlegible() {
+  forms::warn(ui(), "¡No se han podido leer todos los datos de esta partida!");
+}
+
+void frmPropiedadesLibro::anular() {
+  const std::size_t posicion = *elegida();
+  const PartidaEnLista partida = partidas_->partida(posicion);
+  if (bloquear(partida) != FDAPI::BloqueoNinguno) return;
+  if (!partidas_->completar(*conBaseDatos, posicion)) return avisarIlegible();
+  const bool anulada = partida.Anulada;
+  partida.Anulada = !anulada;
+  partida.Operacion = cCOperacion::EDITAR;
+  msgPartidas.setCell(msgPartidas.row(), msgPartidas.columns() - 1, anulada ? "NO" : "SI");
+  cmdPartidas[ANULAR].setCaption(anulada ? "Validar" : "Anular");
+  permitirPartidas(true);
+  cmdPartidas[ELIMINAR].setEnabled(false);
+}
+
+void frmPropiedadesLibro::eliminar(bool nuevoCerrado) {
+  const PartidaEnLista partida = partidas_->partida(*elegida());
+  if (bloquear(partida) != FDAPI::BloqueoNinguno) return;
+  const bool ultima = msgPartidas.row() == msgPartidas.rowCount();
+  if (!nuevo_ || (ultima && !nuevoCerrado)) partida.Operacion = cCOperacion::Borrar;
+  CargarGridPartidasDColeccion();
+}
+
+}  // namespace fidaleon

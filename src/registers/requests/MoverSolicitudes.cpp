@@ -1,0 +1,112 @@
+// Moving the chosen requests into the book, each on the next position.
+
+#include "registers/common/Bloqueos.h"
+#include "registers/requests/ProcedimientoSolicitudes.h"
+#include "text/Numbers.h"
+
+namespace fidaleon {
+
+using store::Recordset;
+
+void frmSolicitudes::cmdBoton_Click(Boton boton) {
+  if (boton == CANCELAR) return Unload();
+  procedimiento("cmdBoton_Click", [this] { aceptar(); });
+}
+
+void frmSolicitudes::aceptar() {
+  if (cboInstitucion.listIndex() < 0)
+    return forms::warn(ui(), "¡Debe seleccionar una Institución!");
+  if (lstSolicitudes[SELECCIONADOS].listCount() == 0)
+    return forms::warn(ui(), "¡Debe seleccionar al menos una solicitud!");
+  const Recordset fila = conBaseDatos->Execute(
+      sentencia("SELECT IDLibroBautismo, CodFormato FROM Libro_Bautismo WHERE Nuevo = True AND "
+                "Cerrado=False AND CodInstitucion = ") +
+      institucion());
+  if (fila.EOF_())
+    return forms::warn(ui(), "¡No tiene ningún libro nuevo abierto!", forms::MsgIcon::Information);
+  const Sacramento& s = origen_->sacramento;
+  const Libro libro{static_cast<std::int32_t>(fila.integer(s.claveLibro)), fila.text("CodFormato")};
+  // A list of the book that is open elsewhere has its own idea of the next position, and a request
+  // being corrected elsewhere would be stored as a request again.
+  const auto sesion = abrirSesion(contexto_, *conBaseDatos);
+  sesion->DefinirBloqueo(bloqueoDeRegistro(*conBaseDatos, s.tablaLibros, s.claveLibro, libro.id));
+  sesion->DefinirBloqueo(bloqueoDeTabla(s.tablaPartidas));
+  if (sesion->lngEfectuarBloqueos() != FDAPI::BloqueoNinguno) return;
+  moverAlLibro(libro);
+  sesion->LiberarBloqueos();
+}
+
+/// What has been moved leaves the list, so that after a failure the rest can be tried again.
+void frmSolicitudes::moverAlLibro(const Libro& libro) {
+  const forms::Hourglass reloj(ui());
+  forms::ListBox& lista = lstSolicitudes[SELECCIONADOS];
+  while (lista.listCount() != 0) {
+    if (!pasar(lista.itemData(0), libro)) return;
+    lista.removeItem(0);
+  }
+  Unload();
+}
+
+bool frmSolicitudes::pasar(std::int64_t solicitud, const Libro& libro) {
+  const std::string clave = std::to_string(solicitud);
+  const std::string id = std::to_string(libro.id);
+  if (conBaseDatos
+          ->Execute(sentencia("SELECT IDBautismo FROM Bautismo WHERE CodLibro = 0 AND "
+                              "IDBautismo = ") +
+                    clave)
+          .EOF_()) {
+    forms::warn(ui(), "¡La solicitud de " + lstSolicitudes[SELECCIONADOS].list(0) +
+                          " ya no existe o ya está en un libro!");
+    return true;
+  }
+  Recordset partidas = conBaseDatos->Execute(
+      sentencia("SELECT IDBautismo, Folio, Numero FROM Bautismo WHERE CodLibro = ") + id +
+      " ORDER BY Folio");
+  if (partidas.EOF_()) {
+    lngFolio_ = 1;
+    strNumero_ = "1";
+  } else {
+    partidas.MoveLast();
+    if (!CalcularFolioyNumero(libro, partidas.integer("Folio"))) return false;
+  }
+  conBaseDatos->Execute(sentencia("UPDATE Bautismo SET InstitucionSolicitud = 0, CodLibro = ") +
+                        id + ", Folio = " + std::to_string(lngFolio_) + ", Numero = " +
+                        entreComillas(strNumero_) + sentencia(" WHERE IDBautismo = ") + clave);
+  return true;
+}
+
+bool frmSolicitudes::CalcularFolioyNumero(const Libro& libro, std::int64_t ultimoFolio) {
+  return procedimiento(origen_->nombreCalculo, [&] {
+    const std::string id = std::to_string(libro.id);
+    const std::int64_t porFolio =
+        conBaseDatos
+            ->Execute("SELECT Partidas_Folio FROM Libros_Formato WHERE IDFormato = " +
+                      libro.codFormato)
+            .integer("Partidas_Folio");
+    const bool cabeOtra =
+        porFolio != 1 &&
+        conBaseDatos
+                ->Execute(sentencia("SELECT IDBautismo FROM Bautismo WHERE Folio = ") +
+                          std::to_string(ultimoFolio) + " AND CodLibro = " + id +
+                          " ORDER BY Val(Numero)")
+                .RecordCount() == 1;
+    lngFolio_ = cabeOtra ? ultimoFolio : ultimoFolio + 1;
+    if (pasaLimiteDeFolios()) return;
+    const Recordset mayor = conBaseDatos->Execute(
+        sentencia("SELECT MAX(CInt(Numero)) FROM Bautismo WHERE CodLibro = ") + id);
+    strNumero_ = std::to_string(mayor.Fields(0).Value().integer() + 1);
+  });
+}
+
+/// Never bites: it compares the values of two names, not of what they name, and both are 0. Books
+/// have been filled past the limit this way, and must go on to be.
+bool frmSolicitudes::pasaLimiteDeFolios() {
+  contexto_.leerAjuste(FDAPI::cCRegistry::documentos, FDAPI::cCRegistry::DOCUMENTOS_MAXPAGLIBRO);
+  if (text::Val("strFoliosTotales") >= text::Val("mlngfolio")) return false;
+  forms::warn(ui(),
+              "¡Ha llegado al límite de folios que puede tener el libro y no puede introducir más "
+              "partidas en el!");
+  return true;
+}
+
+}  // namespace fidaleon
