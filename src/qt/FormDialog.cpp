@@ -23,6 +23,7 @@ using forms::Control;
 namespace {
 
 constexpr double SHARE_OF_SCREEN = 0.95;
+constexpr int TWIPS_PER_INCH = 1440;
 
 /// Counts a block in which the focus moves by our own doing.
 class Settling {
@@ -37,6 +38,26 @@ class Settling {
 QSize screenFor(const QWidget* parent) {
   const QScreen* screen = parent ? parent->screen() : QGuiApplication::primaryScreen();
   return screen ? screen->availableSize() : QSize(1366, 768);
+}
+
+/// What a form asks for beyond what its parts need at least: a caption to be read whole, the
+/// columns of its grids, and the fields that wish for a certain length.
+int wishedWidth(const forms::Form& form, const QWidget& window, int atLeast) {
+  int width = std::max(atLeast + atLeast / 8, charsWidth(window, 52));
+  width = std::max(
+      width, window.fontMetrics().horizontalAdvance(toQt(form.caption())) + charsWidth(window, 14));
+  for (const forms::Control* control : form.controls()) {
+    if (!control->visible()) continue;
+    int own = 0;
+    if (const auto* grid = dynamic_cast<const forms::Grid*>(control))
+      for (int column = 0; column < grid->columns(); ++column)
+        own += grid->columnWidth(column) * window.logicalDpiX() / TWIPS_PER_INCH;
+    if (control->widthChars() > 0) own = charsWidth(window, control->widthChars());
+    if (const forms::Label* label = own > 0 ? control->label() : nullptr)
+      own += window.fontMetrics().horizontalAdvance(toQt(label->caption()));
+    width = std::max(width, own + charsWidth(window, 8));
+  }
+  return width;
 }
 
 /// Scrolls every page around a field that has just been reached.
@@ -122,7 +143,8 @@ void FormDialog::fitScreen() {
   for (QLayout* inner : findChildren<QLayout*>()) inner->invalidate();
   layout()->activate();
   const QSize most = room_ * SHARE_OF_SCREEN;
-  const QSize wish = sizeHint().expandedTo(QSize(charsWidth(*this, 44), 0));
+  const QSize hint = sizeHint();
+  const QSize wish(wishedWidth(form_, *this, hint.width()), hint.height());
   setMinimumSize(minimumSizeHint().boundedTo(most));
   layout()->setSizeConstraint(QLayout::SetNoConstraint);
   resize(wish.boundedTo(most));

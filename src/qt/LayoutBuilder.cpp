@@ -222,8 +222,10 @@ void LayoutBuilder::addField(const LayoutNode& node, QGridLayout& grid, int row,
   QWidget* widget = control(*node.control, parent);
   auto* text = qobject_cast<QLabel*>(widget);
   if (text) text->setWordWrap(span > 1);
-  const int first = 2 * pair + (text ? 0 : 1);
-  const int columns = 2 * span - (text ? 0 : 1);
+  // A label without one of its own stands where labels stand.
+  const bool inFront = text && !front;
+  const int first = 2 * pair + (inFront ? 0 : 1);
+  const int columns = 2 * span - (inFront ? 0 : 1);
   if (tall) grid.setRowStretch(row, 1);
   if (QBoxLayout* cell = withBeside(widget, node, parent))
     return grid.addLayout(cell, row, first, 1, columns);
