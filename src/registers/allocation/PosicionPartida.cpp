@@ -1,5 +1,6 @@
 #include "registers/allocation/PosicionPartida.h"
 
+#include <algorithm>
 #include <array>
 
 #include "core/contract/EnSacramento.h"
@@ -9,6 +10,7 @@
 #include "registers/allocation/PosicionLibre.h"
 #include "registers/allocation/PosicionTecleada.h"
 #include "text/Numbers.h"
+#include "text/Utf8.h"
 
 namespace fidaleon {
 
@@ -69,7 +71,7 @@ void PosicionPartida::ComprobarFolioyNumeroAntiguas() {
   const auto libre = primeraPosicionLibre(*conexion_, sacramento_, institucionElegida(),
                                           campos_.libro.text(), limiteDeFolios(ajusteLimite()));
   if (!libre) return;
-  if (origen_ == origenLista(sacramento_)) CalcularColeccionFolioyNumero(libre->libro);
+  if (desdeLista()) CalcularColeccionFolioyNumero(libre->libro);
   if (origen_ == FDAPI::cCOrigen::PRINCIPAL) {
     ponerFolio(libre->posicion.folio);
     campos_.numero.setText(libre->posicion.numero);
@@ -102,11 +104,7 @@ bool PosicionPartida::comprobarPosicionTecleada() {
   const auto folio = text::toInteger(campos_.folio.text());
   if (campos_.institucion.listIndex() < 0 || campos_.libro.listIndex() < 0 || !folio) return true;
   const Libro libro = libroAntiguoElegido();
-  const std::int64_t partidas =
-      conexion_
-          ->Execute(enSacramento(sacramento_, "SELECT folio FROM Bautismo WHERE folio=") +
-                    std::to_string(*folio) + " AND codlibro=" + std::to_string(libro.id))
-          .RecordCount();
+  const std::int64_t partidas = partidasDelFolio(libro, *folio);
   if (const auto rechazo = rechazoFolioCompleto(libro.codFormato, campos_.folio.text(), partidas)) {
     forms::warn(contexto_.ui(), *rechazo);
     return volverAlFolio();
@@ -114,6 +112,17 @@ bool PosicionPartida::comprobarPosicionTecleada() {
   const int p = partidasDeFormato(libro.codFormato);
   if ((p != 4 && p != 2) || !ocupado(libro, campos_.numero.text())) return true;
   return ofrecerLetra(libro) || volverAlFolio();
+}
+
+// The list of a book knows what is still to be stored and what is to go; the table does not.
+std::int64_t PosicionPartida::partidasDelFolio(const Libro& libro, std::int64_t folio) const {
+  if (desdeLista())
+    return std::ranges::count(campos_.coleccion(), folio,
+                              [](const Posicion& p) { return std::int64_t{p.folio}; });
+  return conexion_
+      ->Execute(enSacramento(sacramento_, "SELECT folio FROM Bautismo WHERE folio=") +
+                std::to_string(folio) + " AND codlibro=" + std::to_string(libro.id))
+      .RecordCount();
 }
 
 bool PosicionPartida::ofrecerLetra(const Libro& libro) {
@@ -131,6 +140,10 @@ bool PosicionPartida::ofrecerLetra(const Libro& libro) {
 }
 
 bool PosicionPartida::ocupado(const Libro& libro, const std::string& numero) const {
+  if (desdeLista())
+    return std::ranges::any_of(campos_.coleccion(), [&](const Posicion& p) {
+      return p.folio == enCampos().folio && text::equalsNoCase(p.numero, numero);
+    });
   return !conexion_
               ->Execute(enSacramento(sacramento_, "SELECT IDBautismo FROM Bautismo WHERE folio=") +
                         campos_.folio.text() + " AND numero=" + entreComillas(numero) +
@@ -203,7 +216,7 @@ void PosicionPartida::comprobarLimite() {
 }
 
 void PosicionPartida::fijarListas() {
-  const bool lista = origen_ == origenLista(sacramento_);
+  const bool lista = desdeLista();
   campos_.institucion.setLocked(lista);
   campos_.libro.setLocked(lista);
 }

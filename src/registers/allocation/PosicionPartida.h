@@ -46,9 +46,10 @@ class PosicionPartida {
   /// The proposal from the items of the book's list.
   void CalcularColeccionFolioyNumero(std::int32_t libro);
 
-  /// The check of a typed position on leaving the first tab for an old entry. False when the
-  /// dialog is to stay: it then shows its first tab, with the focus on the folio. Without an
-  /// institution, a book or a folio there is nothing to check.
+  /// The check of a typed position on leaving the first tab for an old entry, against the table
+  /// or, opened from a book's list, against that list. False when the dialog is to stay: it then
+  /// shows its first tab, with the focus on the folio. Without an institution, a book or a folio
+  /// there is nothing to check.
   bool comprobarPosicionTecleada();
 
   /// Folio and number as they stand in the fields.
@@ -70,6 +71,8 @@ class PosicionPartida {
   Libro leerLibro(const store::Recordset& fila) const;
   void seguirA(const Libro& libro, std::int64_t folio, const std::string& numero);
   std::int64_t cuentaDelFolio(const Libro& libro, std::int64_t folio);
+  bool desdeLista() const { return origen_ == origenLista(sacramento_); }
+  std::int64_t partidasDelFolio(const Libro& libro, std::int64_t folio) const;
   bool ofrecerLetra(const Libro& libro);
   bool ocupado(const Libro& libro, const std::string& numero) const;
   bool volverAlFolio();

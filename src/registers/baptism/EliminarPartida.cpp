@@ -3,6 +3,7 @@
 #include "core/contract/EnSacramento.h"
 #include "core/contract/Guard.h"
 #include "registers/baptism/FilasBautismo.h"
+#include "registers/common/Bloqueos.h"
 
 namespace fidaleon {
 
@@ -23,18 +24,6 @@ bool esLaUltima(Conexion& conexion, std::int32_t lngID, const Sacramento& sacram
 
 }  // namespace
 
-FDAPI::DefinicionBloqueo bloqueoDePartida(Conexion& conBaseDatos, const char* tabla,
-                                          const char* clave, std::int32_t lngID) {
-  FDAPI::DefinicionBloqueo definicion;
-  definicion.strTabla = tabla;
-  definicion.strRegistro = std::to_string(lngID);
-  definicion.conBd = &conBaseDatos;
-  definicion.blnComprobarExisteRegistro = true;
-  definicion.strSQLExisteRegistro = std::string("SELECT ") + clave + " FROM " + tabla + " WHERE " +
-                                    clave + "=" + definicion.strRegistro;
-  return definicion;
-}
-
 void borrarFilasBautismo(Conexion& conBaseDatos, std::int32_t lngID) {
   const std::string id = std::to_string(lngID);
   const store::Recordset fila =
@@ -53,7 +42,7 @@ void borrarPartidaBautismo(Contexto& contexto, Conexion& conBaseDatos, std::int3
     const auto sesion = abrirSesion(contexto, conBaseDatos);
     if (!forms::ask(contexto.ui(), "¿Está seguro que desea eliminar la partida?")) return;
     const std::string id = std::to_string(lngID);
-    sesion->DefinirBloqueo(bloqueoDePartida(conBaseDatos, "Bautismo", "IdBautismo", lngID));
+    sesion->DefinirBloqueo(bloqueoDeRegistro(conBaseDatos, "Bautismo", "IdBautismo", lngID));
     FDAPI::DefinicionBloqueo libro;
     libro.strTabla = "Libro_Bautismo";
     libro.strRegistro = "SELECT codLibro FROM Bautismo WHERE IDBautismo=" + id;
@@ -79,7 +68,7 @@ void eliminarPartida(Contexto& contexto, Conexion& conBaseDatos, std::int32_t ln
   guarded(contexto, "cNucleo", "EliminarPartida", [&] {
     const auto sesion = abrirSesion(contexto, conBaseDatos);
     sesion->DefinirBloqueo(
-        bloqueoDePartida(conBaseDatos, sacramento.tablaPartidas, sacramento.clavePartida, lngID));
+        bloqueoDeRegistro(conBaseDatos, sacramento.tablaPartidas, sacramento.clavePartida, lngID));
     if (sesion->lngEfectuarBloqueos(true) != 0) return;
     const store::Recordset partida = conBaseDatos.Execute(
         enSacramento(sacramento, "SELECT codlibro FROM bautismo WHERE idbautismo=") +

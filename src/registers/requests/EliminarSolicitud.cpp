@@ -2,6 +2,7 @@
 
 #include "core/contract/Guard.h"
 #include "registers/baptism/FilasBautismo.h"
+#include "registers/common/Bloqueos.h"
 
 namespace fidaleon {
 
@@ -9,7 +10,7 @@ void eliminarSolicitudBautismo(Contexto& contexto, FDAPI::Conexion& conBaseDatos
                                std::int32_t lngID) {
   guarded(contexto, "cNucleo", "EliminarSolicitud", [&] {
     const auto sesion = abrirSesion(contexto, conBaseDatos);
-    sesion->DefinirBloqueo(bloqueoDePartida(conBaseDatos, "Bautismo", "IDBautismo", lngID));
+    sesion->DefinirBloqueo(bloqueoDeRegistro(conBaseDatos, "Bautismo", "IDBautismo", lngID));
     if (sesion->lngEfectuarBloqueos() != 0) return;
     {
       const forms::Hourglass reloj(contexto.ui());
