@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <exception>
 #include <optional>
 #include <string>
 
@@ -11,6 +12,15 @@ class Form;
 enum class Answer { None, Ok, Yes, No, Cancel };
 enum class MsgButtons { Ok, OkCancel, YesNo, YesNoCancel };
 enum class MsgIcon { None, Information, Exclamation, Question, Critical };
+
+/// Thrown by progressMove when the user has asked to stop. The work ends there as it would on an
+/// error, and what it had written so far is taken back.
+class Cancelled : public std::exception {
+ public:
+  const char* what() const noexcept override {
+    return "Operación cancelada. No queda nada de ella.";
+  }
+};
 
 /// The one port between dialogs and whoever sits in front of them: a window, or a scripted user.
 /// Everything blocks until the user has answered.
@@ -38,6 +48,7 @@ class UserInterface {
   virtual double printerTextWidth(const std::string& text, const std::string& font) const = 0;
 
   virtual void progressOpen(std::int64_t count, const std::string& message) = 0;
+  /// May throw Cancelled.
   virtual void progressMove(std::int64_t position) = 0;
   virtual void progressClose() = 0;
 };

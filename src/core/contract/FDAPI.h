@@ -90,6 +90,7 @@ class cFidaleon {
   virtual int Edad(const std::string& fecha) = 0;
 
   virtual void ProgresoLoad(std::int64_t cuenta, const std::string& mensaje, int modo) = 0;
+  /// Throws forms::Cancelled when the user has asked to stop.
   virtual void ProgresoRefresh(std::int64_t posicion) = 0;
   virtual void ProgresoUnload() = 0;
 
