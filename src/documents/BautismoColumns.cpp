@@ -222,4 +222,35 @@ Columns bautismoVolante() {
   };
 }
 
+Columns bautismoBook() {
+  return joined({bautismoEntry(), bautismoGrandparentProvinces()});
+}
+
+Columns bautismoIndex() {
+  return {
+      {"InstitucionNombre", Source::Stored, "InstitucionNombre"},
+      {"InstitucionTipo", Source::Stored, "InstitucionTipo"},
+      {"Libro", Source::Stored, "NombreLibro"},
+      {"Folio", Source::Stored, "Folio"},
+      {"Numero", Source::Stored, "Numero"},
+      {"PrimerApellidoHijo", Source::Stored, "PrimerApellidoHijo"},
+      {"SegundoApellidoHijo", Source::Stored, "SegundoApellidoHijo"},
+      {"NombreHijo", Source::Stored, "NombreHijo"},
+      {"Año", Source::Year, "FechaCreacion"},
+      {"Letra", Source::Initial, "PrimerApellidoHijo"},
+  };
+}
+
+Columns bautismoDuplicate() {
+  return joined({without(bautismoEntry(), {CHILD_WORD, BORN_WORD}),
+                 {{"InstitucionParroco", Source::InstitutionStored, "Parroco"},
+                  {"InstitucionNombre", Source::InstitutionStored, "InstitucionNombre"},
+                  {"InstitucionTipo", Source::InstitutionStored, "InstitucionTipo"},
+                  {"InstitucionPoblacion", Source::InstitutionTown, "CodMunicipio"},
+                  {"InstitucionProvincia", Source::InstitutionProvince, "CodMunicipio"},
+                  {"Año", Source::Year, "FechaBautismo"},
+                  {"FechaSistemaLarga", Source::IssueLong},
+                  {"FechaCreacionLibro", Source::ShortDate, "FechaCreacion", Quoting::Single}}});
+}
+
 }  // namespace fidaleon::documents

@@ -18,5 +18,8 @@ Columns bautismoLiteralCertificateMenorca();
 Columns bautismoRequest();
 Columns bautismoRequestSantiago();
 Columns bautismoVolante();
+Columns bautismoBook();
+Columns bautismoIndex();
+Columns bautismoDuplicate();
 
 }  // namespace fidaleon::documents

@@ -1,5 +1,7 @@
 #include "documents/BautismoStatements.h"
 
+#include "core/contract/EnSacramento.h"
+
 namespace fidaleon::documents {
 
 namespace {
@@ -48,9 +50,14 @@ constexpr const char* BOOK_OF_ENTRY = "Libro_Bautismo.IDLibroBautismo = Bautismo
 constexpr const char* INSTITUTION_OF_BOOK =
     " AND Institucion.IDInstitucion = Libro_Bautismo.CodInstitucion";
 
-/// The conditions that hold an entry and its details together; `book` is the book's, if any.
-std::string joinedEntry(std::int32_t idBautismo, const char* book) {
-  return " WHERE bautismo.idbautismo=" + std::to_string(idBautismo) +
+std::string byKey(std::int32_t idBautismo) {
+  return "bautismo.idbautismo=" + std::to_string(idBautismo);
+}
+
+/// The conditions that hold entries and their details together. `which` chooses the entries, and
+/// `book` is the condition of the book, if it is read.
+std::string joinedEntries(const std::string& which, const char* book) {
+  return " WHERE " + which +
          " AND "
          "Bautismo_Hijo.CodBautismo = Bautismo.IDBautismo AND "
          "Bautismo_Matrimonio.IDMatrimonio = Bautismo.CodMatrimonio AND " +
@@ -59,11 +66,11 @@ std::string joinedEntry(std::int32_t idBautismo, const char* book) {
          "Bautismo_Madres.IDMadres = Bautismo.CodMadres";
 }
 
-/// An entry of a book with the institution that keeps the book; `further` are more columns.
-std::string bookEntry(std::int32_t idBautismo, const char* further) {
+/// Entries of books with the institution that keeps the book; `further` are more columns.
+std::string bookEntries(const std::string& which, const char* further) {
   return std::string("SELECT Bautismo.CodLibro, Libro_Bautismo.Nombre AS NombreLibro, ") +
          POSITION + NOTES + ", " + PERSONS + INSTITUTION + further + " FROM " + DETAILS +
-         ", Libro_Bautismo, Institucion" + joinedEntry(idBautismo, BOOK_OF_ENTRY) +
+         ", Libro_Bautismo, Institucion" + joinedEntries(which, BOOK_OF_ENTRY) +
          INSTITUTION_OF_BOOK;
 }
 
@@ -72,32 +79,36 @@ std::string request(std::int32_t idBautismo, const char* institution, const char
   return std::string("SELECT Bautismo.CodLibro, ") + POSITION + NOTES + ", " + PERSONS +
          ", Institucion.codmunicipio as codMunicipioInst, " + institution +
          "Institucion.Diocesis as DiocesisInst, institucion.encargadoarchivo" + further + " FROM " +
-         DETAILS + ", Institucion" + joinedEntry(idBautismo, "") +
+         DETAILS + ", Institucion" + joinedEntries(byKey(idBautismo), "") +
          " AND Institucion.IDInstitucion = Bautismo.InstitucionSolicitud";
+}
+
+std::string entriesOfBook(const std::string& key) {
+  return "SELECT CodLibro FROM bautismo WHERE CodLibro=" + key;
 }
 
 }  // namespace
 
 std::string certificateStatement(std::int32_t idBautismo) {
-  return bookEntry(idBautismo, "");
+  return bookEntries(byKey(idBautismo), "");
 }
 
 std::string literalCertificateMenorcaStatement(std::int32_t idBautismo) {
-  return bookEntry(idBautismo,
-                   ", DiocesisMatrimonio, ProfesionPadrino, NaturalPadrino, EstatPadrino, "
-                   "ProfesionMadrina, NaturalMadrina, EstatMadrina, MadreProfesion, "
-                   "PadreProfesion");
+  return bookEntries(byKey(idBautismo),
+                     ", DiocesisMatrimonio, ProfesionPadrino, NaturalPadrino, EstatPadrino, "
+                     "ProfesionMadrina, NaturalMadrina, EstatMadrina, MadreProfesion, "
+                     "PadreProfesion");
 }
 
 std::string entryStatement(std::int32_t idBautismo) {
   return std::string("SELECT Bautismo.CodLibro, Libro_Bautismo.Nombre AS NombreLibro, ") +
          POSITION + PERSONS + ", " + NOTES + " FROM " + DETAILS + ", Libro_Bautismo" +
-         joinedEntry(idBautismo, BOOK_OF_ENTRY);
+         joinedEntries(byKey(idBautismo), BOOK_OF_ENTRY);
 }
 
 std::string volanteStatement(std::int32_t idBautismo) {
-  return bookEntry(idBautismo,
-                   ", institucion.domicilio as DomicilioInst, institucion.cp as CPInst");
+  return bookEntries(byKey(idBautismo),
+                     ", institucion.domicilio as DomicilioInst, institucion.cp as CPInst");
 }
 
 std::string requestStatement(std::int32_t idBautismo) {
@@ -116,6 +127,38 @@ std::string requestSantiagoStatement(std::int32_t idBautismo) {
       "Bautismo_Padres.AbuelaPatCodMunicipioParrBaut, Bautismo_Madres.AbueloMatParroquiaBaut, "
       "Bautismo_Madres.AbueloMatCodMunicipioParrBaut, Bautismo_Madres.AbuelaMatParroquiaBaut, "
       "Bautismo_Madres.AbuelaMatCodMunicipioParrBaut, Bautismo_Matrimonio.TelefonoPadres");
+}
+
+BookStatements bookStatements(std::int32_t idLibro) {
+  const std::string key = std::to_string(idLibro);
+  return {entriesOfBook(key),
+          bookEntries("bautismo.codlibro=" + key, "") + " ORDER BY Val(CStr(Folio)) , Val(Numero)"};
+}
+
+BookStatements indexStatements(std::int32_t idLibro) {
+  const std::string key = std::to_string(idLibro);
+  return {entriesOfBook(key),
+          "SELECT InstitucionNombre, InstitucionTipo, Libro_Bautismo.Nombre AS NombreLibro, "
+          "Libro_Bautismo.FechaCreacion, Bautismo.Folio, Bautismo.Numero, "
+          "Bautismo_Hijo.Nombre AS NombreHijo, Bautismo_Hijo.PrimerApellido AS PrimerApellidoHijo, "
+          "Bautismo_Hijo.SegundoApellido AS SegundoApellidoHijo "
+          "FROM Bautismo, Bautismo_Hijo, Libro_Bautismo, Institucion WHERE Bautismo.Codlibro=" +
+              key +
+              " AND Bautismo_Hijo.CodBautismo=Bautismo.IDBautismo AND "
+              "Libro_Bautismo.IDLibroBautismo=" +
+              key +
+              " AND Institucion.IDInstitucion=Libro_Bautismo.CodInstitucion "
+              "ORDER BY Bautismo_Hijo.PrimerApellido, Bautismo_Hijo.SegundoApellido, "
+              "Bautismo_Hijo.Nombre"};
+}
+
+std::string duplicateStatement(std::int32_t ano, std::int32_t idInstitucion) {
+  const std::string year = std::to_string(ano);
+  const std::string id = std::to_string(idInstitucion);
+  return bookEntries("FechaBautismo >=" + entreComillas(year + "0101") +
+                         " AND FechaBautismo <=" + entreComillas(year + "1231"),
+                     ", Libro_Bautismo.FechaCreacion") +
+         " AND Libro_Bautismo.CodInstitucion = " + id + " AND IDInstitucion = " + id;
 }
 
 }  // namespace fidaleon::documents

@@ -22,10 +22,16 @@ enum class Source {
   ChildWord,        // "al niño", "a la niña" and their like
   BornWord,         // "nacido", "nacida" and their like
   FormOfAddress,    // "D.", "Dª."
+  Year,             // first four characters of the date in the field
+  Initial,          // first letter of the field in capitals, leading blanks aside
   Keeper,           // who signs
   IssueShort,       // date of issue
   IssueLong,
   IssueMenorca,
+  // The same of the institution that issues the document, where it is read by itself.
+  InstitutionStored,
+  InstitutionTown,
+  InstitutionProvince,
 };
 
 /// Which quotes stand around the value in the statement. Single ones take any text; a double quote

@@ -24,6 +24,10 @@ std::string paddedNotes(const std::string& notes) {
   return padded;
 }
 
+std::string initial(const std::string& surname) {
+  return text::upper(text::left(text::trim(surname), 1));
+}
+
 std::string singleQuoted(std::string_view value) {
   return "'" + text::replaceAll(value, "'", "''") + "'";
 }

@@ -22,6 +22,9 @@ std::string paddedNotes(const std::string& notes);
 /// A text between single quotes, its apostrophes doubled.
 std::string singleQuoted(std::string_view value);
 
+/// The letter under which an index lists a surname: the first one, in capitals, accents kept.
+std::string initial(const std::string& surname);
+
 /// Words that agree with the child's sex. The register holds "Hombre", "Mujer" or "---".
 struct GenderWords {
   const char* boy;
@@ -39,6 +42,9 @@ inline constexpr GenderWords WORDS_ENTRY{"al niño", "a la niña", "nacido", "na
 inline constexpr GenderWords WORDS_ENTRY_MENORCA{"al fillet", "la filleta", "nat", "nada", true};
 inline constexpr GenderWords WORDS_REQUEST{"El niño", "La niña", "nacido", "nacida", true};
 inline constexpr GenderWords WORDS_REQUEST_MENORCA{"El fill", "La filla", "nat", "nada", true};
+/// In the book a child of unknown sex takes the girl's words.
+inline constexpr GenderWords WORDS_BOOK{"al niño", "a la niña", "nacido", "nacida", false};
+inline constexpr GenderWords WORDS_BOOK_MENORCA{"al fillet", "la filleta", "nat", "nada", false};
 /// The slip says whose child it is where the others say that it was born.
 inline constexpr GenderWords WORDS_VOLANTE{"al niño", "a la niña", "hijo", "hija", false};
 

@@ -53,11 +53,27 @@ class cInformes {
                                                      FDAPI::Conexion& conInformes,
                                                      std::int32_t lngID);
 
+  // A whole baptism book by its key, one row for each entry, annulled ones too. A book without
+  // entries has none and is told to nobody. The host's progress display is open while rows are
+  // being written; a user who stops it there leaves the table as it was.
+  void ImprimirLibroBautismo(FDAPI::Conexion& conFidaleon, FDAPI::Conexion& conInformes,
+                             std::int32_t lngID);
+  void ImprimirLibroBautismoMenorca(FDAPI::Conexion& conFidaleon, FDAPI::Conexion& conInformes,
+                                    std::int32_t lngID);
+  /// The same for all editions. Año is the year of the book on every row.
+  void ImprimirIndiceLibroBautismo(FDAPI::Conexion& conFidaleon, FDAPI::Conexion& conInformes,
+                                   std::int32_t lngID);
+
  private:
   /// The life of one document. `readBack`, if any, is run behind the row and its answer dropped.
   void escribirDocumento(const documents::DocumentKind& kind, FDAPI::Conexion& conFidaleon,
                          FDAPI::Conexion& conInformes, const std::string& statement,
                          const documents::Signature& signature, const char* readBack = nullptr);
+  /// The life of one book or index: nothing unless `check` gives a row, otherwise one row for each
+  /// record of `statement`.
+  void escribirLibro(const documents::DocumentKind& kind, FDAPI::Conexion& conFidaleon,
+                     FDAPI::Conexion& conInformes, const std::string& check,
+                     const std::string& statement);
 
   Contexto& contexto_;
 };

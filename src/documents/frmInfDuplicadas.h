@@ -1,0 +1,64 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string>
+
+#include "core/contract/Contexto.h"
+#include "documents/Duplicada.h"
+#include "forms/Form.h"
+
+namespace fidaleon {
+
+/// Asks for institution, year and order, and writes one row for each entry of a sacrament that the
+/// year has in all books of the institution, annulled ones too, for the duplicate that goes to the
+/// diocese. Set the public fields, then Show(); afterwards strOrden says in which order the rows
+/// are to be printed. It is set also when the year has no entries, and empty when cancelled.
+///
+/// An error while rows are being written leaves the transaction on conInformes open, with some of
+/// the rows in it. The dialog stays, and takes them back before it tries again; once it has been
+/// closed, that is for the owner of the connection to do.
+class frmInfDuplicadas : public forms::Form {
+ public:
+  explicit frmInfDuplicadas(Contexto& contexto);
+
+  /// Not owned; must be set before the dialog loads.
+  FDAPI::Conexion* conBaseDatos = nullptr;
+  FDAPI::Conexion* conInformes = nullptr;
+  /// One that documents::duplicadaDeNodo knows.
+  std::string strNodo;
+
+  /// "+{@FechaBautismo},+{@Folio},+{@Numero}" and its like.
+  std::string strOrden;
+
+  enum Boton { ACEPTAR = 0, CANCELAR = 1 };
+
+  forms::ComboBox cboInstitucion;
+  forms::TextBox adtpAno;
+  forms::ComboBox cboOrden;
+  forms::Progress abpProgreso;
+  forms::ControlArray<forms::Button> cmdBoton;
+
+ protected:
+  void Form_Load() override;
+
+ private:
+  void cargar();
+  void aceptar();
+  void cancelar();
+  /// The year as typed; nothing unless it has four digits.
+  std::optional<std::int32_t> ano() const;
+  void imprimir(const documents::OrdenDuplicada& orden, std::int32_t ano,
+                std::int32_t idInstitucion);
+  void escribir(store::Recordset& entries, std::int32_t idInstitucion);
+  void empezarTransaccion();
+  void terminarTransaccion();
+  void procedimiento(const char* nombre, const std::function<void()>& body);
+
+  Contexto& contexto_;
+  const documents::Duplicada* duplicada_ = nullptr;
+  bool transaccionAbierta_ = false;
+};
+
+}  // namespace fidaleon

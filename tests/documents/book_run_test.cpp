@@ -1,0 +1,134 @@
+// The run of a book: progress, empty books, failures, a user who stops it.
+
+#include "LibroWorld.h"
+#include "store/FailingEngine.h"
+
+namespace fidaleon::tests {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+
+using Miembro = void (cInformes::*)(FDAPI::Conexion&, FDAPI::Conexion&, std::int32_t);
+
+struct Caso {
+  const char* nombre;
+  Miembro miembro;
+};
+
+const Caso CASOS[] = {
+    {"ImprimirLibroBautismo", &cInformes::ImprimirLibroBautismo},
+    {"ImprimirLibroBautismoMenorca", &cInformes::ImprimirLibroBautismoMenorca},
+    {"ImprimirIndiceLibroBautismo", &cInformes::ImprimirIndiceLibroBautismo},
+};
+
+class BookRun : public ::testing::TestWithParam<Caso> {
+ protected:
+  void imprimir() { (w.informes.*GetParam().miembro)(w.con(), w.conInformes(), 1); }
+  LibroWorld w;
+};
+
+TEST_P(BookRun, Progress_IsOpenWhileRowsAreWritten) {
+  w.agregar({.folio = "13"});
+  w.agregar({.folio = "14"});
+  imprimir();
+  EXPECT_EQ(w.filas(), 3);
+  EXPECT_THAT(w.user.progressLog,
+              ElementsAre("open 3 Procesando vista preliminar ...", "1", "2", "3", "close"));
+  EXPECT_EQ(w.user.hourglassDepth(), 0);
+  EXPECT_SCRIPT_DONE(w.user);
+}
+
+TEST_P(BookRun, EmptyBook_NoRowNoProgressNoMessage) {
+  imprimir();
+  w.user.progressLog.clear();
+  w.vaciarLibro();
+  const store::FailingEngine* motor = store::FailingEngine::wrap(w.conInformes());
+  imprimir();
+  EXPECT_EQ(w.filas(), 1) << "the table is left as it was";
+  EXPECT_THAT(w.user.progressLog, IsEmpty());
+  EXPECT_THAT(motor->executed(), ::testing::Contains("COMMIT"));
+  EXPECT_SCRIPT_DONE(w.user);
+}
+
+TEST_P(BookRun, RowFails_AllIsTakenBackBeforeTheErrorIsTold) {
+  w.agregar({.folio = "13"});
+  imprimir();
+  w.user.progressLog.clear();
+  auto* motor = store::FailingEngine::wrap(w.conInformes());
+  motor->failOn("INSERT INTO Documentos_Bautismo", store::ErrorKind::DiskFull, 2);
+  w.user.answerAnything(forms::Answer::Ok);
+  imprimir();
+  EXPECT_EQ(w.filas(), 2) << "those of the earlier run";
+  EXPECT_FALSE(w.conInformes().inTransaction());
+  EXPECT_THAT(w.user.progressLog, ElementsAre(HasSubstr("open 2"), "1", "close"));
+  EXPECT_EQ(w.user.hourglassDepth(), 0);
+  ASSERT_EQ(w.user.messages().size(), 1u);
+  EXPECT_THAT(w.user.messages()[0].text,
+              HasSubstr(std::string("FidaleonNucleo / cInformes / ") + GetParam().nombre + ")"));
+  EXPECT_SCRIPT_DONE(w.user);
+}
+
+TEST_P(BookRun, QuoteInOneName_LeavesNoHalfBook) {
+  w.agregar({.folio = "13"});
+  w.run("UPDATE Bautismo_Hijo SET Nombre='Eva \"la\" x' WHERE CodBautismo=2");
+  w.user.answerAnything(forms::Answer::Ok);
+  imprimir();
+  EXPECT_EQ(w.filas(), 0);
+  EXPECT_EQ(w.user.messages().size(), 1u);
+}
+
+TEST_P(BookRun, ReadingFails_IsToldAndNothingStaysOpen) {
+  for (const char* paso : {"SELECT CodLibro", "Libro_Bautismo.Nombre AS"}) {
+    LibroWorld otro;
+    store::FailingEngine::wrap(otro.con())->failOn(paso);
+    otro.user.answerAnything(forms::Answer::Ok);
+    (otro.informes.*GetParam().miembro)(otro.con(), otro.conInformes(), 1);
+    EXPECT_EQ(otro.user.messages().size(), 1u) << paso;
+    EXPECT_THAT(otro.user.progressLog, IsEmpty()) << paso;
+    EXPECT_FALSE(otro.conInformes().inTransaction()) << paso;
+  }
+}
+
+/// Stops the work at the second row.
+class Impaciente : public forms::ScriptedUser {
+ public:
+  void progressMove(std::int64_t position) override {
+    ScriptedUser::progressMove(position);
+    if (position == 2) throw forms::Cancelled();
+  }
+};
+
+TEST_P(BookRun, StoppedByTheUser_LeavesNothingAndIsNoError) {
+  Impaciente impaciente;
+  support::HostSupport host(impaciente, w.settings, w.clock, w.config, "DESPACHO");
+  Entorno entorno{impaciente, host, w.settings, w.clock, w.entorno.installation};
+  Contexto contexto(entorno);
+  cInformes informes(contexto);
+  w.agregar({.folio = "13"});
+  w.agregar({.folio = "14"});
+  impaciente.expectMessage(forms::Cancelled().what());
+  (informes.*GetParam().miembro)(w.con(), w.conInformes(), 1);
+  EXPECT_EQ(w.filas(), 0);
+  EXPECT_FALSE(w.conInformes().inTransaction());
+  EXPECT_EQ(impaciente.progressLog.back(), "close");
+  ASSERT_EQ(impaciente.messages().size(), 1u);
+  EXPECT_EQ(impaciente.messages()[0].icon, forms::MsgIcon::Information);
+  EXPECT_SCRIPT_DONE(impaciente);
+}
+
+INSTANTIATE_TEST_SUITE_P(Documents, BookRun, ::testing::ValuesIn(CASOS),
+                         [](const auto& caso) { return std::string(caso.param.nombre); });
+
+TEST(BookPlaces, EachIsAskedForOnce) {
+  LibroWorld w;
+  for (int folio = 20; folio < 60; ++folio) w.agregar({.folio = std::to_string(folio)});
+  const store::FailingEngine* motor = store::FailingEngine::wrap(w.con());
+  w.imprimirLibro();
+  EXPECT_EQ(w.filas(), 41);
+  EXPECT_LE(motor->executed().size(), 2u + 2u * 4u);
+}
+
+}  // namespace
+}  // namespace fidaleon::tests
