@@ -1,6 +1,7 @@
 // Which locks each operation defines, in which order, and how it takes a refusal.
 
 #include "facade_world.h"
+#include "store/FailingEngine.h"
 
 namespace fidaleon::tests {
 namespace {
@@ -119,6 +120,40 @@ TEST(FacadeLocks, Refused_EndsSilentlyAndGivesNothingBack) {
   EXPECT_EQ(w.value("SELECT Anulada FROM Bautismo"), "0");
   EXPECT_THAT(w.user.messages(), IsEmpty());
   EXPECT_SCRIPT_DONE(w.user);
+}
+
+TEST(FacadeLocks, Books_AreLockedAfterTheQuestionAndGivenBackUnlessRefused) {
+  const auto cerrar = [](SpyWorld& w) { w.nucleo.cerrarLiBautismo(w.con(), 1, w.config); };
+  const auto eliminar = [](SpyWorld& w) {
+    w.run("DELETE * FROM Bautismo");
+    w.nucleo.EliminarLibro(w.con(), 1, w.config, "LibrosBautismo");
+  };
+  const std::string libro =
+      "Libro_Bautismo [1] existe [SELECT IDLibroBautismo FROM Libro_Bautismo WHERE "
+      "IDLibroBautismo=1]";
+  for (const std::function<void(SpyWorld&)>& orden : {std::function(cerrar), {eliminar}}) {
+    SpyWorld hecho;
+    hecho.user.answerAnything(forms::Answer::Yes);
+    orden(hecho);
+    EXPECT_THAT(hecho.bloqueos(), ElementsAre(libro, "efectuar", "liberar"));
+    SpyWorld sinPermiso;
+    sinPermiso.user.answerAnything(forms::Answer::No);
+    orden(sinPermiso);
+    EXPECT_THAT(sinPermiso.bloqueos(), ElementsAre("liberar"));
+    SpyWorld rehusado;
+    rehusado.spy.answer = FDAPI::BloqueoRegistro;
+    rehusado.user.answerAnything(forms::Answer::Yes);
+    orden(rehusado);
+    EXPECT_THAT(rehusado.bloqueos(), ElementsAre(libro, "efectuar"));
+    EXPECT_EQ(rehusado.count("Libro_Bautismo WHERE Cerrado = false"), 1);
+    SpyWorld roto;
+    auto* fallos = store::FailingEngine::wrap(roto.con());
+    fallos->failOn("update libro", store::ErrorKind::ReadOnly);
+    fallos->failOn("delete * from libro", store::ErrorKind::ReadOnly);
+    roto.user.answerAnything(forms::Answer::Yes);
+    orden(roto);
+    EXPECT_THAT(roto.bloqueos(), ElementsAre(libro, "efectuar", "liberar"));
+  }
 }
 
 TEST(FacadeLocks, RecordGoneOrSessionFailed_OpensNothing) {

@@ -5,6 +5,7 @@
 
 #include "core/contract/EnSacramento.h"
 #include "core/contract/Guard.h"
+#include "registers/common/Bloqueos.h"
 
 namespace fidaleon {
 
@@ -15,18 +16,6 @@ constexpr const char* OBJETO = "cNucleo";
 /// Names under which errors in closing are reported; two differ from the operations' own.
 constexpr std::array PROCEDIMIENTOS_CERRAR{"cerrarLiBautismo", "cerrarLiconfirmacion",
                                            "cerrarLimatrimonio", "cerrarLidefuncion"};
-
-FDAPI::DefinicionBloqueo bloqueoDelLibro(FDAPI::Conexion& conexion, const std::string& id,
-                                         const Sacramento& s) {
-  FDAPI::DefinicionBloqueo libro;
-  libro.strTabla = s.tablaLibros;
-  libro.strRegistro = id;
-  libro.conBd = &conexion;
-  libro.blnComprobarExisteRegistro = true;
-  libro.strSQLExisteRegistro =
-      enSacramento(s, "SELECT IDLibroBautismo FROM Libro_Bautismo WHERE IDLibroBautismo=" + id);
-  return libro;
-}
 
 /// One book, under a lock session of its own.
 class OperacionLibro {
@@ -39,8 +28,10 @@ class OperacionLibro {
         s_(s),
         sesion_(abrirSesion(contexto, conexion)) {}
 
-  /// Gives the locks back; after an error, dropping the session does.
-  void terminar() { sesion_->LiberarBloqueos(); }
+  /// Gives the locks back; after a refusal there is nothing to give back.
+  void terminar() {
+    if (!rehusado_) sesion_->LiberarBloqueos();
+  }
 
   void cerrar() {
     if (const char* motivo = motivoParaNoCerrar()) return forms::warn(contexto_.ui(), motivo);
@@ -80,8 +71,10 @@ class OperacionLibro {
   }
 
   bool bloquear() {
-    sesion_->DefinirBloqueo(bloqueoDelLibro(conexion_, id_, s_));
-    return sesion_->lngEfectuarBloqueos() == FDAPI::BloqueoNinguno;
+    sesion_->DefinirBloqueo(
+        bloqueoDeRegistro(conexion_, s_.tablaLibros, s_.claveLibro, std::stoi(id_)));
+    rehusado_ = sesion_->lngEfectuarBloqueos() != FDAPI::BloqueoNinguno;
+    return !rehusado_;
   }
 
   Contexto& contexto_;
@@ -89,26 +82,34 @@ class OperacionLibro {
   std::string id_;
   const Sacramento& s_;
   std::unique_ptr<FDAPI::cProcesarBloqueos> sesion_;
+  bool rehusado_ = false;
 };
+
+void enUnLibro(Contexto& contexto, FDAPI::Conexion& conexion, std::int32_t id, const Sacramento& s,
+               const char* procedimiento, void (OperacionLibro::*trabajo)()) {
+  guarded(contexto, OBJETO, procedimiento, [&] {
+    OperacionLibro libro(contexto, conexion, id, s);
+    try {
+      (libro.*trabajo)();
+    } catch (...) {
+      libro.terminar();
+      throw;
+    }
+    libro.terminar();
+  });
+}
 
 }  // namespace
 
 void cerrarLibro(Contexto& contexto, FDAPI::Conexion& conexion, std::int32_t id,
                  const Sacramento& sacramento) {
-  guarded(contexto, OBJETO, PROCEDIMIENTOS_CERRAR.at(sacramento.byte), [&] {
-    OperacionLibro libro(contexto, conexion, id, sacramento);
-    libro.cerrar();
-    libro.terminar();
-  });
+  enUnLibro(contexto, conexion, id, sacramento, PROCEDIMIENTOS_CERRAR.at(sacramento.byte),
+            &OperacionLibro::cerrar);
 }
 
 void eliminarLibro(Contexto& contexto, FDAPI::Conexion& conexion, std::int32_t id,
                    const Sacramento& sacramento) {
-  guarded(contexto, OBJETO, "EliminarLibro", [&] {
-    OperacionLibro libro(contexto, conexion, id, sacramento);
-    libro.eliminar();
-    libro.terminar();
-  });
+  enUnLibro(contexto, conexion, id, sacramento, "EliminarLibro", &OperacionLibro::eliminar);
 }
 
 }  // namespace fidaleon
