@@ -165,6 +165,24 @@ TEST_F(Listas, gridOfMessages_isHeadedByItsTray) {
   EXPECT_EQ(ancho("Mensajeria\\Mensajes", 1), "4500");
 }
 
+TEST_F(Listas, gridWhoseWidthsCannotBeKept_isReportedAndHasItsHeaders) {
+  struct SoloLectura : support::MemorySettings {
+    void write(const std::string&, const std::string&, const std::string&,
+               const std::string&) override {
+      throw std::runtime_error("El disco está lleno.");
+    }
+  } ajustes;
+  Entorno entorno{mundo.user, mundo.host, ajustes, mundo.clock, {}};
+  Contexto contexto(entorno);
+  mundo.user.answerAnything(forms::Answer::Ok);
+  cIListas(contexto).ConfigGridBuscaPadres(ventana.rejilla);
+  ASSERT_EQ(mundo.user.messages().size(), 1u);
+  EXPECT_THAT(mundo.user.messages()[0].text,
+              ::testing::HasSubstr("FidaleonNucleo / cIListas / ConfigGridBuscaPadres()"));
+  ASSERT_EQ(ventana.rejilla.columns(), 6);
+  EXPECT_EQ(ventana.rejilla.header(5), "Segundo apellido");
+}
+
 TEST_F(Listas, provinces_areFilledAnewWithTheirChoiceKept) {
   const std::int32_t madrid = mundo.provincia("Madrid");
   ventana.provincia.addItem("Madrid", madrid);

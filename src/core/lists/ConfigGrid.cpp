@@ -1,4 +1,5 @@
 #include "core/contract/CcNodos.h"
+#include "core/contract/Guard.h"
 #include "core/lists/Rejilla.h"
 #include "core/lists/cIListas.h"
 
@@ -16,45 +17,53 @@ std::string cIListas::ruta(const char* camino) const {
   return contexto_.seccion(camino);
 }
 
-void cIListas::configurar(forms::Grid& grid, const Rejilla& rejilla) {
-  const int columnas = static_cast<int>(rejilla.columnas.size());
-  grid.setColumns(columnas);
-  for (int c = 0; c < columnas; ++c) {
-    const Rejilla::Columna& columna = rejilla.columnas[static_cast<std::size_t>(c)];
+void cIListas::configurar(forms::Grid& grid, const Rejilla& rejilla, const char* procedimiento) {
+  guarded(contexto_, "cIListas", procedimiento, [&] {
+    const int columnas = static_cast<int>(rejilla.columnas.size());
+    grid.setColumns(columnas);
+    for (int c = 0; c < columnas; ++c)
+      grid.setHeader(c, rejilla.columnas[static_cast<std::size_t>(c)].cabecera);
+    aplicarAnchos(grid, rejilla);
+  });
+}
+
+void cIListas::aplicarAnchos(forms::Grid& grid, const Rejilla& rejilla) {
+  for (std::size_t c = 0; c < rejilla.columnas.size(); ++c) {
+    const std::optional<int> ancho = rejilla.columnas[c].ancho;
     const std::string clave = std::to_string(c);
-    if (columna.ancho && falta(contexto_.leerAjuste(rejilla.camino, clave)))
-      contexto_.guardarAjuste(rejilla.camino, clave, std::to_string(*columna.ancho));
-    grid.setHeader(c, columna.cabecera);
+    if (ancho && falta(contexto_.leerAjuste(rejilla.camino, clave)))
+      contexto_.guardarAjuste(rejilla.camino, clave, std::to_string(*ancho));
   }
   contexto_.entorno.support.create_cIListas()->ConfigGrid(grid, ruta(rejilla.camino));
 }
 
 void cIListas::ConfigGridPropiedadesLibro(forms::Grid& rejilla) {
-  configurar(rejilla, rejillaPropiedadesLibro());
+  configurar(rejilla, rejillaPropiedadesLibro(), "ConfigGridPropiedadesLibro()");
 }
 
 void cIListas::ConfigGridPropiedadesLibroMatrimonio(forms::Grid& rejilla) {
-  configurar(rejilla, rejillaPropiedadesLibroMatrimonio());
+  configurar(rejilla, rejillaPropiedadesLibroMatrimonio(),
+             "ConfigGridPropiedadesLibroMatrimonio()");
 }
 
 void cIListas::ConfigGridBuscaPadres(forms::Grid& rejilla) {
-  configurar(rejilla, rejillaBuscaPadres());
+  configurar(rejilla, rejillaBuscaPadres(), "ConfigGridBuscaPadres()");
 }
 
 void cIListas::ConfigGridBuscaPadresConfirmacion(forms::Grid& rejilla) {
-  configurar(rejilla, rejillaBuscaConfirmacion());
+  configurar(rejilla, rejillaBuscaConfirmacion(), "ConfigGridBuscaPadresConfirmacion()");
 }
 
 void cIListas::ConfigGridBuscaPadresMatrimonio(forms::Grid& rejilla) {
-  configurar(rejilla, rejillaBuscaMatrimonio());
+  configurar(rejilla, rejillaBuscaMatrimonio(), "ConfigGridBuscaPadresMatrimonio()");
 }
 
 void cIListas::ConfigGridBuscaPadresDefuncion(forms::Grid& rejilla) {
-  configurar(rejilla, rejillaBuscaDefuncion());
+  configurar(rejilla, rejillaBuscaDefuncion(), "ConfigGridBuscaPadresDefuncion()");
 }
 
 void cIListas::ConfigGridMensajes(forms::Grid& rejilla, const std::string& bandeja) {
-  configurar(rejilla, rejillaMensajes(bandeja == CcNodos::BANDEJAENTRADA));
+  configurar(rejilla, rejillaMensajes(bandeja == CcNodos::BANDEJAENTRADA), "ConfigGridMensajes()");
 }
 
 }  // namespace fidaleon

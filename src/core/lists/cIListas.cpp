@@ -80,14 +80,16 @@ void cIListas::SelText(forms::TextBox& campo) {
 }
 
 void cIListas::TodoProvincias(FDAPI::Conexion& conBaseDatos, forms::Form& formulario) {
-  const auto listas = contexto_.entorno.support.create_cIListas();
-  for (forms::Control* control : formulario.controls()) {
-    auto* lista = dynamic_cast<forms::ListControl*>(control);
-    if (!lista || !esListaDeProvincias(*lista)) continue;
-    const auto elegida = static_cast<std::int32_t>(lista->data());
-    lista->clear();
-    listas->fillProvincias(*lista, elegida, conBaseDatos);
-  }
+  guarded(contexto_, "cIListas", "TodoProvincias()", [&] {
+    const auto listas = contexto_.entorno.support.create_cIListas();
+    for (forms::Control* control : formulario.controls()) {
+      auto* lista = dynamic_cast<forms::ListControl*>(control);
+      if (!lista || !esListaDeProvincias(*lista)) continue;
+      const auto elegida = static_cast<std::int32_t>(lista->data());
+      lista->clear();
+      listas->fillProvincias(*lista, elegida, conBaseDatos);
+    }
+  });
 }
 
 std::string cIListas::ObtenerNombreLibro(FDAPI::Conexion& conBaseDatos, std::int64_t lngTipoNombre,

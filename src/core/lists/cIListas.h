@@ -26,6 +26,7 @@ class cIListas {
   void SelText(forms::TextBox& campo);
 
   // Each sets columns and headers, and keeps a default width in the settings where there is none.
+  // What goes wrong with the widths is told, and the grid keeps its own.
   void ConfigGridPropiedadesLibro(forms::Grid& rejilla);
   void ConfigGridPropiedadesLibroMatrimonio(forms::Grid& rejilla);
   void ConfigGridBuscaPadres(forms::Grid& rejilla);
@@ -60,7 +61,8 @@ class cIListas {
   static constexpr const char* RUTA_MENSAJES = "Grids\\Mensajeria\\Mensajes";
 
  private:
-  void configurar(forms::Grid& grid, const Rejilla& rejilla);
+  void configurar(forms::Grid& grid, const Rejilla& rejilla, const char* procedimiento);
+  void aplicarAnchos(forms::Grid& grid, const Rejilla& rejilla);
   std::string primerNombreLibre(FDAPI::Conexion& conexion, std::int64_t tipo,
                                 std::int64_t institucion, std::uint8_t libro, bool& sinNombres);
 
