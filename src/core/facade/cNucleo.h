@@ -118,6 +118,28 @@ class cNucleo {
                                                     FDAPI::Conexion& conInformes,
                                                     std::int32_t lngID);
 
+  // A whole baptism book by its key: one row of Documentos_Bautismo for each entry, in the order of
+  // the pages, annulled ones too. No row for a book without entries.
+  void InformeLibroBautismo(FDAPI::Conexion& conFidaleon, FDAPI::Conexion& conInformes,
+                            std::int32_t lngID);
+  void InformeLibroBautismoMenorca(FDAPI::Conexion& conFidaleon, FDAPI::Conexion& conInformes,
+                                   std::int32_t lngID);
+  /// By name, with the letter of each surname and the year of the book.
+  void InformeIndiceLibroBautismo(FDAPI::Conexion& conFidaleon, FDAPI::Conexion& conInformes,
+                                  std::int32_t lngID);
+  /// Writes the same rows as InformeIndiceLibroBautismo: indexes are the same in all editions.
+  void InformeIndiceLibroBautismoMenorca(FDAPI::Conexion& conFidaleon, FDAPI::Conexion& conInformes,
+                                         std::int32_t lngID);
+  /// Asks for institution, year and order, and writes the rows of the year's duplicate of a
+  /// sacrament. `strNodo` is "Duplicadas de bautismo" and its like, or the node of the entries.
+  /// `strOrden` is the order in which the report engine is to print the rows; it is set also when
+  /// the year has no entries, and empty when the user cancelled. Takes no lock.
+  /// A failed row leaves the transaction on `conInformes` open: the main program must look at
+  /// inTransaction() after the call and roll back before it prints or runs anything else there,
+  /// or later rows stay in a transaction that nobody ends.
+  void ImprimirDuplicadas(FDAPI::Conexion& conBaseDatos, FDAPI::Conexion& conInformes,
+                          const std::string& strNodo, std::string& strOrden);
+
  private:
   void InicializaConfiguracion(const FDAPI::cConfig& objConfig);
   /// `cuales` chooses the books that may take the entry.
