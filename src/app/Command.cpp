@@ -118,6 +118,11 @@ Command ofBaptism(Command c) {
   return c;
 }
 
+Command still(Command c) {
+  c.refreshes = false;
+  return c;
+}
+
 void addEntryCommands(std::vector<Command>& all) {
   all.push_back(inToolbar("new", line("nueva-partida", "&Nueva partida…", "Ins",
                                       "Inscribe una partida en el libro nuevo abierto", ENTRIES,
@@ -200,17 +205,19 @@ void addDocumentCommands(std::vector<Command>& all) {
 }
 
 void addWindowCommands(std::vector<Command>& all) {
-  all.push_back(inMenu(Menu::View, line("actualizar", "&Actualizar", "F5", "Vuelve a leer la lista",
-                                        0, Needs::Nothing, [](Workplace&, const Choice&) {})));
-  all.push_back(inMenu(
-      Menu::View, line("filtrar", "&Filtrar", "Ctrl+F", "Busca en la lista según se escribe", 0,
-                       Needs::Nothing, [](Workplace& w, const Choice&) { w.focusFilter(); })));
-  all.push_back(
-      inMenu(Menu::File, line("salir", "&Salir", "Ctrl+Q", "Cierra el programa", 0, Needs::Nothing,
-                              [](Workplace& w, const Choice&) { w.leave(); })));
-  all.push_back(
-      inMenu(Menu::Help, line("acerca-de", "&Acerca de Fidaleon…", "", "", 0, Needs::Nothing,
-                              [](Workplace& w, const Choice&) { w.about(); })));
+  const auto add = [&](Menu menu, Command c) { all.push_back(inMenu(menu, std::move(c))); };
+  add(Menu::View, line("actualizar", "&Actualizar", "F5", "Vuelve a leer la lista", 0,
+                       Needs::Nothing, [](Workplace&, const Choice&) {}));
+  add(Menu::View,
+      still(line("filtrar", "&Filtrar", "Ctrl+F", "Busca en la lista según se escribe", 0,
+                 Needs::Nothing, [](Workplace& w, const Choice&) { w.focusFilter(); })));
+  add(Menu::File, still(line("copia", "&Copia de seguridad…", "",
+                             "Guarda una copia de la parroquia en otro sitio", 0, Needs::Nothing,
+                             [](Workplace& w, const Choice&) { w.backUp(); })));
+  add(Menu::File, still(line("salir", "&Salir", "Ctrl+Q", "Cierra el programa", 0, Needs::Nothing,
+                             [](Workplace& w, const Choice&) { w.leave(); })));
+  add(Menu::Help, still(line("acerca-de", "&Acerca de Fidaleon…", "", "", 0, Needs::Nothing,
+                             [](Workplace& w, const Choice&) { w.about(); })));
 }
 
 std::vector<Command> makeCommands() {

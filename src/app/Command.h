@@ -35,6 +35,7 @@ struct Command {
   unsigned kinds = 0;  // bits of NodeKind; 0: everywhere
   Needs needs = Needs::Nothing;
   bool onlyBaptism = false;
+  bool refreshes = true;  // may have changed rows
   void (*run)(Workplace&, const Choice&) = nullptr;
 };
 

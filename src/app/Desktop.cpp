@@ -4,6 +4,7 @@
 #include <QFileDialog>
 #include <QMessageBox>
 #include <QPushButton>
+#include <fstream>
 #include <map>
 
 #include "app/FirstRunWizard.h"
@@ -20,7 +21,7 @@ Desktop::Desktop()
       preferences_(readPreferences(settings_)) {}
 
 int Desktop::run(const std::filesystem::path& asked) {
-  ParishFiles files(asked.empty() ? usualDirectory() : asked);
+  ParishFiles files(std::filesystem::absolute(asked.empty() ? usualDirectory() : asked));
   if (!files.exists() && isFirstRun(files) && !createFirst(files)) return 0;
   const std::unique_ptr<Desk> desk = open(files);
   return desk ? work(*desk) : 0;
@@ -33,7 +34,7 @@ std::filesystem::path Desktop::usualDirectory() const {
 // A folder that once held a parish and holds none now is a fault, not a first run.
 bool Desktop::isFirstRun(const ParishFiles& files) const {
   return preferences_.directory != std::filesystem::absolute(files.directory) &&
-         !std::filesystem::exists(files.note());
+         !std::ifstream(files.note());
 }
 
 bool Desktop::createFirst(ParishFiles& files) {

@@ -16,7 +16,7 @@ struct Drawing {
   const char* strokes;
 };
 
-constexpr std::array<Drawing, 15> DRAWINGS{{
+constexpr std::array<Drawing, 21> DRAWINGS{{
     {"new",
      "M 13 3 L 6 3 L 6 21 L 18 21 L 18 8 Z M 13 3 L 13 8 L 18 8 M 12 11 L 12 17 M 9 14 L "
      "15 14"},
@@ -31,6 +31,14 @@ constexpr std::array<Drawing, 15> DRAWINGS{{
      "M 6 11 L 18 11 L 18 20 L 6 20 Z M 8.500 11 L 8.500 6 L 10 4 L 14 4 L 15.500 6 L "
      "15.500 11 M 12 14.500 L 12 17"},
     {"list", "M 4 6 L 6 6 M 9 6 L 20 6 M 4 12 L 6 12 M 9 12 L 20 12 M 4 18 L 6 18 M 9 18 L 20 18"},
+    {"save",
+     "M 4 4 L 16 4 L 20 8 L 20 20 L 4 20 Z M 8 4 L 8 9 L 15 9 L 15 4 M 8 20 L 8 14 L 16 14 L 16 "
+     "20"},
+    {"first", "M 7 6 L 7 18 M 17 6 L 10 12 L 17 18"},
+    {"back", "M 15 6 L 8 12 L 15 18"},
+    {"forward", "M 9 6 L 16 12 L 9 18"},
+    {"last", "M 17 6 L 17 18 M 7 6 L 14 12 L 7 18"},
+    {"close", "M 6 6 L 18 18 M 18 6 L 6 18"},
     {"folder", "M 3 6 L 10 6 L 12 8 L 21 8 L 21 19 L 3 19 Z"},
     {"book", "M 5 4 L 18 4 L 18 20 L 5 20 Z M 5 17 L 18 17 M 9 8 L 14 8"},
     {"entry", "M 6 3 L 18 3 L 18 21 L 6 21 Z M 9 8 L 15 8 M 9 12 L 15 12 M 9 16 L 13 16"},

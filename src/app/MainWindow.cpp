@@ -2,6 +2,9 @@
 
 #include <QAction>
 #include <QCloseEvent>
+#include <QDate>
+#include <QDir>
+#include <QFileDialog>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
@@ -16,13 +19,12 @@
 #include <QVBoxLayout>
 
 #include "app/Documents.h"
-#include "app/Icons.h"
 #include "app/PreviewDialog.h"
 #include "app/TreeModel.h"
 #include "app/WindowSettings.h"
+#include "store/Open.h"
 
 namespace fidaleon::app {
-
 MainWindow::MainWindow(Desk& desk, QWidget* parent) : QMainWindow(parent), desk_(desk) {
   setWindowTitle(tr("%1 — Fidaleon").arg(QString::fromStdString(desk.parishName())));
   setObjectName("MainWindow");
@@ -38,119 +40,6 @@ MainWindow::MainWindow(Desk& desk, QWidget* parent) : QMainWindow(parent), desk_
 }
 
 MainWindow::~MainWindow() = default;
-
-void MainWindow::buildTree() {
-  tree_ = new QTreeView(splitter_);
-  tree_->setModel(makeTreeModel(palette(), tree_));
-  tree_->setHeaderHidden(true);
-  tree_->setEditTriggers(QAbstractItemView::NoEditTriggers);
-  tree_->setAccessibleName(tr("Apartados"));
-  tree_->expandAll();
-  connect(tree_->selectionModel(), &QItemSelectionModel::currentChanged, this,
-          [this] { nodeChosen(); });
-}
-
-void MainWindow::buildList() {
-  right_ = new QStackedWidget(splitter_);
-  folder_ = new QLabel(tr("Elija un apartado del árbol."), right_);
-  folder_->setAlignment(Qt::AlignCenter);
-  folder_->setForegroundRole(QPalette::PlaceholderText);
-  right_->addWidget(folder_);
-
-  auto* page = new QWidget(right_);
-  auto* layout = new QVBoxLayout(page);
-  layout->setContentsMargins(6, 6, 6, 0);
-  filter_ = new QLineEdit(page);
-  filter_->setPlaceholderText(
-      tr("Filtrar: escriba parte de un nombre, un apellido, una fecha…  (Ctrl+F)"));
-  filter_->setClearButtonEnabled(true);
-  filter_->setAccessibleName(tr("Filtro"));
-  filter_->installEventFilter(this);
-  layout->addWidget(filter_);
-
-  shown_.setSourceModel(&rows_);
-  table_ = new QTableView(page);
-  table_->setModel(&shown_);
-  table_->setSelectionBehavior(QAbstractItemView::SelectRows);
-  table_->setSelectionMode(QAbstractItemView::SingleSelection);
-  table_->setEditTriggers(QAbstractItemView::NoEditTriggers);
-  table_->setAlternatingRowColors(true);
-  table_->setShowGrid(false);
-  table_->setWordWrap(false);
-  table_->setTabKeyNavigation(false);
-  table_->setStyleSheet("QTableView::item { padding: 0 6px; }");
-  table_->setSortingEnabled(true);
-  table_->setContextMenuPolicy(Qt::CustomContextMenu);
-  table_->verticalHeader()->hide();
-  table_->verticalHeader()->setDefaultSectionSize(table_->fontMetrics().height() + 8);
-  table_->horizontalHeader()->setHighlightSections(false);
-  table_->horizontalHeader()->setStretchLastSection(true);
-  table_->horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
-  table_->horizontalHeader()->setSortIndicatorClearable(true);
-  table_->installEventFilter(this);
-  table_->viewport()->installEventFilter(this);
-  layout->addWidget(table_);
-  right_->addWidget(page);
-
-  empty_ = new QLabel(table_->viewport());
-  empty_->setAlignment(Qt::AlignCenter);
-  empty_->setWordWrap(true);
-  empty_->setForegroundRole(QPalette::PlaceholderText);
-  empty_->setAttribute(Qt::WA_TransparentForMouseEvents);
-  empty_->hide();
-
-  connect(filter_, &QLineEdit::textChanged, this, [this] { filterChanged(); });
-  connect(table_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
-          [this] { updateCommands(); });
-  connect(table_, &QTableView::doubleClicked, this, [this] { openChosen(); });
-  connect(table_, &QTableView::customContextMenuRequested, this,
-          [this](const QPoint& at) { showContextMenu(at); });
-}
-
-void MainWindow::buildCommands() {
-  const std::map<Menu, QMenu*> menus{{Menu::File, menuBar()->addMenu(tr("&Archivo"))},
-                                     {Menu::Record, menuBar()->addMenu(tr("&Registro"))},
-                                     {Menu::Documents, menuBar()->addMenu(tr("&Documentos"))},
-                                     {Menu::View, menuBar()->addMenu(tr("&Ver"))},
-                                     {Menu::Help, menuBar()->addMenu(tr("A&yuda"))}};
-  bar_ = addToolBar(tr("Órdenes"));
-  bar_->setObjectName("commands");
-  bar_->setMovable(false);
-  bar_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-  for (const Command& command : commands()) {
-    auto* action = new QAction(QString::fromStdString(command.text), this);
-    action->setIcon(icon(command.icon, palette()));
-    const QKeySequence key(QString::fromStdString(command.shortcut));
-    const QString tip = QString::fromStdString(command.tip);
-    action->setToolTip(key.isEmpty() ? tip
-                                     : tip + " (" + key.toString(QKeySequence::NativeText) + ")");
-    action->setStatusTip(tip);
-    if (key == QKeySequence(Qt::Key_Return))
-      action->setShortcuts({key, QKeySequence(Qt::Key_Enter)});
-    else
-      action->setShortcut(key);
-    // Keys that a text field needs for itself belong to the list alone.
-    if (command.kinds != 0 && !command.shortcut.starts_with("Ctrl")) {
-      action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
-      table_->addAction(action);
-    }
-    connect(action, &QAction::triggered, this, [this, &command] { run(command); });
-    menus.at(command.menu)->addAction(action);
-    if (command.toolbar) bar_->addAction(action);
-    actions_[command.id] = action;
-  }
-}
-
-void MainWindow::buildStatusBar() {
-  count_ = new QLabel(this);
-  statusBar()->addWidget(count_);
-  const QString parish = QString::fromStdString(desk_.parishName());
-  const QString user = QString::fromStdString(desk_.config().Usuario);
-  const QString edition = QString::fromStdString(desk_.edition());
-  for (const QString& text : {tr("Parroquia: %1").arg(parish), tr("Usuario: %1").arg(user),
-                              tr("Edición: %1").arg(edition)})
-    statusBar()->addPermanentWidget(new QLabel("  " + text + "  ", this));
-}
 
 QAction* MainWindow::action(const std::string& command) const {
   return actions_.at(command);
@@ -197,7 +86,9 @@ void MainWindow::run(const Command& command) {
     desk_.entorno().ui.msgBox(e.what(), forms::MsgButtons::Ok, forms::MsgIcon::Critical);
   }
   busy_ = false;
-  if (node_ == chosen.node && command.menu != Menu::File) refresh(chosen.id);
+  if (!command.refreshes) return;
+  if (node_ == chosen.node) refresh(chosen.id);
+  activateWindow();
 }
 
 void MainWindow::loadRows() {
@@ -297,6 +188,16 @@ void MainWindow::showDocument(const Document& document, std::int32_t id) {
 void MainWindow::focusFilter() {
   filter_->setFocus(Qt::ShortcutFocusReason);
   filter_->selectAll();
+}
+
+void MainWindow::backUp() {
+  const QString name = "parroquia-" + QDate::currentDate().toString("yyyyMMdd") + ".copia";
+  const QString file = QFileDialog::getSaveFileName(
+      this, tr("Copia de seguridad"), QDir::home().filePath(name), tr("Copias (*.copia)"));
+  if (file.isEmpty()) return;
+  store::backupDatabase(desk_.parish(), file.toStdString());
+  QMessageBox::information(this, tr("Copia de seguridad"),
+                           tr("La copia se ha guardado y comprobado en «%1».").arg(file));
 }
 
 void MainWindow::about() {

@@ -52,6 +52,7 @@ class MainWindow : public QMainWindow, private Workplace {
   const FDAPI::cConfig& config() const override { return desk_.config(); }
   void showDocument(const Document& document, std::int32_t id) override;
   void focusFilter() override;
+  void backUp() override;
   void about() override;
   void leave() override { close(); }
 

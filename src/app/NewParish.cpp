@@ -19,6 +19,15 @@ void fill(store::Connection& connection, const NewParish& parish, const text::Da
   connection.CommitTrans();
 }
 
+void makeDirectory(const std::filesystem::path& directory) {
+  std::error_code error;
+  std::filesystem::create_directories(directory, error);
+  if (error)
+    throw store::Error(store::ErrorKind::ReadOnly,
+                       "No se puede crear la carpeta «" + directory.string() +
+                           "». Compruebe que tiene permiso para escribir en ella.");
+}
+
 void removeWithCompanions(const std::filesystem::path& database) {
   std::error_code ignored;
   for (const char* ending : {"", "-journal", "-wal", "-shm"}) {
@@ -43,19 +52,21 @@ std::string whatIsMissing(const NewParish& parish) {
 
 void createParish(const NewParish& parish, const text::Date& today) {
   const ParishFiles files(parish.directory);
-  std::filesystem::create_directories(parish.directory);
+  makeDirectory(parish.directory);
   if (files.exists())
     throw store::Error(store::ErrorKind::Constraint, "Ya existe una parroquia en esa carpeta.");
   try {
     const auto connection = store::createDatabase(files.parish(), store::parishSchema());
     fill(*connection, parish, today);
     writeEdition(files, parish.edition);
+    if (!std::filesystem::exists(files.reports()))
+      store::createDatabase(files.reports(), store::reportsSchema());
   } catch (...) {
     removeWithCompanions(files.parish());
+    std::error_code ignored;
+    std::filesystem::remove(files.note(), ignored);
     throw;
   }
-  if (!std::filesystem::exists(files.reports()))
-    store::createDatabase(files.reports(), store::reportsSchema());
 }
 
 std::int32_t townKey(store::Connection& connection, const std::string& town,

@@ -27,8 +27,7 @@ std::string whatIsMissing(const NewParish& parish);
 
 /// Creates the directory, the parish database with its first institution (and the sample register
 /// when asked), the reports database and the note of the edition. On failure nothing of it stays
-/// behind and store::Error or std::filesystem::filesystem_error is thrown; files that were there
-/// before are never touched.
+/// behind and store::Error is thrown; files that were there before are never touched.
 void createParish(const NewParish& parish, const text::Date& today);
 
 /// Adds an institution with its line in Ultimos and gives its key.

@@ -55,7 +55,7 @@ void openReports(const std::filesystem::path& file, OpenParish& open) {
 }  // namespace
 
 std::filesystem::path ParishFiles::reports() const {
-  return directory / ("informes-" + workstation() + ".fidaleon");
+  return directory / ("informes-" + workstation() + "-" + std::to_string(getuid()) + ".fidaleon");
 }
 
 std::string editionName(const std::string& code) {

@@ -16,10 +16,14 @@ struct ParishFiles {
   std::filesystem::path directory;
   std::filesystem::path parish() const { return directory / "parroquia.fidaleon"; }
   std::filesystem::path note() const { return directory / "edicion.txt"; }
-  /// Scratch tables belong to one workstation: each keeps its own beside the parish.
+  /// Scratch tables belong to one user of one workstation, who keeps them beside the parish.
   std::filesystem::path reports() const;
 
-  bool exists() const { return std::filesystem::exists(parish()); }
+  /// Also false for a directory that cannot be read.
+  bool exists() const {
+    std::error_code ignored;
+    return std::filesystem::exists(parish(), ignored);
+  }
 };
 
 /// Edition code of a parish; Madrid's when the note is missing or says something unknown.

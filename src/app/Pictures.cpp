@@ -179,7 +179,10 @@ class EditionSitting {
     for (const Document& d : app::documents()) {
       if (findDocument(d.command, edition_.code) != &d) continue;
       const std::int32_t id = d.kind == NodeKind::Requests ? request() : 1;
-      if (const auto report = makeReport(*desk_, d, id))
+      user_.pose = acceptKeeper;
+      const auto report = makeReport(*desk_, d, id);
+      user_.pose = {};
+      if (report)
         album_.add("documento-" + std::string(edition_.name) + "-" + d.command,
                    report->pageImage(0, DOCUMENT_DPI));
       else
@@ -199,6 +202,7 @@ class EditionSitting {
     window.filter().setText("garcia");
     album_.add("ventana-filtrada", window);
     const Document* d = findDocument("certificado", edition_.code);
+    user_.pose = acceptKeeper;
     if (auto report = makeReport(*desk_, *d, 1)) {
       PreviewDialog preview(std::move(*report));
       preview.resize(900, 900);
@@ -261,6 +265,8 @@ class EditionSitting {
   std::int32_t request() {
     return one("SELECT MAX(IDBautismo) AS ID FROM Bautismo WHERE CodLibro=0");
   }
+
+  static void acceptKeeper(forms::FormDriver& d) { d.click("cmdBoton(0)"); }
 
   static constexpr const char* ENTRIES = "PartidasBautismo";
   static constexpr const char* REQUESTS = "SolicitudesBautismo";

@@ -14,18 +14,21 @@
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QStandardPaths>
-#include <QStyle>
 #include <QToolBar>
 #include <QToolButton>
 #include <QVBoxLayout>
 #include <array>
 #include <cmath>
 
+#include "app/Icons.h"
+
 namespace fidaleon::app {
 namespace {
 
 constexpr double MILLIMETRES_PER_INCH = 25.4;
 constexpr int MARGIN = 16;  // around the sheet, in pixels
+constexpr int FIT_WIDTH = 0;
+constexpr int FIT_PAGE = -1;
 constexpr std::array<int, 7> ZOOMS{50, 75, 100, 125, 150, 200, 300};
 
 }  // namespace
@@ -81,6 +84,7 @@ PreviewDialog::PreviewDialog(paper::Report report, QWidget* parent)
   scroll_ = new QScrollArea(this);
   scroll_->setBackgroundRole(QPalette::Dark);
   scroll_->setAlignment(Qt::AlignCenter);
+  scroll_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
   scroll_->setWidget(sheet_);
   buildBar();
   layout->addWidget(scroll_);
@@ -95,35 +99,32 @@ void PreviewDialog::buildBar() {
   auto* bar = new QToolBar(this);
   bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
   layout()->addWidget(bar);
-  const auto add = [&](QStyle::StandardPixmap icon, const QString& text, const QKeySequence& key,
+  const auto add = [&](const char* drawing, const QString& text, const QKeySequence& key,
                        auto&& what) {
-    QAction* action = bar->addAction(style()->standardIcon(icon), text);
+    QAction* action = bar->addAction(icon(drawing, palette()), text);
     action->setShortcut(key);
     action->setToolTip(
         key.isEmpty() ? text : tr("%1 (%2)").arg(text, key.toString(QKeySequence::NativeText)));
     connect(action, &QAction::triggered, this, what);
     return action;
   };
-  add(QStyle::SP_DialogOkButton, tr("Imprimir…"), QKeySequence::Print, [this] { print(); });
-  add(QStyle::SP_DialogSaveButton, tr("Guardar como PDF…"), QKeySequence::Save,
-      [this] { savePdf(); });
+  add("print", tr("Imprimir…"), QKeySequence::Print, [this] { print(); });
+  add("save", tr("Guardar como PDF…"), QKeySequence::Save, [this] { savePdf(); });
   bar->addSeparator();
-  first_ = add(QStyle::SP_MediaSkipBackward, tr("Primera"), {}, [this] { showPage(0); });
-  back_ =
-      add(QStyle::SP_ArrowBack, tr("Anterior"), Qt::Key_PageUp, [this] { showPage(page_ - 1); });
+  first_ = add("first", tr("Primera"), {}, [this] { showPage(0); });
+  back_ = add("back", tr("Anterior"), Qt::Key_PageUp, [this] { showPage(page_ - 1); });
   place_ = new QLabel(bar);
   place_->setContentsMargins(6, 0, 6, 0);
   bar->addWidget(place_);
-  forward_ = add(QStyle::SP_ArrowForward, tr("Siguiente"), Qt::Key_PageDown,
-                 [this] { showPage(page_ + 1); });
-  last_ = add(QStyle::SP_MediaSkipForward, tr("Última"), {},
-              [this] { showPage(report_.pageCount() - 1); });
+  forward_ = add("forward", tr("Siguiente"), Qt::Key_PageDown, [this] { showPage(page_ + 1); });
+  last_ = add("last", tr("Última"), {}, [this] { showPage(report_.pageCount() - 1); });
   for (QAction* a : {first_, last_})
     qobject_cast<QToolButton*>(bar->widgetForAction(a))->setToolButtonStyle(Qt::ToolButtonIconOnly);
   bar->addSeparator();
   zooms_ = new QComboBox(bar);
   zooms_->setAccessibleName(tr("Ampliación"));
-  zooms_->addItem(tr("Ajustar al ancho"), 0);
+  zooms_->addItem(tr("Ajustar al ancho"), FIT_WIDTH);
+  zooms_->addItem(tr("Página entera"), FIT_PAGE);
   for (const int percent : ZOOMS) zooms_->addItem(tr("%1 %").arg(percent), percent);
   connect(zooms_, &QComboBox::activated, this,
           [this](int index) { setZoom(zooms_->itemData(index).toDouble()); });
@@ -131,7 +132,7 @@ void PreviewDialog::buildBar() {
   auto* stretch = new QWidget(bar);
   stretch->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
   bar->addWidget(stretch);
-  add(QStyle::SP_DialogCloseButton, tr("Cerrar"), {}, [this] { reject(); });
+  add("close", tr("Cerrar"), {}, [this] { reject(); });
 }
 
 void PreviewDialog::showPage(int page) {
@@ -153,19 +154,22 @@ void PreviewDialog::setZoom(double percent) {
   applyZoom();
 }
 
+// The size of the sheet on this screen at 100 per cent.
+QSizeF PreviewDialog::naturalSize() const {
+  const QSizeF inches = report_.pageSizeMillimetres() / MILLIMETRES_PER_INCH;
+  return {inches.width() * sheet_->logicalDpiX(), inches.height() * sheet_->logicalDpiY()};
+}
+
 void PreviewDialog::applyZoom() {
   if (zoom_ > 0) return sheet_->setScale(zoom_);
-  const double natural =
-      report_.pageSizeMillimetres().width() / MILLIMETRES_PER_INCH * sheet_->logicalDpiX();
-  const int room = scroll_->viewport()->width() - 2 * MARGIN;
-  sheet_->setScale(std::clamp(100.0 * room / natural, 25.0, 300.0));
+  const QSize room = scroll_->viewport()->size() - QSize(2 * MARGIN, 2 * MARGIN);
+  double percent = 100 * room.width() / naturalSize().width();
+  if (zoom_ == FIT_PAGE) percent = std::min(percent, 100 * room.height() / naturalSize().height());
+  sheet_->setScale(std::clamp(percent, 25.0, 300.0));
 }
 
 void PreviewDialog::zoomStep(int direction) {
-  const double now = sheet_->width() - 2 * MARGIN;
-  const double natural =
-      report_.pageSizeMillimetres().width() / MILLIMETRES_PER_INCH * sheet_->logicalDpiX();
-  const double percent = 100 * now / natural;
+  const double percent = 100 * (sheet_->width() - 2 * MARGIN) / naturalSize().width();
   if (direction > 0) {
     for (const int zoom : ZOOMS)
       if (zoom > percent + 1) return setZoom(zoom);

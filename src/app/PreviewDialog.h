@@ -32,6 +32,7 @@ class PreviewDialog : public QDialog {
   void buildBar();
   void setZoom(double percent);
   void applyZoom();
+  QSizeF naturalSize() const;
   void zoomStep(int direction);
   void print();
   void savePdf();
@@ -46,7 +47,7 @@ class PreviewDialog : public QDialog {
   QAction* forward_ = nullptr;
   QAction* last_ = nullptr;
   int page_ = 0;
-  double zoom_ = 0;  // percent; 0 fits the width
+  double zoom_ = 0;  // percent; 0 fits the width, -1 the page
 };
 
 }  // namespace fidaleon::app

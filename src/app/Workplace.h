@@ -27,6 +27,8 @@ class Workplace {
   virtual void focusFilter() = 0;
   /// Chooses the node of that name.
   virtual void showNode(const std::string& name) = 0;
+  /// Asks where, and saves a verified copy of the parish there.
+  virtual void backUp() = 0;
   virtual void about() = 0;
   virtual void leave() = 0;
 };

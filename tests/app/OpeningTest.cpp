@@ -1,8 +1,7 @@
-#include <sys/file.h>
-
 #include <fstream>
 
 #include "app/FormWatch.h"
+#include "app/LastWords.h"
 #include "app/OpeningFault.h"
 #include "app/Parish.h"
 #include "app/Preferences.h"
@@ -71,6 +70,17 @@ TEST_F(Opening, firstRun_neverTouchesAParishThatIsThere) {
   EXPECT_THROW(createParish(described(), clock.today()), store::Error);
   open();
   EXPECT_EQ(desk->parishName(), "San Blas");
+}
+
+TEST_F(Opening, firstRun_thatFails_leavesNothing) {
+  NewParish p = described();
+  p.directory = "/proc/fidaleon";
+  EXPECT_THROW(createParish(p, clock.today()), store::Error);
+  p.directory = directory();
+  std::filesystem::create_directory(files().reports());  // so that it cannot be made
+  std::filesystem::create_directory(files().note());
+  EXPECT_THROW(createParish(p, clock.today()), store::Error);
+  EXPECT_FALSE(files().exists());
 }
 
 TEST_F(Opening, firstRun_quotesInANameDoNoHarm) {
@@ -154,6 +164,8 @@ TEST_F(Opening, draft_holdsWhatStandsInTheOpenForms) {
     EXPECT_EQ(watch.draft(), "Hoja\n\nNOMBRE: Íñigo\n\n");
     draft = saveDraft(watch, directory(), "20260520");
     EXPECT_NE(saveDraft(watch, directory(), "20260520"), draft);
+    const LastWords words(watch, directory());
+    EXPECT_THAT(LastWords::prepare(), ::testing::HasSubstr("borrador-"));
     d.form().Unload();
   });
   sheet.Show();
