@@ -6,6 +6,8 @@
 #include <system_error>
 #include <thread>
 
+#include "text/SystemErrors.h"
+
 namespace fidaleon::locks {
 
 namespace fs = std::filesystem;
@@ -14,27 +16,6 @@ namespace {
 
 std::string unusable(const fs::path& directory, const std::string& why) {
   return "No se puede trabajar con los bloqueos en la carpeta «" + directory.string() + "»: " + why;
-}
-
-std::string reason(const std::error_code& error) {
-  switch (error.value()) {
-    case ENOENT:
-    case ENOTDIR:
-      return "la carpeta no existe.";
-    case EACCES:
-    case EPERM:
-    case EROFS:
-      return "no tiene permiso para escribir en ella.";
-    case ENOSPC:
-    case EDQUOT:
-      return "el disco está lleno.";
-    case ENOLCK:
-    case EINVAL:
-    case EOPNOTSUPP:
-      return "la unidad no admite bloqueos.";
-    default:
-      return "no se puede acceder a ella (" + error.message() + ").";
-  }
 }
 
 std::string newSessionName() {
@@ -60,7 +41,7 @@ SharedDirectory::Guard SharedDirectory::enter() const {
     }
     return Guard(std::move(file));
   } catch (const std::system_error& e) {
-    throw Unusable(unusable(directory_, reason(e.code())));
+    throw Unusable(unusable(directory_, text::systemReason(e.code())));
   }
 }
 
@@ -80,7 +61,7 @@ std::vector<HeldEntry> SharedDirectory::others(const Guard&) const {
       }
     }
   } catch (const std::system_error& e) {
-    throw Unusable(unusable(directory_, reason(e.code())));
+    throw Unusable(unusable(directory_, text::systemReason(e.code())));
   }
   return all;
 }
@@ -101,7 +82,7 @@ void SharedDirectory::publish(const Guard&, const std::vector<HeldEntry>& entrie
     before = own_->read();
     own_->write(encode(entries));
   } catch (const std::system_error& e) {
-    const std::string why = reason(e.code());
+    const std::string why = text::systemReason(e.code());
     if (own_ && !before.empty()) {
       try {
         own_->write(before);

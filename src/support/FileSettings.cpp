@@ -12,6 +12,7 @@
 #include <thread>
 
 #include "locks/OfdLock.h"
+#include "text/SystemErrors.h"
 
 namespace fidaleon::support {
 
@@ -157,7 +158,7 @@ void FileSettings::update(const std::function<bool()>& change) {
     if (change()) save();
   } catch (const std::system_error& e) {
     throw std::runtime_error("No se ha podido guardar el ajuste en «" + file_.string() +
-                             "»: " + e.code().message() + ".");
+                             "»: " + text::systemReason(e.code()));
   }
 }
 

@@ -146,6 +146,8 @@ TEST_F(Types, statementsThatMakeNoSense_areRefusedInSpanish) {
       ADD_FAILURE() << c.sql;
     } catch (const Error& error) {
       EXPECT_EQ(error.kind(), c.kind) << c.sql << ": " << error.what();
+      for (const char* english : {"near", "syntax", "values for"})
+        EXPECT_EQ(std::string(error.what()).find(english), std::string::npos) << error.what();
     }
   }
   run("INSERT INTO Cargo (Nombre) VALUES ('sigue')");

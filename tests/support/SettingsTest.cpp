@@ -96,7 +96,13 @@ TEST_F(SettingsFile, CannotBeWritten_SaysSoAndChangesNothing) {
   std::ofstream(directory.path() / "fidaleon") << "a file where the folder should be";
   FileSettings settings(file);
   EXPECT_EQ(settings.read("F", "s", "k", "x"), "x");
-  EXPECT_THROW(settings.write("F", "s", "k", "v"), std::runtime_error);
+  try {
+    settings.write("F", "s", "k", "v");
+    ADD_FAILURE();
+  } catch (const std::runtime_error& e) {
+    EXPECT_EQ(e.what(), "No se ha podido guardar el ajuste en «" + file.string() +
+                            "»: la carpeta no existe.");
+  }
   EXPECT_EQ(settings.read("F", "s", "k", "x"), "x");
 }
 

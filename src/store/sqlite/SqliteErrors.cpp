@@ -55,10 +55,12 @@ Meaning meaningOf(int code, int systemError) {
 
 Error sqliteError(int code, sqlite3* db) {
   const Meaning meaning = meaningOf(code, db != nullptr ? sqlite3_system_errno(db) : 0);
-  std::string message = meaning.message;
-  const char* detail = db != nullptr ? sqlite3_errmsg(db) : sqlite3_errstr(code);
-  if (detail != nullptr) message += std::string(" (") + detail + ")";
-  return Error(meaning.kind, message, code);
+  // The engine's own words are English: its number, and where in the statement, say as much to
+  // those who mend it.
+  std::string message = std::string(meaning.message) + " (SQLite " + std::to_string(code);
+  const int place = db != nullptr ? sqlite3_error_offset(db) : -1;
+  if (place >= 0) message += ", posición " + std::to_string(place);
+  return Error(meaning.kind, message + ")", code);
 }
 
 void check(int code, sqlite3* db) {
