@@ -1,0 +1,34 @@
+// rooms: core_facade registers support store
+// Eight workstations on one parish file. An argument gives the seconds, 10 otherwise.
+
+#include "benches/Bench.h"
+#include "benches/BookStress.h"
+
+int main(int argc, char** argv) {
+  using namespace fidaleon;
+  const double seconds = argc > 1 ? std::atof(argv[1]) : 10;
+  std::string directory = (std::filesystem::temp_directory_path() / "fidaleon-XXXXXX").string();
+  if (!::mkdtemp(directory.data())) return 1;
+  stress::Outcome o;
+  try {
+    o = stress::run(directory, 8, {1 << 30, seconds});
+  } catch (const std::exception& e) {
+    std::fprintf(stderr, "%s\n", e.what());
+  }
+  std::filesystem::remove_all(directory);
+  const auto none = [](const char* what, int count) {
+    bench::line(what, std::to_string(count), "-", "-", "0", count == 0);
+  };
+  bench::line("8 puestos a la vez en un fichero: bautismos por segundo",
+              bench::shown(o.stored / seconds, ""), "-", "-", "-", o.stored > 0);
+  none("posiciones repetidas en el libro nuevo", o.repeated);
+  none("posiciones saltadas en el libro nuevo", o.missing);
+  none("bautismos perdidos o de más",
+       std::abs(o.entered - o.stored) + std::abs(o.stored - o.listed));
+  none("puestos que acabaron mal", o.faults);
+  none("ficheros dañados", o.whole ? 0 : 1);
+  return o.repeated == 0 && o.faults == 0 && o.entered == o.stored && o.stored == o.listed &&
+                 o.whole
+             ? 0
+             : 1;
+}
