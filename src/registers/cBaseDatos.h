@@ -24,7 +24,9 @@ class cBaseDatos {
   /// position is not the one after its last.
   bool GrabarColeccionBasesDatos(FDAPI::Conexion& conBaseDatos, ColeccionBautismo& colPartidas,
                                  bool& blnSalto);
-  /// Inserts father, mother, marriage, entry and child; the record takes the new keys.
+  /// Inserts father, mother, marriage, entry and child; the record takes the new keys. A record
+  /// that has its key already, since a former try got as far as that, gets its rows updated and its
+  /// child inserted: tried again, nothing is stored twice.
   bool AltaPartidaBautismo(FDAPI::Conexion& conBaseDatos, cBautismo& record);
   /// Writes entry and child, and of the shared rows those whose flag is set.
   bool ActualizarPartidaBautismo(FDAPI::Conexion& conBaseDatos, const cBautismo& record);
@@ -40,6 +42,7 @@ class cBaseDatos {
 
  private:
   bool guardar(FDAPI::Conexion& conBaseDatos, cBautismo& partida, bool& blnSalto);
+  void insertarPartida(FDAPI::Conexion& conBaseDatos, cBautismo& record);
   void insertarPadres(FDAPI::Conexion& conBaseDatos, cBautismo& record);
 
   Contexto& contexto_;

@@ -50,6 +50,21 @@ TEST_F(EditedBaptism, NothingChanged_WritesNothing) {
   EXPECT_SCRIPT_DONE(w.user);
 }
 
+TEST_F(EditedBaptism, SexThatTheListDoesNotKnow_StaysAsItIs) {
+  w.con().Execute("UPDATE bautismo_hijo SET sexo=\"Varón\"");
+  open(
+      cCOperacion::EDITAR,
+      [](FormDriver& d) {
+        EXPECT_EQ(d.text("cboBautismo(20)"), "");
+        d.tab("mstBautismo", frmPartidaBautismo::TAB_BAUTIZADO);
+        d.type("txtBautismo(7)", "Luis María");
+        accept(d);
+      },
+      id);
+  EXPECT_EQ(w.value("SELECT Nombre FROM bautismo_hijo"), "Luis María");
+  EXPECT_EQ(w.value("SELECT Sexo FROM bautismo_hijo"), "Varón");
+}
+
 TEST_F(EditedBaptism, FailingUpdate_KeepsTheDialogOpen) {
   auto* faults = store::FailingEngine::wrap(w.con());
   faults->failOn("UPDATE bautismo_hijo", store::ErrorKind::Busy);

@@ -178,6 +178,36 @@ TEST_F(NewBaptism, FailingStore_KeepsTheDialogAndWhatWasTyped) {
   EXPECT_EQ(w.user.hourglassDepth(), 0);
 }
 
+TEST_F(NewBaptism, EntryWithoutItsChild_IsGoneOnWithWhenAcceptedAgain) {
+  const std::int32_t libro = book("Libro 1", true, 3);
+  store(record("Luis", libro, 1, "1"));
+  const std::string brothersFather = w.value("SELECT IDPadres FROM bautismo_padres");
+  auto* faults = store::FailingEngine::wrap(w.con());
+  open(cCOperacion::ANADIR, [&](FormDriver& d) {
+    chooseBook(d, "Libro 1");
+    typeChild(d, "Eva", "Otro", "Más");
+    faults->failOn("INSERT INTO bautismo_hijo", store::ErrorKind::DiskFull);
+    w.user.answerAnything(Answer::Yes);
+    accept(d);
+    EXPECT_FALSE(d.closed());
+    EXPECT_EQ(w.count("bautismo"), 2);
+    // Meanwhile she finds the brother, whose rows must stay his.
+    w.user.expectForm("frmBuscaPadres", [](FormDriver& hits) { hits.click("cmdBoton(0)"); });
+    typeChild(d, "Eva María");
+    d.tab("mstBautismo", frmPartidaBautismo::TAB_PADRE);
+    d.type("txtBautismo(11)", "Pablo");
+    w.user.expectMessage(EMPTY_FIELDS, Answer::Yes);
+    w.user.expectMessage(FURTHER, Answer::No);
+    accept(d);
+    EXPECT_TRUE(d.closed());
+  });
+  EXPECT_EQ(w.count("bautismo"), 2);
+  EXPECT_EQ(w.count("bautismo_padres"), 2);
+  EXPECT_EQ(w.count("bautismo_hijo WHERE Nombre=\"Eva María\""), 1);
+  EXPECT_EQ(w.count("bautismo_padres WHERE Nombre=\"Pablo\""), 1);
+  EXPECT_EQ(w.value("SELECT Nombre FROM bautismo_padres WHERE IDPadres=" + brothersFather), "Juan");
+}
+
 TEST_F(NewBaptism, FailedProposal_LeavesNoPositionThatCouldBeTaken) {
   const std::int32_t libro = book("Libro 1", true, 3);
   store(record("Luis", libro, 1, "1"));
@@ -329,6 +359,21 @@ TEST_F(OldBaptism, LaterDate_MovesTheBookForwardAndAnnulmentIsStored) {
   EXPECT_EQ(w.value("SELECT FechaCreacion FROM Libro_Bautismo"), "19610705");
   EXPECT_EQ(w.count("bautismo WHERE Anulada=true AND FechaBautismo=\"19610705\""), 1);
   EXPECT_EQ(w.value("SELECT FolioSiguiente FROM Libro_Bautismo"), "4");
+  EXPECT_SCRIPT_DONE(w.user);
+}
+
+TEST_F(OldBaptism, EmptyPositionWithoutABook_DoesNotBarTheWayToTheLists) {
+  book("Antiguo", false, 3);
+  open(cCOperacion::ANTIGUA, [&](FormDriver& d) {
+    d.choose("cboBautismo(22)", "San Pedro");
+    d.focus("txtLibro(1)");
+    w.user.expectMessage("¡Debe introducir datos en el campo folio!");
+    d.focus("cboBautismo(23)");
+    EXPECT_EQ(d.focused(), "cboBautismo(23)");
+    d.choose("cboBautismo(23)", "Antiguo");
+    EXPECT_EQ(d.text("txtLibro(1)"), "1");
+    cancel(d);
+  });
   EXPECT_SCRIPT_DONE(w.user);
 }
 

@@ -28,6 +28,12 @@ std::string valorDe(const forms::TextBox& campo, const std::string& legible,
   return campo.text().empty() && !seMuestra ? oGuiones(guardado) : oGuiones(legible);
 }
 
+bool ofrece(const forms::ComboBox& lista, const std::string& texto) {
+  for (int i = 0; i < lista.listCount(); ++i)
+    if (lista.list(i) == texto) return true;
+  return false;
+}
+
 /// The register keeps the institution of a request in one byte.
 std::uint8_t institucionDeSolicitud(std::int64_t id) {
   if (id < 0 || id > std::numeric_limits<std::uint8_t>::max())
@@ -102,7 +108,10 @@ cBautismo frmPartidaBautismo::leerCampos() const {
   for (const auto& e : municipios_) partida.*e.miembro = e.campo->valor();
   partida.HoraNacHijo = valorDe(txtHoraNac, txtHoraNac.stored(), registro_.HoraNacHijo,
                                 text::parseTime(registro_.HoraNacHijo).has_value());
-  partida.SexoHijo = oGuiones(cboBautismo[Sexo].text());
+  const bool sinElegir = cboBautismo[Sexo].listIndex() < 0;
+  partida.SexoHijo = sinElegir && !ofrece(cboBautismo[Sexo], registro_.SexoHijo)
+                         ? oGuiones(registro_.SexoHijo)
+                         : oGuiones(cboBautismo[Sexo].text());
   partida.AnuladaBautismo = anulada_;
   partida.FolioBautismo = esSolicitud() ? "0" : text::trim(txtLibro[FOLIO].text());
   partida.NumeroBautismo = esSolicitud() ? GUIONES : text::trim(txtLibro[NUMERO].text());
@@ -114,7 +123,7 @@ cBautismo frmPartidaBautismo::GrabarDatosColeccion() {
   if (esSolicitud()) {
     partida.CodInstitucionBautismo = institucionDeSolicitud(cboBautismo[Institucion].data());
     partida.CodLibroBautismo = 0;
-  } else {
+  } else if (esAlta()) {
     const store::Recordset libro =
         conBaseDatos->Execute("SELECT idlibrobautismo FROM libro_bautismo WHERE nombre=" +
                               entreComillas(cboBautismo[Libro].text()) + " AND codinstitucion=" +
@@ -169,8 +178,15 @@ bool frmPartidaBautismo::almacenar(cBautismo partida) {
   bool blnSalto = false;
   const bool guardada =
       cBaseDatos(contexto_).GrabarColeccionBasesDatos(*conBaseDatos, coleccion, blnSalto);
-  // A new entry that reached the table must not be stored a second time.
-  return guardada || (esAlta() && coleccion.front().Estado);
+  if (guardada || !esAlta()) return guardada;
+  // A new entry that reached the table must not be stored a second time, and one that got there
+  // without its child is gone on with.
+  const cBautismo& intentada = coleccion.front();
+  registro_.IDBautismo = intentada.IDBautismo;
+  registro_.CodPadres = intentada.CodPadres;
+  registro_.CodMadres = intentada.CodMadres;
+  registro_.CodMatrimonio = intentada.CodMatrimonio;
+  return intentada.Estado;
 }
 
 void frmPartidaBautismo::otraPartida() {

@@ -43,7 +43,8 @@ class TransaccionSinVuelta {
 };
 
 std::int32_t claveNueva(Conexion& conexion, const std::string& sql, const std::string& texto) {
-  return static_cast<std::int32_t>(conexion.Execute(sql + entreComillas(texto)).integer("ID"));
+  return static_cast<std::int32_t>(
+      conexion.Execute(sql + columnas_detalle::citado(texto)).integer("ID"));
 }
 
 }  // namespace
@@ -68,19 +69,35 @@ void cBaseDatos::insertarPadres(Conexion& conBaseDatos, cBautismo& record) {
   transaccion.terminar();
 }
 
+void cBaseDatos::insertarPartida(Conexion& conBaseDatos, cBautismo& record) {
+  insertarPadres(conBaseDatos, record);
+  record.CodPadres = lngIDPadres_;
+  record.CodMadres = lngIDMadres_;
+  record.CodMatrimonio = lngIDMatrimonio_;
+  if (record.EdadPadrino.empty()) record.EdadPadrino = "0";
+  if (record.EdadMadrina.empty()) record.EdadMadrina = "0";
+  conBaseDatos.Execute(sqlInsertar(TABLA_BAUTISMO, record));
+  record.IDBautismo = static_cast<std::int32_t>(
+      conBaseDatos.Execute("SELECT * FROM bautismo ORDER BY idbautismo DESC")
+          .integer("idbautismo"));
+}
+
 bool cBaseDatos::AltaPartidaBautismo(Conexion& conBaseDatos, cBautismo& record) {
-  return guarded(contexto_, "cBaseDatos", "AltaPartidaBautismo", [&] {
-    insertarPadres(conBaseDatos, record);
-    record.CodPadres = record.IDPadres = lngIDPadres_;
-    record.CodMadres = record.IDMadres = lngIDMadres_;
-    record.CodMatrimonio = record.IDMatrimonio = lngIDMatrimonio_;
-    if (record.EdadPadrino.empty()) record.EdadPadrino = "0";
-    if (record.EdadMadrina.empty()) record.EdadMadrina = "0";
-    conBaseDatos.Execute(sqlInsertar(TABLA_BAUTISMO, record));
-    record.IDBautismo = static_cast<std::int32_t>(
-        conBaseDatos.Execute("SELECT * FROM bautismo ORDER BY idbautismo DESC")
-            .integer("idbautismo"));
+  const bool empezada = record.IDBautismo != 0;
+  const auto tomarClaves = [&record] {
     record.CodBautismo = record.IDBautismo;
+    record.IDPadres = record.CodPadres;
+    record.IDMadres = record.CodMadres;
+    record.IDMatrimonio = record.CodMatrimonio;
+  };
+  if (empezada) {
+    tomarClaves();
+    record.CambioPadre = record.CambioMadre = record.CambioMatrimonio = true;
+    if (!ActualizarPartidaBautismo(conBaseDatos, record)) return false;
+  }
+  return guarded(contexto_, "cBaseDatos", "AltaPartidaBautismo", [&] {
+    if (!empezada) insertarPartida(conBaseDatos, record);
+    tomarClaves();
     conBaseDatos.Execute(sqlInsertar(TABLA_HIJO, record));
   });
 }

@@ -134,7 +134,8 @@ void frmPartidaBautismo::txtLibro_LostFocus(CampoLibro indice, const forms::Cont
   if (txtLibro[indice].locked()) return;
   forms::warn(ui(), std::string("¡Debe introducir datos en el campo ") +
                         (indice == FOLIO ? "folio!" : "número!"));
-  setFocus(txtLibro[indice]);
+  // Without a book there is no proposal either: the way back to the lists stays open.
+  if (cboBautismo[Libro].listIndex() >= 0) setFocus(txtLibro[indice]);
 }
 
 }  // namespace fidaleon
