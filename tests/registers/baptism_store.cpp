@@ -23,10 +23,10 @@ TEST_F(BaptismStore, Statements_AreWordedAsTheTablesSay) {
             "INSERT INTO bautismo_hijo (codbautismo,nombre,primerapellido,segundoapellido,sexo,"
             "fechanac,horanac,direccionnac,codmunicipionac) VALUES (9, \"Luis\", \"García\", "
             "\"Pérez\", \"Hombre\", \"---\", \"---\", \"\", 0)");
-  EXPECT_EQ(sqlActualizar(TABLA_MATRIMONIO, b),
+  EXPECT_EQ(sqlActualizar(TABLA_MATRIMONIO_AL_ACTUALIZAR, b),
             "UPDATE bautismo_matrimonio SET parroquia=\"San Juan\", fechamatr=\"---\", "
             "codmunicipiomatr=0, direccionpadres=\"Calle ''Sol''\", codmunicipiopadres=0, "
-            "DiocesisMatrimonio=\"Madrid\", TelefonoPadres=\"---\"");
+            "TelefonoPadres=\"---\", DiocesisMatrimonio=\"Madrid\"");
   EXPECT_THAT(
       sqlInsertar(TABLA_BAUTISMO, b),
       ::testing::StartsWith(

@@ -91,7 +91,7 @@ bool cBaseDatos::ActualizarPartidaBautismo(Conexion& conBaseDatos, const cBautis
       conBaseDatos.Execute(sqlActualizar(TABLA_MADRES, record) +
                            " WHERE idmadres=" + std::to_string(record.IDMadres));
     if (record.CambioMatrimonio)
-      conBaseDatos.Execute(sqlActualizar(TABLA_MATRIMONIO, record) +
+      conBaseDatos.Execute(sqlActualizar(TABLA_MATRIMONIO_AL_ACTUALIZAR, record) +
                            " WHERE idmatrimonio = " + std::to_string(record.IDMatrimonio));
     conBaseDatos.Execute(sqlActualizar(TABLA_BAUTISMO_AL_ACTUALIZAR, record) +
                          " WHERE IDBautismo = " + std::to_string(record.IDBautismo));

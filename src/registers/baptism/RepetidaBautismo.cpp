@@ -10,12 +10,12 @@ using FDAPI::cCOperacion;
 
 namespace {
 
-std::string igual(const char* columna, const std::string& texto) {
-  return std::string(" AND ") + columna + " = " + entreComillas(texto);
+std::string igual(const char* columna, const std::string& texto, const char* signo = " = ") {
+  return std::string(" AND ") + columna + signo + entreComillas(texto);
 }
 
-std::string igual(const char* columna, std::int32_t numero) {
-  return std::string(" AND ") + columna + " = " + std::to_string(numero);
+std::string igual(const char* columna, std::int32_t numero, const char* signo = " = ") {
+  return std::string(" AND ") + columna + signo + std::to_string(numero);
 }
 
 /// Parents' rows with the same values, as a statement.
@@ -24,9 +24,10 @@ std::string sqlPadres(const cBautismo& b) {
          igual("PrimerApellido", b.PrimerApellidoPadres) +
          igual("SegundoApellido", b.SegundoApellidoPadres) +
          igual("CodMunicipio", b.CodPoblacionPadres) + igual("Abuelo", b.AbueloPadres) +
-         igual("CodMunicipioAbuelo", b.CodPoblacionAbueloPadres) + igual("Abuela", b.AbuelaPadres) +
-         igual("TelefonoPadre", b.TelefonoPadre) + igual("EmailPadre", b.EmailPadre) +
-         igual("CodMunicipioAbuela", b.CodPoblacionAbuelaPadres);
+         igual("CodMunicipioAbuelo", b.CodPoblacionAbueloPadres, "=") +
+         igual("Abuela", b.AbuelaPadres, "=") + igual("TelefonoPadre", b.TelefonoPadre, "=") +
+         igual("EmailPadre", b.EmailPadre, "=") +
+         igual("CodMunicipioAbuela", b.CodPoblacionAbuelaPadres, "=");
 }
 
 std::string sqlMadres(const cBautismo& b) {
@@ -34,9 +35,10 @@ std::string sqlMadres(const cBautismo& b) {
          igual("PrimerApellido", b.PrimerApellidoMadres) +
          igual("SegundoApellido", b.SegundoApellidoMadres) +
          igual("CodMunicipio", b.CodPoblacionMadres) + igual("Abuelo", b.AbueloMadres) +
-         igual("CodMunicipioAbuelo", b.CodPoblacionAbueloMadres) + igual("Abuela", b.AbuelaMadres) +
-         igual("TelefonoMadre", b.TelefonoMadre) + igual("EmailMadre", b.EmailMadre) +
-         igual("CodMunicipioAbuela", b.CodPoblacionAbuelaMadres);
+         igual("CodMunicipioAbuelo", b.CodPoblacionAbueloMadres, "=") +
+         igual("Abuela", b.AbuelaMadres, "=") + igual("TelefonoMadre", b.TelefonoMadre, "=") +
+         igual("EmailMadre", b.EmailMadre, "=") +
+         igual("CodMunicipioAbuela", b.CodPoblacionAbuelaMadres, "=");
 }
 
 std::string sqlMatrimonio(const cBautismo& b) {

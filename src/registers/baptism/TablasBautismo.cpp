@@ -116,11 +116,20 @@ constexpr auto BAUTISMOS_AL_ACTUALIZAR = [] {
   return columnas;
 }();
 
+/// An update names the telephone before the diocese.
+constexpr auto MATRIMONIOS_AL_ACTUALIZAR = [] {
+  auto columnas = std::to_array(MATRIMONIOS);
+  std::swap(columnas[columnas.size() - 2], columnas[columnas.size() - 1]);
+  return columnas;
+}();
+
 }  // namespace
 
 const Tabla<cBautismo> TABLA_PADRES{"bautismo_padres", ", ", "=", PADRES};
 const Tabla<cBautismo> TABLA_MADRES{"bautismo_madres", ", ", "=", MADRES};
 const Tabla<cBautismo> TABLA_MATRIMONIO{"bautismo_matrimonio", ",", "=", MATRIMONIOS};
+const Tabla<cBautismo> TABLA_MATRIMONIO_AL_ACTUALIZAR{"bautismo_matrimonio", ",", "=",
+                                                      MATRIMONIOS_AL_ACTUALIZAR};
 const Tabla<cBautismo> TABLA_BAUTISMO{"bautismo", ", ", " = ", BAUTISMOS};
 const Tabla<cBautismo> TABLA_BAUTISMO_AL_ACTUALIZAR{"bautismo", ", ", " = ",
                                                     BAUTISMOS_AL_ACTUALIZAR};

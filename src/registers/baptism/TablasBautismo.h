@@ -9,6 +9,8 @@ namespace fidaleon {
 extern const Tabla<cBautismo> TABLA_PADRES;
 extern const Tabla<cBautismo> TABLA_MADRES;
 extern const Tabla<cBautismo> TABLA_MATRIMONIO;
+/// The columns of the marriage in the order of its UPDATE.
+extern const Tabla<cBautismo> TABLA_MATRIMONIO_AL_ACTUALIZAR;
 extern const Tabla<cBautismo> TABLA_BAUTISMO;
 /// The columns of the entry in the order of its UPDATE.
 extern const Tabla<cBautismo> TABLA_BAUTISMO_AL_ACTUALIZAR;

@@ -1,5 +1,8 @@
 #include "registers/common/ListasDeLibro.h"
 
+#include <set>
+
+#include "core/contract/EnSacramento.h"
 #include "text/Utf8.h"
 
 namespace fidaleon {
@@ -16,6 +19,15 @@ void ListasDeLibro::cargarInstituciones(std::int32_t id) {
 
 void ListasDeLibro::CargarComboLibrosNuevos() {
   cargarLibros("nuevo=true");
+  // A closed book takes no more entries, and who adds them holds the open ones only.
+  std::set<std::int64_t> abiertos;
+  store::Recordset filas = conexion_->Execute(
+      enSacramento(sacramento_,
+                   "SELECT IDLibroBautismo FROM Libro_Bautismo WHERE  Nuevo = True AND Cerrado = "
+                   "False"));
+  for (; !filas.EOF_(); filas.MoveNext()) abiertos.insert(filas.integer(sacramento_.claveLibro));
+  for (int i = libro_.listCount() - 1; i >= 0; --i)
+    if (!abiertos.contains(libro_.itemData(i))) libro_.removeItem(i);
 }
 
 void ListasDeLibro::CargarComboLibrosAntiguos() {
@@ -25,11 +37,10 @@ void ListasDeLibro::CargarComboLibrosAntiguos() {
 void ListasDeLibro::cargarLibros(const std::string& condicion) {
   libro_.clear();
   if (institucion_.listIndex() < 0) return;
-  // A closed new book takes no more entries.
-  store::Recordset filas = conexion_->Execute(
-      std::string("SELECT Nombre, ") + sacramento_.claveLibro + " FROM " +
-      text::lower(sacramento_.tablaLibros) + " WHERE " + condicion +
-      " AND codinstitucion=" + std::to_string(institucion_.data()) + " AND cerrado=false");
+  store::Recordset filas =
+      conexion_->Execute(std::string("SELECT Nombre, ") + sacramento_.claveLibro + " FROM " +
+                         text::lower(sacramento_.tablaLibros) + " WHERE " + condicion +
+                         " AND codinstitucion=" + std::to_string(institucion_.data()));
   for (; !filas.EOF_(); filas.MoveNext())
     libro_.addItem(filas.text("Nombre"), filas.integer(sacramento_.claveLibro));
 }
