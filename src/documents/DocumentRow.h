@@ -1,6 +1,10 @@
 #pragma once
 
+#include <cstddef>
+#include <cstdint>
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include "documents/Columns.h"
 #include "documents/Lookups.h"
@@ -26,24 +30,51 @@ struct Signature {
   const store::Recordset* institution = nullptr;
 };
 
-/// The INSERTs of one run. What does not change from row to row is worked out once.
+/// The INSERTs of one run over a record set. What does not change from row to row is worked out
+/// once, and each field is read once a row, in the order in which the record set has it.
 class RowStatements {
  public:
   /// All must outlive this object.
-  RowStatements(const DocumentKind& kind, const Signature& signature, Lookups& lookups);
+  RowStatements(const DocumentKind& kind, const Signature& signature, Lookups& lookups,
+                const store::Recordset& entry);
+  RowStatements(const RowStatements&) = delete;
+  RowStatements& operator=(const RowStatements&) = delete;
 
-  /// The INSERT that carries the current row of `entry` into the document's table; stands until
-  /// the next call.
-  const std::string& of(const store::Recordset& entry);
+  /// The INSERT that carries the current row of the record set into the document's table; stands
+  /// until the next call. Throws store::Error for a field that the record set does not have.
+  const std::string& current();
 
  private:
-  std::string valueOf(const Column& column, const store::Recordset& entry);
+  struct Field {
+    std::string_view name;
+    int place;   // in the record set
+    bool isKey;  // of a municipality
+    std::string text;
+    std::int32_t key = 0;
+  };
+  void writeHead();
+  /// The number of the field that the column takes.
+  std::size_t fieldOf(const Column& column);
+  void orderFields();
+  void readFields();
+  std::string fixedValue(const Column& column);
+  std::string rowValue(const Column& column, const Field& field);
 
   const DocumentKind& kind_;
   const Signature& signature_;
   Lookups& lookups_;
+  const store::Recordset& entry_;
+  static constexpr std::size_t NO_FIELD = static_cast<std::size_t>(-1);
+  struct Filled {
+    const Column* column;
+    std::size_t field;  // none for what is the same in every row
+    std::string fixed;  // that, with its quotes
+  };
+  std::vector<Field> fields_;
+  std::vector<std::size_t> inOrder_;
+  std::vector<Filled> columns_;
   std::string statement_;
-  std::size_t head_;  // bytes of the statement that are the same for all rows
+  std::size_t head_ = 0;  // bytes of the statement that are the same for all rows
 };
 
 /// The INSERT of a document of one row.

@@ -33,7 +33,7 @@ void cInformes::escribirLibro(const documents::DocumentKind& kind, FDAPI::Conexi
     if (!conFidaleon.Execute(check).EOF_()) {
       store::Recordset entries = conFidaleon.Execute(statement);
       const documents::Signature signature{"", contexto_.hoy()};
-      documents::RowStatements rows(kind, signature, lookups);
+      documents::RowStatements rows(kind, signature, lookups, entries);
       const auto fidaleon = contexto_.fidaleon();
       documents::ProgresoImpresion progreso(*fidaleon, entries.RecordCount());
       documents::escribirFilas(rows, entries, conInformes,

@@ -107,7 +107,7 @@ void frmInfDuplicadas::escribir(store::Recordset& entries, std::int32_t idInstit
   abpProgreso.setValue(0);
   const documents::Signature signature{"", contexto_.hoy(), &institucion};
   documents::Lookups lookups(contexto_, *conBaseDatos);
-  documents::RowStatements rows(duplicada_->documento, signature, lookups);
+  documents::RowStatements rows(duplicada_->documento, signature, lookups, entries);
   documents::escribirFilas(rows, entries, *conInformes,
                            [this](std::int32_t fila) { abpProgreso.setValue(fila); });
   abpProgreso.setValue(cuenta);
