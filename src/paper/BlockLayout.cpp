@@ -1,7 +1,6 @@
 #include "paper/BlockLayout.h"
 
 #include <QFontMetricsF>
-#include <QTextLayout>
 #include <algorithm>
 
 #include "paper/Fragments.h"
@@ -10,16 +9,20 @@
 namespace fidaleon::paper {
 namespace {
 
-constexpr qreal kSlightestSpacing = 1.0 / 64;  // dots: the least that the toolkit keeps
-constexpr qreal kFieldGap = 1.5;               // millimetres between label and value
-constexpr qreal kFieldDrop = 0.5;              // between value and line
+constexpr qreal kFieldGap = 1.5;   // millimetres between label and value
+constexpr qreal kFieldDrop = 0.5;  // between value and line
 constexpr qreal kFieldLine = 0.1;
+
+bool endsInWriteLines(const Block& block) {
+  return !block.children.empty() && block.children.back().kind == Block::Kind::WriteLines;
+}
 
 }  // namespace
 
-BlockLayout::BlockLayout(const ReportTemplate& t, qreal scale) : template_(t), scale_(scale) {}
+BlockLayout::BlockLayout(const ReportTemplate& t, qreal scale)
+    : template_(t), scale_(scale), text_(t.fonts, scale) {}
 
-FragmentPtr BlockLayout::layOut(const std::vector<Block>& blocks, const Source& source, qreal width,
+FragmentPtr BlockLayout::layOut(std::span<const Block> blocks, const Source& source, qreal width,
                                 bool keep) const {
   std::vector<FragmentPtr> out;
   for (const Block& block : blocks) add(block, source, width, out);
@@ -36,7 +39,7 @@ void BlockLayout::add(const Block& block, const Source& source, qreal width,
     case Block::Kind::Space:
       return addSpace(block.height, out);
     case Block::Kind::Paragraph:
-      made = paragraph(expand(block.text, source), block.style, width);
+      made = text_.paragraph(expand(block.text, source), block.style, width);
       break;
     case Block::Kind::Group:
       made = layOut(block.children, source, width, block.keep);
@@ -52,6 +55,9 @@ void BlockLayout::add(const Block& block, const Source& source, qreal width,
       break;
     case Block::Kind::Rule:
       made = std::make_shared<RuleFragment>(width, dotsOfMillimetres(block.thickness));
+      break;
+    case Block::Kind::WriteLines:
+      made = writeLines(block, width, dotsOfMillimetres(block.height));
       break;
   }
   if (!made) return;
@@ -83,11 +89,36 @@ FragmentPtr BlockLayout::columns(const Block& block, const Source& source, qreal
     made.push_back({x, shown ? layOut(c.children, source, w, c.keep) : nullptr});
     x += w + gap;
   }
+  qreal tallest = 0;
+  for (const auto& c : made)
+    if (c.content) tallest = std::max(tallest, c.content->height());
+  for (std::size_t i = 0; i < made.size(); ++i)
+    if (made[i].content && endsInWriteLines(block.children[i])) {
+      const Block& c = block.children[i];
+      made[i].content =
+          stretched(c, source, c.width > 0 ? dotsOfMillimetres(c.width) : share, tallest);
+    }
   const bool any = std::any_of(made.begin(), made.end(), [](const auto& c) { return !!c.content; });
   if (!any) return nullptr;
   const qreal divider = block.divider ? dotsOfMillimetres(block.thickness) : 0;
-  return std::make_shared<ColumnsFragment>(std::move(made),
-                                           ColumnsFragment::Look{divider, gap, block.keep});
+  return std::make_shared<ColumnsFragment>(
+      std::move(made), ColumnsFragment::Look{divider, gap, block.keep, block.atFoot});
+}
+
+/// The lines to write on reach down to the foot of the tallest column.
+FragmentPtr BlockLayout::stretched(const Block& column, const Source& source, qreal width,
+                                   qreal tallest) const {
+  const std::span<const Block> above(column.children.data(), column.children.size() - 1);
+  const Block& lines = column.children.back();
+  std::vector<FragmentPtr> pieces;
+  for (const Block& block : above) add(block, source, width, pieces);
+  for (const FragmentPtr& piece : pieces) tallest -= piece->height();
+  pieces.push_back(writeLines(lines, width, std::max(tallest, dotsOfMillimetres(lines.height))));
+  return std::make_shared<StackFragment>(std::move(pieces), column.keep);
+}
+
+FragmentPtr BlockLayout::writeLines(const Block& block, qreal width, qreal height) const {
+  return std::make_shared<WriteLinesFragment>(width, height, dotsOfMillimetres(block.gap));
 }
 
 FragmentPtr BlockLayout::box(const Block& block, const Source& source, qreal width) const {
@@ -104,8 +135,8 @@ FragmentPtr BlockLayout::box(const Block& block, const Source& source, qreal wid
 
 FragmentPtr BlockLayout::field(const Block& block, const Source& source, qreal width) const {
   const Expanded label = expand(block.label, source);
-  const QFontMetricsF labelMetrics(font(block.labelStyle, {}));
-  const QFontMetricsF valueMetrics(font(block.style, {}));
+  const QFontMetricsF labelMetrics(text_.font(block.labelStyle, {}));
+  const QFontMetricsF valueMetrics(text_.font(block.style, {}));
   const qreal gap = dotsOfMillimetres(kFieldGap);
   qreal labelWidth = dotsOfMillimetres(block.width);
   if (labelWidth <= 0 && !label.text.isEmpty())
@@ -117,17 +148,14 @@ FragmentPtr BlockLayout::field(const Block& block, const Source& source, qreal w
   std::vector<FragmentPtr> left;
   left.push_back(std::make_shared<SpaceFragment>(
       std::max<qreal>(0, above + valueMetrics.ascent() - labelMetrics.ascent())));
-  TextStyle labelStyle = block.labelStyle;
-  labelStyle.align = Qt::AlignLeft;
-  if (FragmentPtr p = paragraph(label, labelStyle, std::max(labelWidth, gap))) left.push_back(p);
+  if (FragmentPtr p = text_.paragraph(label, block.labelStyle, std::max(labelWidth, gap)))
+    left.push_back(p);
 
   Expanded value = expand(block.text, source);
   if (value.text.isEmpty() || (block.writeIn && !value.anyValue))
     value = {QStringLiteral(" "), {}, false};
-  TextStyle valueStyle = block.style;
-  valueStyle.leading = 1;
   std::vector<FragmentPtr> right{std::make_shared<SpaceFragment>(above)};
-  if (FragmentPtr p = paragraph(value, valueStyle, width - x)) right.push_back(p);
+  if (FragmentPtr p = text_.paragraph(value, block.valueStyle, width - x)) right.push_back(p);
   right.push_back(std::make_shared<SpaceFragment>(dotsOfMillimetres(kFieldDrop)));
   right.push_back(std::make_shared<RuleFragment>(width - x, dotsOfMillimetres(kFieldLine),
                                                  RuleFragment::Ink::Grey));
@@ -136,60 +164,6 @@ FragmentPtr BlockLayout::field(const Block& block, const Source& source, qreal w
       {0, std::make_shared<StackFragment>(std::move(left), false)},
       {x, std::make_shared<StackFragment>(std::move(right), false)}};
   return std::make_shared<ColumnsFragment>(std::move(made), ColumnsFragment::Look{});
-}
-
-FragmentPtr BlockLayout::paragraph(const Expanded& expanded, const TextStyle& style,
-                                   qreal width) const {
-  if (expanded.text.isEmpty()) return nullptr;
-  auto layout = std::make_shared<QTextLayout>(expanded.text, font(style, {}));
-  QTextOption option(style.align);
-  option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
-  option.setUseDesignMetrics(true);
-  layout->setTextOption(option);
-  QList<QTextLayout::FormatRange> formats;
-  for (const Stretch& s : expanded.stretches) {
-    QTextLayout::FormatRange range;
-    range.start = static_cast<int>(s.start);
-    range.length = static_cast<int>(s.length);
-    range.format.setFont(font(style, s.face));
-    formats.append(range);
-  }
-  if (!formats.isEmpty()) layout->setFormats(formats);
-  layout->beginLayout();
-  const qreal indent = dotsOfMillimetres(style.indent) * scale_;
-  for (QTextLine line = layout->createLine(); line.isValid(); line = layout->createLine()) {
-    const qreal in = line.lineNumber() == 0 ? indent : 0;
-    line.setLineWidth(width - in);
-    line.setPosition({in, 0});
-  }
-  layout->endLayout();
-  const int lines = layout->lineCount();
-  return std::make_shared<TextFragment>(std::move(layout), 0, lines, style.leading);
-}
-
-const QFont& BlockLayout::font(const TextStyle& style, const Face& face) const {
-  const bool bold = style.bold || face.bold;
-  const bool italic = style.italic || face.italic;
-  const bool smallCaps = style.smallCaps || face.smallCaps;
-  const int size = qRound(dotsOfPoints(style.size) * scale_);
-  const FontKey key{size, bold, italic, smallCaps, qRound(style.tracking * 10)};
-  const auto found = fonts_.find(key);
-  if (found != fonts_.end()) return found->second;
-  QFont f;
-  f.setFamilies(template_.fonts);
-  f.setPixelSize(std::max(size, 10));
-  f.setBold(bold);
-  f.setItalic(italic);
-  if (smallCaps) f.setCapitalization(QFont::SmallCaps);
-  // Spacing of any width also keeps "fi" from becoming one glyph, which names copied out of a
-  // PDF could not be found by.
-  if (style.tracking > 0)
-    f.setLetterSpacing(QFont::PercentageSpacing, 100 + style.tracking);
-  else
-    f.setLetterSpacing(QFont::AbsoluteSpacing, kSlightestSpacing);
-  f.setHintingPreference(QFont::PreferNoHinting);
-  f.setStyleStrategy(QFont::PreferOutline);
-  return fonts_.emplace(key, f).first->second;
 }
 
 }  // namespace fidaleon::paper

@@ -1,12 +1,12 @@
 #pragma once
 
-#include <QFont>
-#include <map>
+#include <span>
 #include <vector>
 
 #include "paper/Expansion.h"
 #include "paper/Fragment.h"
 #include "paper/Template.h"
+#include "paper/TextSetter.h"
 
 namespace fidaleon::paper {
 
@@ -17,7 +17,7 @@ class BlockLayout {
   BlockLayout(const ReportTemplate& t, qreal scale = 1);
 
   /// Null when no block has anything to print. Width and height in dots.
-  FragmentPtr layOut(const std::vector<Block>& blocks, const Source& source, qreal width,
+  FragmentPtr layOut(std::span<const Block> blocks, const Source& source, qreal width,
                      bool keep = false) const;
 
  private:
@@ -25,15 +25,15 @@ class BlockLayout {
            std::vector<FragmentPtr>& out) const;
   FragmentPtr columns(const Block& block, const Source& source, qreal width) const;
   FragmentPtr box(const Block& block, const Source& source, qreal width) const;
+  FragmentPtr stretched(const Block& column, const Source& source, qreal width,
+                        qreal tallest) const;
   FragmentPtr field(const Block& block, const Source& source, qreal width) const;
-  FragmentPtr paragraph(const Expanded& text, const TextStyle& style, qreal width) const;
+  FragmentPtr writeLines(const Block& block, qreal width, qreal height) const;
   void addSpace(qreal millimetres, std::vector<FragmentPtr>& out) const;
-  const QFont& font(const TextStyle& style, const Face& face) const;
 
-  using FontKey = std::tuple<int, bool, bool, bool, int>;
   const ReportTemplate& template_;
   qreal scale_;
-  mutable std::map<FontKey, QFont> fonts_;
+  TextSetter text_;
 };
 
 }  // namespace fidaleon::paper

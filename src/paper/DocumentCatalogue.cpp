@@ -28,6 +28,16 @@ const std::vector<Document>& documentCatalogue() {
        QStringLiteral("Solicitud de bautismo (Menorca)"), Edition::Menorca, false},
       {"InformeSolicitudPartidaBautismoDatosSantiago", "solicitud_bautismo_santiago",
        QStringLiteral("Solicitud de bautismo (Santiago)"), Edition::Santiago, false},
+      {"InformeLibroBautismo", "libro_bautismo", QStringLiteral("Libro de bautismos"),
+       Edition::Base, false},
+      {"InformeLibroBautismoMenorca", "libro_bautismo_menorca",
+       QStringLiteral("Libro de bautismos (Menorca)"), Edition::Menorca, false},
+      {"InformeIndiceLibroBautismo", "indice_libro_bautismo",
+       QStringLiteral("Índice del libro de bautismos"), Edition::Base, false},
+      {"InformeIndiceLibroBautismoMenorca", "indice_libro_bautismo",
+       QStringLiteral("Índice del libro de bautismos (Menorca)"), Edition::Menorca, false},
+      {"ImprimirDuplicadasBautismo", "duplicado_bautismo", QStringLiteral("Duplicado de bautismos"),
+       Edition::Base, false},
   };
   return documents;
 }

@@ -11,6 +11,7 @@ enum class Edition { Base, Menorca, Santiago };
 
 /// Which template shows what an operation of cNucleo wrote, and under which name.
 struct Document {
+  // ImprimirDuplicadas stands here once for each sacrament, whose name follows.
   std::string operation;
   std::string templateName;
   QString title;

@@ -66,7 +66,7 @@ class Expander {
 
   void addValue(const Inline& item, Face face) {
     askedValue_ = true;
-    const QString& value = source_.value(item.column);
+    const QString& value = source_.value(item.column, item.ofLastRow);
     if (!isBlankValue(value)) out_.anyValue = true;
     append(filtered(value, item.filter), face);
   }
@@ -91,22 +91,31 @@ class Expander {
 
 }  // namespace
 
-std::vector<int> positionsOf(const ReportTemplate& t, const Rows& rows) {
-  std::vector<int> positions;
+Binding::Binding(const ReportTemplate& t, const Rows& rows, const GivenValues& given) {
   for (const QString& column : t.columns) {
-    const int position = rows.position(column);
-    if (position < 0)
+    int position = rows.position(column);
+    if (column == QLatin1String("@Marca")) {
+      position = kMark;
+    } else if (column.startsWith(QLatin1Char('@'))) {
+      const auto found = given.find(column.mid(1));
+      given_.push_back(found == given.end() ? QString() : found->second);
+      position = kMark - static_cast<int>(given_.size());
+    } else if (position < 0) {
       throw Error(
           ErrorKind::MissingColumn,
           QStringLiteral("La plantilla «%1» pide la columna «%2», que la tabla %3 no tiene.")
               .arg(t.name, column, t.table)
               .toStdString());
-    positions.push_back(position);
+    }
+    positions_.push_back(position);
   }
-  return positions;
 }
 
 bool holds(const Condition& condition, const Source& source) {
+  if (condition.changes)
+    return std::any_of(condition.columns.begin(), condition.columns.end(), [&](int column) {
+      return source.value(column) != source.value(column, true);
+    });
   const bool any = std::any_of(condition.columns.begin(), condition.columns.end(), [&](int column) {
     const QString& value = source.value(column);
     return condition.pattern ? condition.pattern->match(value).hasMatch() : !isBlankValue(value);

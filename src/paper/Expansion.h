@@ -2,6 +2,7 @@
 
 #include <QList>
 #include <QString>
+#include <map>
 #include <vector>
 
 #include "paper/Row.h"
@@ -9,22 +10,43 @@
 
 namespace fidaleon::paper {
 
+/// Values that a template may print and that no row holds, by their names without the "@".
+using GivenValues = std::map<QString, QString>;
+
+/// Where the values of a template's columns come from.
+class Binding {
+ public:
+  /// Throws Error(MissingColumn) that names template, column and table.
+  Binding(const ReportTemplate& t, const Rows& rows, const GivenValues& given);
+
+  static constexpr int kMark = -1;
+  /// A position in the rows, kMark, or, below that, a given value.
+  int position(int column) const { return positions_[static_cast<std::size_t>(column)]; }
+  const QString& given(int position) const {
+    return given_[static_cast<std::size_t>(kMark - 1 - position)];
+  }
+
+ private:
+  std::vector<int> positions_;
+  std::vector<QString> given_;
+};
+
 /// What a template's text is filled from.
 struct Source {
   const Rows* rows = nullptr;
+  const Binding* binding = nullptr;
   std::size_t row = 0;
-  const std::vector<int>* positions = nullptr;  // of the template's columns in rows
+  std::size_t lastRow = 0;
   int page = 1;
   int pages = 1;
+  QString mark = {};
 
-  const QString& value(int column) const {
-    return rows->value(row, (*positions)[static_cast<std::size_t>(column)]);
+  const QString& value(int column, bool ofLastRow = false) const {
+    const int position = binding->position(column);
+    if (position >= 0) return rows->value(ofLastRow ? lastRow : row, position);
+    return position == Binding::kMark ? mark : binding->given(position);
   }
 };
-
-/// Where a table's rows hold the columns of a template.
-/// Throws Error(MissingColumn) that names template, column and table.
-std::vector<int> positionsOf(const ReportTemplate& t, const Rows& rows);
 
 bool holds(const Condition& condition, const Source& source);
 

@@ -28,6 +28,8 @@ class Fragment : public std::enable_shared_from_this<Fragment> {
   virtual Parts split(qreal available, bool must) const;
   /// Empty space, which is dropped at the top of a page.
   virtual bool isSpace() const { return false; }
+  /// Without the space that it begins with; null when it is nothing else.
+  virtual FragmentPtr withoutLeadingSpace() const;
 };
 
 }  // namespace fidaleon::paper

@@ -2,6 +2,9 @@
 
 #include <QPainter>
 #include <algorithm>
+#include <cmath>
+
+#include "paper/Units.h"
 
 namespace fidaleon::paper {
 
@@ -9,6 +12,29 @@ Fragment::Parts Fragment::split(qreal available, bool must) const {
   if (must || height() <= available) return {shared_from_this(), nullptr};
   return {nullptr, shared_from_this()};
 }
+
+FragmentPtr Fragment::withoutLeadingSpace() const {
+  return shared_from_this();
+}
+
+namespace {
+
+constexpr qreal kDot = 0.18;       // millimetres across
+constexpr qreal kDotStep = 1.1;    // from dot to dot
+constexpr qreal kLeaderGap = 1.2;  // between text and its dots
+
+/// Dots stand at whole steps from the right, so that those of several lines are in columns.
+void paintDots(QPainter& painter, qreal left, qreal right, qreal y) {
+  if (right <= left) return;
+  const qreal dot = dotsOfMillimetres(kDot);
+  QPen pen(Qt::black, dot, Qt::CustomDashLine, Qt::FlatCap);
+  pen.setDashPattern({1, kDotStep / kDot - 1});
+  painter.setPen(pen);
+  painter.drawLine(QPointF(right, y), QPointF(left, y));
+  painter.setPen(Qt::black);
+}
+
+}  // namespace
 
 void RuleFragment::paint(QPainter& painter, QPointF topLeft) const {
   painter.fillRect(QRectF(topLeft, QSizeF(width_, thickness_)),
@@ -59,6 +85,31 @@ Fragment::Parts TextFragment::split(qreal available, bool must) const {
   return {part(first_, first_ + fits), part(first_ + fits, last_)};
 }
 
+void LeaderFragment::paint(QPainter& painter, QPointF topLeft) const {
+  TextFragment::paint(painter, topLeft);
+  const int last = layout().lineCount() - 1;
+  const QTextLine line = layout().lineAt(last);
+  const qreal lead = (heightOf(last) - line.height()) / 2;
+  const qreal baseline = topLeft.y() + height() - heightOf(last) + lead + line.ascent();
+  paintDots(painter,
+            topLeft.x() + line.x() + line.naturalTextWidth() + dotsOfMillimetres(kLeaderGap),
+            topLeft.x() + width_, baseline - dotsOfMillimetres(kDot) / 2);
+}
+
+void WriteLinesFragment::paint(QPainter& painter, QPointF topLeft) const {
+  // A hair's breadth, so that rounding takes no line away.
+  for (qreal y = spacing_; y <= height_ + 1; y += spacing_)
+    paintDots(painter, topLeft.x(), topLeft.x() + width_, topLeft.y() + y);
+}
+
+Fragment::Parts WriteLinesFragment::split(qreal available, bool must) const {
+  if (height_ <= available) return {shared_from_this(), nullptr};
+  const qreal head = std::floor(available / spacing_) * spacing_;
+  if (head <= 0) return Fragment::split(available, must);
+  return {std::make_shared<WriteLinesFragment>(width_, head, spacing_),
+          std::make_shared<WriteLinesFragment>(width_, height_ - head, spacing_)};
+}
+
 StackFragment::StackFragment(std::vector<FragmentPtr> children, bool keep)
     : children_(std::move(children)), keep_(keep), height_(0) {
   for (const FragmentPtr& c : children_) height_ += c->height();
@@ -97,6 +148,17 @@ Fragment::Parts StackFragment::split(qreal available, bool must) const {
   return {stack(std::move(head)), stack(std::move(rest))};
 }
 
+FragmentPtr StackFragment::withoutLeadingSpace() const {
+  std::vector<FragmentPtr> left;
+  for (const FragmentPtr& c : children_)
+    if (!left.empty())
+      left.push_back(c);
+    else if (FragmentPtr kept = c->withoutLeadingSpace())
+      left.push_back(std::move(kept));
+  if (left.empty()) return nullptr;
+  return std::make_shared<StackFragment>(std::move(left), keep_);
+}
+
 ColumnsFragment::ColumnsFragment(std::vector<Column> columns, Look look)
     : columns_(std::move(columns)), look_(look), height_(0) {
   for (const Column& c : columns_)
@@ -105,7 +167,10 @@ ColumnsFragment::ColumnsFragment(std::vector<Column> columns, Look look)
 
 void ColumnsFragment::paint(QPainter& painter, QPointF topLeft) const {
   for (const Column& c : columns_) {
-    if (c.content) c.content->paint(painter, {topLeft.x() + c.x, topLeft.y()});
+    if (c.content) {
+      const qreal down = look_.atFoot ? height_ - c.content->height() : 0;
+      c.content->paint(painter, {topLeft.x() + c.x, topLeft.y() + down});
+    }
     if (look_.dividerThickness > 0 && &c != &columns_.front())
       painter.fillRect(
           QRectF(topLeft.x() + c.x - look_.gap / 2, topLeft.y(), look_.dividerThickness, height_),

@@ -13,6 +13,7 @@ class SpaceFragment : public Fragment {
   qreal height() const override { return height_; }
   void paint(QPainter&, QPointF) const override {}
   bool isSpace() const override { return true; }
+  FragmentPtr withoutLeadingSpace() const override { return nullptr; }
 
  private:
   qreal height_;
@@ -41,14 +42,46 @@ class TextFragment : public Fragment {
   void paint(QPainter& painter, QPointF topLeft) const override;
   Parts split(qreal available, bool must) const override;
 
- private:
+ protected:
+  const QTextLayout& layout() const { return *layout_; }
   qreal heightOf(int line) const;
+
+ private:
   FragmentPtr part(int first, int last) const;
 
   std::shared_ptr<const QTextLayout> layout_;
   int first_;
   int last_;  // one past the end
   qreal leading_;
+};
+
+/// A paragraph whose last line runs on in dots to the edge; it is not cut.
+class LeaderFragment : public TextFragment {
+ public:
+  LeaderFragment(std::shared_ptr<const QTextLayout> layout, int lines, qreal leading, qreal width)
+      : TextFragment(std::move(layout), 0, lines, leading), width_(width) {}
+  void paint(QPainter& painter, QPointF topLeft) const override;
+  Parts split(qreal available, bool must) const override {
+    return Fragment::split(available, must);
+  }
+
+ private:
+  qreal width_;
+};
+
+/// Dotted lines to write on by hand.
+class WriteLinesFragment : public Fragment {
+ public:
+  WriteLinesFragment(qreal width, qreal height, qreal spacing)
+      : width_(width), height_(height), spacing_(spacing) {}
+  qreal height() const override { return height_; }
+  void paint(QPainter& painter, QPointF topLeft) const override;
+  Parts split(qreal available, bool must) const override;
+
+ private:
+  qreal width_;
+  qreal height_;
+  qreal spacing_;
 };
 
 /// Pieces one below the other.
@@ -58,6 +91,7 @@ class StackFragment : public Fragment {
   qreal height() const override { return height_; }
   void paint(QPainter& painter, QPointF topLeft) const override;
   Parts split(qreal available, bool must) const override;
+  FragmentPtr withoutLeadingSpace() const override;
 
  private:
   std::vector<FragmentPtr> children_;
@@ -76,6 +110,7 @@ class ColumnsFragment : public Fragment {
     qreal dividerThickness = 0;  // 0: none
     qreal gap = 0;
     bool keep = false;
+    bool atFoot = false;  // each piece stands at the foot of the tallest
   };
   ColumnsFragment(std::vector<Column> columns, Look look);
   qreal height() const override { return height_; }

@@ -5,16 +5,6 @@
 namespace fidaleon::paper {
 namespace {
 
-int columnIndex(QString name, QStringList& columns) {
-  name = name.trimmed();
-  if (name.startsWith(QLatin1Char('[')) && name.endsWith(QLatin1Char(']')))
-    name = name.mid(1, name.size() - 2);
-  for (int i = 0; i < columns.size(); ++i)
-    if (columns[i].compare(name, Qt::CaseInsensitive) == 0) return i;
-  columns.append(name);
-  return static_cast<int>(columns.size()) - 1;
-}
-
 QString collapsed(const QString& text) {
   static const QRegularExpression blanks(QStringLiteral("[ \\t\\r\\n]+"));
   return QString(text).replace(blanks, QStringLiteral(" "));
@@ -27,7 +17,10 @@ Inline placeholder(const XmlNode& node, const QString& inside, QStringList& colu
                                               {QStringLiteral("dashes"), Filter::Dashes}};
   Inline item;
   const QString name = inside.section(QLatin1Char('|'), 0, 0).trimmed();
-  const auto filter = filters.find(inside.section(QLatin1Char('|'), 1).trimmed());
+  QStringList rest = inside.split(QLatin1Char('|')).mid(1);
+  for (QString& word : rest) word = word.trimmed();
+  item.ofLastRow = rest.removeAll(QStringLiteral("last")) > 0;
+  const auto filter = filters.find(rest.join(QLatin1Char('|')));
   if (name.isEmpty() || filter == filters.end())
     failAt(node, QStringLiteral("no se entiende «{{%1}}»").arg(inside));
   if (name == QLatin1String("@Pagina")) {
@@ -79,7 +72,9 @@ Inline readGroup(const XmlNode& node, QStringList& columns) {
   group.smallCaps = node.name == QLatin1String("sc");
   const bool asks = node.name == QLatin1String("if");
   const bool denies = node.name == QLatin1String("unless");
-  if (!group.bold && !group.italic && !group.smallCaps && !asks && !denies) failUnknown(node);
+  const bool changes = node.name == QLatin1String("change");
+  if (!changes && !group.bold && !group.italic && !group.smallCaps && !asks && !denies)
+    failUnknown(node);
   if (asks || denies) {
     refuseAttributes(node, {"column", "matches"});
     const QString column = node.attributes.value(QStringLiteral("column"));
@@ -88,6 +83,12 @@ Inline readGroup(const XmlNode& node, QStringList& columns) {
                                     {asks ? column : QString(), denies ? column : QString(),
                                      node.attributes.value(QStringLiteral("matches"))},
                                     columns);
+  } else if (changes) {
+    refuseAttributes(node, {"column"});
+    group.condition.emplace();
+    group.condition->changes = true;
+    group.condition->columns.push_back(
+        columnIndex(node.attributes.value(QStringLiteral("column")), columns));
   } else {
     refuseAttributes(node, {});
   }
@@ -96,6 +97,16 @@ Inline readGroup(const XmlNode& node, QStringList& columns) {
 }
 
 }  // namespace
+
+int columnIndex(QString name, QStringList& columns) {
+  name = name.trimmed();
+  if (name.startsWith(QLatin1Char('[')) && name.endsWith(QLatin1Char(']')))
+    name = name.mid(1, name.size() - 2);
+  for (int i = 0; i < columns.size(); ++i)
+    if (columns[i].compare(name, Qt::CaseInsensitive) == 0) return i;
+  columns.append(name);
+  return static_cast<int>(columns.size()) - 1;
+}
 
 std::vector<Inline> readInlines(const XmlNode& node, QStringList& columns) {
   std::vector<Inline> out;

@@ -22,6 +22,9 @@ struct ConditionText {
 std::optional<Condition> readCondition(const XmlNode& node, const ConditionText& text,
                                        QStringList& columns);
 
+/// Where a column stands in `columns`, to which it is added if it is not yet there.
+int columnIndex(QString name, QStringList& columns);
+
 /// Text of blanks only: what stands between the elements of a file.
 bool isBlankText(const XmlNode& node);
 

@@ -1,6 +1,8 @@
 #include "paper/PageComposer.h"
 
-#include "paper/Error.h"
+#include <algorithm>
+
+#include "paper/Fragments.h"
 #include "paper/Units.h"
 
 namespace fidaleon::paper {
@@ -11,39 +13,52 @@ constexpr qreal kHeaderGap = 4;  // millimetres
 
 }  // namespace
 
-PageComposer::PageComposer(const ReportTemplate& t, const Rows& rows,
-                           const std::vector<int>& positions)
-    : t_(t), rows_(rows), positions_(positions), layout_(t) {}
+PageComposer::PageComposer(const ReportTemplate& t, const Rows& rows, const Binding& binding,
+                           Mark mark)
+    : t_(t), rows_(rows), binding_(binding), mark_(std::move(mark)), layout_(t) {}
 
-std::vector<Page> PageComposer::compose(const Progress& progress) {
-  std::size_t firstPage = 0;
-  for (std::size_t row = 0; row < rows_.size(); ++row) {
-    if (t_.flow == Flow::Page) {
-      setTotals(firstPage);
-      firstPage = pages_.size();
-      number_ = 0;
-      startPage(row);
-    } else if (pages_.empty()) {
-      startPage(row);
-    }
-    if (FragmentPtr content = t_.flow == Flow::Page ? layOutToFit(row)
-                                                    : layout_.layOut(t_.body, source(row), width()))
-      place(std::move(content), row);
-    if (progress && !progress(row + 1, rows_.size()))
-      throw Error(ErrorKind::Cancelled, "Se ha cancelado la preparación del documento.");
-  }
-  setTotals(firstPage);
-  return std::move(pages_);
+std::size_t PageComposer::itemCount() const {
+  if (rows_.size() == 0) return 0;
+  return openings() + rows_.size() + (t_.closing.empty() ? 0 : 1);
 }
 
-qreal PageComposer::width() const {
+bool PageComposer::isRow(std::size_t item) const {
+  return item >= openings() && item < openings() + rows_.size();
+}
+
+std::size_t PageComposer::rowOf(std::size_t item) const {
+  return std::min(std::max(item, openings()) - openings(), rows_.size() - 1);
+}
+
+std::size_t PageComposer::rowsBefore(const Start& start) const {
+  return std::min(std::max(start.item, openings()) - openings(), rows_.size());
+}
+
+bool PageComposer::startsGroup(std::size_t row) const {
+  if (!t_.groupHead) return false;
+  if (row == 0) return true;
+  const auto value = [&](std::size_t r) { return source(r, 1).value(t_.groupHead->column); };
+  return value(row) != value(row - 1);
+}
+
+Source PageComposer::source(std::size_t row, int page) const {
+  return {&rows_, &binding_, row, row, page, page, mark_ ? mark_(row) : QString()};
+}
+
+qreal PageComposer::pageWidth() const {
   return dotsOfMillimetres(t_.page.width() - t_.marginLeft - t_.marginRight);
 }
 
-qreal PageComposer::bodyTop(std::size_t row) const {
+qreal PageComposer::columnWidth() const {
+  const qreal gaps = dotsOfMillimetres(t_.pageColumnGap) * (t_.pageColumns - 1);
+  return (pageWidth() - gaps) / t_.pageColumns;
+}
+
+qreal PageComposer::bodyTop(const Start& start) const {
   qreal top = dotsOfMillimetres(t_.marginTop);
-  if (number_ < t_.header.fromPage || t_.header.blocks.empty()) return top;
-  if (const FragmentPtr header = layout_.layOut(t_.header.blocks, source(row), width()))
+  if (start.number < t_.header.fromPage || t_.header.blocks.empty()) return top;
+  const Source from = source(rowOf(start.item), start.number);
+  if (const FragmentPtr header = layout_.layOut(t_.header.blocks, from, pageWidth()))
     top += header->height() + dotsOfMillimetres(kHeaderGap);
   return top;
 }
@@ -52,38 +67,127 @@ qreal PageComposer::bodyBottom() const {
   return dotsOfMillimetres(t_.page.height() - t_.marginBottom);
 }
 
+FragmentPtr PageComposer::furniture(const Furniture& f, const Page& page, int total) const {
+  if (f.blocks.empty() || page.number < f.fromPage || (f.onlyWhenSeveral && total < 2))
+    return nullptr;
+  Source from = source(page.firstRow, page.number);
+  from.lastRow = page.lastRow;
+  from.pages = total;
+  return layout_.layOut(f.blocks, from, pageWidth());
+}
+
 /// A document a few lines too long gets slightly smaller type rather than a second sheet.
 FragmentPtr PageComposer::layOutToFit(std::size_t row) const {
-  FragmentPtr natural = layout_.layOut(t_.body, source(row), width());
-  const qreal room = bodyBottom() - y_;
-  if (!natural || natural->height() <= room) return natural;
+  const Source from = source(row, 1);
+  FragmentPtr natural = layout_.layOut(t_.body, from, columnWidth());
+  if (t_.flow != Flow::Page || !natural) return natural;
+  const qreal room = bodyBottom() - bodyTop({row, {}, 1});
+  if (natural->height() <= room) return natural;
   for (qreal scale = 1 - kScaleStep; scale >= t_.smallestScale; scale -= kScaleStep) {
-    FragmentPtr smaller = BlockLayout(t_, scale).layOut(t_.body, source(row), width());
+    FragmentPtr smaller = BlockLayout(t_, scale).layOut(t_.body, from, columnWidth());
     if (smaller->height() <= room) return smaller;
   }
   return natural;
 }
 
-void PageComposer::startPage(std::size_t row) {
-  Page page;
-  page.number = ++number_;
-  pages_.push_back(std::move(page));
-  y_ = bodyTop(row);
-}
-
-void PageComposer::place(FragmentPtr content, std::size_t row) {
-  if (!pages_.back().parts.empty() && y_ + content->height() > bodyBottom()) startPage(row);
-  while (content) {
-    const Fragment::Parts parts = content->split(bodyBottom() - y_, true);
-    pages_.back().parts.push_back({parts.head, y_, row});
-    y_ += parts.head->height();
-    content = parts.rest;
-    if (content) startPage(row);
+FragmentPtr PageComposer::bodyOf(std::size_t item) {
+  if (held_ && heldItem_ == item) return held_;
+  const std::size_t row = rowOf(item);
+  if (isRow(item)) {
+    held_ = layOutToFit(row);
+  } else {
+    Source whole = source(0, 1);
+    whole.lastRow = rows_.size() - 1;
+    if (item >= openings()) whole.row = whole.lastRow;
+    held_ = item < openings() ? layout_.layOut(t_.opening, whole, pageWidth(), true)
+                              : layout_.layOut(t_.closing, whole, columnWidth(), true);
   }
+  heldItem_ = item;
+  return held_;
 }
 
-void PageComposer::setTotals(std::size_t firstPage) {
-  for (std::size_t i = firstPage; i < pages_.size(); ++i) pages_[i].total = number_;
+/// Puts what stands above a row on top of it, to stay with it.
+FragmentPtr PageComposer::withHead(FragmentPtr body, std::size_t item, bool columnIsEmpty) {
+  if (!body || !isRow(item)) return body;
+  const std::size_t row = rowOf(item);
+  FragmentPtr head;
+  if (startsGroup(row)) {
+    head = layout_.layOut(t_.groupHead->blocks, source(row, 1), columnWidth());
+    if (head && columnIsEmpty) head = head->withoutLeadingSpace();
+  } else if (!columnIsEmpty && !t_.between.empty()) {
+    head = layout_.layOut(t_.between, source(row, 1), columnWidth());
+  }
+  if (!head) return body;
+  return std::make_shared<StackFragment>(std::vector<FragmentPtr>{std::move(head), std::move(body)},
+                                         true);
+}
+
+FragmentPtr PageComposer::remaining(const Start& start, bool columnIsEmpty) {
+  FragmentPtr left = withHead(bodyOf(start.item), start.item, columnIsEmpty);
+  for (const qreal cut : start.cuts)
+    if (left) left = left->split(cut, true).rest;
+  return left;
+}
+
+bool PageComposer::mustStartPage(const Start& start, const Page& page) const {
+  if (page.parts.empty()) return false;
+  return t_.flow == Flow::Page && start.cuts.empty();
+}
+
+/// The opening stands above all columns of the page.
+qreal PageComposer::placeOpening(qreal top, Page& page, Start& start) {
+  if (start.item >= openings()) return top;
+  Column across{dotsOfMillimetres(t_.marginLeft), top, top};
+  if (FragmentPtr opening = bodyOf(start.item)) put(std::move(opening), across, page, start.item);
+  ++start.item;
+  return across.y;
+}
+
+void PageComposer::put(FragmentPtr content, Column& column, Page& page, std::size_t item) {
+  const std::size_t row = rowOf(item);
+  if (page.parts.empty()) page.firstRow = row;
+  page.lastRow = row;
+  const qreal height = content->height();
+  page.parts.push_back({std::move(content), column.left, column.y, row, isRow(item)});
+  column.y += height;
+}
+
+/// False when the next item belongs on another page.
+bool PageComposer::fill(Column& column, Page& page, Start& start) {
+  for (; !atEnd(start); ++start.item, start.cuts.clear()) {
+    if (mustStartPage(start, page)) return false;
+    FragmentPtr content = remaining(start, column.empty());
+    if (!content) continue;
+    const qreal room = bodyBottom() - column.y;
+    if (content->height() <= room) {
+      put(std::move(content), column, page, start.item);
+      continue;
+    }
+    if (!column.empty()) return true;
+    const Fragment::Parts parts = content->split(room, true);
+    put(parts.head, column, page, start.item);
+    if (!parts.rest) continue;
+    start.cuts.push_back(room);
+    return true;
+  }
+  return false;
+}
+
+Page PageComposer::compose(Start& start) {
+  Page page;
+  page.number = start.number;
+  page.firstRow = page.lastRow = rowOf(start.item);
+  const bool titlePage = start.item < openings() && t_.openingHasItsPage;
+  const qreal top = placeOpening(bodyTop(start), page, start);
+  for (int i = 0; i < t_.pageColumns && !titlePage; ++i) {
+    const qreal left = dotsOfMillimetres(t_.marginLeft) +
+                       i * (columnWidth() + dotsOfMillimetres(t_.pageColumnGap));
+    Column column{left, top, top};
+    if (!fill(column, page, start)) break;
+  }
+  const bool newDocument = t_.flow == Flow::Page && start.cuts.empty();
+  start.number = newDocument ? 1 : start.number + 1;
+  return page;
 }
 
 }  // namespace fidaleon::paper

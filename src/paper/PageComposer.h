@@ -7,48 +7,81 @@
 
 namespace fidaleon::paper {
 
-/// A row, or a part of one, at its place on a page.
+/// A row, or a part of one, at its place on a page; also what opens, closes and groups them.
 struct Placed {
   FragmentPtr content;
-  qreal top = 0;  // dots below the sheet's edge
+  qreal left = 0;  // dots from the sheet's edge
+  qreal top = 0;
   std::size_t row = 0;
+  bool isRow = true;
 };
 
 struct Page {
   std::vector<Placed> parts;
   int number = 1;
-  int total = 1;
+  std::size_t firstRow = 0;
+  std::size_t lastRow = 0;
 };
 
-/// Measures each row and places it; no row is cut in two where it fits on a page.
+/// Makes one page after the other, and any page again from where it begins. Each row is measured
+/// and placed; none is cut in two where it fits on a page.
 class PageComposer {
  public:
-  /// Told after each row how many are done; false stops the work.
-  using Progress = std::function<bool(std::size_t done, std::size_t total)>;
+  /// Where a page begins. Small, so that those of a long document can be kept.
+  struct Start {
+    std::size_t item = 0;
+    std::vector<qreal> cuts;  // heights at which earlier pages have cut the item
+    int number = 1;
+  };
+  using Mark = std::function<QString(std::size_t row)>;
 
   /// All must outlive the composer.
-  PageComposer(const ReportTemplate& t, const Rows& rows, const std::vector<int>& positions);
+  PageComposer(const ReportTemplate& t, const Rows& rows, const Binding& binding, Mark mark);
 
-  /// Throws Error(Cancelled).
-  std::vector<Page> compose(const Progress& progress);
+  bool atEnd(const Start& start) const { return start.item >= itemCount(); }
+  /// Rows that stand on the pages before. Never more than there are.
+  std::size_t rowsBefore(const Start& start) const;
+  /// Makes the page and moves on to where the next one begins.
+  Page compose(Start& start);
+
+  /// A header or footer; null when it prints nothing.
+  FragmentPtr furniture(const Furniture& f, const Page& page, int total) const;
 
  private:
-  Source source(std::size_t row) const { return {&rows_, row, &positions_, 1, 1}; }
-  qreal width() const;
-  qreal bodyTop(std::size_t row) const;
+  struct Column {
+    qreal left, top, y;
+    bool empty() const { return y <= top; }
+  };
+
+  // What opens and what closes the document are items like its rows.
+  std::size_t openings() const { return t_.opening.empty() ? 0 : 1; }
+  std::size_t itemCount() const;
+  bool isRow(std::size_t item) const;
+  std::size_t rowOf(std::size_t item) const;
+  bool startsGroup(std::size_t row) const;
+  Source source(std::size_t row, int page) const;
+
+  qreal pageWidth() const;
+  qreal columnWidth() const;
+  qreal bodyTop(const Start& start) const;
   qreal bodyBottom() const;
   FragmentPtr layOutToFit(std::size_t row) const;
-  void startPage(std::size_t row);
-  void place(FragmentPtr content, std::size_t row);
-  void setTotals(std::size_t firstPage);
+  FragmentPtr bodyOf(std::size_t item);
+  FragmentPtr withHead(FragmentPtr body, std::size_t item, bool columnIsEmpty);
+  FragmentPtr remaining(const Start& start, bool columnIsEmpty);
+  bool mustStartPage(const Start& start, const Page& page) const;
+  qreal placeOpening(qreal top, Page& page, Start& start);
+  bool fill(Column& column, Page& page, Start& start);
+  void put(FragmentPtr content, Column& column, Page& page, std::size_t item);
 
   const ReportTemplate& t_;
   const Rows& rows_;
-  const std::vector<int>& positions_;
+  const Binding& binding_;
+  Mark mark_;
   BlockLayout layout_;
-  std::vector<Page> pages_;
-  int number_ = 0;
-  qreal y_ = 0;
+  // The row that did not fit any more is the first one of the next page.
+  std::size_t heldItem_ = 0;
+  FragmentPtr held_;
 };
 
 }  // namespace fidaleon::paper

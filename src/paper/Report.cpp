@@ -1,16 +1,17 @@
 #include "paper/Report.h"
 
-#include <QBuffer>
 #include <QPageLayout>
 #include <QPainter>
 #include <QPdfWriter>
 #include <QPrinter>
-#include <QSaveFile>
 #include <QtMath>
 #include <algorithm>
 #include <cmath>
+#include <optional>
+#include <stdexcept>
 
-#include "paper/PageComposer.h"
+#include "paper/CheckedFile.h"
+#include "paper/Pages.h"
 #include "paper/SortOrder.h"
 #include "paper/TemplateReader.h"
 #include "paper/Units.h"
@@ -20,24 +21,23 @@ namespace fidaleon::paper {
 struct Report::Impl {
   ReportTemplate layout;
   Rows rows;
-  std::vector<int> positions;
   QString title;
   ReportOptions options;
-  std::vector<Page> pages;
+  Binding binding;
+  std::vector<std::optional<QString>> marks;
+  Pages pages;
 
-  void paintFurniture(QPainter& painter, const Page& page) const;
-  void paintMarks(QPainter& painter, const Page& page) const;
-  void writePdf(QBuffer& to, const Report& report) const;
-  bool shows(const Furniture& f, const Page& page) const {
-    return !f.blocks.empty() && page.number >= f.fromPage && (!f.onlyWhenSeveral || page.total > 1);
-  }
-  Source source(const Page& page) const {
-    const std::size_t row = page.parts.empty() ? 0 : page.parts.front().row;
-    return {&rows, row, &positions, page.number, page.total};
-  }
-  void reportProgress(int done, int total) const {
-    if (options.progress &&
-        !options.progress(static_cast<std::size_t>(done), static_cast<std::size_t>(total)))
+  Impl(ReportTemplate t, Rows r, QString name, ReportOptions o);
+  const QString& markOf(std::size_t row);
+  void composeAll();
+  int totalOf(int page) { return layout.readsTotal ? pages.totalOf(page) : 0; }
+
+  void paint(QPainter& painter, int number);
+  void paintFurniture(QPainter& painter, const Page& page, int total) const;
+  void paintMarks(QPainter& painter, const Page& page);
+  void writePdf(QIODevice& to);
+  void reportProgress(std::size_t done, std::size_t total) const {
+    if (options.progress && !options.progress(done, total))
       throw Error(ErrorKind::Cancelled, "Se ha cancelado el documento.");
   }
 };
@@ -77,16 +77,41 @@ void paintMark(QPainter& painter, const QString& word, const QRectF& area) {
 
 }  // namespace
 
+Report::Impl::Impl(ReportTemplate t, Rows r, QString name, ReportOptions o)
+    : layout(std::move(t)),
+      rows(std::move(r)),
+      title(std::move(name)),
+      options(std::move(o)),
+      binding(layout, rows, options.values),
+      marks(rows.size()),
+      pages(layout, rows, binding, [this](std::size_t row) { return markOf(row); }) {
+  sortRows(rows, layout, binding, options.order);
+}
+
+const QString& Report::Impl::markOf(std::size_t row) {
+  std::optional<QString>& mark = marks[row];
+  if (!mark) mark = options.mark ? options.mark(Row(rows, row)) : QString();
+  return *mark;
+}
+
+void Report::Impl::composeAll() {
+  while (!pages.complete()) {
+    pages.composeNext();
+    reportProgress(pages.rows(), rows.size());
+  }
+}
+
 Report::Report(store::Connection& reports, const std::filesystem::path& templateDirectory,
                const std::string& templateName, QString title, ReportOptions options) {
   ReportTemplate layout = readTemplate(templateDirectory, templateName);
-  Rows rows(reports, layout.table.toStdString());
-  impl_ = std::make_unique<Impl>(
-      Impl{std::move(layout), std::move(rows), {}, std::move(title), std::move(options), {}});
-  impl_->positions = positionsOf(impl_->layout, impl_->rows);
-  sortRows(impl_->rows, impl_->layout, impl_->positions, impl_->options.order);
-  impl_->pages =
-      PageComposer(impl_->layout, impl_->rows, impl_->positions).compose(impl_->options.progress);
+  QStringList wanted = layout.columns;
+  wanted << QStringLiteral("Libro") << QStringLiteral("Folio") << QStringLiteral("Numero");
+  Rows rows(reports, layout.table.toStdString(), wanted);
+  options.values[QStringLiteral("Filas")] = QString::number(rows.size());
+  const bool whole = options.composition == ReportOptions::Composition::Whole;
+  impl_ = std::make_unique<Impl>(std::move(layout), std::move(rows), std::move(title),
+                                 std::move(options));
+  if (whole) impl_->composeAll();
 }
 
 Report::~Report() = default;
@@ -100,54 +125,76 @@ std::size_t Report::rowCount() const {
   return impl_->rows.size();
 }
 int Report::pageCount() const {
-  return static_cast<int>(impl_->pages.size());
+  impl_->composeAll();
+  return impl_->pages.count();
 }
 QSizeF Report::pageSizeMillimetres() const {
   return impl_->layout.page;
 }
 
-void Report::Impl::paintFurniture(QPainter& painter, const Page& page) const {
-  const BlockLayout blocks(layout);
-  const qreal left = dotsOfMillimetres(layout.marginLeft);
-  const qreal width =
-      dotsOfMillimetres(layout.page.width() - layout.marginLeft - layout.marginRight);
-  if (shows(layout.header, page))
-    if (const FragmentPtr header = blocks.layOut(layout.header.blocks, source(page), width))
-      header->paint(painter, {left, dotsOfMillimetres(layout.marginTop)});
-  if (shows(layout.footer, page))
-    if (const FragmentPtr footer = blocks.layOut(layout.footer.blocks, source(page), width))
-      footer->paint(painter, {left, dotsOfMillimetres(layout.page.height() - layout.marginBottom +
-                                                      kFooterGap)});
+bool Report::composeMore(std::chrono::milliseconds time) {
+  const auto end = std::chrono::steady_clock::now() + time;
+  while (!isComplete()) {
+    impl_->pages.composeNext();
+    if (std::chrono::steady_clock::now() >= end) break;
+  }
+  return isComplete();
+}
+bool Report::isComplete() const {
+  return impl_->pages.complete();
+}
+int Report::composedPages() const {
+  return impl_->pages.count();
+}
+std::size_t Report::composedRows() const {
+  return impl_->pages.rows();
+}
+int Report::heldPages() const {
+  return impl_->pages.held();
 }
 
-void Report::Impl::paintMarks(QPainter& painter, const Page& page) const {
-  if (!options.mark) return;
+void Report::Impl::paintFurniture(QPainter& painter, const Page& page, int total) const {
   const qreal left = dotsOfMillimetres(layout.marginLeft);
-  const qreal right = dotsOfMillimetres(layout.page.width() - layout.marginRight);
+  if (const FragmentPtr header = pages.furniture(layout.header, page, total))
+    header->paint(painter, {left, dotsOfMillimetres(layout.marginTop)});
+  if (const FragmentPtr footer = pages.furniture(layout.footer, page, total))
+    footer->paint(painter, {left, dotsOfMillimetres(layout.page.height() - layout.marginBottom +
+                                                    kFooterGap)});
+}
+
+void Report::Impl::paintMarks(QPainter& painter, const Page& page) {
+  if (!options.mark || !layout.marksAcross) return;
+  const qreal gaps = layout.pageColumnGap * (layout.pageColumns - 1);
+  const qreal width = dotsOfMillimetres(
+      (layout.page.width() - layout.marginLeft - layout.marginRight - gaps) / layout.pageColumns);
   const qreal bottom = dotsOfMillimetres(layout.page.height() - layout.marginBottom);
   QFont face;
   face.setFamilies(layout.fonts);
   painter.setFont(face);
   for (const Placed& part : page.parts) {
-    const QString word = options.mark(Row(rows, part.row));
-    if (word.isEmpty()) continue;
+    if (!part.isRow || markOf(part.row).isEmpty()) continue;
     const qreal foot = layout.flow == Flow::Page ? bottom : part.top + part.content->height();
-    paintMark(painter, word, QRectF(QPointF(left, part.top), QPointF(right, foot)));
+    paintMark(painter, markOf(part.row), QRectF(part.left, part.top, width, foot - part.top));
   }
 }
 
-void Report::paintPage(QPainter& painter, int number) const {
-  const Page& page = impl_->pages.at(static_cast<std::size_t>(number));
+void Report::Impl::paint(QPainter& painter, int number) {
+  const int total = totalOf(number);
+  const std::shared_ptr<const Page> page = pages.page(number);
   painter.save();
   painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
   painter.scale(painter.device()->logicalDpiX() / kDotsPerInch,
                 painter.device()->logicalDpiY() / kDotsPerInch);
-  impl_->paintMarks(painter, page);
+  paintMarks(painter, *page);
   painter.setPen(Qt::black);
-  impl_->paintFurniture(painter, page);
-  for (const Placed& part : page.parts)
-    part.content->paint(painter, {dotsOfMillimetres(impl_->layout.marginLeft), part.top});
+  paintFurniture(painter, *page, total);
+  for (const Placed& part : page->parts) part.content->paint(painter, {part.left, part.top});
   painter.restore();
+}
+
+void Report::paintPage(QPainter& painter, int page) const {
+  if (!impl_->pages.has(page)) throw std::out_of_range("page");
+  impl_->paint(painter, page);
 }
 
 QImage Report::pageImage(int page, int dotsPerInch) const {
@@ -162,33 +209,35 @@ QImage Report::pageImage(int page, int dotsPerInch) const {
 }
 
 void Report::savePdf(const std::filesystem::path& path) const {
-  QSaveFile file(QString::fromStdString(path.string()));
+  const QString name = QString::fromStdString(path.string());
   const auto refuse = [&] {
     throw Error(ErrorKind::CannotWrite,
                 QStringLiteral("No se puede guardar el documento en «%1». Compruebe que la carpeta "
                                "existe, que puede escribir en ella y que queda sitio en el disco.")
-                    .arg(file.fileName())
+                    .arg(name)
                     .toStdString());
   };
-  if (!file.open(QIODevice::WriteOnly)) refuse();
-  QBuffer made;
-  impl_->writePdf(made, *this);
-  // The writer of PDF does not look at what the disk answers, so the file is written here.
-  if (file.write(made.data()) != made.size() || !file.flush() || !file.commit()) refuse();
+  CheckedFile file(name);
+  if (!file.start()) refuse();
+  impl_->writePdf(file);
+  if (!file.commit()) refuse();
 }
 
-void Report::Impl::writePdf(QBuffer& to, const Report& report) const {
-  to.open(QIODevice::WriteOnly);
+void Report::Impl::writePdf(QIODevice& to) {
   QPdfWriter writer(&to);
   writer.setTitle(title);
   writer.setCreator(QStringLiteral("Fidaleon"));
   writer.setResolution(static_cast<int>(kDotsPerInch));
   writer.setPageLayout(sheetOf(layout));
   QPainter painter(&writer);
-  for (int page = 0; page < report.pageCount(); ++page) {
+  const bool counted = pages.complete();
+  for (int page = 0; pages.has(page); ++page) {
     if (page > 0) writer.newPage();
-    report.paintPage(painter, page);
-    reportProgress(page + 1, report.pageCount());
+    paint(painter, page);
+    if (counted)
+      reportProgress(static_cast<std::size_t>(page) + 1, static_cast<std::size_t>(pages.count()));
+    else
+      reportProgress(pages.rows(), rows.size());
   }
 }
 
@@ -213,7 +262,8 @@ void Report::print(QPrinter& printer) const {
     for (int page = first; page < last; ++page) {
       if ((copy > 0 || page > first) && !printer.newPage()) refuse();
       paintPage(painter, page);
-      impl_->reportProgress(page + 1, pageCount());
+      impl_->reportProgress(static_cast<std::size_t>(page) + 1,
+                            static_cast<std::size_t>(pageCount()));
     }
   if (!painter.end()) refuse();
 }

@@ -3,12 +3,14 @@
 #include <QImage>
 #include <QSizeF>
 #include <QString>
+#include <chrono>
 #include <filesystem>
 #include <functional>
 #include <memory>
 #include <string>
 
 #include "paper/Error.h"
+#include "paper/Expansion.h"
 #include "paper/Row.h"
 #include "store/Connection.h"
 
@@ -20,14 +22,29 @@ namespace fidaleon::paper {
 struct ReportOptions {
   /// "+{@Folio},+{@Numero}": formulas of the template. Empty: as the rows were written.
   std::string order;
-  /// A word printed large across a row, such as "ANULADA"; empty for none. Asked once per row.
+  /// A word printed large across a row, such as "ANULADA", and by the template as {{@Marca}};
+  /// empty for none. Asked once per row. The row has the columns that the template reads, and
+  /// Libro, Folio and Numero.
   std::function<QString(const Row&)> mark;
-  /// Told after each row and, while writing or printing, after each page; false cancels.
+  /// Told after each page how many rows are laid out, or, once all are, how many pages are
+  /// written or printed; false cancels.
   std::function<bool(std::size_t done, std::size_t total)> progress;
+  /// What a template prints as {{@Name}}, by name without "@": the institution and the book of a
+  /// printed book, whose rows do not hold them. "Filas" and "Marca" are taken. Absent is blank.
+  GivenValues values;
+  enum class Composition {
+    Whole,     // the constructor lays out all pages
+    AsNeeded,  // it lays out none: see composeMore
+  };
+  Composition composition = Composition::Whole;
 };
 
 /// A template over the rows that its scratch table holds now, laid out on pages. Reads all it
 /// needs when it is made: the table may be emptied afterwards. Needs a QGuiApplication.
+///
+/// A document of any length takes little memory beside its rows: of a page only its beginning is
+/// kept, and the page is laid out again when it is asked for. To be used from one thread, also
+/// where const. Progress that cancels leaves a report that can go on where it stopped.
 class Report {
  public:
   /// `title` goes into the PDF and the print queue.
@@ -40,12 +57,23 @@ class Report {
 
   const QString& title() const;
   std::size_t rowCount() const;
-  /// 0 when the table has no rows.
+  /// 0 when the table has no rows. Lays out what is left; may throw Error(Cancelled).
   int pageCount() const;
+  /// Lays out pages until all are (true) or the time is over (false), at least one page. For a
+  /// preview that shows its first page while the rest is counted; progress is not asked.
+  bool composeMore(std::chrono::milliseconds time);
+  bool isComplete() const;
+  /// So far; pageCount() once complete.
+  int composedPages() const;
+  std::size_t composedRows() const;
+  /// Pages whose layout is held now: a few, whatever the length of the document.
+  int heldPages() const;
   QSizeF pageSizeMillimetres() const;
 
-  /// Pages count from 0. The painter's origin is the corner of the sheet, whose size is that of
-  /// the page at its device's resolution; scale the painter before to zoom.
+  /// Pages count from 0; one not yet laid out is, with all before it (and, where the template
+  /// prints the count of pages, with all after it). The painter's origin is the corner of the
+  /// sheet, whose size is that of the page at its device's resolution; scale the painter before to
+  /// zoom.
   void paintPage(QPainter& painter, int page) const;
   QImage pageImage(int page, int dotsPerInch) const;
 

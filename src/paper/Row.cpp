@@ -1,5 +1,8 @@
 #include "paper/Row.h"
 
+#include <QSet>
+#include <algorithm>
+
 #include "text/Utf8.h"
 
 namespace fidaleon::paper {
@@ -7,6 +10,8 @@ namespace {
 
 QString printable(const std::string& stored) {
   QString s = QString::fromStdString(text::sanitized(stored));
+  const bool plain = std::none_of(s.begin(), s.end(), [](QChar c) { return c < QLatin1Char(' '); });
+  if (plain) return s.isNull() ? QStringLiteral("") : s;
   s.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
   s.replace(QLatin1Char('\r'), QLatin1Char('\n'));
   s.replace(QLatin1Char('\t'), QLatin1Char(' '));
@@ -15,17 +20,35 @@ QString printable(const std::string& stored) {
   return s.isNull() ? QStringLiteral("") : s;
 }
 
+QStringList columnsOf(store::Connection& connection, const std::string& table) {
+  const store::Recordset none = connection.Execute("SELECT * FROM " + table + " WHERE 1=0");
+  QStringList names;
+  for (int i = 0; i < none.FieldCount(); ++i)
+    names.append(QString::fromStdString(none.FieldName(i)));
+  return names;
+}
+
 }  // namespace
 
-Rows::Rows(store::Connection& connection, const std::string& table) {
-  store::Recordset rows = connection.Execute("SELECT * FROM " + table);
-  const int count = rows.FieldCount();
-  for (int i = 0; i < count; ++i) columns_.append(QString::fromStdString(rows.FieldName(i)));
+Rows::Rows(store::Connection& connection, const std::string& table, const QStringList& wanted) {
+  std::string list;
+  for (const QString& name : columnsOf(connection, table)) {
+    if (!wanted.contains(name, Qt::CaseInsensitive)) continue;
+    columns_.append(name);
+    list += (list.empty() ? "[" : ",[") + name.toStdString() + "]";
+  }
+  // A template without a column still has a page for each row.
+  store::Recordset rows =
+      connection.Execute("SELECT " + (list.empty() ? "1" : list) + " FROM " + table);
+  const int count = static_cast<int>(columns_.size());
+  // Names of towns and parishes come again and again: rows share them.
+  QSet<QString> known;
   for (; !rows.EOF_(); rows.MoveNext()) {
     std::vector<QString>& row = rows_.emplace_back(static_cast<std::size_t>(count));
     for (int i = 0; i < count; ++i) {
-      const store::Value value = rows.Fields(i).Value();
-      if (!value.isNull()) row[static_cast<std::size_t>(i)] = printable(value.text());
+      const store::Field field = rows.Fields(i);
+      if (!field.Value().isNull())
+        row[static_cast<std::size_t>(i)] = *known.insert(printable(field.Value().text()));
     }
   }
 }

@@ -12,8 +12,9 @@ namespace fidaleon::paper {
 /// The rows of a scratch table, as text that may be printed: control characters are taken out.
 class Rows {
  public:
-  /// All rows of the table, in the order in which they were written. Throws store::Error.
-  Rows(store::Connection& connection, const std::string& table);
+  /// All rows of the table, in the order in which they were written, with those of `wanted` that
+  /// the table has. Throws store::Error.
+  Rows(store::Connection& connection, const std::string& table, const QStringList& wanted);
   Rows(QStringList columns, std::vector<std::vector<QString>> rows);
 
   std::size_t size() const { return rows_.size(); }

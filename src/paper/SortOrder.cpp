@@ -65,15 +65,14 @@ int compareKeys(const Key& a, const Key& b) {
 
 }  // namespace
 
-void sortRows(Rows& rows, const ReportTemplate& t, const std::vector<int>& positions,
+void sortRows(Rows& rows, const ReportTemplate& t, const Binding& binding,
               const std::string& order) {
   const QString wanted = QString::fromStdString(order).trimmed();
   if (wanted.isEmpty()) return;
   const std::vector<Term> terms = parse(t, wanted);
   std::vector<std::vector<Key>> keys(rows.size());
   for (std::size_t i = 0; i < rows.size(); ++i)
-    for (const Term& term : terms)
-      keys[i].push_back(keyOf(*term.formula, {&rows, i, &positions, 1, 1}));
+    for (const Term& term : terms) keys[i].push_back(keyOf(*term.formula, {&rows, &binding, i, i}));
   std::vector<std::size_t> places(rows.size());
   std::iota(places.begin(), places.end(), std::size_t{0});
   std::stable_sort(places.begin(), places.end(), [&](std::size_t a, std::size_t b) {

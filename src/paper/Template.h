@@ -1,6 +1,10 @@
 #pragma once
 // What a template file says, as plain data. Lengths are millimetres and type sizes points, as in
 // the file. Columns are positions in ReportTemplate::columns.
+//
+// A column whose name begins with "@" is none of the table: "@Marca" is the word that marks the
+// row,
+// "@Filas" the count of rows, any other a value that the caller gives.
 
 #include <QRegularExpression>
 #include <QSizeF>
@@ -16,6 +20,7 @@ struct Condition {
   std::vector<int> columns;
   std::optional<QRegularExpression> pattern;
   bool negated = false;
+  bool changes = false;  // instead: the last row of the page has another value than the first
 };
 
 enum class Filter {
@@ -31,6 +36,7 @@ struct Inline {
   QString text;
   int column = -1;
   Filter filter = Filter::None;
+  bool ofLastRow = false;  // of the last row of the page (or document), not of its first
   // A group: its children, under a condition, in another face.
   std::vector<Inline> children;
   std::optional<Condition> condition;
@@ -48,7 +54,10 @@ struct TextStyle {
   qreal leading = 1;   // times the natural height of a line
   qreal before = 0;
   qreal after = 0;
-  qreal indent = 0;  // of the first line
+  qreal indent = 0;      // of the first line
+  qreal hang = 0;        // of all others
+  bool leader = false;   // dots from the end of the last line to the edge
+  bool oneLine = false;  // what does not fit is cut, with an ellipsis
   Qt::Alignment align = Qt::AlignLeft;
 };
 
@@ -61,21 +70,24 @@ struct Block {
     Field,    // a label and, on a hairline, a value
     Rule,
     Space,
+    WriteLines,  // dotted lines to write on; as the last block of a column, down to its foot
   };
   Kind kind = Kind::Group;
   TextStyle style;
   TextStyle labelStyle;  // Field
+  TextStyle valueStyle;  // Field: its style, whose leading goes above the value alone
   std::vector<Inline> label;
   std::vector<Inline> text;
   std::vector<Block> children;
   std::optional<Condition> condition;
   bool keep = false;      // not cut in two where it fits on a page
   qreal width = 0;        // Group in Columns: 0 shares what is left; Field: of the label
-  qreal height = 0;       // Space, Box (at least)
-  qreal gap = 0;          // Columns
+  qreal height = 0;       // Space, Box and WriteLines (at least)
+  qreal gap = 0;          // Columns; WriteLines: between two lines
   qreal padding = 0;      // Box
   qreal thickness = 0.2;  // Rule, Box, divider of Columns
   bool divider = false;   // Columns
+  bool atFoot = false;    // Columns: each stands at the foot of the tallest
   bool dashed = false;    // Box
   bool writeIn = false;   // Field: where there is no value, an empty line to write on
 };
@@ -99,6 +111,12 @@ enum class Flow {
   Continuous,  // rows follow one another
 };
 
+/// A heading above the first row of each run of rows that have the same value in a column.
+struct GroupHead {
+  int column = -1;
+  std::vector<Block> blocks;
+};
+
 struct ReportTemplate {
   QString name;
   QString table;
@@ -108,7 +126,17 @@ struct ReportTemplate {
   Flow flow = Flow::Page;
   qreal smallestScale = 1;  // type may shrink to this for a row to fit on one page
   QStringList fonts;
+  int pageColumns = 1;
+  qreal pageColumnGap = 8;
   std::vector<Block> body;
+  // Of a continuous flow: before the first row, after the last, between two of one page column.
+  std::vector<Block> opening;
+  bool openingHasItsPage = false;
+  std::vector<Block> closing;
+  std::vector<Block> between;
+  std::optional<GroupHead> groupHead;
+  bool marksAcross = true;  // a row's mark is printed large across it
+  bool readsTotal = false;  // something on a page depends on how many pages there are
   Furniture header;
   Furniture footer;
   std::vector<Formula> formulas;

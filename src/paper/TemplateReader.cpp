@@ -1,6 +1,7 @@
 #include "paper/TemplateReader.h"
 
 #include <QHash>
+#include <algorithm>
 #include <functional>
 
 #include "paper/Error.h"
@@ -81,6 +82,13 @@ class Reader {
     if (t_.table.isEmpty()) failAt(root, QStringLiteral("falta el atributo «table»"));
     for (const XmlNode& child : root.children) readTop(child);
     if (t_.body.empty()) failAt(root, QStringLiteral("falta el elemento «body»"));
+    const bool flowing = !t_.opening.empty() || !t_.closing.empty() || !t_.between.empty() ||
+                         t_.groupHead || t_.pageColumns > 1;
+    if (flowing && t_.flow != Flow::Continuous)
+      failAt(root, QStringLiteral("«opening», «closing», «between», «group-head» y las columnas de "
+                                  "página necesitan flow=\"continuous\""));
+    t_.readsTotal = t_.header.onlyWhenSeveral || t_.footer.onlyWhenSeveral ||
+                    readsTotal(t_.header.blocks) || readsTotal(t_.footer.blocks);
     return std::move(t_);
   }
 
@@ -94,6 +102,10 @@ class Reader {
         {QStringLiteral("header"), &Reader::readHeader},
         {QStringLiteral("footer"), &Reader::readFooter},
         {QStringLiteral("body"), &Reader::readBody},
+        {QStringLiteral("opening"), &Reader::readOpening},
+        {QStringLiteral("closing"), &Reader::readClosing},
+        {QStringLiteral("between"), &Reader::readBetween},
+        {QStringLiteral("group-head"), &Reader::readGroupHead},
     };
     if (isBlankText(node)) return;
     const auto found = known.find(node.name);
@@ -108,8 +120,12 @@ class Reader {
     t_.marginRight = a.number("right", t_.marginRight);
     t_.marginBottom = a.number("bottom", t_.marginBottom);
     t_.marginLeft = a.number("left", t_.marginLeft);
+    t_.pageColumns = static_cast<int>(a.number("columns", t_.pageColumns));
+    t_.pageColumnGap = a.number("column-gap", t_.pageColumnGap);
     a.done();
-    if (t_.page.width() - t_.marginLeft - t_.marginRight < 30 ||
+    if (t_.pageColumns < 1 ||
+        t_.page.width() - t_.marginLeft - t_.marginRight <
+            30 * t_.pageColumns + t_.pageColumnGap * (t_.pageColumns - 1) ||
         t_.page.height() - t_.marginTop - t_.marginBottom < 30)
       failAt(node, QStringLiteral("los márgenes no dejan sitio al texto"));
   }
@@ -156,8 +172,35 @@ class Reader {
   }
 
   void readBody(const XmlNode& node) {
-    Attributes(node).done();
+    Attributes a(node);
+    t_.marksAcross = a.flag("marks-across", true);
+    a.done();
     for (Block& block : readBlocks(node)) t_.body.push_back(std::move(block));
+  }
+
+  void readOpening(const XmlNode& node) {
+    Attributes a(node);
+    t_.openingHasItsPage = a.flag("own-page", false);
+    a.done();
+    t_.opening = readBlocks(node);
+  }
+
+  void readClosing(const XmlNode& node) {
+    Attributes(node).done();
+    t_.closing = readBlocks(node);
+  }
+
+  void readBetween(const XmlNode& node) {
+    Attributes(node).done();
+    t_.between = readBlocks(node);
+  }
+
+  void readGroupHead(const XmlNode& node) {
+    Attributes a(node);
+    const QString column = a.text("column");
+    a.done();
+    if (column.isEmpty()) failAt(node, QStringLiteral("falta el atributo «column»"));
+    t_.groupHead.emplace(columnIndex(column, t_.columns), readBlocks(node));
   }
 
   std::vector<Block> readBlocks(const XmlNode& node) {
@@ -178,6 +221,7 @@ class Reader {
         {QStringLiteral("field"), {Block::Kind::Field, &Reader::readField}},
         {QStringLiteral("rule"), {Block::Kind::Rule, &Reader::readRule}},
         {QStringLiteral("space"), {Block::Kind::Space, &Reader::readSpace}},
+        {QStringLiteral("write-lines"), {Block::Kind::WriteLines, &Reader::readWriteLines}},
     };
     const auto found = known.find(node.name);
     if (found == known.end()) failUnknown(node);
@@ -206,6 +250,7 @@ class Reader {
     block.gap = a.number("gap", 5);
     block.divider = a.flag("divider", false);
     block.keep = a.flag("keep", false);
+    block.atFoot = a.choice<bool>("align", false, {{"top", false}, {"bottom", true}});
     block.children = readBlocks(a.node());
     for (const XmlNode& child : a.node().children)
       if (!isBlankText(child) && child.name != QLatin1String("column"))
@@ -228,7 +273,10 @@ class Reader {
     block.width = a.number("label-width", 0);
     block.writeIn = a.flag("write-in", false);
     block.style = namedStyle(a);
+    block.valueStyle = block.style;
+    block.valueStyle.leading = 1;
     block.labelStyle = styles_.value(QStringLiteral("label"), base_);
+    block.labelStyle.align = Qt::AlignLeft;
     block.text = readInlines(a.node(), t_.columns);
   }
 
@@ -239,6 +287,23 @@ class Reader {
   }
 
   void readSpace(Attributes& a, Block& block) { block.height = a.number("height", 4); }
+
+  void readWriteLines(Attributes& a, Block& block) {
+    block.gap = a.number("spacing", 7);
+    block.height = a.number("height", block.gap);
+    if (block.gap < 1) failAt(a.node(), QStringLiteral("las rayas quedarían demasiado juntas"));
+  }
+
+  static bool readsTotal(const std::vector<Inline>& inlines) {
+    return std::any_of(inlines.begin(), inlines.end(), [](const Inline& i) {
+      return i.kind == Inline::Kind::PageTotal || readsTotal(i.children);
+    });
+  }
+  static bool readsTotal(const std::vector<Block>& blocks) {
+    return std::any_of(blocks.begin(), blocks.end(), [](const Block& b) {
+      return readsTotal(b.text) || readsTotal(b.label) || readsTotal(b.children);
+    });
+  }
 
   TextStyle namedStyle(Attributes& a) {
     const QString name = a.text("style");
@@ -257,6 +322,9 @@ class Reader {
     s.before = a.number("before", s.before);
     s.after = a.number("after", s.after);
     s.indent = a.number("indent", s.indent);
+    s.hang = a.number("hang", s.hang);
+    s.leader = a.flag("leader", s.leader);
+    s.oneLine = a.flag("one-line", s.oneLine);
     s.align = a.choice<Qt::Alignment>("align", s.align,
                                       {{"left", Qt::AlignLeft},
                                        {"right", Qt::AlignRight},

@@ -22,18 +22,24 @@ using ::testing::Not;
 
 class Documents : public ::testing::TestWithParam<Document> {
  protected:
+  bool isBook() const { return GetParam().operation.rfind("InformeLibro", 0) == 0; }
+  int shortest() const { return isBook() ? 2 : 1; }  // a book has a title page
+  bool hasNotes() const {
+    const std::vector<std::string> filled = columnsOf(GetParam().operation);
+    return std::count(filled.begin(), filled.end(), "NotasMarginales") > 0;
+  }
   Report report() const {
     return Report(*reports_, FIDALEON_TEMPLATES, GetParam().templateName, GetParam().title);
   }
   std::unique_ptr<store::Connection> reports_ = store::memoryDatabase(store::reportsSchema());
 };
 
-TEST_P(Documents, fullRow_printsOnOnePage_withItsValues) {
+TEST_P(Documents, fullRow_printsOnItsPage_withItsValues) {
   const Values row = fullRow(GetParam().operation);
   insert(*reports_, row);
   const Report r = report();
-  EXPECT_EQ(r.pageCount(), 1);
-  const std::string text = pdfText(r);
+  EXPECT_EQ(r.pageCount(), shortest());
+  const std::string text = text::replaceAll(pdfText(r), "- ", "-");  // broken at a hyphen
   const std::vector<std::string> expected{"NombreHijo", "PrimerApellidoHijo", "SegundoApellidoHijo",
                                           "NombrePadre", "NombreMadre"};
   for (const auto& [column, value] : row) {
@@ -43,19 +49,20 @@ TEST_P(Documents, fullRow_printsOnOnePage_withItsValues) {
   EXPECT_THAT(text, Not(HasSubstr("---")));
 }
 
-TEST_P(Documents, blankRow_printsOnOnePage) {
+TEST_P(Documents, blankRow_printsOnItsPage) {
   insert(*reports_, blankRow(GetParam().operation));
   const Report r = report();
-  EXPECT_EQ(r.pageCount(), 1);
+  EXPECT_EQ(r.pageCount(), shortest());
   EXPECT_THAT(pdfText(r), Not(HasSubstr("{{")));
 }
 
-TEST_P(Documents, nullRow_printsOnOnePage) {
+TEST_P(Documents, nullRow_printsOnItsPage) {
   insert(*reports_, {{"Libro", ""}});
-  EXPECT_EQ(report().pageCount(), 1);
+  EXPECT_EQ(report().pageCount(), shortest());
 }
 
 TEST_P(Documents, longNotes_goOnOverleaf_withoutLosingAWord) {
+  if (!hasNotes()) return;
   std::string notes;
   for (int i = 0; i < 1500; ++i) notes += "nota" + std::to_string(i) + " ";
   insert(*reports_, with(fullRow(GetParam().operation), "NotasMarginales", notes + "FIN"));
@@ -74,6 +81,7 @@ TEST_P(Documents, longNotes_goOnOverleaf_withoutLosingAWord) {
 TEST_P(Documents, columnsOfTheTemplate_areFilledByItsMember) {
   const std::vector<std::string> filled = columnsOf(GetParam().operation);
   for (const QString& column : readTemplate(FIDALEON_TEMPLATES, GetParam().templateName).columns) {
+    if (column.startsWith('@')) continue;
     const std::string name = column.toStdString();
     const bool found = std::any_of(filled.begin(), filled.end(), [&](const std::string& f) {
       return text::equalsNoCase(f, name) || text::equalsNoCase(f, "[" + name + "]");

@@ -32,6 +32,7 @@ const char* const kFamily =
     "AbuelaPaterna, PoblacionAbuelaPaterna, AbueloMaterno, PoblacionAbueloMaterno, "
     "AbuelaMaterna, PoblacionAbuelaMaterna, Padrino, Madrina, ProvinciaAbueloPaterno, "
     "ProvinciaAbuelaPaterna, ProvinciaAbueloMaterno, ProvinciaAbuelaMaterna";
+constexpr std::size_t kGrandparentProvinces = 4;  // the last ones of kFamily
 const char* const kPlace =
     "InstitucionNombre, InstitucionDiocesis, InstitucionPoblacion, InstitucionProvincia";
 
@@ -137,6 +138,10 @@ const std::map<std::string, std::string>& believable() {
       {"AbuelaMatParroquiaBaut", "La Trinidad"},
       {"AbuelaMatProvinciaParrBaut", "Guadalajara"},
       {"TelefonoPadres", "918 880 000"},
+      {"Año", "1987"},
+      {"Letra", "F"},
+      {"InstitucionParroco", "Andrés Quiñones Bermúdez"},
+      {"FechaCreacionLibro", "07/01/1985"},
   };
   return values;
 }
@@ -147,7 +152,9 @@ void adapt(const std::string& operation, Values& row) {
     for (auto& [c, v] : row)
       if (c == column) v = value;
   };
-  if (endsIn(operation, "PartidaBautismoMenorca") && operation.find("Certificado") != 0) {
+  const bool entry =
+      endsIn(operation, "PartidaBautismoMenorca") || operation == "InformeLibroBautismoMenorca";
+  if (entry && operation.find("Certificado") != 0) {
     set("[Al niño/A la niña]", "la filleta");
     set("[Nacido/Nacida]", "nada");
   }
@@ -196,8 +203,26 @@ std::vector<std::string> columnsOf(const std::string& operation) {
         "FechaNacLargaMeno");
     return out;
   }
+  if (operation.find("Indice") != std::string::npos) {
+    add(out,
+        "InstitucionNombre, InstitucionTipo, Libro, Folio, Numero, PrimerApellidoHijo, "
+        "SegundoApellidoHijo, NombreHijo, Año, Letra");
+    return out;
+  }
   add(out, kChild);
   add(out, kFamily);
+  if (operation.rfind("InformeLibro", 0) == 0) {
+    add(out, "Libro");
+    add(out, kGender);
+    return out;
+  }
+  if (operation.rfind("ImprimirDuplicadas", 0) == 0) {
+    out.resize(out.size() - kGrandparentProvinces);
+    add(out,
+        "Libro, InstitucionParroco, InstitucionNombre, InstitucionTipo, InstitucionPoblacion, "
+        "InstitucionProvincia, Año, FechaSistemaLarga, FechaCreacionLibro");
+    return out;
+  }
   add(out, "NotasMarginales");
   if (operation.find("Solicitud") == std::string::npos) add(out, "Libro");
   const bool plainCertificate = operation.rfind("InformeCertificadoPartida", 0) == 0;
