@@ -127,12 +127,16 @@ bool cBaseDatos::guardar(Conexion& conBaseDatos, cBautismo& partida, bool& blnSa
       case cCOperacion::EDITARSOLICITUD:
         return ActualizarPartidaBautismo(conBaseDatos, partida) && hecho(true);
       case cCOperacion::Borrar:
-        return BorrarPartidaBautismo(conBaseDatos, partida.IDBautismo) && hecho(false);
+        if (!BorrarPartidaBautismo(conBaseDatos, partida.IDBautismo)) return false;
+        partida.IDBautismo = 0;
+        return hecho(false);
       default:
         return true;
     }
   }
-  if (partida.Operacion == cCOperacion::Borrar) return true;
+  // It has a key when a former try stored it without its child.
+  if (partida.Operacion == cCOperacion::Borrar)
+    return partida.IDBautismo == 0 || BorrarPartidaBautismo(conBaseDatos, partida.IDBautismo);
   const bool antiguo = partida.Operacion == cCOperacion::ANTIGUA ||
                        (partida.CodLibroBautismo != 0 &&
                         !conBaseDatos
