@@ -241,6 +241,8 @@ Columns bautismoIndex() {
   };
 }
 
+// The dialog would leave the Null of a place as it is; a look-up gives none, so that its places
+// come out as those of the other documents.
 Columns bautismoDuplicate() {
   return joined({without(bautismoEntry(), {CHILD_WORD, BORN_WORD}),
                  {{"InstitucionParroco", Source::InstitutionStored, "Parroco"},
