@@ -6,7 +6,7 @@
 #include "core/contract/Guard.h"
 #include "core/contract/Sacramento.h"
 #include "core/facade/DialogoPartida.h"
-#include "core/facade/SesionBloqueos.h"
+#include "core/contract/SesionBloqueos.h"
 
 namespace fidaleon {
 

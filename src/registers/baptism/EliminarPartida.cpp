@@ -2,6 +2,7 @@
 
 #include "core/contract/EnSacramento.h"
 #include "core/contract/Guard.h"
+#include "core/contract/SesionBloqueos.h"
 #include "registers/baptism/FilasBautismo.h"
 #include "registers/common/Bloqueos.h"
 
@@ -18,58 +19,57 @@ bool esLaUltima(Conexion& conexion, std::int32_t lngID, const Sacramento& sacram
   store::Recordset partidas = conexion.Execute(
       enSacramento(sacramento, "SELECT IDBautismo FROM Bautismo WHERE CodLibro = ") + libro +
       " ORDER BY Folio, Val(Numero)");
+  if (partidas.EOF_()) return false;
   partidas.MoveLast();
   return partidas.integer(sacramento.clavePartida) == lngID;
 }
 
+/// Only a test: the lock itself is taken when the user has agreed.
+bool existeYEstaLibre(Contexto& contexto, Conexion& conexion, std::int32_t lngID,
+                      const Sacramento& sacramento) {
+  SesionBloqueos bloqueos(contexto, conexion);
+  bloqueos.definir(
+      bloqueoDeRegistro(conexion, sacramento.tablaPartidas, sacramento.clavePartida, lngID));
+  return bloqueos.comprobar();
+}
+
 }  // namespace
 
-void borrarFilasBautismo(Conexion& conBaseDatos, std::int32_t lngID) {
-  const std::string id = std::to_string(lngID);
-  const store::Recordset fila =
-      conBaseDatos.Execute("SELECT * FROM bautismo WHERE idbautismo=" + id);
-  if (fila.EOF_()) return;
-  conBaseDatos.Execute("DELETE * FROM Bautismo_Madres WHERE idmadres=" + fila.text("codmadres"));
-  conBaseDatos.Execute("DELETE * FROM bautismo_padres WHERE idpadres=" + fila.text("codpadres"));
-  conBaseDatos.Execute("DELETE * FROM bautismo_matrimonio WHERE idmatrimonio=" +
-                       fila.text("codmatrimonio"));
+void borrarFilasBautismo(Conexion& conBaseDatos, const store::Recordset& bautismo) {
+  const std::string id = bautismo.text("idbautismo");
+  const std::string madres = bautismo.text("codmadres");
+  const std::string padres = bautismo.text("codpadres");
+  const std::string matrimonio = bautismo.text("codmatrimonio");
+  conBaseDatos.Execute("DELETE * FROM Bautismo_Madres WHERE idmadres=" + madres);
+  conBaseDatos.Execute("DELETE * FROM bautismo_padres WHERE idpadres=" + padres);
+  conBaseDatos.Execute("DELETE * FROM bautismo_matrimonio WHERE idmatrimonio=" + matrimonio);
   conBaseDatos.Execute("DELETE * FROM bautismo_hijo WHERE codbautismo=" + id);
   conBaseDatos.Execute("DELETE * FROM bautismo WHERE idbautismo=" + id);
 }
 
 void borrarPartidaBautismo(Contexto& contexto, Conexion& conBaseDatos, std::int32_t lngID) {
   guarded(contexto, "cNucleo", "BorrarPartidaBautismo", [&] {
-    const auto sesion = abrirSesion(contexto, conBaseDatos);
+    SesionBloqueos bloqueos(contexto, conBaseDatos);
     if (!forms::ask(contexto.ui(), "¿Está seguro que desea eliminar la partida?")) return;
     const std::string id = std::to_string(lngID);
-    sesion->DefinirBloqueo(bloqueoDeRegistro(conBaseDatos, "Bautismo", "IdBautismo", lngID));
-    FDAPI::DefinicionBloqueo libro;
-    libro.strTabla = "Libro_Bautismo";
-    libro.strRegistro = "SELECT codLibro FROM Bautismo WHERE IDBautismo=" + id;
-    libro.conBd = &conBaseDatos;
-    sesion->DefinirBloqueo(std::move(libro));
-    if (sesion->lngEfectuarBloqueos() != 0) return;
-    {
-      const forms::Hourglass reloj(contexto.ui());
-      const store::Recordset fila =
-          conBaseDatos.Execute("SELECT * FROM bautismo WHERE idbautismo=" + id);
-      conBaseDatos.Execute(
-          "UPDATE Libro_Bautismo SET FolioSiguiente = 1, NumeroSiguiente = 1 WHERE "
-          "IDLibroBautismo = " +
-          fila.text("CodLibro"));
-      borrarFilasBautismo(conBaseDatos, lngID);
-    }
-    sesion->LiberarBloqueos();
+    bloqueos.definir(bloqueoDeRegistro(conBaseDatos, "Bautismo", "IdBautismo", lngID));
+    bloqueos.registros("Libro_Bautismo", "SELECT codLibro FROM Bautismo WHERE IDBautismo=" + id);
+    if (!bloqueos.efectuar()) return;
+    const forms::Hourglass reloj(contexto.ui());
+    const store::Recordset fila =
+        conBaseDatos.Execute("SELECT * FROM bautismo WHERE idbautismo=" + id);
+    conBaseDatos.Execute(
+        "UPDATE Libro_Bautismo SET FolioSiguiente = 1, NumeroSiguiente = 1 WHERE "
+        "IDLibroBautismo = " +
+        fila.text("CodLibro"));
+    borrarFilasBautismo(conBaseDatos, fila);
   });
 }
 
 void eliminarPartida(Contexto& contexto, Conexion& conBaseDatos, std::int32_t lngID,
                      const Sacramento& sacramento, const std::function<void()>& borrar) {
   guarded(contexto, "cNucleo", "EliminarPartida", [&] {
-    const auto sesion = abrirSesion(contexto, conBaseDatos);
-    sesion->DefinirBloqueo(
-        bloqueoDeRegistro(conBaseDatos, sacramento.tablaPartidas, sacramento.clavePartida, lngID));
-    if (sesion->lngEfectuarBloqueos(true) != 0) return;
+    if (!existeYEstaLibre(contexto, conBaseDatos, lngID, sacramento)) return;
     const store::Recordset partida = conBaseDatos.Execute(
         enSacramento(sacramento, "SELECT codlibro FROM bautismo WHERE idbautismo=") +
         std::to_string(lngID));

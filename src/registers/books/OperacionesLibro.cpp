@@ -5,6 +5,7 @@
 
 #include "core/contract/EnSacramento.h"
 #include "core/contract/Guard.h"
+#include "core/contract/SesionBloqueos.h"
 #include "registers/common/Bloqueos.h"
 
 namespace fidaleon {
@@ -26,12 +27,7 @@ class OperacionLibro {
         conexion_(conexion),
         id_(std::to_string(id)),
         s_(s),
-        sesion_(abrirSesion(contexto, conexion)) {}
-
-  /// Gives the locks back; after a refusal there is nothing to give back.
-  void terminar() {
-    if (!rehusado_) sesion_->LiberarBloqueos();
-  }
+        bloqueos_(contexto, conexion) {}
 
   void cerrar() {
     if (const char* motivo = motivoParaNoCerrar()) return forms::warn(contexto_.ui(), motivo);
@@ -71,31 +67,22 @@ class OperacionLibro {
   }
 
   bool bloquear() {
-    sesion_->DefinirBloqueo(
-        bloqueoDeRegistro(conexion_, s_.tablaLibros, s_.claveLibro, std::stoi(id_)));
-    rehusado_ = sesion_->lngEfectuarBloqueos() != FDAPI::BloqueoNinguno;
-    return !rehusado_;
+    bloqueos_.definir(bloqueoDeRegistro(conexion_, s_.tablaLibros, s_.claveLibro, std::stoi(id_)));
+    return bloqueos_.efectuar();
   }
 
   Contexto& contexto_;
   FDAPI::Conexion& conexion_;
   std::string id_;
   const Sacramento& s_;
-  std::unique_ptr<FDAPI::cProcesarBloqueos> sesion_;
-  bool rehusado_ = false;
+  SesionBloqueos bloqueos_;
 };
 
 void enUnLibro(Contexto& contexto, FDAPI::Conexion& conexion, std::int32_t id, const Sacramento& s,
                const char* procedimiento, void (OperacionLibro::*trabajo)()) {
   guarded(contexto, OBJETO, procedimiento, [&] {
     OperacionLibro libro(contexto, conexion, id, s);
-    try {
-      (libro.*trabajo)();
-    } catch (...) {
-      libro.terminar();
-      throw;
-    }
-    libro.terminar();
+    (libro.*trabajo)();
   });
 }
 

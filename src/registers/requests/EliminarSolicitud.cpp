@@ -1,6 +1,7 @@
 #include "registers/requests/EliminarSolicitud.h"
 
 #include "core/contract/Guard.h"
+#include "core/contract/SesionBloqueos.h"
 #include "registers/baptism/FilasBautismo.h"
 #include "registers/common/Bloqueos.h"
 
@@ -9,14 +10,13 @@ namespace fidaleon {
 void eliminarSolicitudBautismo(Contexto& contexto, FDAPI::Conexion& conBaseDatos,
                                std::int32_t lngID) {
   guarded(contexto, "cNucleo", "EliminarSolicitud", [&] {
-    const auto sesion = abrirSesion(contexto, conBaseDatos);
-    sesion->DefinirBloqueo(bloqueoDeRegistro(conBaseDatos, "Bautismo", "IDBautismo", lngID));
-    if (sesion->lngEfectuarBloqueos() != 0) return;
-    {
-      const forms::Hourglass reloj(contexto.ui());
-      borrarFilasBautismo(conBaseDatos, lngID);
-    }
-    sesion->LiberarBloqueos();
+    SesionBloqueos bloqueos(contexto, conBaseDatos);
+    bloqueos.definir(bloqueoDeRegistro(conBaseDatos, "Bautismo", "IDBautismo", lngID));
+    if (!bloqueos.efectuar()) return;
+    const forms::Hourglass reloj(contexto.ui());
+    const store::Recordset fila =
+        conBaseDatos.Execute("SELECT * FROM bautismo WHERE idbautismo=" + std::to_string(lngID));
+    if (!fila.EOF_()) borrarFilasBautismo(conBaseDatos, fila);
   });
 }
 

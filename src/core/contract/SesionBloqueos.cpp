@@ -1,9 +1,13 @@
-#include "core/facade/SesionBloqueos.h"
+#include "core/contract/SesionBloqueos.h"
 
 namespace fidaleon {
 
 SesionBloqueos::~SesionBloqueos() {
-  if (!rehusado_) sesion_->LiberarBloqueos();
+  try {
+    if (!rehusado_) sesion_->LiberarBloqueos();
+  } catch (const std::exception&) {
+    // Dropping the session gives back what could not be given back here.
+  }
 }
 
 void SesionBloqueos::tabla(const char* nombre) {
@@ -50,6 +54,11 @@ void SesionBloqueos::registro(const char* nombreTabla, std::int32_t id, const st
 
 bool SesionBloqueos::efectuar() {
   rehusado_ = sesion_->lngEfectuarBloqueos() != FDAPI::BloqueoNinguno;
+  return !rehusado_;
+}
+
+bool SesionBloqueos::comprobar() {
+  rehusado_ = sesion_->lngEfectuarBloqueos(true) != FDAPI::BloqueoNinguno;
   return !rehusado_;
 }
 

@@ -19,6 +19,7 @@ class SesionBloqueos {
   SesionBloqueos(const SesionBloqueos&) = delete;
   SesionBloqueos& operator=(const SesionBloqueos&) = delete;
 
+  void definir(FDAPI::DefinicionBloqueo bloqueo) { sesion_->DefinirBloqueo(std::move(bloqueo)); }
   void tabla(const char* nombre);
   void tablasCompartidas(std::initializer_list<const char*> nombres);
   /// `cuales` is a statement that gives their keys.
@@ -29,6 +30,8 @@ class SesionBloqueos {
 
   /// False when the operation has to end here; the user knows why.
   bool efectuar();
+  /// The same without holding anything.
+  bool comprobar();
 
   /// For those who go on with what they got: 0 or what could not be had (FDAPI::ErrorBloqueo).
   long intentar();
