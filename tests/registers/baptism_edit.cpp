@@ -33,6 +33,21 @@ TEST_F(EditedBaptism, Correction_ReachesTheRowsItBelongsTo) {
   EXPECT_SCRIPT_DONE(w.user);
 }
 
+TEST_F(EditedBaptism, RowOfTheFamilyGone_MayBeReadButNotChanged) {
+  w.con().Execute("DELETE * FROM bautismo_madres");
+  w.user.expectMessage(
+      "¡A esta partida le falta alguna de sus fichas (bautizado, padre, madre o matrimonio)! Se "
+      "puede consultar, pero no modificar.");
+  open(
+      cCOperacion::EDITAR,
+      [](FormDriver& d) {
+        EXPECT_FALSE(d.enabled("cmdBautismo(0)"));
+        cancel(d);
+      },
+      id);
+  EXPECT_SCRIPT_DONE(w.user);
+}
+
 TEST_F(EditedBaptism, NothingChanged_WritesNothing) {
   auto* engine = store::FailingEngine::wrap(w.con());
   engine->failAlwaysOn("UPDATE");

@@ -14,8 +14,8 @@ using FDAPI::cCOrigen;
 namespace {
 
 constexpr const char* MENSAJE_CARGA_INCOMPLETA =
-    "¡Se ha producido un error durante la carga de datos y no se han podido llenar algunos campos "
-    "del formulario! Revise los datos antes de guardarlos de nuevo.";
+    "¡A esta partida le falta alguna de sus fichas (bautizado, padre, madre o matrimonio)! Se "
+    "puede consultar, pero no modificar.";
 
 bool enBlanco(const std::string& valor) {
   return valor.empty() || valor == "---";
@@ -53,6 +53,7 @@ void frmPartidaBautismo::cargar() {
   if (Operacion == cCOperacion::ANADIR || Operacion == cCOperacion::ANTIGUA) prepararAlta();
   if (Operacion == cCOperacion::EDITAR) prepararEdicion();
   refrescarTitulo();
+  if (incompleta_) soloLectura();
 }
 
 void frmPartidaBautismo::limpiarCampos() {
@@ -157,7 +158,9 @@ void frmPartidaBautismo::leerPartida() {
        "SELECT * FROM bautismo_padres WHERE idpadres=" + std::to_string(registro_.CodPadres));
   leer(TABLA_MATRIMONIO, "SELECT * FROM bautismo_matrimonio WHERE idmatrimonio=" +
                              std::to_string(registro_.CodMatrimonio));
+  // An update of a row that is gone would lose what is typed for it.
   if (!completa) forms::warn(ui(), MENSAJE_CARGA_INCOMPLETA);
+  incompleta_ = !completa;
 }
 
 void frmPartidaBautismo::mostrarRegistro() {
@@ -168,7 +171,7 @@ void frmPartidaBautismo::mostrarRegistro() {
   if (!enBlanco(registro_.SexoHijo)) cboBautismo[Sexo].selectText(registro_.SexoHijo);
   txtLibro[FOLIO].setText(registro_.FolioBautismo);
   txtLibro[NUMERO].setText(registro_.NumeroBautismo);
-  apellidosBuscados_ = apellidos();
+  apellidosBuscados_ = {parDeApellidos()};
 }
 
 void frmPartidaBautismo::mostrarAnulada() {

@@ -9,9 +9,9 @@
 
 namespace fidaleon {
 
-std::string frmPartidaBautismo::apellidos() const {
-  return text::trim(text::trim(txtBautismo[PrimerApellidoHijo].text()) + " " +
-                    text::trim(txtBautismo[SegundoApellidoHijo].text()));
+std::pair<std::string, std::string> frmPartidaBautismo::parDeApellidos() const {
+  return {text::trim(txtBautismo[PrimerApellidoHijo].text()),
+          text::trim(txtBautismo[SegundoApellidoHijo].text())};
 }
 
 void frmPartidaBautismo::apellidos_LostFocus(const forms::Control* siguiente) {
@@ -21,10 +21,8 @@ void frmPartidaBautismo::apellidos_LostFocus(const forms::Control* siguiente) {
 }
 
 void frmPartidaBautismo::BuscarPadres() {
-  const std::string par = apellidos();
-  if (par == apellidosBuscados_ || text::trim(txtBautismo[PrimerApellidoHijo].text()).empty())
-    return;
-  apellidosBuscados_ = par;
+  const auto par = parDeApellidos();
+  if (par.first.empty() || !apellidosBuscados_.insert(par).second) return;
   frmBuscaPadres busqueda(contexto_);
   procedimiento("BuscarPadres", [&] {
     const auto entre = [this](Texto campo) {
@@ -49,7 +47,7 @@ void frmPartidaBautismo::BuscarPadres() {
   if (busqueda.filas.empty()) return;
   busqueda.conBaseDatos = conBaseDatos;
   busqueda.Origen = FDAPI::cCOrigen::LISTAPARTIDASBAUTISMO;
-  busqueda.strApellidos = par;
+  busqueda.strApellidos = text::trim(par.first + " " + par.second);
   busqueda.Show();
   if (busqueda.blnAceptado) CargarColeccionDatosImportar(busqueda.importado);
 }

@@ -3,7 +3,9 @@
 #include <cstdint>
 #include <deque>
 #include <optional>
+#include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "core/contract/Contexto.h"
@@ -218,7 +220,7 @@ class frmPartidaBautismo : public forms::Form {
 
   // Family from earlier entries
   void apellidos_LostFocus(const forms::Control* siguiente);
-  std::string apellidos() const;
+  std::pair<std::string, std::string> parDeApellidos() const;
   void BuscarPadres();
   std::string librosHastaEste();
   void CargarColeccionDatosImportar(const cBautismo& importado);
@@ -264,7 +266,8 @@ class frmPartidaBautismo : public forms::Form {
   bool libroNuevo_ = true;
   bool cargando_ = false;
   /// Pair of surnames that has been looked for, or that the entry was read with.
-  std::string apellidosBuscados_;
+  std::set<std::pair<std::string, std::string>> apellidosBuscados_;
+  bool incompleta_ = false;
 };
 
 }  // namespace fidaleon

@@ -105,6 +105,7 @@ void frmBuscaPadres::detalles() {
   detalle.lngID = static_cast<std::int32_t>(rejilla().rowKey(rejilla().row()));
   detalle.Origen = Origen;
   detalle.Show();
+  setFocus(rejilla());
 }
 
 }  // namespace fidaleon
