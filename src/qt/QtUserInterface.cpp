@@ -195,7 +195,9 @@ void QtUserInterface::progressOpen(std::int64_t count, const std::string& messag
 }
 
 void QtUserInterface::progressMove(std::int64_t position) {
-  if (!progress_.empty()) progress_.back()->moveTo(position);
+  if (progress_.empty()) return;
+  progress_.back()->moveTo(position);
+  if (progress_.back()->cancelled()) throw forms::Cancelled();
 }
 
 void QtUserInterface::progressClose() {

@@ -176,6 +176,7 @@ TEST(QtUserInterface, Progress_StandsUntilClosedAndShowsItsShare) {
   EXPECT_EQ(bar->value() * 4, bar->maximum());
   QTest::keyClick(window, Qt::Key_Escape);
   EXPECT_TRUE(window->isVisible());
+  EXPECT_THROW(ui.progressMove(51), forms::Cancelled);
   ui.progressClose();
   EXPECT_FALSE(QApplication::activeModalWidget());
   ui.progressMove(1);
