@@ -12,6 +12,7 @@ constexpr unsigned REQUESTS = bit(NodeKind::Requests);
 constexpr unsigned INSTITUTIONS = bit(NodeKind::Institutions);
 constexpr unsigned PROVINCES = bit(NodeKind::Provinces);
 constexpr unsigned TOWNS = bit(NodeKind::Towns);
+constexpr unsigned REPORTS = bit(NodeKind::Reports);
 constexpr unsigned CATALOGUES = INSTITUTIONS | PROVINCES | TOWNS;
 
 const std::string& nodeName(const Choice& c) {
@@ -50,7 +51,13 @@ void deleteRequest(Workplace& w, const Choice& c) {
   if (forms::ask(w.entorno().ui, "¿Está seguro que desea eliminar la solicitud?"))
     w.nucleo().EliminarSolicitud(w.parish(), c.id, w.config(), nodeName(c));
 }
+void moveRequests(Workplace& w, const Choice& c) {
+  w.nucleo().ImportarSolicitudes(w.parish(), w.config(), nodeName(c));
+}
 
+void openBook(Workplace& w, const Choice& c) {
+  w.nucleo().PropiedadesLibro(w.parish(), c.id, w.config(), nodeName(c));
+}
 void newBook(Workplace& w, const Choice& c) {
   w.nucleo().NuevoLibro(w.parish(), w.config(), nodeName(c));
 }
@@ -80,6 +87,8 @@ constexpr const char* LITERAL = "literal";
 constexpr const char* ENTRY_COPY = "partida";
 constexpr const char* SLIP = "volante";
 constexpr const char* REQUEST_DATA = "datos";
+constexpr const char* BOOK = "libro";
+constexpr const char* INDEX = "indice";
 
 template <const char* const& ID>
 void document(Workplace& w, const Choice& c) {
@@ -154,6 +163,9 @@ void addRequestCommands(std::vector<Command>& all) {
                              "Abre la solicitud elegida", REQUESTS, Needs::Row, openRequest))));
   all.push_back(line("eliminar-solicitud", "&Eliminar", "Del", "Elimina la solicitud elegida",
                      REQUESTS, Needs::Row, deleteRequest));
+  all.push_back(inToolbar("book", line("pasar-al-libro", "Pasar al li&bro…", "Ctrl+B",
+                                       "Inscribe solicitudes en el libro nuevo abierto", REQUESTS,
+                                       Needs::Nothing, moveRequests)));
 }
 
 void addBookCommands(std::vector<Command>& all) {
@@ -166,9 +178,12 @@ void addBookCommands(std::vector<Command>& all) {
   all.push_back(line("eliminar-libro", "&Eliminar libro…", "Del",
                      "Elimina un libro que no tenga partidas", BOOKS, Needs::Row, deleteBook));
   all.push_back(opening(ofBaptism(inToolbar(
+      "edit", line("propiedades-libro", "&Propiedades…", "Return",
+                   "Abre el libro con todas sus partidas", BOOKS, Needs::Row, openBook)))));
+  all.push_back(ofBaptism(inToolbar(
       "list",
-      line("ver-partidas", "&Ver sus partidas", "Return", "Muestra las partidas de bautismo", BOOKS,
-           Needs::Row, [](Workplace& w, const Choice&) { w.showNode("PartidasBautismo"); })))));
+      line("ver-partidas", "&Ver sus partidas", "Ctrl+Return", "Muestra las partidas de este libro",
+           BOOKS, Needs::Row, [](Workplace& w, const Choice& c) { w.showEntriesOf(c.id); }))));
 }
 
 void addCatalogueCommands(std::vector<Command>& all) {
@@ -202,6 +217,16 @@ void addDocumentCommands(std::vector<Command>& all) {
   add(inToolbar("print", line("datos", "&Datos de la solicitud…", "Ctrl+P",
                               "Hoja con los datos de la solicitud", REQUESTS, Needs::Row,
                               document<REQUEST_DATA>)));
+  add(ofBaptism(inToolbar("print", line("libro", "&Libro entero…", "Ctrl+P",
+                                        "Todas las partidas del libro, una tras otra", BOOKS,
+                                        Needs::Row, document<BOOK>))));
+  add(ofBaptism(inToolbar("print", line("indice", "Índi&ce del libro…", "Ctrl+I",
+                                        "Las partidas del libro por apellidos, con folio y número",
+                                        BOOKS, Needs::Row, document<INDEX>))));
+  add(opening(ofBaptism(inToolbar(
+      "print", line("duplicadas", "&Duplicadas de bautismo…", "Ctrl+P",
+                    "Las partidas de un año, para enviarlas a la diócesis", REPORTS, Needs::Nothing,
+                    [](Workplace& w, const Choice& c) { w.showDuplicate(nodeName(c)); })))));
 }
 
 void addWindowCommands(std::vector<Command>& all) {

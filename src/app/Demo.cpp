@@ -9,6 +9,7 @@
 #include "app/Desk.h"
 #include "app/Documents.h"
 #include "app/NewParish.h"
+#include "core/contract/CcNodos.h"
 #include "core/contract/FDAPI.h"
 #include "forms/ScriptedUser.h"
 #include "support/Clocks.h"
@@ -21,6 +22,13 @@ namespace {
 constexpr const char* USER = "Secretaría";
 constexpr const char* LOG = "demo.log";
 constexpr const char* PARISH = "San Esteban Protomártir";
+constexpr const char* EMPTY_FIELDS =
+    "Tiene campos sin rellenar. Estos campos se rellenarán con guiones. ¿Desea continuar?";
+constexpr const char* FURTHER_ENTRIES = "¿Desea dar de alta nuevas partidas?";
+constexpr const char* FURTHER_REQUESTS = "¿Desea dar de alta nuevas solicitudes?";
+constexpr const char* LOSE_CHANGES =
+    "Ha realizado cambios en las partidas del libro. ¿Desea cerrar el formulario y perder así "
+    "todos los cambios realizados?";
 
 /// A step did not do what it should.
 struct Failed : std::runtime_error {
@@ -78,6 +86,13 @@ class Demo {
     step("Se emite un certificado", [this] { document("certificado", 1, true); });
     step("Se emite un certificado literal", [this] { document("literal", 1, true); });
     step("Se emite un volante", [this] { document("volante", 1, false); });
+    step("Se abre el libro, se trabaja en sus partidas y se cancela", [this] { workInVain(); });
+    step("Se abre el libro otra vez y se acepta", [this] { workOnBook(); });
+    step("Se recogen tres solicitudes", [this] { requests(); });
+    step("Se pasan las solicitudes al libro", [this] { moveRequests(); });
+    step("Se imprime el libro entero", [this] { printBook("libro"); });
+    step("Se imprime su índice", [this] { printBook("indice"); });
+    step("Se imprime el duplicado del año para la diócesis", [this] { duplicate(); });
     step("Se comprueba que no queda ningún bloqueo", [this] { noLocks(); });
   }
 
@@ -136,7 +151,7 @@ class Demo {
 
   void firstEntry() {
     user_.expectForm("frmPartidaBautismo", demo::enterFirstChild);
-    user_.expectMessage("¿Desea dar de alta nuevas partidas?", forms::Answer::No);
+    user_.expectMessage(FURTHER_ENTRIES, forms::Answer::No);
     newEntry();
     check(position(1) == "1/1", "la partida está en el folio 1, número 1");
     check(single("SELECT Nombre FROM Bautismo_Hijo WHERE CodBautismo=1") == demo::FIRST_CHILD,
@@ -148,10 +163,8 @@ class Demo {
   void secondEntry() {
     user_.expectForm("frmPartidaBautismo", demo::enterSecondChild);
     user_.expectForm("frmBuscaPadres", demo::chooseFamily);
-    user_.expectMessage(
-        "Tiene campos sin rellenar. Estos campos se rellenarán con guiones. ¿Desea continuar?",
-        forms::Answer::Yes);
-    user_.expectMessage("¿Desea dar de alta nuevas partidas?", forms::Answer::No);
+    user_.expectMessage(EMPTY_FIELDS, forms::Answer::Yes);
+    user_.expectMessage(FURTHER_ENTRIES, forms::Answer::No);
     newEntry();
     check(position(2) == "2/2", "la partida está en el folio 2, número 2");
     const std::string father =
@@ -196,6 +209,109 @@ class Demo {
     const std::filesystem::path pdf = directory_ / (command + ".pdf");
     report->savePdf(pdf);
     check(std::filesystem::file_size(pdf) > 1000, "guardado como " + pdf.filename().string());
+  }
+
+  /// Opens the book, adds two entries, takes the second out again, and ends as `end` does.
+  void openBook(const std::function<void(forms::FormDriver&)>& end) {
+    const auto add = [this](forms::FormDriver& book, const demo::Child& child) {
+      user_.expectForm("frmPartidaBautismo", [this, child](forms::FormDriver& entry) {
+        user_.expectMessage(EMPTY_FIELDS, forms::Answer::Yes);
+        user_.expectMessage(FURTHER_ENTRIES, forms::Answer::No);
+        demo::enterListed(entry, child);
+      });
+      demo::addEntry(book);
+    };
+    user_.expectForm("frmPropiedadesLibroBautismo", [add, end](forms::FormDriver& book) {
+      demo::showEntries(book);
+      add(book, demo::LISTED_CHILD);
+      add(book, demo::REMOVED_CHILD);
+      demo::removeLastEntry(book);
+      end(book);
+    });
+    desk_->nucleo().PropiedadesLibro(desk_->parish(), 1, desk_->config(), "LibrosBautismo");
+  }
+
+  void workInVain() {
+    const std::string before = everything();
+    openBook([this](forms::FormDriver& book) {
+      user_.expectMessage(LOSE_CHANGES, forms::Answer::Yes);
+      book.click("cmdBoton(1)");
+    });
+    check(everything() == before, "cancelado: nada ha cambiado en la parroquia");
+  }
+
+  void workOnBook() {
+    openBook([](forms::FormDriver& book) { book.click("cmdBoton(0)"); });
+    check(position(idOf(demo::LISTED_CHILD)) == "3/3", "aceptado: la partida está en el 3/3");
+    check(idOf(demo::REMOVED_CHILD) == 0, "la partida eliminada no está en ninguna parte");
+    check(single("SELECT COUNT(IDBautismo) AS N FROM Bautismo") == "3", "hay tres partidas");
+  }
+
+  void requests() {
+    for (const demo::Child& child : demo::REQUESTED_CHILDREN) {
+      user_.expectForm("frmPartidaBautismo",
+                       [child](forms::FormDriver& d) { demo::enterRequest(d, child); });
+      user_.expectMessage(FURTHER_REQUESTS, forms::Answer::No);
+      desk_->nucleo().NuevaSolicitud(desk_->parish(), desk_->config(), "SolicitudesBautismo");
+      check(position(idOf(child)) == "0/---",
+            std::string("la solicitud de ") + child.name + " no está en ningún libro");
+    }
+  }
+
+  void moveRequests() {
+    user_.expectForm("frmSolicitudes", demo::moveAllRequests);
+    desk_->nucleo().ImportarSolicitudes(desk_->parish(), desk_->config(), "SolicitudesBautismo");
+    int place = 3;
+    for (const demo::Child& child : demo::REQUESTED_CHILDREN) {
+      const std::string next = std::to_string(++place);
+      check(position(idOf(child)) == next + "/" + next,
+            std::string("la partida de ") + child.name + " está en el folio " + next);
+    }
+    check(single("SELECT COUNT(IDBautismo) AS N FROM Bautismo WHERE CodLibro=0") == "0",
+          "no quedan solicitudes");
+  }
+
+  void printBook(const std::string& command) {
+    const Document* d = findDocument(command, desk_->entorno().installation.Aplicacion);
+    save(makeReport(*desk_, *d, 1), 6, command);
+  }
+
+  void duplicate() {
+    user_.expectForm("frmInfDuplicadas", demo::chooseDuplicate);
+    const auto report = makeDuplicate(*desk_, CcNodos::INFDUPLICADASBAUTISMO);
+    const auto rows = desk_->reports().Execute("SELECT * FROM Documentos_Bautismo");
+    check(rows.text("NombreHijo") == "Candela", "las partidas van por apellidos");
+    save(report, 2, "duplicado");
+  }
+
+  void save(const std::optional<paper::Report>& report, std::size_t rows, const std::string& name) {
+    check(report && report->rowCount() == rows,
+          "el documento tiene " + std::to_string(rows) + " partidas");
+    const int pages = report->pageCount();
+    check(pages > 0, "ocupa páginas: " + std::to_string(pages));
+    const std::filesystem::path pdf = directory_ / (name + ".pdf");
+    report->savePdf(pdf);
+    check(std::filesystem::file_size(pdf) > 1000, "guardado como " + pdf.filename().string());
+  }
+
+  int idOf(const demo::Child& child) {
+    const std::string id = single("SELECT CodBautismo FROM Bautismo_Hijo WHERE Nombre=\"" +
+                                  std::string(child.name) + "\"");
+    return id.empty() ? 0 : std::stoi(id);
+  }
+
+  /// All that the registers of the parish hold.
+  std::string everything() {
+    std::string all;
+    for (const char* table : {"Bautismo", "Bautismo_Hijo", "Bautismo_Padres", "Bautismo_Madres",
+                              "Bautismo_Matrimonio", "Libro_Bautismo"})
+      for (auto set = desk_->parish().Execute("SELECT * FROM " + std::string(table)); !set.EOF_();
+           set.MoveNext()) {
+        for (int f = 0; f < static_cast<int>(set.FieldCount()); ++f)
+          all += set.Fields(f).Value().text() + "|";
+        all += "\n";
+      }
+    return all;
   }
 
   void noLocks() {

@@ -2,7 +2,10 @@
 
 #include <string>
 
+#include "documents/frmInfDuplicadas.h"
 #include "registers/baptism/frmPartidaBautismo.h"
+#include "registers/books/frmPropiedadesLibro.h"
+#include "registers/requests/frmSolicitudes.h"
 
 namespace fidaleon::app::demo {
 namespace {
@@ -103,13 +106,23 @@ void fillMarriage(FormDriver& d) {
 void fillBaptism(FormDriver& d, const std::string& day) {
   d.tab(TABS, P::TAB_BAUTISMO);
   d.type(date(P::FechaBautismo), day);
-  d.type(text(P::Ministro), PRIEST);
+  d.type(text(P::Ministro), MINISTER);
   d.type(text(P::MinistroCargo), "Párroco");
   d.type(text(P::DiocesisBautismo), "Madrid");
   d.type(text(P::ParroquiaBautismo), "San Esteban Protomártir");
   place(d, P::ProvinciaBautismo);
   d.type(text(P::Padrino), "Leandro Lozano Castaño");
   d.type(text(P::Madrina), "Ángeles Yagüe");
+}
+
+void fillNames(FormDriver& d, const Child& child) {
+  d.tab(TABS, P::TAB_BAUTIZADO);
+  d.type(text(P::NombreHijo), child.name);
+  d.type(text(P::PrimerApellidoHijo), child.first);
+  d.type(text(P::SegundoApellidoHijo), child.second);
+  d.choose(list(P::Sexo), child.girl ? "Mujer" : "Hombre");
+  d.type(date(P::FechaNac), child.birth);
+  place(d, P::ProvinciaNac);
 }
 
 }  // namespace
@@ -174,6 +187,45 @@ void correctGodmother(FormDriver& d) {
 void chooseKeeper(FormDriver& d) {
   d.choose("cboEncargado", PRIEST);
   d.click("cmdBoton(0)");
+}
+
+void enterListed(FormDriver& d, const Child& child) {
+  fillNames(d, child);
+  fillBaptism(d, child.baptism);
+  d.click(button(P::ACEPTAR));
+}
+
+void enterRequest(FormDriver& d, const Child& child) {
+  chooseFirst(d, list(P::Institucion));
+  fillNames(d, child);
+  d.click(button(P::ACEPTAR));
+}
+
+void showEntries(FormDriver& d) {
+  d.tab("mstLibro", frmPropiedadesLibro::TAB_PARTIDAS);
+}
+
+void addEntry(FormDriver& d) {
+  d.click(indexed("cmdPartidas", frmPropiedadesLibro::AGREGAR));
+}
+
+void removeLastEntry(FormDriver& d) {
+  d.row("msgPartidas", d.get<forms::Grid>("msgPartidas").rowCount());
+  d.click(indexed("cmdPartidas", frmPropiedadesLibro::ELIMINAR));
+}
+
+void moveAllRequests(FormDriver& d) {
+  chooseFirst(d, "cboInstitucion");
+  d.tab("mstSolicitudes", 1);
+  d.click(indexed("cmdMover", frmSolicitudes::ELEGIR_TODAS));
+  d.click(indexed("cmdBoton", frmSolicitudes::ACEPTAR));
+}
+
+void chooseDuplicate(FormDriver& d) {
+  chooseFirst(d, "cboInstitucion");
+  d.type("adtpAno", DUPLICATE_YEAR);
+  d.choose("cboOrden", "Apellidos del bautizado");
+  d.click(indexed("cmdBoton", frmInfDuplicadas::ACEPTAR));
 }
 
 }  // namespace fidaleon::app::demo

@@ -1,7 +1,10 @@
 #include "app/Documents.h"
 
+#include <memory>
 #include <stdexcept>
 
+#include "app/Annulled.h"
+#include "app/BookHeader.h"
 #include "app/Desk.h"
 #include "app/Templates.h"
 #include "core/contract/Sacramento.h"
@@ -34,8 +37,40 @@ bool isAnnulled(FDAPI::Conexion& parish, std::int32_t id) {
 
 constexpr NodeKind ENTRY = NodeKind::Entries;
 constexpr NodeKind REQUEST = NodeKind::Requests;
+constexpr NodeKind BOOK = NodeKind::Books;
 constexpr const char* MENORCA = Editions::APP_FIDALEON_MENORCA;
 constexpr const char* SANTIAGO = Editions::APP_FIDALEON_SANTIAGO;
+
+const paper::Document& paperOf(const std::string& operation) {
+  const paper::Document* paper = paper::documentOf(operation);
+  if (!paper) throw std::logic_error("Documento sin plantilla: " + operation);
+  return *paper;
+}
+
+// What a run that failed left half done must not be printed, nor hold back the runs after it.
+void takeBackUnfinished(FDAPI::Conexion& reports) {
+  if (reports.inTransaction()) reports.RollbackTrans();
+}
+
+void startAfresh(FDAPI::Conexion& reports) {
+  takeBackUnfinished(reports);
+  paper::emptyScratchTables(reports);
+}
+
+void markAnnulled(paper::ReportOptions& options, Annulled annulled) {
+  if (annulled.places() == 0) return;
+  const auto shared = std::make_shared<const Annulled>(std::move(annulled));
+  options.mark = [shared](const paper::Row& row) { return shared->mark(row); };
+}
+
+// Nothing when there are no rows.
+std::optional<paper::Report> layOut(FDAPI::Conexion& reports, const paper::Document& paper,
+                                    paper::ReportOptions options) {
+  paper::Report report(reports, templateDirectory(), paper.templateName, paper.title,
+                       std::move(options));
+  if (report.rowCount() == 0) return {};
+  return report;
+}
 
 }  // namespace
 
@@ -61,6 +96,13 @@ const std::vector<Document>& documents() {
        runPlain<&cNucleo::InformeSolicitudPartidaBautismoDatosMenorca>},
       {"datos", SANTIAGO, "InformeSolicitudPartidaBautismoDatosSantiago", REQUEST,
        runPlain<&cNucleo::InformeSolicitudPartidaBautismoDatosSantiago>},
+      {"libro", "", "InformeLibroBautismo", BOOK, runPlain<&cNucleo::InformeLibroBautismo>},
+      {"libro", MENORCA, "InformeLibroBautismoMenorca", BOOK,
+       runPlain<&cNucleo::InformeLibroBautismoMenorca>},
+      {"indice", "", "InformeIndiceLibroBautismo", BOOK,
+       runPlain<&cNucleo::InformeIndiceLibroBautismo>},
+      {"indice", MENORCA, "InformeIndiceLibroBautismoMenorca", BOOK,
+       runPlain<&cNucleo::InformeIndiceLibroBautismoMenorca>},
   };
   return all;
 }
@@ -75,21 +117,33 @@ const Document* findDocument(const std::string& command, const std::string& edit
   return common;
 }
 
-std::optional<paper::Report> makeReport(Desk& desk, const Document& document, std::int32_t id) {
-  const paper::Document* paper = paper::documentOf(document.operation);
-  if (!paper) throw std::logic_error("Documento sin plantilla: " + document.operation);
+std::optional<paper::Report> makeReport(Desk& desk, const Document& document, std::int32_t id,
+                                        paper::ReportOptions options) {
+  const paper::Document& paper = paperOf(document.operation);
   DocumentRun run{desk.nucleo(), desk.parish(), desk.reports(), id, {}, {}};
-  if (paper->signedByKeeper)
+  if (paper.signedByKeeper)
     run.nucleo.SelecEncargado(run.parish, BAUTISMO.palabra, id, run.date, run.keeper);
-  paper::emptyScratchTables(run.reports);
+  startAfresh(run.reports);
   document.run(run);
-  paper::ReportOptions options;
-  if (isAnnulled(run.parish, id))
-    options.mark = [](const paper::Row&) { return QStringLiteral("ANULADA"); };
-  paper::Report report(run.reports, templateDirectory(), paper->templateName, paper->title,
-                       std::move(options));
-  if (report.rowCount() == 0) return {};
-  return report;
+  takeBackUnfinished(run.reports);
+  if (document.kind == BOOK) {
+    markAnnulled(options, Annulled(run.parish, id));
+    options.values = bookHeader(run.parish, id, document.edition == MENORCA);
+  } else if (isAnnulled(run.parish, id)) {
+    options.mark = [](const paper::Row&) { return annulledMark(); };
+  }
+  return layOut(run.reports, paper, std::move(options));
+}
+
+std::optional<paper::Report> makeDuplicate(Desk& desk, const std::string& node,
+                                           paper::ReportOptions options) {
+  const paper::Document& paper = paperOf("ImprimirDuplicadasBautismo");
+  startAfresh(desk.reports());
+  desk.nucleo().ImprimirDuplicadas(desk.parish(), desk.reports(), node, options.order);
+  takeBackUnfinished(desk.reports());
+  if (options.order.empty()) return {};
+  markAnnulled(options, Annulled(desk.parish()));
+  return layOut(desk.reports(), paper, std::move(options));
 }
 
 }  // namespace fidaleon::app

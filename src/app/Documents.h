@@ -39,8 +39,13 @@ const Document* findDocument(const std::string& command, const std::string& edit
 
 /// Empties the scratch tables, asks for keeper and date where the document is signed, runs the
 /// operation and lays out what it wrote. Nothing when it wrote no row: whoever refused has told
-/// the user. The document of an annulled entry carries a mark across it. Throws paper::Error and
-/// store::Error.
-std::optional<paper::Report> makeReport(Desk& desk, const Document& document, std::int32_t id);
+/// the user. Annulled entries carry a mark, and a book the names of its institution, beside what
+/// `options` asks for. Throws paper::Error and store::Error.
+std::optional<paper::Report> makeReport(Desk& desk, const Document& document, std::int32_t id,
+                                        paper::ReportOptions options = {});
+/// The same for the year's duplicate of the baptism books, in the order that the user has chosen in
+/// its dialog. Nothing when the user cancelled or the year has no entries.
+std::optional<paper::Report> makeDuplicate(Desk& desk, const std::string& node,
+                                           paper::ReportOptions options = {});
 
 }  // namespace fidaleon::app

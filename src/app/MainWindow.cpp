@@ -15,6 +15,7 @@
 #include <QStatusBar>
 #include <QTableView>
 #include <QToolBar>
+#include <QToolButton>
 #include <QTreeView>
 #include <QVBoxLayout>
 
@@ -25,6 +26,14 @@
 #include "store/Open.h"
 
 namespace fidaleon::app {
+namespace {
+
+bool hasRows(const NodeView& node) {
+  return node.kind != NodeKind::Folder && node.kind != NodeKind::Reports;
+}
+
+}  // namespace
+
 MainWindow::MainWindow(Desk& desk, QWidget* parent) : QMainWindow(parent), desk_(desk) {
   setWindowTitle(tr("%1 — Fidaleon").arg(QString::fromStdString(desk.parishName())));
   setObjectName("MainWindow");
@@ -57,11 +66,37 @@ void MainWindow::nodeChosen() {
   rememberColumns();
   node_ = chosen;
   filter_->clear();
-  right_->setCurrentIndex(node_->kind == NodeKind::Folder ? 0 : 1);
+  setScope(0, {});
+  right_->setCurrentIndex(hasRows(*node_) ? 1 : 0);
+  folder_->setText(node_->kind == NodeKind::Reports
+                       ? tr("Pulse Intro en el árbol, o Ctrl+P, para imprimir.")
+                       : tr("Elija un apartado del árbol."));
   loadRows();
   applyColumns();
-  if (shown_.rowCount() > 0) table_->selectRow(0);
+  selectFirst();
   updateCommands();
+}
+
+void MainWindow::selectFirst() {
+  if (shown_.rowCount() > 0) table_->selectRow(0);
+}
+
+void MainWindow::showEntriesOf(std::int32_t book) {
+  const auto row = parish().Execute("SELECT Nombre FROM Libro_Bautismo WHERE IDLibroBautismo=" +
+                                    std::to_string(book));
+  if (row.EOF_()) return;
+  showNode("PartidasBautismo");
+  filter_->clear();
+  setScope(book, QString::fromStdString(row.text("Nombre")));
+  selectFirst();
+  updateCommands();
+  table_->setFocus(Qt::OtherFocusReason);
+}
+
+void MainWindow::setScope(std::int32_t group, const QString& name) {
+  shown_.setGroup(group);
+  scope_->setText(tr("Libro: %1").arg(name));
+  scope_->setVisible(group != 0);
 }
 
 Choice MainWindow::choice() const {
@@ -139,15 +174,16 @@ void MainWindow::updateCommands() {
 }
 
 void MainWindow::updateCount() {
-  if (!node_ || node_->kind == NodeKind::Folder) return count_->clear();
+  if (!node_ || !hasRows(*node_)) return count_->clear();
   const int shown = shown_.rowCount();
   const int all = rows_.rowCount();
   const QString things = QString::fromStdString(node_->things);
   count_->setText(shown == all ? tr("%L1 %2").arg(all).arg(things)
                                : tr("%L1 de %L2 %3").arg(shown).arg(all).arg(things));
-  empty_->setText(all == 0
-                      ? tr("Todavía no hay %1.\nPulse la tecla Insert para añadir.").arg(things)
-                      : tr("Ninguna fila contiene «%1».").arg(filter_->text()));
+  empty_->setText(
+      all == 0 ? tr("Todavía no hay %1.\nPulse la tecla Insert para añadir.").arg(things)
+      : filter_->text().isEmpty() ? tr("Este libro todavía no tiene %1.").arg(things)
+                                  : tr("Ninguna fila contiene «%1».").arg(filter_->text()));
   empty_->setVisible(shown == 0);
 }
 
@@ -179,9 +215,24 @@ void MainWindow::openChosen() {
 }
 
 void MainWindow::showDocument(const Document& document, std::int32_t id) {
-  std::optional<paper::Report> report = makeReport(desk_, document, id);
+  preview([&](paper::ReportOptions options) {
+    return makeReport(desk_, document, id, std::move(options));
+  });
+}
+
+void MainWindow::showDuplicate(const std::string& node) {
+  preview(
+      [&](paper::ReportOptions options) { return makeDuplicate(desk_, node, std::move(options)); });
+}
+
+void MainWindow::preview(const Maker& make) {
+  const auto run = std::make_shared<LongRun>();
+  paper::ReportOptions options;
+  options.composition = paper::ReportOptions::Composition::AsNeeded;
+  options.progress = [run](std::size_t done, std::size_t total) { return run->tell(done, total); };
+  std::optional<paper::Report> report = make(std::move(options));
   if (!report) return;
-  PreviewDialog preview(std::move(*report), this);
+  PreviewDialog preview(std::move(*report), this, run);
   preview.exec();
 }
 

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <QMainWindow>
+#include <functional>
 #include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -9,6 +11,7 @@
 #include "app/Desk.h"
 #include "app/RowsFilter.h"
 #include "app/RowsModel.h"
+#include "paper/Report.h"
 
 class QAction;
 class QLabel;
@@ -18,6 +21,7 @@ class QSplitter;
 class QStackedWidget;
 class QTableView;
 class QToolBar;
+class QToolButton;
 class QTreeView;
 
 namespace fidaleon::app {
@@ -32,6 +36,7 @@ class MainWindow : public QMainWindow, private Workplace {
   ~MainWindow() override;
 
   void showNode(const std::string& name) override;
+  void showEntriesOf(std::int32_t book) override;
   Choice choice() const;
   /// The action of a command; never null for an id of the table.
   QAction* action(const std::string& command) const;
@@ -51,6 +56,7 @@ class MainWindow : public QMainWindow, private Workplace {
   FDAPI::Conexion& parish() override { return desk_.parish(); }
   const FDAPI::cConfig& config() const override { return desk_.config(); }
   void showDocument(const Document& document, std::int32_t id) override;
+  void showDuplicate(const std::string& node) override;
   void focusFilter() override;
   void backUp() override;
   void about() override;
@@ -61,6 +67,10 @@ class MainWindow : public QMainWindow, private Workplace {
   void buildCommands();
   void buildStatusBar();
   void nodeChosen();
+  void setScope(std::int32_t group, const QString& name);
+  void selectFirst();
+  using Maker = std::function<std::optional<paper::Report>(paper::ReportOptions)>;
+  void preview(const Maker& make);
   void run(const Command& command);
   void refresh(std::int32_t keep);
   void loadRows();
@@ -83,6 +93,7 @@ class MainWindow : public QMainWindow, private Workplace {
   QStackedWidget* right_ = nullptr;
   QTableView* table_ = nullptr;
   QLineEdit* filter_ = nullptr;
+  QToolButton* scope_ = nullptr;  // which book's rows are shown; takes the limit away
   QLabel* folder_ = nullptr;
   QLabel* empty_ = nullptr;
   QLabel* count_ = nullptr;

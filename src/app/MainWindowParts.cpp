@@ -11,6 +11,7 @@
 #include <QStyledItemDelegate>
 #include <QTableView>
 #include <QToolBar>
+#include <QToolButton>
 #include <QTreeView>
 #include <QVBoxLayout>
 
@@ -44,6 +45,9 @@ void MainWindow::buildTree() {
   tree_->expandAll();
   connect(tree_->selectionModel(), &QItemSelectionModel::currentChanged, this,
           [this] { nodeChosen(); });
+  connect(tree_, &QTreeView::activated, this, [this] {
+    if (node_ && node_->kind == NodeKind::Reports) openChosen();
+  });
 }
 
 void MainWindow::buildList() {
@@ -62,7 +66,16 @@ void MainWindow::buildList() {
   filter_->setClearButtonEnabled(true);
   filter_->setAccessibleName(tr("Filtro"));
   filter_->installEventFilter(this);
-  layout->addWidget(filter_);
+  scope_ = new QToolButton(page);
+  scope_->setObjectName("scope");
+  scope_->setIcon(icon("close", palette()));
+  scope_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+  scope_->setToolTip(tr("Muestra de nuevo las partidas de todos los libros"));
+  scope_->hide();
+  auto* top = new QHBoxLayout;
+  top->addWidget(scope_);
+  top->addWidget(filter_);
+  layout->addLayout(top);
 
   shown_.setSourceModel(&rows_);
   table_ = new QTableView(page);
@@ -95,6 +108,11 @@ void MainWindow::buildList() {
   empty_->setAttribute(Qt::WA_TransparentForMouseEvents);
   empty_->hide();
 
+  connect(scope_, &QToolButton::clicked, this, [this] {
+    setScope(0, {});
+    filterChanged();
+    table_->setFocus(Qt::OtherFocusReason);
+  });
   connect(filter_, &QLineEdit::textChanged, this, [this] { filterChanged(); });
   connect(table_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
           [this] { updateCommands(); });

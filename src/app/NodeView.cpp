@@ -63,9 +63,10 @@ void describeEntries(NodeView& v) {
   v.key = "IDBautismo";
   v.things = "partidas";
   v.annulled = "Anulada";
+  v.group = "CodLibro";
   v.node.SQLSelect =
-      "SELECT Bautismo.IDBautismo, Libro_Bautismo.Nombre AS Libro, Bautismo.Folio, "
-      "Bautismo.Numero, Bautismo_Hijo.Nombre, Bautismo_Hijo.PrimerApellido, "
+      "SELECT Bautismo.IDBautismo, Bautismo.CodLibro, Libro_Bautismo.Nombre AS Libro, "
+      "Bautismo.Folio, Bautismo.Numero, Bautismo_Hijo.Nombre, Bautismo_Hijo.PrimerApellido, "
       "Bautismo_Hijo.SegundoApellido, Bautismo.FechaBautismo, Bautismo_Hijo.FechaNac, "
       "Institucion.Nombre AS Institucion, Bautismo.Anulada FROM Bautismo, Bautismo_Hijo, "
       "Libro_Bautismo, Institucion WHERE Bautismo_Hijo.CodBautismo=Bautismo.IDBautismo AND "
@@ -149,6 +150,10 @@ std::vector<NodeView> makeNodes() {
   describeEntries(tree.add("PartidasBautismo", SPOKEN[0], NodeKind::Entries, &entries));
   const NodeView requests = tree.folder(CcNodos::SOLICITUDES, &parish);
   describeRequests(tree.add("SolicitudesBautismo", SPOKEN[0], NodeKind::Requests, &requests));
+  const NodeView reports = tree.folder(CcNodos::INFORMESYDOCUMENTOS);
+  tree.add(CcNodos::INFDUPLICADASBAUTISMO, CcNodos::INFDUPLICADASBAUTISMO, NodeKind::Reports,
+           &reports)
+      .sacrament = &BAUTISMO;
   describeInstitutions(
       tree.add(CcNodos::INSTITUCION, CcNodos::INSTITUCION, NodeKind::Institutions, nullptr));
   describeProvinces(tree.add(CcNodos::PROVINCIA, CcNodos::PROVINCIA, NodeKind::Provinces, nullptr));

@@ -17,6 +17,7 @@ enum class NodeKind : unsigned {
   Institutions = 16,
   Provinces = 32,
   Towns = 64,
+  Reports = 128,  // has no rows: the node itself is what is run
 };
 
 constexpr unsigned bit(NodeKind kind) {
@@ -43,6 +44,7 @@ struct NodeView {
   std::string key;  // field of the statement that tells the rows apart
   std::vector<ColumnView> columns;
   std::string annulled;  // field of the mark of an annulled row; empty when there is none
+  std::string group;     // field that puts rows together, such as their book; or empty
   std::string things;    // "partidas": what the rows are, for the status bar
 };
 

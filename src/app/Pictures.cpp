@@ -13,6 +13,7 @@
 #include "app/MainWindow.h"
 #include "app/NewParish.h"
 #include "app/PreviewDialog.h"
+#include "core/contract/CcNodos.h"
 #include "forms/ScriptedUser.h"
 #include "qt/Picture.h"
 #include "registers/lookup/frmBuscaPadres.h"
@@ -159,6 +160,39 @@ class EditionSitting {
     }
   }
 
+  void bookProperties() {
+    const auto open = [this](const char* name, std::int32_t id) {
+      take(name, [&] {
+        desk_->nucleo().PropiedadesLibro(desk_->parish(), id, desk_->config(), "LibrosBautismo");
+      });
+    };
+    const std::int32_t current = one("SELECT IDLibroBautismo FROM Libro_Bautismo WHERE Nuevo=true");
+    open("libro-nuevo-abierto", current);
+    open("libro-antiguo", one("SELECT IDLibroBautismo FROM Libro_Bautismo WHERE Nuevo=false"));
+    takeRequests();
+    take("duplicadas", [&] {
+      std::string order;
+      desk_->nucleo().ImprimirDuplicadas(desk_->parish(), desk_->reports(), DUPLICATE, order);
+    });
+    desk_->parish().Execute("UPDATE Libro_Bautismo SET Cerrado=true WHERE IDLibroBautismo=" +
+                            std::to_string(current));
+    open("libro-nuevo-cerrado", current);
+    desk_->parish().Execute("UPDATE Libro_Bautismo SET Cerrado=false WHERE IDLibroBautismo=" +
+                            std::to_string(current));
+  }
+
+  void takeRequests() {
+    user_.pose = [](forms::FormDriver& d) {
+      d.chooseData("cboInstitucion", OWN);
+      d.tab("mstSolicitudes", 1);
+      auto& requests = d.get<forms::ListBox>("lstSolicitudes(0)");
+      if (requests.listCount() > 1) requests.setSelected(1, true);
+      d.click("cmdMover(0)");
+    };
+    take("pasar-solicitudes",
+         [&] { desk_->nucleo().ImportarSolicitudes(desk_->parish(), desk_->config(), REQUESTS); });
+  }
+
   void otherDialogs() {
     take("encargado", [&] {
       std::string date, keeper;
@@ -178,29 +212,38 @@ class EditionSitting {
   void documents() {
     for (const Document& d : app::documents()) {
       if (findDocument(d.command, edition_.code) != &d) continue;
-      const std::int32_t id = d.kind == NodeKind::Requests ? request() : 1;
+      const std::int32_t id = d.kind == NodeKind::Requests ? request()
+                              : d.kind == NodeKind::Books  ? LAST_BOOK
+                                                           : 1;
       user_.pose = acceptKeeper;
       const auto report = makeReport(*desk_, d, id);
       user_.pose = {};
-      if (report)
-        album_.add("documento-" + std::string(edition_.name) + "-" + d.command,
-                   report->pageImage(0, DOCUMENT_DPI));
-      else
-        album_.miss(d.operation, "el documento no tiene filas");
+      page(report, d.command);
     }
+    user_.pose = [year = lastYear()](forms::FormDriver& d) {
+      d.chooseData("cboInstitucion", OWN);
+      d.type("adtpAno", year);
+      d.choose("cboOrden", "Fecha de Bautismo");
+      d.click("cmdBoton(0)");
+    };
+    const auto duplicate = makeDuplicate(*desk_, DUPLICATE);
+    user_.pose = {};
+    page(duplicate, "duplicado");
   }
 
   void windows() {
     MainWindow window(*desk_);
     window.resize(1200, 700);
     for (const char* node : {"PartidasBautismo", "SolicitudesBautismo", "LibrosBautismo",
-                             "Instituciones", "Municipios"}) {
+                             "Duplicadas de bautismo", "Instituciones", "Municipios"}) {
       window.showNode(node);
       album_.add("ventana-" + plainName(node), window);
     }
     window.showNode("PartidasBautismo");
     window.filter().setText("garcia");
     album_.add("ventana-filtrada", window);
+    window.showEntriesOf(LAST_BOOK);
+    album_.add("ventana-partidas-de-un-libro", window);
     const Document* d = findDocument("certificado", edition_.code);
     user_.pose = acceptKeeper;
     if (auto report = makeReport(*desk_, *d, 1)) {
@@ -211,6 +254,14 @@ class EditionSitting {
   }
 
  private:
+  // The first page, and the second of a document that has one.
+  void page(const std::optional<paper::Report>& report, const std::string& name) {
+    const std::string picture = "documento-" + std::string(edition_.name) + "-" + name;
+    if (!report) return album_.miss(picture, "el documento no tiene filas");
+    album_.add(picture, report->pageImage(0, DOCUMENT_DPI));
+    if (report->pageCount() > 1) album_.add(picture + "-2", report->pageImage(1, DOCUMENT_DPI));
+  }
+
   void take(const std::string& name, const std::function<void()>& operation) {
     const std::string picture = "dialogo-" + std::string(edition_.name) + "-" + name;
     user_.next = picture;
@@ -262,6 +313,12 @@ class EditionSitting {
   std::int32_t newest() {
     return one("SELECT MAX(IDBautismo) AS ID FROM Bautismo WHERE CodLibro<>0");
   }
+  std::string lastYear() {
+    return desk_->parish()
+        .Execute("SELECT FechaBautismo FROM Bautismo WHERE IDBautismo=" + std::to_string(newest()))
+        .text("FechaBautismo")
+        .substr(0, 4);
+  }
   std::int32_t request() {
     return one("SELECT MAX(IDBautismo) AS ID FROM Bautismo WHERE CodLibro=0");
   }
@@ -270,6 +327,9 @@ class EditionSitting {
 
   static constexpr const char* ENTRIES = "PartidasBautismo";
   static constexpr const char* REQUESTS = "SolicitudesBautismo";
+  static constexpr const char* DUPLICATE = CcNodos::INFDUPLICADASBAUTISMO;
+  static constexpr std::int32_t LAST_BOOK = 2;
+  static constexpr std::int32_t OWN = 1;  // of the two institutions
   Album& album_;
   Edition edition_;
   Photographer user_;
@@ -307,6 +367,7 @@ bool renderPictures(const std::filesystem::path& directory, std::ostream& out) {
       if (&edition != &EDITIONS.front()) continue;
       sitting.windows();
       sitting.bookDialogs();
+      sitting.bookProperties();
       sitting.otherDialogs();
     }
   } catch (const std::exception& e) {

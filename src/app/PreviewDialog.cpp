@@ -14,6 +14,7 @@
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QStandardPaths>
+#include <QTimer>
 #include <QToolBar>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -26,7 +27,8 @@ namespace fidaleon::app {
 namespace {
 
 constexpr double MILLIMETRES_PER_INCH = 25.4;
-constexpr int MARGIN = 16;  // around the sheet, in pixels
+constexpr int MARGIN = 16;                       // around the sheet, in pixels
+constexpr std::chrono::milliseconds BREATH{25};  // between two looks at the keyboard
 constexpr int FIT_WIDTH = 0;
 constexpr int FIT_PAGE = -1;
 constexpr std::array<int, 7> ZOOMS{50, 75, 100, 125, 150, 200, 300};
@@ -58,7 +60,7 @@ class PreviewDialog::Sheet : public QWidget {
     const QRect paper = rect().adjusted(MARGIN, MARGIN, -MARGIN, -MARGIN);
     painter.fillRect(paper.translated(3, 3), QColor(0, 0, 0, 60));
     painter.fillRect(paper, Qt::white);
-    if (page_ >= report_.pageCount()) return;
+    if (page_ >= report_.composedPages()) return;
     painter.setClipRect(paper);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     painter.setRenderHint(QPainter::TextAntialiasing);
@@ -73,8 +75,8 @@ class PreviewDialog::Sheet : public QWidget {
   double scale_ = 1;
 };
 
-PreviewDialog::PreviewDialog(paper::Report report, QWidget* parent)
-    : QDialog(parent), report_(std::move(report)) {
+PreviewDialog::PreviewDialog(paper::Report report, QWidget* parent, std::shared_ptr<LongRun> run)
+    : QDialog(parent), report_(std::move(report)), run_(std::move(run)) {
   setWindowTitle(report_.title());
   setWindowFlag(Qt::WindowMaximizeButtonHint);
   auto* layout = new QVBoxLayout(this);
@@ -90,6 +92,10 @@ PreviewDialog::PreviewDialog(paper::Report report, QWidget* parent)
   layout->addWidget(scroll_);
   const QSize room = screen()->availableSize();
   resize(std::min(900, room.width() * 9 / 10), std::min(960, room.height() * 9 / 10));
+  composing_ = new QTimer(this);
+  connect(composing_, &QTimer::timeout, this, [this] { composeSome(); });
+  if (!report_.isComplete()) composeSome();
+  if (!report_.isComplete()) composing_->start(0);
   showPage(0);
 }
 
@@ -117,7 +123,7 @@ void PreviewDialog::buildBar() {
   place_->setContentsMargins(6, 0, 6, 0);
   bar->addWidget(place_);
   forward_ = add("forward", tr("Siguiente"), Qt::Key_PageDown, [this] { showPage(page_ + 1); });
-  last_ = add("last", tr("Última"), {}, [this] { showPage(report_.pageCount() - 1); });
+  last_ = add("last", tr("Última"), {}, [this] { goToEnd(); });
   for (QAction* a : {first_, last_})
     qobject_cast<QToolButton*>(bar->widgetForAction(a))->setToolButtonStyle(Qt::ToolButtonIconOnly);
   bar->addSeparator();
@@ -135,16 +141,52 @@ void PreviewDialog::buildBar() {
   add("close", tr("Cerrar"), {}, [this] { reject(); });
 }
 
+void PreviewDialog::composeSome() {
+  if (run_->isRunning()) return;
+  try {
+    report_.composeMore(BREATH);
+  } catch (const std::exception& e) {
+    composing_->stop();
+    QMessageBox::warning(this, windowTitle(), QString::fromUtf8(e.what()));
+  }
+  if (report_.isComplete()) composing_->stop();
+  showPlace();
+}
+
 void PreviewDialog::showPage(int page) {
-  const int pages = report_.pageCount();
-  page_ = std::clamp(page, 0, std::max(0, pages - 1));
-  place_->setText(tr("Página %1 de %2").arg(page_ + 1).arg(pages));
+  page_ = std::clamp(page, 0, std::max(0, report_.composedPages() - 1));
+  showPlace();
+  sheet_->show(page_);
+  scroll_->verticalScrollBar()->setValue(0);
+}
+
+void PreviewDialog::showPlace() {
+  const int pages = report_.composedPages();
+  place_->setText((report_.isComplete() ? tr("Página %L1 de %L2") : tr("Página %L1 de %L2…"))
+                      .arg(page_ + 1)
+                      .arg(pages));
   first_->setEnabled(page_ > 0);
   back_->setEnabled(page_ > 0);
   forward_->setEnabled(page_ + 1 < pages);
-  last_->setEnabled(page_ + 1 < pages);
-  sheet_->show(page_);
-  scroll_->verticalScrollBar()->setValue(0);
+  last_->setEnabled(page_ + 1 < pages || !report_.isComplete());
+}
+
+void PreviewDialog::goToEnd() {
+  if (work(tr("Preparando las páginas…"), [this] { report_.pageCount(); }))
+    showPage(report_.composedPages() - 1);
+}
+
+// False when it was stopped or failed; the user knows then.
+bool PreviewDialog::work(const QString& what, const std::function<void()>& body) {
+  if (run_->isRunning()) return false;
+  bool done = false;
+  try {
+    done = run_->run(this, what, body);
+  } catch (const std::exception& e) {
+    QMessageBox::warning(this, windowTitle(), QString::fromUtf8(e.what()));
+  }
+  showPlace();
+  return done;
 }
 
 void PreviewDialog::setZoom(double percent) {
@@ -184,7 +226,7 @@ void PreviewDialog::keyPressEvent(QKeyEvent* event) {
     case Qt::Key_Home:
       return showPage(0);
     case Qt::Key_End:
-      return showPage(report_.pageCount() - 1);
+      return goToEnd();
     case Qt::Key_Plus:
       return zoomStep(+1);
     case Qt::Key_Minus:
@@ -211,15 +253,12 @@ void PreviewDialog::print() {
                                 "Puede guardar el documento como PDF e imprimirlo en otro."));
     return;
   }
+  if (!work(tr("Preparando las páginas…"), [this] { report_.pageCount(); })) return;
   QPrinter printer(QPrinter::HighResolution);
   QPrintDialog dialog(&printer, this);
   dialog.setMinMax(1, report_.pageCount());
   if (dialog.exec() != QDialog::Accepted) return;
-  try {
-    report_.print(printer);
-  } catch (const std::exception& e) {
-    QMessageBox::warning(this, windowTitle(), QString::fromUtf8(e.what()));
-  }
+  work(tr("Imprimiendo…"), [&] { report_.print(printer); });
 }
 
 void PreviewDialog::savePdf() {
@@ -229,11 +268,7 @@ void PreviewDialog::savePdf() {
                                               tr("Documentos PDF (*.pdf)"));
   if (file.isEmpty()) return;
   if (!file.endsWith(".pdf", Qt::CaseInsensitive)) file += ".pdf";
-  try {
-    report_.savePdf(file.toStdString());
-  } catch (const std::exception& e) {
-    QMessageBox::warning(this, windowTitle(), QString::fromUtf8(e.what()));
-  }
+  work(tr("Guardando el documento…"), [&] { report_.savePdf(file.toStdString()); });
 }
 
 }  // namespace fidaleon::app

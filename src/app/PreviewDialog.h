@@ -1,26 +1,34 @@
 #pragma once
 
 #include <QDialog>
+#include <functional>
+#include <memory>
 
+#include "app/LongRun.h"
 #include "paper/Report.h"
 
 class QAction;
 class QComboBox;
 class QLabel;
 class QScrollArea;
+class QTimer;
 
 namespace fidaleon::app {
 
-/// Shows the pages of a report and prints or saves them.
+/// Shows the pages of a report and prints or saves them. Of a report whose pages are laid out as
+/// needed the first one stands there at once, and the others are counted while it is being read.
 class PreviewDialog : public QDialog {
   Q_OBJECT
 
  public:
-  explicit PreviewDialog(paper::Report report, QWidget* parent = nullptr);
+  /// `run` is what the report tells its progress to.
+  explicit PreviewDialog(paper::Report report, QWidget* parent = nullptr,
+                         std::shared_ptr<LongRun> run = std::make_shared<LongRun>());
   ~PreviewDialog() override;
 
   void showPage(int page);
   int page() const { return page_; }
+  const paper::Report& report() const { return report_; }
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
@@ -34,10 +42,16 @@ class PreviewDialog : public QDialog {
   void applyZoom();
   QSizeF naturalSize() const;
   void zoomStep(int direction);
+  void composeSome();
+  void showPlace();
+  void goToEnd();
+  bool work(const QString& what, const std::function<void()>& body);
   void print();
   void savePdf();
 
   paper::Report report_;
+  std::shared_ptr<LongRun> run_;
+  QTimer* composing_ = nullptr;
   Sheet* sheet_ = nullptr;
   QScrollArea* scroll_ = nullptr;
   QLabel* place_ = nullptr;

@@ -15,7 +15,13 @@ void RowsFilter::setText(const QString& text) {
   invalidateFilter();
 }
 
+void RowsFilter::setGroup(std::int32_t group) {
+  group_ = group;
+  invalidateFilter();
+}
+
 bool RowsFilter::filterAcceptsRow(int row, const QModelIndex&) const {
+  if (group_ != 0 && rows().group(row) != group_) return false;
   if (words_.empty()) return true;
   const std::string& key = rows().searchKey(row);
   return std::all_of(words_.begin(), words_.end(),

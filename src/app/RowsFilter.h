@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QSortFilterProxyModel>
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -16,6 +17,9 @@ class RowsFilter : public QSortFilterProxyModel {
  public:
   using QSortFilterProxyModel::QSortFilterProxyModel;
   void setText(const QString& text);
+  /// Keeps only the rows of that group; 0 keeps those of all.
+  void setGroup(std::int32_t group);
+  std::int32_t group() const { return group_; }
   const RowsModel& rows() const { return *static_cast<const RowsModel*>(sourceModel()); }
 
  protected:
@@ -24,6 +28,7 @@ class RowsFilter : public QSortFilterProxyModel {
 
  private:
   std::vector<std::string> words_;
+  std::int32_t group_ = 0;
 };
 
 }  // namespace fidaleon::app

@@ -39,6 +39,7 @@ void RowsModel::load(store::Connection& connection, const NodeView& view) {
     for (; !set.EOF_(); set.MoveNext()) {
       Row row;
       row.key = static_cast<std::int32_t>(set.integer(view.key));
+      if (!view.group.empty()) row.group = static_cast<std::int32_t>(set.integer(view.group));
       row.annulled = !view.annulled.empty() && set.flag(view.annulled);
       for (const ColumnView& column : view.columns) row.stored.push_back(set.text(column.field));
       rows.push_back(std::move(row));

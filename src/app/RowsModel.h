@@ -30,6 +30,8 @@ class RowsModel : public QAbstractTableModel {
   QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
   std::int32_t key(int row) const { return rows_[static_cast<std::size_t>(row)].key; }
+  /// What the rows of one book have in common; 0 where rows belong to none.
+  std::int32_t group(int row) const { return rows_[static_cast<std::size_t>(row)].group; }
   bool annulled(int row) const { return rows_[static_cast<std::size_t>(row)].annulled; }
   /// As the table holds it: what sorting goes by.
   const std::string& stored(int row, int column) const;
@@ -39,6 +41,7 @@ class RowsModel : public QAbstractTableModel {
  private:
   struct Row {
     std::int32_t key = 0;
+    std::int32_t group = 0;
     bool annulled = false;
     std::vector<std::string> stored;
     mutable std::string search;

@@ -15,9 +15,9 @@ constexpr int YEARS_BETWEEN_FOUNDERS = 2;
 constexpr int NEW_NAMES_FROM = 1988;
 
 constexpr std::array<std::string_view, 7> MINISTERS{
-    {"D. Anselmo Carrascosa Ruipérez", "D. Hilario Zorita Manzano", "D. Cosme Peñalba Ortún",
-     "D. Evaristo Montalvo Rincón", "D. Jacinto Olivares Bermejo", "D. Abilio Santacana Prieto",
-     "D. Rogelio Villamor Escribano"}};
+    {"Anselmo Carrascosa Ruipérez", "Hilario Zorita Manzano", "Cosme Peñalba Ortún",
+     "Evaristo Montalvo Rincón", "Jacinto Olivares Bermejo", "Abilio Santacana Prieto",
+     "Rogelio Villamor Escribano"}};
 
 /// Numbers that are the same on every machine: the distributions of the library are not.
 class Dice {

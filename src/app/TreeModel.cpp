@@ -25,6 +25,8 @@ const char* iconOf(NodeKind kind) {
       return "map";
     case NodeKind::Towns:
       return "town";
+    case NodeKind::Reports:
+      return "print";
   }
   return "";
 }

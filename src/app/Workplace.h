@@ -24,9 +24,14 @@ class Workplace {
   /// Writes the document of that entry and shows it. Nothing is shown when the operation wrote no
   /// row: whoever refused has told the user.
   virtual void showDocument(const Document& document, std::int32_t id) = 0;
+  /// Asks for the year and shows the duplicate of that node; nothing is shown when the user gave up
+  /// or the year has no entries.
+  virtual void showDuplicate(const std::string& node) = 0;
   virtual void focusFilter() = 0;
   /// Chooses the node of that name.
   virtual void showNode(const std::string& name) = 0;
+  /// Chooses the entries of that book.
+  virtual void showEntriesOf(std::int32_t book) = 0;
   /// Asks where, and saves a verified copy of the parish there.
   virtual void backUp() = 0;
   virtual void about() = 0;

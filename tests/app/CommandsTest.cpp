@@ -27,7 +27,8 @@ using Ids = std::set<std::string>;
 
 TEST(Commands, withoutARow_onlyNewThings) {
   EXPECT_EQ(given(at("PartidasBautismo")), (Ids{"nueva-partida", "antigua-partida"}));
-  EXPECT_EQ(given(at("SolicitudesBautismo")), (Ids{"nueva-solicitud"}));
+  EXPECT_EQ(given(at("SolicitudesBautismo")), (Ids{"nueva-solicitud", "pasar-al-libro"}));
+  EXPECT_EQ(given(at("Duplicadas de bautismo")), Ids{"duplicadas"});
   EXPECT_EQ(given(at("LibrosMatrimonio")), (Ids{"nuevo-libro"}));
   EXPECT_EQ(given(at("Municipios")), (Ids{"nuevo-municipio"}));
   EXPECT_EQ(given(at("Partidas")), Ids{});
@@ -43,9 +44,12 @@ TEST(Commands, anEntryIsAnnulledOrValidated_neverBoth) {
   EXPECT_FALSE(annulled.count("anular"));
 }
 
-TEST(Commands, onlyBaptismBooksLeadToEntries) {
-  EXPECT_TRUE(given(at("LibrosBautismo", 1)).count("ver-partidas"));
-  EXPECT_FALSE(given(at("LibrosDefuncion", 1)).count("ver-partidas"));
+TEST(Commands, onlyBaptismBooksAreOpenedAndPrinted) {
+  const Ids common{"nuevo-libro", "cerrar-libro", "eliminar-libro"};
+  Ids baptism = common;
+  baptism.insert({"propiedades-libro", "ver-partidas", "libro", "indice"});
+  EXPECT_EQ(given(at("LibrosBautismo", 1)), baptism);
+  EXPECT_EQ(given(at("LibrosDefuncion", 1)), common);
 }
 
 TEST(Commands, noTwoThatApplyShareAKeyOrAnId) {
@@ -68,7 +72,8 @@ TEST(Documents, everyEditionHasEachDocument_withATemplate) {
   using E = FDAPI::cCAplicacion;
   for (const char* edition : {E::APP_FIDALEON_MADRID, E::APP_FIDALEON_SANTIAGO,
                               E::APP_FIDALEON_ZARAGOZA, E::APP_FIDALEON_MENORCA})
-    for (const char* command : {"certificado", "literal", "partida", "volante", "datos"}) {
+    for (const char* command :
+         {"certificado", "literal", "partida", "volante", "datos", "libro", "indice"}) {
       const Document* d = findDocument(command, edition);
       ASSERT_TRUE(d) << command;
       EXPECT_TRUE(paper::documentOf(d->operation)) << d->operation;
@@ -77,6 +82,8 @@ TEST(Documents, everyEditionHasEachDocument_withATemplate) {
             "InformeSolicitudPartidaBautismoDatosSantiago");
   EXPECT_EQ(findDocument("certificado", E::APP_FIDALEON_MENORCA)->operation,
             "InformeCertificadoPartidaBautismoMenorca");
+  EXPECT_EQ(findDocument("libro", E::APP_FIDALEON_MENORCA)->operation,
+            "InformeLibroBautismoMenorca");
   EXPECT_EQ(findDocument("volante", E::APP_FIDALEON_ZARAGOZA)->operation, "InformeVolanteBautismo");
 }
 

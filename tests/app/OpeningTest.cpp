@@ -1,3 +1,7 @@
+#include <sqlite3.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
 #include <fstream>
 
 #include "app/FormWatch.h"
@@ -95,6 +99,36 @@ TEST_F(Opening, missing_offersANewParish) {
   EXPECT_EQ(failure(), ErrorKind::Missing);
   EXPECT_TRUE(offers(Remedy::NewParish));
   EXPECT_THAT(fault.text, ::testing::HasSubstr(files().parish().string()));
+}
+
+TEST_F(Opening, whileAnotherHoldsTheFile_saysSoAndCanBeTriedAgain) {
+  create(Content::Empty);
+  desk.reset();
+  int told[2];
+  int ended[2];
+  ASSERT_EQ(pipe(told), 0);
+  ASSERT_EQ(pipe(ended), 0);
+  const std::string file = files().parish().string();
+  const pid_t other = fork();
+  if (other == 0) {
+    sqlite3* db = nullptr;
+    sqlite3_open(file.c_str(), &db);
+    const bool holds = sqlite3_exec(db, "PRAGMA locking_mode=EXCLUSIVE; BEGIN EXCLUSIVE", nullptr,
+                                    nullptr, nullptr) == SQLITE_OK;
+    char sign = holds ? 'y' : 'n';
+    if (::write(told[1], &sign, 1) == 1 && ::read(ended[0], &sign, 1) == 1) _exit(0);
+    _exit(1);
+  }
+  char held = 0;
+  ASSERT_EQ(::read(told[0], &held, 1), 1);
+  ASSERT_EQ(held, 'y');
+  EXPECT_EQ(failure(), ErrorKind::Busy);
+  EXPECT_EQ(fault.title, "La parroquia está ocupada");
+  EXPECT_TRUE(offers(Remedy::Retry));
+  ASSERT_EQ(::write(ended[1], &held, 1), 1);
+  waitpid(other, nullptr, 0);
+  open();
+  EXPECT_EQ(desk->parishName(), "San Blas");
 }
 
 TEST_F(Opening, noDatabase_isNotTouched) {

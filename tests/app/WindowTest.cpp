@@ -2,9 +2,11 @@
 #include <QLineEdit>
 #include <QStatusBar>
 #include <QTableView>
+#include <QToolButton>
 #include <sstream>
 
 #include "app/Demo.h"
+#include "app/DemoScripts.h"
 #include "app/Documents.h"
 #include "app/FirstRunWizard.h"
 #include "app/MainWindow.h"
@@ -100,6 +102,53 @@ TEST_F(Window, whatIsAddedIsChosen) {
   EXPECT_THAT(user.problems(), ::testing::IsEmpty());
 }
 
+TEST_F(Window, entriesOfABook_areItsOwnUntilTheLimitIsTakenAway) {
+  const int all = shown();
+  window->showNode("LibrosBautismo");
+  ASSERT_TRUE(window->chooseRow(2));
+  window->action("ver-partidas")->trigger();
+  EXPECT_EQ(window->choice().node->node.Nombre, "PartidasBautismo");
+  EXPECT_EQ(shown(), count("SELECT COUNT(IDBautismo) FROM Bautismo WHERE CodLibro=2"));
+  EXPECT_LT(shown(), all);
+  window->filter().setText("zzzz");
+  EXPECT_EQ(shown(), 0);
+  window->filter().clear();
+  window->action("actualizar")->trigger();
+  EXPECT_LT(shown(), all);
+  auto* scope = window->findChild<QToolButton*>("scope");
+  ASSERT_TRUE(scope);
+  EXPECT_EQ(scope->text(), "Libro: 2014/01");
+  scope->click();
+  EXPECT_EQ(shown(), all);
+  EXPECT_FALSE(scope->isVisible());
+}
+
+TEST_F(Window, enterOnABook_opensIt) {
+  window->showNode("LibrosBautismo");
+  user.expectForm("frmPropiedadesLibroBautismo", [](forms::FormDriver& d) { d.escape(); });
+  window->action("propiedades-libro")->trigger();
+  EXPECT_THAT(user.problems(), ::testing::IsEmpty());
+}
+
+TEST_F(Window, requests_moveIntoTheBookAndLeaveTheList) {
+  window->showNode("SolicitudesBautismo");
+  ASSERT_EQ(shown(), 5);
+  user.expectForm("frmSolicitudes", [](forms::FormDriver& d) {
+    d.chooseData("cboInstitucion", 1);
+    demo::moveAllRequests(d);
+  });
+  window->action("pasar-al-libro")->trigger();
+  EXPECT_EQ(shown(), 0);
+  EXPECT_THAT(user.problems(), ::testing::IsEmpty());
+}
+
+TEST_F(Window, duplicate_cancelledShowsNothing) {
+  window->showNode("Duplicadas de bautismo");
+  user.expectForm("frmInfDuplicadas", [](forms::FormDriver& d) { d.escape(); });
+  window->action("duplicadas")->trigger();
+  EXPECT_THAT(user.problems(), ::testing::IsEmpty());
+}
+
 TEST_F(Window, document_twiceInARowHoldsOneRow) {
   const Document* slip = findDocument("volante", FDAPI::cCAplicacion::APP_FIDALEON_MADRID);
   for (int i = 0; i < 2; ++i) {
@@ -137,7 +186,8 @@ TEST_F(ParishTest, wizardGivesBackWhatItWasOffered) {
 TEST_F(ParishTest, demo_walksTheWholeRoad) {
   std::ostringstream out;
   EXPECT_TRUE(runDemo(directory() / "demo", out)) << out.str();
-  for (const char* file : {"demo.log", "certificado.pdf", "literal.pdf", "volante.pdf"})
+  for (const char* file : {"demo.log", "certificado.pdf", "literal.pdf", "volante.pdf", "libro.pdf",
+                           "indice.pdf", "duplicado.pdf"})
     EXPECT_TRUE(std::filesystem::exists(directory() / "demo" / file)) << file;
   EXPECT_TRUE(runDemo(directory() / "demo", out)) << "a second time: " << out.str();
 }
