@@ -3,6 +3,7 @@
 
 #include "core/contract/Sacramento.h"
 #include "facade_world.h"
+#include "store/FailingEngine.h"
 
 namespace fidaleon::tests {
 namespace {
@@ -192,6 +193,26 @@ TEST(FacadeRequests, ImportarSolicitudes_HoldsTheInstitutionsAndMoves) {
   w.nucleo.ImportarSolicitudes(w.con(), w.config, "SolicitudesBautismo");
   EXPECT_EQ(w.value("SELECT CodLibro FROM Bautismo"), "1");
   EXPECT_EQ(w.value("SELECT Numero FROM Bautismo"), "1");
+  EXPECT_SCRIPT_DONE(w.user);
+}
+
+TEST(FacadeRequests, MoveThatFails_GivesTheBookAndItsEntriesBack) {
+  SpyWorld w;
+  w.hacerSolicitud();
+  store::FailingEngine::wrap(w.con())->failOn("UPDATE Bautismo SET InstitucionSolicitud");
+  w.user.answerAnything(Answer::Ok);
+  w.user.expectForm("frmSolicitudes", [&](FormDriver& u) {
+    u.choose("cboInstitucion", "San Ginés");
+    u.tab("mstSolicitudes", 1);
+    u.click("cmdMover(1)");
+    w.spy.log.clear();
+    u.click("cmdBoton(0)");
+    EXPECT_THAT(w.bloqueos(), ElementsAre("Libro_Bautismo [1] existe [SELECT IDLibroBautismo FROM "
+                                          "Libro_Bautismo WHERE IDLibroBautismo=1]",
+                                          "Bautismo", "efectuar", "liberar"));
+    u.escape();
+  });
+  w.nucleo.ImportarSolicitudes(w.con(), w.config, "SolicitudesBautismo");
   EXPECT_SCRIPT_DONE(w.user);
 }
 

@@ -1,5 +1,6 @@
 // Moving the chosen requests into the book, each on the next position.
 
+#include "core/contract/SesionBloqueos.h"
 #include "registers/common/Bloqueos.h"
 #include "registers/requests/ProcedimientoSolicitudes.h"
 #include "text/Numbers.h"
@@ -28,12 +29,10 @@ void frmSolicitudes::aceptar() {
   const Libro libro{static_cast<std::int32_t>(fila.integer(s.claveLibro)), fila.text("CodFormato")};
   // A list of the book that is open elsewhere has its own idea of the next position, and a request
   // being corrected elsewhere would be stored as a request again.
-  const auto sesion = abrirSesion(contexto_, *conBaseDatos);
-  sesion->DefinirBloqueo(bloqueoDeRegistro(*conBaseDatos, s.tablaLibros, s.claveLibro, libro.id));
-  sesion->DefinirBloqueo(bloqueoDeTabla(s.tablaPartidas));
-  if (sesion->lngEfectuarBloqueos() != FDAPI::BloqueoNinguno) return;
-  moverAlLibro(libro);
-  sesion->LiberarBloqueos();
+  SesionBloqueos sesion(contexto_, *conBaseDatos);
+  sesion.definir(bloqueoDeRegistro(*conBaseDatos, s.tablaLibros, s.claveLibro, libro.id));
+  sesion.tabla(s.tablaPartidas);
+  if (sesion.efectuar()) moverAlLibro(libro);
 }
 
 /// What has been moved leaves the list, so that after a failure the rest can be tried again.
