@@ -255,7 +255,7 @@ class Button : public Control {
 };
 
 /// Rows of text under a fixed row 0 of headers. Each row may carry a hidden key. Column widths
-/// are in twips (1/1440 inch), as they are kept in the settings.
+/// are in twips, as they are kept in the settings; a window takes 75 for a letter.
 class Grid : public Control {
  public:
   Grid(Form& form, std::string name);

@@ -98,4 +98,9 @@ QIcon calendarIcon(const QWidget& widget) {
   return icon;
 }
 
+double pixelsPerTwip(const QWidget& widget) {
+  constexpr double TWIPS_PER_LETTER = 75, SAMPLE = 100;
+  return charsWidth(widget, SAMPLE) / SAMPLE / TWIPS_PER_LETTER;
+}
+
 }  // namespace fidaleon::qt

@@ -19,6 +19,8 @@ QColor lockedColour(const QPalette& palette);
 
 /// Width of `n` letters of mean size in the widget's font, without any frame.
 int charsWidth(const QWidget& widget, double n);
+/// Column widths of grids are kept in twips of a small screen letter; they grow with the font.
+double pixelsPerTwip(const QWidget& widget);
 QIcon calendarIcon(const QWidget& widget);
 
 }  // namespace fidaleon::qt

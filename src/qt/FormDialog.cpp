@@ -23,7 +23,6 @@ using forms::Control;
 namespace {
 
 constexpr double SHARE_OF_SCREEN = 0.95;
-constexpr int TWIPS_PER_INCH = 1440;
 
 /// Counts a block in which the focus moves by our own doing.
 class Settling {
@@ -51,13 +50,22 @@ int wishedWidth(const forms::Form& form, const QWidget& window, int atLeast) {
     int own = 0;
     if (const auto* grid = dynamic_cast<const forms::Grid*>(control))
       for (int column = 0; column < grid->columns(); ++column)
-        own += grid->columnWidth(column) * window.logicalDpiX() / TWIPS_PER_INCH;
+        own += qRound(grid->columnWidth(column) * pixelsPerTwip(window));
     if (control->widthChars() > 0) own = charsWidth(window, control->widthChars());
     if (const forms::Label* label = own > 0 ? control->label() : nullptr)
       own += window.fontMetrics().horizontalAdvance(toQt(label->caption()));
     width = std::max(width, own + charsWidth(window, 8));
   }
   return width;
+}
+
+/// Lists of rows open with room for a good part of them.
+int wishedHeight(const forms::Form& form, const QWidget& window, int atLeast) {
+  const auto& controls = form.controls();
+  const bool rows = std::any_of(controls.begin(), controls.end(), [](const auto* control) {
+    return control->visible() && dynamic_cast<const forms::Grid*>(control);
+  });
+  return rows ? atLeast + window.fontMetrics().height() * 12 : atLeast;
 }
 
 /// Scrolls every page around a field that has just been reached.
@@ -144,7 +152,8 @@ void FormDialog::fitScreen() {
   layout()->activate();
   const QSize most = room_ * SHARE_OF_SCREEN;
   const QSize hint = sizeHint();
-  const QSize wish(wishedWidth(form_, *this, hint.width()), hint.height());
+  const QSize wish(wishedWidth(form_, *this, hint.width()),
+                   wishedHeight(form_, *this, hint.height()));
   setMinimumSize(minimumSizeHint().boundedTo(most));
   layout()->setSizeConstraint(QLayout::SetNoConstraint);
   resize(wish.boundedTo(most));

@@ -7,6 +7,7 @@
 #include "forms/Controls.h"
 #include "qt/Appearance.h"
 #include "qt/PageScroll.h"
+#include "qt/views/MemoView.h"
 #include "qt/views/PlainViews.h"
 #include "qt/views/TabsView.h"
 
@@ -34,11 +35,25 @@ bool isWide(const forms::Control& control) {
          dynamic_cast<const forms::Label*>(&control);
 }
 
+/// A text of a few lines keeps its height; what may hold more takes what there is.
+bool isElastic(const forms::Control& control) {
+  const auto* text = dynamic_cast<const forms::TextBox*>(&control);
+  return isTall(control) && !(text && text->lines() <= MEMO_FIXED_UP_TO);
+}
+
 /// Whether a part of the layout uses what height is left.
 bool grows(const LayoutNode& node) {
   if (node.kind == Kind::Tabs || node.kind == Kind::Stretch) return true;
-  if (node.control && node.kind == Kind::Item && isTall(*node.control)) return true;
+  if (node.control && node.kind == Kind::Item && isElastic(*node.control)) return true;
   return std::any_of(node.children.begin(), node.children.end(), grows);
+}
+
+/// Whether a part of a row takes what width is left.
+bool widens(const LayoutNode& node) {
+  if (node.kind == Kind::Buttons) return false;
+  if (node.kind == Kind::Group || node.kind == Kind::Tabs) return true;
+  if (node.control && isWide(*node.control)) return true;
+  return std::any_of(node.children.begin(), node.children.end(), widens);
 }
 
 bool anyGrows(const forms::Nodes& nodes) {
@@ -125,10 +140,10 @@ void LayoutBuilder::addRow(const LayoutNode& node, QBoxLayout& box, QWidget* par
     }
     // Parts of a row share its width, and stand at the top unless they use the height.
     auto* part = new QVBoxLayout;
-    row->addLayout(part, child.kind == Kind::Buttons ? 0 : 1);
+    row->addLayout(part, widens(child) ? 1 : 0);
     add(child, *part, parent);
     if (!grows(child)) part->addStretch(1);
-    wide = true;
+    wide = wide || widens(child);
   }
   if (!wide) row->addStretch(1);
 }
@@ -226,7 +241,7 @@ void LayoutBuilder::addField(const LayoutNode& node, QGridLayout& grid, int row,
   const bool inFront = text && !front;
   const int first = 2 * pair + (inFront ? 0 : 1);
   const int columns = 2 * span - (inFront ? 0 : 1);
-  if (tall) grid.setRowStretch(row, 1);
+  if (isElastic(*node.control)) grid.setRowStretch(row, 1);
   if (QBoxLayout* cell = withBeside(widget, node, parent))
     return grid.addLayout(cell, row, first, 1, columns);
   const Qt::Alignment place =

@@ -12,6 +12,7 @@
 #include <QToolButton>
 
 #include "forms/ScriptedUser.h"
+#include "qt/Appearance.h"
 #include "qt/FormDialog.h"
 #include "qt/SampleForm.h"
 
@@ -72,7 +73,7 @@ TEST_F(GridAndDateTest, CellRewritten_TableShowsIt) {
 
 TEST_F(GridAndDateTest, WidthsInTwips_ShownAndTakenBackFromTheHeader) {
   open();
-  const double dotsPerTwip = table().logicalDpiX() / 1440.0;
+  const double dotsPerTwip = pixelsPerTwip(table());
   EXPECT_EQ(table().columnWidth(0), qRound(900 * dotsPerTwip));
   EXPECT_TRUE(table().isColumnHidden(3));
   table().horizontalHeader()->resizeSection(0, 120);

@@ -13,8 +13,6 @@ using forms::Change;
 
 namespace {
 
-constexpr double TWIPS_PER_INCH = 1440;
-
 void setUp(QTableView& table) {
   table.setSelectionBehavior(QAbstractItemView::SelectRows);
   table.setSelectionMode(QAbstractItemView::SingleSelection);
@@ -124,12 +122,12 @@ void GridView::widthDrawn(int column, int pixels) {
   // Only what is drawn by hand: the last column also follows the width of the window.
   const bool last = column == grid_.columns() - 1;
   if (showing_ || last || pixels <= 0 || column >= grid_.columns()) return;
-  const int twips = qRound(pixels * TWIPS_PER_INCH / table_->logicalDpiX());
+  const int twips = qRound(pixels / pixelsPerTwip(*table_));
   if (this->pixels(grid_.columnWidth(column)) != pixels) grid_.setColumnWidth(column, twips);
 }
 
 int GridView::pixels(int twips) const {
-  return qRound(twips * table_->logicalDpiX() / TWIPS_PER_INCH);
+  return qRound(twips * pixelsPerTwip(*table_));
 }
 
 bool GridView::keyPressed(QKeyEvent& event) {

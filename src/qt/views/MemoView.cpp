@@ -29,6 +29,7 @@ MemoView::MemoView(forms::TextBox& box, QWidget* parent)
   const double frame = 2 * (edit_->frameWidth() + edit_->document()->documentMargin());
   const double height = edit_->fontMetrics().lineSpacing() * box.lines() + frame;
   edit_->setMinimumHeight(static_cast<int>(height) + 1);
+  if (box.lines() <= MEMO_FIXED_UP_TO) edit_->setMaximumHeight(edit_->minimumHeight());
   edit_->setMinimumWidth(charsWidth(*edit_, 16));
   connect(edit_, &QPlainTextEdit::textChanged, this, [this] { userEdited(); });
   connect(edit_, &QPlainTextEdit::cursorPositionChanged, this, [this] { selectionMoved(); });

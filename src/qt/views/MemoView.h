@@ -6,6 +6,9 @@ class QPlainTextEdit;
 
 namespace fidaleon::qt {
 
+/// Texts of up to this many lines keep their height.
+inline constexpr int MEMO_FIXED_UP_TO = 3;
+
 /// A field of several lines. Tab leaves it.
 class MemoView : public TextView {
  public:

@@ -49,6 +49,7 @@ frmDetallePadres::frmDetallePadres(Contexto& contexto)
     linea.setLabel(lblDetalle[i]);
     linea.setLocked(true);
     linea.setWidthChars(80);
+    linea.setLines(2);
     lineas.push_back(forms::item(linea));
   }
   cmdCerrar.setCancel(true);
