@@ -82,7 +82,7 @@ TEST_F(LongDocument, book_namesInstitutionAndBookOnItsTitlePageAndOnEveryHeader)
   options.values = {{"Institucion", "Parroquia de San Gil"}, {"Diocesis", "Diócesis de Ávila"}};
   const Report book = open("InformeLibroBautismo", options);
   ASSERT_EQ(book.pageCount(), 4);
-  EXPECT_THAT(pageText(book, 0), HasSubstr("Folios 1 a 2 · 5 partidas"));
+  EXPECT_THAT(pageText(book, 0), HasSubstr("Folios 1 a 2 · Partidas: 5"));
   EXPECT_THAT(pageText(book, 0), HasSubstr("Diócesis de Ávila"));
   for (int page = 1; page < 4; ++page) {
     const std::string text = pageText(book, page);
@@ -237,7 +237,7 @@ TEST_F(LongDocument, duplicate_endsWithTheSignatureOfTheParishPriest) {
   const Report duplicate = open(op);
   const std::string text = pageText(duplicate, duplicate.pageCount() - 1);
   EXPECT_THAT(text, HasSubstr("Andrés Quiñones Bermúdez"));
-  EXPECT_THAT(text, HasSubstr("Este duplicado de 9 partidas"));
+  EXPECT_THAT(text, HasSubstr("partidas: 9."));
   EXPECT_THAT(pageText(duplicate, 0), Not(HasSubstr("Este duplicado")));
 }
 
