@@ -23,6 +23,7 @@
 #include "app/PreviewDialog.h"
 #include "app/TreeModel.h"
 #include "app/WindowSettings.h"
+#include "qt/Appearance.h"
 #include "store/Open.h"
 
 namespace fidaleon::app {
@@ -37,6 +38,7 @@ bool hasRows(const NodeView& node) {
 MainWindow::MainWindow(Desk& desk, QWidget* parent) : QMainWindow(parent), desk_(desk) {
   setWindowTitle(tr("%1 — Fidaleon").arg(QString::fromStdString(desk.parishName())));
   setObjectName("MainWindow");
+  setPalette(qt::legible(palette()));
   splitter_ = new QSplitter(this);
   setCentralWidget(splitter_);
   buildTree();

@@ -30,7 +30,9 @@ class CellDelegate : public QStyledItemDelegate {
  protected:
   void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
     QStyledItemDelegate::initStyleOption(option, index);
-    if (option->displayAlignment & Qt::AlignRight) option->text += QChar(0x2003);
+    if (!(option->displayAlignment & Qt::AlignRight)) return;
+    option->text += QChar(0x2003);
+    option->font.setStrikeOut(false);  // it would run on as a dash behind the number
   }
 };
 
@@ -157,7 +159,7 @@ void MainWindow::buildCommands() {
 
 void MainWindow::buildStatusBar() {
   count_ = new QLabel(this);
-  statusBar()->addWidget(count_);
+  statusBar()->addWidget(count_, 1);
   const QString parish = QString::fromStdString(desk_.parishName());
   const QString user = QString::fromStdString(desk_.config().Usuario);
   const QString edition = QString::fromStdString(desk_.edition());

@@ -22,6 +22,7 @@
 #include <cmath>
 
 #include "app/Icons.h"
+#include "qt/Appearance.h"
 
 namespace fidaleon::app {
 namespace {
@@ -78,6 +79,7 @@ class PreviewDialog::Sheet : public QWidget {
 PreviewDialog::PreviewDialog(paper::Report report, QWidget* parent, std::shared_ptr<LongRun> run)
     : QDialog(parent), report_(std::move(report)), run_(std::move(run)) {
   setWindowTitle(report_.title());
+  setPalette(qt::legible(palette()));
   setWindowFlag(Qt::WindowMaximizeButtonHint);
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
@@ -124,7 +126,7 @@ void PreviewDialog::buildBar() {
   bar->addWidget(place_);
   forward_ = add("forward", tr("Siguiente"), Qt::Key_PageDown, [this] { showPage(page_ + 1); });
   last_ = add("last", tr("Última"), {}, [this] { goToEnd(); });
-  for (QAction* a : {first_, last_})
+  for (QAction* a : {first_, back_, forward_, last_})
     qobject_cast<QToolButton*>(bar->widgetForAction(a))->setToolButtonStyle(Qt::ToolButtonIconOnly);
   bar->addSeparator();
   zooms_ = new QComboBox(bar);
