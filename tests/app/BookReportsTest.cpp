@@ -152,6 +152,26 @@ TEST_F(BookReports, duplicate_thatFailsInTheMiddle_leavesNoTransactionAndNoRow) 
   EXPECT_EQ(desk->reports().Execute("SELECT * FROM Documentos_Bautismo").RecordCount(), 0);
 }
 
+TEST_F(BookReports, stoppedWhileItsRowsAreWritten_isNothingAndCanBeAskedForAgain) {
+  struct Impatient : forms::ScriptedUser {
+    bool stops = true;
+    void progressMove(std::int64_t position) override {
+      if (stops && position > 2) throw forms::Cancelled();
+    }
+  } impatient;
+  impatient.answerAnything(forms::Answer::Ok);
+  desk = std::make_unique<Desk>(files(), "Secretaría", impatient, settings, clock);
+  EXPECT_FALSE(make("libro"));
+  ASSERT_EQ(impatient.messages().size(), 1u);
+  EXPECT_EQ(impatient.messages().front().text, forms::Cancelled().what());
+  EXPECT_FALSE(desk->reports().inTransaction());
+  impatient.stops = false;
+  const auto report = make("libro");
+  ASSERT_TRUE(report);
+  EXPECT_EQ(static_cast<std::int64_t>(report->rowCount()), entriesOfBook());
+  desk.reset();  // before the user it speaks to
+}
+
 TEST_F(BookReports, header_namesInstitutionDioceseAndTown) {
   desk->parish().Execute(
       "UPDATE Institucion SET InstitucionNombre=\"San Blas Mártir\", InstitucionTipo=\"Parroquia "
