@@ -48,6 +48,7 @@ MainWindow::MainWindow(Desk& desk, QWidget* parent) : QMainWindow(parent), desk_
   splitter_->setStretchFactor(1, 1);
   restoreWindow();
   showNode("PartidasBautismo");
+  table_->setFocus();
 }
 
 MainWindow::~MainWindow() = default;
@@ -88,6 +89,7 @@ void MainWindow::showEntriesOf(std::int32_t book) {
                                     std::to_string(book));
   if (row.EOF_()) return;
   showNode("PartidasBautismo");
+  table_->setFocus();
   filter_->clear();
   setScope(book, QString::fromStdString(row.text("Nombre")));
   selectFirst();

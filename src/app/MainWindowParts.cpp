@@ -145,10 +145,12 @@ void MainWindow::buildCommands() {
       action->setShortcuts({key, QKeySequence(Qt::Key_Enter)});
     else
       action->setShortcut(key);
-    // Keys that a text field needs for itself belong to the list alone.
+    // Keys that a text field needs for itself belong to the list; what needs no row also to the
+    // tree.
     if (command.kinds != 0 && !command.shortcut.starts_with("Ctrl")) {
       action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
       table_->addAction(action);
+      if (command.needs == Needs::Nothing) tree_->addAction(action);
     }
     connect(action, &QAction::triggered, this, [this, &command] { run(command); });
     menus.at(command.menu)->addAction(action);

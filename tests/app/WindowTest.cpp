@@ -2,7 +2,10 @@
 #include <QLineEdit>
 #include <QStatusBar>
 #include <QTableView>
+#include <QTest>
 #include <QToolButton>
+#include <QTreeView>
+#include <QWindow>
 #include <sstream>
 
 #include "app/Demo.h"
@@ -85,6 +88,19 @@ TEST_F(Window, deletingARequest_asksFirst) {
   window->action("eliminar-solicitud")->trigger();
   EXPECT_EQ(shown(), before - 1);
   EXPECT_NE(window->choice().id, 0);
+  EXPECT_THAT(user.problems(), ::testing::IsEmpty());
+}
+
+TEST_F(Window, insertKey_addsFromTheListAndFromTheTree) {
+  window->showNode("Municipios");
+  const std::vector<QWidget*> views{&window->table(), window->findChild<QTreeView*>()};
+  window->activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+  for (QWidget* view : views) {
+    view->setFocus();
+    user.expectForm("frmMunicipio", [](forms::FormDriver& d) { d.click("cmdBoton(1)"); });
+    QTest::keyClick(window->windowHandle(), Qt::Key_Insert);
+  }
   EXPECT_THAT(user.problems(), ::testing::IsEmpty());
 }
 
