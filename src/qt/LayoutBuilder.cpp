@@ -143,7 +143,8 @@ void LayoutBuilder::addRow(const LayoutNode& node, QBoxLayout& box, QWidget* par
     row->addLayout(part, widens(child) ? 1 : 0);
     add(child, *part, parent);
     if (!grows(child)) part->addStretch(1);
-    wide = wide || widens(child);
+    // Buttons keep to the right end by a room of their own.
+    wide = wide || widens(child) || child.kind == Kind::Buttons;
   }
   if (!wide) row->addStretch(1);
 }
