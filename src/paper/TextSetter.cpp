@@ -33,6 +33,7 @@ FragmentPtr TextSetter::set(const Expanded& text, const TextStyle& style, qreal 
   option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
   option.setUseDesignMetrics(true);
   layout->setTextOption(option);
+  layout->setCacheEnabled(true);  // so that painting shapes no word again
   QList<QTextLayout::FormatRange> formats;
   for (const Stretch& s : text.stretches) {
     QTextLayout::FormatRange range;
