@@ -3,7 +3,7 @@
 #include "core/contract/Guard.h"
 #include "documents/EscribirFilas.h"
 #include "documents/ProgresoImpresion.h"
-#include "documents/Transaction.h"
+#include "store/Transaction.h"
 
 namespace fidaleon {
 
@@ -11,7 +11,7 @@ void cInformes::escribirDocumento(const documents::DocumentKind& kind, FDAPI::Co
                                   FDAPI::Conexion& conInformes, const std::string& statement,
                                   const documents::Signature& signature, const char* readBack) {
   guarded(contexto_, "cInformes", kind.member, [&] {
-    documents::Transaction transaction(conInformes);
+    store::Transaction transaction(conInformes);
     documents::Lookups lookups(contexto_, conFidaleon);
     const forms::Hourglass hourglass(contexto_.ui());
     const store::Recordset entry = conFidaleon.Execute(statement);
@@ -27,7 +27,7 @@ void cInformes::escribirLibro(const documents::DocumentKind& kind, FDAPI::Conexi
                               FDAPI::Conexion& conInformes, const std::string& check,
                               const std::string& statement) {
   guarded(contexto_, "cInformes", kind.member, [&] {
-    documents::Transaction transaction(conInformes);
+    store::Transaction transaction(conInformes);
     documents::Lookups lookups(contexto_, conFidaleon);
     const forms::Hourglass hourglass(contexto_.ui());
     if (!conFidaleon.Execute(check).EOF_()) {

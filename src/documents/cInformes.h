@@ -64,6 +64,27 @@ class cInformes {
   void ImprimirIndiceLibroBautismo(FDAPI::Conexion& conFidaleon, FDAPI::Conexion& conInformes,
                                    std::int32_t lngID);
 
+  // People and groups of the parish: Informe_Colaboradores. SelInf... asks what to print and writes
+  // it; it says so when the table stays empty. Informe... writes all there is. An error takes back
+  // the rows of the call.
+  void SelInfActividad(FDAPI::Conexion& conFidaleon, FDAPI::Conexion& conInformes);
+  void SelInfColaborador(FDAPI::Conexion& conFidaleon, FDAPI::Conexion& conInformes);
+  void SelInfColaboradorExt(FDAPI::Conexion& conFidaleon, FDAPI::Conexion& conInformes);
+  /// One row for each group, with the number of its collaborators.
+  void InformeActividad(FDAPI::Conexion& conFidaleon, FDAPI::Conexion& conInformes,
+                        FDAPI::cProgreso& abpInformes);
+  /// One row for each collaborator of each group, and those of no activity of the institution.
+  void InformeColaborador(FDAPI::Conexion& conFidaleon, FDAPI::Conexion& conInformes,
+                          FDAPI::cProgreso& abpInformes);
+  /// The same rows: the template shows more of them.
+  void InformeColaboradorExt(FDAPI::Conexion& conFidaleon, FDAPI::Conexion& conInformes,
+                             FDAPI::cProgreso& abpInformes);
+
+  // Tareas_Agenda: the tasks between two days, or of the current year.
+  void SelInfTareasAgenda(FDAPI::Conexion& conBaseDatos, FDAPI::Conexion& conBaseInformes);
+  void InformeAgenda(FDAPI::Conexion& conBaseDatos, FDAPI::Conexion& conBaseInformes,
+                     FDAPI::cProgreso& abpProgreso);
+
  private:
   /// The life of one document. `readBack`, if any, is run behind the row and its answer dropped.
   void escribirDocumento(const documents::DocumentKind& kind, FDAPI::Conexion& conFidaleon,

@@ -75,6 +75,10 @@ class TextBox : public Control {
   QuoteRule quoteRule() const { return quoteRule_; }
   void setQuoteRule(QuoteRule rule) { quoteRule_ = rule; }
 
+  /// What a window offers while one types; any other text may be typed as well.
+  const std::vector<std::string>& suggestions() const { return suggestions_; }
+  void setSuggestions(std::vector<std::string> texts);
+
   int selStart() const { return selStart_; }
   int selLength() const { return selLength_; }
   void setSelection(int start, int length);
@@ -101,6 +105,7 @@ class TextBox : public Control {
   bool password_ = false;
   bool digitsOnly_ = false;
   QuoteRule quoteRule_ = QuoteRule::Replace;
+  std::vector<std::string> suggestions_;
   int selStart_ = 0;
   int selLength_ = 0;
 };

@@ -36,6 +36,7 @@ struct KeyPress {
   bool ctrl = false;
   bool alt = false;
   bool shift = false;
+  bool keypad = false;  // of the numeric block
 
   void swallow() { replacement = std::string(); }
   void replaceWith(std::string text) { replacement = std::move(text); }

@@ -46,6 +46,11 @@ void TextBox::setText(const std::string& text) {
   if (onChange) onChange();
 }
 
+void TextBox::setSuggestions(std::vector<std::string> texts) {
+  suggestions_ = std::move(texts);
+  changed(Change::Items);
+}
+
 std::string TextBox::accepted(const std::string& text) const {
   std::string good = text::sanitized(text);
   good = multiline() ? withCrLf(good) : oneLine(good);

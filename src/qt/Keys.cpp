@@ -51,6 +51,7 @@ forms::KeyPress toKeyPress(const QKeyEvent& event) {
   press.ctrl = event.modifiers().testFlag(Qt::ControlModifier);
   press.alt = event.modifiers().testFlag(Qt::AltModifier);
   press.shift = event.modifiers().testFlag(Qt::ShiftModifier);
+  press.keypad = event.modifiers().testFlag(Qt::KeypadModifier);
   return press;
 }
 

@@ -200,6 +200,14 @@ struct cAuxStringID {
   std::int32_t ID = 0;
 };
 
+/// The progress display of a report, handed in by the main program. May throw forms::Cancelled.
+class cProgreso {
+ public:
+  virtual ~cProgreso() = default;
+  virtual void Cargar(std::int64_t cuenta, const std::string& mensaje, int modo, int minimo) = 0;
+  virtual void setValue(std::int64_t valor) = 0;
+};
+
 /// Dates in words for documents. "" gives "", "---" gives "---".
 class cInformes {
  public:

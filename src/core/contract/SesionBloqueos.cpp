@@ -1,5 +1,7 @@
 #include "core/contract/SesionBloqueos.h"
 
+#include "core/contract/Bloqueos.h"
+
 namespace fidaleon {
 
 SesionBloqueos::~SesionBloqueos() {
@@ -11,45 +13,40 @@ SesionBloqueos::~SesionBloqueos() {
 }
 
 void SesionBloqueos::tabla(const char* nombre) {
-  FDAPI::DefinicionBloqueo bloqueo;
-  bloqueo.strTabla = nombre;
-  sesion_->DefinirBloqueo(bloqueo);
+  definir(bloqueoDeTabla(nombre));
+}
+
+void SesionBloqueos::tabla(const char* nombre, std::int32_t contador) {
+  FDAPI::DefinicionBloqueo bloqueo = bloqueoDeTabla(nombre);
+  bloqueo.lngContador = contador;
+  definir(std::move(bloqueo));
 }
 
 void SesionBloqueos::tablasCompartidas(std::initializer_list<const char*> nombres) {
-  for (const char* nombre : nombres) {
-    FDAPI::DefinicionBloqueo bloqueo;
-    bloqueo.strTabla = nombre;
-    bloqueo.blnBloqueoParcialTabla = true;
-    sesion_->DefinirBloqueo(bloqueo);
-  }
+  for (const char* nombre : nombres) definir(bloqueoDeTablaCompartida(nombre));
 }
 
 void SesionBloqueos::registros(const char* nombreTabla, const std::string& cuales) {
-  FDAPI::DefinicionBloqueo bloqueo;
-  bloqueo.strTabla = nombreTabla;
+  FDAPI::DefinicionBloqueo bloqueo = bloqueoDeTabla(nombreTabla);
   bloqueo.strRegistro = cuales;
   bloqueo.conBd = &conexion_;
-  sesion_->DefinirBloqueo(bloqueo);
+  definir(std::move(bloqueo));
 }
 
 void SesionBloqueos::registrosCompartidos(const char* nombreTabla, const std::string& cuales) {
-  FDAPI::DefinicionBloqueo bloqueo;
-  bloqueo.strTabla = nombreTabla;
+  FDAPI::DefinicionBloqueo bloqueo = bloqueoDeTabla(nombreTabla);
   bloqueo.blnBloqueoParcialRegistro = true;
   bloqueo.strRegistro = cuales;
   bloqueo.conBd = &conexion_;
-  sesion_->DefinirBloqueo(bloqueo);
+  definir(std::move(bloqueo));
 }
 
 void SesionBloqueos::registro(const char* nombreTabla, std::int32_t id, const std::string& existe) {
-  FDAPI::DefinicionBloqueo bloqueo;
-  bloqueo.strTabla = nombreTabla;
-  bloqueo.strRegistro = std::to_string(id);
-  bloqueo.conBd = &conexion_;
-  bloqueo.blnComprobarExisteRegistro = true;
-  bloqueo.strSQLExisteRegistro = existe;
-  sesion_->DefinirBloqueo(bloqueo);
+  definir(bloqueoDeRegistro(conexion_, nombreTabla, id, existe));
+}
+
+void SesionBloqueos::registroPorClave(const char* nombreTabla, const char* clave, std::int32_t id) {
+  definir(bloqueoDeRegistro(conexion_, nombreTabla, clave, id));
 }
 
 bool SesionBloqueos::efectuar() {
@@ -73,6 +70,14 @@ SesionBloqueos::Apertura SesionBloqueos::efectuarParaAbrir() {
   const long error = intentar();
   if (rehusado_) return Apertura::NINGUNA;
   return error == FDAPI::BloqueoNinguno ? Apertura::NORMAL : Apertura::SOLO_LECTURA;
+}
+
+SesionBloqueos::Apertura SesionBloqueos::efectuarParaFicha() {
+  const long error = intentar();
+  if (error == FDAPI::BloqueoNinguno) return Apertura::NORMAL;
+  rehusado_ = true;
+  return error == FDAPI::BloqueoRegistro || error == FDAPI::BloqueoSesion ? Apertura::SOLO_LECTURA
+                                                                          : Apertura::NINGUNA;
 }
 
 }  // namespace fidaleon

@@ -21,12 +21,16 @@ class SesionBloqueos {
 
   void definir(FDAPI::DefinicionBloqueo bloqueo) { sesion_->DefinirBloqueo(std::move(bloqueo)); }
   void tabla(const char* nombre);
+  /// The same table again; `contador` tells the locks apart when they are given back.
+  void tabla(const char* nombre, std::int32_t contador);
   void tablasCompartidas(std::initializer_list<const char*> nombres);
   /// `cuales` is a statement that gives their keys.
   void registros(const char* nombreTabla, const std::string& cuales);
   void registrosCompartidos(const char* nombreTabla, const std::string& cuales);
   /// `existe` is a statement that gives a row as long as the record is there.
   void registro(const char* nombreTabla, std::int32_t id, const std::string& existe);
+  /// With "SELECT clave FROM tabla WHERE clave=id" for that statement.
+  void registroPorClave(const char* nombreTabla, const char* clave, std::int32_t id);
 
   /// False when the operation has to end here; the user knows why.
   bool efectuar();
@@ -39,6 +43,13 @@ class SesionBloqueos {
   enum class Apertura { NINGUNA, SOLO_LECTURA, NORMAL };
   /// For an entry that may also be looked at while another works on it.
   Apertura efectuarParaAbrir();
+  /// For a card of the parish's people and groups: it can be looked at while another works on it
+  /// and where nothing can be locked at all; nothing opens when it is gone.
+  Apertura efectuarParaFicha();
+
+  /// Gives back the locks of a table, or of table and counter or record ("Grupo3"). A name that is
+  /// not held is ignored.
+  void liberar(const std::string& nombre) { sesion_->LiberarBloqueo(nombre); }
 
  private:
   FDAPI::Conexion& conexion_;

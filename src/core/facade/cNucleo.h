@@ -140,6 +140,57 @@ class cNucleo {
   void ImprimirDuplicadas(FDAPI::Conexion& conBaseDatos, FDAPI::Conexion& conInformes,
                           const std::string& strNodo, std::string& strOrden);
 
+  // People, groups and offices of the parish. Each dialog opens read-only while another works on
+  // the record. "Elimina..." asks first.
+  void NuevoEmpadronado(FDAPI::Conexion& conBaseDatos, const FDAPI::cConfig& objConfig);
+  /// A person whom the census does not have yet, such as a collaborator, enters it on acceptance.
+  void EditaEmpadronado(FDAPI::Conexion& conBaseDatos, std::int32_t mlngRegistroPadron,
+                        const FDAPI::cConfig& objConfig);
+  /// A person who is a collaborator too stays as one. In that case the dates and parishes of
+  /// first communion, confirmation, marriage and death of all persons are emptied.
+  void EliminaEmpadronado(FDAPI::Conexion& conBaseDatos, std::int32_t lngID,
+                          const FDAPI::cConfig& objConfig);
+  /// `blnOcultar` hides the buttons of the memberships.
+  void NuevoColaborador(FDAPI::Conexion& conBaseDatos, const FDAPI::cConfig& objConfig,
+                        bool blnOcultar = false);
+  void EditaColaborador(FDAPI::Conexion& conBaseDatos, std::int32_t mlngRegistroPadron,
+                        const FDAPI::cConfig& objConfig);
+  /// With all memberships. A person of the census stays there.
+  void EliminaColaborador(FDAPI::Conexion& conBaseDatos, std::int32_t lngID,
+                          const FDAPI::cConfig& objConfig);
+  /// `blnOcultar` hides the buttons of the groups.
+  void NuevaActividad(FDAPI::Conexion& conBaseDatos, const FDAPI::cConfig& objConfig,
+                      bool blnOcultar = false);
+  void EditaActividad(FDAPI::Conexion& conBaseDatos, std::int32_t mlngRegistroActividad,
+                      const FDAPI::cConfig& objConfig, bool blnOcultar = false);
+  /// With its groups and their memberships.
+  void EliminaActividad(FDAPI::Conexion& conBaseDatos, std::int32_t lngIDActividad,
+                        const FDAPI::cConfig& objConfig);
+  /// `blnNuevaInstancia` opens it over another dialog that may be of the same kind.
+  void NuevoCargo(FDAPI::Conexion& conBaseDatos, const FDAPI::cConfig& objConfig,
+                  bool blnNuevaInstancia = false);
+  void EditaCargo(FDAPI::Conexion& conBaseDatos, std::int32_t lngIDCargo,
+                  const FDAPI::cConfig& objConfig);
+  /// With the memberships that hold it.
+  void EliminaCargo(FDAPI::Conexion& conBaseDatos, std::int32_t lngIDCargo,
+                    const FDAPI::cConfig& objConfig);
+
+  // Reports on them, in Informe_Colaboradores and Tareas_Agenda. They take no lock. "SelInf..."
+  // asks what to print; "Informe..." writes all there is. The caller empties the table before.
+  void SelInfActividad(FDAPI::Conexion& conFidaleon, FDAPI::Conexion& conInformes);
+  void SelInfColaborador(FDAPI::Conexion& conFidaleon, FDAPI::Conexion& conInformes);
+  void SelInfColaboradorExt(FDAPI::Conexion& conFidaleon, FDAPI::Conexion& conInformes);
+  void InformeActividad(FDAPI::Conexion& conFidaleon, FDAPI::Conexion& conInformes,
+                        FDAPI::cProgreso& abpInformes);
+  void InformeColaborador(FDAPI::Conexion& conFidaleon, FDAPI::Conexion& conInformes,
+                          FDAPI::cProgreso& abpInformes);
+  void InformeColaboradorExt(FDAPI::Conexion& conFidaleon, FDAPI::Conexion& conInformes,
+                             FDAPI::cProgreso& abpInformes);
+  void SelInfTareasAgenda(FDAPI::Conexion& conBaseDatos, FDAPI::Conexion& conBaseInformes);
+  /// The tasks of the current year.
+  void InformeAgenda(FDAPI::Conexion& conBaseDatos, FDAPI::Conexion& conBaseInformes,
+                     FDAPI::cProgreso& abpProgreso);
+
  private:
   void InicializaConfiguracion(const FDAPI::cConfig& objConfig);
   /// `cuales` chooses the books that may take the entry.

@@ -13,11 +13,15 @@ bool falta(const std::string& ancho) {
 
 }  // namespace
 
+void cIListas::SaveGrid(const forms::Grid& rejilla, const Rejilla& descripcion) {
+  contexto_.entorno.support.create_cIListas()->SaveGrid(rejilla, ruta(descripcion.camino));
+}
+
 std::string cIListas::ruta(const char* camino) const {
   return contexto_.seccion(camino);
 }
 
-void cIListas::configurar(forms::Grid& grid, const Rejilla& rejilla, const char* procedimiento) {
+void cIListas::ConfigGrid(forms::Grid& grid, const Rejilla& rejilla, const char* procedimiento) {
   guarded(contexto_, "cIListas", procedimiento, [&] {
     const int columnas = static_cast<int>(rejilla.columnas.size());
     grid.setColumns(columnas);
@@ -38,32 +42,32 @@ void cIListas::aplicarAnchos(forms::Grid& grid, const Rejilla& rejilla) {
 }
 
 void cIListas::ConfigGridPropiedadesLibro(forms::Grid& rejilla) {
-  configurar(rejilla, rejillaPropiedadesLibro(), "ConfigGridPropiedadesLibro()");
+  ConfigGrid(rejilla, rejillaPropiedadesLibro(), "ConfigGridPropiedadesLibro()");
 }
 
 void cIListas::ConfigGridPropiedadesLibroMatrimonio(forms::Grid& rejilla) {
-  configurar(rejilla, rejillaPropiedadesLibroMatrimonio(),
+  ConfigGrid(rejilla, rejillaPropiedadesLibroMatrimonio(),
              "ConfigGridPropiedadesLibroMatrimonio()");
 }
 
 void cIListas::ConfigGridBuscaPadres(forms::Grid& rejilla) {
-  configurar(rejilla, rejillaBuscaPadres(), "ConfigGridBuscaPadres()");
+  ConfigGrid(rejilla, rejillaBuscaPadres(), "ConfigGridBuscaPadres()");
 }
 
 void cIListas::ConfigGridBuscaPadresConfirmacion(forms::Grid& rejilla) {
-  configurar(rejilla, rejillaBuscaConfirmacion(), "ConfigGridBuscaPadresConfirmacion()");
+  ConfigGrid(rejilla, rejillaBuscaConfirmacion(), "ConfigGridBuscaPadresConfirmacion()");
 }
 
 void cIListas::ConfigGridBuscaPadresMatrimonio(forms::Grid& rejilla) {
-  configurar(rejilla, rejillaBuscaMatrimonio(), "ConfigGridBuscaPadresMatrimonio()");
+  ConfigGrid(rejilla, rejillaBuscaMatrimonio(), "ConfigGridBuscaPadresMatrimonio()");
 }
 
 void cIListas::ConfigGridBuscaPadresDefuncion(forms::Grid& rejilla) {
-  configurar(rejilla, rejillaBuscaDefuncion(), "ConfigGridBuscaPadresDefuncion()");
+  ConfigGrid(rejilla, rejillaBuscaDefuncion(), "ConfigGridBuscaPadresDefuncion()");
 }
 
 void cIListas::ConfigGridMensajes(forms::Grid& rejilla, const std::string& bandeja) {
-  configurar(rejilla, rejillaMensajes(bandeja == CcNodos::BANDEJAENTRADA), "ConfigGridMensajes()");
+  ConfigGrid(rejilla, rejillaMensajes(bandeja == CcNodos::BANDEJAENTRADA), "ConfigGridMensajes()");
 }
 
 }  // namespace fidaleon

@@ -36,6 +36,12 @@ class cIListas {
   /// `bandeja` is the tray's node name; anything but the inbox shows to whom a message went.
   void ConfigGridMensajes(forms::Grid& rejilla, const std::string& bandeja);
 
+  /// The same for a grid that a dialog describes itself; `procedimiento` is what an error is
+  /// reported under.
+  void ConfigGrid(forms::Grid& rejilla, const Rejilla& descripcion, const char* procedimiento);
+  /// Keeps the widths as the user has left them.
+  void SaveGrid(const forms::Grid& rejilla, const Rejilla& descripcion);
+
   /// Fills the province lists of a form anew (those named Provincia), each keeping its choice.
   void TodoProvincias(FDAPI::Conexion& conBaseDatos, forms::Form& formulario);
 
@@ -61,7 +67,6 @@ class cIListas {
   static constexpr const char* RUTA_MENSAJES = "Grids\\Mensajeria\\Mensajes";
 
  private:
-  void configurar(forms::Grid& grid, const Rejilla& rejilla, const char* procedimiento);
   void aplicarAnchos(forms::Grid& grid, const Rejilla& rejilla);
   std::string primerNombreLibre(FDAPI::Conexion& conexion, std::int64_t tipo,
                                 std::int64_t institucion, std::uint8_t libro, bool& sinNombres);

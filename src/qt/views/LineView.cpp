@@ -1,5 +1,7 @@
 #include "qt/views/LineView.h"
 
+#include <QAbstractItemView>
+#include <QCompleter>
 #include <QLineEdit>
 
 #include "qt/Appearance.h"
@@ -16,6 +18,23 @@ LineView::LineView(forms::TextBox& box, QWidget* parent)
   connect(edit_, &QLineEdit::cursorPositionChanged, this, [this] { selectionMoved(); });
   connect(edit_, &QLineEdit::selectionChanged, this, [this] { selectionMoved(); });
   watch();
+  offerSuggestions();
+}
+
+void LineView::refresh(forms::Change what) {
+  if (what == forms::Change::Items) offerSuggestions();
+  TextView::refresh(what);
+}
+
+void LineView::offerSuggestions() {
+  if (box().suggestions().empty()) return edit_->setCompleter(nullptr);
+  QStringList texts;
+  for (const std::string& text : box().suggestions()) texts << toQt(text);
+  auto* completer = new QCompleter(texts, edit_);
+  completer->setCaseSensitivity(Qt::CaseInsensitive);
+  connect(completer, qOverload<const QString&>(&QCompleter::activated), this,
+          [this](const QString& text) { box().enterText(fromQt(text)); });
+  edit_->setCompleter(completer);
 }
 
 QWidget* LineView::widget() const {

@@ -13,6 +13,7 @@ class LineView : public TextView {
   QWidget* widget() const override;
   QWidget* focusWidget() const override;
   void fixWidth(int letters) override;
+  void refresh(forms::Change what) override;
 
  protected:
   QLineEdit* edit() const { return edit_; }
@@ -24,6 +25,8 @@ class LineView : public TextView {
   void showLocked() override;
 
  private:
+  void offerSuggestions();
+
   QLineEdit* edit_;
 };
 

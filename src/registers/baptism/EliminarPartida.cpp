@@ -1,10 +1,10 @@
 #include "registers/baptism/EliminarPartida.h"
 
+#include "core/contract/Bloqueos.h"
 #include "core/contract/EnSacramento.h"
 #include "core/contract/Guard.h"
 #include "core/contract/SesionBloqueos.h"
 #include "registers/baptism/FilasBautismo.h"
-#include "registers/common/Bloqueos.h"
 
 namespace fidaleon {
 

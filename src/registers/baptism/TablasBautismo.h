@@ -1,7 +1,7 @@
 #pragma once
 
 #include "registers/baptism/cBautismo.h"
-#include "registers/common/Columnas.h"
+#include "core/contract/Columnas.h"
 
 namespace fidaleon {
 

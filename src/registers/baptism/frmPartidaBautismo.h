@@ -14,7 +14,7 @@
 #include "registers/baptism/cBautismo.h"
 #include "registers/common/LimiteNotas.h"
 #include "registers/common/ListasDeLibro.h"
-#include "registers/common/ParProvinciaPoblacion.h"
+#include "core/lists/ParProvinciaPoblacion.h"
 
 namespace fidaleon {
 

@@ -3,10 +3,10 @@
 #include <array>
 #include <string>
 
+#include "core/contract/Bloqueos.h"
 #include "core/contract/EnSacramento.h"
 #include "core/contract/Guard.h"
 #include "core/contract/SesionBloqueos.h"
-#include "registers/common/Bloqueos.h"
 
 namespace fidaleon {
 

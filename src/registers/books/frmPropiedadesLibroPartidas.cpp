@@ -1,8 +1,8 @@
 // The entries of the book: the grid and its four buttons.
 
+#include "core/contract/Bloqueos.h"
 #include "core/contract/EnSacramento.h"
 #include "registers/books/VariantePropiedadesLibro.h"
-#include "registers/common/Bloqueos.h"
 
 namespace fidaleon {
 

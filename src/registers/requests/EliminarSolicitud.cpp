@@ -1,9 +1,9 @@
 #include "registers/requests/EliminarSolicitud.h"
 
+#include "core/contract/Bloqueos.h"
 #include "core/contract/Guard.h"
 #include "core/contract/SesionBloqueos.h"
 #include "registers/baptism/FilasBautismo.h"
-#include "registers/common/Bloqueos.h"
 
 namespace fidaleon {
 

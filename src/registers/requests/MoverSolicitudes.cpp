@@ -1,7 +1,7 @@
 // Moving the chosen requests into the book, each on the next position.
 
+#include "core/contract/Bloqueos.h"
 #include "core/contract/SesionBloqueos.h"
-#include "registers/common/Bloqueos.h"
 #include "registers/requests/ProcedimientoSolicitudes.h"
 #include "text/Numbers.h"
 

@@ -16,7 +16,7 @@
 namespace fidaleon {
 
 /// How a value stands in a statement.
-enum class Cita { Texto, Numero };
+enum class Cita { Texto, TextoSimple, Numero };  // "x", 'x', 1
 
 template <class Registro>
 struct Columna {
@@ -60,6 +60,9 @@ inline std::string texto(bool v) {
 inline std::string citado(const std::string& v) {
   return entreComillas(text::replaceAll(v, "\"", "''"));
 }
+inline std::string citadoSimple(const std::string& v) {
+  return "'" + text::replaceAll(v, "'", "''") + "'";
+}
 inline std::string numero(const std::string& v) {
   return comoNumero(v);
 }
@@ -86,8 +89,10 @@ template <class Registro>
 std::string valorSQL(const Registro& r, const Columna<Registro>& c) {
   return std::visit(
       [&](auto miembro) {
-        return c.cita == Cita::Texto ? columnas_detalle::citado(columnas_detalle::texto(r.*miembro))
-                                     : columnas_detalle::numero(r.*miembro);
+        if (c.cita == Cita::Numero) return columnas_detalle::numero(r.*miembro);
+        const std::string valor = columnas_detalle::texto(r.*miembro);
+        return c.cita == Cita::Texto ? columnas_detalle::citado(valor)
+                                     : columnas_detalle::citadoSimple(valor);
       },
       c.miembro);
 }

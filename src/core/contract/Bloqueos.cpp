@@ -1,4 +1,4 @@
-#include "registers/common/Bloqueos.h"
+#include "core/contract/Bloqueos.h"
 
 namespace fidaleon {
 
@@ -16,12 +16,18 @@ FDAPI::DefinicionBloqueo bloqueoDeTablaCompartida(const char* tabla) {
 
 FDAPI::DefinicionBloqueo bloqueoDeRegistro(FDAPI::Conexion& conexion, const char* tabla,
                                            const char* clave, std::int32_t id) {
+  return bloqueoDeRegistro(conexion, tabla, id,
+                           std::string("SELECT ") + clave + " FROM " + tabla + " WHERE " + clave +
+                               "=" + std::to_string(id));
+}
+
+FDAPI::DefinicionBloqueo bloqueoDeRegistro(FDAPI::Conexion& conexion, const char* tabla,
+                                           std::int32_t id, const std::string& existe) {
   FDAPI::DefinicionBloqueo definicion = bloqueoDeTabla(tabla);
   definicion.strRegistro = std::to_string(id);
   definicion.conBd = &conexion;
   definicion.blnComprobarExisteRegistro = true;
-  definicion.strSQLExisteRegistro = std::string("SELECT ") + clave + " FROM " + tabla + " WHERE " +
-                                    clave + "=" + definicion.strRegistro;
+  definicion.strSQLExisteRegistro = existe;
   return definicion;
 }
 

@@ -2,12 +2,12 @@
 
 #include "store/Connection.h"
 
-namespace fidaleon::documents {
+namespace fidaleon::store {
 
 /// A transaction for the length of a block, rolled back unless it was committed.
 class Transaction {
  public:
-  explicit Transaction(store::Connection& connection) : connection_(connection) {
+  explicit Transaction(Connection& connection) : connection_(connection) {
     connection_.BeginTrans();
   }
   ~Transaction() {
@@ -30,8 +30,8 @@ class Transaction {
     }
   }
 
-  store::Connection& connection_;
+  Connection& connection_;
   bool committed_ = false;
 };
 
-}  // namespace fidaleon::documents
+}  // namespace fidaleon::store

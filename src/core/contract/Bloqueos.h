@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 
 #include "core/contract/FDAPI.h"
 
@@ -13,5 +14,8 @@ FDAPI::DefinicionBloqueo bloqueoDeTablaCompartida(const char* tabla);
 /// One record for this session alone, with the check that it still exists.
 FDAPI::DefinicionBloqueo bloqueoDeRegistro(FDAPI::Conexion& conexion, const char* tabla,
                                            const char* clave, std::int32_t id);
+/// The same; `existe` is a statement that gives a row as long as the record is there.
+FDAPI::DefinicionBloqueo bloqueoDeRegistro(FDAPI::Conexion& conexion, const char* tabla,
+                                           std::int32_t id, const std::string& existe);
 
 }  // namespace fidaleon

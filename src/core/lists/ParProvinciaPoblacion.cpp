@@ -1,4 +1,4 @@
-#include "registers/common/ParProvinciaPoblacion.h"
+#include "core/lists/ParProvinciaPoblacion.h"
 
 #include <string>
 

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "core/contract/Contexto.h"
+#include "store/Transaction.h"
+
+namespace fidaleon {
+
+/// The removal of a record with all that hangs on it, with the progress display open for as long as
+/// it takes. Either all its statements are done or none: an error, or a user who stops it, takes
+/// back what was removed so far. Call terminar() behind the last step.
+class Eliminacion {
+ public:
+  Eliminacion(Contexto& contexto, FDAPI::Conexion& conexion, const std::string& mensaje,
+              std::int64_t pasos);
+  ~Eliminacion();
+  Eliminacion(const Eliminacion&) = delete;
+  Eliminacion& operator=(const Eliminacion&) = delete;
+
+  /// Runs a statement and moves the display by one. May throw forms::Cancelled.
+  void paso(const std::string& sentencia);
+  void terminar();
+
+ private:
+  FDAPI::Conexion& conexion_;
+  std::unique_ptr<FDAPI::cFidaleon> fidaleon_;
+  store::Transaction transaccion_;
+  std::int64_t hechos_ = 0;
+};
+
+/// "ADVERTENCIA" and what would be lost; true for Yes. `articulo` is "un" or "una", `nombre`
+/// "Empadronado" and its like.
+bool preguntarEliminacion(Contexto& contexto, const std::string& articulo,
+                          const std::string& nombre);
+
+}  // namespace fidaleon
