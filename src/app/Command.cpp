@@ -127,6 +127,11 @@ Command ofBaptism(Command c) {
   return c;
 }
 
+Command destructive(Command c) {
+  c.destructive = true;
+  return c;
+}
+
 Command still(Command c) {
   c.refreshes = false;
   return c;
@@ -149,9 +154,10 @@ void addEntryCommands(std::vector<Command>& all) {
   all.push_back(inToolbar(
       "valid", line("validar", "&Validar", "Ctrl+U", "Devuelve su validez a la partida anulada",
                     ENTRIES, Needs::AnnulledRow, toggleAnnulled)));
-  all.push_back(line("eliminar-partida", "&Eliminar", "Del",
-                     "Elimina la partida: cualquiera de un libro antiguo, la última de uno nuevo",
-                     ENTRIES, Needs::Row, deleteEntry));
+  all.push_back(
+      destructive(line("eliminar-partida", "&Eliminar", "Del",
+                       "Elimina la partida: cualquiera de un libro antiguo, la última de uno nuevo",
+                       ENTRIES, Needs::Row, deleteEntry)));
 }
 
 void addRequestCommands(std::vector<Command>& all) {
@@ -161,8 +167,9 @@ void addRequestCommands(std::vector<Command>& all) {
   all.push_back(opening(
       inToolbar("edit", line("propiedades-solicitud", "&Propiedades…", "Return",
                              "Abre la solicitud elegida", REQUESTS, Needs::Row, openRequest))));
-  all.push_back(line("eliminar-solicitud", "&Eliminar", "Del", "Elimina la solicitud elegida",
-                     REQUESTS, Needs::Row, deleteRequest));
+  all.push_back(
+      destructive(line("eliminar-solicitud", "&Eliminar", "Del", "Elimina la solicitud elegida",
+                       REQUESTS, Needs::Row, deleteRequest)));
   all.push_back(inToolbar("book", line("pasar-al-libro", "Pasar al li&bro…", "Ctrl+B",
                                        "Inscribe solicitudes en el libro nuevo abierto", REQUESTS,
                                        Needs::Nothing, moveRequests)));
@@ -175,8 +182,9 @@ void addBookCommands(std::vector<Command>& all) {
   all.push_back(inToolbar("lock", line("cerrar-libro", "&Cerrar libro…", "",
                                        "Cierra el libro nuevo: no admitirá más partidas", BOOKS,
                                        Needs::Row, closeBook)));
-  all.push_back(line("eliminar-libro", "&Eliminar libro…", "Del",
-                     "Elimina un libro que no tenga partidas", BOOKS, Needs::Row, deleteBook));
+  all.push_back(
+      destructive(line("eliminar-libro", "&Eliminar libro…", "Del",
+                       "Elimina un libro que no tenga partidas", BOOKS, Needs::Row, deleteBook)));
   all.push_back(opening(ofBaptism(inToolbar(
       "edit", line("propiedades-libro", "&Propiedades…", "Return",
                    "Abre el libro con todas sus partidas", BOOKS, Needs::Row, openBook)))));
@@ -199,8 +207,9 @@ void addCatalogueCommands(std::vector<Command>& all) {
   all.push_back(opening(
       inToolbar("edit", line("propiedades", "&Propiedades…", "Return", "Abre la ficha elegida",
                              CATALOGUES, Needs::Row, editCatalogueRow))));
-  all.push_back(line("eliminar", "&Eliminar", "Del", "Elimina la ficha elegida, si nadie la usa",
-                     CATALOGUES, Needs::Row, removeCatalogueRow));
+  all.push_back(
+      destructive(line("eliminar", "&Eliminar", "Del", "Elimina la ficha elegida, si nadie la usa",
+                       CATALOGUES, Needs::Row, removeCatalogueRow)));
 }
 
 void addDocumentCommands(std::vector<Command>& all) {

@@ -35,7 +35,8 @@ struct Command {
   unsigned kinds = 0;  // bits of NodeKind; 0: everywhere
   Needs needs = Needs::Nothing;
   bool onlyBaptism = false;
-  bool refreshes = true;  // may have changed rows
+  bool refreshes = true;     // may have changed rows
+  bool destructive = false;  // may take rows away for good
   void (*run)(Workplace&, const Choice&) = nullptr;
 };
 
