@@ -1,0 +1,35 @@
+#include "census/common/CamposPersona.h"
+
+#include "text/Utf8.h"
+
+namespace fidaleon {
+
+namespace {
+
+bool esTecleado(const forms::KeyPress& tecla) {
+  const bool caracter = tecla.key == forms::Key::Character || tecla.key == forms::Key::Space;
+  return caracter && !tecla.ctrl && !tecla.alt;
+}
+
+}  // namespace
+
+void soloDigitos(Contexto& contexto, forms::TextBox& campo) {
+  campo.setDigitsOnly(true);
+  campo.onKeyPress = [&contexto](forms::KeyPress& tecla) {
+    if (!esTecleado(tecla) || (tecla.character >= U'0' && tecla.character <= U'9')) return;
+    contexto.ui().beep();
+    tecla.swallow();
+  };
+}
+
+void enMinusculas(forms::TextBox& campo) {
+  campo.onKeyPress = [](forms::KeyPress& tecla) {
+    if (!esTecleado(tecla) || tecla.character == U'"') return;
+    tecla.replaceWith(text::lower(text::toUtf8(std::u32string(1, tecla.character))));
+  };
+  campo.onLostFocus = [&campo](forms::Control*) {
+    if (!campo.locked()) campo.setText(text::lower(campo.text()));
+  };
+}
+
+}  // namespace fidaleon

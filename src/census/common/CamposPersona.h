@@ -1,0 +1,16 @@
+#pragma once
+
+#include "core/contract/Contexto.h"
+#include "forms/Controls.h"
+
+namespace fidaleon {
+
+/// Only digits can be typed; any other character beeps and the focus stays. Keys that edit or move
+/// pass, and of what is pasted the digits stay. Takes the field's onKeyPress.
+void soloDigitos(Contexto& contexto, forms::TextBox& campo);
+
+/// Letters become small ones as they are typed, and those that were pasted on leaving the field.
+/// Takes the field's onKeyPress and onLostFocus.
+void enMinusculas(forms::TextBox& campo);
+
+}  // namespace fidaleon
