@@ -1,0 +1,167 @@
+#include "core/lists/ListaDoble.h"
+
+#include <algorithm>
+#include <iterator>
+#include <numeric>
+#include <unordered_set>
+
+#include "core/contract/Guard.h"
+
+namespace fidaleon {
+
+namespace {
+
+std::vector<int> todasLasFilas(const forms::ListBox& lista) {
+  std::vector<int> filas(static_cast<std::size_t>(lista.listCount()));
+  std::iota(filas.begin(), filas.end(), 0);
+  return filas;
+}
+
+}  // namespace
+
+ListaDoble::ListaDoble(Contexto& contexto, forms::Form& formulario, forms::ListBox& disponibles,
+                       forms::ListBox& seleccionadas, forms::ControlArray<forms::Button>& mover,
+                       Textos textos)
+    : contexto_(contexto),
+      formulario_(formulario),
+      disponibles_(disponibles),
+      seleccionadas_(seleccionadas),
+      mover_(mover),
+      textos_(textos) {
+  const std::string todas = textos_.todas;
+  const std::array<std::string, 4> rotulos{"&Agregar >", "Agregar &" + todas + " >>", "< &Quitar",
+                                           "<< Quitar " + todas};
+  for (const Movimiento m : {ELEGIR, ELEGIR_TODAS, QUITAR, QUITAR_TODAS}) {
+    forms::Button& boton = mover_.add(m, rotulos[m]);
+    boton.setToolTip(textos_.ayudas[m]);
+    boton.onClick = [this, m] { this->mover(m); };
+  }
+  for (forms::ListBox* lista : {&disponibles_, &seleccionadas_}) {
+    lista->setMultiSelect(true);
+    lista->setRows(12);
+    const Movimiento uno = lista == &disponibles_ ? ELEGIR : QUITAR;
+    lista->onDblClick = [this, uno] {
+      if (mover_[uno].usable()) this->mover(uno);
+    };
+  }
+}
+
+forms::LayoutNode ListaDoble::disposicion() const {
+  return forms::row(
+      {forms::item(disponibles_),
+       forms::column({forms::item(mover_[ELEGIR]), forms::item(mover_[ELEGIR_TODAS]),
+                      forms::item(mover_[QUITAR]), forms::item(mover_[QUITAR_TODAS])}),
+       forms::item(seleccionadas_)});
+}
+
+void ListaDoble::llenar(std::vector<Elemento> orden, const Claves& elegidas) {
+  lugares_.clear();
+  for (const Elemento& e : orden) lugares_.emplace(e.clave, lugares_.size());
+  std::vector<Elemento> aparte;
+  for (const std::int64_t clave : elegidas)
+    if (const auto lugar = lugares_.find(clave); lugar != lugares_.end())
+      aparte.push_back(orden[lugar->second]);
+  const std::unordered_set<std::int64_t> fuera(elegidas.begin(), elegidas.end());
+  std::erase_if(orden, [&](const Elemento& e) { return fuera.contains(e.clave); });
+  poner(disponibles_, orden);
+  poner(seleccionadas_, aparte);
+}
+
+ListaDoble::Claves ListaDoble::seleccionadas() const {
+  Claves claves;
+  for (int i = 0; i < seleccionadas_.listCount(); ++i) claves.push_back(seleccionadas_.itemData(i));
+  return claves;
+}
+
+void ListaDoble::mover(Movimiento movimiento) {
+  const bool marcadas = movimiento == ELEGIR || movimiento == QUITAR;
+  const char* procedimiento = marcadas ? textos_.alMoverMarcados : textos_.alMoverTodos;
+  guarded(contexto_, formulario_.name(), procedimiento, [&] {
+    const bool elige = movimiento == ELEGIR || movimiento == ELEGIR_TODAS;
+    forms::ListBox& de = elige ? disponibles_ : seleccionadas_;
+    if (de.listCount() == 0) return rehusar(elige ? textos_.nadaQueElegir : textos_.nadaQueQuitar);
+    const std::vector<int> cuales = marcadas ? filasMarcadas(de) : todasLasFilas(de);
+    if (cuales.empty()) return rehusar(textos_.nadaMarcado);
+    pasar(de, cuales);
+  });
+}
+
+void ListaDoble::rehusar(const char* mensaje) {
+  if (*mensaje)
+    forms::warn(formulario_.ui(), mensaje);
+  else
+    formulario_.ui().beep();
+}
+
+std::vector<int> ListaDoble::filasMarcadas(const forms::ListBox& lista) const {
+  std::vector<int> filas;
+  const auto fidaleon = contexto_.fidaleon();
+  if (fidaleon->ComprobarSeleccion(lista)) fidaleon->ListarSeleccionados(lista, filas);
+  return filas;
+}
+
+// Both lists are written anew: taking thousands of lines out one by one is too slow.
+void ListaDoble::pasar(forms::ListBox& de, const std::vector<int>& filas) {
+  std::vector<Elemento> pasan, quedan;
+  auto fila = filas.begin();
+  int i = 0;
+  for (Elemento& e : elementos(de)) {
+    const bool pasa = fila != filas.end() && *fila == i++;
+    if (pasa) ++fila;
+    (pasa ? pasan : quedan).push_back(std::move(e));
+  }
+  Claves claves;
+  for (const Elemento& e : pasan) claves.push_back(e.clave);
+  const bool elige = &de == &disponibles_;
+  if (elige && antesDeElegir && !antesDeElegir(claves)) return;
+  poner(de, quedan);
+  elige ? agregar(seleccionadas_, pasan) : devolver(std::move(pasan));
+  marcarSiguiente(de, filas.front());
+  if (!elige && quitados) quitados(claves);
+}
+
+/// Each to its old place; what is not known of old goes to the end.
+void ListaDoble::devolver(std::vector<Elemento> vuelven) {
+  std::vector<Elemento> todas = elementos(disponibles_);
+  std::move(vuelven.begin(), vuelven.end(), std::back_inserter(todas));
+  const auto lugar = [this](const Elemento& e) {
+    const auto conocido = lugares_.find(e.clave);
+    return conocido == lugares_.end() ? lugares_.size() : conocido->second;
+  };
+  std::stable_sort(todas.begin(), todas.end(),
+                   [&](const Elemento& a, const Elemento& b) { return lugar(a) < lugar(b); });
+  poner(disponibles_, todas);
+}
+
+void ListaDoble::marcarSiguiente(forms::ListBox& lista, int fila) {
+  if (lista.listCount() == 0) return;
+  const int siguiente = std::min(fila, lista.listCount() - 1);
+  lista.setListIndex(siguiente);
+  lista.setSelected(siguiente, true);
+}
+
+void ListaDoble::poner(forms::ListBox& lista, const std::vector<Elemento>& elementos) {
+  lista.clear();
+  agregar(lista, elementos);
+}
+
+void ListaDoble::agregar(forms::ListBox& lista, const std::vector<Elemento>& elementos) {
+  const bool anotada = &lista == &seleccionadas_ && anotacion;
+  for (const Elemento& e : elementos)
+    lista.addItem(anotada ? e.texto + anotacion(e.clave) : e.texto, e.clave);
+}
+
+std::vector<ListaDoble::Elemento> ListaDoble::elementos(const forms::ListBox& lista) const {
+  const bool anotada = &lista == &seleccionadas_ && anotacion;
+  std::vector<Elemento> todos;
+  for (int i = 0; i < lista.listCount(); ++i) {
+    Elemento e{lista.itemData(i), lista.list(i)};
+    if (anotada)
+      if (const std::string nota = anotacion(e.clave); e.texto.ends_with(nota))
+        e.texto.resize(e.texto.size() - nota.size());
+    todos.push_back(std::move(e));
+  }
+  return todos;
+}
+
+}  // namespace fidaleon
