@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "app/Insert.h"
+#include "app/SampleCensus.h"
 #include "app/SampleNames.h"
 #include "app/SamplePopulation.h"
 
@@ -37,6 +38,7 @@ class Writer {
     people_ = sample::makePopulation(SEED, homeTown(), parish_.name, today_);
     writeEntries();
     writeRequests();
+    fillSampleCensus(con_, {people_, towns_, own_, ownTown_, parish_.name, postcode()}, today_);
   }
 
  private:

@@ -1,6 +1,7 @@
 #include "app/Parish.h"
 #include "app/SampleNames.h"
 #include "app/SamplePopulation.h"
+#include "support/Identidad.h"
 
 namespace fidaleon::app {
 namespace {
@@ -75,6 +76,33 @@ TEST_F(SampleParish, aNewEntryGetsTheNextPositionAndFindsItsFamily) {
   desk->nucleo().NuevaPartida(desk->parish(), desk->config(), "PartidasBautismo");
   EXPECT_THAT(user.problems(), ::testing::IsEmpty());
   EXPECT_EQ(folio, std::to_string(last + 1));
+}
+
+TEST_F(SampleParish, everyPersonOfTheCensusIsWhole) {
+  const auto all = count("SELECT COUNT(IDPadron) FROM Padron");
+  EXPECT_GE(all, 100);
+  for (const char* table : {"Padron_Nacimiento", "Padron_Bautismo", "Padron_Comunion",
+                            "Padron_Confirmacion", "Padron_Matrimonio", "Padron_Defuncion"})
+    EXPECT_EQ(
+        rowsOf("SELECT IDPadron FROM Padron, " + std::string(table) + " WHERE CodPadron=IDPadron"),
+        all)
+        << table;
+  EXPECT_EQ(rowsOf("SELECT DISTINCT DNI FROM Padron WHERE DNI<>\"\""),
+            rowsOf("SELECT DNI FROM Padron WHERE DNI<>\"\""));
+  for (auto rows = desk->parish().Execute("SELECT DNI FROM Padron WHERE DNI<>\"\""); !rows.EOF_();
+       rows.MoveNext())
+    EXPECT_TRUE(support::nifValido(rows.text("DNI"))) << rows.text("DNI");
+}
+
+TEST_F(SampleParish, collaboratorsAreInAGroupOnce_andTheYearHasItsTasks) {
+  EXPECT_GE(rowsOf("SELECT * FROM Padron_TipoPersona WHERE CodTipoPersona=3"), 25);
+  EXPECT_EQ(rowsOf("SELECT DISTINCT CodPadron, CodGrupo FROM Padron_Actividad"),
+            rowsOf("SELECT * FROM Padron_Actividad"));
+  EXPECT_EQ(rowsOf("SELECT * FROM Padron_Actividad, Grupo, Actividad, Cargo WHERE "
+                   "CodGrupo=IDGrupo AND CodActividad=IDActividad AND CodCargo=IDCargo"),
+            rowsOf("SELECT * FROM Padron_Actividad"));
+  EXPECT_GE(rowsOf("SELECT * FROM Tareas"), 120);
+  EXPECT_EQ(rowsOf("SELECT * FROM Tareas WHERE HoraFin<HoraInicio"), 0);
 }
 
 TEST(SamplePopulation, sameSeed_samePeople) {
