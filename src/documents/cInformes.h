@@ -65,8 +65,8 @@ class cInformes {
                                    std::int32_t lngID);
 
   // People and groups of the parish: Informe_Colaboradores. SelInf... asks what to print and writes
-  // it; it says so when the table stays empty. Informe... writes all there is. An error takes back
-  // the rows of the call.
+  // it; it says so when the table stays empty. Informe... writes all there is. An error, or a user
+  // who stops the work, takes back the rows of the call.
   void SelInfActividad(FDAPI::Conexion& conFidaleon, FDAPI::Conexion& conInformes);
   void SelInfColaborador(FDAPI::Conexion& conFidaleon, FDAPI::Conexion& conInformes);
   void SelInfColaboradorExt(FDAPI::Conexion& conFidaleon, FDAPI::Conexion& conInformes);
@@ -80,7 +80,20 @@ class cInformes {
   void InformeColaboradorExt(FDAPI::Conexion& conFidaleon, FDAPI::Conexion& conInformes,
                              FDAPI::cProgreso& abpInformes);
 
-  // Tareas_Agenda: the tasks between two days, or of the current year.
+  // The rows of these reports, for their dialog too. False when an error, which has been told, has
+  // taken them back.
+  /// One row for each record of documents::sentenciaActividades.
+  bool RellenarInformeActividad(FDAPI::Conexion& conInformes, store::Recordset& grupos,
+                                FDAPI::cProgreso& progreso);
+  /// For each record of documents::sentenciaInstituciones the people that `sqlPersonas`, one of
+  /// documents::sentenciaPersonas, finds there, with `blnSinActividad` then those of no activity.
+  bool RellenarInformeColaborador(FDAPI::Conexion& conFidaleon, FDAPI::Conexion& conInformes,
+                                  store::Recordset& instituciones, const std::string& sqlPersonas,
+                                  bool blnSinActividad, FDAPI::cProgreso& progreso);
+
+  // Tareas_Agenda: the tasks between two days, each in a transaction of its own, or those of the
+  // current year. An error within the year leaves the transaction on conBaseInformes open for its
+  // owner to roll back; a user who stops the work has the rows taken back.
   void SelInfTareasAgenda(FDAPI::Conexion& conBaseDatos, FDAPI::Conexion& conBaseInformes);
   void InformeAgenda(FDAPI::Conexion& conBaseDatos, FDAPI::Conexion& conBaseInformes,
                      FDAPI::cProgreso& abpProgreso);
@@ -95,6 +108,11 @@ class cInformes {
   void escribirLibro(const documents::DocumentKind& kind, FDAPI::Conexion& conFidaleon,
                      FDAPI::Conexion& conInformes, const std::string& check,
                      const std::string& statement);
+  /// Asks what to print.
+  void elegirInforme(const char* miembro, FDAPI::Conexion& conFidaleon,
+                     FDAPI::Conexion& conInformes, FDAPI::cCOrigen modo);
+  void informarColaboradores(const char* miembro, FDAPI::Conexion& conFidaleon,
+                             FDAPI::Conexion& conInformes, FDAPI::cProgreso& progreso);
 
   Contexto& contexto_;
 };
