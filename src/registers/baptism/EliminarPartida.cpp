@@ -1,6 +1,5 @@
 #include "registers/baptism/EliminarPartida.h"
 
-#include "core/contract/Bloqueos.h"
 #include "core/contract/EnSacramento.h"
 #include "core/contract/Guard.h"
 #include "core/contract/SesionBloqueos.h"
@@ -28,8 +27,7 @@ bool esLaUltima(Conexion& conexion, std::int32_t lngID, const Sacramento& sacram
 bool existeYEstaLibre(Contexto& contexto, Conexion& conexion, std::int32_t lngID,
                       const Sacramento& sacramento) {
   SesionBloqueos bloqueos(contexto, conexion);
-  bloqueos.definir(
-      bloqueoDeRegistro(conexion, sacramento.tablaPartidas, sacramento.clavePartida, lngID));
+  bloqueos.registroPorClave(sacramento.tablaPartidas, sacramento.clavePartida, lngID);
   return bloqueos.comprobar();
 }
 
@@ -52,7 +50,7 @@ void borrarPartidaBautismo(Contexto& contexto, Conexion& conBaseDatos, std::int3
     SesionBloqueos bloqueos(contexto, conBaseDatos);
     if (!forms::ask(contexto.ui(), "¿Está seguro que desea eliminar la partida?")) return;
     const std::string id = std::to_string(lngID);
-    bloqueos.definir(bloqueoDeRegistro(conBaseDatos, "Bautismo", "IdBautismo", lngID));
+    bloqueos.registroPorClave("Bautismo", "IdBautismo", lngID);
     bloqueos.registros("Libro_Bautismo", "SELECT codLibro FROM Bautismo WHERE IDBautismo=" + id);
     if (!bloqueos.efectuar()) return;
     const forms::Hourglass reloj(contexto.ui());

@@ -3,7 +3,6 @@
 #include <array>
 #include <string>
 
-#include "core/contract/Bloqueos.h"
 #include "core/contract/EnSacramento.h"
 #include "core/contract/Guard.h"
 #include "core/contract/SesionBloqueos.h"
@@ -67,7 +66,7 @@ class OperacionLibro {
   }
 
   bool bloquear() {
-    bloqueos_.definir(bloqueoDeRegistro(conexion_, s_.tablaLibros, s_.claveLibro, std::stoi(id_)));
+    bloqueos_.registroPorClave(s_.tablaLibros, s_.claveLibro, std::stoi(id_));
     return bloqueos_.efectuar();
   }
 

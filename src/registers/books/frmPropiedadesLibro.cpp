@@ -95,7 +95,7 @@ void frmPropiedadesLibro::Form_Load() {
 }
 
 void frmPropiedadesLibro::cargar() {
-  sesion_ = abrirSesion(contexto_, *conBaseDatos);
+  sesion_.emplace(contexto_, *conBaseDatos);
   const Recordset fila = conBaseDatos->Execute(
       sentencia("SELECT * FROM Libro_Bautismo WHERE IdLibroBautismo=") + libro());
   if (fila.EOF_()) throw std::runtime_error("El libro ya no existe.");
@@ -158,7 +158,7 @@ void frmPropiedadesLibro::configurarRejilla() {
 }
 
 void frmPropiedadesLibro::Form_Unload() {
-  if (sesion_) sesion_->LiberarBloqueos();
+  sesion_.reset();
   if (!cargado_) return;
   procedimiento("Form_Unload()", [this] {
     contexto_.entorno.support.create_cIListas()->SaveGrid(msgPartidas,

@@ -7,6 +7,7 @@
 
 #include "core/contract/Contexto.h"
 #include "core/contract/Sacramento.h"
+#include "core/contract/SesionBloqueos.h"
 #include "forms/Form.h"
 #include "registers/books/PartidasDeLibro.h"
 
@@ -105,7 +106,7 @@ class frmPropiedadesLibro : public forms::Form {
   const Sacramento& sacramento_;
   const VariantePropiedadesLibro& variante_;
   std::unique_ptr<PartidasDeLibro> partidas_;
-  std::unique_ptr<FDAPI::cProcesarBloqueos> sesion_;
+  std::optional<SesionBloqueos> sesion_;
   std::int32_t institucion_ = 0;
   bool nuevo_ = true;
   bool cargado_ = false;

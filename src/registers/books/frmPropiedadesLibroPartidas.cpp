@@ -1,6 +1,5 @@
 // The entries of the book: the grid and its four buttons.
 
-#include "core/contract/Bloqueos.h"
 #include "core/contract/EnSacramento.h"
 #include "registers/books/VariantePropiedadesLibro.h"
 
@@ -67,10 +66,9 @@ void frmPropiedadesLibro::cmdPartidas_Click(Entrada boton) {
 void frmPropiedadesLibro::agregar(bool nuevoCerrado) {
   if (nuevoCerrado)
     return forms::warn(ui(), "¡No se pueden añadir partidas a un libro nuevo cerrado!");
-  for (const char* tabla : {"Provincia", "Municipio"})
-    sesion_->DefinirBloqueo(bloqueoDeTablaCompartida(tabla));
-  sesion_->DefinirBloqueo(bloqueoDeTabla(sacramento_.tablaPartidas));
-  if (sesion_->lngEfectuarBloqueos() != FDAPI::BloqueoNinguno) return;
+  sesion_->tablasCompartidas({"Provincia", "Municipio"});
+  sesion_->tabla(sacramento_.tablaPartidas);
+  if (!sesion_->efectuar()) return;
   const std::size_t antes = partidas_->cuenta();
   partidas_->abrir(apertura(std::nullopt));
   refrescarFecha();
@@ -97,12 +95,9 @@ void frmPropiedadesLibro::refrescarFecha() {
 
 long frmPropiedadesLibro::bloquear(const PartidaEnLista& partida) {
   if (!partida.guardada) return FDAPI::BloqueoNinguno;
-  for (const char* tabla : {"Provincia", "Municipio"})
-    sesion_->DefinirBloqueo(bloqueoDeTablaCompartida(tabla));
-  sesion_->DefinirBloqueo(bloqueoDeRegistro(*conBaseDatos, sacramento_.tablaPartidas,
-                                            sacramento_.clavePartida, partida.id));
-  sesion_->lngEfectuarBloqueos();
-  return sesion_->lngUltimoBloqueoError();
+  sesion_->tablasCompartidas({"Provincia", "Municipio"});
+  sesion_->registroPorClave(sacramento_.tablaPartidas, sacramento_.clavePartida, partida.id);
+  return sesion_->intentar();
 }
 
 void frmPropiedadesLibro::propiedades() {

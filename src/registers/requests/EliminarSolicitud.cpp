@@ -1,6 +1,5 @@
 #include "registers/requests/EliminarSolicitud.h"
 
-#include "core/contract/Bloqueos.h"
 #include "core/contract/Guard.h"
 #include "core/contract/SesionBloqueos.h"
 #include "registers/baptism/FilasBautismo.h"
@@ -11,7 +10,7 @@ void eliminarSolicitudBautismo(Contexto& contexto, FDAPI::Conexion& conBaseDatos
                                std::int32_t lngID) {
   guarded(contexto, "cNucleo", "EliminarSolicitud", [&] {
     SesionBloqueos bloqueos(contexto, conBaseDatos);
-    bloqueos.definir(bloqueoDeRegistro(conBaseDatos, "Bautismo", "IDBautismo", lngID));
+    bloqueos.registroPorClave("Bautismo", "IDBautismo", lngID);
     if (!bloqueos.efectuar()) return;
     const forms::Hourglass reloj(contexto.ui());
     const store::Recordset fila =

@@ -1,6 +1,5 @@
 // Moving the chosen requests into the book, each on the next position.
 
-#include "core/contract/Bloqueos.h"
 #include "core/contract/SesionBloqueos.h"
 #include "registers/requests/ProcedimientoSolicitudes.h"
 #include "text/Numbers.h"
@@ -30,7 +29,7 @@ void frmSolicitudes::aceptar() {
   // A list of the book that is open elsewhere has its own idea of the next position, and a request
   // being corrected elsewhere would be stored as a request again.
   SesionBloqueos sesion(contexto_, *conBaseDatos);
-  sesion.definir(bloqueoDeRegistro(*conBaseDatos, s.tablaLibros, s.claveLibro, libro.id));
+  sesion.registroPorClave(s.tablaLibros, s.claveLibro, libro.id);
   sesion.tabla(s.tablaPartidas);
   if (sesion.efectuar()) moverAlLibro(libro);
 }
