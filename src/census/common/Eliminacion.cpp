@@ -4,7 +4,10 @@ namespace fidaleon {
 
 Eliminacion::Eliminacion(Contexto& contexto, FDAPI::Conexion& conexion, const std::string& mensaje,
                          std::int64_t pasos)
-    : conexion_(conexion), fidaleon_(contexto.fidaleon()), transaccion_(conexion) {
+    : conexion_(conexion),
+      reloj_(contexto.ui()),
+      fidaleon_(contexto.fidaleon()),
+      transaccion_(conexion) {
   fidaleon_->ProgresoLoad(pasos, mensaje, 1);
 }
 
@@ -18,6 +21,10 @@ Eliminacion::~Eliminacion() {
 
 void Eliminacion::paso(const std::string& sentencia) {
   conexion_.Execute(sentencia);
+  pasoSinTrabajo();
+}
+
+void Eliminacion::pasoSinTrabajo() {
   fidaleon_->ProgresoRefresh(++hechos_);
 }
 

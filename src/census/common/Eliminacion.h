@@ -21,10 +21,13 @@ class Eliminacion {
 
   /// Runs a statement and moves the display by one. May throw forms::Cancelled.
   void paso(const std::string& sentencia);
+  /// Moves the display past a step that there is nothing to do for.
+  void pasoSinTrabajo();
   void terminar();
 
  private:
   FDAPI::Conexion& conexion_;
+  forms::Hourglass reloj_;
   std::unique_ptr<FDAPI::cFidaleon> fidaleon_;
   store::Transaction transaccion_;
   std::int64_t hechos_ = 0;

@@ -1,0 +1,109 @@
+// What the census dialog shows when it opens.
+
+#include "census/common/SoloLectura.h"
+#include "census/persons/ProcedimientoPadron.h"
+#include "core/lists/cIListas.h"
+
+namespace fidaleon {
+
+using FDAPI::cCOperacion;
+
+void frmPadron::Form_Load() {
+  const bool cargado = procedimiento("Form_Load", [this] {
+    const forms::Hourglass reloj(ui());
+    ConfigGridNotasPersonales();
+    cargarListas();
+    BorrarDatosEmpadronado();
+    if (Operacion == cCOperacion::EDITAR && !leerEmpadronado()) return Unload();
+    mostrarModo();
+  });
+  // A person shown in part would be stored in part.
+  if (!cargado) Unload();
+}
+
+void frmPadron::cargarListas() {
+  contexto_.entorno.support.create_cIListas()->fillInstituciones(cboPadron[Institucion], 0,
+                                                                 *conBaseDatos);
+  for (ParProvinciaPoblacion& par : pares_) par.abrir(*conBaseDatos);
+  cIListas(contexto_).fillSexo(cboPadron[Sexo]);
+  cargarSugerencias(EstadoCivil, "EstadoCivil");
+  cargarSugerencias(PosicionFamiliar, "PosicionFamiliar");
+  contexto_.fidaleon()->CambioEtiquetasMoneda(*this, txtPadron[ImporteNicho], contexto_.config());
+}
+
+void frmPadron::cargarSugerencias(Texto campo, const char* columna) {
+  const std::string nombre = columna;
+  std::vector<std::string> enUso;
+  store::Recordset filas =
+      conBaseDatos->Execute("SELECT DISTINCT " + nombre + " FROM Padron ORDER BY " + nombre);
+  for (; !filas.EOF_(); filas.MoveNext())
+    if (std::string texto = text::trim(filas.text(nombre)); !texto.empty())
+      enUso.push_back(std::move(texto));
+  txtPadron[campo].setSuggestions(std::move(enUso));
+}
+
+void frmPadron::BorrarDatosEmpadronado() {
+  ficha_ = {};
+  mostrarPersona();
+  txtPadron[ImporteNicho].setText(importeCero());
+  cboPadron[Pagado].setListIndex(-1);
+}
+
+bool frmPadron::leerEmpadronado() {
+  if (!ficha_.leer(*conBaseDatos, IDPadron)) {
+    forms::warn(ui(), "Esta persona ya no está en el padrón.");
+    return false;
+  }
+  mostrarPersona();
+  return true;
+}
+
+void frmPadron::mostrarPersona() {
+  const Persona& p = ficha_.persona;
+  for (const auto& [campo, miembro] : textos_) campo->setText(p.*miembro);
+  for (const auto& [campo, miembro] : fechas_) campo->setStored(p.*miembro);
+  for (const auto& [par, miembro] : municipios_) par->poner(p.*miembro);
+  cboPadron[Sexo].setListIndex(-1);
+  cboPadron[Sexo].selectText(p.Sexo);
+  cboPadron[Institucion].setListIndex(-1);
+  cboPadron[Institucion].selectData(p.CodInstitucionEmpadronado);
+  mostrarDNI();
+  mostrarDefuncion();
+  CargaGridNotasPersonales();
+  coincidencias_.olvidarCambio();
+  dniCambiado_ = false;
+}
+
+void frmPadron::mostrarDNI() {
+  const std::string& guardado = ficha_.persona.DNI;
+  const std::size_t largo = text::length(guardado);
+  const bool completo = largo > 2;
+  txtPadron[NIF].setText(completo ? text::left(guardado, largo - 2) : "");
+  txtPadron[LetraNIF].setText(completo ? text::right(guardado, 1) : "");
+}
+
+void frmPadron::mostrarDefuncion() {
+  const Persona& p = ficha_.persona;
+  txtPadron[ImporteNicho].setText(conPesetas() ? p.Importe : p.ImporteEur);
+  cboPadron[Pagado].selectText(p.Pagado ? "Sí" : "No");
+}
+
+void frmPadron::mostrarModo() {
+  const bool alta = Operacion == cCOperacion::ANADIR;
+  const Persona& p = ficha_.persona;
+  cmdPadron[BUSCAR].setVisible(alta);
+  setCaption(alta ? "Agregar empadronado"
+                  : "Propiedades del empadronado " + p.Nombre + " " + p.PrimerApellido + " " +
+                        p.SegundoApellido);
+}
+
+void frmPadron::soloLectura() {
+  soloLectura_ = true;
+  ponerSoloLectura(*this, cmdPadron[CANCELAR]);
+}
+
+void frmPadron::Form_Unload() {
+  procedimiento("Form_Unload", [this] { guardarAnchos(); });
+}
+
+}  // namespace fidaleon

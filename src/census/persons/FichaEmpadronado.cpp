@@ -1,0 +1,126 @@
+#include "census/persons/FichaEmpadronado.h"
+
+#include "store/Transaction.h"
+
+namespace fidaleon {
+
+namespace {
+
+using FDAPI::cCOperacion;
+using FDAPI::Conexion;
+
+constexpr std::int64_t TIPO_EMPADRONADO = 2;
+
+void insertarTipo(Conexion& conexion, std::int32_t id, std::int64_t tipo) {
+  conexion.Execute("INSERT INTO Padron_TipoPersona (CodPadron,CodTipoPersona) VALUES (" +
+                   std::to_string(id) + "," + std::to_string(tipo) + ");");
+}
+
+std::string textoDe(const std::string& texto) {
+  return entreComillas(text::replaceAll(texto, "\"", "''"));
+}
+
+}  // namespace
+
+bool FichaEmpadronado::leer(Conexion& conexion, std::int32_t id) {
+  const store::Recordset fila =
+      conexion.Execute("SELECT * FROM Padron WHERE IDPadron=" + std::to_string(id));
+  if (fila.EOF_()) return false;
+  persona = {};
+  copiarFila(tablaPadronAlta(), fila, persona, true);
+  persona.IDPadron = persona.CodPadron = id;
+  for (const Satelite s : SATELITES) {
+    const store::Recordset suya = conexion.Execute(sqlLeerSatelite(s, id));
+    bool& guardado = guardado_[static_cast<std::size_t>(s)];
+    guardado = !suya.EOF_();
+    if (guardado) copiarSatelite(s, suya, persona);
+  }
+  leerNotas(conexion);
+  return true;
+}
+
+void FichaEmpadronado::leerNotas(Conexion& conexion) {
+  notas.clear();
+  store::Recordset filas = conexion.Execute(
+      "SELECT * FROM Padron_NotasPersonales WHERE CodPadron=" + std::to_string(persona.IDPadron));
+  for (; !filas.EOF_(); filas.MoveNext()) {
+    cPadronNotas& nota = notas.emplace_back();
+    nota.Estado = true;
+    nota.IDNota = static_cast<std::int32_t>(filas.integer("IDNota"));
+    nota.CodPadron = persona.IDPadron;
+    nota.Nombre = filas.text("Nombre");
+    nota.Descripcion = filas.text("Descripcion");
+  }
+}
+
+void FichaEmpadronado::agregar(Conexion& conexion) {
+  persona.Nif_Responsable = persona.Cumpleaños = persona.AñoNacimiento = {};
+  store::Transaction transaccion(conexion);
+  conexion.Execute(sqlInsertar(tablaPadronAlta(), persona));
+  const auto id = static_cast<std::int32_t>(
+      conexion.Execute("SELECT MAX(IDPADRON) AS IDPADRON FROM PADRON").integer("IDPADRON"));
+  transaccion.commit();
+  persona.IDPadron = persona.CodPadron = id;
+
+  guardarSatelites(conexion);
+  guardarNotas(conexion);
+  const store::Recordset tipo =
+      conexion.Execute("SELECT * FROM Tipo_Persona WHERE Nombre='Empadronado'");
+  insertarTipo(conexion, id, tipo.EOF_() ? TIPO_EMPADRONADO : tipo.integer("IDTipoPersona"));
+}
+
+void FichaEmpadronado::editar(Conexion& conexion) {
+  const std::string id = std::to_string(persona.IDPadron);
+  conexion.Execute(sqlActualizar(tablaPadronEdicion(), persona) + " WHERE IDPadron=" + id);
+  guardarSatelites(conexion);
+  guardarNotas(conexion);
+  if (conexion
+          .Execute("SELECT * FROM [Padron_TipoPersona] WHERE CodPadron=" + id +
+                   " And CodTipoPersona=2")
+          .EOF_())
+    insertarTipo(conexion, persona.IDPadron, TIPO_EMPADRONADO);
+}
+
+// Writing over a row that is missing would lose what was typed for it.
+void FichaEmpadronado::guardarSatelites(Conexion& conexion) {
+  for (const Satelite s : SATELITES) {
+    bool& guardado = guardado_[static_cast<std::size_t>(s)];
+    conexion.Execute(guardado ? sqlActualizarSatelite(s, persona)
+                              : sqlInsertarSatelite(s, persona));
+    guardado = true;
+  }
+}
+
+void FichaEmpadronado::guardarNotas(Conexion& conexion) {
+  for (cPadronNotas& nota : notas) {
+    const std::string donde = std::to_string(nota.IDNota);
+    if (nota.Operacion == cCOperacion::Borrar) {
+      if (nota.Estado)
+        conexion.Execute("DELETE * FROM Padron_NotasPersonales WHERE IDNota = " + donde);
+      nota.Estado = false;
+    } else if (nota.Operacion == cCOperacion::EDITAR && nota.Estado) {
+      conexion.Execute("UPDATE Padron_NotasPersonales SET Nombre=" + textoDe(nota.Nombre) +
+                       ",Descripcion=" + textoDe(nota.Descripcion) + " WHERE IDNota=" + donde);
+      nota.Operacion = {};
+    } else if (nota.Operacion == cCOperacion::ANADIR || nota.Operacion == cCOperacion::EDITAR) {
+      insertarNota(conexion, nota);
+    }
+  }
+}
+
+// The key is needed only if a failure further on makes the note be stored again.
+void FichaEmpadronado::insertarNota(Conexion& conexion, cPadronNotas& nota) {
+  nota.CodPadron = persona.IDPadron;
+  const std::string cod = std::to_string(nota.CodPadron);
+  conexion.Execute("INSERT INTO Padron_NotasPersonales (CodPadron,Nombre,Descripcion) VALUES (" +
+                   cod + "," + textoDe(nota.Nombre) + "," + textoDe(nota.Descripcion) + ")");
+  nota.Estado = true;
+  nota.Operacion = {};
+  nota.IDNota = static_cast<std::int32_t>(
+      conexion
+          .Execute("SELECT MAX(IDNota) AS IDNota FROM Padron_NotasPersonales WHERE CodPadron=" +
+                   cod)
+          .integer("IDNota"));
+}
+
+}  // namespace fidaleon

@@ -1,0 +1,194 @@
+// What the controls of the census dialog set off.
+
+#include "census/money/cCurrency.h"
+#include "census/persons/ProcedimientoPadron.h"
+#include "census/search/frmMensaje.h"
+#include "census/search/frmPadronImportar.h"
+
+namespace fidaleon {
+
+using FDAPI::cCOperacion;
+using FDAPI::cCOrigen;
+
+namespace {
+
+constexpr std::size_t CIFRAS_NIF = 8;
+
+}  // namespace
+
+void frmPadron::crearSucesos() {
+  mstPadron.onMouseDown = [this](int pestana) { return mstPadron_MouseDown(pestana); };
+  sucesosDeNombreYNIF();
+  sucesosDeBotones();
+  for (const Lista lista : {Sexo, Pagado, Institucion})
+    cboPadron[lista].onKeyPress = [this, lista](forms::KeyPress& tecla) {
+      contexto_.fidaleon()->Comprobar_borrarcombo(tecla, cboPadron[lista]);
+    };
+  txtPadron[ImporteNicho].onKeyPress = [this](forms::KeyPress& tecla) { importe_KeyPress(tecla); };
+  txtPadron[ImporteNicho].onLostFocus = [this](forms::Control*) {
+    procedimiento("txtPadron_LostFocus", [this] { formatearImporte(); });
+  };
+  msgNotas.onDblClick = [this] {
+    if (cmdNotas[MODIFICAR].usable()) cmdNotas_Click(MODIFICAR);
+  };
+}
+
+void frmPadron::sucesosDeNombreYNIF() {
+  for (const Texto nombre : {Nombre, PrimerApellido, SegundoApellido}) {
+    txtPadron[nombre].onChange = [this] { coincidencias_.nombreCambiado(); };
+    txtPadron[nombre].onLostFocus = [this](forms::Control* siguiente) {
+      procedimiento("txtPadron_LostFocus", [&] { nombre_LostFocus(siguiente); });
+    };
+  }
+  for (const Texto parte : {NIF, LetraNIF})
+    txtPadron[parte].onChange = [this] { dniCambiado_ = true; };
+  txtPadron[NIF].onLostFocus = [this](forms::Control*) { NIF_LostFocus(); };
+  txtPadron[LetraNIF].onKeyPress = [this](forms::KeyPress& tecla) { letraNIF_KeyPress(tecla); };
+  txtPadron[LetraNIF].onLostFocus = [this](forms::Control* siguiente) {
+    procedimiento("txtPadron_LostFocus", [&] { letraNIF_LostFocus(siguiente); });
+  };
+}
+
+void frmPadron::sucesosDeBotones() {
+  const auto alPulsar = [this](forms::Button& boton, const char* nombre,
+                               void (frmPadron::*accion)()) {
+    boton.onClick = [this, nombre, accion] { procedimiento(nombre, [&] { (this->*accion)(); }); };
+  };
+  alPulsar(cmdAltaInstitucion, "cmdAltaInstitucion_Click", &frmPadron::altaInstitucion);
+  for (const auto& [lista, boton] : cmdAltaProvincia.all())
+    alPulsar(*boton, "cmdAltaProvincia_Click", &frmPadron::altaProvincia);
+  for (const auto& [lista, boton] : cmdAltaPoblacion.all())
+    alPulsar(*boton, "cmdAltaPoblacion_Click", &frmPadron::altaPoblacion);
+  alPulsar(cmdPadron[ACEPTAR], "cmdPadron_Click", &frmPadron::aceptar);
+  alPulsar(cmdPadron[BUSCAR], "cmdPadron_Click", &frmPadron::buscar);
+  cmdPadron[CANCELAR].onClick = [this] { Unload(); };
+  for (const auto& [indice, boton] : cmdNotas.all())
+    boton->onClick = [this, indice = indice] { cmdNotas_Click(BotonNota(indice)); };
+}
+
+// Who only looks could not choose the institution that may be missing.
+bool frmPadron::mstPadron_MouseDown(int pestana) {
+  const bool elegida = !text::trim(cboPadron[Institucion].text()).empty();
+  if (pestana == TAB_DATOS || elegida || soloLectura_) return true;
+  forms::warn(ui(), "¡Debe seleccionar una Institución!");
+  return false;
+}
+
+bool frmPadron::vaACancelar(const forms::Control* siguiente) const {
+  return siguiente == &cmdPadron[CANCELAR];
+}
+
+void frmPadron::nombre_LostFocus(const forms::Control* siguiente) {
+  if (Operacion != cCOperacion::ANADIR || vaACancelar(siguiente)) return;
+  cerrarCon(coincidencias_.alSalir(*conBaseDatos, 0, true));
+}
+
+void frmPadron::cerrarCon(std::int32_t id) {
+  if (id == 0) return;
+  lngSeleccionado = id;
+  Unload();
+}
+
+void frmPadron::buscar() {
+  frmPadronImportar busqueda(contexto_);
+  busqueda.conBaseDatos = conBaseDatos;
+  busqueda.Origen = cCOrigen::PADRON;
+  busqueda.Show();
+  cerrarCon(busqueda.lngSeleccionado);
+}
+
+void frmPadron::NIF_LostFocus() {
+  forms::TextBox& nif = txtPadron[NIF];
+  if (nif.locked()) return;
+  const std::size_t largo = text::length(nif.text());
+  if (largo == 0)
+    txtPadron[LetraNIF].setText("");
+  else if (largo < CIFRAS_NIF)
+    nif.setText(std::string(CIFRAS_NIF - largo, '0') + nif.text());
+}
+
+void frmPadron::letraNIF_KeyPress(forms::KeyPress& tecla) {
+  if (tecla.key != forms::Key::Character || tecla.ctrl || tecla.alt) return;
+  const bool cifra = tecla.character >= U'0' && tecla.character <= U'9';
+  cifra ? tecla.swallow()
+        : tecla.replaceWith(text::upper(text::toUtf8(std::u32string(1, tecla.character))));
+}
+
+void frmPadron::letraNIF_LostFocus(const forms::Control* siguiente) {
+  forms::TextBox& letra = txtPadron[LetraNIF];
+  if (letra.locked()) return;
+  letra.setText(text::upper(letra.text()));
+  const bool ambos = !txtPadron[NIF].text().empty() && !letra.text().empty();
+  if (!dniCambiado_ || !ambos || vaACancelar(siguiente)) return;
+  dniCambiado_ = false;
+  comprobarDNI();
+}
+
+void frmPadron::comprobarDNI() {
+  const bool alta = Operacion == cCOperacion::ANADIR;
+  const store::Recordset otro =
+      conBaseDatos->Execute("SELECT DNI,IDPadron FROM Padron WHERE DNI= " + entreComillas(dni()) +
+                            (alta ? "" : " AND IDPadron <>" + std::to_string(IDPadron)));
+  if (otro.EOF_()) return;
+  if (!alta) return forms::warn(ui(), "¡Ya existe una persona con este DNI!");
+  avisarDNI(static_cast<std::int32_t>(otro.integer("IDPadron")));
+}
+
+void frmPadron::avisarDNI(std::int32_t otra) {
+  frmMensaje mensaje(contexto_);
+  mensaje.conBaseDatos = conBaseDatos;
+  mensaje.Origen = cCOrigen::PADRON;
+  mensaje.IDPadron = otra;
+  mensaje.Show();
+  if (mensaje.blnImportar) importar(otra);
+}
+
+// The whole table is held for the new person, and with it the row of this one.
+void frmPadron::importar(std::int32_t id) {
+  Operacion = cCOperacion::EDITAR;
+  IDPadron = id;
+  if (!leerEmpadronado()) return Unload();
+  mostrarModo();
+  mstPadron.setTab(TAB_DATOS);
+  // Wherever the user was going, what was taken is to be looked at first.
+  setFocus(txtPadron[Nombre]);
+}
+
+void frmPadron::importe_KeyPress(forms::KeyPress& tecla) {
+  const int enteros = conPesetas() ? 8 : 7;
+  const int decimales = conPesetas() ? 0 : 2;
+  cCurrency moneda;
+  moneda.VerificarCurrencyKeyDown(txtPadron[ImporteNicho], tecla, enteros, decimales, false);
+  moneda.VerificarCurrencyKeyPress(txtPadron[ImporteNicho], tecla, enteros, decimales, false);
+}
+
+void frmPadron::formatearImporte() {
+  forms::TextBox& importe = txtPadron[ImporteNicho];
+  if (importe.locked()) return;
+  if (importe.text().empty()) importe.setText(importeCero());
+  importe.setText(cCurrency().FormatearCurrency(importe.text(), !conPesetas()));
+}
+
+void frmPadron::altaInstitucion() {
+  forms::ComboBox& instituciones = cboPadron[Institucion];
+  const std::int64_t elegida = instituciones.data();
+  contexto_.fidaleon()->NuevaInstitucion(*conBaseDatos, contexto_.config());
+  contexto_.entorno.support.create_cIListas()->fillInstituciones(instituciones, 0, *conBaseDatos);
+  instituciones.selectData(elegida);
+}
+
+void frmPadron::altaProvincia() {
+  bool agregada = false;
+  contexto_.fidaleon()->NuevaProvincia(agregada, *conBaseDatos, contexto_.config());
+  if (!agregada) return;
+  for (ParProvinciaPoblacion& par : pares_) par.refrescar();
+}
+
+void frmPadron::altaPoblacion() {
+  bool agregada = false;
+  contexto_.fidaleon()->NuevoMunicipio(agregada, *conBaseDatos, contexto_.config());
+  if (!agregada) return;
+  for (ParProvinciaPoblacion& par : pares_) par.refrescar();
+}
+
+}  // namespace fidaleon
