@@ -1,11 +1,79 @@
+#include <vector>
+
 #include "census/Operaciones.h"
+#include "census/activities/frmActividad.h"
+#include "census/common/Eliminacion.h"
+#include "census/common/SoloLectura.h"
+#include "core/contract/SesionBloqueos.h"
 
 namespace fidaleon::censo {
 
-void NuevaActividad(Contexto&, FDAPI::Conexion&, bool, cCOrigen) {}
+using FDAPI::cCOperacion;
 
-void EditaActividad(Contexto&, FDAPI::Conexion&, std::int32_t, bool, cCOrigen) {}
+namespace {
 
-void EliminaActividad(Contexto&, FDAPI::Conexion&, std::int32_t) {}
+void prepararActividad(frmActividad& dialogo, FDAPI::Conexion& conexion, cCOperacion operacion,
+                       bool blnOcultar, cCOrigen origen) {
+  dialogo.conBaseDatos = &conexion;
+  dialogo.Operacion = operacion;
+  dialogo.blnOcultar = blnOcultar;
+  dialogo.Origen = origen;
+}
+
+std::vector<std::string> gruposDe(FDAPI::Conexion& conexion, const std::string& actividad) {
+  std::vector<std::string> grupos;
+  for (store::Recordset rs =
+           conexion.Execute("SELECT IDGrupo FROM Grupo WHERE CodActividad=" + actividad);
+       !rs.EOF_(); rs.MoveNext())
+    grupos.push_back(rs.text("IDGrupo"));
+  return grupos;
+}
+
+}  // namespace
+
+void NuevaActividad(Contexto& contexto, FDAPI::Conexion& conexion, bool blnOcultar,
+                    cCOrigen origen) {
+  SesionBloqueos sesion(contexto, conexion);
+  sesion.tabla("Actividad");
+  sesion.tablasCompartidas({"Institucion"});
+  if (!sesion.efectuar()) return;
+  frmActividad dialogo(contexto);
+  prepararActividad(dialogo, conexion, cCOperacion::ANADIR, blnOcultar, origen);
+  dialogo.Show();
+}
+
+void EditaActividad(Contexto& contexto, FDAPI::Conexion& conexion, std::int32_t id, bool blnOcultar,
+                    cCOrigen origen) {
+  SesionBloqueos sesion(contexto, conexion);
+  sesion.registroPorClave("Actividad", "IdActividad", id);
+  sesion.tablasCompartidas({"Institucion"});
+  const auto apertura = sesion.efectuarParaFicha();
+  if (apertura == SesionBloqueos::Apertura::NINGUNA) return;
+  frmActividad dialogo(contexto);
+  prepararActividad(dialogo, conexion, cCOperacion::EDITAR, blnOcultar, origen);
+  dialogo.IDActividad = id;
+  dialogo.Load();
+  if (apertura == SesionBloqueos::Apertura::SOLO_LECTURA)
+    ponerSoloLectura(dialogo, dialogo.cmdActividad[frmActividad::CANCELAR]);
+  dialogo.Show();
+}
+
+void EliminaActividad(Contexto& contexto, FDAPI::Conexion& conexion, std::int32_t id) {
+  if (!preguntarEliminacion(contexto, "una", "Actividad")) return;
+  SesionBloqueos sesion(contexto, conexion);
+  sesion.registroPorClave("Actividad", "IdActividad", id);
+  if (!sesion.efectuar()) return;
+  const std::string actividad = std::to_string(id);
+  const std::vector<std::string> grupos = gruposDe(conexion, actividad);
+  const forms::Hourglass reloj(contexto.ui());
+  Eliminacion eliminacion(contexto, conexion, "Eliminando actividad ...",
+                          3 + static_cast<std::int64_t>(grupos.size()));
+  eliminacion.paso("DELETE * FROM Actividad WHERE IDActividad=" + actividad);
+  for (const std::string& grupo : grupos)
+    if (!conexion.Execute("SELECT * FROM Padron_Actividad WHERE CodGrupo=" + grupo).EOF_())
+      eliminacion.paso("DELETE * FROM Padron_Actividad WHERE CodGrupo= " + grupo);
+  eliminacion.paso("DELETE * FROM Grupo WHERE CodActividad= " + actividad);
+  eliminacion.terminar();
+}
 
 }  // namespace fidaleon::censo

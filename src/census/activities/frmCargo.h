@@ -25,9 +25,6 @@ class frmCargo : public forms::Form {
   std::int32_t lngCargo = 0;
   std::string strCargo;
 
-  /// For a loaded dialog: nothing can be changed, since another works on the office.
-  void soloLectura();
-
   forms::ControlArray<forms::TextBox> txtCargo;
   enum Campo { NOMBRE, DESCRIPCION };
   forms::ComboBox cboCargo;
@@ -46,7 +43,7 @@ class frmCargo : public forms::Form {
   void agregar();
   void aceptar();
   void elegir();
-  void guardar();
+  void guardar(const std::string& nombre);
   bool repetido(const std::string& nombre);
   bool seElige() const { return Origen == FDAPI::cCOrigen::ACTIVIDAD; }
 

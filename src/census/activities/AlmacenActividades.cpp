@@ -1,0 +1,144 @@
+#include "census/activities/AlmacenActividades.h"
+
+#include <set>
+
+#include "census/activities/Sentencias.h"
+#include "store/Transaction.h"
+
+namespace fidaleon {
+
+using FDAPI::cCOperacion;
+using FDAPI::Conexion;
+using store::Recordset;
+
+namespace {
+
+std::int32_t clave(const Recordset& fila, const char* columna) {
+  return static_cast<std::int32_t>(fila.integer(columna));
+}
+
+std::string numero(std::int32_t n) {
+  return std::to_string(n);
+}
+
+void insertarMiembro(Conexion& conexion, std::int32_t grupo, const cPadronActividad& miembro) {
+  conexion.Execute("INSERT INTO Padron_Actividad (CodPadron,CodGrupo,CodCargo ) VALUES (" +
+                   numero(miembro.IDPadron) + "," + numero(grupo) + "," + numero(miembro.IDCargo) +
+                   ")");
+}
+
+void insertarGrupo(Conexion& conexion, std::int32_t actividad, const cPadronActGrupos& g) {
+  conexion.Execute(
+      "INSERT INTO Grupo (CodActividad,Nombre,Año,Dia,Hora,Sala,Comentarios ) VALUES (" +
+      numero(actividad) + "," + citar(g.Nombre) + "," + citar(g.Año) + "," + citar(g.Dia) + "," +
+      citar(g.Hora) + "," + citar(g.Sala) + "," + citar(g.Comentarios) + ")");
+  const std::int32_t id =
+      clave(conexion.Execute("SELECT MAX(IDGrupo) as IDGrupo FROM Grupo"), "IDGrupo");
+  for (const cPadronActividad& miembro : g.miembros)
+    if (miembro.Operacion != cCOperacion::Borrar) insertarMiembro(conexion, id, miembro);
+}
+
+std::string miembrosDe(std::int32_t grupo) {
+  return "SELECT * FROM Padron_Actividad WHERE CodGrupo=" + numero(grupo);
+}
+
+void guardarMiembros(Conexion& conexion, const cPadronActGrupos& g) {
+  std::set<std::int32_t> almacenados;
+  for (Recordset rs = conexion.Execute(miembrosDe(g.IDGrupo)); !rs.EOF_(); rs.MoveNext())
+    almacenados.insert(clave(rs, "CodPadron"));
+  for (const cPadronActividad& miembro : g.miembros)
+    if (miembro.Operacion == cCOperacion::Borrar && almacenados.erase(miembro.IDPadron) > 0)
+      conexion.Execute("DELETE * FROM Padron_Actividad WHERE CodPadron=" +
+                       numero(miembro.IDPadron) + " AND CodGrupo=" + numero(g.IDGrupo));
+  for (const cPadronActividad& miembro : g.miembros)
+    if (miembro.Operacion == cCOperacion::ANADIR && almacenados.insert(miembro.IDPadron).second)
+      insertarMiembro(conexion, g.IDGrupo, miembro);
+}
+
+void actualizarGrupo(Conexion& conexion, const cPadronActGrupos& g) {
+  conexion.Execute("UPDATE Grupo SET Nombre=" + citar(g.Nombre) + ", Año=" + citar(g.Año) +
+                   ",Dia=" + citar(g.Dia) + ",Hora=" + citar(g.Hora) + ",Sala=" + citar(g.Sala) +
+                   ",Comentarios=" + citar(g.Comentarios) + " WHERE IDGrupo=" + numero(g.IDGrupo));
+  guardarMiembros(conexion, g);
+}
+
+void borrarGrupo(Conexion& conexion, const cPadronActGrupos& g) {
+  conexion.Execute("DELETE * FROM Padron_Actividad WHERE CodGrupo=" + numero(g.IDGrupo));
+  conexion.Execute("DELETE * FROM Grupo WHERE IDGrupo=" + numero(g.IDGrupo));
+}
+
+std::vector<cPadronActividad> leerMiembros(Conexion& conexion, std::int32_t grupo) {
+  std::vector<cPadronActividad> miembros;
+  for (Recordset rs = conexion.Execute(miembrosDe(grupo)); !rs.EOF_(); rs.MoveNext())
+    miembros.push_back({clave(rs, "IDActividadesPadron"), grupo, clave(rs, "CodCargo"), true,
+                        cCOperacion{}, clave(rs, "CodPadron")});
+  return miembros;
+}
+
+cPadronActGrupos comoGrupo(const Recordset& fila) {
+  cPadronActGrupos g;
+  g.IDGrupo = clave(fila, "IDGrupo");
+  g.IDActividad = clave(fila, "CodActividad");
+  g.Estado = true;
+  g.Comentarios = fila.text("Comentarios");
+  g.Sala = fila.text("Sala");
+  g.Hora = fila.text("Hora");
+  g.Dia = fila.text("Dia");
+  g.Año = fila.text("Año");
+  g.Nombre = fila.text("Nombre");
+  return g;
+}
+
+}  // namespace
+
+std::optional<Actividad> leerActividad(Conexion& conexion, std::int32_t IDActividad) {
+  const Recordset fila =
+      conexion.Execute("SELECT * FROM Actividad WHERE IDActividad=" + numero(IDActividad));
+  if (fila.EOF_()) return std::nullopt;
+  return Actividad{IDActividad, fila.text("Nombre"), fila.text("Descripcion"),
+                   clave(fila, "CodInstitucion")};
+}
+
+ColeccionGrupos leerGrupos(Conexion& conexion, std::int32_t IDActividad) {
+  ColeccionGrupos grupos;
+  for (Recordset rs =
+           conexion.Execute("SELECT * FROM Grupo WHERE CodActividad=" + numero(IDActividad));
+       !rs.EOF_(); rs.MoveNext()) {
+    grupos.push_back(comoGrupo(rs));
+    grupos.back().miembros = leerMiembros(conexion, grupos.back().IDGrupo);
+  }
+  return grupos;
+}
+
+void agregarActividad(Conexion& conexion, const Actividad& actividad,
+                      const ColeccionGrupos& grupos) {
+  store::Transaction transaccion(conexion);
+  conexion.Execute("INSERT INTO Actividad (Nombre,Descripcion,CodInstitucion ) VALUES (" +
+                   citar(actividad.Nombre) + "," + citar(actividad.Descripcion) + "," +
+                   numero(actividad.CodInstitucion) + ")");
+  const std::int32_t id = clave(
+      conexion.Execute("SELECT MAX(IDActividad) as IDActividad FROM Actividad"), "IDActividad");
+  for (const cPadronActGrupos& grupo : grupos)
+    if (grupo.Operacion != cCOperacion::Borrar) insertarGrupo(conexion, id, grupo);
+  transaccion.commit();
+}
+
+void editarActividad(Conexion& conexion, const Actividad& actividad,
+                     const ColeccionGrupos& grupos) {
+  store::Transaction transaccion(conexion);
+  conexion.Execute("UPDATE Actividad SET Nombre=" + citar(actividad.Nombre) +
+                   ",Descripcion=" + citar(actividad.Descripcion) +
+                   ",CodInstitucion=" + numero(actividad.CodInstitucion) +
+                   " WHERE IDActividad=" + numero(actividad.IDActividad));
+  for (const cPadronActGrupos& grupo : grupos) {
+    if (grupo.Operacion == cCOperacion::ANADIR)
+      insertarGrupo(conexion, actividad.IDActividad, grupo);
+    else if (grupo.Operacion == cCOperacion::EDITAR)
+      actualizarGrupo(conexion, grupo);
+    else if (grupo.Operacion == cCOperacion::Borrar && grupo.Estado)
+      borrarGrupo(conexion, grupo);
+  }
+  transaccion.commit();
+}
+
+}  // namespace fidaleon

@@ -1,0 +1,75 @@
+// The groups of the activity.
+
+#include <algorithm>
+
+#include "census/activities/ProcedimientoActividad.h"
+#include "census/activities/frmActividadGrupos.h"
+
+namespace fidaleon {
+
+using FDAPI::cCOperacion;
+
+void frmActividad::CargaGridGrupos() {
+  procedimiento("CargaGridGrupos", [this] { llenarRejilla(); });
+}
+
+void frmActividad::llenarRejilla() {
+  const int antes = msgGrupos.row();
+  msgGrupos.beginUpdate();
+  msgGrupos.clearRows();
+  for (const cPadronActGrupos& g : colGrupos_)
+    if (g.Operacion != cCOperacion::Borrar)
+      msgGrupos.addRow({g.Nombre, g.Año, g.Dia, g.Hora, g.Sala}, g.IDGrupo);
+  msgGrupos.endUpdate();
+  msgGrupos.setRow(std::min(std::max(antes, 1), msgGrupos.rowCount()));
+}
+
+cPadronActGrupos* frmActividad::elegido() {
+  if (msgGrupos.row() == 0) {
+    ui().beep();
+    return nullptr;
+  }
+  return buscarGrupo(colGrupos_, static_cast<std::int32_t>(msgGrupos.rowKey(msgGrupos.row())));
+}
+
+void frmActividad::agregar() {
+  if (!bloqueos_->tomarTabla()) return;
+  if (!abrirGrupo(cCOperacion::ANADIR, 0)) return bloqueos_->unaMenos();
+  CargaGridGrupos();
+  msgGrupos.setRow(msgGrupos.rowCount());
+}
+
+void frmActividad::modificar() {
+  const cPadronActGrupos* grupo = elegido();
+  if (!grupo) return;
+  if (abrirGrupo(cCOperacion::EDITAR, grupo->IDGrupo)) return CargaGridGrupos();
+  if (grupo->Estado) bloqueos_->soltarRegistro(grupo->IDGrupo);
+}
+
+void frmActividad::quitar() {
+  cPadronActGrupos* grupo = elegido();
+  if (!grupo) return;
+  const std::int32_t id = grupo->IDGrupo;
+  if (!grupo->Estado) {
+    std::erase_if(colGrupos_, [&](const cPadronActGrupos& g) { return g.IDGrupo == id; });
+    bloqueos_->unaMenos();
+  } else {
+    if (!bloqueos_->tomarRegistro(id)) return;
+    grupo->Operacion = cCOperacion::Borrar;
+  }
+  CargaGridGrupos();
+}
+
+bool frmActividad::abrirGrupo(cCOperacion operacion, std::int32_t IDGrupo) {
+  frmActividadGrupos dialogo(contexto_);
+  dialogo.conBaseDatos = conBaseDatos;
+  dialogo.Operacion = operacion;
+  dialogo.IDGrupo = IDGrupo;
+  dialogo.IDActividad = IDActividad;
+  dialogo.colGrupos = &colGrupos_;
+  dialogo.Origen = Origen;
+  dialogo.Show();
+  return dialogo.blnAceptado;
+}
+
+}  // namespace fidaleon
