@@ -1,0 +1,183 @@
+// The groups that a collaborator works in, and their locks.
+
+#include <algorithm>
+
+#include "census/collaborators/frmColaborador.h"
+#include "census/collaborators/frmColaboradorActividad.h"
+#include "core/lists/Rejilla.h"
+#include "core/lists/cIListas.h"
+
+namespace fidaleon {
+
+using FDAPI::cCOperacion;
+
+namespace {
+
+constexpr const char* TABLA = "Padron_Actividad";
+
+const Rejilla& rejillaActividades() {
+  static const Rejilla r{"Grids\\Colaborador\\Colaborador",
+                         {{"Grupo", 2250}, {"Cargo"}, {"Actividad"}, {"Sala"}, {"Día"}, {"Hora"}}};
+  return r;
+}
+
+bool quitada(const cPadronActividad& actividad) {
+  return actividad.Operacion == cCOperacion::Borrar;
+}
+
+}  // namespace
+
+void frmColaborador::ConfigGridActividadColaborador() {
+  procedimiento("ConfigGridActividadColaborador", [this] {
+    cIListas(contexto_).ConfigGrid(msgActividades, rejillaActividades(),
+                                   "ConfigGridActividadColaborador");
+  });
+}
+
+void frmColaborador::guardarAnchos() {
+  cIListas(contexto_).SaveGrid(msgActividades, rejillaActividades());
+}
+
+bool frmColaborador::LlenaColeccionActividad() {
+  return procedimiento("LlenaColeccionActividad", [this] {
+    store::Recordset filas = conBaseDatos->Execute(
+        "SELECT DISTINCT * FROM Padron_Actividad WHERE CodPadron=" + std::to_string(IDPadron));
+    const auto entero = [&](const char* columna) {
+      return static_cast<std::int32_t>(filas.integer(columna));
+    };
+    for (; !filas.EOF_(); filas.MoveNext()) {
+      cPadronActividad actividad;
+      actividad.IDActividadesPadron = entero("IDActividadesPadron");
+      actividad.IDGrupo = entero("CodGrupo");
+      actividad.IDCargo = entero("CodCargo");
+      actividad.IDPadron = IDPadron;
+      actividad.Estado = true;
+      actividades_.push_back(actividad);
+    }
+  });
+}
+
+bool frmColaborador::CargaGridActividadColaborador() {
+  return procedimiento("CargaGridActividadColaborador", [this] {
+    const forms::Hourglass reloj(ui());
+    msgActividades.beginUpdate();
+    msgActividades.clearRows();
+    for (std::size_t i = 0; i < actividades_.size(); ++i) {
+      const cPadronActividad& a = actividades_[i];
+      if (!quitada(a)) msgActividades.addRow(celdas(a), claveDeFila(i));
+    }
+    msgActividades.endUpdate();
+  });
+}
+
+std::int64_t frmColaborador::claveDeFila(std::size_t posicion) const {
+  const cPadronActividad& a = actividades_[posicion];
+  return a.Estado ? a.IDActividadesPadron : static_cast<std::int64_t>(posicion);
+}
+
+std::vector<std::string> frmColaborador::celdas(const cPadronActividad& actividad) {
+  const store::Recordset grupo = conBaseDatos->Execute(
+      "SELECT * FROM Grupo,Actividad WHERE Grupo.CodActividad=Actividad.IDActividad AND IDGrupo=" +
+      std::to_string(actividad.IDGrupo));
+  const store::Recordset cargo = conBaseDatos->Execute("SELECT Nombre FROM Cargo WHERE IDCargo=" +
+                                                       std::to_string(actividad.IDCargo));
+  const std::string nombreCargo = cargo.EOF_() ? std::string() : cargo.text("Nombre");
+  // A group that somebody has removed leaves a row that can still be taken away.
+  if (grupo.EOF_()) return {"---", nombreCargo};
+  return {grupo.text("Grupo.Nombre"), nombreCargo,       grupo.text("Actividad.Nombre"),
+          grupo.text("Sala"),         grupo.text("Dia"), grupo.text("Hora")};
+}
+
+std::optional<std::size_t> frmColaborador::elegida() const {
+  int fila = 0;
+  for (std::size_t i = 0; i < actividades_.size(); ++i)
+    if (!quitada(actividades_[i]) && ++fila == msgActividades.row()) return i;
+  return std::nullopt;
+}
+
+BloqueosDeLista& frmColaborador::bloqueos() {
+  if (!bloqueos_) bloqueos_.emplace(contexto_, *conBaseDatos, TABLA, "IdActividadesPadron");
+  return *bloqueos_;
+}
+
+void frmColaborador::agregarActividad() {
+  if (!bloqueos().tomarTabla()) return;
+  if (!mostrarActividad(cCOperacion::ANADIR, actividades_.size())) bloqueos().unaMenos();
+}
+
+void frmColaborador::modificarActividad() {
+  const std::optional<std::size_t> posicion = elegida();
+  if (!posicion) return ui().beep();
+  const cPadronActividad& actividad = actividades_[*posicion];
+  if (actividad.Estado && !bloqueos().tomarRegistro(actividad.IDActividadesPadron)) return;
+  mostrarActividad(cCOperacion::EDITAR, *posicion);
+}
+
+bool frmColaborador::mostrarActividad(cCOperacion operacion, std::size_t posicion) {
+  frmColaboradorActividad dialogo(contexto_);
+  dialogo.conBaseDatos = conBaseDatos;
+  dialogo.Operacion = operacion;
+  dialogo.Origen = Origen;
+  dialogo.IDPadron = IDPadron;
+  dialogo.colActividades = &actividades_;
+  dialogo.posicion = posicion;
+  const int fila = msgActividades.row();
+  dialogo.refrescar = [this, fila] {
+    CargaGridActividadColaborador();
+    msgActividades.setRow(fila);
+  };
+  dialogo.Show();
+  if (dialogo.celdas.empty()) return false;
+  if (operacion == cCOperacion::ANADIR)
+    msgActividades.setRow(msgActividades.addRow(dialogo.celdas, claveDeFila(posicion)));
+  else
+    for (std::size_t c = 0; c < dialogo.celdas.size(); ++c)
+      msgActividades.setCell(fila, static_cast<int>(c), dialogo.celdas[c]);
+  return true;
+}
+
+void frmColaborador::quitarActividad() {
+  const std::optional<std::size_t> posicion = elegida();
+  if (!posicion) return ui().beep();
+  cPadronActividad& actividad = actividades_[*posicion];
+  if (actividad.Estado) {
+    if (!bloqueos().tomarRegistro(actividad.IDActividadesPadron)) return;
+    actividad.Operacion = cCOperacion::Borrar;
+  } else {
+    actividades_.erase(actividades_.begin() + static_cast<std::ptrdiff_t>(*posicion));
+    bloqueos().unaMenos();
+  }
+  const int fila = msgActividades.row();
+  CargaGridActividadColaborador();
+  msgActividades.setRow(std::min(fila, msgActividades.rowCount()));
+}
+
+void frmColaborador::guardarActividades(std::int32_t idPadron) {
+  for (const cPadronActividad& a : actividades_)
+    if (Operacion == cCOperacion::EDITAR || a.Operacion == cCOperacion::ANADIR)
+      guardarActividad(a, idPadron);
+}
+
+void frmColaborador::guardarActividad(const cPadronActividad& actividad, std::int32_t idPadron) {
+  const std::string p = std::to_string(idPadron);
+  const std::string g = std::to_string(actividad.IDGrupo);
+  const std::string c = std::to_string(actividad.IDCargo);
+  const std::string id = std::to_string(actividad.IDActividadesPadron);
+  if (actividad.Operacion == cCOperacion::ANADIR) {
+    const bool esta =
+        Operacion == cCOperacion::EDITAR &&
+        !conBaseDatos
+             ->Execute("SELECT * FROM Padron_Actividad WHERE CodPadron=" + p + " AND CodGrupo=" + g)
+             .EOF_();
+    if (!esta)
+      conBaseDatos->Execute("INSERT INTO Padron_Actividad (CodPadron,CodGrupo,CodCargo) VALUES (" +
+                            p + "," + g + "," + c + ");");
+  } else if (actividad.Operacion == cCOperacion::EDITAR) {
+    conBaseDatos->Execute("UPDATE Padron_Actividad SET CodPadron=" + p + ",CodGrupo=" + g +
+                          ",CodCargo=" + c + " WHERE IDActividadesPadron=" + id);
+  } else if (quitada(actividad) && actividad.Estado) {
+    conBaseDatos->Execute("DELETE * FROM Padron_Actividad WHERE IDActividadesPadron=" + id);
+  }
+}
+
+}  // namespace fidaleon

@@ -1,0 +1,221 @@
+// Fields of the collaborator dialog, where they stand and what they hold when it opens.
+
+#include "census/collaborators/frmColaborador.h"
+
+#include "census/collaborators/TablasColaborador.h"
+#include "census/common/CamposPersona.h"
+#include "census/common/SoloLectura.h"
+#include "core/contract/Guard.h"
+#include "core/lists/Rejilla.h"
+#include "core/lists/cIListas.h"
+
+namespace fidaleon {
+
+using FDAPI::cCOperacion;
+using forms::fields;
+using forms::item;
+using forms::LayoutNode;
+using forms::page;
+
+namespace {
+
+constexpr int ANCHO_TEXTO = 255;  // of the columns
+constexpr int ANCHO_CPOSTAL = 5;
+constexpr int ANCHO_AÑO = 4;
+constexpr int MEMO = 0;  // no limit
+
+struct CampoTexto {
+  frmColaborador::Texto indice;
+  const char* etiqueta;
+  std::string Persona::*miembro;
+  int maximo = ANCHO_TEXTO;
+  int lineas = 1;
+};
+
+using C = frmColaborador;
+constexpr CampoTexto CAMPOS[] = {
+    {C::Nombre, "NOMBRE:", &Persona::Nombre},
+    {C::PrimerApellido, "PRIMER APELLIDO:", &Persona::PrimerApellido},
+    {C::SegundoApellido, "SEGUNDO APELLIDO:", &Persona::SegundoApellido},
+    {C::Direccion, "DIRECCION:", &Persona::Direccion},
+    {C::CPostal, "C.POSTAL:", &Persona::CPostal, ANCHO_CPOSTAL},
+    {C::Telefono, "TELEFONO (1):", &Persona::Telefono},
+    {C::Telefono2, "TELEFONO (2):", &Persona::Telefono2},
+    {C::CorreoElectronico, "EMAIL:", &Persona::CorreoElectronico},
+    {C::ProfesionColegio, "PROFESIÓN / COLEGIO:", &Persona::ProfesionColegio},
+    {C::Comentarios, "COMENTARIOS:", &Persona::Comentarios, MEMO, 4},
+    {C::Cumpleaños, "CUMPLEAÑOS:", &Persona::Cumpleaños},
+    {C::AñoNacimiento, "AÑO DE NACIMIENTO:", &Persona::AñoNacimiento, ANCHO_AÑO},
+    {C::NombrePadre, "NOMBRE DEL PADRE:", &Persona::NombrePadre},
+    {C::NombreMadre, "NOMBRE DE LA MADRE:", &Persona::NombreMadre},
+    {C::ParroquiaBaut, "PARROQUIA:", &Persona::ParroquiaBaut},
+    {C::DireccionParrBaut, "DIRECCION:", &Persona::DireccionParrBaut},
+    {C::Observaciones, "OBSERVACIONES:", &Persona::Observaciones, MEMO, 14},
+};
+
+}  // namespace
+
+frmColaborador::frmColaborador(Contexto& contexto)
+    : Form(contexto.ui(), "frmColaborador"),
+      mstColaborador(*this, "mstColaborador",
+                     {"DATOS", "NACIMIENTO", "BAUTISMO", "OBSERVACIONES", "ACTIVIDADES"}),
+      txtColaborador(*this, "txtColaborador"),
+      adtpFechaBautizo(*this, "adtpFechaBautizo", "FECHA:"),
+      cboColaborador(*this, "cboColaborador"),
+      cmdAgregarProvincia(*this, "cmdAgregarProvincia"),
+      cmdAgregarMunicipio(*this, "cmdAgregarMunicipio"),
+      msgActividades(*this, "msgActividades"),
+      cmdActividad(*this, "cmdActividad"),
+      cmdColaborador(*this, "cmdColaborador"),
+      contexto_(contexto) {
+  crearTextos();
+  crearLugar(DOMICILIO, ProvinciaDomicilio);
+  crearLugar(BAUTISMO, ProvinciaBautismo);
+  crearBotones();
+  setLayout(disposicion());
+  crearSucesos();
+}
+
+void frmColaborador::crearTextos() {
+  for (const CampoTexto& c : CAMPOS) {
+    forms::TextBox& campo = txtColaborador.add(c.indice, c.etiqueta);
+    campo.setMaxLength(c.maximo);
+    campo.setLines(c.lineas);
+    textos_.push_back({&campo, c.miembro});
+  }
+  for (const Texto cifras : {CPostal, Telefono, Telefono2, AñoNacimiento})
+    soloDigitos(contexto_, txtColaborador[cifras]);
+  txtColaborador[CPostal].setWidthChars(ANCHO_CPOSTAL + 1);
+  txtColaborador[AñoNacimiento].setWidthChars(ANCHO_AÑO + 2);
+  enMinusculas(txtColaborador[CorreoElectronico]);
+  cumpleaños_.emplace(txtColaborador[Cumpleaños]);
+  coincidencias_.emplace(contexto_, txtColaborador[Nombre], txtColaborador[PrimerApellido],
+                         txtColaborador[SegundoApellido], FDAPI::cCOrigen::COLABORADOR);
+}
+
+void frmColaborador::crearLugar(Lugar lugar, Lista provincia) {
+  forms::ComboBox& provincias = cboColaborador.add(provincia, "PROVINCIA:");
+  forms::ComboBox& poblaciones = cboColaborador.add(provincia + 1, "POBLACION:");
+  lugares_.emplace_back(contexto_, provincias, poblaciones);
+  cmdAgregarProvincia.add(lugar, "Agregar Provincia").onClick = [this] {
+    procedimiento("cmdAgregarProvincia_Click", [this] { agregarProvincia(); });
+  };
+  cmdAgregarMunicipio.add(lugar, "Agregar Municipio").onClick = [this] {
+    procedimiento("cmdAgregarMunicipio_Click", [this] { agregarMunicipio(); });
+  };
+}
+
+void frmColaborador::crearBotones() {
+  cmdColaborador.add(ACEPTAR, "ACEPTAR").setDefault(true);
+  cmdColaborador.add(CANCELAR, "CANCELAR").setCancel(true);
+  cmdColaborador.add(IMPORTAR, "IMPORTAR")
+      .setToolTip("Busca a la persona entre las que ya están en el padrón");
+  cmdActividad.add(AGREGAR, "AGREGAR");
+  cmdActividad.add(MODIFICAR, "MODIFICAR");
+  cmdActividad.add(QUITAR, "QUITAR");
+}
+
+LayoutNode frmColaborador::paginaDatos() {
+  const auto texto = [this](Texto indice, int ancho = 1) {
+    return item(txtColaborador[indice], ancho);
+  };
+  return page({fields(
+      2, {texto(Nombre, 2), texto(PrimerApellido), texto(SegundoApellido), texto(Direccion, 2),
+          item(cboColaborador[ProvinciaDomicilio], {&cmdAgregarProvincia[DOMICILIO]}),
+          item(cboColaborador[ProvinciaDomicilio + 1], {&cmdAgregarMunicipio[DOMICILIO]}),
+          texto(CPostal, 2), texto(Telefono), texto(Telefono2), texto(CorreoElectronico),
+          texto(ProfesionColegio), texto(Comentarios, 2)})});
+}
+
+LayoutNode frmColaborador::disposicion() {
+  const auto texto = [this](Texto indice) { return item(txtColaborador[indice]); };
+  return forms::column(
+      {forms::tabs(
+           mstColaborador,
+           {paginaDatos(),
+            page({fields(1, {texto(Cumpleaños), texto(AñoNacimiento), texto(NombrePadre),
+                             texto(NombreMadre)})}),
+            page({fields(
+                1,
+                {item(adtpFechaBautizo), texto(ParroquiaBaut), texto(DireccionParrBaut),
+                 item(cboColaborador[ProvinciaBautismo], {&cmdAgregarProvincia[BAUTISMO]}),
+                 item(cboColaborador[ProvinciaBautismo + 1], {&cmdAgregarMunicipio[BAUTISMO]})})}),
+            page({texto(Observaciones)}),
+            page({item(msgActividades),
+                  forms::buttons({&cmdActividad[AGREGAR], &cmdActividad[MODIFICAR],
+                                  &cmdActividad[QUITAR]})})}),
+       forms::buttons(
+           {&cmdColaborador[IMPORTAR], &cmdColaborador[ACEPTAR], &cmdColaborador[CANCELAR]})});
+}
+
+bool frmColaborador::procedimiento(const char* nombre, const std::function<void()>& cuerpo) const {
+  return guarded(contexto_, "frmColaborador", nombre, cuerpo);
+}
+
+void frmColaborador::Form_Load() {
+  // Half-loaded fields must never be accepted over what is stored.
+  if (!procedimiento("Form_Load", [this] { cargar(); })) Unload();
+}
+
+void frmColaborador::Form_Unload() {
+  procedimiento("Form_Unload", [this] {
+    bloqueos_.reset();
+    guardarAnchos();
+  });
+}
+
+void frmColaborador::cargar() {
+  const forms::Hourglass reloj(ui());
+  ConfigGridActividadColaborador();
+  for (const auto& [indice, boton] : cmdActividad.all()) boton->setVisible(!blnOcultar);
+  for (ParProvinciaPoblacion& lugar : lugares_) lugar.abrir(*conBaseDatos);
+  LimpiarDatosColaborador();
+  if (Operacion == cCOperacion::EDITAR) {
+    cargarPersona();
+    if (!LlenaColeccionActividad() || !CargaGridActividadColaborador()) return Unload();
+  } else {
+    setCaption("Agregar colaborador");
+  }
+  coincidencias_->olvidarCambio();
+}
+
+void frmColaborador::LimpiarDatosColaborador() {
+  persona_ = {};
+  actividades_.clear();
+  mostrarPersona();
+}
+
+void frmColaborador::cargarPersona() {
+  persona_.IDPadron = persona_.CodPadron = IDPadron;
+  if (!leerTabla(ALTA_COLABORADOR, "IDPadron"))
+    throw std::runtime_error("La persona ya no está en el padrón.");
+  // A person may lack the row of a satellite; it is added when the card is accepted.
+  leerTabla(ALTA_COLABORADOR_NACIMIENTO, "CodPadron");
+  leerTabla(ALTA_COLABORADOR_BAUTISMO, "CodPadron");
+  mostrarPersona();
+  setCaption("Propiedades del colaborador " + persona_.Nombre + " " + persona_.PrimerApellido +
+             " " + persona_.SegundoApellido);
+}
+
+bool frmColaborador::leerTabla(const Tabla<Persona>& tabla, const char* clave) {
+  const store::Recordset fila =
+      conBaseDatos->Execute(std::string("SELECT * FROM ") + tabla.nombre + " WHERE " + clave + "=" +
+                            std::to_string(IDPadron));
+  if (fila.EOF_()) return false;
+  copiarFila(tabla, fila, persona_, true);
+  return true;
+}
+
+void frmColaborador::mostrarPersona() {
+  for (const Enlace& e : textos_) e.campo->setText(persona_.*e.miembro);
+  cumpleaños_->poner(persona_.Cumpleaños);
+  adtpFechaBautizo.setStored(persona_.FechaBautizo);
+  lugares_[DOMICILIO].poner(persona_.CodMunicipio);
+  lugares_[BAUTISMO].poner(persona_.CodMunicipioParrBaut);
+}
+
+void frmColaborador::soloLectura() {
+  ponerSoloLectura(*this, cmdColaborador[CANCELAR]);
+}
+
+}  // namespace fidaleon
