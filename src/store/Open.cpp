@@ -5,6 +5,8 @@
 
 #include <map>
 
+#include "store/Draft.h"
+#include "store/RowCounts.h"
 #include "store/schema/Installer.h"
 #include "store/sqlite/NetworkDisk.h"
 #include "store/sqlite/SqliteEngine.h"
@@ -14,35 +16,6 @@ namespace fidaleon::store {
 namespace fs = std::filesystem;
 
 namespace {
-
-/// A file that is removed unless it becomes the one wanted.
-class Draft {
- public:
-  Draft(const fs::path& file, const char* ending) : file_(file), draft_(file) {
-    draft_ += ending;
-    std::error_code ignored;
-    fs::remove(draft_, ignored);
-  }
-  ~Draft() {
-    std::error_code ignored;
-    fs::remove(draft_, ignored);
-  }
-  Draft(const Draft&) = delete;
-  Draft& operator=(const Draft&) = delete;
-
-  const fs::path& path() const { return draft_; }
-  void accept() {
-    std::error_code failed;
-    fs::rename(draft_, file_, failed);
-    if (failed) {
-      throw Error(ErrorKind::Connection, "No se puede crear el archivo «" + file_.string() + "».");
-    }
-  }
-
- private:
-  fs::path file_;
-  fs::path draft_;
-};
 
 void requireFile(const fs::path& file) {
   std::error_code failed;
@@ -71,6 +44,27 @@ void requireFree(const fs::path& file) {
     throw Error(ErrorKind::Constraint, "Ya existe el archivo «" + file.string() + "».");
   }
 }
+
+/// What others write meanwhile is not seen, so that all reading shows the same state.
+class Snapshot {
+ public:
+  explicit Snapshot(Engine& engine) : engine_(engine), own_(!engine.inTransaction()) {
+    if (own_) engine_.run("BEGIN");
+  }
+  ~Snapshot() {
+    try {
+      if (own_ && engine_.inTransaction()) engine_.rollback(0);
+    } catch (const Error&) {
+      // Nothing was written; the engine ends it with its next error or with the connection.
+    }
+  }
+  Snapshot(const Snapshot&) = delete;
+  Snapshot& operator=(const Snapshot&) = delete;
+
+ private:
+  Engine& engine_;
+  bool own_;
+};
 
 std::unique_ptr<SqliteEngine> freshMemory(const Schema& schema) {
   auto engine = std::make_unique<SqliteEngine>();
@@ -121,11 +115,19 @@ std::unique_ptr<Connection> memoryDatabase(const Schema& schema, const std::stri
 
 void backupDatabase(Connection& from, const fs::path& to) {
   Draft draft(to, ".parte");
-  from.engine().backup(draft.path());
+  Engine& engine = from.engine();
+  std::vector<std::int64_t> counts;
+  {
+    const Snapshot snapshot(engine);
+    counts = rowCounts(engine, from.schema());
+    engine.backup(draft.path());
+  }
   {
     SqliteEngine copy(draft.path(), SqliteEngine::Access::Existing);
     Installer(copy, from.schema()).version();
     copy.requireSound();
+    if (rowCounts(copy, from.schema()) != counts)
+      throw Error(ErrorKind::NotADatabase, "La copia no tiene lo mismo que el original.");
   }
   draft.accept();
 }

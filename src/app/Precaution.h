@@ -1,0 +1,29 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "app/SafetyCopies.h"
+#include "store/ChangeWatch.h"
+
+namespace fidaleon::app {
+
+/// A copy of the parish made before a command that takes something away. At the end it is removed
+/// again when the command has changed nothing; otherwise it stays, and older ones may go.
+class Precaution {
+ public:
+  /// Throws store::Error when there can be no copy.
+  Precaution(const SafetyCopies& copies, store::Connection& parish, const std::string& before,
+             const Moment& now);
+  ~Precaution();
+  Precaution(const Precaution&) = delete;
+  Precaution& operator=(const Precaution&) = delete;
+
+ private:
+  const SafetyCopies& copies_;
+  text::Date today_;
+  std::filesystem::path file_;
+  std::optional<store::ChangeWatch> watch_;
+};
+
+}  // namespace fidaleon::app

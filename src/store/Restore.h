@@ -1,0 +1,34 @@
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <vector>
+
+#include "store/Draft.h"
+#include "store/schema/Schema.h"
+
+namespace fidaleon::store {
+
+/// A saved copy of a database made ready to be returned to: read into a passing file beside the
+/// database, brought up to the version of the schema, and checked. The copy itself is only read.
+class Restore {
+ public:
+  /// Throws Missing, NotADatabase when the copy is damaged or of another kind, NewerSchema, Busy
+  /// when it is no copy but a database that a program has open, DiskFull; nothing has changed then.
+  Restore(const std::filesystem::path& copy, const std::filesystem::path& database,
+          const Schema& schema);
+
+  /// Replaces all that the database holds, in one transaction of its file: whoever is killed, at
+  /// whatever moment, leaves either the old content or the new one, and open connections see the
+  /// new one from their next statement on. Throws Busy while somebody writes or, on a network
+  /// disk, reads; DiskFull; nothing has changed then. What was stored is read back and checked.
+  void run();
+
+ private:
+  std::filesystem::path database_;
+  const Schema& schema_;
+  Draft draft_;
+  std::vector<std::int64_t> counts_;
+};
+
+}  // namespace fidaleon::store
