@@ -77,9 +77,7 @@ void frmPadronBusqueda::mostrarBuscado() {
 }
 
 void frmPadronBusqueda::ConfigGridBusqueda() {
-  procedimiento("ConfigGridBusqueda", [this] {
-    cIListas(contexto_).ConfigGrid(msgBusquedaPadron, REJILLA, "ConfigGridBusqueda");
-  });
+  cIListas(contexto_).ConfigGrid(msgBusquedaPadron, REJILLA, "ConfigGridBusqueda");
 }
 
 void frmPadronBusqueda::CargaGridBusqueda() {

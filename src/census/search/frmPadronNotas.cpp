@@ -33,6 +33,10 @@ frmPadronNotas::frmPadronNotas(Contexto& contexto)
 }
 
 void frmPadronNotas::Form_Load() {
+  if (!guarded(contexto_, "frmPadronNotas", "Form_Load", [this] { cargar(); })) Unload();
+}
+
+void frmPadronNotas::cargar() {
   setCaption("Agregar nota personal");
   if (Operacion != cCOperacion::EDITAR) return;
   const cPadronNotas& nota = colNotas->at(posicion);

@@ -34,6 +34,7 @@ class frmPadronNotas : public forms::Form {
   void Form_Load() override;
 
  private:
+  void cargar();
   void cmdPadronNota_Click();
   void aceptar();
   bool tituloEnUso() const;
