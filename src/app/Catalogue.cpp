@@ -1,51 +1,44 @@
 #include "app/Catalogue.h"
 
-#include "support/Catalogos.h"
-#include "support/frmInstitucion.h"
-#include "support/frmMunicipio.h"
-#include "support/frmProvincia.h"
+#include "support/Mantenimiento.h"
 
 namespace fidaleon::app {
 namespace {
 
-template <class Dialog>
-void open(Workplace& w, std::int32_t id) {
-  Entorno& e = w.entorno();
-  Dialog dialog(e.ui, e.settings, e.clock, w.parish(), w.config(), id);
-  dialog.Show();
+support::Catalogo catalogueOf(NodeKind kind) {
+  switch (kind) {
+    case NodeKind::Institutions:
+      return support::Catalogo::Institucion;
+    case NodeKind::Provinces:
+      return support::Catalogo::Provincia;
+    case NodeKind::Towns:
+      return support::Catalogo::Municipio;
+    default:
+      return support::Catalogo::Tarea;
+  }
+}
+
+template <class Work>
+void maintain(Workplace& w, Work&& work) {
+  Contexto context(w.entorno());
+  context.gobjConfig = &w.config();
+  support::Mantenimiento maintenance(context, w.parish());
+  work(maintenance);
 }
 
 }  // namespace
 
 void openCatalogueRow(Workplace& w, NodeKind kind, std::int32_t id) {
-  switch (kind) {
-    case NodeKind::Institutions:
-      return open<support::frmInstitucion>(w, id);
-    case NodeKind::Provinces:
-      return open<support::frmProvincia>(w, id);
-    case NodeKind::Towns:
-      return open<support::frmMunicipio>(w, id);
-    default:
-      return;
-  }
+  maintain(w, [&](support::Mantenimiento& m) {
+    if (id == 0)
+      m.agregar(catalogueOf(kind));
+    else
+      m.propiedades(catalogueOf(kind), id);
+  });
 }
 
 void deleteCatalogueRow(Workplace& w, NodeKind kind, std::int32_t id) {
-  Entorno& e = w.entorno();
-  const auto services = e.support.create_cFidaleon();
-  switch (kind) {
-    case NodeKind::Institutions:
-      support::eliminarInstitucion(*services, e.ui, w.parish(), id);
-      return;
-    case NodeKind::Provinces:
-      support::eliminarProvincia(*services, e.ui, w.parish(), id);
-      return;
-    case NodeKind::Towns:
-      support::eliminarMunicipio(*services, e.ui, w.parish(), id);
-      return;
-    default:
-      return;
-  }
+  maintain(w, [&](support::Mantenimiento& m) { m.eliminar(catalogueOf(kind), id); });
 }
 
 }  // namespace fidaleon::app

@@ -1,6 +1,8 @@
 #include "app/Command.h"
 
 #include "app/Catalogue.h"
+#include "app/CensusCommands.h"
+#include "app/CommandParts.h"
 #include "app/Documents.h"
 
 namespace fidaleon::app {
@@ -13,7 +15,8 @@ constexpr unsigned INSTITUTIONS = bit(NodeKind::Institutions);
 constexpr unsigned PROVINCES = bit(NodeKind::Provinces);
 constexpr unsigned TOWNS = bit(NodeKind::Towns);
 constexpr unsigned REPORTS = bit(NodeKind::Reports);
-constexpr unsigned CATALOGUES = INSTITUTIONS | PROVINCES | TOWNS;
+constexpr unsigned TASKS = bit(NodeKind::Tasks);
+constexpr unsigned CATALOGUES = INSTITUTIONS | PROVINCES | TOWNS | TASKS;
 
 const std::string& nodeName(const Choice& c) {
   return c.node->node.Nombre;
@@ -96,47 +99,6 @@ void document(Workplace& w, const Choice& c) {
     w.showDocument(*d, c.id);
 }
 
-Command line(const char* id, const char* text, const char* shortcut, const char* tip,
-             unsigned kinds, Needs needs, void (*run)(Workplace&, const Choice&)) {
-  Command c;
-  c.id = id;
-  c.text = text;
-  c.shortcut = shortcut;
-  c.tip = tip;
-  c.kinds = kinds;
-  c.needs = needs;
-  c.run = run;
-  return c;
-}
-
-Command inMenu(Menu menu, Command c) {
-  c.menu = menu;
-  return c;
-}
-Command inToolbar(const char* icon, Command c) {
-  c.icon = icon;
-  c.toolbar = true;
-  return c;
-}
-Command opening(Command c) {
-  c.opens = true;
-  return c;
-}
-Command ofBaptism(Command c) {
-  c.onlyBaptism = true;
-  return c;
-}
-
-Command destructive(Command c) {
-  c.destructive = true;
-  return c;
-}
-
-Command still(Command c) {
-  c.refreshes = false;
-  return c;
-}
-
 void addEntryCommands(std::vector<Command>& all) {
   all.push_back(inToolbar("new", line("nueva-partida", "&Nueva partida…", "Ins",
                                       "Inscribe una partida en el libro nuevo abierto", ENTRIES,
@@ -204,6 +166,9 @@ void addCatalogueCommands(std::vector<Command>& all) {
   all.push_back(
       inToolbar("new", line("nuevo-municipio", "&Nuevo municipio…", "Ins",
                             "Da de alta un municipio", TOWNS, Needs::Nothing, newCatalogueRow)));
+  all.push_back(inToolbar("new", line("nueva-tarea", "&Nueva tarea…", "Ins",
+                                      "Apunta una tarea en la agenda de la parroquia", TASKS,
+                                      Needs::Nothing, newCatalogueRow)));
   all.push_back(opening(
       inToolbar("edit", line("propiedades", "&Propiedades…", "Return", "Abre la ficha elegida",
                              CATALOGUES, Needs::Row, editCatalogueRow))));
@@ -259,8 +224,10 @@ std::vector<Command> makeCommands() {
   addEntryCommands(all);
   addRequestCommands(all);
   addBookCommands(all);
+  addCensusCommands(all);
   addCatalogueCommands(all);
   addDocumentCommands(all);
+  addListReportCommands(all);
   addWindowCommands(all);
   return all;
 }

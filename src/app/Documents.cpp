@@ -6,7 +6,9 @@
 #include "app/Annulled.h"
 #include "app/BookHeader.h"
 #include "app/Desk.h"
+#include "app/ReportProgress.h"
 #include "app/Templates.h"
+#include "core/contract/CcNodos.h"
 #include "core/contract/Sacramento.h"
 #include "paper/DocumentCatalogue.h"
 #include "paper/ScratchTables.h"
@@ -144,6 +146,45 @@ std::optional<paper::Report> makeDuplicate(Desk& desk, const std::string& node,
   if (options.order.empty()) return {};
   markAnnulled(options, Annulled(desk.parish()));
   return layOut(desk.reports(), paper, std::move(options));
+}
+
+const std::vector<ListReport>& listReports() {
+  const auto node = [](const char* title) { return CcNodos::INFORMES + std::string(title); };
+  static const std::vector<ListReport> all{
+      {node(CcNodos::INFACTIVIDADES), "InformeActividad", &cNucleo::SelInfActividad,
+       &cNucleo::InformeActividad},
+      {node(CcNodos::INFCOLABORADORES), "InformeColaborador", &cNucleo::SelInfColaborador,
+       &cNucleo::InformeColaborador},
+      {node(CcNodos::INFCOLABORADORESEXTENDIDO), "InformeColaboradorExt",
+       &cNucleo::SelInfColaboradorExt, &cNucleo::InformeColaboradorExt},
+      {node(CcNodos::INFAGENDA), "InformeAgenda", &cNucleo::SelInfTareasAgenda,
+       &cNucleo::InformeAgenda},
+  };
+  return all;
+}
+
+const ListReport* findListReport(const std::string& node) {
+  for (const ListReport& r : listReports())
+    if (r.node == node) return &r;
+  return nullptr;
+}
+
+std::optional<paper::Report> makeListReport(Desk& desk, const ListReport& report, Extent extent,
+                                            paper::ReportOptions options) {
+  const paper::Document& paper = paperOf(report.operation);
+  startAfresh(desk.reports());
+  bool told = true;
+  if (extent == Extent::Chosen) {
+    (desk.nucleo().*report.chosen)(desk.parish(), desk.reports());
+  } else {
+    ReportProgress progress(desk.entorno().ui);
+    (desk.nucleo().*report.entire)(desk.parish(), desk.reports(), progress);
+    told = progress.began();
+  }
+  takeBackUnfinished(desk.reports());
+  std::optional<paper::Report> made = layOut(desk.reports(), paper, std::move(options));
+  if (!made && !told) forms::warn(desk.entorno().ui, "¡No se ha encontrado ningún registro!");
+  return made;
 }
 
 }  // namespace fidaleon::app

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "app/NodeView.h"
+#include "app/Workplace.h"
 #include "core/facade/cNucleo.h"
 #include "paper/Report.h"
 
@@ -47,5 +48,24 @@ std::optional<paper::Report> makeReport(Desk& desk, const Document& document, st
 /// its dialog. Nothing when the user cancelled or the year has no entries.
 std::optional<paper::Report> makeDuplicate(Desk& desk, const std::string& node,
                                            paper::ReportOptions options = {});
+
+/// A report on the people or tasks of the parish. It stands under a node of its own.
+struct ListReport {
+  std::string node;
+  std::string operation;  // name in the catalogue of templates
+  void (cNucleo::*chosen)(FDAPI::Conexion& parish, FDAPI::Conexion& reports) = nullptr;
+  void (cNucleo::*entire)(FDAPI::Conexion& parish, FDAPI::Conexion& reports,
+                          FDAPI::cProgreso& progress) = nullptr;
+};
+
+const std::vector<ListReport>& listReports();
+/// Null when there is none of that node.
+const ListReport* findListReport(const std::string& node);
+
+/// Empties the scratch tables, runs the operation and lays out what it wrote. Nothing when the user
+/// gave up, or when there is nothing to print, which the user has then been told. Throws as
+/// makeReport does.
+std::optional<paper::Report> makeListReport(Desk& desk, const ListReport& report, Extent extent,
+                                            paper::ReportOptions options = {});
 
 }  // namespace fidaleon::app

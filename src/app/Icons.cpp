@@ -16,7 +16,7 @@ struct Drawing {
   const char* strokes;
 };
 
-constexpr std::array<Drawing, 21> DRAWINGS{{
+constexpr std::array<Drawing, 26> DRAWINGS{{
     {"new",
      "M 13 3 L 6 3 L 6 21 L 18 21 L 18 8 Z M 13 3 L 13 8 L 18 8 M 12 11 L 12 17 M 9 14 L "
      "15 14"},
@@ -53,6 +53,21 @@ constexpr std::array<Drawing, 21> DRAWINGS{{
     {"town",
      "M 4 21 L 4 10 L 9 6 L 14 10 L 14 21 M 14 21 L 14 13 L 20 13 L 20 21 M 2 21 L 22 21 "
      "M 8 13 L 10 13 M 8 17 L 10 17"},
+    {"person", "O 12 7 4 M 5 21 L 5 18 L 8 14.500 L 16 14.500 L 19 18 L 19 21 Z"},
+    {"people",
+     "O 8.500 8 3.500 M 2.500 20 L 2.500 17 L 5 14.500 L 12 14.500 L 14.500 17 L 14.500 20 Z M 14 "
+     "5 L 16 4.500 L 18.500 6 L 18.500 9.500 L 16 11.500 M 17 14.500 L 19.500 14.500 L 21.500 17 L "
+     "21.500 20 L 18 20"},
+    {"activity",
+     "O 12 12 3 M 12 9 L 12 4 M 14.600 13.500 L 19 16 M 9.400 13.500 L 5 16 O 12 3 1.500 O 20 "
+     "16.800 "
+     "1.500 O 4 16.800 1.500"},
+    {"office",
+     "O 12 9 6 M 8.500 14 L 7 21 L 12 18.500 L 17 21 L 15.500 14 M 9.500 9 L 11.500 11 L 15 7"},
+    {"calendar",
+     "M 4 6 L 20 6 L 20 20 L 4 20 Z M 4 10 L 20 10 M 8 3.500 L 8 7.500 M 16 3.500 L 16 7.500 M 8 "
+     "14 "
+     "L 10 14 M 14 14 L 16 14 M 8 17 L 10 17"},
 }};
 
 QPainterPath pathOf(const char* strokes) {

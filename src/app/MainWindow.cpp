@@ -18,6 +18,7 @@
 #include <QToolButton>
 #include <QTreeView>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "app/Documents.h"
 #include "app/PreviewDialog.h"
@@ -29,8 +30,16 @@
 namespace fidaleon::app {
 namespace {
 
-bool hasRows(const NodeView& node) {
-  return node.kind != NodeKind::Folder && node.kind != NodeKind::Reports;
+const char* hintOf(NodeKind kind) {
+  switch (kind) {
+    case NodeKind::Reports:
+      return "Pulse Intro en el árbol, o Ctrl+P, para imprimir.";
+    case NodeKind::ListReports:
+      return "Pulse Intro en el árbol, o Ctrl+P, para elegir qué se imprime.\n"
+             "Con Ctrl+Mayús+P se imprime todo.";
+    default:
+      return "Elija un apartado del árbol.";
+  }
 }
 
 }  // namespace
@@ -70,10 +79,8 @@ void MainWindow::nodeChosen() {
   node_ = chosen;
   filter_->clear();
   setScope(0, {});
-  right_->setCurrentIndex(hasRows(*node_) ? 1 : 0);
-  folder_->setText(node_->kind == NodeKind::Reports
-                       ? tr("Pulse Intro en el árbol, o Ctrl+P, para imprimir.")
-                       : tr("Elija un apartado del árbol."));
+  right_->setCurrentIndex(hasRows(node_->kind) ? 1 : 0);
+  folder_->setText(tr(hintOf(node_->kind)));
   loadRows();
   applyColumns();
   selectFirst();
@@ -140,27 +147,25 @@ void MainWindow::loadRows() {
 
 // A row that came to be is chosen; otherwise the one that was, or the one that took its place.
 void MainWindow::refresh(std::int32_t keep) {
-  std::int32_t newest = 0;
-  for (int row = 0; row < rows_.rowCount(); ++row) newest = std::max(newest, rows_.key(row));
+  std::vector<std::int32_t> before = rows_.keys();
+  std::sort(before.begin(), before.end());
   const int place = table_->currentIndex().row();
-  const bool hadRows = rows_.rowCount() > 0;
   loadRows();
   std::int32_t added = 0;
-  for (int row = 0; row < rows_.rowCount(); ++row) added = std::max(added, rows_.key(row));
-  const bool chosen = (added > newest && hadRows && chooseRow(added)) || chooseRow(keep);
+  for (const std::int32_t key : rows_.keys())
+    if (!std::binary_search(before.begin(), before.end(), key)) added = std::max(added, key);
+  const bool chosen = (!before.empty() && added != 0 && chooseRow(added)) || chooseRow(keep);
   if (!chosen && shown_.rowCount() > 0)
     table_->selectRow(std::clamp(place, 0, shown_.rowCount() - 1));
   updateCommands();
 }
 
 bool MainWindow::chooseRow(std::int32_t key) {
-  for (int row = 0; row < shown_.rowCount(); ++row) {
-    if (shown_.index(row, 0).data(RowsModel::KeyRole).toInt() != key) continue;
-    table_->selectRow(row);
-    table_->scrollTo(shown_.index(row, 0));
-    return true;
-  }
-  return false;
+  const QModelIndex index = shown_.mapFromSource(rows_.index(rows_.rowOf(key), 0));
+  if (!index.isValid()) return false;
+  table_->selectRow(index.row());
+  table_->scrollTo(index);
+  return true;
 }
 
 void MainWindow::updateCommands() {
@@ -178,7 +183,7 @@ void MainWindow::updateCommands() {
 }
 
 void MainWindow::updateCount() {
-  if (!node_ || !hasRows(*node_)) return count_->clear();
+  if (!node_ || !hasRows(node_->kind)) return count_->clear();
   const int shown = shown_.rowCount();
   const int all = rows_.rowCount();
   const QString things = QString::fromStdString(node_->things);
@@ -227,6 +232,12 @@ void MainWindow::showDocument(const Document& document, std::int32_t id) {
 void MainWindow::showDuplicate(const std::string& node) {
   preview(
       [&](paper::ReportOptions options) { return makeDuplicate(desk_, node, std::move(options)); });
+}
+
+void MainWindow::showListReport(const ListReport& report, Extent extent) {
+  preview([&](paper::ReportOptions options) {
+    return makeListReport(desk_, report, extent, std::move(options));
+  });
 }
 
 void MainWindow::preview(const Maker& make) {

@@ -57,6 +57,7 @@ class MainWindow : public QMainWindow, private Workplace {
   const FDAPI::cConfig& config() const override { return desk_.config(); }
   void showDocument(const Document& document, std::int32_t id) override;
   void showDuplicate(const std::string& node) override;
+  void showListReport(const ListReport& report, Extent extent) override;
   void focusFilter() override;
   void backUp() override;
   void about() override;

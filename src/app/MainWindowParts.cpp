@@ -48,7 +48,7 @@ void MainWindow::buildTree() {
   connect(tree_->selectionModel(), &QItemSelectionModel::currentChanged, this,
           [this] { nodeChosen(); });
   connect(tree_, &QTreeView::activated, this, [this] {
-    if (node_ && node_->kind == NodeKind::Reports) openChosen();
+    if (node_ && isReport(node_->kind)) openChosen();
   });
 }
 

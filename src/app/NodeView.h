@@ -18,15 +18,30 @@ enum class NodeKind : unsigned {
   Provinces = 32,
   Towns = 64,
   Reports = 128,  // has no rows: the node itself is what is run
+  People = 256,
+  Collaborators = 512,
+  Activities = 1024,
+  Offices = 2048,
+  Tasks = 4096,
+  ListReports = 8192,  // on the people and tasks of the parish; no rows either
 };
 
 constexpr unsigned bit(NodeKind kind) {
   return static_cast<unsigned>(kind);
 }
 
+/// The node itself is what is run.
+constexpr bool isReport(NodeKind kind) {
+  return kind == NodeKind::Reports || kind == NodeKind::ListReports;
+}
+
+constexpr bool hasRows(NodeKind kind) {
+  return kind != NodeKind::Folder && !isReport(kind);
+}
+
 /// How a column is shown and sorted: texts in Spanish order, numbers by value ("12a" as 12), dates
-/// by their stored form and shown as dd/mm/yyyy, flags as a word or nothing.
-enum class ColumnKind { Text, Number, Date, Flag };
+/// by their stored form and shown as dd/mm/yyyy, times "HHmm" as HH:mm, flags as a word or nothing.
+enum class ColumnKind { Text, Number, Date, Time, Flag };
 
 struct ColumnView {
   std::string field;  // of the node's statement
@@ -49,7 +64,7 @@ struct NodeView {
 };
 
 /// The nodes that work, parents before their children. `Nombre` of a node is the name that the
-/// operations take ("PartidasBautismo").
+/// operations take ("PartidasBautismo"); no two have the same, though two may read alike.
 const std::vector<NodeView>& nodeViews();
 /// Null when there is none of that name.
 const NodeView* findNode(std::string_view name);

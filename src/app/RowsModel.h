@@ -33,8 +33,13 @@ class RowsModel : public QAbstractTableModel {
   /// What the rows of one book have in common; 0 where rows belong to none.
   std::int32_t group(int row) const { return rows_[static_cast<std::size_t>(row)].group; }
   bool annulled(int row) const { return rows_[static_cast<std::size_t>(row)].annulled; }
-  /// As the table holds it: what sorting goes by.
+  std::vector<std::int32_t> keys() const;
+  /// The row of that key, or -1.
+  int rowOf(std::int32_t key) const;
+  /// As the table holds it.
   const std::string& stored(int row, int column) const;
+  /// Where the row comes when that column is sorted; rows that are equal there have the same.
+  int place(int row, int column) const;
   /// What the row shows, folded for the filter.
   const std::string& searchKey(int row) const;
 
@@ -43,14 +48,23 @@ class RowsModel : public QAbstractTableModel {
     std::int32_t key = 0;
     std::int32_t group = 0;
     bool annulled = false;
-    std::vector<std::string> stored;
-    mutable std::string search;
   };
+  struct Content {
+    std::vector<Row> rows;
+    std::vector<std::string> cells;  // of all rows, one after the other
+  };
+  static Content read(store::Connection& connection, const NodeView& view);
   QVariant appearance(const Row& row, int column, int role) const;
-  std::string shown(const Row& row, int column) const;
+  std::string shown(int row, int column) const;
+  std::vector<int> places(int column) const;
+  void makeSearchKeys() const;
 
   const NodeView* view_ = nullptr;
   std::vector<Row> rows_;
+  std::vector<std::string> cells_;
+  // Made when they are first asked for, for all rows at once.
+  mutable std::vector<std::string> search_;
+  mutable std::vector<std::vector<int>> places_;  // by column
 };
 
 }  // namespace fidaleon::app

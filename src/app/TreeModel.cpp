@@ -26,7 +26,18 @@ const char* iconOf(NodeKind kind) {
     case NodeKind::Towns:
       return "town";
     case NodeKind::Reports:
+    case NodeKind::ListReports:
       return "print";
+    case NodeKind::People:
+      return "person";
+    case NodeKind::Collaborators:
+      return "people";
+    case NodeKind::Activities:
+      return "activity";
+    case NodeKind::Offices:
+      return "office";
+    case NodeKind::Tasks:
+      return "calendar";
   }
   return "";
 }

@@ -9,6 +9,10 @@
 namespace fidaleon::app {
 
 struct Document;
+struct ListReport;
+
+/// How much of a report on the people or tasks of the parish: what the user chooses, or all.
+enum class Extent { Chosen, Entire };
 
 /// What a command works with: the open parish, and the window around it. The window refreshes its
 /// list after every command.
@@ -27,6 +31,9 @@ class Workplace {
   /// Asks for the year and shows the duplicate of that node; nothing is shown when the user gave up
   /// or the year has no entries.
   virtual void showDuplicate(const std::string& node) = 0;
+  /// Asks what to print, where that is to be chosen, writes the report and shows it. An entire
+  /// report without rows is told to the user.
+  virtual void showListReport(const ListReport& report, Extent extent) = 0;
   virtual void focusFilter() = 0;
   /// Chooses the node of that name.
   virtual void showNode(const std::string& name) = 0;

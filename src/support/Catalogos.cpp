@@ -114,4 +114,15 @@ bool eliminarMunicipio(FDAPI::cFidaleon& fidaleon, forms::UserInterface& ui,
   return eliminar(fidaleon, ui, conexion, id, what);
 }
 
+bool eliminarTarea(FDAPI::cFidaleon& fidaleon, forms::UserInterface& ui, FDAPI::Conexion& conexion,
+                   std::int32_t id) {
+  const Catalogue what{"Tareas",
+                       "IDTarea",
+                       "eliminarTarea",
+                       "",
+                       "¿Seguro que quiere eliminar la tarea?",
+                       [](const std::string&, const std::string&) { return false; }};
+  return eliminar(fidaleon, ui, conexion, id, what);
+}
+
 }  // namespace fidaleon::support

@@ -15,5 +15,8 @@ bool eliminarProvincia(FDAPI::cFidaleon& fidaleon, forms::UserInterface& ui,
                        FDAPI::Conexion& conexion, std::int32_t id);
 bool eliminarMunicipio(FDAPI::cFidaleon& fidaleon, forms::UserInterface& ui,
                        FDAPI::Conexion& conexion, std::int32_t id);
+/// A task of the agenda; nothing refers to it.
+bool eliminarTarea(FDAPI::cFidaleon& fidaleon, forms::UserInterface& ui, FDAPI::Conexion& conexion,
+                   std::int32_t id);
 
 }  // namespace fidaleon::support

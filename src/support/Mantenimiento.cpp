@@ -1,25 +1,32 @@
 #include "support/Mantenimiento.h"
 
+#include <array>
+#include <vector>
+
 #include "core/contract/Guard.h"
 #include "support/Catalogos.h"
 #include "support/frmInstitucion.h"
 #include "support/frmMunicipio.h"
 #include "support/frmProvincia.h"
+#include "support/frmTarea.h"
 
 namespace fidaleon::support {
 
 namespace {
 
-const char* tableOf(Catalogo catalogo) {
-  switch (catalogo) {
-    case Catalogo::Institucion:
-      return "Institucion";
-    case Catalogo::Provincia:
-      return "Provincia";
-    default:
-      return "Municipio";
-  }
-}
+using Tablas = std::vector<const char*>;
+using Eliminar = bool (*)(FDAPI::cFidaleon&, forms::UserInterface&, FDAPI::Conexion&, std::int32_t);
+
+/// What is locked for a catalogue, and how it is worked on. The shared tables are those that its
+/// dialog reads or adds to. In the order of Catalogo.
+struct Descripcion {
+  const char* tabla;
+  const char* clave;
+  Tablas alAgregar;
+  Tablas alCorregir;
+  bool (*abrir)(Contexto&, FDAPI::Conexion&, std::int32_t);
+  Eliminar eliminar;
+};
 
 FDAPI::DefinicionBloqueo wholeTable(const char* table) {
   FDAPI::DefinicionBloqueo lock;
@@ -33,13 +40,13 @@ FDAPI::DefinicionBloqueo sharedTable(const char* table) {
   return lock;
 }
 
-FDAPI::DefinicionBloqueo row(const char* table, std::int32_t id, FDAPI::Conexion& connection) {
-  FDAPI::DefinicionBloqueo lock = wholeTable(table);
+FDAPI::DefinicionBloqueo row(const Descripcion& of, std::int32_t id, FDAPI::Conexion& connection) {
+  FDAPI::DefinicionBloqueo lock = wholeTable(of.tabla);
   lock.strRegistro = std::to_string(id);
   lock.conBd = &connection;
   lock.blnComprobarExisteRegistro = true;
   lock.strSQLExisteRegistro =
-      std::string("SELECT ID") + table + " FROM " + table + " WHERE ID" + table + "=";
+      std::string("SELECT ") + of.clave + " FROM " + of.tabla + " WHERE " + of.clave + "=";
   return lock;
 }
 
@@ -51,51 +58,55 @@ bool show(Contexto& contexto, FDAPI::Conexion& connection, std::int32_t id) {
   return dialog.aceptado();
 }
 
+const Descripcion& descripcionDe(Catalogo catalogo) {
+  static const Tablas places{"Provincia", "Municipio"};
+  static const Tablas all{"Institucion", "Provincia", "Municipio"};
+  static const std::array<Descripcion, 4> descriptions{{
+      {"Institucion", "IDInstitucion", all, places, show<frmInstitucion>, eliminarInstitucion},
+      {"Provincia", "IDProvincia", all, places, show<frmProvincia>, eliminarProvincia},
+      {"Municipio", "IDMunicipio", all, places, show<frmMunicipio>, eliminarMunicipio},
+      {"Tareas", "IDTarea", {"Tareas"}, {}, show<frmTarea>, eliminarTarea},
+  }};
+  return descriptions.at(static_cast<std::size_t>(catalogo));
+}
+
 }  // namespace
 
 Mantenimiento::Mantenimiento(Contexto& contexto, FDAPI::Conexion& conexion)
     : contexto_(contexto), conexion_(conexion) {}
 
-bool Mantenimiento::abrir(Catalogo catalogo, std::int32_t id) {
-  if (catalogo == Catalogo::Institucion) return show<frmInstitucion>(contexto_, conexion_, id);
-  if (catalogo == Catalogo::Provincia) return show<frmProvincia>(contexto_, conexion_, id);
-  return show<frmMunicipio>(contexto_, conexion_, id);
-}
-
 bool Mantenimiento::agregar(Catalogo catalogo) {
   bool changed = false;
+  const Descripcion& d = descripcionDe(catalogo);
   guarded(contexto_, "Mantenimiento", "agregar", [&] {
     const auto session = abrirSesion(contexto_, conexion_);
-    for (const char* table : {"Institucion", "Provincia", "Municipio"})
-      session->DefinirBloqueo(sharedTable(table));
-    changed = session->lngEfectuarBloqueos() == 0 && abrir(catalogo, 0);
+    for (const char* table : d.alAgregar) session->DefinirBloqueo(sharedTable(table));
+    changed = session->lngEfectuarBloqueos() == 0 && d.abrir(contexto_, conexion_, 0);
   });
   return changed;
 }
 
 bool Mantenimiento::propiedades(Catalogo catalogo, std::int32_t id) {
   bool changed = false;
+  const Descripcion& d = descripcionDe(catalogo);
   guarded(contexto_, "Mantenimiento", "propiedades", [&] {
     const auto session = abrirSesion(contexto_, conexion_);
-    for (const char* table : {"Provincia", "Municipio"})
-      session->DefinirBloqueo(sharedTable(table));
-    session->DefinirBloqueo(row(tableOf(catalogo), id, conexion_));
-    changed = session->lngEfectuarBloqueos() == 0 && abrir(catalogo, id);
+    for (const char* table : d.alCorregir) session->DefinirBloqueo(sharedTable(table));
+    session->DefinirBloqueo(row(d, id, conexion_));
+    changed = session->lngEfectuarBloqueos() == 0 && d.abrir(contexto_, conexion_, id);
   });
   return changed;
 }
 
 bool Mantenimiento::eliminar(Catalogo catalogo, std::int32_t id) {
   bool gone = false;
+  const Descripcion& d = descripcionDe(catalogo);
   guarded(contexto_, "Mantenimiento", "eliminar", [&] {
     const auto session = abrirSesion(contexto_, conexion_);
-    session->DefinirBloqueo(row(tableOf(catalogo), id, conexion_));
-    session->DefinirBloqueo(wholeTable(tableOf(catalogo)));
-    if (session->lngEfectuarBloqueos() != 0) return;
-    const auto remove = catalogo == Catalogo::Institucion ? eliminarInstitucion
-                        : catalogo == Catalogo::Provincia ? eliminarProvincia
-                                                          : eliminarMunicipio;
-    gone = remove(*contexto_.fidaleon(), contexto_.ui(), conexion_, id);
+    session->DefinirBloqueo(row(d, id, conexion_));
+    session->DefinirBloqueo(wholeTable(d.tabla));
+    gone = session->lngEfectuarBloqueos() == 0 &&
+           d.eliminar(*contexto_.fidaleon(), contexto_.ui(), conexion_, id);
   });
   return gone;
 }

@@ -6,7 +6,7 @@
 
 namespace fidaleon::support {
 
-enum class Catalogo { Institucion, Provincia, Municipio };
+enum class Catalogo { Institucion, Provincia, Municipio, Tarea };
 
 /// The main program's commands on its catalogues, each with its locks: adding shares the tables
 /// with the other workstations, correcting takes the row, deleting wants the table to itself. True
@@ -21,8 +21,6 @@ class Mantenimiento {
   bool eliminar(Catalogo catalogo, std::int32_t id);
 
  private:
-  bool abrir(Catalogo catalogo, std::int32_t id);
-
   Contexto& contexto_;
   FDAPI::Conexion& conexion_;
 };
