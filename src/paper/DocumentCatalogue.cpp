@@ -38,6 +38,14 @@ const std::vector<Document>& documentCatalogue() {
        QStringLiteral("Índice del libro de bautismos (Menorca)"), Edition::Menorca, false},
       {"ImprimirDuplicadasBautismo", "duplicado_bautismo", QStringLiteral("Duplicado de bautismos"),
        Edition::Base, false},
+      {"InformeActividad", "informe_actividades", QStringLiteral("Informe de actividades"),
+       Edition::Base, false},
+      {"InformeColaborador", "informe_colaboradores", QStringLiteral("Informe de colaboradores"),
+       Edition::Base, false},
+      {"InformeColaboradorExt", "informe_colaboradores_ext",
+       QStringLiteral("Informe de colaboradores (extendido)"), Edition::Base, false},
+      {"InformeAgenda", "informe_agenda", QStringLiteral("Informe de tareas"), Edition::Base,
+       false},
   };
   return documents;
 }

@@ -11,7 +11,8 @@ enum class Edition { Base, Menorca, Santiago };
 
 /// Which template shows what an operation of cNucleo wrote, and under which name.
 struct Document {
-  // ImprimirDuplicadas stands here once for each sacrament, whose name follows.
+  // ImprimirDuplicadas stands here once for each sacrament, whose name follows. What a SelInf...
+  // wrote has the document of the Informe... that it chooses from.
   std::string operation;
   std::string templateName;
   QString title;

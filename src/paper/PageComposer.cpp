@@ -34,11 +34,16 @@ std::size_t PageComposer::rowsBefore(const Start& start) const {
   return std::min(std::max(start.item, openings()) - openings(), rows_.size());
 }
 
-bool PageComposer::startsGroup(std::size_t row) const {
-  if (!t_.groupHead) return false;
-  if (row == 0) return true;
-  const auto value = [&](std::size_t r) { return source(r, 1).value(t_.groupHead->column); };
-  return value(row) != value(row - 1);
+std::size_t PageComposer::firstHead(std::size_t row) const {
+  const auto changes = [&](int column) {
+    const Source here{&rows_, &binding_, row, row - 1};
+    return here.value(column) != here.value(column, true);
+  };
+  const auto begins = [&](const GroupHead& head) {
+    return row == 0 || std::any_of(head.columns.begin(), head.columns.end(), changes);
+  };
+  const auto& heads = t_.groupHeads;
+  return static_cast<std::size_t>(std::find_if(heads.begin(), heads.end(), begins) - heads.begin());
 }
 
 Source PageComposer::source(std::size_t row, int page) const {
@@ -106,20 +111,31 @@ FragmentPtr PageComposer::bodyOf(std::size_t item) {
   return held_;
 }
 
+std::vector<FragmentPtr> PageComposer::headsOf(std::size_t row, std::size_t first) const {
+  std::vector<FragmentPtr> heads;
+  for (std::size_t i = first; i < t_.groupHeads.size(); ++i)
+    if (FragmentPtr head =
+            layout_.layOut(t_.groupHeads[i].blocks, source(row, 1), columnWidth(), true))
+      heads.push_back(std::move(head));
+  return heads;
+}
+
 /// Puts what stands above a row on top of it, to stay with it.
 FragmentPtr PageComposer::withHead(FragmentPtr body, std::size_t item, bool columnIsEmpty) {
   if (!body || !isRow(item)) return body;
   const std::size_t row = rowOf(item);
-  FragmentPtr head;
-  if (startsGroup(row)) {
-    head = layout_.layOut(t_.groupHead->blocks, source(row, 1), columnWidth());
-    if (head && columnIsEmpty) head = head->withoutLeadingSpace();
+  const std::size_t first = firstHead(row);
+  std::vector<FragmentPtr> stack;
+  if (first < t_.groupHeads.size()) {
+    stack = headsOf(row, first);
+    if (columnIsEmpty && !stack.empty()) stack.front() = stack.front()->withoutLeadingSpace();
   } else if (!columnIsEmpty && !t_.between.empty()) {
-    head = layout_.layOut(t_.between, source(row, 1), columnWidth());
+    stack.push_back(layout_.layOut(t_.between, source(row, 1), columnWidth()));
   }
-  if (!head) return body;
-  return std::make_shared<StackFragment>(std::vector<FragmentPtr>{std::move(head), std::move(body)},
-                                         true);
+  std::erase(stack, nullptr);
+  if (stack.empty()) return body;
+  stack.push_back(std::move(body));
+  return std::make_shared<StackFragment>(std::move(stack), true);
 }
 
 FragmentPtr PageComposer::remaining(const Start& start, bool columnIsEmpty) {

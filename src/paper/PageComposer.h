@@ -58,7 +58,9 @@ class PageComposer {
   std::size_t itemCount() const;
   bool isRow(std::size_t item) const;
   std::size_t rowOf(std::size_t item) const;
-  bool startsGroup(std::size_t row) const;
+  /// The outermost heading that begins anew at the row, as all within it do; behind the last when
+  /// none does.
+  std::size_t firstHead(std::size_t row) const;
   Source source(std::size_t row, int page) const;
 
   qreal pageWidth() const;
@@ -67,6 +69,7 @@ class PageComposer {
   qreal bodyBottom() const;
   FragmentPtr layOutToFit(std::size_t row) const;
   FragmentPtr bodyOf(std::size_t item);
+  std::vector<FragmentPtr> headsOf(std::size_t row, std::size_t first) const;
   FragmentPtr withHead(FragmentPtr body, std::size_t item, bool columnIsEmpty);
   FragmentPtr remaining(const Start& start, bool columnIsEmpty);
   bool mustStartPage(const Start& start, const Page& page) const;

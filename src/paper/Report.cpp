@@ -85,7 +85,8 @@ Report::Impl::Impl(ReportTemplate t, Rows r, QString name, ReportOptions o)
       binding(layout, rows, options.values),
       marks(rows.size()),
       pages(layout, rows, binding, [this](std::size_t row) { return markOf(row); }) {
-  sortRows(rows, layout, binding, options.order);
+  sortRows(rows, layout, binding,
+           options.order.empty() ? layout.order.toStdString() : options.order);
 }
 
 const QString& Report::Impl::markOf(std::size_t row) {

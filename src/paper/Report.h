@@ -20,7 +20,8 @@ class QPrinter;
 namespace fidaleon::paper {
 
 struct ReportOptions {
-  /// "+{@Folio},+{@Numero}": formulas of the template. Empty: as the rows were written.
+  /// "+{@Folio},+{@Numero}": formulas of the template. Empty: the template's own order, or as the
+  /// rows were written.
   std::string order;
   /// A word printed large across a row, such as "ANULADA", and by the template as {{@Marca}};
   /// empty for none. Asked once per row. The row has the columns that the template reads, and

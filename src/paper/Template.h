@@ -111,9 +111,10 @@ enum class Flow {
   Continuous,  // rows follow one another
 };
 
-/// A heading above the first row of each run of rows that have the same value in a column.
+/// A heading above the first row of each run of rows that have the same values in its columns and
+/// in those of the headings around it.
 struct GroupHead {
-  int column = -1;
+  std::vector<int> columns;
   std::vector<Block> blocks;
 };
 
@@ -125,6 +126,7 @@ struct ReportTemplate {
   qreal marginTop = 20, marginRight = 20, marginBottom = 20, marginLeft = 20;
   Flow flow = Flow::Page;
   qreal smallestScale = 1;  // type may shrink to this for a row to fit on one page
+  QString order;            // of the rows, where the caller asks for none: "+{@Folio},-{@Numero}"
   QStringList fonts;
   int pageColumns = 1;
   qreal pageColumnGap = 8;
@@ -134,9 +136,9 @@ struct ReportTemplate {
   bool openingHasItsPage = false;
   std::vector<Block> closing;
   std::vector<Block> between;
-  std::optional<GroupHead> groupHead;
-  bool marksAcross = true;  // a row's mark is printed large across it
-  bool readsTotal = false;  // something on a page depends on how many pages there are
+  std::vector<GroupHead> groupHeads;  // the outermost first
+  bool marksAcross = true;            // a row's mark is printed large across it
+  bool readsTotal = false;            // something on a page depends on how many pages there are
   Furniture header;
   Furniture footer;
   std::vector<Formula> formulas;

@@ -78,12 +78,13 @@ class Reader {
     t_.flow = a.choice<Flow>("flow", Flow::Page,
                              {{"page", Flow::Page}, {"continuous", Flow::Continuous}});
     t_.smallestScale = a.number("smallest-scale", 1);
+    t_.order = a.text("order");
     a.done();
     if (t_.table.isEmpty()) failAt(root, QStringLiteral("falta el atributo «table»"));
     for (const XmlNode& child : root.children) readTop(child);
     if (t_.body.empty()) failAt(root, QStringLiteral("falta el elemento «body»"));
     const bool flowing = !t_.opening.empty() || !t_.closing.empty() || !t_.between.empty() ||
-                         t_.groupHead || t_.pageColumns > 1;
+                         !t_.groupHeads.empty() || t_.pageColumns > 1;
     if (flowing && t_.flow != Flow::Continuous)
       failAt(root, QStringLiteral("«opening», «closing», «between», «group-head» y las columnas de "
                                   "página necesitan flow=\"continuous\""));
@@ -197,10 +198,13 @@ class Reader {
 
   void readGroupHead(const XmlNode& node) {
     Attributes a(node);
-    const QString column = a.text("column");
+    const QStringList names = a.text("column").split(QLatin1Char(','), Qt::SkipEmptyParts);
     a.done();
-    if (column.isEmpty()) failAt(node, QStringLiteral("falta el atributo «column»"));
-    t_.groupHead.emplace(columnIndex(column, t_.columns), readBlocks(node));
+    if (names.isEmpty()) failAt(node, QStringLiteral("falta el atributo «column»"));
+    GroupHead head;
+    for (const QString& name : names) head.columns.push_back(columnIndex(name, t_.columns));
+    head.blocks = readBlocks(node);
+    t_.groupHeads.push_back(std::move(head));
   }
 
   std::vector<Block> readBlocks(const XmlNode& node) {
