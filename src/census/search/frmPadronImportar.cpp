@@ -13,6 +13,8 @@ namespace {
 
 constexpr int MAXIMO_TEXTO = 255;
 constexpr int CIFRAS_DNI = 8;
+// So that the second field begins under its part of the heading.
+constexpr int LETRAS_PRIMER_APELLIDO = 19;
 constexpr const char* Y = " AND";
 
 }  // namespace
@@ -30,6 +32,7 @@ frmPadronImportar::frmPadronImportar(Contexto& contexto)
   setCaption("Importar");
   for (forms::TextBox* campo : {&txtNombre, &txtPrimerApellido, &txtSegundoApellido})
     campo->setMaxLength(MAXIMO_TEXTO);
+  txtPrimerApellido.setWidthChars(LETRAS_PRIMER_APELLIDO);
   txtPrimerApellido.setToolTip("Primer apellido");
   txtSegundoApellido.setToolTip("Segundo apellido");
   txtDNI.setDigitsOnly(true);
