@@ -67,8 +67,10 @@ void frmInfActividad::prepararControles() {
   cboInstitucion.onClick = [this] {
     procedimiento("cboInstitucion_Click()", [this] { cboInstitucion_Click(); });
   };
+  // Nobody prints the groups that he could not see.
   cboActividad.onClick = [this] {
-    procedimiento("cboActividad_Click()", [this] { cboActividad_Click(); });
+    if (!procedimiento("cboActividad_Click()", [this] { cboActividad_Click(); }))
+      cboActividad.setListIndex(-1);
   };
   cmdBoton.add(ACEPTAR, "ACEPTAR").setDefault(true);
   cmdBoton.add(CANCELAR, "CANCELAR").setCancel(true);
@@ -81,8 +83,8 @@ void frmInfActividad::prepararControles() {
                      forms::buttons({&cmdBoton[ACEPTAR], &cmdBoton[CANCELAR]})}));
 }
 
-void frmInfActividad::procedimiento(const char* nombre, const std::function<void()>& body) {
-  guarded(contexto_, "frmInfActividad", nombre, body);
+bool frmInfActividad::procedimiento(const char* nombre, const std::function<void()>& body) {
+  return guarded(contexto_, "frmInfActividad", nombre, body);
 }
 
 void frmInfActividad::Form_Load() {

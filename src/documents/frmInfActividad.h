@@ -55,7 +55,7 @@ class frmInfActividad : public forms::Form {
   bool rellenarColaboradores(FDAPI::cProgreso& progreso);
   /// A condition on the lines of the second list; empty when it has none.
   std::string restriccion(const char* columna);
-  void procedimiento(const char* nombre, const std::function<void()>& body);
+  bool procedimiento(const char* nombre, const std::function<void()>& body);
 
   Contexto& contexto_;
   ListaDoble listas_;

@@ -1,0 +1,70 @@
+#pragma once
+// People, groups and tasks, and the rows that their reports leave.
+
+#include <map>
+#include <string>
+#include <vector>
+
+#include "census/CensoWorld.h"
+#include "documents/cInformes.h"
+
+namespace fidaleon::tests {
+
+/// Column to value; a column that holds Null is not there.
+using Fila = std::map<std::string, std::string>;
+
+/// Notes what it is told, and stops the work when the bar stands at `hasta`.
+struct ProgresoAnotado : FDAPI::cProgreso {
+  void Cargar(std::int64_t cuenta, const std::string& mensaje, int modo, int minimo) override {
+    sucesos.push_back("Cargar " + std::to_string(cuenta) + " " + mensaje + " " +
+                      std::to_string(modo) + " " + std::to_string(minimo));
+  }
+  void setValue(std::int64_t valor) override {
+    sucesos.push_back(std::to_string(valor));
+    if (valor == hasta) throw forms::Cancelled();
+  }
+  std::vector<std::string> sucesos;
+  std::int64_t hasta = -1;
+};
+
+struct CensoInformes : CensoWorld {
+  void run(const std::string& sql) { con().Execute(sql); }
+  std::int32_t colaborador(const std::string& nombre, const std::string& apellido = "Sanz",
+                           std::int32_t codGrupo = 0) {
+    const std::int32_t id = persona(nombre, apellido, "Gil", {}, {COLABORADOR});
+    if (codGrupo != 0) miembro(id, codGrupo, 1);
+    return id;
+  }
+  void tarea(const std::string& fecha, const std::string& inicio, const std::string& nombre,
+             const std::string& descripcion = "Descripción", const std::string& fin = "2030") {
+    run("INSERT INTO Tareas (Fecha, HoraInicio, HoraFin, Nombre, Descripcion) VALUES (\"" + fecha +
+        "\", \"" + inicio + "\", \"" + fin + "\", \"" + nombre + "\", \"" + descripcion + "\")");
+  }
+
+  /// Rows in the order in which they were written.
+  std::vector<Fila> filas(const std::string& tabla = "Informe_Colaboradores") {
+    std::vector<Fila> todas;
+    for (store::Recordset rs = conInformes().Execute("SELECT * FROM " + tabla); !rs.EOF_();
+         rs.MoveNext()) {
+      Fila& fila = todas.emplace_back();
+      for (int i = 0; i < rs.FieldCount(); ++i)
+        if (!rs.Fields(i).Value().isNull()) fila[rs.FieldName(i)] = rs.Fields(i).Value().text();
+    }
+    return todas;
+  }
+  /// The named columns of each row, with blanks between.
+  std::vector<std::string> lineas(std::initializer_list<const char*> columnas,
+                                  const std::string& tabla = "Informe_Colaboradores") {
+    std::vector<std::string> todas;
+    for (Fila& fila : filas(tabla)) {
+      std::string& linea = todas.emplace_back();
+      for (const char* columna : columnas) linea += (linea.empty() ? "" : " ") + fila[columna];
+    }
+    return todas;
+  }
+
+  ProgresoAnotado progreso;
+  cInformes informes{contexto};
+};
+
+}  // namespace fidaleon::tests
