@@ -210,9 +210,15 @@ void addWindowCommands(std::vector<Command>& all) {
   add(Menu::View,
       still(line("filtrar", "&Filtrar", "Ctrl+F", "Busca en la lista según se escribe", 0,
                  Needs::Nothing, [](Workplace& w, const Choice&) { w.focusFilter(); })));
+  add(Menu::File, still(line("guardar-lista", "&Guardar la lista…", "Ctrl+S",
+                             "Guarda la lista tal como se ve, para una hoja de cálculo", 0,
+                             Needs::List, [](Workplace& w, const Choice&) { w.saveList(); })));
   add(Menu::File, still(line("copia", "&Copia de seguridad…", "",
                              "Guarda una copia de la parroquia en otro sitio", 0, Needs::Nothing,
                              [](Workplace& w, const Choice&) { w.backUp(); })));
+  add(Menu::File, line("volver-a-una-copia", "&Volver a una copia…", "",
+                       "Deja la parroquia como estaba cuando se hizo una copia", 0, Needs::Nothing,
+                       [](Workplace& w, const Choice&) { w.returnToCopy(); }));
   add(Menu::File, still(line("salir", "&Salir", "Ctrl+Q", "Cierra el programa", 0, Needs::Nothing,
                              [](Workplace& w, const Choice&) { w.leave(); })));
   add(Menu::Help, still(line("acerca-de", "&Acerca de Fidaleon…", "", "", 0, Needs::Nothing,
@@ -250,6 +256,8 @@ bool applies(const Command& command, const Choice& choice) {
   switch (command.needs) {
     case Needs::Nothing:
       return true;
+    case Needs::List:
+      return choice.node && hasRows(choice.node->kind);
     case Needs::Row:
       return choice.id != 0;
     case Needs::ValidRow:

@@ -12,8 +12,8 @@ namespace fidaleon::app {
 /// Where a command is shown.
 enum class Menu { File, Record, Documents, View, Help };
 
-/// Which row a command needs.
-enum class Needs { Nothing, Row, ValidRow, AnnulledRow };
+/// Which row a command needs; List is a list, whether or not it has rows.
+enum class Needs { Nothing, List, Row, ValidRow, AnnulledRow };
 
 /// What is chosen in the window.
 struct Choice {

@@ -2,9 +2,6 @@
 
 #include <QAction>
 #include <QCloseEvent>
-#include <QDate>
-#include <QDir>
-#include <QFileDialog>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
@@ -25,7 +22,6 @@
 #include "app/TreeModel.h"
 #include "app/WindowSettings.h"
 #include "qt/Appearance.h"
-#include "store/Open.h"
 
 namespace fidaleon::app {
 namespace {
@@ -44,8 +40,12 @@ const char* hintOf(NodeKind kind) {
 
 }  // namespace
 
-MainWindow::MainWindow(Desk& desk, QWidget* parent) : QMainWindow(parent), desk_(desk) {
-  setWindowTitle(tr("%1 — Fidaleon").arg(QString::fromStdString(desk.parishName())));
+MainWindow::MainWindow(Desk& desk, QWidget* parent)
+    : QMainWindow(parent),
+      desk_(desk),
+      copies_(desk.files().directory),
+      presence_(desk.files().directory, desk.config().Usuario,
+                text::toShort(desk.entorno().clock.today()) + " " + desk.entorno().clock.now()) {
   setObjectName("MainWindow");
   setPalette(qt::legible(palette()));
   splitter_ = new QSplitter(this);
@@ -54,6 +54,7 @@ MainWindow::MainWindow(Desk& desk, QWidget* parent) : QMainWindow(parent), desk_
   buildList();
   buildCommands();
   buildStatusBar();
+  showParishName();
   splitter_->setStretchFactor(1, 1);
   restoreWindow();
   showNode("PartidasBautismo");
@@ -125,7 +126,8 @@ void MainWindow::run(const Command& command) {
   if (busy_ || !applies(command, chosen)) return;
   busy_ = true;
   try {
-    command.run(*this, chosen);
+    std::unique_ptr<Precaution> copy;
+    if (!command.destructive || protect(command, chosen, copy)) command.run(*this, chosen);
   } catch (const store::Error& e) {
     desk_.entorno().ui.msgBox(e.what(), forms::MsgButtons::Ok, forms::MsgIcon::Critical);
   } catch (const paper::Error& e) {
@@ -254,16 +256,6 @@ void MainWindow::preview(const Maker& make) {
 void MainWindow::focusFilter() {
   filter_->setFocus(Qt::ShortcutFocusReason);
   filter_->selectAll();
-}
-
-void MainWindow::backUp() {
-  const QString name = "parroquia-" + QDate::currentDate().toString("yyyyMMdd") + ".copia";
-  const QString file = QFileDialog::getSaveFileName(
-      this, tr("Copia de seguridad"), QDir::home().filePath(name), tr("Copias (*.copia)"));
-  if (file.isEmpty()) return;
-  store::backupDatabase(desk_.parish(), file.toStdString());
-  QMessageBox::information(this, tr("Copia de seguridad"),
-                           tr("La copia se ha guardado y comprobado en «%1».").arg(file));
 }
 
 void MainWindow::about() {

@@ -3,12 +3,15 @@
 #include <QMainWindow>
 #include <functional>
 #include <map>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
 
 #include "app/Command.h"
 #include "app/Desk.h"
+#include "app/Precaution.h"
+#include "app/Presence.h"
 #include "app/RowsFilter.h"
 #include "app/RowsModel.h"
 #include "paper/Report.h"
@@ -59,7 +62,9 @@ class MainWindow : public QMainWindow, private Workplace {
   void showDuplicate(const std::string& node) override;
   void showListReport(const ListReport& report, Extent extent) override;
   void focusFilter() override;
+  void saveList() override;
   void backUp() override;
+  void returnToCopy() override;
   void about() override;
   void leave() override { close(); }
 
@@ -73,6 +78,10 @@ class MainWindow : public QMainWindow, private Workplace {
   using Maker = std::function<std::optional<paper::Report>(paper::ReportOptions)>;
   void preview(const Maker& make);
   void run(const Command& command);
+  /// Makes the copy that goes before the command. False when there can be none and the user would
+  /// rather not go on.
+  bool protect(const Command& command, const Choice& chosen, std::unique_ptr<Precaution>& copy);
+  void showParishName();
   void refresh(std::int32_t keep);
   void loadRows();
   void updateCommands();
@@ -87,6 +96,8 @@ class MainWindow : public QMainWindow, private Workplace {
   void restoreWindow();
 
   Desk& desk_;
+  SafetyCopies copies_;
+  Presence presence_;
   const NodeView* node_ = nullptr;
   bool busy_ = false;
   QSplitter* splitter_ = nullptr;
@@ -98,6 +109,7 @@ class MainWindow : public QMainWindow, private Workplace {
   QLabel* folder_ = nullptr;
   QLabel* empty_ = nullptr;
   QLabel* count_ = nullptr;
+  QLabel* parishName_ = nullptr;
   QToolBar* bar_ = nullptr;
   RowsModel rows_;
   RowsFilter shown_;

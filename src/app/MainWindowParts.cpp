@@ -162,11 +162,11 @@ void MainWindow::buildCommands() {
 void MainWindow::buildStatusBar() {
   count_ = new QLabel(this);
   statusBar()->addWidget(count_, 1);
-  const QString parish = QString::fromStdString(desk_.parishName());
+  parishName_ = new QLabel(this);
+  statusBar()->addPermanentWidget(parishName_);
   const QString user = QString::fromStdString(desk_.config().Usuario);
   const QString edition = QString::fromStdString(desk_.edition());
-  for (const QString& text : {tr("Parroquia: %1").arg(parish), tr("Usuario: %1").arg(user),
-                              tr("Edición: %1").arg(edition)})
+  for (const QString& text : {tr("Usuario: %1").arg(user), tr("Edición: %1").arg(edition)})
     statusBar()->addPermanentWidget(new QLabel("  " + text + "  ", this));
 }
 

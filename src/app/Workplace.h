@@ -39,8 +39,12 @@ class Workplace {
   virtual void showNode(const std::string& name) = 0;
   /// Chooses the entries of that book.
   virtual void showEntriesOf(std::int32_t book) = 0;
+  /// Asks where and in which format, and saves the list as it is shown.
+  virtual void saveList() = 0;
   /// Asks where, and saves a verified copy of the parish there.
   virtual void backUp() = 0;
+  /// Lets the user return the parish to a copy saved earlier.
+  virtual void returnToCopy() = 0;
   virtual void about() = 0;
   virtual void leave() = 0;
 };

@@ -114,6 +114,10 @@ std::unique_ptr<Connection> memoryDatabase(const Schema& schema, const std::stri
 }
 
 void backupDatabase(Connection& from, const fs::path& to) {
+  std::error_code ignored;
+  if (fs::equivalent(to, from.Properties("DATA SOURCE").Value, ignored))
+    throw Error(ErrorKind::Constraint,
+                "La copia no puede guardarse encima de la propia base de datos.");
   Draft draft(to, ".parte");
   Engine& engine = from.engine();
   std::vector<std::int64_t> counts;

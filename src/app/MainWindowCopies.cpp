@@ -1,0 +1,87 @@
+// What the main window saves, and what it brings back.
+
+#include <QDate>
+#include <QDir>
+#include <QFileDialog>
+#include <QLabel>
+#include <QMessageBox>
+#include <QStatusBar>
+#include <QTableView>
+
+#include "app/CarefulQuestion.h"
+#include "app/CopyReturn.h"
+#include "app/ListExport.h"
+#include "app/MainWindow.h"
+#include "app/WindowSettings.h"
+#include "store/Open.h"
+#include "text/Utf8.h"
+
+namespace fidaleon::app {
+namespace {
+
+constexpr int PASSING_MS = 8000;
+constexpr const char* BACKUP_FOLDER = "copia.carpeta";
+
+/// "Eliminar en Partidas, Bautismo"
+std::string nameFor(const Command& command, const Choice& chosen) {
+  std::string name;
+  for (const char c : command.text)
+    if (c != '&') name += c;
+  name = text::replaceAll(name, "…", "");
+  if (command.kinds == 0 || !chosen.node) return name;
+  const std::string& path = chosen.node->node.Path;
+  const std::size_t first = path.find('\\');
+  const std::string place = first == std::string::npos ? path : path.substr(first + 1);
+  return name + " en " + text::replaceAll(place, "\\", ", ");
+}
+
+}  // namespace
+
+bool MainWindow::protect(const Command& command, const Choice& chosen,
+                         std::unique_ptr<Precaution>& copy) {
+  try {
+    const forms::Hourglass hourglass(desk_.entorno().ui);
+    copy = std::make_unique<Precaution>(copies_, parish(), nameFor(command, chosen), thisMoment());
+    return true;
+  } catch (const store::Error& e) {
+    return askToGoOnWithoutCopy(this, e.what());
+  }
+}
+
+void MainWindow::backUp() {
+  const std::string known = read(BACKUP_FOLDER);
+  QFileDialog dialog(this, tr("Copia de seguridad"),
+                     known.empty() ? QDir::homePath() : QString::fromStdString(known),
+                     tr("Copias (*.copia)"));
+  dialog.setAcceptMode(QFileDialog::AcceptSave);
+  dialog.setDefaultSuffix("copia");
+  dialog.selectFile("parroquia-" + QDate::currentDate().toString("yyyyMMdd") + ".copia");
+  if (dialog.exec() != QDialog::Accepted) return;
+  const QString file = dialog.selectedFiles().value(0);
+  {
+    const forms::Hourglass hourglass(desk_.entorno().ui);
+    store::backupDatabase(parish(), file.toStdString());
+  }
+  write(BACKUP_FOLDER, dialog.directory().absolutePath().toStdString());
+  QMessageBox::information(this, tr("Copia de seguridad"),
+                           tr("La copia se ha guardado y comprobado en «%1».").arg(file));
+}
+
+void MainWindow::returnToCopy() {
+  if (!CopyReturn(desk_, copies_, presence_, this).run()) return;
+  setScope(0, {});
+  showParishName();
+}
+
+void MainWindow::showParishName() {
+  const QString name = QString::fromStdString(desk_.parishName());
+  setWindowTitle(tr("%1 — Fidaleon").arg(name));
+  parishName_->setText("  " + tr("Parroquia: %1").arg(name) + "  ");
+}
+
+void MainWindow::saveList() {
+  const QString done = app::saveList(desk_, *table_, this);
+  if (!done.isEmpty()) statusBar()->showMessage(done, PASSING_MS);
+}
+
+}  // namespace fidaleon::app
