@@ -2,12 +2,14 @@
 #include <gtest/gtest.h>
 
 #include <set>
+#include <utility>
 
 #include "app/Command.h"
 #include "app/CommandLine.h"
 #include "app/Documents.h"
 #include "core/contract/FDAPI.h"
 #include "paper/DocumentCatalogue.h"
+#include "text/Utf8.h"
 
 namespace fidaleon::app {
 namespace {
@@ -44,6 +46,21 @@ TEST(Commands, anEntryIsAnnulledOrValidated_neverBoth) {
   EXPECT_FALSE(annulled.count("anular"));
 }
 
+TEST(Commands, peopleAreOpenedInEitherRole_andDeletedInTheirOwn) {
+  EXPECT_EQ(given(at("Padrón", 7)), (Ids{"nuevo-empadronado", "propiedades-empadronado",
+                                         "abrir-como-colaborador", "eliminar-empadronado"}));
+  EXPECT_EQ(given(at("Colaboradores", 7)), (Ids{"nuevo-colaborador", "propiedades-colaborador",
+                                                "ver-en-el-padron", "eliminar-colaborador"}));
+  EXPECT_EQ(given(at("Actividades", 7)),
+            (Ids{"nueva-actividad", "propiedades-actividad", "eliminar-actividad"}));
+  EXPECT_EQ(given(at("Cargos")), Ids{"nuevo-cargo"});
+  EXPECT_EQ(given(at("Tareas", 7)), (Ids{"nueva-tarea", "propiedades", "eliminar"}));
+}
+
+TEST(Commands, whatTakesRowsAway_isMarkedAndHasTheDeleteKey) {
+  for (const Command& c : commands()) EXPECT_EQ(c.destructive, c.shortcut == "Del") << c.id;
+}
+
 TEST(Commands, onlyBaptismBooksAreOpenedAndPrinted) {
   const Ids common{"nuevo-libro", "cerrar-libro", "eliminar-libro"};
   Ids baptism = common;
@@ -66,6 +83,45 @@ TEST(Commands, noTwoThatApplyShareAKeyOrAnId) {
       }
       EXPECT_LE(opening, 1) << v.node.Nombre;
     }
+}
+
+std::string mnemonic(const std::string& text) {
+  const std::size_t mark = text.find('&');
+  return mark == std::string::npos ? std::string() : text::searchKey(text.substr(mark + 1, 1));
+}
+
+TEST(Commands, noTwoInAMenuShareAMnemonic) {
+  for (const NodeView& v : nodeViews())
+    for (const bool annulled : {false, true}) {
+      std::set<std::pair<Menu, std::string>> letters;
+      for (const Command& c : commands()) {
+        if (!applies(c, {&v, 3, annulled})) continue;
+        EXPECT_FALSE(mnemonic(c.text).empty()) << c.id;
+        EXPECT_TRUE(letters.insert({c.menu, mnemonic(c.text)}).second) << c.id;
+      }
+    }
+}
+
+TEST(Nodes, haveNamesOfTheirOwn) {
+  std::set<std::string> names;
+  for (const NodeView& v : nodeViews()) {
+    EXPECT_TRUE(names.insert(v.node.Nombre).second) << v.node.Nombre;
+    EXPECT_EQ(findNode(v.node.Nombre), &v);
+  }
+}
+
+TEST(Documents, everyReportNodeHasItsReport_withATemplate) {
+  int nodes = 0;
+  for (const NodeView& v : nodeViews()) {
+    if (v.kind != NodeKind::ListReports) continue;
+    ++nodes;
+    const ListReport* report = findListReport(v.node.Nombre);
+    ASSERT_TRUE(report) << v.node.Nombre;
+    EXPECT_TRUE(paper::documentOf(report->operation)) << report->operation;
+    EXPECT_EQ(given({&v, 0, false}), (Ids{"informe", "informe-entero"}));
+  }
+  EXPECT_EQ(nodes, 4);
+  EXPECT_FALSE(findListReport("Actividades"));
 }
 
 TEST(Documents, everyEditionHasEachDocument_withATemplate) {

@@ -118,6 +118,81 @@ TEST_F(Rows, aFailingLoadKeepsWhatWasShown) {
   EXPECT_EQ(model.rowCount(), 4);
 }
 
+TEST_F(Rows, filteringASortedList_keepsItsOrder) {
+  shown.sort(column("Primer apellido"), Qt::DescendingOrder);
+  shown.setText("n");
+  EXPECT_EQ(shown.rowCount(), 4);
+  EXPECT_EQ(cell(0, "Primer apellido"), "Ñíguez");
+  shown.setText("nunez");
+  EXPECT_EQ(shown.rowCount(), 2);
+  shown.setText("");
+  EXPECT_EQ(cell(3, "Primer apellido"), "Nadal");
+}
+
+TEST_F(Rows, anotherLoad_sortsAndFiltersWhatIsThereNow) {
+  shown.setText("nadal");
+  shown.sort(column("Nombre"));
+  EXPECT_EQ(shown.rowCount(), 1);
+  add("Begoña", "Nadal", "3", "20200101", false);
+  add("Abel", "Nadal", "4", "20200101", false);
+  model.load(*con, *findNode("PartidasBautismo"));
+  ASSERT_EQ(shown.rowCount(), 3);
+  EXPECT_EQ(cell(0, "Nombre"), "Abel");
+  EXPECT_EQ(model.rowOf(model.key(2)), 2);
+  EXPECT_EQ(model.rowOf(999), -1);
+}
+
+TEST_F(Rows, timesAreShownWithAColon_andALongTextInOneLine) {
+  for (const char* times : {"\"0905\", \"\"", "\"\", \"2330\""})
+    con->Execute(std::string("INSERT INTO Tareas (Fecha, HoraInicio, HoraFin, Nombre, Descripcion) "
+                             "VALUES (\"20260524\", ") +
+                 times + ", \"Coro\", \"uno\r\ndos\")");
+  model.load(*con, *findNode("Tareas"));
+  EXPECT_THAT(sorted("Desde", "Desde"), ElementsAre("", "09:05"));
+  EXPECT_EQ(cell(0, "Hasta"), "23:30");
+  EXPECT_EQ(cell(0, "Fecha"), "24/05/2026");
+  EXPECT_EQ(cell(0, "Descripción"), "uno  dos");
+  shown.setText("09:05");
+  EXPECT_EQ(shown.rowCount(), 1);
+}
+
+/// Somebody with these roles, without town or institution.
+void addPerson(store::Connection& con, const char* name, const std::vector<int>& roles) {
+  const std::int32_t id = Insert("Padron")
+                              .text("Nombre", name)
+                              .text("PrimerApellido", "O'Farrill \"el Indiano\"")
+                              .number("CodMunicipio", 0)
+                              .into(con, "IDPadron");
+  for (const int role : roles)
+    Insert("Padron_TipoPersona").number("CodPadron", id).number("CodTipoPersona", role).into(con);
+}
+
+TEST_F(Rows, peopleAreListedOnceInEachOfTheirRoles) {
+  addPerson(*con, "Empadronada", {2});
+  addPerson(*con, "Colaborador", {3});
+  addPerson(*con, "Ambas cosas", {2, 3});
+  addPerson(*con, "Nada", {});
+  Insert("Padron_Nacimiento").number("CodPadron", 3).text("FechaNacimiento", "19801231").into(*con);
+  model.load(*con, *findNode("Padrón"));
+  EXPECT_THAT(sorted("Nombre", "Nombre"), ElementsAre("Ambas cosas", "Empadronada"));
+  EXPECT_EQ(cell(0, "Nacimiento"), "31/12/1980");
+  EXPECT_EQ(cell(1, "Primer apellido"), "O'Farrill ''el Indiano''");
+  model.load(*con, *findNode("Colaboradores"));
+  EXPECT_THAT(sorted("Nombre", "Nombre"), ElementsAre("Ambas cosas", "Colaborador"));
+}
+
+TEST_F(Rows, activitiesCountTheirOwnGroupsAndMembers) {
+  for (const char* name : {"Coro", "Limpieza", "Cáritas"})
+    Insert("Actividad").text("Nombre", name).number("CodInstitucion", 1).into(*con);
+  for (const int activity : {1, 1, 3}) Insert("Grupo").number("CodActividad", activity).into(*con);
+  for (const int group : {1, 2, 2, 3})
+    Insert("Padron_Actividad").number("CodPadron", 5).number("CodGrupo", group).into(*con);
+  model.load(*con, *findNode("Actividades"));
+  EXPECT_THAT(sorted("Actividad", "Grupos"), ElementsAre("1", "2", "0"));
+  EXPECT_THAT(sorted("Actividad", "Miembros"), ElementsAre("1", "3", "0"));
+  EXPECT_EQ(cell(1, "Institución"), "San Blas");
+}
+
 TEST(Nodes, everyListRunsAndHasItsColumns) {
   const auto con = store::memoryDatabase(store::parishSchema());
   for (const NodeView& v : nodeViews()) {

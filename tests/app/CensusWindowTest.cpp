@@ -1,0 +1,164 @@
+#include <QAction>
+#include <QLineEdit>
+#include <QTableView>
+
+#include "app/Documents.h"
+#include "app/Insert.h"
+#include "app/MainWindow.h"
+#include "app/Parish.h"
+#include "census/collaborators/frmColaborador.h"
+#include "census/persons/frmPadron.h"
+
+namespace fidaleon::app {
+namespace {
+
+using forms::FormDriver;
+
+std::string at(const char* array, int index) {
+  return std::string(array) + "(" + std::to_string(index) + ")";
+}
+
+class CensusWindow : public ParishTest {
+ protected:
+  void open(const char* node, Content content = Content::Sample) {
+    create(content);
+    window = std::make_unique<MainWindow>(*desk);
+    window->show();
+    window->showNode(node);
+  }
+  void TearDown() override { EXPECT_THAT(user.problems(), ::testing::IsEmpty()); }
+  void give(const char* command) { window->action(command)->trigger(); }
+  int shown() const { return window->table().model()->rowCount(); }
+  std::int64_t roles(std::int32_t person) {
+    return count("SELECT COUNT(*) FROM Padron_TipoPersona WHERE CodPadron=" +
+                 std::to_string(person));
+  }
+  std::int32_t someoneWith(int rolesHeld) {
+    return static_cast<std::int32_t>(
+        count("SELECT CodPadron FROM Padron_TipoPersona GROUP BY CodPadron HAVING COUNT(*)=" +
+              std::to_string(rolesHeld)));
+  }
+
+  std::unique_ptr<MainWindow> window;
+};
+
+TEST_F(CensusWindow, newPerson_isChosenInTheListOnceAccepted) {
+  open("Padrón");
+  const int before = shown();
+  user.expectForm("frmPadron", [](FormDriver& d) {
+    d.chooseData(at("cboPadron", frmPadron::Institucion), 1);
+    d.type(at("txtPadron", frmPadron::Nombre), "Ñusta \"la Nena\"");
+    d.type(at("txtPadron", frmPadron::PrimerApellido), "D'Ors");
+    d.type(at("txtPadron", frmPadron::SegundoApellido), "Zúñiga");
+    d.click(at("cmdPadron", frmPadron::ACEPTAR));
+  });
+  give("nuevo-empadronado");
+  EXPECT_EQ(shown(), before + 1);
+  EXPECT_EQ(window->choice().id, count("SELECT MAX(IDPadron) FROM Padron"));
+  window->filter().setText("nusta d'ors");
+  EXPECT_EQ(shown(), 1);
+}
+
+TEST_F(CensusWindow, aPersonOpenedAsCollaborator_isInBothListsAndStaysChosen) {
+  open("Padrón");
+  const std::int32_t person = someoneWith(1);
+  ASSERT_TRUE(window->chooseRow(person));
+  const int people = shown();
+  user.expectForm("frmColaborador",
+                  [](FormDriver& d) { d.click(at("cmdColaborador", frmColaborador::ACEPTAR)); });
+  give("abrir-como-colaborador");
+  EXPECT_EQ(shown(), people);
+  EXPECT_EQ(window->choice().id, person);
+  EXPECT_EQ(roles(person), 2);
+  window->showNode("Colaboradores");
+  EXPECT_TRUE(window->chooseRow(person));
+}
+
+TEST_F(CensusWindow, aCollaboratorDeleted_leavesTheListAndNotTheCensus) {
+  open("Colaboradores");
+  const std::int32_t person = someoneWith(2);
+  ASSERT_TRUE(window->chooseRow(person));
+  const int before = shown();
+  user.answerAnything(forms::Answer::Yes);
+  give("eliminar-colaborador");
+  EXPECT_EQ(shown(), before - 1);
+  EXPECT_NE(window->choice().id, person);
+  EXPECT_NE(window->choice().id, 0);
+  window->showNode("Padrón");
+  EXPECT_TRUE(window->chooseRow(person));
+}
+
+TEST_F(CensusWindow, deletionDeclined_leavesTheRowChosen) {
+  open("Actividades");
+  const Choice before = window->choice();
+  ASSERT_NE(before.id, 0);
+  user.answerAnything(forms::Answer::No);
+  give("eliminar-actividad");
+  EXPECT_EQ(user.messages().size(), 1u);
+  EXPECT_EQ(window->choice().id, before.id);
+}
+
+TEST_F(CensusWindow, emptyLists_takeTheirFirstRow) {
+  open("Cargos", Content::Empty);
+  EXPECT_EQ(shown(), 0);
+  EXPECT_FALSE(window->action("propiedades-cargo")->isEnabled());
+  user.expectForm("frmCargo", [](FormDriver& d) { d.escape(); });
+  give("nuevo-cargo");
+  window->showNode("Tareas");
+  user.expectForm("frmTarea", [](FormDriver& d) {
+    d.type("txtHoraInicio", "18:00");
+    d.type("txtNombre", "Reunión");
+    d.click("cmdBoton(0)");
+  });
+  give("nueva-tarea");
+  EXPECT_EQ(shown(), 1);
+  EXPECT_EQ(window->choice().id, 1);
+  EXPECT_TRUE(window->action("propiedades")->isEnabled());
+}
+
+TEST_F(CensusWindow, rowOfAnotherUser_isNotOpened) {
+  open("Provincias");
+  const auto id = std::to_string(window->choice().id);
+  auto other = desk->entorno().support.create_cProcesarBloqueos();
+  other->Inicializar(directory().string());
+  FDAPI::DefinicionBloqueo lock;
+  lock.strTabla = "Provincia";
+  lock.strRegistro = id;
+  other->DefinirBloqueo(lock);
+  ASSERT_EQ(other->lngEfectuarBloqueos(), 0);
+  user.answerAnything(forms::Answer::Ok);
+  give("propiedades");
+  ASSERT_EQ(user.messages().size(), 1u);
+  EXPECT_THAT(user.messages()[0].text, ::testing::HasSubstr("Lo está usando"));
+}
+
+TEST_F(CensusWindow, entireReports_holdWhatThereIs) {
+  open("Padrón");
+  for (const ListReport& report : listReports()) {
+    const auto made = makeListReport(*desk, report, Extent::Entire);
+    ASSERT_TRUE(made) << report.operation;
+    EXPECT_GT(made->rowCount(), 3u) << report.operation;
+  }
+  const auto made = makeListReport(*desk, listReports()[0], Extent::Entire);
+  EXPECT_EQ(made->rowCount(), static_cast<std::size_t>(count(
+                                  "SELECT COUNT(*) FROM Grupo WHERE IDGrupo IN (SELECT CodGrupo "
+                                  "FROM Padron_Actividad)")));
+}
+
+TEST_F(CensusWindow, entireReportWithoutRows_isToldOnce) {
+  open("InformesActividades", Content::Empty);
+  user.expectMessage("¡No se ha encontrado ningún registro!");
+  give("informe-entero");
+}
+
+TEST_F(CensusWindow, choiceGivenUp_showsNothing) {
+  open("InformesTareas de la agenda");
+  user.expectForm("frmInfAgenda", [](FormDriver& d) { d.escape(); });
+  give("informe");
+  window->showNode("InformesColaboradores");
+  user.expectForm("frmInfActividad", [](FormDriver& d) { d.escape(); });
+  give("informe");
+}
+
+}  // namespace
+}  // namespace fidaleon::app
