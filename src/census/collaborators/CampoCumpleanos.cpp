@@ -18,30 +18,27 @@ bool esCifra(char32_t c) {
   return c >= U'0' && c <= U'9';
 }
 
-std::string cifrasDe(std::string_view texto) {
-  std::string cifras;
-  std::copy_if(texto.begin(), texto.end(), std::back_inserter(cifras), esCifra);
-  return cifras;
+/// Whether it may begin a day ("31") or a month ("12"), given as its highest.
+bool puedeSer(const std::string& parte, const char* maximo) {
+  if (parte.size() > 2 || !std::all_of(parte.begin(), parte.end(), esCifra)) return false;
+  if (parte.empty() || parte[0] > maximo[0]) return parte.empty();
+  if (parte.size() == 1) return true;
+  return parte[0] == '0' ? parte[1] != '0' : parte[0] != maximo[0] || parte[1] <= maximo[1];
 }
 
-/// Whether these digits may begin a "ddmm".
-bool puedeSerFecha(const std::string& cifras) {
-  if (cifras.size() > CIFRAS) return false;
-  const auto parte = [&](std::size_t desde, char maximo, char maximoDeLaSegunda) {
-    if (cifras.size() <= desde) return true;
-    if (cifras[desde] > maximo) return false;
-    if (cifras.size() == desde + 1) return true;
-    if (cifras[desde] == '0') return cifras[desde + 1] != '0';
-    return cifras[desde] != maximo || cifras[desde + 1] <= maximoDeLaSegunda;
-  };
-  return parte(0, '3', '1') && parte(TRAS_EL_DIA, '1', '2');
+bool puedeSerFecha(const std::string& conBarra) {
+  const std::size_t barra = conBarra.find('/');
+  const bool sinMes = barra == std::string::npos;
+  return puedeSer(conBarra.substr(0, barra), "31") &&
+         (sinMes || puedeSer(conBarra.substr(barra + 1), "12"));
 }
 
 }  // namespace
 
 std::optional<std::string> diaYMes(std::string_view tecleado) {
   std::string texto = text::trim(tecleado);
-  if (texto.size() == CIFRAS && cifrasDe(texto) == texto) texto.insert(TRAS_EL_DIA, "/");
+  if (texto.size() == CIFRAS && std::all_of(texto.begin(), texto.end(), esCifra))
+    texto.insert(TRAS_EL_DIA, "/");
   const auto fecha = text::parseShort(texto + AÑO_BISIESTO);
   if (!fecha) return std::nullopt;
   return text::toShort(*fecha).substr(0, CIFRAS + 1);
@@ -82,18 +79,19 @@ void CampoCumpleaños::tecla(forms::KeyPress& pulsada) {
 }
 
 void CampoCumpleaños::escribir(char32_t c) {
-  const std::string& texto = campo_.text();
   const int inicio = campo_.selStart();
-  const std::string antes = text::left(texto, inicio);
-  const bool barraPuesta = c == U'/' && antes.ends_with('/');
-  std::string cifras = cifrasDe(antes);
-  const std::size_t escritas = cifras.size() + 1;
-  cifras += static_cast<char>(c) + cifrasDe(text::mid(texto, inicio + campo_.selLength()));
-  if (barraPuesta) return;
-  if (!esCifra(c) || !puedeSerFecha(cifras)) return campo_.form().ui().beep();
-  if (cifras.size() >= TRAS_EL_DIA) cifras.insert(TRAS_EL_DIA, "/");
-  campo_.setText(cifras);
-  campo_.setSelection(static_cast<int>(escritas + (escritas >= TRAS_EL_DIA ? 1 : 0)), 0);
+  const std::string antes = text::left(campo_.text(), inicio);
+  const std::string despues = text::mid(campo_.text(), inicio + campo_.selLength());
+  if (c == U'/' && antes.ends_with('/')) return;
+  if (c == U'/' && despues.starts_with('/')) return campo_.setSelection(inicio + 1, 0);
+  std::string nuevo = antes + static_cast<char>(c) + despues;
+  std::size_t cursor = antes.size() + 1;
+  const bool faltaBarra = nuevo.find('/') == std::string::npos && nuevo.size() >= TRAS_EL_DIA;
+  if (faltaBarra) nuevo.insert(TRAS_EL_DIA, "/");
+  if (!esCifra(c) || !puedeSerFecha(nuevo)) return campo_.form().ui().beep();
+  if (cursor == TRAS_EL_DIA || (faltaBarra && cursor > TRAS_EL_DIA)) ++cursor;
+  campo_.setText(nuevo);
+  campo_.setSelection(static_cast<int>(cursor), 0);
 }
 
 void CampoCumpleaños::borrarConBarra() {

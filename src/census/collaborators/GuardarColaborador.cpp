@@ -12,6 +12,7 @@ using FDAPI::cCOperacion;
 namespace {
 
 constexpr std::size_t CIFRAS_DEL_AÑO = 4;
+constexpr const char* TIPO_COLABORADOR = "3";
 
 /// "yyyymmdd" of "dd/mm" and a year; empty when they make no day of the calendar.
 std::string fechaDe(const std::string& cumpleaños, const std::string& año) {
@@ -144,8 +145,9 @@ void frmColaborador::guardarFila(const Tabla<Persona>& alta, const Tabla<Persona
 void frmColaborador::darTipoColaborador(std::int32_t idPadron) {
   const store::Recordset tipo =
       conBaseDatos->Execute("SELECT * FROM Tipo_Persona WHERE Nombre='Colaborador'");
+  const std::string clave = tipo.EOF_() ? TIPO_COLABORADOR : tipo.text("IDTipoPersona");
   conBaseDatos->Execute("INSERT INTO Padron_TipoPersona (CodPadron,CodTipoPersona) VALUES (" +
-                        std::to_string(idPadron) + "," + tipo.text("IDTipoPersona") + ");");
+                        std::to_string(idPadron) + "," + clave + ");");
 }
 
 }  // namespace fidaleon
