@@ -2,13 +2,23 @@
 
 #include "registers/requests/frmSolicitudes.h"
 
-#include <algorithm>
-#include <numeric>
-
 #include "registers/lookup/frmDetallePadres.h"
 #include "registers/requests/ProcedimientoSolicitudes.h"
 
 namespace fidaleon {
+
+namespace {
+
+ListaDoble::Textos textos() {
+  ListaDoble::Textos t;
+  t.ayudas = {"Pasa al libro las solicitudes marcadas", "Pasa al libro todas las solicitudes",
+              "Deja fuera las solicitudes marcadas", "Deja fuera todas las solicitudes"};
+  t.nadaMarcado = "";
+  t.alMoverMarcados = t.alMoverTodos = "cmdMover_Click";
+  return t;
+}
+
+}  // namespace
 
 frmSolicitudes::frmSolicitudes(Contexto& contexto)
     : Form(contexto.ui(), "frmSolicitudes"),
@@ -18,45 +28,22 @@ frmSolicitudes::frmSolicitudes(Contexto& contexto)
       cmdMover(*this, "cmdMover"),
       cmdDetalles(*this, "cmdDetalles", "&DETALLES"),
       cmdBoton(*this, "cmdBoton"),
-      contexto_(contexto) {
+      contexto_(contexto),
+      listas_(contexto, *this, lstSolicitudes.add(DISPONIBLES, "ELEMENTOS DISPONIBLES:"),
+              lstSolicitudes.add(SELECCIONADOS, "ELEMENTOS SELECCIONADOS:"), cmdMover, textos()) {
   prepararControles();
 }
 
 void frmSolicitudes::prepararControles() {
-  forms::ListBox& disponibles = lstSolicitudes.add(DISPONIBLES, "ELEMENTOS DISPONIBLES:");
-  forms::ListBox& seleccionados = lstSolicitudes.add(SELECCIONADOS, "ELEMENTOS SELECCIONADOS:");
-  for (forms::ListBox* lista : {&disponibles, &seleccionados}) {
-    lista->setMultiSelect(true);
-    lista->setRows(12);
-  }
-  const auto boton = [this](Movimiento movimiento, const char* rotulo, const char* ayuda) {
-    forms::Button& b = cmdMover.add(movimiento, rotulo);
-    b.setToolTip(ayuda);
-    b.onClick = [this, movimiento] { cmdMover_Click(movimiento); };
-    return &b;
-  };
-  forms::Button* elegir = boton(ELEGIR, "&Agregar >", "Pasa al libro las solicitudes marcadas");
-  forms::Button* elegirTodas =
-      boton(ELEGIR_TODAS, "Agregar &todas >>", "Pasa al libro todas las solicitudes");
-  forms::Button* quitar = boton(QUITAR, "< &Quitar", "Deja fuera las solicitudes marcadas");
-  forms::Button* quitarTodas =
-      boton(QUITAR_TODAS, "<< Quitar todas", "Deja fuera todas las solicitudes");
   cmdBoton.add(ACEPTAR, "ACEPTAR").setDefault(true);
   cmdBoton.add(CANCELAR, "CANCELAR").setCancel(true);
   setLayout(forms::column(
       {forms::tabs(mstSolicitudes,
                    {forms::page({forms::fields(1, {forms::item(cboInstitucion)})}),
-                    forms::page({forms::row({forms::item(disponibles),
-                                             forms::column(
-                                                 {forms::item(*elegir), forms::item(*elegirTodas),
-                                                  forms::item(*quitar), forms::item(*quitarTodas)}),
-                                             forms::item(seleccionados)}),
-                                 forms::buttons({&cmdDetalles})})}),
+                    forms::page({listas_.disposicion(), forms::buttons({&cmdDetalles})})}),
        forms::buttons({&cmdBoton[ACEPTAR], &cmdBoton[CANCELAR]})}));
   mstSolicitudes.onMouseDown = [this](int pestana) { return mstSolicitudes_MouseDown(pestana); };
   cboInstitucion.onClick = [this] { cboInstitucion_Click(); };
-  disponibles.onDblClick = [this] { cmdMover_Click(ELEGIR); };
-  seleccionados.onDblClick = [this] { cmdMover_Click(QUITAR); };
   cmdDetalles.onClick = [this] { cmdDetalles_Click(); };
   for (const auto& [indice, b] : cmdBoton.all())
     b->onClick = [this, indice = indice] { cmdBoton_Click(Boton(indice)); };
@@ -78,7 +65,7 @@ void frmSolicitudes::Form_Load() {
 }
 
 void frmSolicitudes::cboInstitucion_Click() {
-  for (const auto& [indice, lista] : lstSolicitudes.all()) lista->clear();
+  listas_.vaciar();
   if (!procedimiento("cboInstitucion_Click", [this] { listarSolicitudes(); }))
     cboInstitucion.setListIndex(-1);
 }
@@ -92,9 +79,11 @@ void frmSolicitudes::listarSolicitudes() {
   store::Recordset solicitudes = conBaseDatos->Execute(origen_->sqlSolicitudes + institucion());
   if (solicitudes.EOF_())
     return rechazarInstitucion("¡Esta Institución no tiene solicitudes para importar. Elija otra!");
+  std::vector<ListaDoble::Elemento> todas;
   for (; !solicitudes.EOF_(); solicitudes.MoveNext())
-    lstSolicitudes[DISPONIBLES].addItem(origen_->nombre(*conBaseDatos, solicitudes),
-                                        solicitudes.integer(origen_->sacramento.clavePartida));
+    todas.push_back({solicitudes.integer(origen_->sacramento.clavePartida),
+                     origen_->nombre(*conBaseDatos, solicitudes)});
+  listas_.llenar(std::move(todas));
 }
 
 void frmSolicitudes::rechazarInstitucion(const char* mensaje) {
@@ -106,31 +95,6 @@ bool frmSolicitudes::mstSolicitudes_MouseDown(int pestana) {
   if (pestana == 0 || cboInstitucion.listIndex() >= 0) return true;
   forms::warn(ui(), "¡Tiene que elegir una Institución para ver las solicitudes!");
   return false;
-}
-
-void frmSolicitudes::cmdMover_Click(Movimiento movimiento) {
-  procedimiento("cmdMover_Click", [&] {
-    const bool haciaElLibro = movimiento == ELEGIR || movimiento == ELEGIR_TODAS;
-    forms::ListBox& de = lstSolicitudes[haciaElLibro ? DISPONIBLES : SELECCIONADOS];
-    forms::ListBox& a = lstSolicitudes[haciaElLibro ? SELECCIONADOS : DISPONIBLES];
-    std::vector<int> filas(static_cast<std::size_t>(de.listCount()));
-    std::iota(filas.begin(), filas.end(), 0);
-    if (movimiento == ELEGIR || movimiento == QUITAR) {
-      const auto fidaleon = contexto_.fidaleon();
-      if (!fidaleon->ComprobarSeleccion(de)) return ui().beep();
-      fidaleon->ListarSeleccionados(de, filas);
-    }
-    mover(de, a, filas);
-  });
-}
-
-void frmSolicitudes::mover(forms::ListBox& de, forms::ListBox& a, const std::vector<int>& filas) {
-  for (const int fila : filas) a.addItem(de.list(fila), de.itemData(fila));
-  std::for_each(filas.rbegin(), filas.rend(), [&](int fila) { de.removeItem(fila); });
-  if (filas.empty() || de.listCount() == 0) return;
-  const int siguiente = std::min(filas.front(), de.listCount() - 1);
-  de.setListIndex(siguiente);
-  de.setSelected(siguiente, true);
 }
 
 void frmSolicitudes::cmdDetalles_Click() {

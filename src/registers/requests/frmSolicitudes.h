@@ -4,6 +4,7 @@
 #include <string>
 
 #include "core/contract/Contexto.h"
+#include "core/lists/ListaDoble.h"
 #include "forms/Form.h"
 #include "registers/requests/OrigenSolicitudes.h"
 
@@ -27,7 +28,7 @@ class frmSolicitudes : public forms::Form {
   forms::ControlArray<forms::ListBox> lstSolicitudes;  // item data: key of the request
   enum Lista { DISPONIBLES, SELECCIONADOS };
   forms::ControlArray<forms::Button> cmdMover;
-  enum Movimiento { ELEGIR, ELEGIR_TODAS, QUITAR, QUITAR_TODAS };
+  using enum ListaDoble::Movimiento;
   forms::Button cmdDetalles;
   forms::ControlArray<forms::Button> cmdBoton;
   enum Boton { ACEPTAR = 0, CANCELAR = 1 };
@@ -45,8 +46,6 @@ class frmSolicitudes : public forms::Form {
   void listarSolicitudes();
   void rechazarInstitucion(const char* mensaje);
   bool mstSolicitudes_MouseDown(int pestana);
-  void cmdMover_Click(Movimiento movimiento);
-  void mover(forms::ListBox& de, forms::ListBox& a, const std::vector<int>& filas);
   void cmdDetalles_Click();
   void cmdBoton_Click(Boton boton);
   void aceptar();
@@ -61,6 +60,7 @@ class frmSolicitudes : public forms::Form {
   bool procedimiento(const char* nombre, Body&& body);
 
   Contexto& contexto_;
+  ListaDoble listas_;
   const OrigenSolicitudes* origen_ = nullptr;
   // The position under calculation.
   std::int64_t lngFolio_ = 0;
