@@ -1,26 +1,16 @@
 #include "app/Demo.h"
 
-#include <fstream>
-#include <functional>
-#include <ostream>
-#include <sstream>
-
+#include "app/DemoPeople.h"
 #include "app/DemoScripts.h"
-#include "app/Desk.h"
+#include "app/DemoWalk.h"
 #include "app/Documents.h"
 #include "app/NewParish.h"
 #include "core/contract/CcNodos.h"
 #include "core/contract/FDAPI.h"
-#include "forms/ScriptedUser.h"
-#include "support/Clocks.h"
-#include "support/MemorySettings.h"
-#include "text/Utf8.h"
 
 namespace fidaleon::app {
 namespace {
 
-constexpr const char* USER = "Secretaría";
-constexpr const char* LOG = "demo.log";
 constexpr const char* PARISH = "San Esteban Protomártir";
 constexpr const char* EMPTY_FIELDS =
     "Tiene campos sin rellenar. Estos campos se rellenarán con guiones. ¿Desea continuar?";
@@ -30,51 +20,25 @@ constexpr const char* LOSE_CHANGES =
     "Ha realizado cambios en las partidas del libro. ¿Desea cerrar el formulario y perder así "
     "todos los cambios realizados?";
 
-/// A step did not do what it should.
-struct Failed : std::runtime_error {
-  using std::runtime_error::runtime_error;
-};
-
-class Demo {
+class Demo : private DemoWalk {
  public:
-  Demo(const std::filesystem::path& directory, std::ostream& out)
-      : directory_(directory), out_(out) {}
+  using DemoWalk::DemoWalk;
 
   bool run() {
     bool good = true;
     try {
       prepareDirectory();
       walk();
-      say("El recorrido ha terminado bien: " + std::to_string(steps_) + " pasos.");
+      say("El recorrido ha terminado bien: " + std::to_string(steps()) + " pasos.");
     } catch (const std::exception& e) {
       say(std::string("FALLO: ") + e.what());
       good = false;
     }
-    say("Los ficheros están en " + directory_.string());
+    say("Los ficheros están en " + directory().string());
     return good;
   }
 
  private:
-  void say(const std::string& line) {
-    out_ << line << std::endl;
-    if (log_.is_open()) log_ << line << std::endl;
-  }
-
-  // What an earlier walk left behind goes; anything else is not ours to remove.
-  void prepareDirectory() {
-    std::filesystem::create_directories(directory_);
-    const ParishFiles files(directory_);
-    if (files.exists() && !std::filesystem::exists(directory_ / LOG))
-      throw Failed("En «" + directory_.string() + "» ya hay una parroquia; elija otra carpeta.");
-    for (const auto& entry : std::filesystem::directory_iterator(directory_)) {
-      const std::string ending = entry.path().extension().string();
-      if (ending == ".fidaleon" || ending == ".pdf" || ending == ".log")
-        std::filesystem::remove(entry.path());
-    }
-    log_.open(directory_ / LOG);
-    if (!log_) throw Failed("No se puede escribir en «" + directory_.string() + "».");
-  }
-
   void walk() {
     step("Se crea una parroquia nueva y vacía", [this] { newParish(); });
     step("Se piden los datos que necesitan los documentos", [this] { setUp(); });
@@ -93,24 +57,8 @@ class Demo {
     step("Se imprime el libro entero", [this] { printBook("libro"); });
     step("Se imprime su índice", [this] { printBook("indice"); });
     step("Se imprime el duplicado del año para la diócesis", [this] { duplicate(); });
+    walkPeople(*this);
     step("Se comprueba que no queda ningún bloqueo", [this] { noLocks(); });
-  }
-
-  void step(const std::string& title, const std::function<void()>& body) {
-    say(std::to_string(++steps_) + ". " + title);
-    body();
-    const std::vector<std::string> problems = user_.problems();
-    if (!problems.empty()) throw Failed(problems.front());
-  }
-
-  void check(bool condition, const std::string& what) {
-    if (!condition) throw Failed(what);
-    say("   comprobado: " + what);
-  }
-
-  std::string single(const std::string& sql) {
-    const auto rows = desk_->parish().Execute(sql);
-    return rows.EOF_() || rows.FieldCount() == 0 ? std::string() : rows.Fields(0).Value().text();
   }
 
   void newParish() {
@@ -120,38 +68,35 @@ class Demo {
     parish.user = USER;
     parish.town = demo::TOWN;
     parish.province = demo::PROVINCE_CODE;
-    parish.directory = directory_;
-    createParish(parish, clock_.today());
-    desk_ = std::make_unique<Desk>(ParishFiles(directory_), USER, user_, settings_, clock_);
-    user_.onForm = [this](forms::Form& form) {
-      say("   diálogo: " + (form.caption().empty() ? form.name() : form.caption()));
-    };
+    parish.directory = directory();
+    createParish(parish, clock().today());
+    openDesk();
     check(single("SELECT Nombre FROM Institucion") == PARISH, "la institución está dada de alta");
     check(single("SELECT COUNT(IDProvincia) AS N FROM Provincia") == "52",
           "están las 52 provincias");
   }
 
   void setUp() {
-    user_.expectForm("frmDatosSetup", demo::fillSetup);
-    check(desk_->setUp(), "los datos están completos");
+    user().expectForm("frmDatosSetup", demo::fillSetup);
+    check(desk().setUp(), "los datos están completos");
     check(single("SELECT Parroco FROM Institucion") == demo::PRIEST, "consta el párroco");
   }
 
   void newBook() {
-    user_.expectForm("frmAltaLibroBautismo", demo::createBook);
-    desk_->nucleo().NuevoLibro(desk_->parish(), desk_->config(), "LibrosBautismo");
+    user().expectForm("frmAltaLibroBautismo", demo::createBook);
+    desk().nucleo().NuevoLibro(desk().parish(), desk().config(), "LibrosBautismo");
     check(single("SELECT COUNT(IDLibroBautismo) AS N FROM Libro_Bautismo WHERE Nuevo=true AND "
                  "Cerrado=false") == "1",
           "hay un libro nuevo abierto");
   }
 
   void newEntry() {
-    desk_->nucleo().NuevaPartida(desk_->parish(), desk_->config(), "PartidasBautismo");
+    desk().nucleo().NuevaPartida(desk().parish(), desk().config(), "PartidasBautismo");
   }
 
   void firstEntry() {
-    user_.expectForm("frmPartidaBautismo", demo::enterFirstChild);
-    user_.expectMessage(FURTHER_ENTRIES, forms::Answer::No);
+    user().expectForm("frmPartidaBautismo", demo::enterFirstChild);
+    user().expectMessage(FURTHER_ENTRIES, forms::Answer::No);
     newEntry();
     check(position(1) == "1/1", "la partida está en el folio 1, número 1");
     check(single("SELECT Nombre FROM Bautismo_Hijo WHERE CodBautismo=1") == demo::FIRST_CHILD,
@@ -161,10 +106,10 @@ class Demo {
   }
 
   void secondEntry() {
-    user_.expectForm("frmPartidaBautismo", demo::enterSecondChild);
-    user_.expectForm("frmBuscaPadres", demo::chooseFamily);
-    user_.expectMessage(EMPTY_FIELDS, forms::Answer::Yes);
-    user_.expectMessage(FURTHER_ENTRIES, forms::Answer::No);
+    user().expectForm("frmPartidaBautismo", demo::enterSecondChild);
+    user().expectForm("frmBuscaPadres", demo::chooseFamily);
+    user().expectMessage(EMPTY_FIELDS, forms::Answer::Yes);
+    user().expectMessage(FURTHER_ENTRIES, forms::Answer::No);
     newEntry();
     check(position(2) == "2/2", "la partida está en el folio 2, número 2");
     const std::string father =
@@ -177,36 +122,36 @@ class Demo {
   }
 
   void correct() {
-    user_.expectForm("frmPartidaBautismo", demo::correctGodmother);
-    desk_->nucleo().PropiedadesPartida(desk_->parish(), 1, desk_->config(), "PartidasBautismo");
+    user().expectForm("frmPartidaBautismo", demo::correctGodmother);
+    desk().nucleo().PropiedadesPartida(desk().parish(), 1, desk().config(), "PartidasBautismo");
     check(single("SELECT Madrina FROM Bautismo WHERE IDBautismo=1") == demo::GODMOTHER,
           "la madrina corregida es " + std::string(demo::GODMOTHER));
     check(position(1) == "1/1", "la partida sigue en su folio y su número");
   }
 
   void annul() {
-    desk_->nucleo().AnularPartidas(desk_->parish(), 2, desk_->config(), "PartidasBautismo");
+    desk().nucleo().AnularPartidas(desk().parish(), 2, desk().config(), "PartidasBautismo");
     check(single("SELECT COUNT(IDBautismo) AS N FROM Bautismo WHERE Anulada=true") == "1",
           "una partida está anulada");
     check(position(2) == "2/2", "la partida anulada conserva su folio y su número");
   }
 
   std::string position(int id) {
-    const auto rows = desk_->parish().Execute(
+    const auto rows = desk().parish().Execute(
         "SELECT Folio, Numero FROM Bautismo WHERE IDBautismo=" + std::to_string(id));
     return rows.EOF_() ? std::string() : rows.text("Folio") + "/" + rows.text("Numero");
   }
 
   void document(const std::string& command, std::int32_t id, bool isSigned) {
-    if (isSigned) user_.expectForm("frmEncargado", demo::chooseKeeper);
-    const Document* d = findDocument(command, desk_->entorno().installation.Aplicacion);
-    const std::optional<paper::Report> report = makeReport(*desk_, *d, id);
+    if (isSigned) user().expectForm("frmEncargado", demo::chooseKeeper);
+    const Document* d = findDocument(command, desk().entorno().installation.Aplicacion);
+    const std::optional<paper::Report> report = makeReport(desk(), *d, id);
     check(report && report->rowCount() == 1, "el documento tiene una fila");
-    const auto row = desk_->reports().Execute("SELECT * FROM Documentos_Bautismo");
+    const auto row = desk().reports().Execute("SELECT * FROM Documentos_Bautismo");
     check(row.text("NombreHijo") == demo::FIRST_CHILD, "el documento es del niño inscrito");
     if (isSigned)
       check(row.text("InstitucionEncargado") == demo::PRIEST, "lo firma el encargado elegido");
-    const std::filesystem::path pdf = directory_ / (command + ".pdf");
+    const std::filesystem::path pdf = directory() / (command + ".pdf");
     report->savePdf(pdf);
     check(std::filesystem::file_size(pdf) > 1000, "guardado como " + pdf.filename().string());
   }
@@ -214,27 +159,27 @@ class Demo {
   /// Opens the book, adds two entries, takes the second out again, and ends as `end` does.
   void openBook(const std::function<void(forms::FormDriver&)>& end) {
     const auto add = [this](forms::FormDriver& book, const demo::Child& child) {
-      user_.expectForm("frmPartidaBautismo", [this, child](forms::FormDriver& entry) {
-        user_.expectMessage(EMPTY_FIELDS, forms::Answer::Yes);
-        user_.expectMessage(FURTHER_ENTRIES, forms::Answer::No);
+      user().expectForm("frmPartidaBautismo", [this, child](forms::FormDriver& entry) {
+        user().expectMessage(EMPTY_FIELDS, forms::Answer::Yes);
+        user().expectMessage(FURTHER_ENTRIES, forms::Answer::No);
         demo::enterListed(entry, child);
       });
       demo::addEntry(book);
     };
-    user_.expectForm("frmPropiedadesLibroBautismo", [add, end](forms::FormDriver& book) {
+    user().expectForm("frmPropiedadesLibroBautismo", [add, end](forms::FormDriver& book) {
       demo::showEntries(book);
       add(book, demo::LISTED_CHILD);
       add(book, demo::REMOVED_CHILD);
       demo::removeLastEntry(book);
       end(book);
     });
-    desk_->nucleo().PropiedadesLibro(desk_->parish(), 1, desk_->config(), "LibrosBautismo");
+    desk().nucleo().PropiedadesLibro(desk().parish(), 1, desk().config(), "LibrosBautismo");
   }
 
   void workInVain() {
     const std::string before = everything();
     openBook([this](forms::FormDriver& book) {
-      user_.expectMessage(LOSE_CHANGES, forms::Answer::Yes);
+      user().expectMessage(LOSE_CHANGES, forms::Answer::Yes);
       book.click("cmdBoton(1)");
     });
     check(everything() == before, "cancelado: nada ha cambiado en la parroquia");
@@ -249,18 +194,18 @@ class Demo {
 
   void requests() {
     for (const demo::Child& child : demo::REQUESTED_CHILDREN) {
-      user_.expectForm("frmPartidaBautismo",
-                       [child](forms::FormDriver& d) { demo::enterRequest(d, child); });
-      user_.expectMessage(FURTHER_REQUESTS, forms::Answer::No);
-      desk_->nucleo().NuevaSolicitud(desk_->parish(), desk_->config(), "SolicitudesBautismo");
+      user().expectForm("frmPartidaBautismo",
+                        [child](forms::FormDriver& d) { demo::enterRequest(d, child); });
+      user().expectMessage(FURTHER_REQUESTS, forms::Answer::No);
+      desk().nucleo().NuevaSolicitud(desk().parish(), desk().config(), "SolicitudesBautismo");
       check(position(idOf(child)) == "0/---",
             std::string("la solicitud de ") + child.name + " no está en ningún libro");
     }
   }
 
   void moveRequests() {
-    user_.expectForm("frmSolicitudes", demo::moveAllRequests);
-    desk_->nucleo().ImportarSolicitudes(desk_->parish(), desk_->config(), "SolicitudesBautismo");
+    user().expectForm("frmSolicitudes", demo::moveAllRequests);
+    desk().nucleo().ImportarSolicitudes(desk().parish(), desk().config(), "SolicitudesBautismo");
     int place = 3;
     for (const demo::Child& child : demo::REQUESTED_CHILDREN) {
       const std::string next = std::to_string(++place);
@@ -272,26 +217,16 @@ class Demo {
   }
 
   void printBook(const std::string& command) {
-    const Document* d = findDocument(command, desk_->entorno().installation.Aplicacion);
-    save(makeReport(*desk_, *d, 1), 6, command);
+    const Document* d = findDocument(command, desk().entorno().installation.Aplicacion);
+    save(makeReport(desk(), *d, 1), 6, command, "partidas");
   }
 
   void duplicate() {
-    user_.expectForm("frmInfDuplicadas", demo::chooseDuplicate);
-    const auto report = makeDuplicate(*desk_, CcNodos::INFDUPLICADASBAUTISMO);
-    const auto rows = desk_->reports().Execute("SELECT * FROM Documentos_Bautismo");
+    user().expectForm("frmInfDuplicadas", demo::chooseDuplicate);
+    const auto report = makeDuplicate(desk(), CcNodos::INFDUPLICADASBAUTISMO);
+    const auto rows = desk().reports().Execute("SELECT * FROM Documentos_Bautismo");
     check(rows.text("NombreHijo") == "Candela", "las partidas van por apellidos");
-    save(report, 2, "duplicado");
-  }
-
-  void save(const std::optional<paper::Report>& report, std::size_t rows, const std::string& name) {
-    check(report && report->rowCount() == rows,
-          "el documento tiene " + std::to_string(rows) + " partidas");
-    const int pages = report->pageCount();
-    check(pages > 0, "ocupa páginas: " + std::to_string(pages));
-    const std::filesystem::path pdf = directory_ / (name + ".pdf");
-    report->savePdf(pdf);
-    check(std::filesystem::file_size(pdf) > 1000, "guardado como " + pdf.filename().string());
+    save(report, 2, "duplicado", "partidas");
   }
 
   int idOf(const demo::Child& child) {
@@ -305,7 +240,7 @@ class Demo {
     std::string all;
     for (const char* table : {"Bautismo", "Bautismo_Hijo", "Bautismo_Padres", "Bautismo_Madres",
                               "Bautismo_Matrimonio", "Libro_Bautismo"})
-      for (auto set = desk_->parish().Execute("SELECT * FROM " + std::string(table)); !set.EOF_();
+      for (auto set = desk().parish().Execute("SELECT * FROM " + std::string(table)); !set.EOF_();
            set.MoveNext()) {
         for (int f = 0; f < static_cast<int>(set.FieldCount()); ++f)
           all += set.Fields(f).Value().text() + "|";
@@ -315,9 +250,10 @@ class Demo {
   }
 
   void noLocks() {
-    const auto session = desk_->entorno().support.create_cProcesarBloqueos();
-    session->Inicializar(directory_.string());
-    for (const char* table : {"Bautismo", "Libro_Bautismo", "Institucion"}) {
+    const auto session = desk().entorno().support.create_cProcesarBloqueos();
+    session->Inicializar(directory().string());
+    for (const char* table : {"Bautismo", "Libro_Bautismo", "Institucion", "Padron", "Actividad",
+                              "Grupo", "Padron_Actividad", "Cargo"}) {
       FDAPI::DefinicionBloqueo whole;
       whole.strTabla = table;
       session->DefinirBloqueo(whole);
@@ -325,15 +261,6 @@ class Demo {
     check(session->lngEfectuarBloqueos() == 0, "las tablas quedan libres para otros equipos");
     session->LiberarBloqueos();
   }
-
-  std::filesystem::path directory_;
-  std::ostream& out_;
-  std::ofstream log_;
-  int steps_ = 0;
-  forms::ScriptedUser user_;
-  support::MemorySettings settings_;
-  support::SystemClock clock_;
-  std::unique_ptr<Desk> desk_;
 };
 
 }  // namespace

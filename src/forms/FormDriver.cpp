@@ -63,23 +63,25 @@ void FormDriver::press(const std::string& name, KeyPress key) {
 void FormDriver::choose(const std::string& name, const std::string& text) {
   auto& list = get<ListControl>(name);
   if (!reach(list)) return;
-  for (int i = 0; i < list.listCount(); ++i) {
-    if (list.list(i) != text) continue;
-    if (!list.userSelect(i)) problem("«" + name + "» is locked");
-    return;
-  }
+  for (int i = 0; i < list.listCount(); ++i)
+    if (list.list(i) == text) return chooseLine(list, i);
   problem("«" + name + "» has no line «" + text + "»");
 }
 
 void FormDriver::chooseData(const std::string& name, std::int64_t data) {
   auto& list = get<ListControl>(name);
   if (!reach(list)) return;
-  for (int i = 0; i < list.listCount(); ++i) {
-    if (list.itemData(i) != data) continue;
-    if (!list.userSelect(i)) problem("«" + name + "» is locked");
-    return;
-  }
+  for (int i = 0; i < list.listCount(); ++i)
+    if (list.itemData(i) == data) return chooseLine(list, i);
   problem("«" + name + "» has no line with key " + std::to_string(data));
+}
+
+// A click in a list of many selections leaves that line as the only one.
+void FormDriver::chooseLine(ListControl& list, int index) {
+  if (!list.userSelect(index)) return problem("«" + list.name() + "» is locked");
+  auto* many = dynamic_cast<ListBox*>(&list);
+  if (!many || !many->multiSelect()) return;
+  for (int i = 0; i < many->listCount(); ++i) many->setSelected(i, i == index);
 }
 
 void FormDriver::click(const std::string& name) {

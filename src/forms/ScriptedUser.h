@@ -50,6 +50,7 @@ class FormDriver {
 
  private:
   Control& require(const std::string& name) const;
+  void chooseLine(ListControl& list, int index);
   bool reach(Control& control);
   void problem(const std::string& text) const;
   Form& form_;

@@ -117,7 +117,10 @@ void TextBox::insertAtCaret(const std::string& text) {
 void TextBox::press(KeyPress key) {
   if (!usable()) return;
   filterKey(key);
-  if (key.changed()) return insertAtCaret(*key.replacement);
+  if (key.changed()) {
+    if (!key.replacement->empty()) insertAtCaret(*key.replacement);
+    return;
+  }
   if (key.key == Key::Character || key.key == Key::Space)
     return insertAtCaret(text::toUtf8(std::u32string(1, key.character)));
   if (key.key == Key::Enter && multiline()) return insertAtCaret("\r\n");
