@@ -37,7 +37,7 @@ frmPadron::frmPadron(Contexto& contexto)
       fraDefuncion(*this, "fraDefuncion", "DEFUNCIÓN"),
       lblMoneda(*this, "lblMoneda", "Pts"),
       msgNotas(*this, "msgNotas"),
-      cmdAltaInstitucion(*this, "cmdAltaInstitucion", "Agregar Institución"),
+      cmdAltaInstitucion(*this, "cmdAltaInstitucion", "Agregar Instit&ución"),
       cmdAltaProvincia(*this, "cmdAltaProvincia"),
       cmdAltaPoblacion(*this, "cmdAltaPoblacion"),
       cmdNotas(*this, "cmdNotas"),
@@ -71,7 +71,9 @@ void frmPadron::municipio(Lista provincia, std::int32_t Persona::*miembro) {
   forms::ComboBox& poblaciones = cboPadron.add(provincia + 1, "POBLACIÓN:");
   municipios_.push_back({&pares_.emplace_back(contexto_, provincias, poblaciones), miembro});
   cmdAltaProvincia.add(provincia, "Agregar Provincia");
-  cmdAltaPoblacion.add(provincia, "Agregar Población");
+  // The first tab is short of letters; no field shall be the one that goes without.
+  cmdAltaPoblacion.add(
+      provincia, provincia == ProvinciaDireccion ? "Agregar P&oblación" : "Agregar Población");
 }
 
 void frmPadron::parroquia(Texto indice, Lista provincia, std::string Persona::*nombre,
@@ -148,7 +150,7 @@ void frmPadron::crearBotones() {
   cmdNotas.add(QUITAR, "QUITAR");
   cmdPadron.add(ACEPTAR, "ACEPTAR").setDefault(true);
   cmdPadron.add(CANCELAR, "CANCELAR").setCancel(true);
-  cmdPadron.add(BUSCAR, "BUSCAR").setToolTip("Busca a la persona entre las que ya están");
+  cmdPadron.add(BUSCAR, "BÚS&QUEDA").setToolTip("Busca a la persona entre las que ya están");
 }
 
 LayoutNode frmPadron::disposicion() {
@@ -174,7 +176,7 @@ LayoutNode frmPadron::paginaDatos() {
                           item(txtPadron[SegundoApellido]),
                           item(txtPadron[NIF], {&txtPadron[LetraNIF]}), item(txtPadron[Direccion]),
                           campoProvincia(ProvinciaDireccion), campoPoblacion(ProvinciaDireccion),
-                          item(txtPadron[CPostal], 2), item(txtPadron[Telefono]),
+                          item(txtPadron[CPostal]), item(txtPadron[Telefono]),
                           item(txtPadron[Telefono2]), item(txtPadron[CorreoElectronico]),
                           item(cboPadron[Sexo]), item(txtPadron[EstadoCivil]),
                           item(txtPadron[ProfesionColegio]), item(txtPadron[PosicionFamiliar])}),
