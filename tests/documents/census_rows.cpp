@@ -216,10 +216,10 @@ TEST(AgendaRows, OfTheYear_AreCutByPosition) {
   w.tarea("20260101", "0930", "Coro");
   w.tarea("20260101", "9:5", "Mal escrita", "", "");
   w.informes.InformeAgenda(w.con(), w.conInformes(), w.progreso);
-  EXPECT_THAT(
-      w.lineas({"Fecha", "HInicio", "HFin", "Nombre", "Descripcion"}, "Tareas_Agenda"),
-      ElementsAre("01/01/2026 09:30 20:30 Coro Descripción", "01/01/2026 09:30 20:30 Misa Cantada",
-                  "01/01/2026 9:::5 : Mal escrita ", "31/12/2026 18:00 20:30 Vísperas Descripción"));
+  EXPECT_THAT(w.lineas({"Fecha", "HInicio", "HFin", "Nombre", "Descripcion"}, "Tareas_Agenda"),
+              ElementsAre("01/01/2026 09:30 20:30 Coro Descripción",
+                          "01/01/2026 09:30 20:30 Misa Cantada", "01/01/2026 9:::5 : Mal escrita ",
+                          "31/12/2026 18:00 20:30 Vísperas Descripción"));
   EXPECT_THAT(w.progreso.sucesos, ElementsAre("Cargar 4 Procesando vista preliminar ... 1 0", "0",
                                               "1", "2", "3", "4", "4"));
   EXPECT_FALSE(w.conInformes().inTransaction());
