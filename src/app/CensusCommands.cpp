@@ -10,6 +10,7 @@ constexpr unsigned PEOPLE = bit(NodeKind::People);
 constexpr unsigned COLLABORATORS = bit(NodeKind::Collaborators);
 constexpr unsigned ACTIVITIES = bit(NodeKind::Activities);
 constexpr unsigned OFFICES = bit(NodeKind::Offices);
+constexpr unsigned TASKS = bit(NodeKind::Tasks);
 constexpr unsigned LIST_REPORTS = bit(NodeKind::ListReports);
 
 Command adds(const char* id, const char* text, const char* tip, unsigned kinds, Run run) {
@@ -113,6 +114,10 @@ void addListReportCommands(std::vector<Command>& all) {
   add(opening(inToolbar("print", line("informe", "&Elegir e imprimir…", "Ctrl+P",
                                       "Pregunta qué se quiere imprimir y lo muestra", LIST_REPORTS,
                                       Needs::Nothing, print<Extent::Chosen>))));
+  add(inToolbar("print",
+                line("informe-de-la-lista", "&Informe…", "Ctrl+P",
+                     "Pregunta qué se quiere imprimir de la lista y lo muestra",
+                     COLLABORATORS | ACTIVITIES | TASKS, Needs::Nothing, print<Extent::Chosen>)));
   add(inToolbar("list", line("informe-entero", "Imprimir &todo…", "Ctrl+Shift+P",
                              "Muestra el informe entero sin preguntar; las tareas, las del año",
                              LIST_REPORTS, Needs::Nothing, print<Extent::Entire>)));

@@ -151,13 +151,13 @@ std::optional<paper::Report> makeDuplicate(Desk& desk, const std::string& node,
 const std::vector<ListReport>& listReports() {
   const auto node = [](const char* title) { return CcNodos::INFORMES + std::string(title); };
   static const std::vector<ListReport> all{
-      {node(CcNodos::INFACTIVIDADES), "InformeActividad", &cNucleo::SelInfActividad,
-       &cNucleo::InformeActividad},
-      {node(CcNodos::INFCOLABORADORES), "InformeColaborador", &cNucleo::SelInfColaborador,
-       &cNucleo::InformeColaborador},
-      {node(CcNodos::INFCOLABORADORESEXTENDIDO), "InformeColaboradorExt",
+      {node(CcNodos::INFACTIVIDADES), CcNodos::ACTIVIDAD, "InformeActividad",
+       &cNucleo::SelInfActividad, &cNucleo::InformeActividad},
+      {node(CcNodos::INFCOLABORADORES), CcNodos::COLABORADOR, "InformeColaborador",
+       &cNucleo::SelInfColaborador, &cNucleo::InformeColaborador},
+      {node(CcNodos::INFCOLABORADORESEXTENDIDO), "", "InformeColaboradorExt",
        &cNucleo::SelInfColaboradorExt, &cNucleo::InformeColaboradorExt},
-      {node(CcNodos::INFAGENDA), "InformeAgenda", &cNucleo::SelInfTareasAgenda,
+      {node(CcNodos::INFAGENDA), "Tareas", "InformeAgenda", &cNucleo::SelInfTareasAgenda,
        &cNucleo::InformeAgenda},
   };
   return all;
@@ -165,7 +165,7 @@ const std::vector<ListReport>& listReports() {
 
 const ListReport* findListReport(const std::string& node) {
   for (const ListReport& r : listReports())
-    if (r.node == node) return &r;
+    if (r.node == node || r.list == node) return &r;
   return nullptr;
 }
 

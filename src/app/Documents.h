@@ -49,9 +49,11 @@ std::optional<paper::Report> makeReport(Desk& desk, const Document& document, st
 std::optional<paper::Report> makeDuplicate(Desk& desk, const std::string& node,
                                            paper::ReportOptions options = {});
 
-/// A report on the people or tasks of the parish. It stands under a node of its own.
+/// A report on the people or tasks of the parish. It stands under a node of its own, and can be
+/// asked for from the list whose rows it prints.
 struct ListReport {
   std::string node;
+  std::string list;       // empty when another report is the one of that list
   std::string operation;  // name in the catalogue of templates
   void (cNucleo::*chosen)(FDAPI::Conexion& parish, FDAPI::Conexion& reports) = nullptr;
   void (cNucleo::*entire)(FDAPI::Conexion& parish, FDAPI::Conexion& reports,
@@ -59,7 +61,7 @@ struct ListReport {
 };
 
 const std::vector<ListReport>& listReports();
-/// Null when there is none of that node.
+/// By the node of the report or that of the list; null when there is none.
 const ListReport* findListReport(const std::string& node);
 
 /// Empties the scratch tables, runs the operation and lays out what it wrote. Nothing when the user

@@ -88,8 +88,13 @@ void MainWindow::nodeChosen() {
   updateCommands();
 }
 
+// The first row, or the next that is to come.
 void MainWindow::selectFirst() {
-  if (shown_.rowCount() > 0) table_->selectRow(0);
+  if (shown_.rowCount() == 0) return;
+  const int coming = rows_.nextFrom(text::toStored(desk_.entorno().clock.today()));
+  const QModelIndex index = shown_.mapFromSource(rows_.index(coming, 0));
+  table_->selectRow(index.isValid() ? index.row() : 0);
+  if (index.isValid()) table_->scrollTo(index, QAbstractItemView::PositionAtTop);
 }
 
 void MainWindow::showEntriesOf(std::int32_t book) {

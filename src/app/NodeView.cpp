@@ -212,6 +212,7 @@ void describeOffices(NodeView& v) {
 void describeTasks(NodeView& v) {
   v.key = "IDTarea";
   v.things = "tareas";
+  v.day = "Fecha";
   v.node.SQLSelect =
       "SELECT IDTarea, Fecha, HoraInicio, HoraFin, Nombre, Descripcion FROM Tareas ORDER BY Fecha, "
       "HoraInicio, HoraFin, Nombre, IDTarea";

@@ -60,6 +60,7 @@ struct NodeView {
   std::vector<ColumnView> columns;
   std::string annulled;  // field of the mark of an annulled row; empty when there is none
   std::string group;     // field that puts rows together, such as their book; or empty
+  std::string day;       // field by which the list opens at today; empty for its first row
   std::string things;    // "partidas": what the rows are, for the status bar
 };
 

@@ -124,6 +124,19 @@ int RowsModel::rowOf(std::int32_t key) const {
   return found == rows_.end() ? -1 : static_cast<int>(found - rows_.begin());
 }
 
+int RowsModel::nextFrom(const std::string& day) const {
+  const auto& columns = view_->columns;
+  const auto at = std::find_if(columns.begin(), columns.end(),
+                               [&](const ColumnView& c) { return c.field == view_->day; });
+  if (at == columns.end()) return -1;
+  const int column = static_cast<int>(at - columns.begin());
+  int next = -1;
+  for (int row = 0; row < rowCount(); ++row)
+    if (stored(row, column) >= day && (next < 0 || stored(row, column) < stored(next, column)))
+      next = row;
+  return next;
+}
+
 const std::string& RowsModel::stored(int row, int column) const {
   return cells_[static_cast<std::size_t>(row) * view_->columns.size() +
                 static_cast<std::size_t>(column)];

@@ -36,6 +36,9 @@ class RowsModel : public QAbstractTableModel {
   std::vector<std::int32_t> keys() const;
   /// The row of that key, or -1.
   int rowOf(std::int32_t key) const;
+  /// The first row of the earliest day that is not before `day` ("yyyymmdd"), or -1: when there is
+  /// none, or the node's list does not open at a day.
+  int nextFrom(const std::string& day) const;
   /// As the table holds it.
   const std::string& stored(int row, int column) const;
   /// Where the row comes when that column is sorted; rows that are equal there have the same.

@@ -19,7 +19,7 @@ frmTarea::frmTarea(forms::UserInterface& ui, Settings& settings, const Clock& cl
   setCaption(id == 0 ? "Agregar tarea" : "Propiedades de la tarea");
   txtNombre.setMaxLength(255);
   txtNombre.setWidthChars(50);
-  txtDescripcion.setLines(5);
+  txtDescripcion.setLines(8);
   txtDescripcion.setWidthChars(50);
   // Most tasks are short: the end is proposed, and there to be changed.
   txtHoraInicio.onLostFocus = [this](forms::Control*) {

@@ -158,6 +158,28 @@ TEST_F(CensusWindow, choiceGivenUp_showsNothing) {
   window->showNode("InformesColaboradores");
   user.expectForm("frmInfActividad", [](FormDriver& d) { d.escape(); });
   give("informe");
+  window->showNode("Colaboradores");
+  user.expectForm("frmInfActividad", [](FormDriver& d) {
+    EXPECT_EQ(d.caption(), "Informe de colaboradores");
+    d.escape();
+  });
+  give("informe-de-la-lista");
+}
+
+TEST_F(CensusWindow, tasksOpenAtTheNextOne) {
+  open("Tareas");
+  const std::string chosen = std::to_string(window->choice().id);
+  EXPECT_EQ(rowsOf("SELECT IDTarea FROM Tareas WHERE Fecha>=\"20260520\" AND IDTarea=" + chosen),
+            1);
+  EXPECT_EQ(rowsOf("SELECT IDTarea FROM Tareas WHERE Fecha>=\"20260520\" AND Fecha<(SELECT Fecha "
+                   "FROM Tareas WHERE IDTarea=" +
+                   chosen + ")"),
+            0);
+  desk->parish().Execute("DELETE * FROM Tareas WHERE Fecha>=\"20260520\"");
+  window->action("actualizar")->trigger();
+  window->showNode("Cargos");
+  window->showNode("Tareas");
+  EXPECT_EQ(window->table().currentIndex().row(), 0);
 }
 
 }  // namespace

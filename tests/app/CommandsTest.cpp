@@ -49,12 +49,14 @@ TEST(Commands, anEntryIsAnnulledOrValidated_neverBoth) {
 TEST(Commands, peopleAreOpenedInEitherRole_andDeletedInTheirOwn) {
   EXPECT_EQ(given(at("Padrón", 7)), (Ids{"nuevo-empadronado", "propiedades-empadronado",
                                          "abrir-como-colaborador", "eliminar-empadronado"}));
-  EXPECT_EQ(given(at("Colaboradores", 7)), (Ids{"nuevo-colaborador", "propiedades-colaborador",
-                                                "ver-en-el-padron", "eliminar-colaborador"}));
-  EXPECT_EQ(given(at("Actividades", 7)),
-            (Ids{"nueva-actividad", "propiedades-actividad", "eliminar-actividad"}));
+  EXPECT_EQ(given(at("Colaboradores", 7)),
+            (Ids{"nuevo-colaborador", "propiedades-colaborador", "ver-en-el-padron",
+                 "eliminar-colaborador", "informe-de-la-lista"}));
+  EXPECT_EQ(given(at("Actividades", 7)), (Ids{"nueva-actividad", "propiedades-actividad",
+                                              "eliminar-actividad", "informe-de-la-lista"}));
   EXPECT_EQ(given(at("Cargos")), Ids{"nuevo-cargo"});
-  EXPECT_EQ(given(at("Tareas", 7)), (Ids{"nueva-tarea", "propiedades", "eliminar"}));
+  EXPECT_EQ(given(at("Tareas", 7)),
+            (Ids{"nueva-tarea", "propiedades", "eliminar", "informe-de-la-lista"}));
 }
 
 TEST(Commands, whatTakesRowsAway_isMarkedAndHasTheDeleteKey) {
@@ -121,7 +123,8 @@ TEST(Documents, everyReportNodeHasItsReport_withATemplate) {
     EXPECT_EQ(given({&v, 0, false}), (Ids{"informe", "informe-entero"}));
   }
   EXPECT_EQ(nodes, 4);
-  EXPECT_FALSE(findListReport("Actividades"));
+  EXPECT_EQ(findListReport("Colaboradores")->operation, "InformeColaborador");
+  EXPECT_FALSE(findListReport("Padrón"));
 }
 
 TEST(Documents, everyEditionHasEachDocument_withATemplate) {
