@@ -204,6 +204,8 @@ TEST(NuevoEmpadronado, KeysThatDoNotFitAField_BeepOrAreChanged) {
     u.type(txt(Padron::CPostal), "2801345");
     EXPECT_EQ(u.text(txt(Padron::CPostal)), "28013");
     EXPECT_EQ(u.text(txt(Padron::NIF)), "00000012");
+    u.type(txt(Padron::LetraNIF), "\"");
+    EXPECT_EQ(u.text(txt(Padron::LetraNIF)), "'");
     u.type(txt(Padron::LetraNIF), "7ñ");
     EXPECT_EQ(u.text(txt(Padron::LetraNIF)), "Ñ");
     u.type(txt(Padron::NIF), "");
@@ -228,6 +230,33 @@ TEST(NuevoEmpadronado, PersonsThere_SuggestTheirPositionsAndCivilStatus) {
     EXPECT_THAT(posicion, ElementsAre("Hijo", "Padre"));
     EXPECT_THAT(u.get<forms::TextBox>(txt(Padron::EstadoCivil)).suggestions(),
                 ElementsAre("Soltero"));
+    u.escape();
+  });
+}
+
+TEST(NuevoEmpadronado, CatalogueGrowsFromTheDialog_ListsShowItAndKeepWhatWasChosen) {
+  PadronWorld w;
+  w.municipio("Illescas", "Toledo");
+  w.alta([&](FormDriver& u) {
+    u.choose(cbo(Padron::ProvinciaDireccion), "Toledo");
+    u.choose(cbo(Padron::ProvinciaDireccion + 1), "Illescas");
+    w.user.expectForm("frmInstitucion", [](FormDriver& f) {
+      f.type("txtInstitucion(0)", "San José");
+      f.click("cmdBoton(0)");
+    });
+    u.click("cmdAltaInstitucion");
+    EXPECT_EQ(u.text(cbo(Padron::Institucion)), "San José");
+    w.user.expectForm("frmProvincia", [](FormDriver& f) {
+      f.type("txtNombre", "Ultramar");
+      f.click("cmdBoton(0)");
+    });
+    u.click("cmdAltaProvincia(0)");
+    u.tab(MST, Padron::TAB_SACRAMENTOS);
+    u.choose(cbo(Padron::ProvinciaMatr), "Ultramar");
+    w.user.expectForm("frmMunicipio", [](FormDriver& f) { f.escape(); });
+    u.click("cmdAltaPoblacion(8)");
+    EXPECT_EQ(u.text(cbo(Padron::ProvinciaMatr)), "Ultramar");
+    EXPECT_EQ(u.text(cbo(Padron::ProvinciaDireccion + 1)), "Illescas");
     u.escape();
   });
 }

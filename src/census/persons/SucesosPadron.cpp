@@ -1,5 +1,7 @@
 // What the controls of the census dialog set off.
 
+#include <algorithm>
+
 #include "census/money/cCurrency.h"
 #include "census/persons/ProcedimientoPadron.h"
 #include "census/search/frmMensaje.h"
@@ -108,7 +110,8 @@ void frmPadron::NIF_LostFocus() {
 }
 
 void frmPadron::letraNIF_KeyPress(forms::KeyPress& tecla) {
-  if (tecla.key != forms::Key::Character || tecla.ctrl || tecla.alt) return;
+  const bool tecleada = tecla.key == forms::Key::Character && !tecla.ctrl && !tecla.alt;
+  if (!tecleada || tecla.character == U'"') return;
   const bool cifra = tecla.character >= U'0' && tecla.character <= U'9';
   cifra ? tecla.swallow()
         : tecla.replaceWith(text::upper(text::toUtf8(std::u32string(1, tecla.character))));
@@ -171,9 +174,13 @@ void frmPadron::formatearImporte() {
 
 void frmPadron::altaInstitucion() {
   forms::ComboBox& instituciones = cboPadron[Institucion];
-  const std::int64_t elegida = instituciones.data();
+  std::int64_t elegida = instituciones.data();
+  const int antes = instituciones.listCount();
   contexto_.fidaleon()->NuevaInstitucion(*conBaseDatos, contexto_.config());
   contexto_.entorno.support.create_cIListas()->fillInstituciones(instituciones, 0, *conBaseDatos);
+  const bool agregada = instituciones.listCount() > antes;
+  for (int i = 0; agregada && i < instituciones.listCount(); ++i)
+    elegida = std::max(elegida, instituciones.itemData(i));
   instituciones.selectData(elegida);
 }
 
