@@ -287,6 +287,38 @@ TEST(FrmColaborador, EditFails_LeavesTheStoredPersonAndTheTypedTexts) {
   EXPECT_SCRIPT_DONE(w.user);
 }
 
+/// Notes whether the store is still held while a message waits for its answer.
+struct Vigilante : forms::ScriptedUser {
+  forms::Answer msgBox(const std::string& text, forms::MsgButtons botones, forms::MsgIcon icono,
+                       const std::string& titulo) override {
+    retenido = conexion->inTransaction();
+    return ScriptedUser::msgBox(text, botones, icono, titulo);
+  }
+  store::Connection* conexion = nullptr;
+  bool retenido = true;
+};
+
+TEST(FrmColaborador, FailureIsTold_WhenOthersCanWriteAgain) {
+  ColaboradorWorld w;
+  Vigilante usuario;
+  usuario.conexion = &w.con();
+  support::HostSupport apoyo{usuario, w.settings, w.clock, w.config, "DESPACHO"};
+  Entorno entorno{usuario, apoyo, w.settings, w.clock, w.entorno.installation};
+  Contexto contexto(entorno);
+  contexto.gobjConfig = &w.config;
+  FailingEngine::wrap(w.con())->failOn("INSERT INTO Padron_Bautismo");
+  usuario.expectForm("frmColaborador", [&](FormDriver& u) {
+    ponerNombre(u);
+    usuario.answerAnything(forms::Answer::Ok);
+    u.click(ACEPTAR);
+    EXPECT_EQ(usuario.messages().size(), 1u);
+    EXPECT_FALSE(usuario.retenido);
+    u.close();
+  });
+  censo::NuevoColaborador(contexto, w.con());
+  EXPECT_SCRIPT_DONE(usuario);
+}
+
 TEST(FrmColaborador, SameNameInTheCensus_ChosenIsOpenedInsteadOfANewOne) {
   ColaboradorWorld w;
   const std::int32_t id = w.persona("Ana", "Gil", "Sanz");

@@ -63,6 +63,7 @@ bool frmColaborador::faltaNacimiento() {
 void frmColaborador::rechazar(Pestaña pestaña, Texto campo, const std::string& mensaje) {
   forms::warn(ui(), mensaje);
   mstColaborador.setTab(pestaña);
+  txtColaborador[campo].selectAll();
   setFocus(txtColaborador[campo]);
 }
 
@@ -94,43 +95,39 @@ std::string frmColaborador::fechaBautizo() const {
                                                        : adtpFechaBautizo.stored();
 }
 
+// Accepting again after a failure must not find half of the person there; and what was written is
+// taken back before the failure is told, since nobody else can write until then.
 bool frmColaborador::guardar(Persona persona) {
-  const forms::Hourglass reloj(ui());
-  // Accepting again after a failure must not find half of the person there.
-  store::Transaction transaccion(*conBaseDatos);
-  const bool guardada =
-      Operacion == cCOperacion::ANADIR ? AgregarColaborador(persona) : EditarColaborador(persona);
-  if (!guardada) return false;
-  guardarActividades(persona.CodPadron);
-  transaccion.commit();
-  return true;
-}
-
-bool frmColaborador::AgregarColaborador(Persona& persona) {
-  return procedimiento("AgregarColaborador", [&] {
-    conBaseDatos->Execute(sqlInsertar(ALTA_COLABORADOR, persona));
-    persona.CodPadron = static_cast<std::int32_t>(
-        conBaseDatos->Execute("SELECT MAX(IDPADRON) AS IDPADRON FROM PADRON").integer("IDPADRON"));
-    conBaseDatos->Execute(sqlInsertar(ALTA_COLABORADOR_NACIMIENTO, persona));
-    conBaseDatos->Execute(sqlInsertar(ALTA_COLABORADOR_BAUTISMO, persona));
-    for (const std::string& fila : sqlSatelitesVacios(persona.CodPadron))
-      conBaseDatos->Execute(fila);
-    darTipoColaborador(persona.CodPadron);
+  const bool alta = Operacion == cCOperacion::ANADIR;
+  return procedimiento(alta ? "AgregarColaborador" : "EditarColaborador", [&] {
+    const forms::Hourglass reloj(ui());
+    store::Transaction transaccion(*conBaseDatos);
+    alta ? AgregarColaborador(persona) : EditarColaborador(persona);
+    guardarActividades(persona.CodPadron);
+    transaccion.commit();
   });
 }
 
-bool frmColaborador::EditarColaborador(const Persona& persona) {
-  return procedimiento("EditarColaborador", [&] {
-    const std::string id = std::to_string(IDPadron);
-    conBaseDatos->Execute(sqlActualizar(FICHA_COLABORADOR, persona) + " WHERE IDPadron=" + id);
-    guardarFila(ALTA_COLABORADOR_NACIMIENTO, FICHA_COLABORADOR_NACIMIENTO, persona);
-    guardarFila(ALTA_COLABORADOR_BAUTISMO, FICHA_COLABORADOR_BAUTISMO, persona);
-    if (conBaseDatos
-            ->Execute("SELECT * FROM [Padron_TipoPersona] WHERE CodPadron=" + id +
-                      " And CodTipoPersona=3")
-            .EOF_())
-      darTipoColaborador(IDPadron);
-  });
+void frmColaborador::AgregarColaborador(Persona& persona) {
+  conBaseDatos->Execute(sqlInsertar(ALTA_COLABORADOR, persona));
+  persona.CodPadron = static_cast<std::int32_t>(
+      conBaseDatos->Execute("SELECT MAX(IDPADRON) AS IDPADRON FROM PADRON").integer("IDPADRON"));
+  conBaseDatos->Execute(sqlInsertar(ALTA_COLABORADOR_NACIMIENTO, persona));
+  conBaseDatos->Execute(sqlInsertar(ALTA_COLABORADOR_BAUTISMO, persona));
+  for (const std::string& fila : sqlSatelitesVacios(persona.CodPadron)) conBaseDatos->Execute(fila);
+  darTipoColaborador(persona.CodPadron);
+}
+
+void frmColaborador::EditarColaborador(const Persona& persona) {
+  const std::string id = std::to_string(IDPadron);
+  conBaseDatos->Execute(sqlActualizar(FICHA_COLABORADOR, persona) + " WHERE IDPadron=" + id);
+  guardarFila(ALTA_COLABORADOR_NACIMIENTO, FICHA_COLABORADOR_NACIMIENTO, persona);
+  guardarFila(ALTA_COLABORADOR_BAUTISMO, FICHA_COLABORADOR_BAUTISMO, persona);
+  if (conBaseDatos
+          ->Execute("SELECT * FROM [Padron_TipoPersona] WHERE CodPadron=" + id +
+                    " And CodTipoPersona=3")
+          .EOF_())
+    darTipoColaborador(IDPadron);
 }
 
 void frmColaborador::guardarFila(const Tabla<Persona>& alta, const Tabla<Persona>& ficha,

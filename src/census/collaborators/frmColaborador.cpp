@@ -50,7 +50,7 @@ constexpr CampoTexto CAMPOS[] = {
     {C::NombreMadre, "NOMBRE DE LA MADRE:", &Persona::NombreMadre},
     {C::ParroquiaBaut, "PARROQUIA:", &Persona::ParroquiaBaut},
     {C::DireccionParrBaut, "DIRECCION:", &Persona::DireccionParrBaut},
-    {C::Observaciones, "OBSERVACIONES:", &Persona::Observaciones, MEMO, 14},
+    {C::Observaciones, "OBSERVACIONES:", &Persona::Observaciones, MEMO, 10},
 };
 
 }  // namespace
@@ -119,12 +119,13 @@ LayoutNode frmColaborador::paginaDatos() {
   const auto texto = [this](Texto indice, int ancho = 1) {
     return item(txtColaborador[indice], ancho);
   };
-  return page({fields(
-      2, {texto(Nombre, 2), texto(PrimerApellido), texto(SegundoApellido), texto(Direccion, 2),
-          item(cboColaborador[ProvinciaDomicilio], {&cmdAgregarProvincia[DOMICILIO]}),
-          item(cboColaborador[ProvinciaDomicilio + 1], {&cmdAgregarMunicipio[DOMICILIO]}),
-          texto(CPostal, 2), texto(Telefono), texto(Telefono2), texto(CorreoElectronico),
-          texto(ProfesionColegio), texto(Comentarios, 2)})});
+  return page(
+      {fields(2, {texto(Nombre, 2), texto(PrimerApellido), texto(SegundoApellido), texto(Direccion),
+                  texto(CPostal),
+                  item(cboColaborador[ProvinciaDomicilio], {&cmdAgregarProvincia[DOMICILIO]}),
+                  item(cboColaborador[ProvinciaDomicilio + 1], {&cmdAgregarMunicipio[DOMICILIO]}),
+                  texto(Telefono), texto(Telefono2), texto(CorreoElectronico),
+                  texto(ProfesionColegio), texto(Comentarios, 2)})});
 }
 
 LayoutNode frmColaborador::disposicion() {

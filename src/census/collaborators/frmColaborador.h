@@ -123,8 +123,8 @@ class frmColaborador : public forms::Form {
   std::string fechaNacimiento() const;
   std::string fechaBautizo() const;
   bool guardar(Persona persona);
-  bool AgregarColaborador(Persona& persona);
-  bool EditarColaborador(const Persona& persona);
+  void AgregarColaborador(Persona& persona);
+  void EditarColaborador(const Persona& persona);
   void guardarFila(const Tabla<Persona>& alta, const Tabla<Persona>& ficha, const Persona& persona);
   void darTipoColaborador(std::int32_t idPadron);
 
