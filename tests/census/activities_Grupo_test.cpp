@@ -87,19 +87,20 @@ TEST(Grupo, Members_AreCollaboratorsEachInOneListWithTheirOffice) {
   EXPECT_SCRIPT_DONE(w.user);
 }
 
-TEST(Grupo, DoubleClick_MovesWithTheOfficeOfAll) {
+TEST(Grupo, DoubleClick_MovesOneAndAsksForItsOffice) {
   ActividadesWorld w;
   w.editar([&](FormDriver& d) {
     w.abrirGrupo(d, 2, [&](FormDriver& g) {
       g.tab("mstGrupo", 1);
-      w.marcar(g, w.DISPONIBLES, {0, 1});
+      g.choose(w.DISPONIBLES, "Blas Pérez Ruiz");
       w.user.expectForm("frmCargo", [](FormDriver& c) {
         c.choose("cboCargo", "Monitor");
         c.enter();
       });
       g.get<forms::ListBox>(w.DISPONIBLES).onDblClick();
-      w.marcar(g, w.SELECCIONADAS, {0});
-      g.get<forms::ListBox>(w.SELECCIONADAS).onDblClick();
+      g.choose(w.DISPONIBLES, "Carmen Sanz Ruiz");
+      w.user.expectForm("frmCargo", [](FormDriver& c) { c.escape(); });
+      g.get<forms::ListBox>(w.DISPONIBLES).onDblClick();
       g.click(w.ACEPTAR_GRUPO);
     });
     d.click(w.ACEPTAR);

@@ -69,7 +69,8 @@ TEST_F(DosListas, MarkedLines_GoInTheirOrderAndComeBackToTheirOldPlaces) {
   pulsar(ListaDoble::ELEGIR);
   EXPECT_THAT(lineas(1), ElementsAre("Blas", "Diego"));
   EXPECT_THAT(lineas(0), ElementsAre("Ana", "Carmen"));
-  EXPECT_EQ(ventana.lst[0].listIndex(), 1) << "the line behind is chosen, to go on from there";
+  EXPECT_EQ(ventana.lst[0].listIndex(), 1) << "to go on from there";
+  EXPECT_EQ(ventana.lst[0].selCount(), 0) << "but nobody has marked it";
   pulsar(ListaDoble::ELEGIR_TODAS);
   EXPECT_THAT(ventana.listas.seleccionadas(), ElementsAre(30, 10, 40, 20));
   ventana.lst[1].addItem("Eva", 99);  // not known from the start
@@ -82,14 +83,20 @@ TEST_F(DosListas, MarkedLines_GoInTheirOrderAndComeBackToTheirOldPlaces) {
   EXPECT_SCRIPT_DONE(mundo.user);
 }
 
-TEST_F(DosListas, DoubleClick_MovesUnlessTheButtonIsOff) {
-  marcar(0, {2});
+TEST_F(DosListas, DoubleClick_MovesThatLineAloneUnlessTheButtonIsOff) {
+  marcar(0, {0});
+  ventana.lst[0].userSelect(2);
   ventana.lst[0].onDblClick();
   EXPECT_THAT(lineas(1), ElementsAre("Carmen"));
-  marcar(1, {0});
+  ventana.lst[1].userSelect(0);
   ventana.cmdMover[ListaDoble::QUITAR].setEnabled(false);
   ventana.lst[1].onDblClick();
   EXPECT_THAT(lineas(1), ElementsAre("Carmen"));
+  ventana.cmdMover[ListaDoble::QUITAR].setEnabled(true);
+  ventana.lst[1].onDblClick();
+  ventana.lst[1].onDblClick();  // none is left
+  EXPECT_EQ(lineas(0).size(), 4u);
+  EXPECT_SCRIPT_DONE(mundo.user);
 }
 
 TEST_F(DosListas, NothingMarkedOrNothingThere_IsTold) {

@@ -48,8 +48,8 @@ void frmActividad::prepararControles() {
   setLayout(forms::column(
       {forms::tabs(mstActividad,
                    {forms::page({forms::fields(
-                        1, {forms::item(txtActividad[NOMBRE]),
-                            forms::item(txtActividad[DESCRIPCION]), forms::item(cboInstitucion)})}),
+                        1, {forms::item(txtActividad[NOMBRE]), forms::item(cboInstitucion),
+                            forms::item(txtActividad[DESCRIPCION])})}),
                     forms::page({forms::item(msgGrupos),
                                  forms::buttons({&cmdActividad[AGREGAR], &cmdActividad[MODIFICAR],
                                                  &cmdActividad[QUITAR]})})}),

@@ -17,6 +17,8 @@ namespace {
 
 constexpr const char* FORMULARIO = "frmActividadGrupos";
 constexpr int MAXIMO_TEXTO = 255;
+/// Of both together: long names with their offices are to be read whole.
+constexpr int ANCHO_LISTAS = 120;
 
 struct DatoGrupo {
   const char* etiqueta;
@@ -64,6 +66,7 @@ void frmActividadGrupos::prepararControles() {
     txtGrupo.add(campo, DATOS[static_cast<std::size_t>(campo)].etiqueta)
         .setMaxLength(campo == COMENTARIOS ? 0 : MAXIMO_TEXTO);
   txtGrupo[COMENTARIOS].setLines(5);
+  for (const auto& [indice, lista] : lstColaboradores.all()) lista->setWidthChars(ANCHO_LISTAS);
   cmdGrupo.add(ACEPTAR, "ACEPTAR").setDefault(true);
   cmdGrupo.add(CANCELAR, "CANCELAR").setCancel(true);
   cmdGrupo.add(ANADIR, "AÑADIR...").setToolTip("Crea un colaborador nuevo");
@@ -80,7 +83,7 @@ void frmActividadGrupos::ponerDisposicion() {
                         2, {forms::item(txtGrupo[NOMBRE], 2), forms::item(txtGrupo[ANO]),
                             forms::item(txtGrupo[DIA]), forms::item(txtGrupo[HORA]),
                             forms::item(txtGrupo[SALA]), forms::item(txtGrupo[COMENTARIOS], 2)})}),
-                    forms::page({listas_.disposicion(), forms::buttons({&cmdGrupo[ANADIR]})})}),
+                    forms::page({listas_.disposicion(), forms::item(cmdGrupo[ANADIR])})}),
        forms::buttons({&cmdGrupo[ACEPTAR], &cmdGrupo[CANCELAR]})}));
 }
 

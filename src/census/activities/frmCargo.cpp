@@ -39,7 +39,7 @@ void frmCargo::prepararControles() {
   setLayout(forms::column(
       {forms::fields(1, {forms::item(txtCargo[NOMBRE]), forms::item(txtCargo[DESCRIPCION]),
                          forms::item(cboCargo, {&cmdCargo[AGREGAR]})}),
-       forms::stretch(), forms::buttons({&cmdCargo[ACEPTAR], &cmdCargo[CANCELAR]})}));
+       forms::buttons({&cmdCargo[ACEPTAR], &cmdCargo[CANCELAR]})}));
 }
 
 void frmCargo::Form_Load() {

@@ -40,8 +40,8 @@ ListaDoble::ListaDoble(Contexto& contexto, forms::Form& formulario, forms::ListB
     lista->setMultiSelect(true);
     lista->setRows(12);
     const Movimiento uno = lista == &disponibles_ ? ELEGIR : QUITAR;
-    lista->onDblClick = [this, uno] {
-      if (mover_[uno].usable()) this->mover(uno);
+    lista->onDblClick = [this, lista, uno] {
+      if (mover_[uno].usable()) moverUna(*lista);
     };
   }
 }
@@ -86,6 +86,12 @@ void ListaDoble::mover(Movimiento movimiento) {
   });
 }
 
+void ListaDoble::moverUna(forms::ListBox& de) {
+  guarded(contexto_, formulario_.name(), textos_.alMoverMarcados, [&] {
+    if (de.listIndex() >= 0) pasar(de, {de.listIndex()});
+  });
+}
+
 void ListaDoble::rehusar(const char* mensaje) {
   if (*mensaje)
     forms::warn(formulario_.ui(), mensaje);
@@ -116,7 +122,8 @@ void ListaDoble::pasar(forms::ListBox& de, const std::vector<int>& filas) {
   if (elige && antesDeElegir && !antesDeElegir(claves)) return;
   poner(de, quedan);
   elige ? agregar(seleccionadas_, pasan) : devolver(std::move(pasan));
-  marcarSiguiente(de, filas.front());
+  // The line behind is the next to look at. It is not marked: nothing goes that nobody has marked.
+  de.setListIndex(std::min(filas.front(), de.listCount() - 1));
   if (!elige && quitados) quitados(claves);
 }
 
@@ -131,13 +138,6 @@ void ListaDoble::devolver(std::vector<Elemento> vuelven) {
   std::stable_sort(todas.begin(), todas.end(),
                    [&](const Elemento& a, const Elemento& b) { return lugar(a) < lugar(b); });
   poner(disponibles_, todas);
-}
-
-void ListaDoble::marcarSiguiente(forms::ListBox& lista, int fila) {
-  if (lista.listCount() == 0) return;
-  const int siguiente = std::min(fila, lista.listCount() - 1);
-  lista.setListIndex(siguiente);
-  lista.setSelected(siguiente, true);
 }
 
 void ListaDoble::poner(forms::ListBox& lista, const std::vector<Elemento>& elementos) {

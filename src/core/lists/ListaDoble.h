@@ -13,7 +13,7 @@
 namespace fidaleon {
 
 /// Two open lists of a dialog and the four buttons that move lines between them; the key of a line
-/// is its item data. A double click moves the line too. Lists and buttons are the dialog's; this
+/// is its item data. A double click moves that line alone. Lists and buttons are the dialog's; this
 /// makes the buttons and must live as long as they do. Lines may be put into the lists directly or,
 /// so that one that comes back finds its old place, with llenar().
 class ListaDoble {
@@ -63,11 +63,11 @@ class ListaDoble {
 
  private:
   void mover(Movimiento movimiento);
+  void moverUna(forms::ListBox& de);
   void rehusar(const char* mensaje);
   std::vector<int> filasMarcadas(const forms::ListBox& lista) const;
   void pasar(forms::ListBox& de, const std::vector<int>& filas);
   void devolver(std::vector<Elemento> vuelven);
-  static void marcarSiguiente(forms::ListBox& lista, int fila);
   void poner(forms::ListBox& lista, const std::vector<Elemento>& elementos);
   void agregar(forms::ListBox& lista, const std::vector<Elemento>& elementos);
   /// Without what stands behind the texts.
