@@ -3,6 +3,7 @@
 #include <QDate>
 #include <QDir>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QHeaderView>
 #include <QSaveFile>
 #include <QTableView>
@@ -104,6 +105,7 @@ class TargetDialog : public QFileDialog {
 
 std::string whyNot(QFileDevice::FileError error) {
   switch (error) {
+    case QFileDevice::NoError:  // less was written than there was, and nothing more said
     case QFileDevice::ResourceError:
     case QFileDevice::WriteError:
       return "no queda sitio en el disco, o se ha perdido la conexión con él.";
@@ -163,8 +165,9 @@ ListFormat formatOf(const QString& file, ListFormat otherwise) {
 
 std::string replaceFile(const QString& file, const std::string& bytes) {
   QSaveFile out(file);
-  const bool done = out.open(QIODevice::WriteOnly) &&
-                    out.write(bytes.data(), static_cast<qint64>(bytes.size())) >= 0 && out.commit();
+  const auto size = static_cast<qint64>(bytes.size());
+  const bool done =
+      out.open(QIODevice::WriteOnly) && out.write(bytes.data(), size) == size && out.commit();
   return done ? std::string() : whyNot(out.error());
 }
 
@@ -184,7 +187,7 @@ QString saveList(Desk& desk, const QTableView& view, QWidget* over) {
     tellFailure(desk, target.file, why);
     return {};
   }
-  writeWindowSetting(desk, FOLDER, dialog.directory().absolutePath().toStdString());
+  writeWindowSetting(desk, FOLDER, QFileInfo(target.file).absolutePath().toStdString());
   writeWindowSetting(desk, FORMAT, endingOf(target.format).toStdString());
   return QObject::tr("Lista guardada en «%1».").arg(QDir::toNativeSeparators(target.file));
 }

@@ -3,6 +3,7 @@
 #include <QDate>
 #include <QDir>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QLabel>
 #include <QMessageBox>
 #include <QStatusBar>
@@ -62,7 +63,7 @@ void MainWindow::backUp() {
     const forms::Hourglass hourglass(desk_.entorno().ui);
     store::backupDatabase(parish(), file.toStdString());
   }
-  write(BACKUP_FOLDER, dialog.directory().absolutePath().toStdString());
+  write(BACKUP_FOLDER, QFileInfo(file).absolutePath().toStdString());
   QMessageBox::information(this, tr("Copia de seguridad"),
                            tr("La copia se ha guardado y comprobado en «%1».").arg(file));
 }

@@ -63,8 +63,14 @@ void forEachFile(const fs::path& directory, const Each& each) {
 
 }  // namespace
 
-// The name is taken by an empty file, so that two workstations never write the same copy.
+// Names of one second sort as they are taken. An empty file takes a name, so that two workstations
+// never write the same copy.
 fs::path SafetyCopies::reserve(CopyName name) const {
+  forEachFile(directory_, [&](const fs::directory_entry& entry) {
+    const auto other = CopyName::parse(entry.path().filename().string());
+    if (other && other->moment == name.moment)
+      name.ordinal = std::max(name.ordinal, other->ordinal + 1);
+  });
   for (;; ++name.ordinal) {
     const fs::path file = directory_ / name.file();
     const int fd = ::open(file.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);

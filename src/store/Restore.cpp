@@ -1,5 +1,11 @@
 #include "store/Restore.h"
 
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <system_error>
+
 #include "store/Error.h"
 #include "store/RowCounts.h"
 #include "store/schema/Installer.h"
@@ -32,13 +38,39 @@ void requireCopy(const fs::path& copy, const fs::path& database) {
     throw Error(ErrorKind::Busy, name + " no es una copia: un programa lo tiene abierto.");
 }
 
+[[noreturn]] void fail(const std::string& what, const fs::path& file, int why) {
+  const bool full = why == ENOSPC || why == EDQUOT || why == EFBIG;
+  throw Error(full ? ErrorKind::DiskFull : ErrorKind::Connection,
+              what + " «" + file.string() +
+                  "»: " + text::systemReason({full ? ENOSPC : why, std::generic_category()}));
+}
+
+/// A file descriptor, closed when dropped.
+struct Descriptor {
+  ~Descriptor() {
+    if (number >= 0) ::close(number);
+  }
+  int number;
+};
+
+/// The library's own way to copy a file does not tell a full disk from others.
 void read(const fs::path& copy, const fs::path& draft) {
-  std::error_code failed;
-  fs::copy_file(copy, draft, fs::copy_options::overwrite_existing, failed);
-  if (!failed) fs::permissions(draft, fs::perms::owner_write, fs::perm_options::add, failed);
-  if (!failed) return;
-  throw Error(failed == std::errc::no_space_on_device ? ErrorKind::DiskFull : ErrorKind::Connection,
-              "No se puede leer «" + copy.string() + "»: " + text::systemReason(failed));
+  const Descriptor in{::open(copy.c_str(), O_RDONLY | O_CLOEXEC)};
+  if (in.number < 0) fail("No se puede leer", copy, errno);
+  const Descriptor out{::open(draft.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0600)};
+  if (out.number < 0) fail("No se puede escribir en", draft, errno);
+  std::vector<char> block(1 << 16);
+  for (;;) {
+    const ssize_t got = ::read(in.number, block.data(), block.size());
+    if (got == 0) return;
+    if (got < 0) fail("No se puede leer", copy, errno);
+    for (ssize_t put = 0; put < got;) {
+      const ssize_t more =
+          ::write(out.number, block.data() + put, static_cast<std::size_t>(got - put));
+      if (more < 0) fail("No se puede escribir en", draft, errno);
+      put += more;
+    }
+  }
 }
 
 }  // namespace

@@ -1,0 +1,249 @@
+// Copies made before something is taken away: what they are called, what they hold, how long they
+// stay.
+
+#include <QAction>
+#include <QTableView>
+#include <fstream>
+
+#include "app/CopiesFixture.h"
+#include "app/CopyRetention.h"
+#include "app/MainWindow.h"
+#include "app/Precaution.h"
+#include "store/Engine.h"
+
+namespace fidaleon::app {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+
+TEST(CopyName, saysWhenAndBeforeWhat_andSorts) {
+  const CopyName first{NOON, 1, "Eliminar en Partidas, Bautismo"};
+  const CopyName second{NOON, 2, "Anular"};
+  EXPECT_EQ(first.file(), "2026-05-20 12.00.00 Eliminar en Partidas, Bautismo.fidaleon");
+  EXPECT_EQ(second.file(), "2026-05-20 12.00.00-2 Anular.fidaleon");
+  EXPECT_LT(first.file(), second.file());
+  for (const CopyName& name : {first, second}) {
+    const auto read = CopyName::parse(name.file());
+    ASSERT_TRUE(read);
+    EXPECT_EQ(read->moment, name.moment);
+    EXPECT_EQ(read->ordinal, name.ordinal);
+    EXPECT_EQ(read->before, name.before);
+  }
+}
+
+TEST(CopyName, holdsNothingThatAFileSystemRefuses) {
+  EXPECT_EQ((CopyName{NOON, 1, " &Pasar a \"A/B\\C\": <¿qué?>|*\n… "}).file(),
+            "2026-05-20 12.00.00 Pasar a ABC ¿qué.fidaleon");
+  EXPECT_EQ((CopyName{NOON, 1, "..."}).file(), "2026-05-20 12.00.00 Orden.fidaleon");
+  std::string longest;
+  for (int i = 0; i < 100; ++i) longest += "𝓝";
+  EXPECT_LT((CopyName{NOON, 12, longest}).file().size(), 235U);
+}
+
+TEST(CopyName, otherFilesAreNone) {
+  for (const char* name :
+       {"", "parroquia.fidaleon", "2026-05-20 12.00.00.fidaleon", "2026-05-20 12.00.00 X.copia",
+        "2026-02-30 12.00.00 X.fidaleon", "2026-05-20 25.00.00 X.fidaleon",
+        "2026-05-20 12:00:00 X.fidaleon", "2026-05-20 12.00.00-x Y.fidaleon",
+        "2026-05-20 12.00.00-1 Y.fidaleon", "2026-05-20 12.00.00 X.fidaleon.parte",
+        "mi 2026-05-20 12.00.00 X.fidaleon", "2026-05-20 12.00.00 .fidaleon"})
+    EXPECT_FALSE(CopyName::parse(name)) << name;
+}
+
+/// One day for each offset, in days before Wednesday, 20 May 2026.
+std::vector<text::Date> daysBefore(const std::vector<int>& offsets) {
+  std::vector<text::Date> days;
+  for (const int offset : offsets) {
+    const QDate day = QDate(2026, 5, 20).addDays(-offset);
+    days.push_back({day.year(), day.month(), day.day()});
+  }
+  return days;
+}
+
+TEST(CopyRetention, keepsThirtyThenOneAWeekForAYear) {
+  struct Case {
+    const char* what;
+    std::vector<int> older;  // behind thirty of today
+    std::vector<std::size_t> gone;
+  };
+  const std::vector<Case> cases{
+      {"thirty are no burden", {}, {}},
+      {"the week of the thirty has its copy", {0, 1, 2}, {30, 31, 32}},
+      {"Sunday is another week", {3}, {}},
+      {"the newest of each week", {3, 4, 9, 10, 11, 16}, {31, 32, 34, 35}},
+      {"a year back, and not a day more", {366, 367}, {31}},
+      {"weeks without copies are no matter", {100, 300}, {}},
+      {"over the turn of the year it is one week", {139, 140}, {31}},
+      {"long ago", {400, 800, 4000}, {30, 31, 32}},
+  };
+  for (const Case& c : cases) {
+    std::vector<int> offsets(COPIES_KEPT, 0);
+    offsets.insert(offsets.end(), c.older.begin(), c.older.end());
+    EXPECT_EQ(superfluous(daysBefore(offsets), {2026, 5, 20}), c.gone) << c.what;
+  }
+  EXPECT_THAT(superfluous({}, {2026, 5, 20}), IsEmpty());
+  EXPECT_THAT(superfluous(daysBefore({900, 901}), {2026, 5, 20}), IsEmpty()) << "the newest stay";
+}
+
+TEST_F(Copies, made_areWholeAndApart) {
+  addOffice("Sacristán");
+  const fs::path first = make();
+  addOffice("Organista");
+  const fs::path second = make("Otra");
+  EXPECT_THAT(namesIn(folder()), ElementsAre("2026-05-20 12.00.00 Eliminar.fidaleon",
+                                             "2026-05-20 12.00.00-2 Otra.fidaleon"));
+  EXPECT_EQ(make().filename(), "2026-05-20 12.00.00-3 Eliminar.fidaleon");
+  EXPECT_EQ(officesIn(first), 1);
+  EXPECT_EQ(officesIn(second), 2);
+}
+
+TEST_F(Copies, whileAColleagueWrites_holdWhatWasStored) {
+  const auto colleague = store::openDatabase(files().parish(), store::parishSchema());
+  colleague->BeginTrans();
+  for (int i = 0; i < 50; ++i) Insert("Cargo").text("Nombre", "x").into(*colleague);
+  const fs::path copy = make();
+  colleague->CommitTrans();
+  EXPECT_EQ(officesIn(copy), 0);
+  EXPECT_EQ(officesIn(make()), 50);
+}
+
+TEST_F(Copies, thatCannotBeMade_sayWhyAndLeaveNothing) {
+  using Kind = store::ErrorKind;
+  const auto failure = [&] {
+    try {
+      make();
+    } catch (const store::Error& e) {
+      EXPECT_THAT(e.what(), HasSubstr("o"));
+      return e.kind();
+    }
+    return Kind::Other;
+  };
+  {
+    const FullDisk full(20000);
+    EXPECT_EQ(failure(), Kind::DiskFull);
+  }
+  EXPECT_THAT(namesIn(folder()), IsEmpty());
+  fs::remove_all(folder());
+  std::ofstream(folder()) << "a file in the place of the folder";
+  EXPECT_EQ(failure(), Kind::ReadOnly);
+}
+
+TEST_F(Copies, ofADamagedParish_areRefused) {
+  desk->parish().BeginTrans();
+  for (int i = 0; i < 300; ++i) addOffice(std::string(200, 'x'));
+  desk->parish().CommitTrans();
+  desk->parish().engine().run("PRAGMA wal_checkpoint(TRUNCATE)");
+  desk.reset();
+  const auto size = fs::file_size(files().parish());
+  std::fstream file(files().parish(), std::ios::in | std::ios::out | std::ios::binary);
+  file.seekp(static_cast<std::streamoff>(size - 4096 * 3));
+  file << std::string(4096 * 2, 'Z') << std::flush;
+  file.close();
+  open();
+  EXPECT_THROW(make(), store::Error);
+  EXPECT_THAT(namesIn(folder()), IsEmpty());
+}
+
+TEST_F(Copies, listed_areTheWholeOnesNewestFirst) {
+  make("Una", {{2026, 5, 1}, 9, 0, 0});
+  make("Dos", {{2026, 5, 2}, 9, 0, 0});
+  make("Tres", {{2026, 5, 2}, 9, 0, 0});
+  place("2026-05-03 10.00.00 A medias.fidaleon", "");
+  place("2026-05-03 10.00.00 Otra.fidaleon.parte");
+  place("notas.txt");
+  place("a mano.copia");
+  std::vector<std::string> before;
+  for (const SafetyCopy& copy : copies.list()) before.push_back(copy.before);
+  EXPECT_THAT(before, ElementsAre("", "Tres", "Dos", "Una")) << "written by hand just now";
+  EXPECT_THAT(SafetyCopies("/no/hay").list(), IsEmpty());
+}
+
+TEST_F(Copies, pruned_onlyOursGo) {
+  fs::create_directories(folder());
+  for (int day = 1; day <= 31; ++day)
+    place(CopyName{{{2026, 3, day}, 8, 0, 0}, 1, "Eliminar"}.file());
+  for (int day = 2; day <= 4; ++day)  // Monday to Wednesday
+    place(CopyName{{{2026, 2, day}, 8, 0, 0}, 1, "Eliminar"}.file());
+  const std::vector<std::string> foreign{"2020-01-01 copia de Ana.fidaleon", "notas.txt",
+                                         "parroquia.fidaleon", "vieja.copia"};
+  for (const std::string& name : foreign) place(name);
+  place("2026-05-20 09.00.00 De hoy.fidaleon.parte");
+  place("2026-05-19 09.00.00 De ayer.fidaleon.parte-journal");
+  place("2026-05-19 09.00.00 De ayer.fidaleon", "");
+  copies.prune({2026, 5, 20});
+  const auto left = namesIn(folder());
+  // Thirty, the first of March as the newest of its week, and that of the first week of February.
+  EXPECT_EQ(left.size(), 30 + 2 + foreign.size() + 1);
+  for (const std::string& name : foreign) EXPECT_THAT(left, ::testing::Contains(name));
+  EXPECT_THAT(left, ::testing::Contains("2026-02-04 08.00.00 Eliminar.fidaleon"));
+  EXPECT_THAT(left, ::testing::Contains("2026-05-20 09.00.00 De hoy.fidaleon.parte"));
+}
+
+TEST_F(Copies, beforeACommand_stayOnlyWhenItChangedSomething) {
+  const auto after = [&](const std::function<void()>& command) {
+    {
+      const Precaution copy(copies, desk->parish(), "Eliminar", NOON);
+      command();
+    }
+    return namesIn(folder()).size();
+  };
+  const auto colleague = store::openDatabase(files().parish(), store::parishSchema());
+  EXPECT_EQ(after([] {}), 0U);
+  EXPECT_EQ(after([&] { offices(); }), 0U);
+  EXPECT_EQ(after([&] { Insert("Cargo").text("Nombre", "x").into(*colleague); }), 0U);
+  EXPECT_EQ(after([&] {
+              desk->parish().BeginTrans();
+              addOffice("Sacristán");
+              desk->parish().RollbackTrans();
+            }),
+            0U);
+  EXPECT_EQ(after([&] { addOffice("Sacristán"); }), 1U);
+}
+
+/// A parish with an open window.
+class CopiesWindow : public Copies {
+ protected:
+  void SetUp() override {
+    create();
+    window = std::make_unique<MainWindow>(*desk);
+    window->show();
+    window->showNode("SolicitudesBautismo");
+    before = rows();
+  }
+  int rows() const { return window->table().model()->rowCount(); }
+  void deleteRequest(forms::Answer answer) {
+    user.expectMessage("¿Está seguro que desea eliminar la solicitud?", answer);
+    window->action("eliminar-solicitud")->trigger();
+  }
+  std::unique_ptr<MainWindow> window;
+  int before = 0;
+};
+
+TEST_F(CopiesWindow, deleting_leavesACopyThatNamesTheCommand) {
+  deleteRequest(forms::Answer::No);
+  EXPECT_THAT(namesIn(folder()), IsEmpty());
+  deleteRequest(forms::Answer::Yes);
+  const auto all = copies.list();
+  ASSERT_EQ(all.size(), 1U);
+  EXPECT_EQ(all[0].before, "Eliminar en Solicitudes, Bautismo");
+  EXPECT_THAT(user.problems(), IsEmpty());
+}
+
+TEST_F(CopiesWindow, withoutACopy_goesOnOnlyWhenToldTo) {
+  std::ofstream(folder()) << "x";
+  QString text;
+  answerNext({}, &text);
+  window->action("eliminar-solicitud")->trigger();
+  EXPECT_EQ(rows(), before) << "Enter says no";
+  EXPECT_TRUE(text.contains("No se ha podido guardar una copia")) << text.toStdString();
+  EXPECT_TRUE(text.contains("No se puede escribir en")) << text.toStdString();
+  answerNext("C&ontinuar sin copia");
+  deleteRequest(forms::Answer::Yes);
+  EXPECT_EQ(rows(), before - 1);
+  EXPECT_THAT(user.problems(), IsEmpty());
+}
+
+}  // namespace
+}  // namespace fidaleon::app

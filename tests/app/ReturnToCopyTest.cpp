@@ -1,0 +1,290 @@
+// The way back to a copy, and all that can stand in it.
+
+#include <sys/time.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <QAction>
+#include <QTableView>
+#include <QTableWidget>
+#include <fstream>
+
+#include "app/CopiesDialog.h"
+#include "app/CopiesFixture.h"
+#include "app/CopyReturn.h"
+#include "app/MainWindow.h"
+#include "store/Engine.h"
+#include "store/Restore.h"
+
+namespace fidaleon::app {
+namespace {
+
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+
+class Returning : public Copies {
+ protected:
+  void SetUp() override {
+    Copies::SetUp();
+    addOffice("Sacristán");
+    copy = make();
+    addOffice("Organista");
+    presence = std::make_unique<Presence>(directory(), "Secretaría", "20/05/2026 10:30");
+    user.answerAnything(forms::Answer::Ok);
+  }
+  bool returnTo(const fs::path& file) {
+    return CopyReturn(*desk, copies, *presence, nullptr).to({file, NOON, 1, "Eliminar", 1});
+  }
+  std::string told() const { return user.messages().empty() ? "" : user.messages().back().text; }
+  std::vector<std::string> rest() const {
+    std::vector<std::string> names = namesIn(directory());
+    std::erase_if(names, [](const std::string& n) { return !n.ends_with(".vuelta"); });
+    return names;
+  }
+
+  fs::path copy;
+  std::unique_ptr<Presence> presence;
+};
+
+TEST_F(Returning, bringsBackTheContentAndKeepsWhatWasThere) {
+  const auto other = store::openDatabase(files().parish(), store::parishSchema());
+  auto seen = other->Execute("SELECT COUNT(*) AS n FROM Cargo");
+  QString text;
+  answerNext("&Volver a la copia", &text);
+  EXPECT_TRUE(returnTo(copy));
+  EXPECT_TRUE(text.contains("miércoles, 20 de mayo de 2026, a las 12:00:00")) << text.toStdString();
+  EXPECT_TRUE(text.contains("Se perderá")) << text.toStdString();
+  EXPECT_EQ(offices(), 1);
+  EXPECT_EQ(other->Execute("SELECT COUNT(*) AS n FROM Cargo").integer("n"), 1);
+  addOffice("Campanero");
+  const auto all = copies.list();
+  ASSERT_EQ(all.size(), 2U);
+  EXPECT_EQ(all[0].before, "Antes de volver a una copia");
+  answerNext("&Volver a la copia");
+  EXPECT_TRUE(returnTo(all[0].file));
+  EXPECT_EQ(rowsOf("SELECT * FROM Cargo WHERE Nombre='Organista'"), 1);
+  EXPECT_EQ(rowsOf("SELECT * FROM Cargo WHERE Nombre='Campanero'"), 0);
+  EXPECT_THAT(rest(), IsEmpty());
+}
+
+TEST_F(Returning, enterSaysNo) {
+  answerNext({});
+  EXPECT_FALSE(returnTo(copy));
+  EXPECT_EQ(offices(), 2);
+  EXPECT_EQ(copies.list().size(), 1U);
+  EXPECT_THAT(rest(), IsEmpty());
+}
+
+TEST_F(Returning, whileSomebodyElseIsThere_isRefused) {
+  {
+    const Presence colleague(directory(), "Ana", "20/05/2026 09:15");
+    EXPECT_FALSE(returnTo(copy));
+    EXPECT_THAT(told(), HasSubstr("Ana, en el equipo "));
+    EXPECT_THAT(told(), HasSubstr("desde las 09:15 del 20/05/2026"));
+  }
+  // Somebody who comes while the question stands.
+  std::unique_ptr<Presence> colleague;
+  QTimer::singleShot(0, [&] {
+    colleague = std::make_unique<Presence>(directory(), "Luis", "20/05/2026 09:20");
+    answerNext("&Volver a la copia");
+  });
+  EXPECT_FALSE(returnTo(copy));
+  EXPECT_THAT(told(), HasSubstr("Luis"));
+  EXPECT_EQ(offices(), 2);
+  EXPECT_EQ(copies.list().size(), 1U);
+}
+
+TEST_F(Returning, whileAProgramWrites_isToldAndChangesNothing) {
+  const auto other = store::openDatabase(files().parish(), store::parishSchema());
+  other->BeginTrans();
+  answerNext("&Volver a la copia");
+  EXPECT_FALSE(returnTo(copy));
+  EXPECT_THAT(told(), HasSubstr("No se ha podido volver a la copia."));
+  other->RollbackTrans();
+  EXPECT_EQ(offices(), 2);
+}
+
+TEST_F(Returning, toWhatIsNoSoundCopy_isRefusedAndChangesNothing) {
+  const auto damaged = [&](const std::string& name,
+                           const std::function<void(const fs::path&)>& damage) {
+    const fs::path file = directory() / name;
+    fs::copy_file(copy, file);
+    damage(file);
+    return file;
+  };
+  const std::vector<std::pair<fs::path, std::string>> cases{
+      {damaged("corta.copia", [](const fs::path& f) { fs::resize_file(f, fs::file_size(f) / 2); }),
+       "está estropeada"},
+      {damaged("rota.copia",
+               [](const fs::path& f) {
+                 std::fstream out(f, std::ios::in | std::ios::out | std::ios::binary);
+                 out.seekp(4096 * 20) << std::string(4096 * 3, 'Z');
+               }),
+       "está estropeada"},
+      {damaged("texto.copia", [](const fs::path& f) { std::ofstream(f) << "Querida Ana:"; }),
+       "está estropeada"},
+      {damaged("vacia.copia", [](const fs::path& f) { fs::resize_file(f, 0); }), "está estropeada"},
+      {damaged("nueva.copia",
+               [](const fs::path& f) {
+                 store::openDatabase(f, store::parishSchema())
+                     ->engine()
+                     .run("UPDATE Esquema SET Version = Version + 1");
+               }),
+       "una versión más nueva"},
+      {damaged("abierta.copia",
+               [](const fs::path& f) { std::ofstream(f.string() + "-wal") << "x"; }),
+       "no es una copia"},
+      {files().reports(), "una copia"},
+      {files().parish(), "no es una copia"},
+      {directory() / "no hay.copia", "No se encuentra"},
+  };
+  for (const auto& [file, message] : cases) {
+    EXPECT_FALSE(returnTo(file)) << file;
+    EXPECT_THAT(told(), HasSubstr(message)) << file;
+    EXPECT_THAT(told(), HasSubstr("La parroquia no ha cambiado.")) << file;
+  }
+  EXPECT_EQ(offices(), 2);
+  EXPECT_EQ(copies.list().size(), 1U);
+  EXPECT_THAT(rest(), IsEmpty());
+}
+
+TEST_F(Returning, withoutRoomForTheOtherCopy_asksAndReturns) {
+  const fs::path aside = directory() / "aparte.copia";
+  fs::rename(copy, aside);
+  fs::remove_all(folder());
+  std::ofstream(folder()) << "x";
+  QTimer::singleShot(0, [&] {
+    QTimer::singleShot(0, [] { answerNext("C&ontinuar sin copia"); });
+    answerNext("&Volver a la copia");
+  });
+  EXPECT_TRUE(returnTo(aside));
+  EXPECT_EQ(offices(), 1);
+}
+
+TEST_F(Returning, byTheWindow_showsTheOldRowsAgain) {
+  presence.reset();
+  MainWindow window(*desk);
+  window.show();
+  window.showNode("Cargos");
+  EXPECT_EQ(window.table().model()->rowCount(), 2);
+  QTimer::singleShot(0, [&] {
+    auto* dialog = qobject_cast<CopiesDialog*>(QApplication::activeModalWidget());
+    ASSERT_TRUE(dialog);
+    EXPECT_EQ(dialog->table().rowCount(), 1);
+    EXPECT_EQ(dialog->table().item(0, 1)->text(), "Eliminar");
+    answerNext("&Volver a la copia");
+    QTest::keyClick(&dialog->table(), Qt::Key_Return);
+  });
+  window.action("volver-a-una-copia")->trigger();
+  EXPECT_EQ(window.table().model()->rowCount(), 1);
+}
+
+store::Schema version(int number) {
+  store::Table persons("Persona");
+  persons.counter("ID").texts({"Nombre"});
+  if (number >= 2) persons.from(2).longs({"Hijos"});
+  std::vector<store::Table> tables;
+  tables.push_back(persons);
+  return store::Schema("Ensayo", number, std::move(tables));
+}
+
+TEST_F(ParishTest, returningToAnOlderCopy_bringsItUpToDate) {
+  const store::Schema old = version(1);
+  const store::Schema current = version(2);
+  const fs::path copy = directory() / "vieja.copia";
+  const fs::path file = directory() / "ensayo.fidaleon";
+  store::createDatabase(copy, old)->Execute("INSERT INTO Persona (Nombre) VALUES ('Ana')");
+  const auto open = store::createDatabase(file, current);
+  store::Restore(copy, file, current).run();
+  EXPECT_EQ(open->Execute("SELECT * FROM Persona").integer("Hijos"), 0);
+  EXPECT_EQ(open->Execute("SELECT * FROM Persona").text("Nombre"), "Ana");
+  EXPECT_EQ(store::openDatabase(copy, old)->Execute("SELECT * FROM Persona").FieldCount(), 2)
+      << "the copy is only read";
+  EXPECT_THROW(store::Restore(file, copy, old), store::Error) << "nor may it be newer";
+}
+
+/// Returns to the copy in another process, which dies after so many microseconds; 0: never.
+int returnInChild(const fs::path& copy, const fs::path& parish, long microseconds) {
+  const pid_t child = fork();
+  if (child == 0) {
+    signal(SIGALRM, SIG_DFL);
+    const itimerval after{{0, 0}, {microseconds / 1000000, microseconds % 1000000}};
+    setitimer(ITIMER_REAL, &after, nullptr);
+    try {
+      store::Restore(copy, parish, store::parishSchema()).run();
+    } catch (const store::Error& e) {
+      _exit(100 + static_cast<int>(e.kind()));
+    }
+    _exit(0);
+  }
+  int status = 0;
+  waitpid(child, &status, 0);
+  return status;
+}
+
+class KilledReturn : public Copies {
+ protected:
+  void SetUp() override {
+    Copies::SetUp();
+    fill("uno", 700);
+    few = make("Pocos");
+    fill("dos", 700);
+    many = make("Muchos");
+    desk.reset();  // what SQLite knows of open files must not go over to the other process
+  }
+  void fill(const std::string& name, int rows) {
+    desk->parish().BeginTrans();
+    for (int i = 0; i < rows; ++i)
+      for (const char* table : {"Cargo", "Grupo"})
+        Insert(table).text("Nombre", name + std::string(150, 'x')).into(desk->parish());
+    desk->parish().CommitTrans();
+  }
+  /// Rows of both tables, which never differ in a whole parish.
+  std::int64_t pairs() {
+    open();
+    const std::int64_t n = offices();
+    EXPECT_EQ(n, count("SELECT COUNT(*) FROM Grupo"));
+    EXPECT_NO_THROW(make("Comprobación")) << "which reads all of it";
+    desk.reset();
+    return n;
+  }
+  fs::path few;
+  fs::path many;
+};
+
+TEST_F(KilledReturn, atAnyMoment_leavesOneContentOrTheOther) {
+  std::int64_t now = pairs();
+  ASSERT_EQ(now, 1400);
+  int killed = 0;
+  int finished = 0;
+  for (long wait = 300; finished < 2; wait += wait / 4) {
+    const bool wantsFew = now == 1400;
+    const int status = returnInChild(wantsFew ? few : many, files().parish(), wait);
+    killed += WIFSIGNALED(status);
+    finished += WIFEXITED(status);
+    if (WIFEXITED(status)) {
+      EXPECT_EQ(WEXITSTATUS(status), 0);
+    }
+    const std::int64_t then = pairs();
+    EXPECT_TRUE(then == 700 || then == 1400) << then << " after " << wait;
+    if (WIFEXITED(status)) {
+      EXPECT_EQ(then, wantsFew ? 700 : 1400);
+    }
+    now = then;
+  }
+  EXPECT_GT(killed, 10);
+}
+
+TEST_F(KilledReturn, withAFullDisk_changesNothing) {
+  const std::int64_t before = pairs();
+  // No room beside the parish; then room there and none in the parish itself.
+  for (const auto room : {fs::file_size(few) / 2, fs::file_size(few)}) {
+    const FullDisk full(room);
+    EXPECT_EQ(WEXITSTATUS(returnInChild(few, files().parish(), 0)),
+              100 + static_cast<int>(store::ErrorKind::DiskFull));
+  }
+  EXPECT_EQ(pairs(), before);
+}
+
+}  // namespace
+}  // namespace fidaleon::app
