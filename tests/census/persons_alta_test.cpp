@@ -380,6 +380,32 @@ TEST(NuevoEmpadronado, DNIOfAnotherImported_GoesOnWithTheirDataAndStoresNothingY
   EXPECT_EQ(w.count("Padron_NotasPersonales"), 1);
 }
 
+TEST(NuevoEmpadronado, ImportFails_NeverMixesTwoPersons) {
+  for (const char* parte : {"SELECT * FROM Padron_Comunion", "FROM Municipio WHERE IDMunicipio"}) {
+    PadronWorld w;
+    w.persona("Rosa", "Gil", "Gil", "12345678-Z");
+    w.con().Execute("UPDATE Padron SET CodMunicipio=" +
+                    std::to_string(w.municipio("Illescas", "Toledo")));
+    const std::string antes = w.fila("SELECT * FROM Padron");
+    w.alta([&](FormDriver& u) {
+      rellenarMinimo(u);
+      u.type(txt(Padron::NIF), "12345678");
+      u.type(txt(Padron::LetraNIF), "Z");
+      w.fallos().failOn(parte);
+      w.user.expectForm("frmMensaje", [](FormDriver& m) { m.click("cmdMensaje(1)"); });
+      w.user.answerAnything(Answer::Ok);
+      u.click(boton(Padron::ACEPTAR));
+      EXPECT_EQ(w.fallos().pending(), 0u) << parte;
+      if (u.closed()) return;
+      EXPECT_EQ(u.caption(), "Agregar empadronado");
+      EXPECT_EQ(u.text(txt(Padron::Nombre)), "Elena");
+      u.click(boton(Padron::CANCELAR));
+    });
+    EXPECT_EQ(w.fila("SELECT * FROM Padron"), antes);
+    EXPECT_EQ(w.count("Padron"), 1);
+  }
+}
+
 TEST(NuevoEmpadronado, CensusInUseElsewhere_DoesNotOpen) {
   PadronWorld w;
   const std::int32_t id = w.persona("Rosa", "Gil", "Gil");

@@ -1,5 +1,7 @@
 // What the census dialog shows when it opens.
 
+#include <stdexcept>
+
 #include "census/common/SoloLectura.h"
 #include "census/persons/ProcedimientoPadron.h"
 #include "core/lists/cIListas.h"
@@ -63,6 +65,7 @@ void frmPadron::mostrarPersona() {
   for (const auto& [campo, miembro] : textos_) campo->setText(p.*miembro);
   for (const auto& [campo, miembro] : fechas_) campo->setStored(p.*miembro);
   for (const auto& [par, miembro] : municipios_) par->poner(p.*miembro);
+  comprobarPoblaciones();
   cboPadron[Sexo].setListIndex(-1);
   cboPadron[Sexo].selectText(p.Sexo);
   cboPadron[Institucion].setListIndex(-1);
@@ -72,6 +75,14 @@ void frmPadron::mostrarPersona() {
   CargaGridNotasPersonales();
   coincidencias_.olvidarCambio();
   dniCambiado_ = false;
+}
+
+// A province without its town is a list that could not be read; the person would lose the town.
+void frmPadron::comprobarPoblaciones() const {
+  for (const Lista lista :
+       {ProvinciaDireccion, ProvinciaNac, ProvinciaBaut, ProvinciaConf, ProvinciaMatr})
+    if (cboPadron[lista].listIndex() >= 0 && cboPadron[lista + 1].listIndex() < 0)
+      throw std::runtime_error("No se han podido leer las poblaciones de esta persona.");
 }
 
 void frmPadron::mostrarDNI() {

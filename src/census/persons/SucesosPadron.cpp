@@ -1,6 +1,7 @@
 // What the controls of the census dialog set off.
 
 #include <algorithm>
+#include <utility>
 
 #include "census/money/cCurrency.h"
 #include "census/persons/ProcedimientoPadron.h"
@@ -146,12 +147,17 @@ void frmPadron::avisarDNI(std::int32_t otra) {
   if (mensaje.blnImportar) importar(otra);
 }
 
-// The whole table is held for the new person, and with it the row of this one.
+// The whole table is held for the new person, and with it the row of this one. Until all of it has
+// been read, what was typed stays that of a new person.
 void frmPadron::importar(std::int32_t id) {
+  FichaEmpadronado otra;
+  if (!otra.leer(*conBaseDatos, id)) return;
+  ficha_ = std::move(otra);
   Operacion = cCOperacion::EDITAR;
   IDPadron = id;
-  if (!leerEmpadronado()) return Unload();
   mostrarModo();
+  // Fields of two persons must not be stored as those of one.
+  if (!procedimiento("importar", [this] { mostrarPersona(); })) return Unload();
   mstPadron.setTab(TAB_DATOS);
   // Wherever the user was going, what was taken is to be looked at first.
   setFocus(txtPadron[Nombre]);

@@ -140,6 +140,7 @@ class frmPadron : public forms::Form {
   void BorrarDatosEmpadronado();
   bool leerEmpadronado();
   void mostrarPersona();
+  void comprobarPoblaciones() const;
   void mostrarDNI();
   void mostrarDefuncion();
   void mostrarModo();
