@@ -21,6 +21,7 @@ QString utf16(const std::string& s) {
 QString fitForXml(const std::string& s) {
   QString text = utf16(text::sanitized(s));
   text.replace("\r\n", "\n").replace('\r', '\n');
+  text.replace('\t', ' ');  // a cell cannot show it
   return text.remove(QChar(0xFFFE)).remove(QChar(0xFFFF));
 }
 
@@ -172,20 +173,20 @@ class Sheet {
     for (const QString& line : fitForXml(text).split('\n')) writeParagraph(line);
   }
 
-  // Blanks at an end or in a row and tabs would otherwise be taken for one blank or none.
+  // Blanks at an end or in a row would otherwise be taken for one blank or none.
   void writeParagraph(const QString& line) {
     xml_.writeStartElement("text:p");
     QString plain;
     for (qsizetype i = 0; i < line.size(); ++i) {
       const bool blank = line[i] == ' ';
       const bool kept = blank && i > 0 && i + 1 < line.size() && line[i - 1] != ' ';
-      if (line[i] != '\t' && (!blank || kept)) {
+      if (!blank || kept) {
         plain += line[i];
         continue;
       }
       xml_.writeCharacters(plain);
       plain.clear();
-      xml_.writeEmptyElement(blank ? "text:s" : "text:tab");
+      xml_.writeEmptyElement("text:s");
     }
     xml_.writeCharacters(plain);
     xml_.writeEndElement();
