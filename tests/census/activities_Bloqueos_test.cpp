@@ -107,6 +107,19 @@ TEST(BloqueosActividad, ActivityInUseElsewhere_OpensToReadOnly) {
   EXPECT_SCRIPT_DONE(w.user);
 }
 
+TEST(BloqueosActividad, WhereNothingCanBeLocked_OpensToReadOnly) {
+  ActividadesWorld w;
+  std::filesystem::remove_all(w.directory.path());
+  w.user.answerAnything(Answer::Ok);
+  w.editar([&](FormDriver& d) {
+    EXPECT_EQ(d.text(w.NOMBRE), "Catequesis");
+    EXPECT_FALSE(d.enabled(w.ACEPTAR));
+    d.escape();
+  });
+  EXPECT_EQ(w.user.messages().size(), 1u);
+  EXPECT_SCRIPT_DONE(w.user);
+}
+
 TEST(BloqueosActividad, TablesUsedOrRecordGone_NothingOpens) {
   ActividadesWorld w;
   w.user.answerAnything(Answer::Ok);
