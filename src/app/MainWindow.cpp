@@ -186,6 +186,11 @@ void MainWindow::updateCommands() {
         (!other || action->isEnabled() || (command.needs == Needs::ValidRow && !chosen.annulled));
     action->setVisible(seen);
   }
+  for (QAction* title : menuBar()->actions()) {
+    const QList<QAction*> lines = title->menu()->actions();
+    title->setEnabled(std::any_of(lines.begin(), lines.end(),
+                                  [](const QAction* line) { return line->isVisible(); }));
+  }
   updateCount();
 }
 

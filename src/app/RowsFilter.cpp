@@ -17,6 +17,7 @@ void RowsFilter::setText(const QString& text) {
 }
 
 void RowsFilter::setGroup(std::int32_t group) {
+  if (group == group_) return;
   group_ = group;
   invalidate();
 }

@@ -1,5 +1,6 @@
 #include <QAction>
 #include <QLineEdit>
+#include <QMenuBar>
 #include <QTableView>
 
 #include "app/Documents.h"
@@ -164,6 +165,18 @@ TEST_F(CensusWindow, choiceGivenUp_showsNothing) {
     d.escape();
   });
   give("informe-de-la-lista");
+}
+
+TEST_F(CensusWindow, menuWithNothingToOffer_isOff) {
+  open("Cargos");
+  const auto documents = [&] {
+    for (const QAction* title : window->menuBar()->actions())
+      if (title->text() == "&Documentos") return title->isEnabled();
+    return false;
+  };
+  EXPECT_FALSE(documents());
+  window->showNode("Colaboradores");
+  EXPECT_TRUE(documents());
 }
 
 TEST_F(CensusWindow, tasksOpenAtTheNextOne) {
