@@ -143,7 +143,7 @@ TEST(EditaEmpadronado, NotesAddedChangedAndRemoved_AreStoredOnAccepting) {
     EXPECT_EQ(rejilla.header(0) + "|" + rejilla.header(1), "Nombre|Descripción");
     EXPECT_EQ(rejilla.columnWidth(0), 2250);
     EXPECT_EQ(rejilla.cell(1, 1), "Primera línea Segunda");
-    EXPECT_TRUE(rejilla.cell(2, 1).ends_with("x ..."));
+    EXPECT_TRUE(rejilla.cell(2, 1).ends_with("x ... "));
     u.click(botonNota(Padron::MODIFICAR));
     u.click(botonNota(Padron::QUITAR));
     EXPECT_EQ(w.user.beeps(), 2) << "no row is chosen";

@@ -97,6 +97,30 @@ TEST(FrmPadronBusqueda, Rows_ShowThoseFoundUnderTheirHeaders) {
   EXPECT_SCRIPT_DONE(w.user);
 }
 
+TEST(FrmPadronBusqueda, WidthsThatCannotBeKept_AreToldUnderTheDialog) {
+  struct SoloLectura : support::MemorySettings {
+    void write(const std::string&, const std::string&, const std::string&,
+               const std::string&) override {
+      throw std::runtime_error("El disco está lleno.");
+    }
+  } ajustes;
+  BusquedaWorld w;
+  Entorno entorno{w.user, w.host, ajustes, w.clock, {}};
+  Contexto contexto(entorno);
+  store::Recordset rs = w.con().Execute("SELECT * FROM Padron");
+  frmPadronBusqueda lista(contexto);
+  lista.conBaseDatos = &w.con();
+  lista.registros = &rs;
+  w.user.answerAnything(forms::Answer::Ok);
+  w.user.expectForm("frmPadronBusqueda", [](FormDriver& u) {
+    EXPECT_EQ(u.get<forms::Grid>("msgBusquedaPadron").rowCount(), 3);
+    u.escape();
+  });
+  lista.Show();
+  EXPECT_THAT(w.user.messages().at(0).text,
+              HasSubstr("FidaleonNucleo / frmPadronBusqueda / ConfigGridBusqueda"));
+}
+
 TEST(FrmPadronBusqueda, DetailsByButtonDoubleClickAndEnter_ShowTheRowAndChooseNobody) {
   BusquedaWorld w;
   const std::int32_t elegido = w.buscar(" ORDER BY IDPadron", [&](FormDriver& u) {

@@ -137,7 +137,7 @@ TEST(Recortada, LongOrManyLines_FitIntoARow) {
   std::string larga;
   for (int i = 0; i < 100; ++i) larga += "ñ";
   EXPECT_EQ(recortada(larga), larga);
-  EXPECT_EQ(recortada(larga + "x"), larga + " ...");
+  EXPECT_EQ(recortada(larga + "x"), larga + " ... ");
 }
 
 }  // namespace

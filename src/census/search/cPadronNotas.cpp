@@ -13,7 +13,7 @@ constexpr std::size_t LETRAS_EN_REJILLA = 100;
 std::string recortada(const std::string& texto) {
   const std::string linea = text::replaceAll(text::replaceAll(texto, "\r\n", " "), "\n", " ");
   if (text::length(linea) <= LETRAS_EN_REJILLA) return linea;
-  return text::left(linea, LETRAS_EN_REJILLA) + " ...";
+  return text::left(linea, LETRAS_EN_REJILLA) + " ... ";
 }
 
 }  // namespace fidaleon

@@ -21,7 +21,7 @@ struct cPadronNotas {
   std::int32_t CodPadron = 0;
 };
 
-/// A text as a row of a grid shows it: in one line, and a long one cut, with " ..." at its end.
+/// A text as a row of a grid shows it: in one line, and a long one cut, with " ... " at its end.
 std::string recortada(const std::string& texto);
 
 }  // namespace fidaleon

@@ -77,7 +77,8 @@ void frmPadronBusqueda::mostrarBuscado() {
 }
 
 void frmPadronBusqueda::ConfigGridBusqueda() {
-  cIListas(contexto_).ConfigGrid(msgBusquedaPadron, REJILLA, "ConfigGridBusqueda");
+  cIListas(contexto_).ConfigGrid(msgBusquedaPadron, REJILLA, "ConfigGridBusqueda",
+                                 "frmPadronBusqueda");
 }
 
 void frmPadronBusqueda::CargaGridBusqueda() {

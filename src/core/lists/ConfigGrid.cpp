@@ -21,8 +21,9 @@ std::string cIListas::ruta(const char* camino) const {
   return contexto_.seccion(camino);
 }
 
-void cIListas::ConfigGrid(forms::Grid& grid, const Rejilla& rejilla, const char* procedimiento) {
-  guarded(contexto_, "cIListas", procedimiento, [&] {
+void cIListas::ConfigGrid(forms::Grid& grid, const Rejilla& rejilla, const char* procedimiento,
+                          const char* objeto) {
+  guarded(contexto_, objeto, procedimiento, [&] {
     const int columnas = static_cast<int>(rejilla.columnas.size());
     grid.setColumns(columnas);
     for (int c = 0; c < columnas; ++c)

@@ -36,9 +36,10 @@ class cIListas {
   /// `bandeja` is the tray's node name; anything but the inbox shows to whom a message went.
   void ConfigGridMensajes(forms::Grid& rejilla, const std::string& bandeja);
 
-  /// The same for a grid that a dialog describes itself; `procedimiento` is what an error is
-  /// reported under.
-  void ConfigGrid(forms::Grid& rejilla, const Rejilla& descripcion, const char* procedimiento);
+  /// The same for a grid that a dialog describes itself; `procedimiento` and `objeto`, the dialog,
+  /// are what an error is reported under.
+  void ConfigGrid(forms::Grid& rejilla, const Rejilla& descripcion, const char* procedimiento,
+                  const char* objeto = "cIListas");
   /// Keeps the widths as the user has left them.
   void SaveGrid(const forms::Grid& rejilla, const Rejilla& descripcion);
 
