@@ -41,6 +41,14 @@ class BarraProgreso : public FDAPI::cProgreso {
   forms::Progress& barra_;
 };
 
+/// A list that nobody sees: what is marked in those of the dialog is the user's affair.
+struct ListaAparte : forms::Form {
+  explicit ListaAparte(forms::UserInterface& ui) : Form(ui, "ListaAparte") {
+    lista.setMultiSelect(true);
+  }
+  forms::ListBox lista{*this, "lista"};
+};
+
 }  // namespace
 
 frmInfActividad::frmInfActividad(Contexto& contexto)
@@ -176,9 +184,10 @@ bool frmInfActividad::rellenarColaboradores(FDAPI::cProgreso& progreso) {
 }
 
 std::string frmInfActividad::restriccion(const char* columna) {
-  forms::ListBox& elegidas = lstListas[SELECCIONADAS];
-  for (int fila = 0; fila < elegidas.listCount(); ++fila) elegidas.setSelected(fila, true);
-  return contexto_.fidaleon()->sqlListbox(elegidas, columna);
+  ListaAparte elegidas(ui());
+  for (const std::int64_t clave : listas_.seleccionadas())
+    elegidas.lista.setSelected(elegidas.lista.addItem({}, clave), true);
+  return contexto_.fidaleon()->sqlListbox(elegidas.lista, columna);
 }
 
 }  // namespace fidaleon

@@ -16,6 +16,8 @@ constexpr const char* PESETAS = "Pts";
 constexpr const char* EUROS = "€";
 // In brackets first: it holds the plain one.
 constexpr std::array<const char*, 2> BRACKETED{"(Pts)", "(€)"};
+// A long row of alternatives is nested as deep as it is long, which engines refuse.
+constexpr std::size_t ALTERNATIVES = 500;
 
 bool isUnit(const std::string& caption) {
   const std::string c = text::lower(text::trim(caption));
@@ -70,10 +72,13 @@ void Fidaleon::ListarSeleccionados(const forms::ListBox& lista, std::vector<int>
 std::string Fidaleon::sqlListbox(const forms::ListBox& lista, const std::string& columna) {
   std::vector<int> rows;
   ListarSeleccionados(lista, rows);
-  std::string sql;
-  for (const int row : rows)
-    sql += (sql.empty() ? "(" : " OR ") + columna + "=" + std::to_string(lista.itemData(row));
-  return sql.empty() ? sql : sql + ")";
+  if (rows.empty()) return {};
+  std::string sql = "(";
+  for (std::size_t i = 0; i < rows.size(); ++i) {
+    if (i > 0) sql += i % ALTERNATIVES == 0 ? ") OR (" : " OR ";
+    sql += columna + "=" + std::to_string(lista.itemData(rows[i]));
+  }
+  return rows.size() > ALTERNATIVES ? "(" + sql + "))" : sql + ")";
 }
 
 void Fidaleon::NuevaInstitucion(FDAPI::Conexion& conexion, const FDAPI::cConfig& config) {

@@ -127,11 +127,26 @@ TEST(ActivityDialog, EmptyTable_KeepsTheDialog_ButOldRowsPassForNew) {
     w.user.expectMessage(NINGUNO);
     u.click(ACEPTAR);
     EXPECT_FALSE(u.closed());
+    EXPECT_EQ(u.get<forms::ListBox>(SELECCIONADAS).selCount(), 0) << "marks are the user's";
     w.conInformes().Execute("INSERT INTO Informe_Colaboradores (NombreGrupo) VALUES (\"Viejo\")");
     u.click(ACEPTAR);
     EXPECT_TRUE(u.closed());
   });
   EXPECT_EQ(w.user.messages()[0].icon, forms::MsgIcon::Information);
+  EXPECT_SCRIPT_DONE(w.user);
+}
+
+TEST(ActivityDialog, InstitutionsOfAWholeDiocese_CanAllBeChosen) {
+  DialogWorld w;
+  w.con().BeginTrans();
+  for (int i = 0; i < 1500; ++i) w.institucion("Parroquia " + std::to_string(i));
+  w.con().CommitTrans();
+  w.actividades([](FormDriver& u) {
+    u.click(AGREGAR_TODAS);
+    u.click(ACEPTAR);
+    EXPECT_TRUE(u.closed());
+  });
+  EXPECT_EQ(w.filas().size(), 3u);
   EXPECT_SCRIPT_DONE(w.user);
 }
 

@@ -103,6 +103,11 @@ TEST_F(Services, FieldsAndLists) {
   f.ListarSeleccionados(d.list, rows);
   EXPECT_THAT(rows, ::testing::ElementsAre(0, 2));
   EXPECT_EQ(f.sqlListbox(d.list, "CodInstitucion"), "(CodInstitucion=4 OR CodInstitucion=9)");
+  for (int i = 0; i < 5000; ++i) d.list.setSelected(d.list.addItem("x", 100 + i), true);
+  EXPECT_TRUE(w.con()
+                  .Execute("SELECT Nombre FROM Institucion WHERE " +
+                           f.sqlListbox(d.list, "IDInstitucion") + " AND IDInstitucion=0")
+                  .EOF_());
 }
 
 TEST_F(Services, Currency_IsThatOfTheConfiguration) {
