@@ -339,6 +339,25 @@ TEST_F(FormDialogTest, TabClicked_FormAskedFirstAndMaySayNo) {
   EXPECT_EQ(form.strip.tab(), 1);
 }
 
+TEST_F(FormDialogTest, ControlTabInAnyControl_SwitchesTheTab) {
+  std::vector<Control*> fields = form.tabOrder();
+  for (Control* field : fields) {
+    form.setFocus(form.institution);
+    form.strip.setTab(std::max(0, field->page()));
+    if (!field->reachable()) continue;
+    const int tab = form.strip.tab();
+    const int pages = form.strip.tabCount();
+    go(*field);
+    QTest::keyClick(dialog->fieldOf(*field), Qt::Key_Tab, Qt::ControlModifier);
+    EXPECT_EQ(form.strip.tab(), (tab + 1) % pages) << field->name();
+    form.strip.setTab(tab);
+    go(*field);
+    QTest::keyClick(dialog->fieldOf(*field), Qt::Key_Backtab,
+                    Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(form.strip.tab(), (tab + pages - 1) % pages) << field->name();
+  }
+}
+
 // Lists.
 
 TEST_F(FormDialogTest, LettersInCombo_FindWithoutAccentsAndWalkOnRepeat) {

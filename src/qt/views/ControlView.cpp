@@ -65,8 +65,15 @@ namespace {
 
 /// Keys that switch the tabs of the form, whatever the widget would do with them.
 bool switchesTabs(const QKeyEvent& event) {
-  const bool page = event.key() == Qt::Key_PageUp || event.key() == Qt::Key_PageDown;
-  return page && event.modifiers().testFlag(Qt::ControlModifier);
+  switch (event.key()) {
+    case Qt::Key_Tab:
+    case Qt::Key_Backtab:
+    case Qt::Key_PageUp:
+    case Qt::Key_PageDown:
+      return event.modifiers().testFlag(Qt::ControlModifier);
+    default:
+      return false;
+  }
 }
 
 }  // namespace
