@@ -20,17 +20,26 @@ void flushFolderOf(const fs::path& file) {
   ::close(fd);
 }
 
+/// With what the engine keeps beside it: the journal of a draft whose maker was killed would be
+/// played back into the next one.
+void removeAll(const fs::path& draft) {
+  for (const char* const ending : {"", "-journal", "-wal", "-shm"}) {
+    fs::path file = draft;
+    file += ending;
+    std::error_code ignored;
+    fs::remove(file, ignored);
+  }
+}
+
 }  // namespace
 
 Draft::Draft(const fs::path& file, const char* ending) : file_(file), draft_(file) {
   draft_ += ending;
-  std::error_code ignored;
-  fs::remove(draft_, ignored);
+  removeAll(draft_);
 }
 
 Draft::~Draft() {
-  std::error_code ignored;
-  fs::remove(draft_, ignored);
+  removeAll(draft_);
 }
 
 void Draft::accept() {

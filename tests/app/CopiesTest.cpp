@@ -10,6 +10,7 @@
 #include "app/MainWindow.h"
 #include "app/Precaution.h"
 #include "store/Engine.h"
+#include "store/FailingEngine.h"
 
 namespace fidaleon::app {
 namespace {
@@ -128,6 +129,43 @@ TEST_F(Copies, thatCannotBeMade_sayWhyAndLeaveNothing) {
   fs::remove_all(folder());
   std::ofstream(folder()) << "a file in the place of the folder";
   EXPECT_EQ(failure(), Kind::ReadOnly);
+}
+
+/// An engine whose copies come out wrong.
+class BadCopier : public store::FailingEngine {
+ public:
+  using FailingEngine::FailingEngine;
+  std::function<void(const fs::path&)> damage;
+  void backup(const fs::path& to) override {
+    FailingEngine::backup(to);
+    damage(to);
+  }
+};
+
+TEST_F(Copies, thatAreNotTheParish_areFoundOut) {
+  addOffice("Sacristán");
+  BadCopier* copier = nullptr;
+  desk->parish().wrapEngine([&](std::unique_ptr<store::Engine> inner) {
+    auto made = std::make_unique<BadCopier>(std::move(inner));
+    copier = made.get();
+    return made;
+  });
+  const std::vector<std::function<void(const fs::path&)>> faults{
+      [](const fs::path& f) { fs::resize_file(f, fs::file_size(f) / 2); },
+      [](const fs::path& f) { fs::resize_file(f, fs::file_size(f) - 4096); },
+      [](const fs::path& f) { fs::resize_file(f, 0); },
+      [](const fs::path& f) {
+        store::openDatabase(f, store::parishSchema())->Execute("DELETE FROM Cargo");
+      },
+      [](const fs::path& f) { fs::remove(f); },
+  };
+  for (const auto& fault : faults) {
+    copier->damage = fault;
+    EXPECT_THROW(make(), store::Error);
+    EXPECT_THAT(namesIn(folder()), IsEmpty());
+  }
+  copier->damage = [](const fs::path&) {};
+  EXPECT_EQ(officesIn(make()), 1);
 }
 
 TEST_F(Copies, ofADamagedParish_areRefused) {

@@ -38,7 +38,8 @@ class Returning : public Copies {
   std::string told() const { return user.messages().empty() ? "" : user.messages().back().text; }
   std::vector<std::string> rest() const {
     std::vector<std::string> names = namesIn(directory());
-    std::erase_if(names, [](const std::string& n) { return !n.ends_with(".vuelta"); });
+    std::erase_if(names,
+                  [](const std::string& n) { return n.find(".vuelta") == std::string::npos; });
     return names;
   }
 
@@ -64,6 +65,15 @@ TEST_F(Returning, bringsBackTheContentAndKeepsWhatWasThere) {
   EXPECT_TRUE(returnTo(all[0].file));
   EXPECT_EQ(rowsOf("SELECT * FROM Cargo WHERE Nombre='Organista'"), 1);
   EXPECT_EQ(rowsOf("SELECT * FROM Cargo WHERE Nombre='Campanero'"), 0);
+  EXPECT_THAT(rest(), IsEmpty());
+}
+
+TEST_F(Returning, restsOfAnEarlierOneThatWasKilled_areNoMatter) {
+  for (const char* ending : {"", "-journal", "-wal"})
+    std::ofstream(files().parish().string() + ".vuelta" + ending) << "restos";
+  answerNext("&Volver a la copia");
+  EXPECT_TRUE(returnTo(copy));
+  EXPECT_EQ(offices(), 1);
   EXPECT_THAT(rest(), IsEmpty());
 }
 
