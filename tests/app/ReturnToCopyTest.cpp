@@ -15,6 +15,7 @@
 #include "app/MainWindow.h"
 #include "store/Engine.h"
 #include "store/Restore.h"
+#include "store/sqlite/NetworkDisk.h"
 
 namespace fidaleon::app {
 namespace {
@@ -57,6 +58,7 @@ TEST_F(Returning, bringsBackTheContentAndKeepsWhatWasThere) {
   EXPECT_TRUE(text.contains("Se perderá")) << text.toStdString();
   EXPECT_EQ(offices(), 1);
   EXPECT_EQ(other->Execute("SELECT COUNT(*) AS n FROM Cargo").integer("n"), 1);
+  EXPECT_TRUE(store::usesWriteAheadLog(files().parish())) << "as before";
   addOffice("Campanero");
   const auto all = copies.list();
   ASSERT_EQ(all.size(), 2U);
@@ -232,7 +234,8 @@ int returnInChild(const fs::path& copy, const fs::path& parish, long microsecond
   return status;
 }
 
-class KilledReturn : public Copies {
+/// With each way of keeping what is not finished: on a disk of the machine, and on the network.
+class KilledReturn : public Copies, public ::testing::WithParamInterface<const char*> {
  protected:
   void SetUp() override {
     Copies::SetUp();
@@ -240,6 +243,7 @@ class KilledReturn : public Copies {
     few = make("Pocos");
     fill("dos", 700);
     many = make("Muchos");
+    desk->parish().engine().run(std::string("PRAGMA journal_mode = ") + GetParam());
     desk.reset();  // what SQLite knows of open files must not go over to the other process
   }
   void fill(const std::string& name, int rows) {
@@ -262,7 +266,7 @@ class KilledReturn : public Copies {
   fs::path many;
 };
 
-TEST_F(KilledReturn, atAnyMoment_leavesOneContentOrTheOther) {
+TEST_P(KilledReturn, atAnyMoment_leavesOneContentOrTheOther) {
   std::int64_t now = pairs();
   ASSERT_EQ(now, 1400);
   int killed = 0;
@@ -285,7 +289,7 @@ TEST_F(KilledReturn, atAnyMoment_leavesOneContentOrTheOther) {
   EXPECT_GT(killed, 10);
 }
 
-TEST_F(KilledReturn, withAFullDisk_changesNothing) {
+TEST_P(KilledReturn, withAFullDisk_changesNothing) {
   const std::int64_t before = pairs();
   // No room beside the parish; then room there and none in the parish itself.
   for (const auto room : {fs::file_size(few) / 2, fs::file_size(few)}) {
@@ -295,6 +299,8 @@ TEST_F(KilledReturn, withAFullDisk_changesNothing) {
   }
   EXPECT_EQ(pairs(), before);
 }
+
+INSTANTIATE_TEST_SUITE_P(Journals, KilledReturn, ::testing::Values("WAL", "DELETE"));
 
 }  // namespace
 }  // namespace fidaleon::app
