@@ -7,6 +7,7 @@
 #include "app/Insert.h"
 #include "app/MainWindow.h"
 #include "app/Parish.h"
+#include "app/ReportProgress.h"
 #include "census/collaborators/frmColaborador.h"
 #include "census/persons/frmPadron.h"
 
@@ -144,6 +145,37 @@ TEST_F(CensusWindow, entireReports_holdWhatThereIs) {
   EXPECT_EQ(made->rowCount(), static_cast<std::size_t>(count(
                                   "SELECT COUNT(*) FROM Grupo WHERE IDGrupo IN (SELECT CodGrupo "
                                   "FROM Padron_Actividad)")));
+}
+
+TEST(ReportProgress, eachStretchIsShownAndTheLastOneIsClosed) {
+  forms::ScriptedUser user;
+  {
+    ReportProgress progress(user);
+    progress.setValue(1);
+    EXPECT_FALSE(progress.began());
+    progress.Cargar(2, "Uno", 1, 0);
+    progress.setValue(2);
+    progress.Cargar(5, "Dos", 1, 0);
+    EXPECT_TRUE(progress.began());
+  }
+  EXPECT_THAT(user.progressLog,
+              ::testing::ElementsAre("open 2 Uno", "2", "close", "open 5 Dos", "close"));
+}
+
+/// Asks to stop as soon as it is shown how far the work has come.
+class Impatient : public forms::ScriptedUser {
+  void progressMove(std::int64_t) override { throw forms::Cancelled(); }
+};
+
+TEST_F(CensusWindow, reportStopped_leavesNothingAndTheNextIsWhole) {
+  create();
+  Impatient impatient;
+  Desk other(files(), "Secretaría", impatient, settings, clock);
+  impatient.expectMessage("Operación cancelada. No queda nada de ella.");
+  EXPECT_FALSE(makeListReport(other, listReports()[1], Extent::Entire));
+  EXPECT_THAT(impatient.problems(), ::testing::IsEmpty());
+  EXPECT_EQ(impatient.progressLog.back(), "close");
+  EXPECT_TRUE(makeListReport(*desk, listReports()[1], Extent::Entire));
 }
 
 TEST_F(CensusWindow, entireReportWithoutRows_isToldOnce) {
