@@ -267,6 +267,28 @@ TEST(FrmColaborador, LoadingFails_NothingOpensAndNothingIsOverwritten) {
   }
 }
 
+TEST(FrmColaborador, TownsCannotBeRead_NothingOpensAndTheTownStays) {
+  ColaboradorWorld w;
+  const std::int32_t id = w.colaborador();
+  const std::string pueblo = std::to_string(w.municipio("Arévalo", "Ávila"));
+  w.con().Execute("UPDATE Padron SET CodMunicipio=" + pueblo);
+  FailingEngine::wrap(w.con())->failOn("FROM Municipio WHERE CodProvincia");
+  w.user.answerAnything(forms::Answer::Ok);
+  w.user.expectForm("frmColaborador", [](FormDriver& u) { u.click(ACEPTAR); });
+  censo::EditaColaborador(w.contexto, w.con(), id);
+  EXPECT_EQ(w.columna("Padron", "CodMunicipio", id), pueblo);
+}
+
+TEST(FrmColaborador, AcceptedTwiceUnderAnotherTypeNumber_HasTheRoleOnce) {
+  ColaboradorWorld w;
+  const std::int32_t id = w.persona("Eva", "Ríos", "Mora");
+  w.con().Execute("UPDATE Tipo_Persona SET IDTipoPersona=7 WHERE Nombre='Colaborador'");
+  for (int vez = 0; vez < 2; ++vez) w.edita(id, [](FormDriver& u) { u.click(ACEPTAR); });
+  EXPECT_EQ(w.count(w.de("Padron_TipoPersona", id) + " AND CodTipoPersona=3"), 1);
+  EXPECT_EQ(w.count(w.de("Padron_TipoPersona", id)), 2);
+  EXPECT_SCRIPT_DONE(w.user);
+}
+
 TEST(FrmColaborador, EditFails_LeavesTheStoredPersonAndTheTypedTexts) {
   ColaboradorWorld w;
   const std::int32_t id = w.colaborador();

@@ -60,14 +60,19 @@ bool frmColaborador::LlenaColeccionActividad() {
 bool frmColaborador::CargaGridActividadColaborador() {
   return procedimiento("CargaGridActividadColaborador", [this] {
     const forms::Hourglass reloj(ui());
-    msgActividades.beginUpdate();
     msgActividades.clearRows();
-    for (std::size_t i = 0; i < actividades_.size(); ++i) {
-      const cPadronActividad& a = actividades_[i];
-      if (!quitada(a)) msgActividades.addRow(celdas(a), claveDeFila(i));
-    }
-    msgActividades.endUpdate();
+    // A row stands for a membership by its place, so each has one even if its names cannot be read.
+    for (std::size_t i = 0; i < actividades_.size(); ++i)
+      if (!quitada(actividades_[i])) msgActividades.addRow({}, claveDeFila(i));
+    int fila = 0;
+    for (const cPadronActividad& a : actividades_)
+      if (!quitada(a)) mostrarCeldas(++fila, celdas(a));
   });
+}
+
+void frmColaborador::mostrarCeldas(int fila, const std::vector<std::string>& textos) {
+  for (std::size_t c = 0; c < textos.size(); ++c)
+    msgActividades.setCell(fila, static_cast<int>(c), textos[c]);
 }
 
 std::int64_t frmColaborador::claveDeFila(std::size_t posicion) const {
@@ -131,8 +136,7 @@ bool frmColaborador::mostrarActividad(cCOperacion operacion, std::size_t posicio
   if (operacion == cCOperacion::ANADIR)
     msgActividades.setRow(msgActividades.addRow(dialogo.celdas, claveDeFila(posicion)));
   else
-    for (std::size_t c = 0; c < dialogo.celdas.size(); ++c)
-      msgActividades.setCell(fila, static_cast<int>(c), dialogo.celdas[c]);
+    mostrarCeldas(fila, dialogo.celdas);
   return true;
 }
 
@@ -152,6 +156,30 @@ void frmColaborador::quitarActividad() {
   msgActividades.setRow(std::min(fila, msgActividades.rowCount()));
 }
 
+bool frmColaborador::hay(const std::string& sentencia) {
+  return !conBaseDatos->Execute(sentencia).EOF_();
+}
+
+// Groups can be removed while this dialog is open, also from here.
+bool frmColaborador::faltaGrupoOCargo() {
+  int fila = 0;
+  for (const cPadronActividad& a : actividades_) {
+    if (!quitada(a)) ++fila;
+    if (a.Operacion != cCOperacion::ANADIR && a.Operacion != cCOperacion::EDITAR) continue;
+    const bool grupo = hay("SELECT IDGrupo FROM Grupo WHERE IDGrupo=" + std::to_string(a.IDGrupo));
+    if (grupo && hay("SELECT IDCargo FROM Cargo WHERE IDCargo=" + std::to_string(a.IDCargo)))
+      continue;
+    forms::warn(ui(), std::string("¡El ") + (grupo ? "cargo" : "grupo") +
+                          " de esta actividad ya no existe! Elija otro o quite la actividad.");
+    mstColaborador.setTab(TAB_ACTIVIDADES);
+    CargaGridActividadColaborador();
+    msgActividades.setRow(fila);
+    setFocus(msgActividades);
+    return true;
+  }
+  return false;
+}
+
 void frmColaborador::guardarActividades(std::int32_t idPadron) {
   for (const cPadronActividad& a : actividades_)
     if (Operacion == cCOperacion::EDITAR || a.Operacion == cCOperacion::ANADIR)
@@ -159,25 +187,30 @@ void frmColaborador::guardarActividades(std::int32_t idPadron) {
 }
 
 void frmColaborador::guardarActividad(const cPadronActividad& actividad, std::int32_t idPadron) {
+  const std::string cual =
+      " WHERE IDActividadesPadron=" + std::to_string(actividad.IDActividadesPadron);
+  if (actividad.Operacion == cCOperacion::ANADIR) {
+    insertarActividad(actividad, idPadron);
+  } else if (actividad.Operacion == cCOperacion::EDITAR) {
+    // Whoever takes a member out of a group does not lock the membership.
+    if (!hay("SELECT IDActividadesPadron FROM Padron_Actividad" + cual))
+      return insertarActividad(actividad, idPadron);
+    conBaseDatos->Execute("UPDATE Padron_Actividad SET CodPadron=" + std::to_string(idPadron) +
+                          ",CodGrupo=" + std::to_string(actividad.IDGrupo) +
+                          ",CodCargo=" + std::to_string(actividad.IDCargo) + cual);
+  } else if (quitada(actividad) && actividad.Estado) {
+    conBaseDatos->Execute("DELETE * FROM Padron_Actividad" + cual);
+  }
+}
+
+void frmColaborador::insertarActividad(const cPadronActividad& actividad, std::int32_t idPadron) {
   const std::string p = std::to_string(idPadron);
   const std::string g = std::to_string(actividad.IDGrupo);
-  const std::string c = std::to_string(actividad.IDCargo);
-  const std::string id = std::to_string(actividad.IDActividadesPadron);
-  if (actividad.Operacion == cCOperacion::ANADIR) {
-    const bool esta =
-        Operacion == cCOperacion::EDITAR &&
-        !conBaseDatos
-             ->Execute("SELECT * FROM Padron_Actividad WHERE CodPadron=" + p + " AND CodGrupo=" + g)
-             .EOF_();
-    if (!esta)
-      conBaseDatos->Execute("INSERT INTO Padron_Actividad (CodPadron,CodGrupo,CodCargo) VALUES (" +
-                            p + "," + g + "," + c + ");");
-  } else if (actividad.Operacion == cCOperacion::EDITAR) {
-    conBaseDatos->Execute("UPDATE Padron_Actividad SET CodPadron=" + p + ",CodGrupo=" + g +
-                          ",CodCargo=" + c + " WHERE IDActividadesPadron=" + id);
-  } else if (quitada(actividad) && actividad.Estado) {
-    conBaseDatos->Execute("DELETE * FROM Padron_Actividad WHERE IDActividadesPadron=" + id);
-  }
+  if (Operacion == cCOperacion::EDITAR &&
+      hay("SELECT * FROM Padron_Actividad WHERE CodPadron=" + p + " AND CodGrupo=" + g))
+    return;
+  conBaseDatos->Execute("INSERT INTO Padron_Actividad (CodPadron,CodGrupo,CodCargo) VALUES (" + p +
+                        "," + g + "," + std::to_string(actividad.IDCargo) + ");");
 }
 
 }  // namespace fidaleon

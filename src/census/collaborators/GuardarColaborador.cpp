@@ -24,7 +24,7 @@ std::string fechaDe(const std::string& cumpleaños, const std::string& año) {
 }  // namespace
 
 void frmColaborador::aceptar() {
-  if (faltaNombre() || faltaNacimiento()) return;
+  if (faltaNombre() || faltaNacimiento() || faltaGrupoOCargo()) return;
   if (guardar(leerCampos())) Unload();
 }
 
@@ -115,7 +115,10 @@ void frmColaborador::AgregarColaborador(Persona& persona) {
   conBaseDatos->Execute(sqlInsertar(ALTA_COLABORADOR_NACIMIENTO, persona));
   conBaseDatos->Execute(sqlInsertar(ALTA_COLABORADOR_BAUTISMO, persona));
   for (const std::string& fila : sqlSatelitesVacios(persona.CodPadron)) conBaseDatos->Execute(fila);
-  darTipoColaborador(persona.CodPadron);
+  const store::Recordset tipo =
+      conBaseDatos->Execute("SELECT * FROM Tipo_Persona WHERE Nombre='Colaborador'");
+  darTipoColaborador(persona.CodPadron,
+                     tipo.EOF_() ? TIPO_COLABORADOR : tipo.text("IDTipoPersona"));
 }
 
 void frmColaborador::EditarColaborador(const Persona& persona) {
@@ -123,28 +126,21 @@ void frmColaborador::EditarColaborador(const Persona& persona) {
   conBaseDatos->Execute(sqlActualizar(FICHA_COLABORADOR, persona) + " WHERE IDPadron=" + id);
   guardarFila(ALTA_COLABORADOR_NACIMIENTO, FICHA_COLABORADOR_NACIMIENTO, persona);
   guardarFila(ALTA_COLABORADOR_BAUTISMO, FICHA_COLABORADOR_BAUTISMO, persona);
-  if (conBaseDatos
-          ->Execute("SELECT * FROM [Padron_TipoPersona] WHERE CodPadron=" + id +
-                    " And CodTipoPersona=3")
-          .EOF_())
-    darTipoColaborador(IDPadron);
+  if (!hay("SELECT * FROM [Padron_TipoPersona] WHERE CodPadron=" + id + " And CodTipoPersona=3"))
+    darTipoColaborador(IDPadron, TIPO_COLABORADOR);
 }
 
 void frmColaborador::guardarFila(const Tabla<Persona>& alta, const Tabla<Persona>& ficha,
                                  const Persona& persona) {
   const std::string condicion = " WHERE CodPadron = " + std::to_string(IDPadron);
-  const bool falta =
-      conBaseDatos->Execute(std::string("SELECT CodPadron FROM ") + alta.nombre + condicion).EOF_();
-  conBaseDatos->Execute(falta ? sqlInsertar(alta, persona)
-                              : sqlActualizar(ficha, persona) + condicion);
+  const bool esta = hay(std::string("SELECT CodPadron FROM ") + alta.nombre + condicion);
+  conBaseDatos->Execute(esta ? sqlActualizar(ficha, persona) + condicion
+                             : sqlInsertar(alta, persona));
 }
 
-void frmColaborador::darTipoColaborador(std::int32_t idPadron) {
-  const store::Recordset tipo =
-      conBaseDatos->Execute("SELECT * FROM Tipo_Persona WHERE Nombre='Colaborador'");
-  const std::string clave = tipo.EOF_() ? TIPO_COLABORADOR : tipo.text("IDTipoPersona");
+void frmColaborador::darTipoColaborador(std::int32_t idPadron, const std::string& tipo) {
   conBaseDatos->Execute("INSERT INTO Padron_TipoPersona (CodPadron,CodTipoPersona) VALUES (" +
-                        std::to_string(idPadron) + "," + clave + ");");
+                        std::to_string(idPadron) + "," + tipo + ");");
 }
 
 }  // namespace fidaleon

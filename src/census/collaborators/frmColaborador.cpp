@@ -2,6 +2,8 @@
 
 #include "census/collaborators/frmColaborador.h"
 
+#include <stdexcept>
+
 #include "census/collaborators/TablasColaborador.h"
 #include "census/common/CamposPersona.h"
 #include "census/common/SoloLectura.h"
@@ -172,8 +174,8 @@ void frmColaborador::cargar() {
   for (ParProvinciaPoblacion& lugar : lugares_) lugar.abrir(*conBaseDatos);
   LimpiarDatosColaborador();
   if (Operacion == cCOperacion::EDITAR) {
-    cargarPersona();
-    if (!LlenaColeccionActividad() || !CargaGridActividadColaborador()) return Unload();
+    if (!cargarPersona() || !LlenaColeccionActividad() || !CargaGridActividadColaborador())
+      return Unload();
   } else {
     setCaption("Agregar colaborador");
   }
@@ -186,16 +188,19 @@ void frmColaborador::LimpiarDatosColaborador() {
   mostrarPersona();
 }
 
-void frmColaborador::cargarPersona() {
+bool frmColaborador::cargarPersona() {
   persona_.IDPadron = persona_.CodPadron = IDPadron;
-  if (!leerTabla(ALTA_COLABORADOR, "IDPadron"))
-    throw std::runtime_error("La persona ya no está en el padrón.");
+  if (!leerTabla(ALTA_COLABORADOR, "IDPadron")) {
+    forms::warn(ui(), "Esta persona ya no está en el padrón.");
+    return false;
+  }
   // A person may lack the row of a satellite; it is added when the card is accepted.
   leerTabla(ALTA_COLABORADOR_NACIMIENTO, "CodPadron");
   leerTabla(ALTA_COLABORADOR_BAUTISMO, "CodPadron");
   mostrarPersona();
   setCaption("Propiedades del colaborador " + persona_.Nombre + " " + persona_.PrimerApellido +
              " " + persona_.SegundoApellido);
+  return true;
 }
 
 bool frmColaborador::leerTabla(const Tabla<Persona>& tabla, const char* clave) {
@@ -213,6 +218,14 @@ void frmColaborador::mostrarPersona() {
   adtpFechaBautizo.setStored(persona_.FechaBautizo);
   lugares_[DOMICILIO].poner(persona_.CodMunicipio);
   lugares_[BAUTISMO].poner(persona_.CodMunicipioParrBaut);
+  comprobarPoblaciones();
+}
+
+// A province without its town is a list that could not be read; the person would lose the town.
+void frmColaborador::comprobarPoblaciones() const {
+  for (const Lista lista : {ProvinciaDomicilio, ProvinciaBautismo})
+    if (cboColaborador[lista].listIndex() >= 0 && cboColaborador[lista + 1].listIndex() < 0)
+      throw std::runtime_error("No se han podido leer las poblaciones de esta persona.");
 }
 
 void frmColaborador::soloLectura() {

@@ -102,9 +102,11 @@ class frmColaborador : public forms::Form {
   // Loading
   void cargar();
   void LimpiarDatosColaborador();
-  void cargarPersona();
+  /// False when there is no such person any more; the user is told.
+  bool cargarPersona();
   bool leerTabla(const Tabla<Persona>& tabla, const char* clave);
   void mostrarPersona();
+  void comprobarPoblaciones() const;
 
   // What the user does
   void nombre_LostFocus(const forms::Control* siguiente);
@@ -126,13 +128,14 @@ class frmColaborador : public forms::Form {
   void AgregarColaborador(Persona& persona);
   void EditarColaborador(const Persona& persona);
   void guardarFila(const Tabla<Persona>& alta, const Tabla<Persona>& ficha, const Persona& persona);
-  void darTipoColaborador(std::int32_t idPadron);
+  void darTipoColaborador(std::int32_t idPadron, const std::string& tipo);
 
   // Memberships
   void ConfigGridActividadColaborador();
   void guardarAnchos();
   bool LlenaColeccionActividad();
   bool CargaGridActividadColaborador();
+  void mostrarCeldas(int fila, const std::vector<std::string>& textos);
   std::vector<std::string> celdas(const cPadronActividad& actividad);
   std::int64_t claveDeFila(std::size_t posicion) const;
   /// Place in the collection of the chosen row; none when no row is chosen.
@@ -143,8 +146,12 @@ class frmColaborador : public forms::Form {
   /// False when it was cancelled.
   bool mostrarActividad(FDAPI::cCOperacion operacion, std::size_t posicion);
   BloqueosDeLista& bloqueos();
+  bool hay(const std::string& sentencia);
+  /// Whether one that is to be stored has lost its group or office; the user is told which.
+  bool faltaGrupoOCargo();
   void guardarActividades(std::int32_t idPadron);
   void guardarActividad(const cPadronActividad& actividad, std::int32_t idPadron);
+  void insertarActividad(const cPadronActividad& actividad, std::int32_t idPadron);
 
   bool procedimiento(const char* nombre, const std::function<void()>& cuerpo) const;
 
