@@ -74,7 +74,7 @@ void frmActividad::cargar() {
   bloqueos_ = std::make_unique<BloqueosDeLista>(contexto_, *conBaseDatos, "Grupo", "IdGrupo");
   setCaption("Agregar actividad");
   contexto_.entorno.support.create_cIListas()->fillInstituciones(cboInstitucion, 0, *conBaseDatos);
-  cIListas(contexto_).ConfigGrid(msgGrupos, rejillaGrupos(), "ConfigGridGrupos");
+  cIListas(contexto_).ConfigGrid(msgGrupos, rejillaGrupos(), "ConfigGridGrupos", "frmActividad");
   for (const Boton boton : {AGREGAR, MODIFICAR, QUITAR})
     cmdActividad[boton].setVisible(!blnOcultar);
 }

@@ -21,7 +21,8 @@ const Rejilla& rejillaNotas() {
 }  // namespace
 
 void frmPadron::ConfigGridNotasPersonales() {
-  cIListas(contexto_).ConfigGrid(msgNotas, rejillaNotas(), "ConfigGridNotasPersonales");
+  cIListas(contexto_).ConfigGrid(msgNotas, rejillaNotas(), "ConfigGridNotasPersonales",
+                                 "frmPadron");
 }
 
 void frmPadron::guardarAnchos() {
