@@ -57,9 +57,12 @@ std::string CommandLine::help() {
          "  fidaleon                    abre la parroquia (la primera vez, ayuda a crearla)\n"
          "  fidaleon --datos CARPETA    abre la parroquia guardada en esa carpeta\n"
          "  fidaleon --demo CARPETA     recorre por sí solo el camino de un bautismo, desde una\n"
-         "                              parroquia nueva hasta el certificado, y deja en la "
-         "carpeta\n"
-         "                              las dos bases de datos, los documentos y un registro\n"
+         "                              parroquia nueva hasta el certificado, y el de una "
+         "persona,\n"
+         "                              desde el padrón hasta los grupos y sus informes; deja en "
+         "la\n"
+         "                              carpeta las dos bases de datos, los documentos y un "
+         "registro\n"
          "  fidaleon --pictures CARPETA guarda una imagen de cada diálogo y de cada documento\n"
          "  fidaleon --help             muestra esta ayuda\n";
 }

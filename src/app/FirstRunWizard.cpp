@@ -107,8 +107,9 @@ QWizardPage* FirstRunWizard::contentPage(const NewParish& proposal) {
   auto* sample = new QRadioButton(tr("Crear una parroquia de &ejemplo"), page);
   layout->addWidget(sample);
   layout->addWidget(explanation(
-      tr("Con dos libros, más de un centenar de bautismos y personas inventadas, para aprender y "
-         "probar sin miedo. No sirve para trabajar de verdad."),
+      tr("Con dos libros y más de un centenar de bautismos, un padrón con sus colaboradores y sus "
+         "grupos, y una agenda. Todas las personas son inventadas: sirve para aprender y probar "
+         "sin miedo, no para trabajar de verdad."),
       page));
   content_->addButton(empty, static_cast<int>(Content::Empty));
   content_->addButton(sample, static_cast<int>(Content::Sample));

@@ -1,35 +1,33 @@
 #include "app/Pictures.h"
 
 #include <QLineEdit>
+#include <QTableWidget>
 #include <QTemporaryDir>
 #include <array>
-#include <functional>
-#include <ostream>
 
+#include "app/CopiesDialog.h"
 #include "app/DemoScripts.h"
 #include "app/Desk.h"
 #include "app/Documents.h"
 #include "app/FirstRunWizard.h"
 #include "app/MainWindow.h"
 #include "app/NewParish.h"
+#include "app/PictureAlbum.h"
+#include "app/PicturesPeople.h"
 #include "app/PreviewDialog.h"
 #include "core/contract/CcNodos.h"
-#include "forms/ScriptedUser.h"
-#include "qt/Picture.h"
 #include "registers/lookup/frmBuscaPadres.h"
 #include "registers/lookup/frmDetallePadres.h"
+#include "store/Open.h"
 #include "support/Clocks.h"
 #include "support/MemorySettings.h"
 #include "support/frmInstitucion.h"
 #include "support/frmMunicipio.h"
 #include "support/frmProvincia.h"
-#include "text/Utf8.h"
 
 namespace fidaleon::app {
 namespace {
 
-constexpr QSize SCREEN(1366, 768);
-constexpr int DOCUMENT_DPI = 100;
 constexpr const char* USER = "Secretaría";
 
 struct Edition {
@@ -43,82 +41,14 @@ constexpr std::array<Edition, 4> EDITIONS{{
     {FDAPI::cCAplicacion::APP_FIDALEON_MENORCA, "menorca"},
 }};
 
-/// Puts pictures into a directory and counts those that could not be made.
-class Album {
- public:
-  Album(std::filesystem::path directory, std::ostream& out)
-      : directory_(std::move(directory)), out_(out) {}
-
-  void add(const std::string& name, const QImage& picture) {
-    const std::filesystem::path file = directory_ / (name + ".png");
-    const bool saved =
-        !picture.isNull() && picture.save(QString::fromStdString(file.string()), "PNG");
-    out_ << (saved ? "" : "FALLO: ") << file.filename().string() << std::endl;
-    if (!saved) ++failures_;
-  }
-  void add(const std::string& name, QWidget& widget) { add(name, widget.grab().toImage()); }
-  void miss(const std::string& name, const std::string& why) {
-    out_ << "FALLO: " << name << ": " << why << std::endl;
-    ++failures_;
-  }
-  bool complete() const { return failures_ == 0; }
-
- private:
-  std::filesystem::path directory_;
-  std::ostream& out_;
-  int failures_ = 0;
-};
-
-std::string plainName(const std::string& caption) {
-  std::string plain;
-  for (const char c : text::searchKey(caption))
-    plain += (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9') ? c : '-';
-  return plain;
-}
-
-void photograph(Album& album, forms::Form& form, const std::string& name) {
-  forms::TabStrip* strip = nullptr;
-  for (forms::Control* control : form.controls())
-    if (auto* found = dynamic_cast<forms::TabStrip*>(control)) strip = found;
-  if (!strip) return album.add(name, qt::renderToPicture(form, SCREEN));
-  const int front = strip->tab();
-  for (int tab = 0; tab < strip->tabCount(); ++tab) {
-    if (!strip->tabVisible(tab)) continue;
-    strip->setTab(tab);
-    album.add(name + "-" + std::to_string(tab + 1) + "-" + plainName(strip->caption(tab)),
-              qt::renderToPicture(form, SCREEN));
-  }
-  strip->setTab(front);
-}
-
-/// Looks at each form it is shown, and closes it.
-class Photographer : public forms::ScriptedUser {
- public:
-  explicit Photographer(Album& album) : album_(album) { answerAnything(forms::Answer::Yes); }
-
-  std::string next;                              // name of the next picture
-  std::function<void(forms::FormDriver&)> pose;  // what is done to the form before
-
-  void showModal(forms::Form& form) override {
-    const std::string name = std::exchange(next, {});
-    const auto prepare = std::exchange(pose, {});
-    form.focusFirst();
-    std::vector<std::string> problems;
-    forms::FormDriver driver(form, problems);
-    if (prepare) prepare(driver);
-    if (!name.empty()) photograph(album_, form, name);
-    form.Unload();
-  }
-
- private:
-  Album& album_;
-};
-
 /// The pictures of one edition, taken on a sample parish of its own.
 class EditionSitting {
  public:
-  EditionSitting(Album& album, const Edition& edition, const std::filesystem::path& directory)
-      : album_(album), edition_(edition), user_(album) {
+  EditionSitting(PictureAlbum& album, const Edition& edition,
+                 const std::filesystem::path& directory)
+      : album_(album),
+        edition_(edition),
+        user_(album, std::string("dialogo-") + edition.name + "-") {
     NewParish parish;
     parish.name = "San Esteban Protomártir";
     parish.edition = edition.code;
@@ -133,17 +63,17 @@ class EditionSitting {
     cNucleo& n = desk_->nucleo();
     auto& con = desk_->parish();
     const auto& config = desk_->config();
-    take("partida-nueva", [&] { n.NuevaPartida(con, config, ENTRIES); });
-    take("partida-antigua", [&] { n.AntiguaPartida(con, config, ENTRIES); });
-    take("partida-propiedades-libro-nuevo",
-         [&] { n.PropiedadesPartida(con, newest(), config, ENTRIES); });
-    take("partida-propiedades-libro-antiguo",
-         [&] { n.PropiedadesPartida(con, 1, config, ENTRIES); });
+    user_.take("partida-nueva", [&] { n.NuevaPartida(con, config, ENTRIES); });
+    user_.take("partida-antigua", [&] { n.AntiguaPartida(con, config, ENTRIES); });
+    user_.take("partida-propiedades-libro-nuevo",
+               [&] { n.PropiedadesPartida(con, newest(), config, ENTRIES); });
+    user_.take("partida-propiedades-libro-antiguo",
+               [&] { n.PropiedadesPartida(con, 1, config, ENTRIES); });
     if (const std::int32_t id = one("SELECT IDBautismo FROM Bautismo WHERE Anulada=true"))
-      take("partida-anulada", [&] { n.PropiedadesPartida(con, id, config, ENTRIES); });
-    take("solicitud-nueva", [&] { n.NuevaSolicitud(con, config, REQUESTS); });
-    take("solicitud-propiedades",
-         [&] { n.PropiedadesSolicitudes(con, request(), config, REQUESTS); });
+      user_.take("partida-anulada", [&] { n.PropiedadesPartida(con, id, config, ENTRIES); });
+    user_.take("solicitud-nueva", [&] { n.NuevaSolicitud(con, config, REQUESTS); });
+    user_.take("solicitud-propiedades",
+               [&] { n.PropiedadesSolicitudes(con, request(), config, REQUESTS); });
   }
 
   void bookDialogs() {
@@ -153,7 +83,7 @@ class EditionSitting {
         if (list.listCount() > 0) d.choose("cboInstituciones", list.list(0));
         d.click("optAntiguo");
       };
-      take(plainName(std::string("libro-nuevo-") + s.palabra), [&] {
+      user_.take(plainName(std::string("libro-nuevo-") + s.palabra), [&] {
         desk_->nucleo().NuevoLibro(desk_->parish(), desk_->config(),
                                    std::string("Libros") + s.palabra);
       });
@@ -162,7 +92,7 @@ class EditionSitting {
 
   void bookProperties() {
     const auto open = [this](const char* name, std::int32_t id) {
-      take(name, [&] {
+      user_.take(name, [&] {
         desk_->nucleo().PropiedadesLibro(desk_->parish(), id, desk_->config(), "LibrosBautismo");
       });
     };
@@ -170,7 +100,7 @@ class EditionSitting {
     open("libro-nuevo-abierto", current);
     open("libro-antiguo", one("SELECT IDLibroBautismo FROM Libro_Bautismo WHERE Nuevo=false"));
     takeRequests();
-    take("duplicadas", [&] {
+    user_.take("duplicadas", [&] {
       std::string order;
       desk_->nucleo().ImprimirDuplicadas(desk_->parish(), desk_->reports(), DUPLICATE, order);
     });
@@ -189,12 +119,13 @@ class EditionSitting {
       if (requests.listCount() > 1) requests.setSelected(1, true);
       d.click("cmdMover(0)");
     };
-    take("pasar-solicitudes",
-         [&] { desk_->nucleo().ImportarSolicitudes(desk_->parish(), desk_->config(), REQUESTS); });
+    user_.take("pasar-solicitudes", [&] {
+      desk_->nucleo().ImportarSolicitudes(desk_->parish(), desk_->config(), REQUESTS);
+    });
   }
 
   void otherDialogs() {
-    take("encargado", [&] {
+    user_.take("encargado", [&] {
       std::string date, keeper;
       desk_->nucleo().SelecEncargado(desk_->parish(), "Bautismo", 1, date, keeper);
     });
@@ -206,7 +137,24 @@ class EditionSitting {
     show<support::frmMunicipio>("municipio", e.ui, e.settings, e.clock, con, config, 1);
     familyDialogs();
     con.Execute("UPDATE Institucion SET Parroco=\"\", Diocesis=\"\", Vicaria=\"\"");
-    take("datos-necesarios", [&] { desk_->setUp(); });
+    user_.take("datos-necesarios", [&] { desk_->setUp(); });
+  }
+
+  void people() { photographPeople(album_, user_, *desk_); }
+
+  void copies() {
+    const SafetyCopies kept(desk_->files().directory);
+    CopiesDialog none(kept.list(), kept.directory());
+    album_.add("copias-ninguna", none);
+    Moment moment{clock_.today(), 9, 15, 40};
+    for (const char* before :
+         {"Eliminar en Partidas, Bautismo", "Eliminar en Colaboradores", "Eliminar en Padrón"}) {
+      kept.make(desk_->parish(), before, moment);
+      ++moment.hour;
+    }
+    store::backupDatabase(desk_->parish(), kept.directory() / "parroquia.copia");
+    CopiesDialog some(kept.list(), kept.directory());
+    album_.add("copias", some);
   }
 
   void documents() {
@@ -218,7 +166,7 @@ class EditionSitting {
       user_.pose = acceptKeeper;
       const auto report = makeReport(*desk_, d, id);
       user_.pose = {};
-      page(report, d.command);
+      album_.add(documentName(d.command), report);
     }
     user_.pose = [year = lastYear()](forms::FormDriver& d) {
       d.chooseData("cboInstitucion", OWN);
@@ -228,14 +176,16 @@ class EditionSitting {
     };
     const auto duplicate = makeDuplicate(*desk_, DUPLICATE);
     user_.pose = {};
-    page(duplicate, "duplicado");
+    album_.add(documentName("duplicado"), duplicate);
   }
 
   void windows() {
     MainWindow window(*desk_);
     window.resize(1200, 700);
-    for (const char* node : {"PartidasBautismo", "SolicitudesBautismo", "LibrosBautismo",
-                             "Duplicadas de bautismo", "Instituciones", "Municipios"}) {
+    for (const char* node :
+         {"PartidasBautismo", "SolicitudesBautismo", "LibrosBautismo", "Duplicadas de bautismo",
+          "Instituciones", "Municipios", CcNodos::PADRON, CcNodos::COLABORADOR, CcNodos::ACTIVIDAD,
+          CcNodos::CARGO, "Tareas"}) {
       window.showNode(node);
       album_.add("ventana-" + plainName(node), window);
     }
@@ -254,28 +204,11 @@ class EditionSitting {
   }
 
  private:
-  // The first page, and the second of a document that has one.
-  void page(const std::optional<paper::Report>& report, const std::string& name) {
-    const std::string picture = "documento-" + std::string(edition_.name) + "-" + name;
-    if (!report) return album_.miss(picture, "el documento no tiene filas");
-    album_.add(picture, report->pageImage(0, DOCUMENT_DPI));
-    if (report->pageCount() > 1) album_.add(picture + "-2", report->pageImage(1, DOCUMENT_DPI));
-  }
-
-  void take(const std::string& name, const std::function<void()>& operation) {
-    const std::string picture = "dialogo-" + std::string(edition_.name) + "-" + name;
-    user_.next = picture;
-    operation();
-    if (!std::exchange(user_.next, {}).empty())
-      album_.miss(picture, user_.messages().empty() ? "no se ha abierto el diálogo"
-                                                    : user_.messages().back().text);
-  }
-
   template <class Dialog>
   void show(const std::string& name, forms::UserInterface& ui, Settings& settings, Clock& clock,
             store::Connection& con, const FDAPI::cConfig& config, std::int32_t id) {
     Dialog dialog(ui, settings, clock, con, config, id);
-    take(name, [&] { dialog.Show(); });
+    user_.take(name, [&] { dialog.Show(); });
   }
 
   void familyDialogs() {
@@ -298,12 +231,16 @@ class EditionSitting {
       search.strApellidos = row.PrimerApellido + " " + row.SegundoApellido;
       search.filas.push_back(row);
     }
-    take("busca-padres", [&] { search.Show(); });
+    user_.take("busca-padres", [&] { search.Show(); });
     frmDetallePadres details(context);
     details.conBaseDatos = &desk_->parish();
     details.Origen = FDAPI::cCOrigen::LISTAPARTIDASBAUTISMO;
     details.lngID = 1;
-    take("detalle-padres", [&] { details.Show(); });
+    user_.take("detalle-padres", [&] { details.Show(); });
+  }
+
+  std::string documentName(const std::string& command) const {
+    return "documento-" + std::string(edition_.name) + "-" + command;
   }
 
   std::int32_t one(const std::string& sql) {
@@ -330,7 +267,7 @@ class EditionSitting {
   static constexpr const char* DUPLICATE = CcNodos::INFDUPLICADASBAUTISMO;
   static constexpr std::int32_t LAST_BOOK = 2;
   static constexpr std::int32_t OWN = 1;  // of the two institutions
-  Album& album_;
+  PictureAlbum& album_;
   Edition edition_;
   Photographer user_;
   support::MemorySettings settings_;
@@ -338,7 +275,7 @@ class EditionSitting {
   std::unique_ptr<Desk> desk_;
 };
 
-void firstRunPages(Album& album) {
+void firstRunPages(PictureAlbum& album) {
   NewParish proposal;
   proposal.user = USER;
   proposal.province = 28;
@@ -356,7 +293,7 @@ void firstRunPages(Album& album) {
 
 bool renderPictures(const std::filesystem::path& directory, std::ostream& out) {
   std::filesystem::create_directories(directory);
-  Album album(directory, out);
+  PictureAlbum album(directory, out);
   const QTemporaryDir parishes;
   try {
     firstRunPages(album);
@@ -368,6 +305,8 @@ bool renderPictures(const std::filesystem::path& directory, std::ostream& out) {
       sitting.windows();
       sitting.bookDialogs();
       sitting.bookProperties();
+      sitting.people();
+      sitting.copies();
       sitting.otherDialogs();
     }
   } catch (const std::exception& e) {

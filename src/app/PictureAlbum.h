@@ -1,0 +1,60 @@
+#pragma once
+
+#include <QImage>
+#include <filesystem>
+#include <functional>
+#include <iosfwd>
+#include <optional>
+#include <string>
+
+#include "forms/ScriptedUser.h"
+#include "paper/Report.h"
+
+class QWidget;
+
+namespace fidaleon::app {
+
+/// Puts pictures into a directory and counts those that could not be made.
+class PictureAlbum {
+ public:
+  PictureAlbum(std::filesystem::path directory, std::ostream& out)
+      : directory_(std::move(directory)), out_(out) {}
+
+  void add(const std::string& name, const QImage& picture);
+  void add(const std::string& name, QWidget& widget);
+  /// The first page, and the second of a document that has one.
+  void add(const std::string& name, const std::optional<paper::Report>& report);
+  /// Every tab of the form, or the form itself when it has none.
+  void add(const std::string& name, forms::Form& form);
+  void miss(const std::string& name, const std::string& why);
+  bool complete() const { return failures_ == 0; }
+
+ private:
+  std::filesystem::path directory_;
+  std::ostream& out_;
+  int failures_ = 0;
+};
+
+/// Looks at each form it is shown, and closes it.
+class Photographer : public forms::ScriptedUser {
+ public:
+  Photographer(PictureAlbum& album, std::string prefix);
+
+  /// What is done to the form before its picture is taken. A form that this opens in its turn is
+  /// taken too when `next` has been given its name.
+  std::function<void(forms::FormDriver&)> pose;
+  std::string next;
+
+  /// The form that the operation opens.
+  void take(const std::string& name, const std::function<void()>& operation);
+  void showModal(forms::Form& form) override;
+
+ private:
+  PictureAlbum& album_;
+  std::string prefix_;
+};
+
+/// A caption as part of a file name: "año 1" is "ano-1".
+std::string plainName(const std::string& caption);
+
+}  // namespace fidaleon::app
