@@ -6,12 +6,13 @@ namespace fidaleon::support {
 
 namespace {
 
+// What cannot be read leaves the list, and what is chosen in it, as they are.
 void fill(forms::ListControl& list, FDAPI::Conexion& connection, const std::string& sql,
           bool emptyLine) {
+  store::Recordset rs = connection.Execute(sql);
   list.clear();
   if (emptyLine) list.addItem("", 0);
-  for (store::Recordset rs = connection.Execute(sql); !rs.EOF_(); rs.MoveNext())
-    list.addItem(rs.text("Nombre"), rs.integer("ID"));
+  for (; !rs.EOF_(); rs.MoveNext()) list.addItem(rs.text("Nombre"), rs.integer("ID"));
 }
 
 void choose(forms::ListControl& list, std::int32_t id) {

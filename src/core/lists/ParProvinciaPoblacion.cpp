@@ -24,26 +24,29 @@ ParProvinciaPoblacion::ParProvinciaPoblacion(Contexto& contexto, forms::ComboBox
 
 void ParProvinciaPoblacion::abrir(FDAPI::Conexion& conexion) {
   conexion_ = &conexion;
-  poblacion_.clear();
-  provincia_.clear();
   contexto_.entorno.support.create_cIListas()->fillProvincias(provincia_, 0, conexion);
+  poblacion_.clear();
 }
 
 void ParProvinciaPoblacion::poner(std::int32_t idMunicipio) {
   provincia_.setListIndex(-1);
   poblacion_.clear();
   if (idMunicipio == 0) return;
-  const store::Recordset fila = conexion_->Execute(
-      "SELECT CodProvincia FROM Municipio WHERE IDMunicipio=" + std::to_string(idMunicipio));
+  const store::Recordset fila = conexion_->Execute("SELECT * FROM Municipio WHERE IDMunicipio=" +
+                                                   std::to_string(idMunicipio));
   if (fila.EOF_() || !provincia_.selectData(fila.integer("CodProvincia"))) return;
   poblacion_.selectData(idMunicipio);
 }
 
+// A town whose list cannot be read again stays chosen; without it the record would lose it.
 void ParProvinciaPoblacion::refrescar() {
   const std::int64_t provincia = provincia_.data();
-  const std::int32_t poblacion = valor();
+  const std::int32_t elegida = valor();
+  const std::string nombre = poblacion_.text();
   abrir(*conexion_);
-  if (provincia_.selectData(provincia)) poblacion_.selectData(poblacion);
+  if (!provincia_.selectData(provincia) || elegida == 0 || poblacion_.selectData(elegida)) return;
+  poblacion_.addItem(nombre, elegida);
+  poblacion_.selectData(elegida);
 }
 
 void ParProvinciaPoblacion::llenarPoblaciones(std::int32_t elegida) {
