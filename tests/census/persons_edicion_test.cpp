@@ -3,6 +3,7 @@
 namespace fidaleon::tests {
 namespace {
 
+using ::testing::Contains;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 
@@ -12,6 +13,7 @@ TEST(EditaEmpadronado, Opened_ShowsWhatIsStored) {
   const std::int32_t id = w.persona("Rosa", "Gil", "Mas", "01234567-L");
   w.con().Execute("UPDATE Padron SET Sexo='Mujer',CodMunicipio=" + std::to_string(illescas));
   w.con().Execute("UPDATE Padron_Defuncion SET Pagado=TRUE");
+  const auto& ejecutado = w.fallos().executed();
   for (const bool pesetas : {false, true}) {
     w.config.TrabajarConPesetas = pesetas;
     w.editar(id, [&](FormDriver& u) {
@@ -23,6 +25,7 @@ TEST(EditaEmpadronado, Opened_ShowsWhatIsStored) {
       EXPECT_EQ(u.text(cbo(Padron::Sexo)), "Mujer");
       EXPECT_EQ(u.text(cbo(Padron::ProvinciaDireccion)), "Toledo");
       EXPECT_EQ(u.text(cbo(Padron::ProvinciaDireccion + 1)), "Illescas");
+      EXPECT_THAT(ejecutado, Contains("SELECT * FROM Municipio WHERE IDMunicipio=?"));
       EXPECT_EQ(u.text(fecha(Padron::FechaNacimiento)), "15/03/1970");
       EXPECT_EQ(u.text(cbo(Padron::ProvinciaNac)), "");
       EXPECT_EQ(u.text(txt(Padron::AñoComunion)), "1979");
@@ -43,6 +46,26 @@ TEST(EditaEmpadronado, DNIAndSexOfAnotherForm_AreShownAsFarAsTheyCanBe) {
     EXPECT_EQ(u.text(cbo(Padron::Sexo)), "");
     u.escape();
   });
+}
+
+TEST(EditaEmpadronado, StoredTextThatIsNoDate_StaysUntilADateIsTyped) {
+  PadronWorld w;
+  const std::int32_t id = w.persona("Rosa", "Gil", "Mas");
+  w.con().Execute("UPDATE Padron_Nacimiento SET FechaNacimiento='1970'");
+  w.editar(id, [](FormDriver& u) {
+    u.tab(MST, Padron::TAB_NACIMIENTO);
+    EXPECT_EQ(u.text(fecha(Padron::FechaNacimiento)), "");
+    u.type(fecha(Padron::FechaBautizo), "");
+    u.click(boton(Padron::ACEPTAR));
+  });
+  EXPECT_EQ(w.value("SELECT FechaNacimiento FROM Padron_Nacimiento"), "1970");
+  EXPECT_EQ(w.value("SELECT FechaBautizo FROM Padron_Bautismo"), "");
+  w.editar(id, [](FormDriver& u) {
+    u.tab(MST, Padron::TAB_NACIMIENTO);
+    u.type(fecha(Padron::FechaNacimiento), "15/03/1970");
+    u.click(boton(Padron::ACEPTAR));
+  });
+  EXPECT_EQ(w.value("SELECT FechaNacimiento FROM Padron_Nacimiento"), "19700315");
 }
 
 TEST(EditaEmpadronado, Accepted_WritesEachTableAndLeavesTheCollaboratorsSide) {

@@ -1,5 +1,6 @@
 #include "census/common/CamposPersona.h"
 
+#include "text/Dates.h"
 #include "text/Utf8.h"
 
 namespace fidaleon {
@@ -30,6 +31,11 @@ void enMinusculas(forms::TextBox& campo) {
   campo.onLostFocus = [&campo](forms::Control*) {
     if (!campo.locked()) campo.setText(text::lower(campo.text()));
   };
+}
+
+std::string fechaEnLugarDe(const std::string& anterior, const forms::DateField& campo) {
+  const bool seMostraba = text::parseStored(anterior).has_value();
+  return seMostraba || !campo.text().empty() ? campo.stored() : anterior;
 }
 
 }  // namespace fidaleon

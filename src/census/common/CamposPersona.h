@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 #include "core/contract/Contexto.h"
 #include "forms/Controls.h"
 
@@ -12,5 +14,9 @@ void soloDigitos(Contexto& contexto, forms::TextBox& campo);
 /// Letters become small ones as they are typed, and those that were pasted on leaving the field.
 /// Takes the field's onKeyPress and onLostFocus.
 void enMinusculas(forms::TextBox& campo);
+
+/// What a date field stores in the place of `anterior`, "yyyymmdd" or empty. A text that is no
+/// date cannot be shown; it stays unless a date is put in its place.
+std::string fechaEnLugarDe(const std::string& anterior, const forms::DateField& campo);
 
 }  // namespace fidaleon

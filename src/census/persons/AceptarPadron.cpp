@@ -1,5 +1,6 @@
 // What the census dialog refuses, and how it stores what it accepts.
 
+#include "census/common/CamposPersona.h"
 #include "census/money/cCurrency.h"
 #include "census/persons/ProcedimientoPadron.h"
 
@@ -96,7 +97,7 @@ std::string frmPadron::dni() const {
 void frmPadron::leerCampos() {
   Persona& p = ficha_.persona;
   for (const auto& [campo, miembro] : textos_) p.*miembro = campo->text();
-  for (const auto& [campo, miembro] : fechas_) p.*miembro = campo->stored();
+  for (const auto& [campo, miembro] : fechas_) p.*miembro = fechaEnLugarDe(p.*miembro, *campo);
   for (const auto& [par, miembro] : municipios_) p.*miembro = par->valor();
   p.DNI = dni();
   p.Sexo = cboPadron[Sexo].text();

@@ -103,9 +103,14 @@ void frmPadron::mostrarModo() {
   const bool alta = Operacion == cCOperacion::ANADIR;
   const Persona& p = ficha_.persona;
   cmdPadron[BUSCAR].setVisible(alta);
-  setCaption(alta ? "Agregar empadronado"
-                  : "Propiedades del empadronado " + p.Nombre + " " + p.PrimerApellido + " " +
-                        p.SegundoApellido);
+  alta ? setCaption("Agregar empadronado")
+       : mostrarTitulo(p.Nombre, p.PrimerApellido, p.SegundoApellido);
+}
+
+void frmPadron::mostrarTitulo(const std::string& nombre, const std::string& primerApellido,
+                              const std::string& segundoApellido) {
+  setCaption("Propiedades del empadronado " + nombre + " " + primerApellido + " " +
+             segundoApellido);
 }
 
 void frmPadron::soloLectura() {

@@ -150,12 +150,17 @@ void frmPadron::avisarDNI(std::int32_t otra) {
 // The whole table is held for the new person, and with it the row of this one. Until all of it has
 // been read, what was typed stays that of a new person.
 void frmPadron::importar(std::int32_t id) {
+  const store::Recordset nombre = conBaseDatos->Execute(
+      "SELECT Nombre,PrimerApellido,SegundoApellido FROM Padron WHERE IDPadron=" +
+      std::to_string(id));
   FichaEmpadronado otra;
-  if (!otra.leer(*conBaseDatos, id)) return;
+  if (nombre.EOF_() || !otra.leer(*conBaseDatos, id)) return;
   ficha_ = std::move(otra);
   Operacion = cCOperacion::EDITAR;
   IDPadron = id;
-  mostrarModo();
+  cmdPadron[BUSCAR].setVisible(false);
+  mostrarTitulo(nombre.text("Nombre"), nombre.text("PrimerApellido"),
+                nombre.text("SegundoApellido"));
   // Fields of two persons must not be stored as those of one.
   if (!procedimiento("importar", [this] { mostrarPersona(); })) return Unload();
   mstPadron.setTab(TAB_DATOS);

@@ -144,6 +144,8 @@ class frmPadron : public forms::Form {
   void mostrarDNI();
   void mostrarDefuncion();
   void mostrarModo();
+  void mostrarTitulo(const std::string& nombre, const std::string& primerApellido,
+                     const std::string& segundoApellido);
 
   // Events
   void crearSucesos();
