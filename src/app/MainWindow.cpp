@@ -140,7 +140,7 @@ void MainWindow::run(const Command& command) {
   }
   busy_ = false;
   if (!command.refreshes) return;
-  if (node_ == chosen.node) refresh(chosen.id);
+  if (node_ == chosen.node) refresh(command, chosen.id);
   activateWindow();
 }
 
@@ -152,8 +152,10 @@ void MainWindow::loadRows() {
   }
 }
 
-// A row that came to be is chosen; otherwise the one that was, or the one that took its place.
-void MainWindow::refresh(std::int32_t keep) {
+// A row that came to be is chosen after a command that may add one; otherwise the one that was, or
+// the one that took its place.
+void MainWindow::refresh(const Command& after, std::int32_t keep) {
+  const bool mayAdd = after.kinds != 0 && after.needs == Needs::Nothing;
   std::vector<std::int32_t> before = rows_.keys();
   std::sort(before.begin(), before.end());
   const int place = table_->currentIndex().row();
@@ -161,7 +163,7 @@ void MainWindow::refresh(std::int32_t keep) {
   std::int32_t added = 0;
   for (const std::int32_t key : rows_.keys())
     if (!std::binary_search(before.begin(), before.end(), key)) added = std::max(added, key);
-  const bool chosen = (!before.empty() && added != 0 && chooseRow(added)) || chooseRow(keep);
+  const bool chosen = (mayAdd && added != 0 && chooseRow(added)) || chooseRow(keep);
   if (!chosen && shown_.rowCount() > 0)
     table_->selectRow(std::clamp(place, 0, shown_.rowCount() - 1));
   updateCommands();

@@ -82,7 +82,7 @@ class MainWindow : public QMainWindow, private Workplace {
   /// rather not go on.
   bool protect(const Command& command, const Choice& chosen, std::unique_ptr<Precaution>& copy);
   void showParishName();
-  void refresh(std::int32_t keep);
+  void refresh(const Command& after, std::int32_t keep);
   void loadRows();
   void updateCommands();
   void updateCount();

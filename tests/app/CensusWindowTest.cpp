@@ -76,6 +76,29 @@ TEST_F(CensusWindow, aPersonOpenedAsCollaborator_isInBothListsAndStaysChosen) {
   EXPECT_TRUE(window->chooseRow(person));
 }
 
+// Somebody of the census becomes a collaborator through the dialog for new ones; meanwhile another
+// workstation adds rows too.
+TEST_F(CensusWindow, arrivalsAreChosenAfterANewOneOnly) {
+  open("Colaboradores");
+  const std::int32_t kept = window->choice().id;
+  std::int32_t gained = 0;
+  const auto giveRole = [&](FormDriver& d) {
+    gained = someoneWith(1);
+    Insert("Padron_TipoPersona")
+        .number("CodPadron", gained)
+        .number("CodTipoPersona", 3)
+        .into(desk->parish());
+    d.escape();
+  };
+  user.expectForm("frmColaborador", giveRole);
+  give("propiedades-colaborador");
+  EXPECT_EQ(window->choice().id, kept);
+  user.expectForm("frmColaborador", giveRole);
+  give("nuevo-colaborador");
+  EXPECT_EQ(window->choice().id, gained);
+  EXPECT_LT(gained, count("SELECT MAX(IDPadron) FROM Padron"));
+}
+
 TEST_F(CensusWindow, aCollaboratorDeleted_leavesTheListAndNotTheCensus) {
   open("Colaboradores");
   const std::int32_t person = someoneWith(2);
