@@ -76,7 +76,8 @@ void FormDriver::chooseData(const std::string& name, std::int64_t data) {
   problem("«" + name + "» has no line with key " + std::to_string(data));
 }
 
-// A click in a list of many selections leaves that line as the only one.
+// In a list of many selections the line named is afterwards the only one marked, so that nobody has
+// to know what was before. (In a window a click marks or unmarks its line and leaves the others.)
 void FormDriver::chooseLine(ListControl& list, int index) {
   if (!list.userSelect(index)) return problem("«" + list.name() + "» is locked");
   auto* many = dynamic_cast<ListBox*>(&list);

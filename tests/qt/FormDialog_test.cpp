@@ -14,6 +14,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScrollBar>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTest>
@@ -418,6 +419,37 @@ TEST_F(FormDialogTest, ListBoxes_TellOneClickEachAndKeepSelections) {
   form.several.setSelected(0, false);
   auto& view = field<QListView>(form.several);
   EXPECT_EQ(view.selectionModel()->selectedIndexes().size(), 1);
+}
+
+TEST_F(FormDialogTest, ListOfManySelections_KeysFindAndMarkItsLinesAndItStaysWhereItIs) {
+  form.several.clear();
+  for (int i = 0; i < 60; ++i)
+    form.several.addItem("Persona " + std::string(i == 30 ? 200 : 2, 'x') + std::to_string(i));
+  form.several.addItem("Zoilo");
+  form.strip.setTab(1);
+  dialog->flush();
+  auto& view = field<QListView>(form.several);
+  const auto seen = [&view](int row) {
+    return view.viewport()->rect().intersects(view.visualRect(view.model()->index(row, 0)));
+  };
+  go(form.several);
+  EXPECT_GT(view.horizontalScrollBar()->maximum(), 0) << "the long line can be read to its end";
+  QTest::keyClicks(&view, "zo");
+  EXPECT_TRUE(seen(60));
+  EXPECT_EQ(view.currentIndex().row(), 60);
+  EXPECT_EQ(form.several.selCount(), 0);
+  QTest::keyClick(&view, Qt::Key_A, Qt::ControlModifier);
+  EXPECT_EQ(form.several.selCount(), 61);
+  form.several.removeItem(40);
+  form.several.setListIndex(40);
+  dialog->flush();
+  EXPECT_TRUE(seen(40));
+  EXPECT_EQ(view.selectionModel()->selectedIndexes().size(), 60);
+  form.several.setSelected(3, false);
+  form.several.setLocked(true);
+  QTest::keyClick(&view, Qt::Key_A, Qt::ControlModifier);
+  EXPECT_EQ(form.several.selCount(), 59);
+  EXPECT_EQ(view.selectionModel()->selectedIndexes().size(), 59);
 }
 
 TEST_F(FormDialogTest, ArrowsInOptions_ChooseTheNeighbour) {

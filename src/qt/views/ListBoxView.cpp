@@ -2,14 +2,41 @@
 
 #include <QListView>
 #include <QMouseEvent>
+#include <QScopedValueRollback>
+#include <QStyledItemDelegate>
 
 #include "qt/Appearance.h"
 
 namespace fidaleon::qt {
 
+namespace {
+
+/// A list of uniform lines asks for the size of one: it gets that of the longest, so that it
+/// scrolls to the end of each instead of cutting them.
+class LongestLine : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+  QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    const auto width = [&](int row) {
+      return option.fontMetrics.horizontalAdvance(index.siblingAtRow(row).data().toString());
+    };
+    int longest = index.row();
+    int widest = width(longest);
+    for (int row = 0; row < index.model()->rowCount(); ++row)
+      if (const int w = width(row); w > widest) {
+        widest = w;
+        longest = row;
+      }
+    return QStyledItemDelegate::sizeHint(option, index.siblingAtRow(longest));
+  }
+};
+
+}  // namespace
+
 ListBoxView::ListBoxView(forms::ListBox& list, QWidget* parent)
     : ListView(list), box_(list), view_(new QListView(parent)) {
   view_->setUniformItemSizes(true);
+  view_->setItemDelegate(new LongestLine(view_));
   view_->setTabKeyNavigation(false);
   view_->setEditTriggers(QAbstractItemView::NoEditTriggers);
   view_->setSelectionMode(list.multiSelect() ? QAbstractItemView::MultiSelection
@@ -50,7 +77,9 @@ void ListBoxView::clicked(int row) {
 }
 
 void ListBoxView::takeSelection() {
-  if (showing() || !box_.multiSelect() || box_.locked()) return;
+  if (showing() || taking_ || !box_.multiSelect()) return;
+  if (box_.locked()) return refresh(forms::Change::Selection);
+  const QScopedValueRollback guard(taking_, true);
   for (int row = 0; row < box_.listCount(); ++row) {
     const bool on = view_->selectionModel()->isRowSelected(row);
     if (on != box_.selected(row)) box_.setSelected(row, on);
@@ -58,6 +87,7 @@ void ListBoxView::takeSelection() {
 }
 
 void ListBoxView::showSelection() {
+  if (taking_) return;
   QItemSelectionModel& selection = *view_->selectionModel();
   if (!box_.multiSelect()) {
     const QModelIndex row = model().index(box_.listIndex());
@@ -69,6 +99,7 @@ void ListBoxView::showSelection() {
       selection.select(model().index(row),
                        on ? QItemSelectionModel::Select : QItemSelectionModel::Deselect);
   }
+  selection.setCurrentIndex(model().index(box_.listIndex()), QItemSelectionModel::NoUpdate);
 }
 
 void ListBoxView::showLocked() {

@@ -25,7 +25,8 @@ class ListBoxView : public ListView {
 
   forms::ListBox& box_;
   QListView* view_;
-  int entered_ = -1;  // the row whose choice this click has already told
+  bool taking_ = false;  // what the user has marked is on its way to the list
+  int entered_ = -1;     // the row whose choice this click has already told
 };
 
 }  // namespace fidaleon::qt
