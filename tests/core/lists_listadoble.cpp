@@ -3,6 +3,7 @@
 #include <stdexcept>
 
 #include "core/lists/ListaDoble.h"
+#include "support/Fidaleon.h"
 #include "support/TestWorld.h"
 
 namespace fidaleon {
@@ -88,6 +89,8 @@ TEST_F(DosListas, DoubleClick_MovesThatLineAloneUnlessTheButtonIsOff) {
   ventana.lst[0].userSelect(2);
   ventana.lst[0].onDblClick();
   EXPECT_THAT(lineas(1), ElementsAre("Carmen"));
+  EXPECT_TRUE(ventana.lst[0].selected(0)) << "what was marked still is";
+  EXPECT_EQ(ventana.lst[0].selCount(), 1);
   ventana.lst[1].userSelect(0);
   ventana.cmdMover[ListaDoble::QUITAR].setEnabled(false);
   ventana.lst[1].onDblClick();
@@ -129,6 +132,37 @@ TEST_F(DosListas, OwnerWhoRefusesOrFails_KeepsTheLinesWhereTheyAre) {
   EXPECT_THAT(mundo.user.messages().back().text, HasSubstr("ListarTodosSeleccionados"));
   EXPECT_THAT(lineas(0), ElementsAre("Ana", "Blas", "Carmen", "Diego"));
   EXPECT_THAT(lineas(1), IsEmpty());
+}
+
+TEST_F(DosListas, CheckFailing_IsReportedUnderItsOwnNameAndMovesNothing) {
+  struct SinComprobar : support::Fidaleon {
+    using Fidaleon::Fidaleon;
+    bool ComprobarSeleccion(const forms::ListBox&) override { throw std::runtime_error("no va"); }
+  };
+  struct Host : support::HostSupport {
+    explicit Host(tests::TestWorld& m)
+        : HostSupport(m.user, m.settings, m.clock, m.config), mundo(m) {}
+    std::unique_ptr<FDAPI::cFidaleon> create_cFidaleon() override {
+      return std::make_unique<SinComprobar>(mundo.user, mundo.settings, mundo.clock);
+    }
+    tests::TestWorld& mundo;
+  } host(mundo);
+  Entorno entorno{mundo.user, host, mundo.settings, mundo.clock, mundo.entorno.installation};
+  Contexto contexto(entorno);
+  Ventana otra(contexto, textos());
+  otra.listas.llenar({{40, "Ana"}}, {});
+  otra.Load();
+  mundo.user.answerAnything(forms::Answer::Ok);
+  FormDriver(otra, problemas).click("cmdMover(0)");
+  ASSERT_EQ(mundo.user.messages().size(), 1u);
+  EXPECT_THAT(mundo.user.messages()[0].text, HasSubstr("ComprobarSeleccion"));
+  EXPECT_EQ(otra.lst[0].listCount(), 1);
+}
+
+TEST_F(DosListas, SameKeyTwice_IsOneLineAndMistakesNoOther) {
+  ventana.listas.llenar({{40, "Ana"}, {40, "Ana"}, {30, "Blas"}, {20, "Carmen"}}, {30});
+  EXPECT_THAT(lineas(0), ElementsAre("Ana", "Carmen"));
+  EXPECT_THAT(lineas(1), ElementsAre("Blas"));
 }
 
 TEST_F(DosListas, NoteBehindALine_GoesWhenTheLineGoesBack) {

@@ -56,7 +56,9 @@ forms::LayoutNode ListaDoble::disposicion() const {
 
 void ListaDoble::llenar(std::vector<Elemento> orden, const Claves& elegidas) {
   lugares_.clear();
-  for (const Elemento& e : orden) lugares_.emplace(e.clave, lugares_.size());
+  std::erase_if(orden, [this](const Elemento& e) {
+    return !lugares_.emplace(e.clave, lugares_.size()).second;
+  });
   std::vector<Elemento> aparte;
   for (const std::int64_t clave : elegidas)
     if (const auto lugar = lugares_.find(clave); lugar != lugares_.end())
@@ -79,11 +81,23 @@ void ListaDoble::mover(Movimiento movimiento) {
   guarded(contexto_, formulario_.name(), procedimiento, [&] {
     const bool elige = movimiento == ELEGIR || movimiento == ELEGIR_TODAS;
     forms::ListBox& de = elige ? disponibles_ : seleccionadas_;
-    if (de.listCount() == 0) return rehusar(elige ? textos_.nadaQueElegir : textos_.nadaQueQuitar);
-    const std::vector<int> cuales = marcadas ? filasMarcadas(de) : todasLasFilas(de);
-    if (cuales.empty()) return rehusar(textos_.nadaMarcado);
+    if (!comprobarSeleccion(de, marcadas)) return;
+    std::vector<int> cuales = todasLasFilas(de);
+    if (marcadas) contexto_.fidaleon()->ListarSeleccionados(de, cuales);
     pasar(de, cuales);
   });
+}
+
+bool ListaDoble::comprobarSeleccion(const forms::ListBox& de, bool marcadas) {
+  const char* falta = nullptr;
+  const bool comprobada = guarded(contexto_, formulario_.name(), "ComprobarSeleccion", [&] {
+    if (de.listCount() == 0)
+      falta = &de == &disponibles_ ? textos_.nadaQueElegir : textos_.nadaQueQuitar;
+    else if (marcadas && !contexto_.fidaleon()->ComprobarSeleccion(de))
+      falta = textos_.nadaMarcado;
+  });
+  if (falta) rehusar(falta);
+  return comprobada && !falta;
 }
 
 void ListaDoble::moverUna(forms::ListBox& de) {
@@ -97,13 +111,6 @@ void ListaDoble::rehusar(const char* mensaje) {
     forms::warn(formulario_.ui(), mensaje);
   else
     formulario_.ui().beep();
-}
-
-std::vector<int> ListaDoble::filasMarcadas(const forms::ListBox& lista) const {
-  std::vector<int> filas;
-  const auto fidaleon = contexto_.fidaleon();
-  if (fidaleon->ComprobarSeleccion(lista)) fidaleon->ListarSeleccionados(lista, filas);
-  return filas;
 }
 
 // Both lists are written anew: taking thousands of lines out one by one is too slow.
@@ -140,9 +147,16 @@ void ListaDoble::devolver(std::vector<Elemento> vuelven) {
   poner(disponibles_, todas);
 }
 
+// Lines that stay keep their marks: whoever moves one with a double click has not given up the
+// others.
 void ListaDoble::poner(forms::ListBox& lista, const std::vector<Elemento>& elementos) {
+  std::unordered_set<std::int64_t> marcadas;
+  for (int i = 0; i < lista.listCount(); ++i)
+    if (lista.selected(i)) marcadas.insert(lista.itemData(i));
   lista.clear();
   agregar(lista, elementos);
+  for (int i = 0; i < lista.listCount(); ++i)
+    if (marcadas.contains(lista.itemData(i))) lista.setSelected(i, true);
 }
 
 void ListaDoble::agregar(forms::ListBox& lista, const std::vector<Elemento>& elementos) {

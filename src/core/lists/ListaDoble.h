@@ -46,9 +46,9 @@ class ListaDoble {
 
   /// The lists side by side with the buttons between them.
   forms::LayoutNode disposicion() const;
-  /// Puts these lines in place of all there are. The order of `orden` is the one that the
-  /// available lines keep; those whose keys are in `elegidas` go to the selected ones, in that
-  /// order.
+  /// Puts these lines in place of all there are, each key once; what was marked stays marked. The
+  /// order of `orden` is the one that the available lines keep; those whose keys are in `elegidas`
+  /// go to the selected ones, in that order.
   void llenar(std::vector<Elemento> orden, const Claves& elegidas = {});
   void vaciar() { llenar({}); }
   Claves seleccionadas() const;
@@ -64,8 +64,9 @@ class ListaDoble {
  private:
   void mover(Movimiento movimiento);
   void moverUna(forms::ListBox& de);
+  /// Is there something to move? If not, the user knows.
+  bool comprobarSeleccion(const forms::ListBox& de, bool marcadas);
   void rehusar(const char* mensaje);
-  std::vector<int> filasMarcadas(const forms::ListBox& lista) const;
   void pasar(forms::ListBox& de, const std::vector<int>& filas);
   void devolver(std::vector<Elemento> vuelven);
   void poner(forms::ListBox& lista, const std::vector<Elemento>& elementos);
