@@ -214,6 +214,28 @@ TEST(Actividad, MembersChangedElsewhereMeanwhile_StayAsTheyWereLeft) {
   EXPECT_SCRIPT_DONE(w.user);
 }
 
+TEST(Actividad, EditedGroupOrActivityGoneMeanwhile_IsToldAndNothingIsHungOnIt) {
+  for (const char* tabla : {"Grupo", "Actividad"}) {
+    ActividadesWorld w;
+    w.user.answerAnything(Answer::Ok);
+    w.editar([&](FormDriver& d) {
+      d.type("txtActividad(1)", "Los niños");
+      w.abrirGrupo(d, 2, [&](FormDriver& g) {
+        w.elegir(g, {0}, "Monitor");
+        g.click(w.ACEPTAR_GRUPO);
+      });
+      w.con().Execute("DELETE * FROM " + std::string(tabla));
+      d.click(w.ACEPTAR);
+      EXPECT_THAT(w.user.messages().back().text, HasSubstr("ya no existe"));
+      EXPECT_FALSE(d.closed());
+      d.escape();
+    });
+    EXPECT_EQ(w.count("Padron_Actividad"), 2) << tabla;
+    EXPECT_EQ(w.count("Actividad WHERE Descripcion='Los niños'"), 0);
+    EXPECT_SCRIPT_DONE(w.user);
+  }
+}
+
 TEST(Actividad, Cancelled_StoresNothingAndKeepsTheWidths) {
   ActividadesWorld w;
   w.editar([&](FormDriver& d) {

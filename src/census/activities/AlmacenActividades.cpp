@@ -1,6 +1,7 @@
 #include "census/activities/AlmacenActividades.h"
 
 #include <set>
+#include <stdexcept>
 
 #include "census/activities/Sentencias.h"
 #include "store/Transaction.h"
@@ -55,7 +56,14 @@ void guardarMiembros(Conexion& conexion, const cPadronActGrupos& g) {
       insertarMiembro(conexion, g.IDGrupo, miembro);
 }
 
+/// What is gone cannot be changed, and nothing must be hung on it.
+void exigirGrupo(Conexion& conexion, const cPadronActGrupos& g) {
+  if (conexion.Execute("SELECT IDGrupo FROM Grupo WHERE IDGrupo=" + numero(g.IDGrupo)).EOF_())
+    throw std::runtime_error("El grupo «" + g.Nombre + "» ya no existe.");
+}
+
 void actualizarGrupo(Conexion& conexion, const cPadronActGrupos& g) {
+  exigirGrupo(conexion, g);
   conexion.Execute("UPDATE Grupo SET Nombre=" + citar(g.Nombre) + ", Año=" + citar(g.Año) +
                    ",Dia=" + citar(g.Dia) + ",Hora=" + citar(g.Hora) + ",Sala=" + citar(g.Sala) +
                    ",Comentarios=" + citar(g.Comentarios) + " WHERE IDGrupo=" + numero(g.IDGrupo));
@@ -126,6 +134,8 @@ void agregarActividad(Conexion& conexion, const Actividad& actividad,
 void editarActividad(Conexion& conexion, const Actividad& actividad,
                      const ColeccionGrupos& grupos) {
   store::Transaction transaccion(conexion);
+  if (!leerActividad(conexion, actividad.IDActividad))
+    throw std::runtime_error("La actividad ya no existe.");
   conexion.Execute("UPDATE Actividad SET Nombre=" + citar(actividad.Nombre) +
                    ",Descripcion=" + citar(actividad.Descripcion) +
                    ",CodInstitucion=" + numero(actividad.CodInstitucion) +

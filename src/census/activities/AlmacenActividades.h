@@ -26,7 +26,8 @@ ColeccionGrupos leerGrupos(FDAPI::Conexion& conexion, std::int32_t IDActividad);
 void agregarActividad(FDAPI::Conexion& conexion, const Actividad& actividad,
                       const ColeccionGrupos& grupos);
 /// Writes the activity and what its groups are marked for. Of a group that was edited, members
-/// that another workstation has added or taken away meanwhile stay as that one left them.
+/// that another workstation has added or taken away meanwhile stay as that one left them. An
+/// activity or an edited group that is gone is an error.
 void editarActividad(FDAPI::Conexion& conexion, const Actividad& actividad,
                      const ColeccionGrupos& grupos);
 

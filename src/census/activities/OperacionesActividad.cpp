@@ -69,10 +69,14 @@ void EliminaActividad(Contexto& contexto, FDAPI::Conexion& conexion, std::int32_
   Eliminacion eliminacion(contexto, conexion, "Eliminando actividad ...",
                           3 + static_cast<std::int64_t>(grupos.size()));
   eliminacion.paso("DELETE * FROM Actividad WHERE IDActividad=" + actividad);
-  for (const std::string& grupo : grupos)
-    if (!conexion.Execute("SELECT * FROM Padron_Actividad WHERE CodGrupo=" + grupo).EOF_())
+  for (const std::string& grupo : grupos) {
+    if (conexion.Execute("SELECT * FROM Padron_Actividad WHERE CodGrupo=" + grupo).EOF_())
+      eliminacion.pasoSinTrabajo();
+    else
       eliminacion.paso("DELETE * FROM Padron_Actividad WHERE CodGrupo= " + grupo);
+  }
   eliminacion.paso("DELETE * FROM Grupo WHERE CodActividad= " + actividad);
+  eliminacion.pasoSinTrabajo();  // the third step is the end itself
   eliminacion.terminar();
 }
 

@@ -79,7 +79,8 @@ bool frmActividadGrupos::pedirCargo(const ListaDoble::Claves& claves) {
   dialogo.Origen = FDAPI::cCOrigen::ACTIVIDAD;
   dialogo.Show();
   if (dialogo.lngCargo == 0) return false;
-  nombresCargo_[dialogo.lngCargo] = dialogo.strCargo;
+  // The first name read stays, also when another workstation changes it: lines already show it.
+  nombresCargo_.emplace(dialogo.lngCargo, dialogo.strCargo);
   for (const std::int64_t clave : claves) cargos_[persona(clave)] = dialogo.lngCargo;
   return true;
 }
