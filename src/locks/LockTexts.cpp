@@ -14,7 +14,7 @@ struct Words {
   const char* all;
 };
 
-constexpr std::array<Words, 19> WORDS{{
+constexpr std::array<Words, 20> WORDS{{
     {"Bautismo", "la partida de bautismo", "las partidas de bautismo"},
     {"Confirmacion", "la partida de confirmación", "las partidas de confirmación"},
     {"Matrimonio", "la partida de matrimonio", "las partidas de matrimonio"},
@@ -34,6 +34,7 @@ constexpr std::array<Words, 19> WORDS{{
     {"Actividad", "la actividad", "las actividades"},
     {"Grupo", "el grupo", "los grupos"},
     {"Cargo", "el cargo", "los cargos"},
+    {"Tareas", "la tarea", "las tareas"},
 }};
 
 const Words* wordsOf(const std::string& table) {
