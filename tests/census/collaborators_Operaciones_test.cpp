@@ -66,6 +66,23 @@ TEST(OperacionesColaborador, EditOfOneWhoIsGone_DoesNotOpen) {
   EXPECT_SCRIPT_DONE(w.user);
 }
 
+TEST(OperacionesColaborador, NothingCanBeLocked_OpensToBeReadOnlyAndTellsOfOneWhoIsGone) {
+  ColaboradorWorld w;
+  const std::int32_t id = w.colaborador();
+  w.miembro(id, w.lunes, w.catequista);
+  std::filesystem::remove_all(w.directory.path());
+  w.user.answerAnything(Answer::Ok);
+  w.edita(id, [](FormDriver& u) {
+    EXPECT_FALSE(u.enabled(ACEPTAR));
+    u.tab("mstColaborador", frmColaborador::TAB_ACTIVIDADES);
+    u.doubleClick("msgActividades", 1);
+    u.click(CANCELAR);
+  });
+  censo::EditaColaborador(w.contexto, w.con(), 77);
+  EXPECT_EQ(w.user.messages().back().text, "Esta persona ya no está en el padrón.");
+  EXPECT_SCRIPT_DONE(w.user);
+}
+
 TEST(OperacionesColaborador, DeleteOfACollaborator_TakesEveryRowButTheNotes) {
   ColaboradorWorld w;
   const std::int32_t id = w.colaborador();

@@ -28,10 +28,8 @@ bool quitada(const cPadronActividad& actividad) {
 }  // namespace
 
 void frmColaborador::ConfigGridActividadColaborador() {
-  procedimiento("ConfigGridActividadColaborador", [this] {
-    cIListas(contexto_).ConfigGrid(msgActividades, rejillaActividades(),
-                                   "ConfigGridActividadColaborador");
-  });
+  cIListas(contexto_).ConfigGrid(msgActividades, rejillaActividades(),
+                                 "ConfigGridActividadColaborador", "frmColaborador");
 }
 
 void frmColaborador::guardarAnchos() {

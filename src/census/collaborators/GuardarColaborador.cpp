@@ -2,6 +2,7 @@
 
 #include "census/collaborators/TablasColaborador.h"
 #include "census/collaborators/frmColaborador.h"
+#include "census/common/CamposPersona.h"
 #include "store/Transaction.h"
 #include "text/Dates.h"
 
@@ -73,7 +74,7 @@ Persona frmColaborador::leerCampos() const {
   persona.CodMunicipio = lugares_[DOMICILIO].valor();
   persona.CodMunicipioParrBaut = lugares_[BAUTISMO].valor();
   persona.FechaNacimiento = fechaNacimiento();
-  persona.FechaBautizo = fechaBautizo();
+  persona.FechaBautizo = fechaEnLugarDe(persona_.FechaBautizo, adtpFechaBautizo);
   return persona;
 }
 
@@ -86,13 +87,6 @@ std::string frmColaborador::fechaNacimiento() const {
   const bool propia =
       persona_.FechaNacimiento == fechaDe(persona_.Cumpleaños, persona_.AñoNacimiento);
   return propia ? std::string() : persona_.FechaNacimiento;
-}
-
-// A stored text that is no date cannot be shown; it stays unless a date is put in its place.
-std::string frmColaborador::fechaBautizo() const {
-  const bool noMostrada = !text::parseStored(persona_.FechaBautizo).has_value();
-  return noMostrada && adtpFechaBautizo.text().empty() ? persona_.FechaBautizo
-                                                       : adtpFechaBautizo.stored();
 }
 
 // Accepting again after a failure must not find half of the person there; and what was written is

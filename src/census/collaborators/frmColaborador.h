@@ -123,7 +123,6 @@ class frmColaborador : public forms::Form {
   void rechazar(Pestaña pestaña, Texto campo, const std::string& mensaje);
   Persona leerCampos() const;
   std::string fechaNacimiento() const;
-  std::string fechaBautizo() const;
   bool guardar(Persona persona);
   void AgregarColaborador(Persona& persona);
   void EditarColaborador(const Persona& persona);
