@@ -16,9 +16,14 @@ void insertarTipo(Conexion& conexion, std::int32_t id, std::int64_t tipo) {
                    std::to_string(id) + "," + std::to_string(tipo) + ");");
 }
 
-std::string textoDe(const std::string& texto) {
-  return entreComillas(text::replaceAll(texto, "\"", "''"));
-}
+constexpr Columna<cPadronNotas> COLUMNAS_NOTA[] = {
+    {"CodPadron", "CodPadron", &cPadronNotas::CodPadron, Cita::Numero},
+    {"Nombre", "Nombre", &cPadronNotas::Nombre, Cita::Texto},
+    {"Descripcion", "Descripcion", &cPadronNotas::Descripcion, Cita::Texto},
+};
+constexpr Tabla<cPadronNotas> ALTA_NOTA{"Padron_NotasPersonales", ",", "=", COLUMNAS_NOTA};
+constexpr Tabla<cPadronNotas> EDICION_NOTA{"Padron_NotasPersonales", ",", "=",
+                                           std::span(COLUMNAS_NOTA).subspan(1)};
 
 }  // namespace
 
@@ -47,9 +52,7 @@ void FichaEmpadronado::leerNotas(Conexion& conexion) {
     cPadronNotas& nota = notas.emplace_back();
     nota.Estado = true;
     nota.IDNota = static_cast<std::int32_t>(filas.integer("IDNota"));
-    nota.CodPadron = persona.IDPadron;
-    nota.Nombre = filas.text("Nombre");
-    nota.Descripcion = filas.text("Descripcion");
+    copiarFila(ALTA_NOTA, filas, nota);
   }
 }
 
@@ -99,8 +102,7 @@ void FichaEmpadronado::guardarNotas(Conexion& conexion) {
         conexion.Execute("DELETE * FROM Padron_NotasPersonales WHERE IDNota = " + donde);
       nota.Estado = false;
     } else if (nota.Operacion == cCOperacion::EDITAR && nota.Estado) {
-      conexion.Execute("UPDATE Padron_NotasPersonales SET Nombre=" + textoDe(nota.Nombre) +
-                       ",Descripcion=" + textoDe(nota.Descripcion) + " WHERE IDNota=" + donde);
+      conexion.Execute(sqlActualizar(EDICION_NOTA, nota) + " WHERE IDNota=" + donde);
       nota.Operacion = {};
     } else if (nota.Operacion == cCOperacion::ANADIR || nota.Operacion == cCOperacion::EDITAR) {
       insertarNota(conexion, nota);
@@ -111,15 +113,13 @@ void FichaEmpadronado::guardarNotas(Conexion& conexion) {
 // The key is needed only if a failure further on makes the note be stored again.
 void FichaEmpadronado::insertarNota(Conexion& conexion, cPadronNotas& nota) {
   nota.CodPadron = persona.IDPadron;
-  const std::string cod = std::to_string(nota.CodPadron);
-  conexion.Execute("INSERT INTO Padron_NotasPersonales (CodPadron,Nombre,Descripcion) VALUES (" +
-                   cod + "," + textoDe(nota.Nombre) + "," + textoDe(nota.Descripcion) + ")");
+  conexion.Execute(sqlInsertar(ALTA_NOTA, nota));
   nota.Estado = true;
   nota.Operacion = {};
   nota.IDNota = static_cast<std::int32_t>(
       conexion
           .Execute("SELECT MAX(IDNota) AS IDNota FROM Padron_NotasPersonales WHERE CodPadron=" +
-                   cod)
+                   std::to_string(nota.CodPadron))
           .integer("IDNota"));
 }
 
