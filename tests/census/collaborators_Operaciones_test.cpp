@@ -132,6 +132,32 @@ TEST(OperacionesColaborador, DeleteOfOneWhoIsAlsoInTheCensus_TakesTheRoleAndTheG
   EXPECT_SCRIPT_DONE(w.user);
 }
 
+TEST(OperacionesColaborador, NewOneOpenedInTheCensus_KeepsBothRolesAndTheBirthday) {
+  ColaboradorWorld w;
+  w.nuevo([](FormDriver& u) {
+    ponerNombre(u);
+    u.tab("mstColaborador", frmColaborador::TAB_NACIMIENTO);
+    u.type(texto(frmColaborador::Cumpleaños), "0305");
+    u.type(texto(frmColaborador::AñoNacimiento), "1971");
+    u.click(ACEPTAR);
+  });
+  w.user.expectForm("frmPadron", [](FormDriver& u) {
+    EXPECT_EQ(u.text("adtpPadron(0)"), "03/05/1971");
+    u.choose("cboPadron(12)", "San Ginés");
+    u.click("cmdPadron(0)");
+    EXPECT_TRUE(u.closed());
+  });
+  censo::EditaEmpadronado(w.contexto, w.con(), 1);
+  EXPECT_EQ(w.count(w.de("Padron_TipoPersona", 1)), 2);
+  EXPECT_EQ(w.count("Padron_Defuncion"), 1);
+  EXPECT_EQ(w.columna("Padron", "Cumpleaños", 1), "03/05");
+  w.user.expectMessage(PREGUNTA, Answer::Yes);
+  censo::EliminaColaborador(w.contexto, w.con(), 1);
+  EXPECT_EQ(w.columna("Padron_TipoPersona", "CodTipoPersona", 1), "2");
+  EXPECT_EQ(w.count("Padron"), 1);
+  EXPECT_SCRIPT_DONE(w.user);
+}
+
 TEST(OperacionesColaborador, DeleteNotConfirmedOrInUse_LeavesEverything) {
   ColaboradorWorld w;
   const std::int32_t id = w.colaborador();
