@@ -206,8 +206,9 @@ TEST(EditaEmpadronado, Cancelled_LeavesPersonAndNotesAsTheyWere) {
 }
 
 TEST(EditaEmpadronado, StoreFailsAmongTheNotes_AcceptingAgainStoresEachOnce) {
-  for (const char* parte : {"DELETE * FROM Padron_Notas", "UPDATE Padron_Notas",
-                            "INSERT INTO Padron_Notas", "SELECT * FROM [Padron_TipoPersona]"}) {
+  for (const char* parte :
+       {"DELETE * FROM Padron_Notas", "UPDATE Padron_Notas", "INSERT INTO Padron_Notas",
+        "SELECT MAX(IDNota)", "SELECT * FROM [Padron_TipoPersona]"}) {
     NotasWorld w;
     w.editar(w.id, [&](FormDriver& u) {
       u.tab(MST, Padron::TAB_NOTAS);

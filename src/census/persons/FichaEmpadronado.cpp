@@ -96,6 +96,7 @@ void FichaEmpadronado::guardarSatelites(Conexion& conexion) {
 
 void FichaEmpadronado::guardarNotas(Conexion& conexion) {
   for (cPadronNotas& nota : notas) {
+    if (nota.Estado && nota.IDNota == 0) leerClave(conexion, nota);
     const std::string donde = std::to_string(nota.IDNota);
     if (nota.Operacion == cCOperacion::Borrar) {
       if (nota.Estado)
@@ -110,12 +111,17 @@ void FichaEmpadronado::guardarNotas(Conexion& conexion) {
   }
 }
 
-// The key is needed only if a failure further on makes the note be stored again.
 void FichaEmpadronado::insertarNota(Conexion& conexion, cPadronNotas& nota) {
   nota.CodPadron = persona.IDPadron;
   conexion.Execute(sqlInsertar(ALTA_NOTA, nota));
   nota.Estado = true;
   nota.Operacion = {};
+  leerClave(conexion, nota);
+}
+
+// Of the note that was inserted last. The key is needed only if a failure further on makes the
+// note be stored again.
+void FichaEmpadronado::leerClave(Conexion& conexion, cPadronNotas& nota) {
   nota.IDNota = static_cast<std::int32_t>(
       conexion
           .Execute("SELECT MAX(IDNota) AS IDNota FROM Padron_NotasPersonales WHERE CodPadron=" +

@@ -33,6 +33,7 @@ class FichaEmpadronado {
   void guardarSatelites(FDAPI::Conexion& conexion);
   void guardarNotas(FDAPI::Conexion& conexion);
   void insertarNota(FDAPI::Conexion& conexion, cPadronNotas& nota);
+  void leerClave(FDAPI::Conexion& conexion, cPadronNotas& nota);
 
   std::array<bool, SATELITES.size()> guardado_{};
 };
