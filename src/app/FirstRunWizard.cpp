@@ -114,7 +114,7 @@ QWizardPage* FirstRunWizard::contentPage(const NewParish& proposal) {
   content_->addButton(empty, static_cast<int>(Content::Empty));
   content_->addButton(sample, static_cast<int>(Content::Sample));
   content_->button(static_cast<int>(proposal.content))->setChecked(true);
-  auto* label = new QLabel(tr("&Carpeta de los datos:"), page);
+  auto* label = new QLabel(tr("Carpeta de los &datos:"), page);
   layout->addWidget(label);
   auto* line = new QHBoxLayout;
   directory_ = new QLineEdit(QString::fromStdString(proposal.directory.string()), page);
