@@ -236,6 +236,31 @@ TEST(Actividad, EditedGroupOrActivityGoneMeanwhile_IsToldAndNothingIsHungOnIt) {
   }
 }
 
+TEST(Actividad, NewMemberOrOfficeGoneMeanwhile_HangsNowhere) {
+  ActividadesWorld w;
+  w.user.answerAnything(Answer::Ok);
+  w.editar([&](FormDriver& d) {
+    w.abrirGrupo(d, 2, [&](FormDriver& g) {
+      w.elegir(g, {0, 1}, "Monitor");  // Ana and Blas
+      g.click(w.ACEPTAR_GRUPO);
+    });
+    w.con().Execute("DELETE * FROM Padron WHERE IDPadron=" + std::to_string(w.blas));
+    w.con().Execute("DELETE * FROM Cargo WHERE IDCargo=" + std::to_string(w.monitor));
+    d.click(w.ACEPTAR);
+    EXPECT_THAT(w.user.messages().back().text, HasSubstr("«Segundo» ya no existe. Elija otro."));
+    w.abrirGrupo(d, 2, [&](FormDriver& g) {
+      EXPECT_THAT(w.lineas(g, w.SELECCIONADAS), ElementsAre("Ana García Ruiz"));
+      w.quitar(g, {0});
+      w.elegir(g, {0}, "Catequista");
+      g.click(w.ACEPTAR_GRUPO);
+    });
+    d.click(w.ACEPTAR);
+  });
+  EXPECT_THAT(w.membresias(), ElementsAre("Primero: Ana Catequista", "Segundo: Ana Catequista"));
+  EXPECT_EQ(w.count("Padron_Actividad WHERE CodGrupo=" + std::to_string(w.segundo)), 1);
+  EXPECT_SCRIPT_DONE(w.user);
+}
+
 TEST(Actividad, Cancelled_StoresNothingAndKeepsTheWidths) {
   ActividadesWorld w;
   w.editar([&](FormDriver& d) {

@@ -22,7 +22,21 @@ std::string numero(std::int32_t n) {
   return std::to_string(n);
 }
 
-void insertarMiembro(Conexion& conexion, std::int32_t grupo, const cPadronActividad& miembro) {
+bool existe(Conexion& conexion, const std::string& tabla, const std::string& columna,
+            std::int32_t id) {
+  return !conexion
+              .Execute("SELECT " + columna + " FROM " + tabla + " WHERE " + columna + "=" +
+                       numero(id))
+              .EOF_();
+}
+
+/// A person who was removed meanwhile takes the membership along; another office can be chosen.
+void insertarMiembro(Conexion& conexion, const cPadronActGrupos& g, std::int32_t grupo,
+                     const cPadronActividad& miembro) {
+  if (!existe(conexion, "Padron", "IDPadron", miembro.IDPadron)) return;
+  if (!existe(conexion, "Cargo", "IDCargo", miembro.IDCargo))
+    throw std::runtime_error("Un cargo elegido para el grupo «" + g.Nombre +
+                             "» ya no existe. Elija otro.");
   conexion.Execute("INSERT INTO Padron_Actividad (CodPadron,CodGrupo,CodCargo ) VALUES (" +
                    numero(miembro.IDPadron) + "," + numero(grupo) + "," + numero(miembro.IDCargo) +
                    ")");
@@ -36,7 +50,7 @@ void insertarGrupo(Conexion& conexion, std::int32_t actividad, const cPadronActG
   const std::int32_t id =
       clave(conexion.Execute("SELECT MAX(IDGrupo) as IDGrupo FROM Grupo"), "IDGrupo");
   for (const cPadronActividad& miembro : g.miembros)
-    if (miembro.Operacion != cCOperacion::Borrar) insertarMiembro(conexion, id, miembro);
+    if (miembro.Operacion != cCOperacion::Borrar) insertarMiembro(conexion, g, id, miembro);
 }
 
 std::string miembrosDe(std::int32_t grupo) {
@@ -53,12 +67,12 @@ void guardarMiembros(Conexion& conexion, const cPadronActGrupos& g) {
                        numero(miembro.IDPadron) + " AND CodGrupo=" + numero(g.IDGrupo));
   for (const cPadronActividad& miembro : g.miembros)
     if (miembro.Operacion == cCOperacion::ANADIR && almacenados.insert(miembro.IDPadron).second)
-      insertarMiembro(conexion, g.IDGrupo, miembro);
+      insertarMiembro(conexion, g, g.IDGrupo, miembro);
 }
 
 /// What is gone cannot be changed, and nothing must be hung on it.
 void exigirGrupo(Conexion& conexion, const cPadronActGrupos& g) {
-  if (conexion.Execute("SELECT IDGrupo FROM Grupo WHERE IDGrupo=" + numero(g.IDGrupo)).EOF_())
+  if (!existe(conexion, "Grupo", "IDGrupo", g.IDGrupo))
     throw std::runtime_error("El grupo «" + g.Nombre + "» ya no existe.");
 }
 

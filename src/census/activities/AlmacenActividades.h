@@ -27,7 +27,8 @@ void agregarActividad(FDAPI::Conexion& conexion, const Actividad& actividad,
                       const ColeccionGrupos& grupos);
 /// Writes the activity and what its groups are marked for. Of a group that was edited, members
 /// that another workstation has added or taken away meanwhile stay as that one left them. An
-/// activity or an edited group that is gone is an error.
+/// activity, an edited group or the office of a new member that is gone is an error; a new member
+/// who is gone is left out.
 void editarActividad(FDAPI::Conexion& conexion, const Actividad& actividad,
                      const ColeccionGrupos& grupos);
 
