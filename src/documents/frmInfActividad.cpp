@@ -52,7 +52,7 @@ struct ListaAparte : forms::Form {
 }  // namespace
 
 frmInfActividad::frmInfActividad(Contexto& contexto)
-    : Form(contexto.ui(), "frmInfActividad"),
+    : Dialogo(contexto, "frmInfActividad"),
       cboInstitucion(*this, "cboInstitucion", "INSTITUCIÓN:"),
       cboActividad(*this, "cboActividad", "ACTIVIDAD:"),
       chkSinActividad(*this, "chkSinActividad", "Mostrar colaboradores sin actividad asociada"),
@@ -63,7 +63,6 @@ frmInfActividad::frmInfActividad(Contexto& contexto)
                      "Si no selecciona ninguno, se imprimen todos los grupos de la actividad."),
       abpProgreso(*this, "abpProgreso"),
       cmdBoton(*this, "cmdBoton"),
-      contexto_(contexto),
       listas_(contexto, *this, lstListas.add(DISPONIBLES, "DISPONIBLES:"),
               lstListas.add(SELECCIONADAS, "SELECCIONADAS:"), cmdMover, textosListas()) {
   prepararControles();
@@ -89,10 +88,6 @@ void frmInfActividad::prepararControles() {
                      forms::group(fraListas, {listas_.disposicion(), forms::item(lblTodosGrupos)}),
                      forms::item(chkSinActividad), forms::item(abpProgreso),
                      forms::buttons({&cmdBoton[ACEPTAR], &cmdBoton[CANCELAR]})}));
-}
-
-bool frmInfActividad::procedimiento(const char* nombre, const std::function<void()>& body) {
-  return guarded(contexto_, "frmInfActividad", nombre, body);
 }
 
 void frmInfActividad::Form_Load() {

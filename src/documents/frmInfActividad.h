@@ -1,11 +1,9 @@
 #pragma once
 
-#include <functional>
 #include <string>
 
-#include "core/contract/Contexto.h"
+#include "core/contract/Dialogo.h"
 #include "core/lists/ListaDoble.h"
-#include "forms/Form.h"
 
 namespace fidaleon {
 
@@ -14,7 +12,7 @@ namespace fidaleon {
 /// institution and some of its groups for the collaborators. No group chosen means all of the
 /// activity. Set the public fields, then Show(). An error takes back the rows; the dialog stays
 /// until the table holds a row, also one of an earlier run, or the user cancels.
-class frmInfActividad : public forms::Form {
+class frmInfActividad : public Dialogo {
  public:
   explicit frmInfActividad(Contexto& contexto);
 
@@ -55,9 +53,7 @@ class frmInfActividad : public forms::Form {
   bool rellenarColaboradores(FDAPI::cProgreso& progreso);
   /// A condition on the lines of the second list; empty when it has none.
   std::string restriccion(const char* columna);
-  bool procedimiento(const char* nombre, const std::function<void()>& body);
 
-  Contexto& contexto_;
   ListaDoble listas_;
 };
 

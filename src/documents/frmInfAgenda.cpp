@@ -8,10 +8,9 @@
 namespace fidaleon {
 
 frmInfAgenda::frmInfAgenda(Contexto& contexto)
-    : Form(contexto.ui(), "frmInfAgenda"),
+    : Dialogo(contexto, "frmInfAgenda"),
       adtpFecha(*this, "adtpFecha"),
-      cmdBoton(*this, "cmdBoton"),
-      contexto_(contexto) {
+      cmdBoton(*this, "cmdBoton") {
   setCaption("Informe de tareas");
   forms::DateField& desde = adtpFecha.add(DESDE, "Desde:");
   forms::DateField& hasta = adtpFecha.add(HASTA, "Hasta:");
@@ -26,10 +25,6 @@ frmInfAgenda::frmInfAgenda(Contexto& contexto)
   setLayout(
       forms::column({forms::fields(1, {forms::item(desde), forms::item(hasta)}), forms::stretch(),
                      forms::buttons({&cmdBoton[ACEPTAR], &cmdBoton[CANCELAR]})}));
-}
-
-void frmInfAgenda::procedimiento(const char* nombre, const std::function<void()>& body) {
-  guarded(contexto_, "frmInfAgenda", nombre, body);
 }
 
 void frmInfAgenda::Form_Load() {

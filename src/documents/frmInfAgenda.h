@@ -1,16 +1,13 @@
 #pragma once
 
-#include <functional>
-
-#include "core/contract/Contexto.h"
-#include "forms/Form.h"
+#include "core/contract/Dialogo.h"
 
 namespace fidaleon {
 
 /// Asks for two days and writes a row of Tareas_Agenda for each task from the one to the other,
 /// both included. Set the public fields, then Show(). Each row is committed by itself: an error
 /// leaves those before it. The dialog stays until the table holds a row or the user cancels.
-class frmInfAgenda : public forms::Form {
+class frmInfAgenda : public Dialogo {
  public:
   explicit frmInfAgenda(Contexto& contexto);
 
@@ -32,9 +29,6 @@ class frmInfAgenda : public forms::Form {
   void adtpFecha_LostFocus(const forms::Control* siguiente);
   void aceptar();
   void escribir();
-  void procedimiento(const char* nombre, const std::function<void()>& body);
-
-  Contexto& contexto_;
 };
 
 }  // namespace fidaleon

@@ -15,13 +15,12 @@ constexpr int DIGITOS_ANO = 4;
 }  // namespace
 
 frmInfDuplicadas::frmInfDuplicadas(Contexto& contexto)
-    : Form(contexto.ui(), "frmInfDuplicadas"),
+    : Dialogo(contexto, "frmInfDuplicadas"),
       cboInstitucion(*this, "cboInstitucion", "Institución:"),
       adtpAno(*this, "adtpAno", "Año:"),
       cboOrden(*this, "cboOrden", "Ordenar por:"),
       abpProgreso(*this, "abpProgreso"),
-      cmdBoton(*this, "cmdBoton"),
-      contexto_(contexto) {
+      cmdBoton(*this, "cmdBoton") {
   setCaption("Ver informes duplicadas");
   cboInstitucion.setWidthChars(40);
   cboOrden.setWidthChars(40);
@@ -37,10 +36,6 @@ frmInfDuplicadas::frmInfDuplicadas(Contexto& contexto)
       forms::column({forms::fields(1, {forms::item(cboInstitucion), forms::item(adtpAno),
                                        forms::item(cboOrden), forms::item(abpProgreso)}),
                      forms::stretch(), forms::buttons({&cmdBoton[ACEPTAR], &cmdBoton[CANCELAR]})}));
-}
-
-void frmInfDuplicadas::procedimiento(const char* nombre, const std::function<void()>& body) {
-  guarded(contexto_, "frmInfDuplicadas", nombre, body);
 }
 
 void frmInfDuplicadas::Form_Load() {

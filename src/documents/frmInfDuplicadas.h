@@ -1,13 +1,11 @@
 #pragma once
 
 #include <cstdint>
-#include <functional>
 #include <optional>
 #include <string>
 
-#include "core/contract/Contexto.h"
+#include "core/contract/Dialogo.h"
 #include "documents/Duplicada.h"
-#include "forms/Form.h"
 
 namespace fidaleon {
 
@@ -19,7 +17,7 @@ namespace fidaleon {
 /// An error while rows are being written leaves the transaction on conInformes open, with some of
 /// the rows in it. The dialog stays, and takes them back before it tries again; once it has been
 /// closed, that is for the owner of the connection to do.
-class frmInfDuplicadas : public forms::Form {
+class frmInfDuplicadas : public Dialogo {
  public:
   explicit frmInfDuplicadas(Contexto& contexto);
 
@@ -54,9 +52,7 @@ class frmInfDuplicadas : public forms::Form {
   void escribir(store::Recordset& entries, std::int32_t idInstitucion);
   void empezarTransaccion();
   void terminarTransaccion();
-  void procedimiento(const char* nombre, const std::function<void()>& body);
 
-  Contexto& contexto_;
   const documents::Duplicada* duplicada_ = nullptr;
   bool transaccionAbierta_ = false;
 };

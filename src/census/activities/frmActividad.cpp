@@ -4,7 +4,6 @@
 
 #include <stdexcept>
 
-#include "census/activities/ProcedimientoActividad.h"
 #include "census/activities/Sentencias.h"
 #include "core/lists/Rejilla.h"
 #include "core/lists/cIListas.h"
@@ -26,13 +25,12 @@ const Rejilla& rejillaGrupos() {
 }  // namespace
 
 frmActividad::frmActividad(Contexto& contexto)
-    : Form(contexto.ui(), "frmActividad"),
+    : Dialogo(contexto, "frmActividad"),
       mstActividad(*this, "mstActividad", {"ACTIVIDAD", "GRUPOS"}),
       txtActividad(*this, "txtActividad"),
       cboInstitucion(*this, "cboInstitucion", "INSTITUCIÓN:"),
       msgGrupos(*this, "msgGrupos"),
-      cmdActividad(*this, "cmdActividad"),
-      contexto_(contexto) {
+      cmdActividad(*this, "cmdActividad") {
   prepararControles();
 }
 

@@ -6,8 +6,7 @@
 
 #include "census/activities/AlmacenActividades.h"
 #include "census/activities/BloqueosDeLista.h"
-#include "core/contract/Contexto.h"
-#include "forms/Form.h"
+#include "core/contract/Dialogo.h"
 
 namespace fidaleon {
 
@@ -15,7 +14,7 @@ namespace fidaleon {
 /// The groups are a working copy: nothing is stored before the dialog is accepted, and then all of
 /// it or, with an error, nothing and the dialog stays. The caller holds the lock of the activity;
 /// those of the groups are the dialog's own and are kept until it closes.
-class frmActividad : public forms::Form {
+class frmActividad : public Dialogo {
  public:
   explicit frmActividad(Contexto& contexto);
 
@@ -67,10 +66,6 @@ class frmActividad : public forms::Form {
   bool EditarActividad();
   Actividad datos() const;
 
-  template <class Body>
-  bool procedimiento(const char* nombre, Body&& body);
-
-  Contexto& contexto_;
   ColeccionGrupos colGrupos_;
   std::unique_ptr<BloqueosDeLista> bloqueos_;
   bool cargado_ = false;

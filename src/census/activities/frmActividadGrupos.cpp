@@ -15,7 +15,6 @@ using FDAPI::cCOperacion;
 
 namespace {
 
-constexpr const char* FORMULARIO = "frmActividadGrupos";
 constexpr int MAXIMO_TEXTO = 255;
 /// Of both together: long names with their offices are to be read whole.
 constexpr int ANCHO_LISTAS = 120;
@@ -48,13 +47,12 @@ ListaDoble::Textos textos() {
 }  // namespace
 
 frmActividadGrupos::frmActividadGrupos(Contexto& contexto)
-    : Form(contexto.ui(), FORMULARIO),
+    : Dialogo(contexto, "frmActividadGrupos"),
       mstGrupo(*this, "mstGrupo", {"GRUPO", "COLABORADORES"}),
       txtGrupo(*this, "txtGrupo"),
       lstColaboradores(*this, "lstColaboradores"),
       cmdMover(*this, "cmdMover"),
       cmdGrupo(*this, "cmdGrupo"),
-      contexto_(contexto),
       listas_(contexto, *this, lstColaboradores.add(DISPONIBLES, "DISPONIBLES:"),
               lstColaboradores.add(SELECCIONADAS, "SELECCIONADAS:"), cmdMover, textos()) {
   prepararControles();
@@ -89,7 +87,7 @@ void frmActividadGrupos::ponerDisposicion() {
 
 void frmActividadGrupos::Form_Load() {
   cmdGrupo[ANADIR].setVisible(Origen != FDAPI::cCOrigen::COLABORADOR);
-  if (!guarded(contexto_, FORMULARIO, "Form_Load", [this] { cargar(); })) Unload();
+  if (!procedimiento("Form_Load", [this] { cargar(); })) Unload();
 }
 
 void frmActividadGrupos::cargar() {
@@ -113,7 +111,7 @@ void frmActividadGrupos::mostrarGrupo(const cPadronActGrupos& grupo) {
 }
 
 void frmActividadGrupos::cmdGrupo_Click(Boton boton) {
-  guarded(contexto_, FORMULARIO, "cmdGrupo_Click", [&] {
+  procedimiento("cmdGrupo_Click", [&] {
     if (boton == ANADIR) return anadirColaborador();
     if (boton == CANCELAR) return Unload();
     aceptar();

@@ -6,15 +6,14 @@
 #include <vector>
 
 #include "census/activities/cPadronActGrupos.h"
-#include "core/contract/Contexto.h"
+#include "core/contract/Dialogo.h"
 #include "core/lists/ListaDoble.h"
-#include "forms/Form.h"
 
 namespace fidaleon {
 
 /// A group of an activity: its data on one tab, its members on another. Set the public fields, then
 /// Show(). It changes the collection when it is accepted and stores nothing.
-class frmActividadGrupos : public forms::Form {
+class frmActividadGrupos : public Dialogo {
  public:
   explicit frmActividadGrupos(Contexto& contexto);
 
@@ -69,7 +68,6 @@ class frmActividadGrupos : public forms::Form {
   bool repetido(const std::string& nombre) const;
   void guardar(cPadronActGrupos& grupo);
 
-  Contexto& contexto_;
   ListaDoble listas_;
   std::vector<Persona> personas_;                        // all that the lists show
   std::map<std::int32_t, std::int32_t> cargos_;          // of the selected persons

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "census/activities/ProcedimientoActividad.h"
+#include "census/activities/frmActividad.h"
 #include "census/activities/frmActividadGrupos.h"
 
 namespace fidaleon {

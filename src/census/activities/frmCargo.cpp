@@ -13,17 +13,15 @@ using FDAPI::cCOperacion;
 
 namespace {
 
-constexpr const char* FORMULARIO = "frmCargo";
 constexpr int MAXIMO_TEXTO = 255;
 
 }  // namespace
 
 frmCargo::frmCargo(Contexto& contexto)
-    : Form(contexto.ui(), FORMULARIO),
+    : Dialogo(contexto, "frmCargo"),
       txtCargo(*this, "txtCargo"),
       cboCargo(*this, "cboCargo", "Seleccione un cargo para el/los colaboradores:"),
-      cmdCargo(*this, "cmdCargo"),
-      contexto_(contexto) {
+      cmdCargo(*this, "cmdCargo") {
   prepararControles();
 }
 
@@ -46,7 +44,7 @@ void frmCargo::Form_Load() {
   for (const auto& [indice, campo] : txtCargo.all()) campo->setVisible(!seElige());
   cboCargo.setVisible(seElige());
   cmdCargo[AGREGAR].setVisible(seElige());
-  if (!guarded(contexto_, FORMULARIO, "Form_Load", [this] { cargar(); })) Unload();
+  if (!procedimiento("Form_Load", [this] { cargar(); })) Unload();
 }
 
 void frmCargo::cargar() {
@@ -72,7 +70,7 @@ void frmCargo::listarCargos() {
 }
 
 void frmCargo::cmdCargo_Click(Boton boton) {
-  guarded(contexto_, FORMULARIO, "cmdCargo_Click", [&] {
+  procedimiento("cmdCargo_Click", [&] {
     if (boton == AGREGAR) return agregar();
     if (boton == CANCELAR) return Unload();
     seElige() ? elegir() : aceptar();

@@ -3,15 +3,14 @@
 #include <cstdint>
 #include <string>
 
-#include "core/contract/Contexto.h"
-#include "forms/Form.h"
+#include "core/contract/Dialogo.h"
 
 namespace fidaleon {
 
 /// An office (Cargo). Set the public fields, then Show(). With Operacion ANADIR or EDITAR it edits
 /// one and stores it when accepted; with Origen ACTIVIDAD the user chooses one of all. The caller
 /// holds the locks.
-class frmCargo : public forms::Form {
+class frmCargo : public Dialogo {
  public:
   explicit frmCargo(Contexto& contexto);
 
@@ -46,8 +45,6 @@ class frmCargo : public forms::Form {
   void guardar(const std::string& nombre);
   bool repetido(const std::string& nombre);
   bool seElige() const { return Origen == FDAPI::cCOrigen::ACTIVIDAD; }
-
-  Contexto& contexto_;
 };
 
 }  // namespace fidaleon

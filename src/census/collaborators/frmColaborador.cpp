@@ -58,7 +58,7 @@ constexpr CampoTexto CAMPOS[] = {
 }  // namespace
 
 frmColaborador::frmColaborador(Contexto& contexto)
-    : Form(contexto.ui(), "frmColaborador"),
+    : Dialogo(contexto, "frmColaborador"),
       mstColaborador(*this, "mstColaborador",
                      {"DATOS", "NACIMIENTO", "BAUTISMO", "OBSERVACIONES", "ACTIVIDADES"}),
       txtColaborador(*this, "txtColaborador"),
@@ -68,8 +68,7 @@ frmColaborador::frmColaborador(Contexto& contexto)
       cmdAgregarMunicipio(*this, "cmdAgregarMunicipio"),
       msgActividades(*this, "msgActividades"),
       cmdActividad(*this, "cmdActividad"),
-      cmdColaborador(*this, "cmdColaborador"),
-      contexto_(contexto) {
+      cmdColaborador(*this, "cmdColaborador") {
   crearTextos();
   crearLugar(DOMICILIO, ProvinciaDomicilio);
   crearLugar(BAUTISMO, ProvinciaBautismo);
@@ -149,10 +148,6 @@ LayoutNode frmColaborador::disposicion() {
                                   &cmdActividad[QUITAR]})})}),
        forms::buttons(
            {&cmdColaborador[IMPORTAR], &cmdColaborador[ACEPTAR], &cmdColaborador[CANCELAR]})});
-}
-
-bool frmColaborador::procedimiento(const char* nombre, const std::function<void()>& cuerpo) const {
-  return guarded(contexto_, "frmColaborador", nombre, cuerpo);
 }
 
 void frmColaborador::Form_Load() {

@@ -2,7 +2,6 @@
 
 #include <cstdint>
 #include <deque>
-#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -13,9 +12,8 @@
 #include "census/persons/Persona.h"
 #include "census/search/BuscaCoincidencias.h"
 #include "core/contract/Columnas.h"
-#include "core/contract/Contexto.h"
+#include "core/contract/Dialogo.h"
 #include "core/lists/ParProvinciaPoblacion.h"
-#include "forms/Form.h"
 
 namespace fidaleon {
 
@@ -23,7 +21,7 @@ namespace fidaleon {
 /// the public fields, then Show(). What is accepted is stored as a whole or not at all, and a
 /// failure leaves the dialog open with all that was typed. The caller holds the person's lock;
 /// those of the memberships are held here, for as long as the dialog is open.
-class frmColaborador : public forms::Form {
+class frmColaborador : public Dialogo {
  public:
   explicit frmColaborador(Contexto& contexto);
 
@@ -152,9 +150,6 @@ class frmColaborador : public forms::Form {
   void guardarActividad(const cPadronActividad& actividad, std::int32_t idPadron);
   void insertarActividad(const cPadronActividad& actividad, std::int32_t idPadron);
 
-  bool procedimiento(const char* nombre, const std::function<void()>& cuerpo) const;
-
-  Contexto& contexto_;
   std::vector<Enlace> textos_;
   std::deque<ParProvinciaPoblacion> lugares_;  // by Lugar
   std::optional<CampoCumpleaños> cumpleaños_;

@@ -59,11 +59,10 @@ void distinguir(FDAPI::Conexion& conexion, std::vector<Linea>& lineas) {
 }  // namespace
 
 frmColaboradorActividad::frmColaboradorActividad(Contexto& contexto)
-    : Form(contexto.ui(), "frmColaboradorActividad"),
+    : Dialogo(contexto, "frmColaboradorActividad"),
       cboColaboraAct(*this, "cboColaboraAct"),
       cmdAgregar(*this, "cmdAgregar"),
-      cmdColaboraAct(*this, "cmdColaboraAct"),
-      contexto_(contexto) {
+      cmdColaboraAct(*this, "cmdColaboraAct") {
   crearLista(ACTIVIDAD, "ACTIVIDAD:", "Agregar Actividad");
   crearLista(GRUPO, "GRUPO:", "Agregar Grupo");
   crearLista(CARGO, "CARGO:", "Agregar Cargo");
@@ -89,11 +88,6 @@ void frmColaboradorActividad::crearLista(Lista lista, const char* etiqueta, cons
   cmdAgregar.add(lista, boton).onClick = [this, lista] {
     procedimiento("cmdColaboraAct_Click", [this, lista] { cmdAgregar_Click(lista); });
   };
-}
-
-bool frmColaboradorActividad::procedimiento(const char* nombre,
-                                            const std::function<void()>& cuerpo) const {
-  return guarded(contexto_, "frmColaboradorActividad", nombre, cuerpo);
 }
 
 void frmColaboradorActividad::Form_Load() {

@@ -8,15 +8,14 @@
 #include <vector>
 
 #include "census/activities/cPadronActividad.h"
-#include "core/contract/Contexto.h"
-#include "forms/Form.h"
+#include "core/contract/Dialogo.h"
 
 namespace fidaleon {
 
 /// A group that a collaborator works in, and the office they have in it. Works on the collection of
 /// the caller and stores nothing of it; activities, groups and offices that are added from here are
 /// stored. Set the public fields, then Show(). The caller holds the locks.
-class frmColaboradorActividad : public forms::Form {
+class frmColaboradorActividad : public Dialogo {
  public:
   explicit frmColaboradorActividad(Contexto& contexto);
 
@@ -66,9 +65,6 @@ class frmColaboradorActividad : public forms::Form {
   bool faltaAlguna();
   bool yaEnElGrupo() const;
   void guardar();
-  bool procedimiento(const char* nombre, const std::function<void()>& cuerpo) const;
-
-  Contexto& contexto_;
 };
 
 }  // namespace fidaleon

@@ -2,7 +2,7 @@
 
 #include "census/common/CamposPersona.h"
 #include "census/money/cCurrency.h"
-#include "census/persons/ProcedimientoPadron.h"
+#include "census/persons/frmPadron.h"
 
 namespace fidaleon {
 

@@ -22,7 +22,7 @@ constexpr int ANCHO_IMPORTE = 14;
 }  // namespace
 
 frmPadron::frmPadron(Contexto& contexto)
-    : Form(contexto.ui(), "frmPadron"),
+    : Dialogo(contexto, "frmPadron"),
       mstPadron(*this, "mstPadron",
                 {"DATOS PERSONALES", "NACIMIENTO Y BAUTISMO", "OTROS SACRAMENTOS", "DEFUNCIÓN",
                  "COMENTARIOS", "NOTAS PERSONALES"}),
@@ -42,7 +42,6 @@ frmPadron::frmPadron(Contexto& contexto)
       cmdAltaPoblacion(*this, "cmdAltaPoblacion"),
       cmdNotas(*this, "cmdNotas"),
       cmdPadron(*this, "cmdPadron"),
-      contexto_(contexto),
       coincidencias_(contexto, txtPadron.add(Nombre, "NOMBRE:"),
                      txtPadron.add(PrimerApellido, "PRIMER APELLIDO:"),
                      txtPadron.add(SegundoApellido, "SEGUNDO APELLIDO:"), FDAPI::cCOrigen::PADRON) {

@@ -3,7 +3,7 @@
 #include <stdexcept>
 
 #include "census/common/SoloLectura.h"
-#include "census/persons/ProcedimientoPadron.h"
+#include "census/persons/frmPadron.h"
 #include "core/lists/cIListas.h"
 
 namespace fidaleon {

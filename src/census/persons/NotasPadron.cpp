@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "census/persons/ProcedimientoPadron.h"
+#include "census/persons/frmPadron.h"
 #include "census/search/frmPadronNotas.h"
 #include "core/lists/Rejilla.h"
 #include "core/lists/cIListas.h"

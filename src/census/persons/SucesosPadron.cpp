@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "census/money/cCurrency.h"
-#include "census/persons/ProcedimientoPadron.h"
+#include "census/persons/frmPadron.h"
 #include "census/search/frmMensaje.h"
 #include "census/search/frmPadronImportar.h"
 

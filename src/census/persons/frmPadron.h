@@ -7,16 +7,15 @@
 
 #include "census/persons/FichaEmpadronado.h"
 #include "census/search/BuscaCoincidencias.h"
-#include "core/contract/Contexto.h"
+#include "core/contract/Dialogo.h"
 #include "core/lists/ParProvinciaPoblacion.h"
-#include "forms/Form.h"
 
 namespace fidaleon {
 
 /// One person of the parish census with family, sacraments, burial and notes. Set the public
 /// fields, then Show(). Accepting stores at once; cancelled, all is left as it was. What fails is
 /// told and keeps the dialog open with what was typed. The caller holds the locks.
-class frmPadron : public forms::Form {
+class frmPadron : public Dialogo {
  public:
   explicit frmPadron(Contexto& contexto);
 
@@ -193,10 +192,6 @@ class frmPadron : public forms::Form {
   bool conPesetas() const { return contexto_.config().TrabajarConPesetas; }
   const char* importeCero() const { return conPesetas() ? "0" : "0,00"; }
 
-  template <class Body>
-  bool procedimiento(const char* nombre, Body&& body);
-
-  Contexto& contexto_;
   std::vector<Enlace<std::string, forms::TextBox>> textos_;
   std::vector<Enlace<std::string, forms::DateField>> fechas_;
   std::deque<ParProvinciaPoblacion> pares_;

@@ -15,10 +15,9 @@ constexpr const char* TEXTO =
 }  // namespace
 
 frmMensaje::frmMensaje(Contexto& contexto)
-    : Form(contexto.ui(), "frmMensaje"),
+    : Dialogo(contexto, "frmMensaje"),
       lblMensaje(*this, "lblMensaje", TEXTO),
-      cmdMensaje(*this, "cmdMensaje"),
-      contexto_(contexto) {
+      cmdMensaje(*this, "cmdMensaje") {
   lblMensaje.setWidthChars(60);
   cmdMensaje.add(DETALLES, "DETALLES").setDefault(true);
   cmdMensaje.add(IMPORTAR, "IMPORTAR");
@@ -31,7 +30,7 @@ frmMensaje::frmMensaje(Contexto& contexto)
 }
 
 void frmMensaje::Form_Load() {
-  guarded(contexto_, "frmMensaje", "FormLoad()", [this] {
+  procedimiento("FormLoad()", [this] {
     const bool padron = Origen == FDAPI::cCOrigen::PADRON;
     setCaption(padron ? "Coincidencia de empadronado" : contexto_.tituloAplicacion);
     cmdMensaje[DETALLES].setEnabled(padron);
@@ -40,7 +39,7 @@ void frmMensaje::Form_Load() {
 }
 
 void frmMensaje::cmdMensaje_Click(Boton boton) {
-  guarded(contexto_, "frmMensaje", "cmdMensaje_Click(", [&] {
+  procedimiento("cmdMensaje_Click(", [&] {
     if (boton == DETALLES) return detalles();
     blnImportar = boton == IMPORTAR;
     Unload();

@@ -2,14 +2,13 @@
 
 #include <cstdint>
 
-#include "core/contract/Contexto.h"
-#include "forms/Form.h"
+#include "core/contract/Dialogo.h"
 
 namespace fidaleon {
 
 /// Tells that a typed DNI is that of another person, and offers their card and their data. Set the
 /// public fields, then Show(). For another source than PADRON there is nothing to look at or take.
-class frmMensaje : public forms::Form {
+class frmMensaje : public Dialogo {
  public:
   explicit frmMensaje(Contexto& contexto);
 
@@ -33,8 +32,6 @@ class frmMensaje : public forms::Form {
  private:
   void cmdMensaje_Click(Boton boton);
   void detalles();
-
-  Contexto& contexto_;
 };
 
 }  // namespace fidaleon

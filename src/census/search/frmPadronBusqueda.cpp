@@ -28,11 +28,10 @@ class Llenado {
 }  // namespace
 
 frmPadronBusqueda::frmPadronBusqueda(Contexto& contexto)
-    : Form(contexto.ui(), "frmPadronBusqueda"),
+    : Dialogo(contexto, "frmPadronBusqueda"),
       lblBuscado(*this, "lblBuscado"),
       msgBusquedaPadron(*this, "msgBusquedaPadron"),
-      cmdBotones(*this, "cmdBotones"),
-      contexto_(contexto) {
+      cmdBotones(*this, "cmdBotones") {
   setCaption("DETALLES");
   lblBuscado.setLabel(makeLabel("lblBusqueda", "BÚSQUEDA:"));
   cmdBotones.add(DETALLES, "DETALLES").setDefault(true);
@@ -46,11 +45,6 @@ frmPadronBusqueda::frmPadronBusqueda(Contexto& contexto)
   setLayout(forms::column(
       {forms::fields(1, {forms::item(lblBuscado)}), forms::item(msgBusquedaPadron),
        forms::buttons({&cmdBotones[DETALLES], &cmdBotones[SELECCIONAR], &cmdBotones[CANCELAR]})}));
-}
-
-template <class Body>
-bool frmPadronBusqueda::procedimiento(const char* nombre, Body&& body) {
-  return guarded(contexto_, "frmPadronBusqueda", nombre, std::forward<Body>(body));
 }
 
 void frmPadronBusqueda::Form_Load() {

@@ -3,14 +3,13 @@
 #include <cstdint>
 #include <string>
 
-#include "core/contract/Contexto.h"
-#include "forms/Form.h"
+#include "core/contract/Dialogo.h"
 
 namespace fidaleon {
 
 /// The persons that a search has found, to look at and to choose from. Set the public fields, then
 /// Show().
-class frmPadronBusqueda : public forms::Form {
+class frmPadronBusqueda : public Dialogo {
  public:
   explicit frmPadronBusqueda(Contexto& contexto);
 
@@ -46,10 +45,6 @@ class frmPadronBusqueda : public forms::Form {
   void detalles();
   void seleccionar();
   std::int32_t elegido() const;
-  template <class Body>
-  bool procedimiento(const char* nombre, Body&& body);
-
-  Contexto& contexto_;
 };
 
 }  // namespace fidaleon

@@ -38,10 +38,9 @@ std::string conValor(const std::string& texto) {
 }  // namespace
 
 frmPadronDetalles::frmPadronDetalles(Contexto& contexto)
-    : Form(contexto.ui(), "frmPadronDetalles"),
+    : Dialogo(contexto, "frmPadronDetalles"),
       txtDetalle(*this, "txtDetalle"),
-      cmdAceptar(*this, "cmdAceptar", "ACEPTAR"),
-      contexto_(contexto) {
+      cmdAceptar(*this, "cmdAceptar", "ACEPTAR") {
   setCaption("Detalles de la persona");
   for (const auto& [linea, texto] : ROTULOS) txtDetalle.add(linea, texto).setLocked(true);
   txtDetalle[PADRE].setToolTip("Padre");
@@ -61,8 +60,8 @@ frmPadronDetalles::frmPadronDetalles(Contexto& contexto)
 }
 
 void frmPadronDetalles::Form_Load() {
-  const bool cargado = guarded(contexto_, "frmPadronDetalles", "CargaDetallesEmpadronado",
-                               [this] { CargaDetallesEmpadronado(); });
+  const bool cargado =
+      procedimiento("CargaDetallesEmpadronado", [this] { CargaDetallesEmpadronado(); });
   if (!cargado) Unload();
 }
 

@@ -3,14 +3,13 @@
 #include <cstdint>
 #include <string>
 
-#include "core/contract/Contexto.h"
-#include "forms/Form.h"
+#include "core/contract/Dialogo.h"
 
 namespace fidaleon {
 
 /// The card of a person, to be read only. Set the public fields, then Show(). A person who is no
 /// longer there is told, and nothing opens.
-class frmPadronDetalles : public forms::Form {
+class frmPadronDetalles : public Dialogo {
  public:
   explicit frmPadronDetalles(Contexto& contexto);
 
@@ -46,8 +45,6 @@ class frmPadronDetalles : public forms::Form {
   /// "town (province)", "---" for none.
   std::string lugar(std::int64_t idMunicipio);
   std::string institucion(std::int64_t idInstitucion);
-
-  Contexto& contexto_;
 };
 
 }  // namespace fidaleon

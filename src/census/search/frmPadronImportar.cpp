@@ -20,15 +20,14 @@ constexpr const char* Y = " AND";
 }  // namespace
 
 frmPadronImportar::frmPadronImportar(Contexto& contexto)
-    : Form(contexto.ui(), "frmPadronImportar"),
+    : Dialogo(contexto, "frmPadronImportar"),
       txtNombre(*this, "txtNombre", "NOMBRE:"),
       lblApellidos(*this, "lblApellidos", "PRIMER APELLIDO:            SEGUNDO APELLIDO:"),
       txtPrimerApellido(*this, "txtPrimerApellido"),
       txtSegundoApellido(*this, "txtSegundoApellido"),
       txtDNI(*this, "txtDNI", "DNI:"),
       lblDonde(*this, "lblDonde", "Se buscarán datos en: donantes, colaboradores y padrón."),
-      cmdPadronImportar(*this, "cmdPadronImportar"),
-      contexto_(contexto) {
+      cmdPadronImportar(*this, "cmdPadronImportar") {
   setCaption("Importar");
   for (forms::TextBox* campo : {&txtNombre, &txtPrimerApellido, &txtSegundoApellido})
     campo->setMaxLength(MAXIMO_TEXTO);
@@ -54,7 +53,7 @@ void frmPadronImportar::Form_Load() {
 }
 
 void frmPadronImportar::cmdPadronImportar_Click() {
-  guarded(contexto_, "frmPadronImportar", "cmdPadronImportar_Click(", [this] { buscar(); });
+  procedimiento("cmdPadronImportar_Click(", [this] { buscar(); });
 }
 
 void frmPadronImportar::buscar() {

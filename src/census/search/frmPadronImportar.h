@@ -3,14 +3,13 @@
 #include <cstdint>
 #include <string>
 
-#include "core/contract/Contexto.h"
-#include "forms/Form.h"
+#include "core/contract/Dialogo.h"
 
 namespace fidaleon {
 
 /// Looks for a person by name or DNI, each field exactly as it is typed. Set the public fields,
 /// then Show(). Closes behind the list of those found, whether one was chosen or not.
-class frmPadronImportar : public forms::Form {
+class frmPadronImportar : public Dialogo {
  public:
   explicit frmPadronImportar(Contexto& contexto);
 
@@ -43,8 +42,6 @@ class frmPadronImportar : public forms::Form {
   /// Empty when no field is filled.
   std::string condiciones() const;
   void mostrar(store::Recordset& encontrados);
-
-  Contexto& contexto_;
 };
 
 }  // namespace fidaleon

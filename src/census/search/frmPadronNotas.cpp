@@ -17,11 +17,10 @@ constexpr int LINEAS_DESCRIPCION = 8;
 }  // namespace
 
 frmPadronNotas::frmPadronNotas(Contexto& contexto)
-    : Form(contexto.ui(), "frmPadronNotas"),
+    : Dialogo(contexto, "frmPadronNotas"),
       txtTitulo(*this, "txtTitulo", "TÍTULO:"),
       txtDescripcion(*this, "txtDescripcion", "DESCRIPCIÓN:"),
-      cmdPadronNota(*this, "cmdPadronNota"),
-      contexto_(contexto) {
+      cmdPadronNota(*this, "cmdPadronNota") {
   txtTitulo.setMaxLength(MAXIMO_TITULO);
   txtDescripcion.setLines(LINEAS_DESCRIPCION);
   cmdPadronNota.add(ACEPTAR, "ACEPTAR").setDefault(true);
@@ -33,7 +32,7 @@ frmPadronNotas::frmPadronNotas(Contexto& contexto)
 }
 
 void frmPadronNotas::Form_Load() {
-  if (!guarded(contexto_, "frmPadronNotas", "Form_Load", [this] { cargar(); })) Unload();
+  if (!procedimiento("Form_Load", [this] { cargar(); })) Unload();
 }
 
 void frmPadronNotas::cargar() {
@@ -46,7 +45,7 @@ void frmPadronNotas::cargar() {
 }
 
 void frmPadronNotas::cmdPadronNota_Click() {
-  guarded(contexto_, "frmPadronNotas", "cmdPadronNota_Click(", [this] { aceptar(); });
+  procedimiento("cmdPadronNota_Click(", [this] { aceptar(); });
 }
 
 void frmPadronNotas::aceptar() {

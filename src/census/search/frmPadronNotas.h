@@ -4,14 +4,13 @@
 #include <vector>
 
 #include "census/search/cPadronNotas.h"
-#include "core/contract/Contexto.h"
-#include "forms/Form.h"
+#include "core/contract/Dialogo.h"
 
 namespace fidaleon {
 
 /// The title and the text of one personal note. Works on the collection of the caller and stores
 /// nothing. Set the public fields, then Show(); a cancelled dialog leaves the collection as it was.
-class frmPadronNotas : public forms::Form {
+class frmPadronNotas : public Dialogo {
  public:
   explicit frmPadronNotas(Contexto& contexto);
 
@@ -39,8 +38,6 @@ class frmPadronNotas : public forms::Form {
   void aceptar();
   bool tituloEnUso() const;
   void guardar();
-
-  Contexto& contexto_;
 };
 
 }  // namespace fidaleon

@@ -32,11 +32,10 @@ constexpr int MAXIMO_TEXTO = 255;
 }  // namespace
 
 frmDatosSetup::frmDatosSetup(Contexto& contexto)
-    : Form(contexto.ui(), "frmDatosSetup"),
+    : Dialogo(contexto, "frmDatosSetup"),
       cboInstitucion(*this, "cboInstitucion", "INSTITUCION"),
       txtDatos(*this, "txtDatos"),
-      cmdBoton(*this, "cmdBoton"),
-      contexto_(contexto) {
+      cmdBoton(*this, "cmdBoton") {
   setCaption("Datos necesarios para el Módulo de Gestión Parroquial");
   for (int dato = PARROCO; dato <= VICARIA; ++dato) {
     forms::TextBox& campo = txtDatos.add(dato, CAMPOS[static_cast<std::size_t>(dato)].etiqueta);
@@ -57,10 +56,6 @@ frmDatosSetup::frmDatosSetup(Contexto& contexto)
                          forms::item(txtDatos[ENCARGADO]), forms::item(txtDatos[DIOCESIS]),
                          forms::item(txtDatos[VICARIA])}),
        forms::stretch(), forms::buttons({&cmdBoton[ACEPTAR], &cmdBoton[CANCELAR]})}));
-}
-
-void frmDatosSetup::procedimiento(const char* nombre, const std::function<void()>& body) {
-  guarded(contexto_, "frmDatosSetup", nombre, body);
 }
 
 void frmDatosSetup::Form_Load() {

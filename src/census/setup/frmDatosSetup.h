@@ -1,17 +1,15 @@
 #pragma once
 
-#include <functional>
 #include <vector>
 
-#include "core/contract/Contexto.h"
-#include "forms/Form.h"
+#include "core/contract/Dialogo.h"
 
 namespace fidaleon {
 
 /// Asks for what documents need of an institution, of every institution that has none of it. With
 /// no such institution it is not shown and the result is true. Nothing is stored before all is
 /// complete.
-class frmDatosSetup : public forms::Form {
+class frmDatosSetup : public Dialogo {
  public:
   explicit frmDatosSetup(Contexto& contexto);
 
@@ -43,9 +41,7 @@ class frmDatosSetup : public forms::Form {
   /// Tells of the first value that is missing and goes to its field.
   bool faltaAlgo();
   void guardar(const FDAPI::cInstitucion& institucion);
-  void procedimiento(const char* nombre, const std::function<void()>& body);
 
-  Contexto& contexto_;
   std::vector<FDAPI::cInstitucion> colInstituciones_;
   /// Position of the institution in the fields; -1 before the first.
   int mostrada_ = -1;

@@ -24,13 +24,12 @@ std::string sentenciaInstitucion(const std::string& sacramento, std::int32_t id)
 }  // namespace
 
 frmEncargado::frmEncargado(Contexto& contexto)
-    : Form(contexto.ui(), "frmEncargado"),
+    : Dialogo(contexto, "frmEncargado"),
       lblInstitucion(*this, "lblInstitucion"),
       cboEncargado(*this, "cboEncargado", "ENCARGADO:"),
       cmdAgregarEncargado(*this, "cmdAgregarEncargado", "Agregar encargado"),
       adtpFecha(*this, "adtpFecha", "FECHA DE IMPRESION DEL DOCUMENTO:"),
-      cmdBoton(*this, "cmdBoton"),
-      contexto_(contexto) {
+      cmdBoton(*this, "cmdBoton") {
   setCaption("Selección de encargado");
   lblInstitucion.setLabel(makeLabel("lblEncargadoPara", "ENCARGADO PARA:"));
   cboEncargado.setWidthChars(50);
@@ -48,10 +47,6 @@ frmEncargado::frmEncargado(Contexto& contexto)
                                        forms::item(cboEncargado, {&cmdAgregarEncargado}),
                                        forms::item(adtpFecha)}),
                      forms::stretch(), forms::buttons({&cmdBoton[ACEPTAR], &cmdBoton[CANCELAR]})}));
-}
-
-void frmEncargado::procedimiento(const char* nombre, const std::function<void()>& body) {
-  guarded(contexto_, "frmEncargado", nombre, body);
 }
 
 void frmEncargado::Form_Load() {

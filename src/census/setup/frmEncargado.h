@@ -1,19 +1,17 @@
 #pragma once
 
 #include <cstdint>
-#include <functional>
 #include <memory>
 #include <string>
 
-#include "core/contract/Contexto.h"
-#include "forms/Form.h"
+#include "core/contract/Dialogo.h"
 
 namespace fidaleon {
 
 /// Who signs a document as keeper of the archive, and with which date. Set the public fields, then
 /// Show(); the results stand in strEncargado, strFecha and lngInstitucion. Cancelled, closed or
 /// with an entry of no institution: no keeper and today's date. Holds its own locks while open.
-class frmEncargado : public forms::Form {
+class frmEncargado : public Dialogo {
  public:
   explicit frmEncargado(Contexto& contexto);
 
@@ -51,9 +49,7 @@ class frmEncargado : public forms::Form {
   void guardarEncargado(const std::string& nombre);
   void aceptar();
   void cancelar();
-  void procedimiento(const char* nombre, const std::function<void()>& body);
 
-  Contexto& contexto_;
   std::unique_ptr<FDAPI::cProcesarBloqueos> bloqueos_;
 };
 

@@ -3,8 +3,9 @@
 #include <limits>
 #include <stdexcept>
 
+#include "core/contract/EnSacramento.h"
 #include "registers/allocation/LimiteFolios.h"
-#include "registers/baptism/ProcedimientoBautismo.h"
+#include "registers/baptism/frmPartidaBautismo.h"
 #include "registers/cBaseDatos.h"
 #include "text/Dates.h"
 #include "text/Utf8.h"

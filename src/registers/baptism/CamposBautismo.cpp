@@ -20,7 +20,7 @@ constexpr int ANCHO_FOLIO = 9;
 }  // namespace
 
 frmPartidaBautismo::frmPartidaBautismo(Contexto& contexto)
-    : Form(contexto.ui(), "frmPartidaBautismo"),
+    : Dialogo(contexto, "frmPartidaBautismo"),
       mstBautismo(*this, "mstBautismo",
                   {"GENERAL", "BAUTIZADO", "PADRE", "MADRE", "MATRIMONIO DE LOS PADRES", "BAUTISMO",
                    "N. MARGINALES"}),
@@ -44,7 +44,6 @@ frmPartidaBautismo::frmPartidaBautismo(Contexto& contexto)
       cmdAltaProvincia(*this, "cmdAltaProvincia", "Agregar Provincia"),
       cmdAltaPoblacion(*this, "cmdAltaPoblacion", "Agregar Población"),
       cmdBautismo(*this, "cmdBautismo"),
-      contexto_(contexto),
       santiago_(contexto.edicion(FDAPI::cCAplicacion::APP_FIDALEON_SANTIAGO)),
       menorca_(contexto.constante().Aplicacion == "0050") {
   crearCampos();

@@ -3,8 +3,8 @@
 #include <stdexcept>
 
 #include "core/lists/cIListas.h"
-#include "registers/baptism/ProcedimientoBautismo.h"
 #include "registers/baptism/TablasBautismo.h"
+#include "registers/baptism/frmPartidaBautismo.h"
 
 namespace fidaleon {
 

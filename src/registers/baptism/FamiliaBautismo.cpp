@@ -3,7 +3,8 @@
 #include <algorithm>
 #include <iterator>
 
-#include "registers/baptism/ProcedimientoBautismo.h"
+#include "core/contract/EnSacramento.h"
+#include "registers/baptism/frmPartidaBautismo.h"
 #include "registers/lookup/frmBuscaPadres.h"
 #include "text/Utf8.h"
 

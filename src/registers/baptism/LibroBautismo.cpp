@@ -1,6 +1,6 @@
 // Institution, book, position and tabs of the baptism dialog.
 
-#include "registers/baptism/ProcedimientoBautismo.h"
+#include "registers/baptism/frmPartidaBautismo.h"
 #include "text/Numbers.h"
 #include "text/Utf8.h"
 

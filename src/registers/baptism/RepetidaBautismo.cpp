@@ -1,7 +1,8 @@
 // Is the entry being accepted already in a book, and has it changed at all?
 
-#include "registers/baptism/ProcedimientoBautismo.h"
+#include "core/contract/EnSacramento.h"
 #include "registers/baptism/TablasBautismo.h"
+#include "registers/baptism/frmPartidaBautismo.h"
 #include "text/Utf8.h"
 
 namespace fidaleon {

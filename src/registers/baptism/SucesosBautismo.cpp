@@ -1,7 +1,7 @@
 // What the controls of the baptism dialog set off.
 
 #include "core/contract/Guard.h"
-#include "registers/baptism/ProcedimientoBautismo.h"
+#include "registers/baptism/frmPartidaBautismo.h"
 #include "registers/books/frmAltaLibro.h"
 
 namespace fidaleon {

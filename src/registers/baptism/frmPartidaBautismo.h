@@ -8,20 +8,19 @@
 #include <utility>
 #include <vector>
 
-#include "core/contract/Contexto.h"
-#include "forms/Form.h"
+#include "core/contract/Dialogo.h"
+#include "core/lists/ParProvinciaPoblacion.h"
 #include "registers/allocation/PosicionPartida.h"
 #include "registers/baptism/cBautismo.h"
 #include "registers/common/LimiteNotas.h"
 #include "registers/common/ListasDeLibro.h"
-#include "core/lists/ParProvinciaPoblacion.h"
 
 namespace fidaleon {
 
 /// One entry or request of baptism. Set the public fields, then Show(). Opened from the tree, it
 /// stores at once; opened from a book's list, it only changes the caller's collection. Cancelled,
 /// it leaves both as they were. The caller holds the locks.
-class frmPartidaBautismo : public forms::Form {
+class frmPartidaBautismo : public Dialogo {
  public:
   explicit frmPartidaBautismo(Contexto& contexto);
 
@@ -247,10 +246,6 @@ class frmPartidaBautismo : public forms::Form {
   std::string condicionLibros() const;
   bool ComprobarCambios(cBautismo& nuevo) const;
 
-  template <class Body>
-  bool procedimiento(const char* nombre, Body&& body) const;
-
-  Contexto& contexto_;
   bool santiago_;
   bool menorca_;
   std::vector<Enlace<std::string, forms::TextBox>> textos_;

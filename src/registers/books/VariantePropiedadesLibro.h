@@ -16,9 +16,4 @@ struct VariantePropiedadesLibro {
 
 inline constexpr std::int64_t NOMBRE_ABIERTO = 4;  // of Libros_TipoNombre: typed freely
 
-template <class Body>
-bool frmPropiedadesLibro::procedimiento(const char* nombre, Body&& body) {
-  return guarded(contexto_, name(), nombre, std::forward<Body>(body));
-}
-
 }  // namespace fidaleon

@@ -40,7 +40,7 @@ bool vacio(const std::string& texto) {
 }  // namespace
 
 frmAltaLibro::frmAltaLibro(Contexto& contexto, const Sacramento& sacramento)
-    : Form(contexto.ui(), std::string("frmAltaLibro") + sacramento.palabra),
+    : Dialogo(contexto, std::string("frmAltaLibro") + sacramento.palabra),
       cboInstituciones(*this, "cboInstituciones", "Institución:"),
       cmdAgregarInstitucion(*this, "cmdAgregarInstitucion", "Agregar Institución"),
       optNuevo(*this, "optNuevo", "Nuevo", "libro"),
@@ -50,7 +50,6 @@ frmAltaLibro::frmAltaLibro(Contexto& contexto, const Sacramento& sacramento)
       cboFormato(*this, "cboFormato", "Formato:"),
       adtpAltaLibro(*this, "adtpAltaLibro", "Fecha de creación:"),
       cmdBoton(*this, "cmdBoton"),
-      contexto_(contexto),
       sacramento_(sacramento),
       variante_(VARIANTES.at(sacramento.byte)) {
   setCaption(variante_.titulo);
@@ -78,11 +77,6 @@ void frmAltaLibro::prepararControles() {
   cboTipoNombre.onClick = [this] { cboTipoNombre_Click(); };
   aceptarBoton.onClick = [this] { cmdBoton_Click(ACEPTAR); };
   cancelarBoton.onClick = [this] { cmdBoton_Click(CANCELAR); };
-}
-
-template <class Body>
-void frmAltaLibro::procedimiento(const char* nombre, Body&& body) {
-  guarded(contexto_, name(), nombre, std::forward<Body>(body));
 }
 
 void frmAltaLibro::Form_Load() {

@@ -3,9 +3,8 @@
 #include <cstdint>
 #include <memory>
 
-#include "core/contract/Contexto.h"
+#include "core/contract/Dialogo.h"
 #include "core/contract/Sacramento.h"
-#include "forms/Form.h"
 
 namespace fidaleon {
 
@@ -14,7 +13,7 @@ struct VarianteAltaLibro;
 
 /// Creation of a book. Set the public fields, then Show(). What was created is found in the store;
 /// a cancelled dialog leaves nothing behind.
-class frmAltaLibro : public forms::Form {
+class frmAltaLibro : public Dialogo {
  public:
   /// Not owned; must be set before the dialog loads.
   FDAPI::Conexion* conBaseDatos = nullptr;
@@ -56,10 +55,7 @@ class frmAltaLibro : public forms::Form {
   std::string institucion() const;
   /// The statement, written for baptism, with the book table as this dialog spells it.
   std::string sentencia(const char* enBautismo) const;
-  template <class Body>
-  void procedimiento(const char* nombre, Body&& body);
 
-  Contexto& contexto_;
   const Sacramento& sacramento_;
   const VarianteAltaLibro& variante_;
 };

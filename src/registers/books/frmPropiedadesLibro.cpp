@@ -29,7 +29,7 @@ constexpr std::array<VariantePropiedadesLibro, 4> VARIANTES{{
 
 frmPropiedadesLibro::frmPropiedadesLibro(Contexto& contexto, const Sacramento& sacramento,
                                          std::unique_ptr<PartidasDeLibro> partidas)
-    : Form(contexto.ui(), std::string("frmPropiedadesLibro") + sacramento.palabra),
+    : Dialogo(contexto, std::string("frmPropiedadesLibro") + sacramento.palabra),
       mstLibro(*this, "mstLibro", {VARIANTES.at(sacramento.byte).pestana, "PARTIDAS"}),
       txtInstitucion(*this, "txtInstitucion", "Institución:"),
       txtFormato(*this, "txtFormato", "Formato:"),
@@ -40,7 +40,6 @@ frmPropiedadesLibro::frmPropiedadesLibro(Contexto& contexto, const Sacramento& s
       msgPartidas(*this, "msgPartidas"),
       cmdPartidas(*this, "cmdPartidas"),
       cmdBoton(*this, "cmdBoton"),
-      contexto_(contexto),
       sacramento_(sacramento),
       variante_(VARIANTES.at(sacramento.byte)),
       partidas_(std::move(partidas)) {

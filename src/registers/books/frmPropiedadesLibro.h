@@ -5,10 +5,9 @@
 #include <optional>
 #include <string>
 
-#include "core/contract/Contexto.h"
+#include "core/contract/Dialogo.h"
 #include "core/contract/Sacramento.h"
 #include "core/contract/SesionBloqueos.h"
-#include "forms/Form.h"
 #include "registers/books/PartidasDeLibro.h"
 
 namespace fidaleon {
@@ -20,7 +19,7 @@ struct VariantePropiedadesLibro;
 /// The entries are a working copy: nothing of them is stored before the dialog is accepted, and a
 /// cancelled dialog leaves the book as it was. The caller holds the lock of the book; those of the
 /// entries are the dialog's own and are kept until it closes.
-class frmPropiedadesLibro : public forms::Form {
+class frmPropiedadesLibro : public Dialogo {
  public:
   /// Not owned; must be set before the dialog loads.
   FDAPI::Conexion* conBaseDatos = nullptr;
@@ -99,10 +98,7 @@ class frmPropiedadesLibro : public forms::Form {
   /// The statement, written for baptism, in the tables of this sacrament.
   std::string sentencia(const char* enBautismo) const;
   std::string libro() const { return std::to_string(lngLibro); }
-  template <class Body>
-  bool procedimiento(const char* nombre, Body&& body);
 
-  Contexto& contexto_;
   const Sacramento& sacramento_;
   const VariantePropiedadesLibro& variante_;
   std::unique_ptr<PartidasDeLibro> partidas_;

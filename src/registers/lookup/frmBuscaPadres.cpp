@@ -7,11 +7,10 @@
 namespace fidaleon {
 
 frmBuscaPadres::frmBuscaPadres(Contexto& contexto)
-    : Form(contexto.ui(), "frmBuscaPadres"),
+    : Dialogo(contexto, "frmBuscaPadres"),
       msgBusquedaPadres(*this, "msgBusquedaPadres"),
       msgBusquedaBautizado(*this, "msgBusquedaBautizado"),
-      cmdBoton(*this, "cmdBoton"),
-      contexto_(contexto) {
+      cmdBoton(*this, "cmdBoton") {
   cmdBoton.add(ACEPTAR, "&Aceptar").setDefault(true);
   cmdBoton.add(CANCELAR, "&Cancelar").setCancel(true);
   cmdBoton.add(DETALLES, "&DETALLES");
@@ -23,11 +22,6 @@ frmBuscaPadres::frmBuscaPadres(Contexto& contexto)
   setLayout(forms::column(
       {forms::item(msgBusquedaPadres), forms::item(msgBusquedaBautizado),
        forms::buttons({&cmdBoton[DETALLES], &cmdBoton[ACEPTAR], &cmdBoton[CANCELAR]})}));
-}
-
-template <class Body>
-bool frmBuscaPadres::procedimiento(const char* nombre, Body&& body) {
-  return guarded(contexto_, "frmBuscaPadres", nombre, std::forward<Body>(body));
 }
 
 forms::Grid& frmBuscaPadres::rejilla() {

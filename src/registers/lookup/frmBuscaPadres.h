@@ -4,8 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "core/contract/Contexto.h"
-#include "forms/Form.h"
+#include "core/contract/Dialogo.h"
 #include "registers/baptism/cBautismo.h"
 
 namespace fidaleon {
@@ -26,7 +25,7 @@ struct FilaBusqueda {
 
 /// Shows earlier baptisms that a surname led to and takes the data of the chosen one. Runs no
 /// search of its own. Set the public fields, then Show(); a cancelled dialog brings nothing.
-class frmBuscaPadres : public forms::Form {
+class frmBuscaPadres : public Dialogo {
  public:
   explicit frmBuscaPadres(Contexto& contexto);
 
@@ -60,10 +59,7 @@ class frmBuscaPadres : public forms::Form {
   forms::Grid& rejilla();
   void aceptar();
   void detalles();
-  template <class Body>
-  bool procedimiento(const char* nombre, Body&& body);
 
-  Contexto& contexto_;
   const OrigenBusqueda* origen_ = nullptr;
 };
 

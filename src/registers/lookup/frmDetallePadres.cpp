@@ -37,11 +37,10 @@ bool enBlanco(const std::string& texto) {
 }  // namespace
 
 frmDetallePadres::frmDetallePadres(Contexto& contexto)
-    : Form(contexto.ui(), "frmDetallePadres"),
+    : Dialogo(contexto, "frmDetallePadres"),
       lblDetalle(*this, "lblDetalle"),
       txtDetalle(*this, "txtDetalle"),
-      cmdCerrar(*this, "cmdCerrar", "&Cerrar"),
-      contexto_(contexto) {
+      cmdCerrar(*this, "cmdCerrar", "&Cerrar") {
   forms::Nodes lineas;
   for (int i = 0; i < LINEAS; ++i) {
     lblDetalle.add(i);
@@ -59,7 +58,7 @@ frmDetallePadres::frmDetallePadres(Contexto& contexto)
 }
 
 void frmDetallePadres::Form_Load() {
-  const bool cargado = guarded(contexto_, "frmDetallePadres", "CargarDetalleBautismo", [this] {
+  const bool cargado = procedimiento("CargarDetalleBautismo", [this] {
     for (const FormaDetalle& forma : FORMAS) {
       if (forma.origen != Origen) continue;
       setCaption(forma.titulo);

@@ -4,13 +4,12 @@
 #include <cstdint>
 #include <string>
 
-#include "core/contract/Contexto.h"
-#include "forms/Form.h"
+#include "core/contract/Dialogo.h"
 
 namespace fidaleon {
 
 /// A read-only summary of six labelled lines. Set the public fields, then Show().
-class frmDetallePadres : public forms::Form {
+class frmDetallePadres : public Dialogo {
  public:
   explicit frmDetallePadres(Contexto& contexto);
 
@@ -33,8 +32,6 @@ class frmDetallePadres : public forms::Form {
   /// "town (province)", empty for none.
   std::string lugar(std::int32_t idMunicipio);
   std::string naturalDe(const std::string& nombre, std::int32_t idMunicipio);
-
-  Contexto& contexto_;
 };
 
 }  // namespace fidaleon

@@ -1,7 +1,8 @@
 // Moving the chosen requests into the book, each on the next position.
 
+#include "core/contract/EnSacramento.h"
 #include "core/contract/SesionBloqueos.h"
-#include "registers/requests/ProcedimientoSolicitudes.h"
+#include "registers/requests/frmSolicitudes.h"
 #include "text/Numbers.h"
 
 namespace fidaleon {

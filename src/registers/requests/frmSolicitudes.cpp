@@ -2,8 +2,8 @@
 
 #include "registers/requests/frmSolicitudes.h"
 
+#include "core/contract/EnSacramento.h"
 #include "registers/lookup/frmDetallePadres.h"
-#include "registers/requests/ProcedimientoSolicitudes.h"
 
 namespace fidaleon {
 
@@ -21,14 +21,13 @@ ListaDoble::Textos textos() {
 }  // namespace
 
 frmSolicitudes::frmSolicitudes(Contexto& contexto)
-    : Form(contexto.ui(), "frmSolicitudes"),
+    : Dialogo(contexto, "frmSolicitudes"),
       mstSolicitudes(*this, "mstSolicitudes", {"INSTITUCIÓN", "SOLICITUDES"}),
       cboInstitucion(*this, "cboInstitucion", "INSTITUCIÓN:"),
       lstSolicitudes(*this, "lstSolicitudes"),
       cmdMover(*this, "cmdMover"),
       cmdDetalles(*this, "cmdDetalles", "&DETALLES"),
       cmdBoton(*this, "cmdBoton"),
-      contexto_(contexto),
       listas_(contexto, *this, lstSolicitudes.add(DISPONIBLES, "ELEMENTOS DISPONIBLES:"),
               lstSolicitudes.add(SELECCIONADOS, "ELEMENTOS SELECCIONADOS:"), cmdMover, textos()) {
   prepararControles();

@@ -3,9 +3,8 @@
 #include <cstdint>
 #include <string>
 
-#include "core/contract/Contexto.h"
+#include "core/contract/Dialogo.h"
 #include "core/lists/ListaDoble.h"
-#include "forms/Form.h"
 #include "registers/requests/OrigenSolicitudes.h"
 
 namespace fidaleon {
@@ -14,7 +13,7 @@ namespace fidaleon {
 /// key. Set the public fields, then Show(). A failure in the middle leaves those moved so far in
 /// the book and the others as they were. The caller holds the institutions; the book and the
 /// entries are locked here while requests are being moved.
-class frmSolicitudes : public forms::Form {
+class frmSolicitudes : public Dialogo {
  public:
   explicit frmSolicitudes(Contexto& contexto);
 
@@ -56,10 +55,7 @@ class frmSolicitudes : public forms::Form {
   std::string institucion() const { return std::to_string(cboInstitucion.data()); }
   /// The statement, written for baptism, in the tables of this sacrament.
   std::string sentencia(const char* enBautismo) const;
-  template <class Body>
-  bool procedimiento(const char* nombre, Body&& body);
 
-  Contexto& contexto_;
   ListaDoble listas_;
   const OrigenSolicitudes* origen_ = nullptr;
   // The position under calculation.
