@@ -1,30 +1,33 @@
 #pragma once
-// A parish of 100,000 persons, 5,000 of them collaborators, with a scripted user before it.
+// A parish of 100,000 persons, 5,000 of them collaborators.
+
+#include <cstdio>
 
 #include "benches/People.h"
-#include "core/contract/Contexto.h"
-#include "forms/ScriptedUser.h"
-#include "store/Open.h"
-#include "support/Clocks.h"
-#include "support/HostSupport.h"
-#include "support/MemorySettings.h"
+#include "benches/World.h"
+#include "census/activities/frmActividadGrupos.h"
 
 namespace fidaleon::bench {
 
-struct PeopleWorld {
-  explicit PeopleWorld(int persons) {
-    contexto.gobjConfig = &config;
-    fillCensus(*connection, persons);
-  }
+struct PeopleWorld : World {
+  explicit PeopleWorld(int persons) { fillCensus(*connection, persons); }
+};
 
-  FDAPI::cConfig config{"Fidaleon", "", "ana", "Castellano", false};
-  forms::ScriptedUser user;
-  support::MemorySettings settings;
-  support::FixedClock clock{text::Date{2026, 11, 22}, "10:30"};
-  support::HostSupport host{user, settings, clock, config, "DESPACHO"};
-  Entorno entorno{user, host, settings, clock, {}};
-  Contexto contexto{entorno};
-  std::unique_ptr<store::Connection> connection = store::memoryDatabase(store::parishSchema());
+/// A new group that offers all collaborators; loaded.
+struct NewGroup {
+  explicit NewGroup(PeopleWorld& world) : dialog(world.contexto) {
+    dialog.conBaseDatos = world.connection.get();
+    dialog.colGrupos = &groups;
+    dialog.Operacion = FDAPI::cCOperacion::ANADIR;
+    dialog.Load();
+    const int expected = PERSONS / EVERY_COLLABORATOR;
+    if (dialog.lstColaboradores[frmActividadGrupos::DISPONIBLES].listCount() != expected)
+      std::printf("faltan colaboradores\n");
+  }
+  ~NewGroup() { dialog.Unload(); }
+
+  ColeccionGrupos groups;
+  frmActividadGrupos dialog;
 };
 
 }  // namespace fidaleon::bench

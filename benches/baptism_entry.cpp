@@ -6,15 +6,11 @@
 #include <string>
 
 #include "benches/Bench.h"
+#include "benches/World.h"
 #include "core/contract/Contexto.h"
-#include "forms/ScriptedUser.h"
 #include "registers/baptism/frmPartidaBautismo.h"
 #include "registers/cBaseDatos.h"
 #include "store/Engine.h"
-#include "store/Open.h"
-#include "support/Clocks.h"
-#include "support/HostSupport.h"
-#include "support/MemorySettings.h"
 
 namespace {
 
@@ -26,9 +22,8 @@ std::string surname(const char* salt) {
   return std::string("'") + salt + "' || char(65 + n * 7 % 26) || char(97 + n * 11 % 26) || 'ez'";
 }
 
-struct Parish {
+struct Parish : bench::World {
   explicit Parish(int entries) {
-    contexto.gobjConfig = &config;
     const auto fill = [&](const std::string& target, const std::string& values, int rows) {
       connection->engine().run(
           "WITH RECURSIVE c(n) AS (SELECT 1 UNION ALL SELECT n + 1 FROM c WHERE n < " +
@@ -86,14 +81,6 @@ struct Parish {
     for (const std::string& problem : user.problems()) std::printf("%s\n", problem.c_str());
   }
 
-  FDAPI::cConfig config{"Fidaleon", "", "ana", "Castellano", false};
-  forms::ScriptedUser user;
-  support::MemorySettings settings;
-  support::FixedClock clock{text::Date{2026, 11, 22}, "10:30"};
-  support::HostSupport host{user, settings, clock, config, "DESPACHO"};
-  Entorno entorno{user, host, settings, clock, {}};
-  Contexto contexto{entorno};
-  std::unique_ptr<store::Connection> connection = store::memoryDatabase(store::parishSchema());
   std::string book;
   int entered = 0;
 };

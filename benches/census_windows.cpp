@@ -5,7 +5,6 @@
 
 #include "benches/Bench.h"
 #include "benches/PeopleWorld.h"
-#include "census/activities/frmActividadGrupos.h"
 #include "qt/FormDialog.h"
 
 namespace {
@@ -13,20 +12,14 @@ namespace {
 using namespace fidaleon;
 
 double showGroup(bench::PeopleWorld& world) {
-  ColeccionGrupos groups;
   return bench::milliseconds(3, [&] {
-    frmActividadGrupos dialog(world.contexto);
-    dialog.conBaseDatos = world.connection.get();
-    dialog.colGrupos = &groups;
-    dialog.Operacion = FDAPI::cCOperacion::ANADIR;
-    dialog.Load();
-    qt::FormDialog window(dialog);
-    dialog.mstGrupo.userSelect(frmActividadGrupos::TAB_COLABORADORES);
+    bench::NewGroup group(world);
+    qt::FormDialog window(group.dialog);
+    group.dialog.mstGrupo.userSelect(frmActividadGrupos::TAB_COLABORADORES);
     window.show();
     window.flush();
     QCoreApplication::processEvents();
     window.grab();
-    dialog.Unload();
   });
 }
 

@@ -3,13 +3,9 @@
 
 #include "benches/Baptisms.h"
 #include "benches/Bench.h"
-#include "forms/ScriptedUser.h"
+#include "benches/World.h"
 #include "registers/books/frmPropiedadesLibro.h"
 #include "registers/cBaseDatos.h"
-#include "store/Open.h"
-#include "support/Clocks.h"
-#include "support/HostSupport.h"
-#include "support/MemorySettings.h"
 
 namespace {
 
@@ -17,9 +13,8 @@ using namespace fidaleon;
 
 constexpr int ENTRIES = 20000;
 
-struct Parish {
+struct Parish : bench::World {
   Parish() {
-    contexto.gobjConfig = &config;
     connection->Execute("INSERT INTO Institucion (Nombre) VALUES (\"San Pedro\")");
     connection->Execute(
         "INSERT INTO Libro_Bautismo (codinstitucion, codFormato, codTipoNombre, nombre, "
@@ -29,15 +24,6 @@ struct Parish {
     for (int i = 0; i < ENTRIES; ++i) bench::insertBaptism(*connection, i + 1, 1, i);
     connection->CommitTrans();
   }
-
-  FDAPI::cConfig config{"Fidaleon", "", "ana", "Castellano", false};
-  forms::ScriptedUser user;
-  support::MemorySettings settings;
-  support::FixedClock clock{text::Date{2026, 11, 22}, "10:30"};
-  support::HostSupport host{user, settings, clock, config, "DESPACHO"};
-  Entorno entorno{user, host, settings, clock, {}};
-  Contexto contexto{entorno};
-  std::unique_ptr<store::Connection> connection = store::memoryDatabase(store::parishSchema());
 };
 
 void load(Parish& parish) {
