@@ -45,7 +45,8 @@ MainWindow::MainWindow(Desk& desk, QWidget* parent)
       desk_(desk),
       copies_(desk.files().directory),
       presence_(desk.files().directory, desk.config().Usuario,
-                text::toShort(desk.entorno().clock.today()) + " " + desk.entorno().clock.now()) {
+                text::toShort(desk.entorno().clock.today()) + " " + desk.entorno().clock.now()),
+      removals_(desk.parish()) {
   setObjectName("MainWindow");
   setPalette(qt::legible(palette()));
   splitter_ = new QSplitter(this);
@@ -131,8 +132,7 @@ void MainWindow::run(const Command& command) {
   if (busy_ || !applies(command, chosen)) return;
   busy_ = true;
   try {
-    std::unique_ptr<Precaution> copy;
-    if (!command.destructive || protect(command, chosen, copy)) command.run(*this, chosen);
+    carryOut(command, chosen);
   } catch (const store::Error& e) {
     desk_.entorno().ui.msgBox(e.what(), forms::MsgButtons::Ok, forms::MsgIcon::Critical);
   } catch (const paper::Error& e) {

@@ -15,6 +15,7 @@
 #include "app/RowsFilter.h"
 #include "app/RowsModel.h"
 #include "paper/Report.h"
+#include "store/RemovalWatch.h"
 
 class QAction;
 class QLabel;
@@ -78,6 +79,8 @@ class MainWindow : public QMainWindow, private Workplace {
   using Maker = std::function<std::optional<paper::Report>(paper::ReportOptions)>;
   void preview(const Maker& make);
   void run(const Command& command);
+  /// Makes sure that there is a copy before the command takes anything away.
+  void carryOut(const Command& command, const Choice& chosen);
   /// Makes the copy that goes before the command. False when there can be none and the user would
   /// rather not go on.
   bool protect(const Command& command, const Choice& chosen, std::unique_ptr<Precaution>& copy);
@@ -98,6 +101,7 @@ class MainWindow : public QMainWindow, private Workplace {
   Desk& desk_;
   SafetyCopies copies_;
   Presence presence_;
+  store::RemovalWatch removals_;
   const NodeView* node_ = nullptr;
   bool busy_ = false;
   QSplitter* splitter_ = nullptr;

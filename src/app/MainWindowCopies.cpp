@@ -1,5 +1,6 @@
 // What the main window saves, and what it brings back.
 
+#include <QApplication>
 #include <QDate>
 #include <QDir>
 #include <QFileDialog>
@@ -38,6 +39,24 @@ std::string nameFor(const Command& command, const Choice& chosen) {
 
 }  // namespace
 
+// A command that is there to take something away gets its copy at once. Any other may still do so
+// in a dialog, as when a book is accepted without some of its entries; it gets its copy when it
+// comes to that, since to copy the parish for every card that is opened would be slow.
+void MainWindow::carryOut(const Command& command, const Choice& chosen) {
+  std::unique_ptr<Precaution> copy;
+  bool settled = !command.destructive || protect(command, chosen, copy);
+  if (!settled) return;
+  settled = command.destructive;
+  const store::RemovalWatch::Listener listener(removals_, [&] {
+    if (!settled) settled = protect(command, chosen, copy);
+    if (!settled)
+      throw store::Error(store::ErrorKind::Other,
+                         "No se ha eliminado nada, porque no se ha podido guardar antes una copia "
+                         "de la parroquia.");
+  });
+  command.run(*this, chosen);
+}
+
 bool MainWindow::protect(const Command& command, const Choice& chosen,
                          std::unique_ptr<Precaution>& copy) {
   try {
@@ -45,7 +64,8 @@ bool MainWindow::protect(const Command& command, const Choice& chosen,
     copy = std::make_unique<Precaution>(copies_, parish(), nameFor(command, chosen), thisMoment());
     return true;
   } catch (const store::Error& e) {
-    return askToGoOnWithoutCopy(this, e.what());
+    QWidget* const dialog = QApplication::activeModalWidget();
+    return askToGoOnWithoutCopy(dialog ? dialog : this, e.what());
   }
 }
 

@@ -8,8 +8,9 @@
 
 namespace fidaleon::app {
 
-/// A copy of the parish made before a command that takes something away. At the end it is removed
-/// again when the command has changed nothing; otherwise it stays, and older ones may go.
+/// A copy of the parish made before something is taken away: of what is stored, without what the
+/// connection has begun and not yet committed. At the end it is removed again when nothing has
+/// changed since; otherwise it stays, and older ones may go.
 class Precaution {
  public:
   /// Throws store::Error when there can be no copy.
@@ -21,7 +22,7 @@ class Precaution {
 
  private:
   const SafetyCopies& copies_;
-  text::Date today_;
+  Moment now_;
   std::filesystem::path file_;
   std::optional<store::ChangeWatch> watch_;
 };

@@ -107,13 +107,13 @@ std::vector<SafetyCopy> SafetyCopies::list() const {
   return all;
 }
 
-void SafetyCopies::prune(const text::Date& today) const {
+void SafetyCopies::prune(const Moment& now) const {
   std::vector<SafetyCopy> ours = list();
-  std::erase_if(ours, [](const SafetyCopy& copy) { return copy.byHand(); });
+  std::erase_if(ours, [&](const SafetyCopy& copy) { return copy.byHand() || copy.moment > now; });
   std::vector<text::Date> days;
   for (const SafetyCopy& copy : ours) days.push_back(copy.moment.day);
-  for (const std::size_t place : superfluous(days, today)) remove(ours[place].file);
-  removeRests(today);
+  for (const std::size_t place : superfluous(days, now.day)) remove(ours[place].file);
+  removeRests(now.day);
 }
 
 void SafetyCopies::removeRests(const text::Date& today) const {

@@ -38,8 +38,9 @@ class SafetyCopies {
   /// Those that are whole, newest first. A folder that is missing or cannot be read has none.
   std::vector<SafetyCopy> list() const;
   /// Removes what need not be kept any longer, and what was left half made on an earlier day. What
-  /// cannot be removed stays.
-  void prune(const text::Date& today) const;
+  /// cannot be removed stays; so does, without being counted, what bears a moment yet to come: one
+  /// of the clocks was or is wrong.
+  void prune(const Moment& now) const;
 
   static void remove(const std::filesystem::path& copy) noexcept;
 

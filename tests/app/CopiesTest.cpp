@@ -210,13 +210,28 @@ TEST_F(Copies, pruned_onlyOursGo) {
   place("2026-05-20 09.00.00 De hoy.fidaleon.parte");
   place("2026-05-19 09.00.00 De ayer.fidaleon.parte-journal");
   place("2026-05-19 09.00.00 De ayer.fidaleon", "");
-  copies.prune({2026, 5, 20});
+  copies.prune({{2026, 5, 20}, 12, 0, 0});
   const auto left = namesIn(folder());
   // Thirty, the first of March as the newest of its week, and that of the first week of February.
   EXPECT_EQ(left.size(), 30 + 2 + foreign.size() + 1);
   for (const std::string& name : foreign) EXPECT_THAT(left, ::testing::Contains(name));
   EXPECT_THAT(left, ::testing::Contains("2026-02-04 08.00.00 Eliminar.fidaleon"));
   EXPECT_THAT(left, ::testing::Contains("2026-05-20 09.00.00 De hoy.fidaleon.parte"));
+}
+
+// A clock that was wrong for a day makes copies of days to come; they must not push out what is
+// made afterwards.
+TEST_F(Copies, ofDaysToCome_countForNothingAndStay) {
+  fs::create_directories(folder());
+  for (int day = 1; day <= 31; ++day)
+    place(CopyName{{{2031, 3, day}, 8, 0, 0}, 1, "Eliminar"}.file());
+  for (int made = 1; made <= 3; ++made) {
+    {
+      const Precaution copy(copies, desk->parish(), "Eliminar", NOON);
+      addOffice("x");
+    }
+    EXPECT_EQ(namesIn(folder()).size(), 31U + static_cast<std::size_t>(made));
+  }
 }
 
 TEST_F(Copies, beforeACommand_stayOnlyWhenItChangedSomething) {
@@ -281,6 +296,92 @@ TEST_F(CopiesWindow, withoutACopy_goesOnOnlyWhenToldTo) {
   deleteRequest(forms::Answer::Yes);
   EXPECT_EQ(rows(), before - 1);
   EXPECT_THAT(user.problems(), IsEmpty());
+}
+
+/// Opens the properties of the old book and takes one of its entries out, or changes nothing but
+/// the date.
+class CopiesBook : public CopiesWindow {
+ protected:
+  void SetUp() override {
+    CopiesWindow::SetUp();
+    desk->parish().Execute("UPDATE Libro_Bautismo SET Cerrado=true WHERE Nuevo=true");
+    window->showNode("LibrosBautismo");
+    ASSERT_TRUE(window->chooseRow(static_cast<std::int32_t>(
+        count("SELECT IDLibroBautismo FROM Libro_Bautismo WHERE Nuevo=false"))));
+  }
+  void acceptBook(bool withoutAnEntry) {
+    user.expectForm("frmPropiedadesLibroBautismo", [=](forms::FormDriver& d) {
+      if (withoutAnEntry) {
+        d.tab("mstLibro", 1);
+        d.row("msgPartidas", 1);
+        d.click("cmdPartidas(3)");
+      }
+      d.click("cmdBoton(0)");
+      if (!d.closed()) d.click("cmdBoton(1)");
+    });
+    window->action("propiedades-libro")->trigger();
+    EXPECT_THAT(user.problems(), IsEmpty());
+  }
+  std::int64_t entries() { return count("SELECT COUNT(*) FROM Bautismo"); }
+};
+
+TEST_F(CopiesBook, withoutSomeOfItsEntries_hasACopyWithThem) {
+  const std::int64_t all = entries();
+  for (const char* journal : {"WAL", "DELETE"}) {
+    SCOPED_TRACE(journal);
+    desk->parish().engine().run(std::string("PRAGMA journal_mode = ") + journal);
+    acceptBook(false);
+    EXPECT_THAT(copies.list(), IsEmpty()) << "nothing was taken away";
+    acceptBook(true);
+    ASSERT_EQ(copies.list().size(), 1U);
+    EXPECT_EQ(copies.list()[0].before, "Propiedades en Libros, Bautismo");
+    SafetyCopies::remove(copies.list()[0].file);
+  }
+  EXPECT_EQ(entries(), all - 2);
+}
+
+TEST_F(CopiesBook, withoutACopy_keepsItsEntriesUntilToldToGoOn) {
+  const std::int64_t all = entries();
+  std::ofstream(folder()) << "x";
+  user.answerAnything(forms::Answer::Yes);
+  answerNext({});
+  acceptBook(true);
+  EXPECT_EQ(entries(), all);
+  EXPECT_THAT(user.messages()[0].text, HasSubstr("No se ha eliminado nada"));
+  answerNext("C&ontinuar sin copia");
+  acceptBook(true);
+  EXPECT_EQ(entries(), all - 1);
+}
+
+// The copy is made while the command is in the middle of what it stores.
+TEST_F(CopiesWindow, membersTakenOutOfAGroup_areInTheCopy) {
+  for (const char* journal : {"WAL", "DELETE"}) {
+    SCOPED_TRACE(journal);
+    desk->parish().engine().run(std::string("PRAGMA journal_mode = ") + journal);
+    Insert("Padron_Actividad").number("CodPadron", 1).number("CodCargo", 1).into(desk->parish());
+    const std::int64_t members = count("SELECT COUNT(*) FROM Padron_Actividad");
+    const std::int64_t offices = this->offices();
+    store::RemovalWatch watch(desk->parish());
+    std::unique_ptr<Precaution> copy;
+    const store::RemovalWatch::Listener listener(watch, [&] {
+      if (!copy) copy = std::make_unique<Precaution>(copies, desk->parish(), "Propiedades", NOON);
+    });
+    desk->parish().BeginTrans();
+    addOffice("Sacristán");
+    EXPECT_EQ(copy, nullptr);
+    desk->parish().Execute("DELETE * FROM Padron_Actividad WHERE CodCargo>0");
+    desk->parish().CommitTrans();
+    copy.reset();
+    ASSERT_EQ(copies.list().size(), 1U);
+    const fs::path file = copies.list()[0].file;
+    EXPECT_EQ(officesIn(file), offices);
+    EXPECT_EQ(store::openDatabase(file, store::parishSchema())
+                  ->Execute("SELECT * FROM Padron_Actividad")
+                  .RecordCount(),
+              members);
+    EXPECT_EQ(count("SELECT COUNT(*) FROM Padron_Actividad"), 0);
+    SafetyCopies::remove(file);
+  }
 }
 
 }  // namespace

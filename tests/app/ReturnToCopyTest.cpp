@@ -215,11 +215,13 @@ TEST_F(ParishTest, returningToAnOlderCopy_bringsItUpToDate) {
   EXPECT_THROW(store::Restore(file, copy, old), store::Error) << "nor may it be newer";
 }
 
-/// Returns to the copy in another process, which dies after so many microseconds; 0: never.
+/// Returns to the copy in another process, which dies after so many microseconds; 0: after so long
+/// that it must have got stuck.
 int returnInChild(const fs::path& copy, const fs::path& parish, long microseconds) {
   const pid_t child = fork();
   if (child == 0) {
     signal(SIGALRM, SIG_DFL);
+    if (microseconds == 0) microseconds = 120'000'000;
     const itimerval after{{0, 0}, {microseconds / 1000000, microseconds % 1000000}};
     setitimer(ITIMER_REAL, &after, nullptr);
     try {
