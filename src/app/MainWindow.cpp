@@ -139,8 +139,7 @@ void MainWindow::run(const Command& command) {
     desk_.entorno().ui.msgBox(e.what(), forms::MsgButtons::Ok, forms::MsgIcon::Critical);
   }
   busy_ = false;
-  if (!command.refreshes) return;
-  if (node_ == chosen.node) refresh(command, chosen.id);
+  if (command.refreshes && node_ == chosen.node) refresh(command, chosen.id);
   activateWindow();
 }
 
