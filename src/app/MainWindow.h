@@ -67,7 +67,8 @@ class MainWindow : public QMainWindow, private Workplace {
   void backUp() override;
   void returnToCopy() override;
   void about() override;
-  void leave() override { close(); }
+  /// When the command that asked for it has ended: until then the window refuses to close.
+  void leave() override { QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection); }
 
   void buildTree();
   void buildList();

@@ -58,10 +58,13 @@ std::vector<locks::Holder> Presence::others(const locks::SharedDirectory::Guard&
 
 std::string spoken(const locks::Holder& holder) {
   const std::string who = holder.user.empty() ? "Alguien" : holder.user;
-  const std::size_t blank = holder.since.find(' ');
-  if (blank == std::string::npos) return who + ", en el equipo " + holder.host;
-  return who + ", en el equipo " + holder.host + ", desde las " + holder.since.substr(blank + 1) +
-         " del " + holder.since.substr(0, blank);
+  // "23/11/2026 a las 10:30"
+  const std::size_t day = holder.since.find(' ');
+  const std::size_t hour = holder.since.rfind(' ');
+  const std::string where = who + ", en el equipo " + holder.host;
+  if (day == std::string::npos) return where;
+  return where + ", desde las " + holder.since.substr(hour + 1) + " del " +
+         holder.since.substr(0, day);
 }
 
 }  // namespace fidaleon::app

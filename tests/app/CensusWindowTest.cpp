@@ -1,4 +1,5 @@
 #include <QAction>
+#include <QCoreApplication>
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QTableView>
@@ -43,6 +44,13 @@ class CensusWindow : public ParishTest {
 
   std::unique_ptr<MainWindow> window;
 };
+
+TEST_F(CensusWindow, leaving_closesTheWindowOnceTheCommandHasEnded) {
+  open("Padrón", Content::Empty);
+  give("salir");
+  QCoreApplication::processEvents();
+  EXPECT_FALSE(window->isVisible());
+}
 
 TEST_F(CensusWindow, newPerson_isChosenInTheListOnceAccepted) {
   open("Padrón");

@@ -94,6 +94,9 @@ TEST_F(Returning, whileSomebodyElseIsThere_isRefused) {
     EXPECT_THAT(told(), HasSubstr("Ana, en el equipo "));
     EXPECT_THAT(told(), HasSubstr("desde las 09:15 del 20/05/2026"));
   }
+  // Who has a dialog open, as its locks tell.
+  EXPECT_THAT(spoken({"Luis", "SACRISTIA", 1, "20/05/2026 a las 09:20"}),
+              HasSubstr("SACRISTIA, desde las 09:20 del 20/05/2026"));
   // Somebody who comes while the question stands.
   std::unique_ptr<Presence> colleague;
   QTimer::singleShot(0, [&] {
