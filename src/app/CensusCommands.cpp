@@ -31,6 +31,26 @@ void editCollaborator(Workplace& w, const Choice& c) {
   w.nucleo().EditaColaborador(w.parish(), c.id, w.config());
 }
 
+// What the operation does to everybody else cannot be guessed from its own question.
+bool agreesToEmptyOthers(Workplace& w, std::int32_t person) {
+  const bool collaborator = !w.parish()
+                                 .Execute(
+                                     "SELECT CodPadron FROM Padron_TipoPersona WHERE "
+                                     "CodTipoPersona=3 AND CodPadron=" +
+                                     std::to_string(person))
+                                 .EOF_();
+  return !collaborator ||
+         forms::ask(w.entorno().ui,
+                    "Esta persona es también colaboradora. Si la elimina del padrón se vaciarán la "
+                    "comunión, la confirmación, el matrimonio y la defunción de TODAS las "
+                    "personas.\n\nPara que nadie más pierda nada, elimínela primero en "
+                    "Colaboradores y después en Padrón.\n\n¿Desea seguir de todos modos?");
+}
+
+void deletePerson(Workplace& w, const Choice& c) {
+  if (agreesToEmptyOthers(w, c.id)) w.nucleo().EliminaEmpadronado(w.parish(), c.id, w.config());
+}
+
 void addPeopleCommands(std::vector<Command>& all) {
   all.push_back(adds(
       "nuevo-empadronado", "&Nuevo empadronado…", "Añade una persona al padrón", PEOPLE,
@@ -44,9 +64,7 @@ void addPeopleCommands(std::vector<Command>& all) {
            PEOPLE, Needs::Row, editCollaborator)));
   all.push_back(removes("eliminar-empadronado",
                         "Quita del padrón a la persona elegida, con todos sus datos", PEOPLE,
-                        [](Workplace& w, const Choice& c) {
-                          w.nucleo().EliminaEmpadronado(w.parish(), c.id, w.config());
-                        }));
+                        deletePerson));
 }
 
 void addCollaboratorCommands(std::vector<Command>& all) {

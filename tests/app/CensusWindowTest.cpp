@@ -121,6 +121,26 @@ TEST_F(CensusWindow, aCollaboratorDeleted_leavesTheListAndNotTheCensus) {
   EXPECT_TRUE(window->chooseRow(person));
 }
 
+TEST_F(CensusWindow, aCollaboratorTakenFromTheCensus_isAskedForWhatOthersLose) {
+  open("Padrón");
+  const auto communions = [this] {
+    return rowsOf("SELECT * FROM Padron_Comunion WHERE AñoComunion<>\"\"");
+  };
+  const auto before = communions();
+  ASSERT_GT(before, 0);
+  ASSERT_TRUE(window->chooseRow(someoneWith(1)));
+  user.answerAnything(forms::Answer::No);
+  give("eliminar-empadronado");
+  EXPECT_THAT(user.messages().back().text, ::testing::StartsWith("ADVERTENCIA"));
+  ASSERT_TRUE(window->chooseRow(someoneWith(2)));
+  give("eliminar-empadronado");
+  EXPECT_THAT(user.messages().back().text, ::testing::HasSubstr("TODAS"));
+  EXPECT_EQ(communions(), before);
+  user.answerAnything(forms::Answer::Yes);
+  give("eliminar-empadronado");
+  EXPECT_EQ(communions(), 0);
+}
+
 TEST_F(CensusWindow, deletionDeclined_leavesTheRowChosen) {
   open("Actividades");
   const Choice before = window->choice();
