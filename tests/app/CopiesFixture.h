@@ -19,7 +19,8 @@ namespace fidaleon::app {
 
 namespace fs = std::filesystem;
 
-inline constexpr Moment NOON{{2026, 5, 20}, 12, 0, 0};
+/// Long ago: what a test makes by the clock of the machine is newer.
+inline constexpr Moment NOON{{2020, 5, 20}, 12, 0, 0};
 
 inline std::vector<std::string> namesIn(const fs::path& directory) {
   std::vector<std::string> names;

@@ -22,8 +22,8 @@ using ::testing::IsEmpty;
 TEST(CopyName, saysWhenAndBeforeWhat_andSorts) {
   const CopyName first{NOON, 1, "Eliminar en Partidas, Bautismo"};
   const CopyName second{NOON, 2, "Anular"};
-  EXPECT_EQ(first.file(), "2026-05-20 12.00.00 Eliminar en Partidas, Bautismo.fidaleon");
-  EXPECT_EQ(second.file(), "2026-05-20 12.00.00-2 Anular.fidaleon");
+  EXPECT_EQ(first.file(), "2020-05-20 12.00.00 Eliminar en Partidas, Bautismo.fidaleon");
+  EXPECT_EQ(second.file(), "2020-05-20 12.00.00-2 Anular.fidaleon");
   EXPECT_LT(first.file(), second.file());
   for (const CopyName& name : {first, second}) {
     const auto read = CopyName::parse(name.file());
@@ -36,8 +36,8 @@ TEST(CopyName, saysWhenAndBeforeWhat_andSorts) {
 
 TEST(CopyName, holdsNothingThatAFileSystemRefuses) {
   EXPECT_EQ((CopyName{NOON, 1, " &Pasar a \"A/B\\C\": <¿qué?>|*\n… "}).file(),
-            "2026-05-20 12.00.00 Pasar a ABC ¿qué.fidaleon");
-  EXPECT_EQ((CopyName{NOON, 1, "..."}).file(), "2026-05-20 12.00.00 Orden.fidaleon");
+            "2020-05-20 12.00.00 Pasar a ABC ¿qué.fidaleon");
+  EXPECT_EQ((CopyName{NOON, 1, "..."}).file(), "2020-05-20 12.00.00 Orden.fidaleon");
   std::string longest;
   for (int i = 0; i < 100; ++i) longest += "𝓝";
   EXPECT_LT((CopyName{NOON, 12, longest}).file().size(), 235U);
@@ -45,11 +45,11 @@ TEST(CopyName, holdsNothingThatAFileSystemRefuses) {
 
 TEST(CopyName, otherFilesAreNone) {
   for (const char* name :
-       {"", "parroquia.fidaleon", "2026-05-20 12.00.00.fidaleon", "2026-05-20 12.00.00 X.copia",
+       {"", "parroquia.fidaleon", "2020-05-20 12.00.00.fidaleon", "2026-05-20 12.00.00 X.copia",
         "2026-02-30 12.00.00 X.fidaleon", "2026-05-20 25.00.00 X.fidaleon",
-        "2026-05-20 12:00:00 X.fidaleon", "2026-05-20 12.00.00-x Y.fidaleon",
-        "2026-05-20 12.00.00-1 Y.fidaleon", "2026-05-20 12.00.00 X.fidaleon.parte",
-        "mi 2026-05-20 12.00.00 X.fidaleon", "2026-05-20 12.00.00 .fidaleon"})
+        "2026-05-20 12:00:00 X.fidaleon", "2020-05-20 12.00.00-x Y.fidaleon",
+        "2020-05-20 12.00.00-1 Y.fidaleon", "2026-05-20 12.00.00 X.fidaleon.parte",
+        "mi 2020-05-20 12.00.00 X.fidaleon", "2026-05-20 12.00.00 .fidaleon"})
     EXPECT_FALSE(CopyName::parse(name)) << name;
 }
 
@@ -93,9 +93,9 @@ TEST_F(Copies, made_areWholeAndApart) {
   const fs::path first = make();
   addOffice("Organista");
   const fs::path second = make("Otra");
-  EXPECT_THAT(namesIn(folder()), ElementsAre("2026-05-20 12.00.00 Eliminar.fidaleon",
-                                             "2026-05-20 12.00.00-2 Otra.fidaleon"));
-  EXPECT_EQ(make().filename(), "2026-05-20 12.00.00-3 Eliminar.fidaleon");
+  EXPECT_THAT(namesIn(folder()), ElementsAre("2020-05-20 12.00.00 Eliminar.fidaleon",
+                                             "2020-05-20 12.00.00-2 Otra.fidaleon"));
+  EXPECT_EQ(make().filename(), "2020-05-20 12.00.00-3 Eliminar.fidaleon");
   EXPECT_EQ(officesIn(first), 1);
   EXPECT_EQ(officesIn(second), 2);
 }
@@ -185,11 +185,11 @@ TEST_F(Copies, ofADamagedParish_areRefused) {
 }
 
 TEST_F(Copies, listed_areTheWholeOnesNewestFirst) {
-  make("Una", {{2026, 5, 1}, 9, 0, 0});
-  make("Dos", {{2026, 5, 2}, 9, 0, 0});
-  make("Tres", {{2026, 5, 2}, 9, 0, 0});
-  place("2026-05-03 10.00.00 A medias.fidaleon", "");
-  place("2026-05-03 10.00.00 Otra.fidaleon.parte");
+  make("Una", {{2020, 5, 1}, 9, 0, 0});
+  make("Dos", {{2020, 5, 2}, 9, 0, 0});
+  make("Tres", {{2020, 5, 2}, 9, 0, 0});
+  place("2020-05-03 10.00.00 A medias.fidaleon", "");
+  place("2020-05-03 10.00.00 Otra.fidaleon.parte");
   place("notas.txt");
   place("a mano.copia");
   std::vector<std::string> before;
