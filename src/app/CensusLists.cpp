@@ -4,6 +4,7 @@ namespace fidaleon::app {
 
 void describePeople(NodeView& v) {
   v.key = "IDPadron";
+  v.thing = "persona";
   v.things = "personas";
   v.node.SQLSelect =
       "SELECT Padron.IDPadron, Padron.PrimerApellido, Padron.SegundoApellido, Padron.Nombre, "
@@ -28,6 +29,7 @@ void describePeople(NodeView& v) {
 
 void describeCollaborators(NodeView& v) {
   v.key = "IDPadron";
+  v.thing = "colaborador";
   v.things = "colaboradores";
   v.node.SQLSelect =
       "SELECT Padron.IDPadron, Padron.PrimerApellido, Padron.SegundoApellido, Padron.Nombre, "
@@ -50,6 +52,7 @@ void describeCollaborators(NodeView& v) {
 
 void describeActivities(NodeView& v) {
   v.key = "IDActividad";
+  v.thing = "actividad";
   v.things = "actividades";
   v.node.SQLSelect =
       "SELECT Actividad.IDActividad, Actividad.Nombre, Institucion.Nombre AS Institucion, (SELECT "
@@ -67,6 +70,7 @@ void describeActivities(NodeView& v) {
 
 void describeOffices(NodeView& v) {
   v.key = "IDCargo";
+  v.thing = "cargo";
   v.things = "cargos";
   v.node.SQLSelect = "SELECT IDCargo, Nombre, Descripcion FROM Cargo ORDER BY Nombre, IDCargo";
   v.columns = {{"Nombre", "Cargo", ColumnKind::Text, 30, {}},
@@ -75,6 +79,7 @@ void describeOffices(NodeView& v) {
 
 void describeTasks(NodeView& v) {
   v.key = "IDTarea";
+  v.thing = "tarea";
   v.things = "tareas";
   v.day = "Fecha";
   v.node.SQLSelect =

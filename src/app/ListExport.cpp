@@ -97,6 +97,15 @@ class TargetDialog : public QFileDialog {
     return {file, formatOf(file, wanted())};
   }
 
+ protected:
+  // "lista 3.5" has an ending already as far as the toolkit can tell.
+  void accept() override {
+    const QString file = selectedFiles().value(0);
+    const QString ending = endingOf(formatOf(file, wanted()));
+    if (!file.endsWith("." + ending, Qt::CaseInsensitive)) selectFile(file + "." + ending);
+    QFileDialog::accept();
+  }
+
  private:
   ListFormat wanted() const {
     return selectedNameFilter() == filterOf(ListFormat::Csv) ? ListFormat::Csv : ListFormat::Ods;

@@ -200,7 +200,8 @@ void MainWindow::updateCount() {
   const int shown = shown_.rowCount();
   const int all = rows_.rowCount();
   const QString things = QString::fromStdString(node_->things);
-  count_->setText(shown == all ? tr("%L1 %2").arg(all).arg(things)
+  count_->setText(shown == all ? tr("%L1 %2").arg(all).arg(
+                                     all == 1 ? QString::fromStdString(node_->thing) : things)
                                : tr("%L1 de %L2 %3").arg(shown).arg(all).arg(things));
   empty_->setText(
       all == 0 ? tr("Todavía no hay %1.\nPulse la tecla Insert para añadir.").arg(things)

@@ -44,6 +44,7 @@ void describeBooks(NodeView& v, const Sacramento& s) {
   const std::string table = s.tablaLibros;
   v.sacrament = &s;
   v.key = s.claveLibro;
+  v.thing = "libro";
   v.things = "libros";
   v.node.SQLSelect = "SELECT " + table + "." + v.key + ", " + table + ".Nombre, " +
                      "Institucion.Nombre AS Institucion, Libros_Formato.Descripcion, " + table +
@@ -62,6 +63,7 @@ void describeBooks(NodeView& v, const Sacramento& s) {
 void describeEntries(NodeView& v) {
   v.sacrament = &BAUTISMO;
   v.key = "IDBautismo";
+  v.thing = "partida";
   v.things = "partidas";
   v.annulled = "Anulada";
   v.group = "CodLibro";
@@ -90,6 +92,7 @@ void describeEntries(NodeView& v) {
 void describeRequests(NodeView& v) {
   v.sacrament = &BAUTISMO;
   v.key = "IDBautismo";
+  v.thing = "solicitud";
   v.things = "solicitudes";
   v.node.SQLSelect =
       "SELECT Bautismo.IDBautismo, Bautismo_Hijo.Nombre, Bautismo_Hijo.PrimerApellido, "
@@ -107,6 +110,7 @@ void describeRequests(NodeView& v) {
 
 void describeInstitutions(NodeView& v) {
   v.key = "IDInstitucion";
+  v.thing = "institución";
   v.things = "instituciones";
   v.node.SQLSelect =
       "SELECT IDInstitucion, Nombre, InstitucionNombre, Domicilio, CP, Telefono, Parroco, Diocesis "
@@ -122,6 +126,7 @@ void describeInstitutions(NodeView& v) {
 
 void describeProvinces(NodeView& v) {
   v.key = "IDProvincia";
+  v.thing = "provincia";
   v.things = "provincias";
   v.node.SQLSelect = "SELECT IDProvincia, Nombre, Codigo_Oficial FROM Provincia ORDER BY Nombre";
   v.columns = {{"Nombre", "Provincia", ColumnKind::Text, 30, {}},
@@ -130,6 +135,7 @@ void describeProvinces(NodeView& v) {
 
 void describeTowns(NodeView& v) {
   v.key = "IDMunicipio";
+  v.thing = "municipio";
   v.things = "municipios";
   v.node.SQLSelect =
       "SELECT Municipio.IDMunicipio, Municipio.Nombre, Provincia.Nombre AS Provincia FROM "

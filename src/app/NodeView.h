@@ -61,7 +61,8 @@ struct NodeView {
   std::string annulled;  // field of the mark of an annulled row; empty when there is none
   std::string group;     // field that puts rows together, such as their book; or empty
   std::string day;       // field by which the list opens at today; empty for its first row
-  std::string things;    // "partidas": what the rows are, for the status bar
+  std::string thing;     // "partida": what a row is, for the status bar
+  std::string things;    // "partidas"
 };
 
 /// The nodes that work, parents before their children. `Nombre` of a node is the name that the

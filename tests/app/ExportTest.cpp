@@ -272,6 +272,8 @@ TEST_F(SavedList, byTheWindow_isWrittenAndTheFolderRemembered) {
   EXPECT_TRUE(std::filesystem::exists(folder + "/otra.csv"));
   saveAs("hoja.ods");
   EXPECT_TRUE(std::filesystem::exists(folder + "/hoja.ods"));
+  saveAs("lista 3.5");
+  EXPECT_TRUE(std::filesystem::exists(folder + "/lista 3.5.ods"));
   EXPECT_THAT(user.problems(), IsEmpty());
 }
 
