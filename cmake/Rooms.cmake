@@ -36,6 +36,8 @@ function(fid_test folder)
   add_executable(test_${name} ${sources})
   target_include_directories(test_${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
   target_link_libraries(test_${name} PRIVATE ${T_DEPENDS} fid_options GTest::gmock GTest::gtest_main)
+  # Most of a first build goes into the tests; optimising them only makes it longer.
+  target_compile_options(test_${name} PRIVATE -O0)
   if(T_QT)
     set_target_properties(test_${name} PROPERTIES AUTOMOC ON)
   endif()
