@@ -495,6 +495,20 @@ TEST(BuscaCoincidencias, PersonBeingEdited_IsLeftOutAndNobodyTakesTheirPlace) {
   EXPECT_SCRIPT_DONE(w.user);
 }
 
+TEST(BuscaCoincidencias, NameOfOldDataWithAQuote_IsSearchedAsItIsStoredNow) {
+  BusquedaWorld w;
+  w.con().Execute("UPDATE Padron SET Nombre=\"Ana ''la Nena''\" WHERE IDPadron=" +
+                  std::to_string(w.ana));
+  FormNombres form(w.contexto, cCOrigen::PADRON);
+  form.poner("Ana \"la Nena\"", "Gómez", "Ruiz");
+  w.user.expectForm("frmPadronBusqueda", [](FormDriver& u) {
+    EXPECT_EQ(u.get<forms::Grid>("msgBusquedaPadron").rowCount(), 1);
+    u.click(CANCELAR_LISTA);
+  });
+  EXPECT_EQ(form.busca.alSalir(w.con(), 0, true), 0);
+  EXPECT_SCRIPT_DONE(w.user);
+}
+
 TEST(BuscaCoincidencias, StoreFailing_ThrowsAndDoesNotNagOnTheNextField) {
   BusquedaWorld w;
   FormNombres form(w.contexto, cCOrigen::PADRON);

@@ -11,13 +11,12 @@
 #include <vector>
 
 #include "store/Connection.h"
-#include "store/Engine.h"
-#include "store/Spelling.h"
+#include "store/ForwardingEngine.h"
 #include "text/Utf8.h"
 
 namespace fidaleon::store {
 
-class FailingEngine : public Engine {
+class FailingEngine : public ForwardingEngine {
  public:
   /// The engine belongs to the connection and lives as long.
   static FailingEngine* wrap(Connection& connection) {
@@ -30,7 +29,7 @@ class FailingEngine : public Engine {
     return wrapper;
   }
 
-  explicit FailingEngine(std::unique_ptr<Engine> inner) : inner_(std::move(inner)) {}
+  using ForwardingEngine::ForwardingEngine;
 
   /// The execution number `nth`, from 1, of a statement with this part fails, once.
   void failOn(const std::string& part, ErrorKind kind = ErrorKind::Other, int nth = 1) {
@@ -48,24 +47,20 @@ class FailingEngine : public Engine {
 
   std::unique_ptr<Statement> prepare(std::string_view sql, std::string_view source) override {
     const std::string shown = text::replaceAll(source, "\x01", "?");
-    return std::make_unique<FailingStatement>(*this, inner_->prepare(sql, source), shown);
+    return std::make_unique<FailingStatement>(*this, ForwardingEngine::prepare(sql, source), shown);
   }
-  void run(std::string_view sql) override { inner_->run(sql); }
   void begin(int depth) override {
     meet("BEGIN");
-    inner_->begin(depth);
+    ForwardingEngine::begin(depth);
   }
   void commit(int depth) override {
     meet("COMMIT");
-    inner_->commit(depth);
+    ForwardingEngine::commit(depth);
   }
   void rollback(int depth) override {
     meet("ROLLBACK");
-    inner_->rollback(depth);
+    ForwardingEngine::rollback(depth);
   }
-  bool inTransaction() const override { return inner_->inTransaction(); }
-  const Spelling& spelling() const override { return inner_->spelling(); }
-  void backup(const std::filesystem::path& to) override { inner_->backup(to); }
 
  private:
   struct Fault {
@@ -75,31 +70,23 @@ class FailingEngine : public Engine {
     bool always;
   };
 
-  class FailingStatement : public Statement {
+  class FailingStatement : public ForwardingStatement {
    public:
     FailingStatement(FailingEngine& engine, std::unique_ptr<Statement> inner, std::string source)
-        : engine_(engine), inner_(std::move(inner)), source_(std::move(source)) {}
+        : ForwardingStatement(std::move(inner)), engine_(engine), source_(std::move(source)) {}
 
-    int columnCount() const override { return inner_->columnCount(); }
-    std::string columnName(int position) const override { return inner_->columnName(position); }
-    std::string columnTable(int position) const override { return inner_->columnTable(position); }
-    void bind(int number, const Literal& value, Lifetime lifetime) override {
-      inner_->bind(number, value, lifetime);
-    }
     bool step() override {
       if (!begun_) engine_.meet(source_);
       begun_ = true;
-      return inner_->step();
+      return ForwardingStatement::step();
     }
-    void read(RowStore& rows) override { inner_->read(rows); }
     void reset() override {
       begun_ = false;
-      inner_->reset();
+      ForwardingStatement::reset();
     }
 
    private:
     FailingEngine& engine_;
-    std::unique_ptr<Statement> inner_;
     std::string source_;
     bool begun_ = false;
   };
@@ -115,7 +102,6 @@ class FailingEngine : public Engine {
     }
   }
 
-  std::unique_ptr<Engine> inner_;
   std::vector<Fault> faults_;
   std::vector<std::string> executed_;
 };

@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
-#include "store/Engine.h"
 #include "store/Error.h"
 #include "store/FailingEngine.h"
+#include "store/ForwardingEngine.h"
 #include "store/Open.h"
 
 namespace fidaleon::store {
@@ -106,39 +106,24 @@ TEST_F(Recordsets, sameStatementTwice_keepsEachItsOwnPlace) {
 }
 
 /// Counts the rows that are stepped over.
-class CountingEngine : public Engine {
+class CountingEngine : public ForwardingEngine {
  public:
   CountingEngine(std::unique_ptr<Engine> inner, int& rows)
-      : inner_(std::move(inner)), rows_(rows) {}
+      : ForwardingEngine(std::move(inner)), rows_(rows) {}
 
   std::unique_ptr<Statement> prepare(std::string_view sql, std::string_view source) override {
-    struct Counted : Statement {
-      Counted(std::unique_ptr<Statement> s, int& n) : inner(std::move(s)), rows(n) {}
-      int columnCount() const override { return inner->columnCount(); }
-      std::string columnName(int i) const override { return inner->columnName(i); }
-      std::string columnTable(int i) const override { return inner->columnTable(i); }
-      void bind(int i, const Literal& v, Lifetime l) override { inner->bind(i, v, l); }
-      bool step() override { return inner->step(); }
+    struct Counted : ForwardingStatement {
+      Counted(std::unique_ptr<Statement> s, int& n) : ForwardingStatement(std::move(s)), rows(n) {}
       void read(RowStore& store) override {
         ++rows;
-        inner->read(store);
+        ForwardingStatement::read(store);
       }
-      void reset() override { inner->reset(); }
-      std::unique_ptr<Statement> inner;
       int& rows;
     };
-    return std::make_unique<Counted>(inner_->prepare(sql, source), rows_);
+    return std::make_unique<Counted>(ForwardingEngine::prepare(sql, source), rows_);
   }
-  void run(std::string_view sql) override { inner_->run(sql); }
-  void begin(int depth) override { inner_->begin(depth); }
-  void commit(int depth) override { inner_->commit(depth); }
-  void rollback(int depth) override { inner_->rollback(depth); }
-  bool inTransaction() const override { return inner_->inTransaction(); }
-  const Spelling& spelling() const override { return inner_->spelling(); }
-  void backup(const std::filesystem::path& to) override { inner_->backup(to); }
 
  private:
-  std::unique_ptr<Engine> inner_;
   int& rows_;
 };
 

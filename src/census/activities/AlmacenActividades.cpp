@@ -3,7 +3,7 @@
 #include <set>
 #include <stdexcept>
 
-#include "census/activities/Sentencias.h"
+#include "core/contract/Citas.h"
 #include "store/Transaction.h"
 
 namespace fidaleon {

@@ -4,7 +4,7 @@
 
 #include <stdexcept>
 
-#include "census/activities/Sentencias.h"
+#include "core/contract/Citas.h"
 #include "core/lists/Rejilla.h"
 #include "core/lists/cIListas.h"
 

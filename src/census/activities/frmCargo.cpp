@@ -4,7 +4,7 @@
 #include <stdexcept>
 
 #include "census/Operaciones.h"
-#include "census/activities/Sentencias.h"
+#include "core/contract/Citas.h"
 #include "core/contract/Guard.h"
 
 namespace fidaleon {

@@ -11,10 +11,6 @@ using FDAPI::cCOperacion;
 
 namespace {
 
-std::string existe(std::int32_t id) {
-  return "SELECT IdPadron FROM Padron WHERE IdPadron=" + std::to_string(id);
-}
-
 std::string borrar(const char* tabla, std::int32_t id) {
   return std::string("DELETE * FROM ") + tabla + " WHERE CodPadron=" + std::to_string(id);
 }
@@ -73,7 +69,7 @@ void NuevoEmpadronado(Contexto& contexto, FDAPI::Conexion& conexion) {
 
 void EditaEmpadronado(Contexto& contexto, FDAPI::Conexion& conexion, std::int32_t id) {
   SesionBloqueos sesion(contexto, conexion);
-  sesion.registro("Padron", id, existe(id));
+  sesion.registroPorClave("Padron", "IdPadron", id);
   sesion.tablasCompartidas({"Institucion", "Provincia", "Municipio"});
   const SesionBloqueos::Apertura apertura = sesion.efectuarParaFicha();
   if (apertura == SesionBloqueos::Apertura::NINGUNA) return;
@@ -89,7 +85,7 @@ void EditaEmpadronado(Contexto& contexto, FDAPI::Conexion& conexion, std::int32_
 void EliminaEmpadronado(Contexto& contexto, FDAPI::Conexion& conexion, std::int32_t id) {
   if (!preguntarEliminacion(contexto, "un", "Empadronado")) return;
   SesionBloqueos sesion(contexto, conexion);
-  sesion.registro("Padron", id, existe(id));
+  sesion.registroPorClave("Padron", "IdPadron", id);
   if (!sesion.efectuar()) return;
   const bool otrosTipos =
       conexion.Execute("SELECT * FROM Padron_TipoPersona WHERE CodPadron=" + std::to_string(id))

@@ -1,7 +1,7 @@
 #include "census/search/frmPadronImportar.h"
 
 #include "census/search/frmPadronBusqueda.h"
-#include "core/contract/EnSacramento.h"
+#include "core/contract/Citas.h"
 #include "core/contract/Guard.h"
 #include "text/Utf8.h"
 
@@ -70,7 +70,7 @@ void frmPadronImportar::buscar() {
 std::string frmPadronImportar::condiciones() const {
   std::string clausulas;
   const auto agregar = [&](const char* columna, const std::string& valor) {
-    clausulas += columna + entreComillas(valor) + Y;
+    clausulas += columna + citar(valor) + Y;
   };
   if (!txtNombre.text().empty()) agregar("Nombre=", txtNombre.text());
   if (!txtPrimerApellido.text().empty()) agregar(" PrimerApellido=", txtPrimerApellido.text());

@@ -8,7 +8,7 @@
 #include <string_view>
 #include <variant>
 
-#include "core/contract/EnSacramento.h"
+#include "core/contract/Citas.h"
 #include "core/contract/FDAPI.h"
 #include "text/Numbers.h"
 #include "text/Utf8.h"
@@ -56,10 +56,6 @@ inline std::string texto(std::uint8_t v) {
 inline std::string texto(bool v) {
   return v ? "True" : "False";
 }
-/// A double quote that slipped in becomes two apostrophes: quoted texts are not escaped.
-inline std::string citado(const std::string& v) {
-  return entreComillas(text::replaceAll(v, "\"", "''"));
-}
 inline std::string citadoSimple(const std::string& v) {
   return "'" + text::replaceAll(v, "'", "''") + "'";
 }
@@ -91,8 +87,7 @@ std::string valorSQL(const Registro& r, const Columna<Registro>& c) {
       [&](auto miembro) {
         if (c.cita == Cita::Numero) return columnas_detalle::numero(r.*miembro);
         const std::string valor = columnas_detalle::texto(r.*miembro);
-        return c.cita == Cita::Texto ? columnas_detalle::citado(valor)
-                                     : columnas_detalle::citadoSimple(valor);
+        return c.cita == Cita::Texto ? citar(valor) : columnas_detalle::citadoSimple(valor);
       },
       c.miembro);
 }

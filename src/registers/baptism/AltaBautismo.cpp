@@ -43,8 +43,7 @@ class TransaccionSinVuelta {
 };
 
 std::int32_t claveNueva(Conexion& conexion, const std::string& sql, const std::string& texto) {
-  return static_cast<std::int32_t>(
-      conexion.Execute(sql + columnas_detalle::citado(texto)).integer("ID"));
+  return static_cast<std::int32_t>(conexion.Execute(sql + citar(texto)).integer("ID"));
 }
 
 }  // namespace

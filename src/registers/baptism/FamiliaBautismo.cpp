@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
-#include "core/contract/EnSacramento.h"
+#include "core/contract/Citas.h"
 #include "registers/baptism/frmPartidaBautismo.h"
 #include "registers/lookup/frmBuscaPadres.h"
 #include "text/Utf8.h"
@@ -26,9 +26,7 @@ void frmPartidaBautismo::BuscarPadres() {
   if (par.first.empty() || !apellidosBuscados_.insert(par).second) return;
   frmBuscaPadres busqueda(contexto_);
   procedimiento("BuscarPadres", [&] {
-    const auto entre = [this](Texto campo) {
-      return entreComillas(text::replaceAll(text::trim(txtBautismo[campo].text()), "\"", "''"));
-    };
+    const auto entre = [this](Texto campo) { return citar(text::trim(txtBautismo[campo].text())); };
     store::Recordset filas = conBaseDatos->Execute(
         "SELECT DISTINCT IDBautismo, PrimerApellido, SegundoApellido, CodPadres, CodMadres, "
         "CodMatrimonio FROM Bautismo, Bautismo_Hijo WHERE PrimerApellido = " +

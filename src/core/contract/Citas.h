@@ -8,8 +8,8 @@
 
 namespace fidaleon {
 
-/// A text as it stands in a statement. A double quote that came with old data becomes two
-/// apostrophes: quoted texts are not escaped.
+/// A text as it stands in a statement, between double quotes. A double quote that came with old
+/// data becomes two apostrophes: quoted texts are not escaped.
 inline std::string citar(std::string_view texto) {
   return entreComillas(text::replaceAll(texto, "\"", "''"));
 }

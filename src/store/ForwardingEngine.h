@@ -1,0 +1,51 @@
+#pragma once
+// For engines that stand before another one and change some of what it does.
+
+#include <memory>
+#include <string>
+#include <utility>
+
+#include "store/Engine.h"
+
+namespace fidaleon::store {
+
+/// Hands everything on to the statement behind it.
+class ForwardingStatement : public Statement {
+ public:
+  explicit ForwardingStatement(std::unique_ptr<Statement> inner) : inner_(std::move(inner)) {}
+
+  int columnCount() const override { return inner_->columnCount(); }
+  std::string columnName(int position) const override { return inner_->columnName(position); }
+  std::string columnTable(int position) const override { return inner_->columnTable(position); }
+  void bind(int number, const Literal& value, Lifetime lifetime) override {
+    inner_->bind(number, value, lifetime);
+  }
+  bool step() override { return inner_->step(); }
+  void read(RowStore& rows) override { inner_->read(rows); }
+  void reset() override { inner_->reset(); }
+
+ private:
+  std::unique_ptr<Statement> inner_;
+};
+
+/// Hands everything on to the engine behind it.
+class ForwardingEngine : public Engine {
+ public:
+  explicit ForwardingEngine(std::unique_ptr<Engine> inner) : inner_(std::move(inner)) {}
+
+  std::unique_ptr<Statement> prepare(std::string_view sql, std::string_view source) override {
+    return inner_->prepare(sql, source);
+  }
+  void run(std::string_view sql) override { inner_->run(sql); }
+  void begin(int depth) override { inner_->begin(depth); }
+  void commit(int depth) override { inner_->commit(depth); }
+  void rollback(int depth) override { inner_->rollback(depth); }
+  bool inTransaction() const override { return inner_->inTransaction(); }
+  const Spelling& spelling() const override { return inner_->spelling(); }
+  void backup(const std::filesystem::path& to) override { inner_->backup(to); }
+
+ private:
+  std::unique_ptr<Engine> inner_;
+};
+
+}  // namespace fidaleon::store
