@@ -5,8 +5,8 @@
 
 #include "core/contract/Guard.h"
 #include "core/contract/Sacramento.h"
-#include "core/facade/DialogoPartida.h"
 #include "core/contract/SesionBloqueos.h"
+#include "core/facade/DialogoPartida.h"
 
 namespace fidaleon {
 

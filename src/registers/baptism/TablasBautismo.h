@@ -1,7 +1,7 @@
 #pragma once
 
-#include "registers/baptism/cBautismo.h"
 #include "core/contract/Columnas.h"
+#include "registers/baptism/cBautismo.h"
 
 namespace fidaleon {
 
