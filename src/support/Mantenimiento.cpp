@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "core/contract/Guard.h"
+#include "core/contract/SesionBloqueos.h"
 #include "support/Catalogos.h"
 #include "support/frmInstitucion.h"
 #include "support/frmMunicipio.h"
@@ -28,28 +29,6 @@ struct Descripcion {
   Eliminar eliminar;
 };
 
-FDAPI::DefinicionBloqueo wholeTable(const char* table) {
-  FDAPI::DefinicionBloqueo lock;
-  lock.strTabla = table;
-  return lock;
-}
-
-FDAPI::DefinicionBloqueo sharedTable(const char* table) {
-  FDAPI::DefinicionBloqueo lock = wholeTable(table);
-  lock.blnBloqueoParcialTabla = true;
-  return lock;
-}
-
-FDAPI::DefinicionBloqueo row(const Descripcion& of, std::int32_t id, FDAPI::Conexion& connection) {
-  FDAPI::DefinicionBloqueo lock = wholeTable(of.tabla);
-  lock.strRegistro = std::to_string(id);
-  lock.conBd = &connection;
-  lock.blnComprobarExisteRegistro = true;
-  lock.strSQLExisteRegistro =
-      std::string("SELECT ") + of.clave + " FROM " + of.tabla + " WHERE " + of.clave + "=";
-  return lock;
-}
-
 template <class Dialog>
 bool show(Contexto& contexto, FDAPI::Conexion& connection, std::int32_t id) {
   Entorno& e = contexto.entorno;
@@ -72,43 +51,40 @@ const Descripcion& descripcionDe(Catalogo catalogo) {
 
 }  // namespace
 
+template <class Trabajo>
+bool Mantenimiento::trabajar(const char* procedimiento, Catalogo catalogo, const Trabajo& trabajo) {
+  bool cambiado = false;
+  guarded(contexto_, "Mantenimiento", procedimiento, [&] {
+    SesionBloqueos bloqueos(contexto_, conexion_);
+    cambiado = trabajo(bloqueos, descripcionDe(catalogo));
+  });
+  return cambiado;
+}
+
 Mantenimiento::Mantenimiento(Contexto& contexto, FDAPI::Conexion& conexion)
     : contexto_(contexto), conexion_(conexion) {}
 
 bool Mantenimiento::agregar(Catalogo catalogo) {
-  bool changed = false;
-  const Descripcion& d = descripcionDe(catalogo);
-  guarded(contexto_, "Mantenimiento", "agregar", [&] {
-    const auto session = abrirSesion(contexto_, conexion_);
-    for (const char* table : d.alAgregar) session->DefinirBloqueo(sharedTable(table));
-    changed = session->lngEfectuarBloqueos() == 0 && d.abrir(contexto_, conexion_, 0);
+  return trabajar("agregar", catalogo, [&](SesionBloqueos& bloqueos, const Descripcion& d) {
+    for (const char* tabla : d.alAgregar) bloqueos.tablasCompartidas({tabla});
+    return bloqueos.efectuar() && d.abrir(contexto_, conexion_, 0);
   });
-  return changed;
 }
 
 bool Mantenimiento::propiedades(Catalogo catalogo, std::int32_t id) {
-  bool changed = false;
-  const Descripcion& d = descripcionDe(catalogo);
-  guarded(contexto_, "Mantenimiento", "propiedades", [&] {
-    const auto session = abrirSesion(contexto_, conexion_);
-    for (const char* table : d.alCorregir) session->DefinirBloqueo(sharedTable(table));
-    session->DefinirBloqueo(row(d, id, conexion_));
-    changed = session->lngEfectuarBloqueos() == 0 && d.abrir(contexto_, conexion_, id);
+  return trabajar("propiedades", catalogo, [&](SesionBloqueos& bloqueos, const Descripcion& d) {
+    for (const char* tabla : d.alCorregir) bloqueos.tablasCompartidas({tabla});
+    bloqueos.registroPorClave(d.tabla, d.clave, id);
+    return bloqueos.efectuar() && d.abrir(contexto_, conexion_, id);
   });
-  return changed;
 }
 
 bool Mantenimiento::eliminar(Catalogo catalogo, std::int32_t id) {
-  bool gone = false;
-  const Descripcion& d = descripcionDe(catalogo);
-  guarded(contexto_, "Mantenimiento", "eliminar", [&] {
-    const auto session = abrirSesion(contexto_, conexion_);
-    session->DefinirBloqueo(row(d, id, conexion_));
-    session->DefinirBloqueo(wholeTable(d.tabla));
-    gone = session->lngEfectuarBloqueos() == 0 &&
-           d.eliminar(*contexto_.fidaleon(), contexto_.ui(), conexion_, id);
+  return trabajar("eliminar", catalogo, [&](SesionBloqueos& bloqueos, const Descripcion& d) {
+    bloqueos.registroPorClave(d.tabla, d.clave, id);
+    bloqueos.tabla(d.tabla);
+    return bloqueos.efectuar() && d.eliminar(*contexto_.fidaleon(), contexto_.ui(), conexion_, id);
   });
-  return gone;
 }
 
 }  // namespace fidaleon::support

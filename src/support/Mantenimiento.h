@@ -21,6 +21,9 @@ class Mantenimiento {
   bool eliminar(Catalogo catalogo, std::int32_t id);
 
  private:
+  template <class Trabajo>
+  bool trabajar(const char* procedimiento, Catalogo catalogo, const Trabajo& trabajo);
+
   Contexto& contexto_;
   FDAPI::Conexion& conexion_;
 };

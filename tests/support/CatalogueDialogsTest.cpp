@@ -1,11 +1,13 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "store/schema/Schema.h"
 #include "support/Catalogos.h"
 #include "support/TestWorld.h"
 #include "support/frmInstitucion.h"
 #include "support/frmMunicipio.h"
 #include "support/frmProvincia.h"
+#include "text/Utf8.h"
 
 namespace fidaleon::support {
 namespace {
@@ -210,35 +212,71 @@ TEST_F(Catalogues, InstitutionThatCannotBeStored_IsToldAndNothingIsLost) {
   EXPECT_EQ(w.count("Institucion"), 0);
 }
 
-TEST_F(Catalogues, UsedRows_AreNotDeletedAndFreeOnesAfterAQuestion) {
-  const auto fidaleon = w.contexto.fidaleon();
-  const auto town = w.municipio("Getafe", "Provincia de prueba");
-  const auto province = w.provincia("Provincia de prueba");
-  const auto id = w.institucion("San Pedro", town);
-  w.con().Execute(
-      "INSERT INTO Libro_Bautismo (CodInstitucion, CodFormato, CodTipoNombre, Nombre) VALUES (" +
-      std::to_string(id) + ", 3, 4, \"Uno\")");
-  w.user.expectMessage(
-      "¡Esta institución no se puede eliminar, tiene libros u otros datos asociados!");
-  EXPECT_FALSE(eliminarInstitucion(*fidaleon, w.user, w.con(), id));
-  w.user.expectMessage("¡Esta provincia no se puede eliminar, tiene municipios asociados!");
-  EXPECT_FALSE(eliminarProvincia(*fidaleon, w.user, w.con(), province));
-  w.user.expectMessage(
-      "¡Este municipio no se puede eliminar, se usa en partidas o en otros datos!");
-  EXPECT_FALSE(eliminarMunicipio(*fidaleon, w.user, w.con(), town));
+struct CatalogueRow {
+  const char* table;
+  const char* named;  // what a column that refers to it has in its name, whoever adds one
+  const char* used;
+  const char* question;
+  bool (*eliminar)(FDAPI::cFidaleon&, forms::UserInterface&, FDAPI::Conexion&, std::int32_t);
+};
 
-  w.con().Execute("DELETE * FROM Libro_Bautismo");
-  w.user.expectMessage("¿Seguro que quiere eliminar la institución?", forms::Answer::No);
-  EXPECT_FALSE(eliminarInstitucion(*fidaleon, w.user, w.con(), id));
-  w.user.expectMessage("¿Seguro que quiere eliminar la institución?", forms::Answer::Yes);
-  EXPECT_TRUE(eliminarInstitucion(*fidaleon, w.user, w.con(), id));
-  EXPECT_EQ(w.count("Institucion") + w.count("Ultimos"), 0);
-  w.user.expectMessage("¿Seguro que quiere eliminar el municipio?", forms::Answer::Yes);
-  EXPECT_TRUE(eliminarMunicipio(*fidaleon, w.user, w.con(), town));
-  w.user.expectMessage("¿Seguro que quiere eliminar la provincia?", forms::Answer::Yes);
-  EXPECT_TRUE(eliminarProvincia(*fidaleon, w.user, w.con(), province));
-  EXPECT_EQ(w.count("Provincia"), 52);
+class CatalogueInUse : public ::testing::TestWithParam<CatalogueRow> {
+ protected:
+  void TearDown() override { EXPECT_SCRIPT_DONE(w.user); }
+  bool eliminar() { return GetParam().eliminar(*w.contexto.fidaleon(), w.user, w.con(), id); }
+  tests::TestWorld w;
+  const std::int32_t town = w.municipio("Getafe", "Provincia de prueba");
+  const std::int32_t id =
+      std::string(GetParam().table) == "Institucion" ? w.institucion("San Pedro")
+      : std::string(GetParam().table) == "Municipio" ? town
+                                                     : w.provincia("Provincia de prueba");
+};
+
+TEST_P(CatalogueInUse, EveryColumnThatCanHoldItsKey_KeepsTheRowAndItsPartsGoWithIt) {
+  const CatalogueRow& catalogue = GetParam();
+  w.con().Execute("DELETE * FROM Municipio WHERE IDMunicipio<>" + std::to_string(id));
+  int uses = 0;
+  for (const store::Table& table : w.con().schema().tables())
+    for (const store::Column& column : table.columns()) {
+      if (table.name() == catalogue.table ||
+          text::lower(column.name).find(catalogue.named) == std::string::npos)
+        continue;
+      SCOPED_TRACE(table.name() + "." + column.name);
+      if (column.belongs) continue;
+      ++uses;
+      w.con().Execute("INSERT INTO " + table.name() + " ([" + column.name + "]) VALUES (" +
+                      (store::isText(column.type) ? "\"" + std::to_string(id) + "\")"
+                                                  : std::to_string(id) + ")"));
+      w.user.expectMessage(catalogue.used);
+      EXPECT_FALSE(eliminar());
+      w.con().Execute(
+          "DELETE * FROM " + table.name() + " WHERE [" + column.name + "]=" +
+          (store::isText(column.type) ? "\"" + std::to_string(id) + "\"" : std::to_string(id)));
+    }
+  EXPECT_GT(uses, 0);
+  const auto before = w.count(catalogue.table);
+  w.user.expectMessage(catalogue.question, forms::Answer::No);
+  EXPECT_FALSE(eliminar());
+  w.user.expectMessage(catalogue.question, forms::Answer::Yes);
+  EXPECT_TRUE(eliminar());
+  EXPECT_EQ(w.count(catalogue.table), before - 1);
+  EXPECT_EQ(w.count("Ultimos"), 0);
 }
+
+INSTANTIATE_TEST_SUITE_P(
+    All, CatalogueInUse,
+    ::testing::Values(
+        CatalogueRow{"Institucion", "institucion",
+                     "¡Esta institución no se puede eliminar, tiene libros u otros datos "
+                     "asociados!",
+                     "¿Seguro que quiere eliminar la institución?", eliminarInstitucion},
+        CatalogueRow{"Provincia", "codprovincia",
+                     "¡Esta provincia no se puede eliminar, tiene municipios asociados!",
+                     "¿Seguro que quiere eliminar la provincia?", eliminarProvincia},
+        CatalogueRow{"Municipio", "municipio",
+                     "¡Este municipio no se puede eliminar, se usa en partidas o en otros datos!",
+                     "¿Seguro que quiere eliminar el municipio?", eliminarMunicipio}),
+    [](const auto& row) { return std::string(row.param.table); });
 
 TEST_F(Catalogues, PastedTextOfAnyKind_IsStoredWithoutHarm) {
   w.user.expectForm("frmMunicipio", [](FormDriver& u) {

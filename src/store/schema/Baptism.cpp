@@ -9,13 +9,17 @@ namespace {
 Table entry() {
   Table table("Bautismo");
   table.counter("IDBautismo")
-      .longs({"CodPadres", "CodMadres", "CodMatrimonio", "InstitucionSolicitud"})
+      .refers("Bautismo_Padres", {"CodPadres"})
+      .refers("Bautismo_Madres", {"CodMadres"})
+      .refers("Bautismo_Matrimonio", {"CodMatrimonio"})
+      .refers("Institucion", {"InstitucionSolicitud"})
       .add(Type::Text, {"FechaBautismo"}, 10)
       .texts({"Padrino", "Madrina", "Ministro", "Parroquia"})
-      .longs({"CodMunicipio"})
+      .refers("Municipio", {"CodMunicipio"})
       .texts({"Diocesis"})
       .memos({"NotasMarginales", "Observaciones"})
-      .longs({"CodLibro", "Folio"})
+      .refers("Libro_Bautismo", {"CodLibro"})
+      .longs({"Folio"})
       .texts({"Numero"})
       .yesNos({"Anulada"})
       .texts({"EdadPadrino", "EdadMadrina", "ParroquiaDomicilioPadrino",
@@ -31,11 +35,11 @@ Table entry() {
 
 Table child() {
   Table table("Bautismo_Hijo");
-  table.longs({"CodBautismo"})
+  table.belongsTo("Bautismo", "CodBautismo")
       .texts({"Nombre", "PrimerApellido", "SegundoApellido", "Sexo"})
       .add(Type::Text, {"FechaNac", "HoraNac"}, 10)
       .texts({"DireccionNac"})
-      .longs({"CodMunicipioNac"})
+      .refers("Municipio", {"CodMunicipioNac"})
       .key({"CodBautismo"}, false)
       .index({"PrimerApellido", "SegundoApellido", "Nombre"});
   return table;
@@ -46,14 +50,14 @@ Table parent(const std::string& side, const std::string& line) {
   Table table("Bautismo_" + side + "s");
   table.counter("ID" + side + "s")
       .texts({"Nombre", "PrimerApellido", "SegundoApellido"})
-      .longs({"CodMunicipio"})
+      .refers("Municipio", {"CodMunicipio"})
       .texts({"Abuelo"})
-      .longs({"CodMunicipioAbuelo"})
+      .refers("Municipio", {"CodMunicipioAbuelo"})
       .texts({"Abuela"})
-      .longs({"CodMunicipioAbuela"});
+      .refers("Municipio", {"CodMunicipioAbuela"});
   const auto baptised = [&](const std::string& who) {
     table.texts({(who + "ParroquiaBaut").c_str()});
-    table.longs({(who + "CodMunicipioParrBaut").c_str()});
+    table.refers("Municipio", {(who + "CodMunicipioParrBaut").c_str()});
   };
   baptised(side);
   table.texts({(side + "Profesion").c_str()});
@@ -75,9 +79,9 @@ void addBaptism(std::vector<Table>& tables) {
                        .counter("IDMatrimonio")
                        .texts({"Parroquia"})
                        .add(Type::Text, {"FechaMatr"}, 10)
-                       .longs({"CodMunicipioMatr"})
+                       .refers("Municipio", {"CodMunicipioMatr"})
                        .texts({"DireccionPadres"})
-                       .longs({"CodMunicipioPadres"})
+                       .refers("Municipio", {"CodMunicipioPadres"})
                        .texts({"DiocesisMatrimonio", "TelefonoPadres"})
                        .index({"FechaMatr"}));
 }

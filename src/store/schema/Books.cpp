@@ -9,8 +9,9 @@ namespace {
 Table book(const std::string& sacrament) {
   Table table("Libro_" + sacrament);
   table.counter("IDLibro" + sacrament)
-      .longs({"CodInstitucion", "CodFormato"})
-      .add(Type::Integer, {"CodTipoNombre"})
+      .refers("Institucion", {"CodInstitucion"})
+      .refers("Libros_Formato", {"CodFormato"})
+      .refers("Libros_TipoNombre", {"CodTipoNombre"}, Type::Integer)
       .texts({"Nombre"})
       .add(Type::Text, {"FechaCreacion"}, 10)
       .yesNos({"Nuevo", "Cerrado"})

@@ -54,7 +54,7 @@ Table institutions() {
               "ResponsableTelefono", "ResponsableCargo", "ResponsableNIF", "Parroco",
               "EncargadoArchivo", "Nombre", "InstitucionNombre", "InstitucionTipo", "Domicilio",
               "CIF"})
-      .longs({"CodMunicipio"})
+      .refers("Municipio", {"CodMunicipio"})
       .texts({"CP", "Telefono"})
       .longs({"DiaCobro"})
       .texts(
@@ -72,16 +72,18 @@ void addCatalogues(std::vector<Table>& tables) {
   tables.push_back(institutions());
   tables.push_back(Table("Institucion_Encargado")
                        .counter("IDEncargado")
-                       .longs({"CodInstitucion"})
+                       .belongsTo("Institucion", "CodInstitucion")
                        .texts({"Nombre"})
                        .index({"CodInstitucion"}));
-  tables.push_back(
-      Table("Ultimos").longs({"IDInstitucion"}).texts({"Encargado"}).key({"IDInstitucion"}, false));
+  tables.push_back(Table("Ultimos")
+                       .belongsTo("Institucion", "IDInstitucion")
+                       .texts({"Encargado"})
+                       .key({"IDInstitucion"}, false));
   tables.push_back(provinces());
   tables.push_back(Table("Municipio")
                        .counter("IDMunicipio")
                        .texts({"Nombre"})
-                       .longs({"CodProvincia"})
+                       .refers("Provincia", {"CodProvincia"})
                        .index({"CodProvincia", "Nombre"})
                        .index({"Nombre"}));
 }

@@ -10,17 +10,17 @@ void addPersons(std::vector<Table>& tables) {
   tables.push_back(Table("Padron")
                        .counter("IDPadron")
                        .texts({"Nombre", "PrimerApellido", "SegundoApellido", "DNI", "Direccion"})
-                       .longs({"CodMunicipio"})
+                       .refers("Municipio", {"CodMunicipio"})
                        .texts({"CPostal", "Telefono", "Telefono2", "CorreoElectronico",
                                "EstadoCivil", "Sexo", "Profesion/Colegio", "PosicionFamiliar"})
                        .memos({"Comentarios", "Observaciones"})
-                       .longs({"CodInstitucionEmpadronado"})
+                       .refers("Institucion", {"CodInstitucionEmpadronado"})
                        .texts({"Nif_Responsable", "Cumpleaños", "AñoNacimiento"})
                        .index({"PrimerApellido", "SegundoApellido", "Nombre"})
                        .index({"DNI"}));
   tables.push_back(Table("Padron_NotasPersonales")
                        .counter("IDNota")
-                       .longs({"CodPadron"})
+                       .belongsTo("Padron", "CodPadron")
                        .texts({"Nombre"})
                        .memos({"Descripcion"})
                        .index({"CodPadron"}));
@@ -30,31 +30,32 @@ void addPersons(std::vector<Table>& tables) {
   kinds.row({Value(std::int64_t{3}), Value(std::string("Colaborador"))});
   tables.push_back(kinds);
   tables.push_back(Table("Padron_TipoPersona")
-                       .longs({"CodPadron", "CodTipoPersona"})
+                       .belongsTo("Padron", "CodPadron")
+                       .refers("Tipo_Persona", {"CodTipoPersona"})
                        .key({"CodPadron", "CodTipoPersona"}, false));
 }
 
 void addSacraments(std::vector<Table>& tables) {
   const auto satellite = [&](const char* name) -> Table& {
-    tables.push_back(Table(name).longs({"CodPadron"}).key({"CodPadron"}, false));
+    tables.push_back(Table(name).belongsTo("Padron", "CodPadron").key({"CodPadron"}, false));
     return tables.back();
   };
   satellite("Padron_Nacimiento")
       .add(Type::Text, {"FechaNacimiento"}, 10)
-      .longs({"CodMunicipioNac"})
+      .refers("Municipio", {"CodMunicipioNac"})
       .texts({"NombrePadre", "NombreMadre"});
   satellite("Padron_Bautismo")
       .add(Type::Text, {"FechaBautizo"}, 10)
-      .longs({"CodMunicipioParrBaut"})
+      .refers("Municipio", {"CodMunicipioParrBaut"})
       .texts({"ParroquiaBaut", "DireccionParrBaut"});
   satellite("Padron_Comunion").texts({"AñoComunion", "ParroquiaCom"});
   satellite("Padron_Confirmacion")
       .add(Type::Text, {"FechaConfirmacion"}, 10)
-      .longs({"CodMunicipioParrConf"})
+      .refers("Municipio", {"CodMunicipioParrConf"})
       .texts({"ParroquiaConf", "DireccionParrConf"});
   satellite("Padron_Matrimonio")
       .add(Type::Text, {"FechaMatrimonio"}, 10)
-      .longs({"CodMunicipioParrMatr"})
+      .refers("Municipio", {"CodMunicipioParrMatr"})
       .texts({"ParroquiaMatr", "DireccionParrMatr"});
   satellite("Padron_Defuncion")
       .add(Type::Text, {"FechaDefuncion"}, 10)
@@ -67,11 +68,11 @@ void addActivities(std::vector<Table>& tables) {
                        .counter("IDActividad")
                        .texts({"Nombre"})
                        .memos({"Descripcion"})
-                       .longs({"CodInstitucion"})
+                       .refers("Institucion", {"CodInstitucion"})
                        .index({"CodInstitucion", "Nombre"}));
   tables.push_back(Table("Grupo")
                        .counter("IDGrupo")
-                       .longs({"CodActividad"})
+                       .belongsTo("Actividad", "CodActividad")
                        .texts({"Nombre", "Año", "Dia", "Hora", "Sala"})
                        .memos({"Comentarios"})
                        .index({"CodActividad"}));
@@ -79,7 +80,9 @@ void addActivities(std::vector<Table>& tables) {
       Table("Cargo").counter("IDCargo").texts({"Nombre"}).memos({"Descripcion"}).index({"Nombre"}));
   tables.push_back(Table("Padron_Actividad")
                        .counter("IDActividadesPadron")
-                       .longs({"CodPadron", "CodGrupo", "CodCargo"})
+                       .refers("Padron", {"CodPadron"})
+                       .refers("Grupo", {"CodGrupo"})
+                       .refers("Cargo", {"CodCargo"})
                        .index({"CodPadron"})
                        .index({"CodGrupo"})
                        .index({"CodCargo"}));

@@ -10,13 +10,16 @@ namespace {
 Table entry() {
   Table table("Matrimonio");
   table.counter("IDMatrimonio")
-      .longs({"CodNovios", "CodNovias", "InstitucionSolicitud"})
+      .refers("Matrimonio_Novios", {"CodNovios"})
+      .refers("Matrimonio_Novias", {"CodNovias"})
+      .refers("Institucion", {"InstitucionSolicitud"})
       .texts({"Parroquia"})
-      .longs({"CodMunicipio"})
+      .refers("Municipio", {"CodMunicipio"})
       .texts({"Diocesis"})
       .longs({"Estado"})
       .memos({"NotasMarginales", "Observaciones"})
-      .longs({"CodLibro", "Folio"})
+      .refers("Libro_Matrimonio", {"CodLibro"})
+      .longs({"Folio"})
       .texts({"Numero"})
       .yesNos({"Anulada"})
       .index({"CodLibro", "Folio", "Val(Numero)"})
@@ -34,28 +37,29 @@ void addSpouse(std::vector<Table>& tables, const std::string& spouse) {
           .counter("ID" + spouse + "s")
           .texts({"Nombre", "PrimerApellido", "SegundoApellido", "DNI", "Edad", "Religion"})
           .add(Type::Text, {"FechaNac"}, 10)
-          .longs({"CodMunicipioNac"})
+          .refers("Municipio", {"CodMunicipioNac"})
           .texts({"DomicilioActual"})
-          .longs({"CodMunicipioActual"})
+          .refers("Municipio", {"CodMunicipioActual"})
           .texts({"DomicilioAnterior"})
-          .longs({"CodMunicipioAnterior"})
+          .refers("Municipio", {"CodMunicipioAnterior"})
           .add(Type::Text, {"FechaConfirmacion"}, 10)
-          .longs({"CodMunicipioConfirmacion"})
+          .refers("Municipio", {"CodMunicipioConfirmacion"})
           .add(Type::Byte, {"TResidenciaDomAct"})
           .texts({"Profesion", "DiocesisNac", "Nacionalidad", ("Email" + spouse).c_str(),
                   ("Telefono" + spouse).c_str(), "ParroquiaExhorto", "PoblacionExhorto",
                   "DiocesisExhorto"})
           .index({"PrimerApellido", "SegundoApellido", "Nombre"}));
   tables.push_back(Table(base + "_RegCivil")
-                       .longs({link.c_str()})
-                       .texts({"EstadoCivil", "NombrePadre", "NombreMadre", "MunicipioInscrito",
-                               "Tomo", "Pagina", "NombreCivil", "SujetoDerecho"})
+                       .belongsTo(base, link)
+                       .texts({"EstadoCivil", "NombrePadre", "NombreMadre"})
+                       .refers("Municipio", {"MunicipioInscrito"}, Type::Text)
+                       .texts({"Tomo", "Pagina", "NombreCivil", "SujetoDerecho"})
                        .key({link.c_str()}, false));
   tables.push_back(Table(base + "_Bautismo")
-                       .longs({link.c_str()})
+                       .belongsTo(base, link)
                        .add(Type::Text, {"FechaBaut"}, 10)
                        .texts({"ParroquiaBaut", "DiocesisBaut"})
-                       .longs({"CodMunicipioBaut"})
+                       .refers("Municipio", {"CodMunicipioBaut"})
                        .texts({"LibroBaut"})
                        .longs({"FolioBaut"})
                        .texts({"NumeroBaut"})
@@ -64,10 +68,10 @@ void addSpouse(std::vector<Table>& tables, const std::string& spouse) {
 
 Table celebration() {
   Table table("Matrimonio_Compromiso");
-  table.longs({"CodMatrimonio"})
+  table.belongsTo("Matrimonio", "CodMatrimonio")
       .add(Type::Text, {"FechaMatrimonio", "HoraMatrimonio"}, 10)
       .texts({"Padrino", "Madrina", "Testigos", "Celebrante", "ExpedInst", "DomicilioMatrimonio"})
-      .longs({"CodMunicipioDomicMatr"})
+      .refers("Municipio", {"CodMunicipioDomicMatr"})
       .texts({"TelefonoDomicMatr", "CPCompromiso", "NihilObstat", "Demarcacion",
               "TestigosParroquia", "Testigo1", "Testigo1_Natural_de", "Testigo1_Poblacion",
               "Testigo2", "Testigo2_Natural_de", "Testigo2_Poblacion"})
@@ -77,12 +81,12 @@ Table celebration() {
 
 Table dossier() {
   Table table("Matrimonio_Expediente");
-  table.longs({"CodMatrimonio"});
+  table.belongsTo("Matrimonio", "CodMatrimonio");
   for (const std::string n : {"1", "2"}) {
     table.texts({("NombreTestigo" + n).c_str(), ("PrimerApellidoTestigo" + n).c_str(),
                  ("SegundoApellidoTestigo" + n).c_str(), ("DNITestigo" + n).c_str(),
                  ("DomicilioTestigo" + n).c_str()});
-    table.longs({("CodMunicipioTestigo" + n).c_str()});
+    table.refers("Municipio", {("CodMunicipioTestigo" + n).c_str()});
   }
   table.key({"CodMatrimonio"}, false);
   return table;
@@ -90,7 +94,7 @@ Table dossier() {
 
 Table examinations() {
   Table table("Matrimonio_Cursos");
-  table.longs({"CodMatrimonio", "Cod_Tipo_Persona"});
+  table.belongsTo("Matrimonio", "CodMatrimonio").longs({"Cod_Tipo_Persona"});
   for (int answer = 0; answer <= 33; ++answer) table.memos({std::to_string(answer).c_str()});
   table.key({"CodMatrimonio", "Cod_Tipo_Persona"}, false);
   return table;

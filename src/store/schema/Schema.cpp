@@ -39,6 +39,20 @@ Table& Table::counter(const std::string& column) {
   return *this;
 }
 
+Table& Table::refers(const std::string& table, std::initializer_list<const char*> columns,
+                     Type type) {
+  const std::size_t first = columns_.size();
+  add(type, columns, isText(type) ? 255 : 0);
+  for (std::size_t i = first; i < columns_.size(); ++i) columns_[i].refersTo = table;
+  return *this;
+}
+
+Table& Table::belongsTo(const std::string& table, const std::string& column) {
+  refers(table, {column.c_str()});
+  columns_.back().belongs = true;
+  return *this;
+}
+
 Table& Table::zeroNumbers() {
   zeroNumbers_ = true;
   return *this;
@@ -73,6 +87,10 @@ Schema::Schema(std::string name, int version, std::vector<Table> tables)
       throw std::logic_error("table twice: " + tables_[i].name());
     }
   }
+  for (const Table& table : tables_)
+    for (const Column& column : table.columns())
+      if (!column.refersTo.empty() && find(column.refersTo) == nullptr)
+        throw std::logic_error(table.name() + "." + column.name + " refers to no table");
 }
 
 const Table* Schema::find(std::string_view table) const {

@@ -32,6 +32,10 @@ struct Column {
   Type type = Type::Text;
   int width = 0;  // Text only
   int since = 1;  // the version of the schema that brought it
+  /// The table whose key it holds, 0 for none; empty when it is no reference.
+  std::string refersTo = {};
+  /// The row is a part of what it refers to and goes with it.
+  bool belongs = false;
 };
 
 struct Index {
@@ -53,6 +57,11 @@ class Table {
   Table& texts(std::initializer_list<const char*> columns) { return add(Type::Text, columns, 255); }
   Table& memos(std::initializer_list<const char*> columns) { return add(Type::Memo, columns); }
   Table& yesNos(std::initializer_list<const char*> columns) { return add(Type::YesNo, columns); }
+  /// Columns that hold a key of another table; whoever deletes a row there asks them first.
+  Table& refers(const std::string& table, std::initializer_list<const char*> columns,
+                Type type = Type::Long);
+  /// The same for rows that are a part of the other one.
+  Table& belongsTo(const std::string& table, const std::string& column);
   /// Numbers that a statement leaves out become 0 instead of Null.
   Table& zeroNumbers();
   /// The order of rows when a statement asks for none, and an index; unique for a true key.
@@ -88,7 +97,8 @@ class Table {
 
 class Schema {
  public:
-  /// `name` is kept in the database and tells the two kinds of database apart.
+  /// `name` is kept in the database and tells the two kinds of database apart. A reference to a
+  /// table that is not there is a logic_error.
   Schema(std::string name, int version, std::vector<Table> tables);
 
   const std::string& name() const { return name_; }
