@@ -17,13 +17,19 @@ Desk::Desk(const ParishFiles& files, const std::string& user, forms::UserInterfa
       open_(openParish(files_)),
       config_(configFor(user)),
       support_(ui, settings, clock, config_),
-      entorno_{
-          ui, support_, settings, clock, {readEdition(files_), editionName(readEdition(files_))}},
+      entorno_{ui, support_, settings, clock, {open_.edition, editionName(open_.edition)}},
       nucleo_(entorno_) {}
 
 std::string Desk::parishName() {
   const auto rows = parish().Execute("SELECT Nombre FROM Institucion ORDER BY IDInstitucion");
   return rows.EOF_() ? std::string() : rows.text("Nombre");
+}
+
+void Desk::setEdition(const std::string& code) {
+  keepEdition(parish(), code);
+  writeEdition(files_, code);
+  entorno_.installation.Aplicacion = code;
+  entorno_.installation.INF_TipoAplicacion = editionName(code);
 }
 
 bool Desk::setUp() {

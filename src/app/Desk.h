@@ -31,6 +31,11 @@ class Desk {
   std::string parishName();
   std::string edition() const { return editionName(entorno_.installation.Aplicacion); }
 
+  /// Anything but None is for the user to hear, and all but NoteRestored to settle.
+  EditionDoubt editionDoubt() const { return open_.doubt; }
+  /// From now on, and on the disk. Throws store::Error.
+  void setEdition(const std::string& code);
+
   /// Asks for what the documents need of each institution. False when the user gave up: the
   /// program then ends.
   bool setUp();

@@ -7,6 +7,7 @@
 #include <fstream>
 #include <map>
 
+#include "app/EditionQuestion.h"
 #include "app/FirstRunWizard.h"
 #include "app/LastWords.h"
 #include "app/MainWindow.h"
@@ -125,7 +126,7 @@ int Desktop::work(Desk& desk) {
         QObject::tr("La base de datos de informes estaba estropeada y se ha creado de nuevo. No "
                     "contenía datos de la parroquia.\nLa estropeada se ha guardado como «%1».")
             .arg(QString::fromStdString(desk.reportsPutAside().string())));
-  if (!desk.setUp()) return 0;
+  if (!settleEdition(desk) || !desk.setUp()) return 0;
   MainWindow window(desk);
   window.show();
   return QApplication::exec();

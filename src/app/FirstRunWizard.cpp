@@ -24,8 +24,6 @@
 namespace fidaleon::app {
 namespace {
 
-using Editions = FDAPI::cCAplicacion;
-
 struct Province {
   std::int32_t code;
   std::string name;
@@ -83,9 +81,8 @@ QWizardPage* FirstRunWizard::parishPage(const NewParish& proposal) {
   town_->setMaxLength(120);
   layout->addRow(tr("P&oblación:"), town_);
   edition_ = new QComboBox(page);
-  for (const char* code : {Editions::APP_FIDALEON_MADRID, Editions::APP_FIDALEON_SANTIAGO,
-                           Editions::APP_FIDALEON_ZARAGOZA, Editions::APP_FIDALEON_MENORCA})
-    edition_->addItem(QString::fromStdString(editionName(code)), QString(code));
+  for (const auto& [name, code] : editions())
+    edition_->addItem(QString::fromStdString(name), QString::fromStdString(code));
   edition_->setCurrentIndex(
       std::max(0, edition_->findData(QString::fromStdString(proposal.edition))));
   layout->addRow(tr("&Edición:"), edition_);

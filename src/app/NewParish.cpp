@@ -3,6 +3,7 @@
 #include "app/Insert.h"
 #include "app/ParishFiles.h"
 #include "app/SampleParish.h"
+#include "files/Durable.h"
 #include "store/Open.h"
 #include "text/Utf8.h"
 
@@ -11,6 +12,7 @@ namespace {
 
 void fill(store::Connection& connection, const NewParish& parish, const text::Date& today) {
   connection.BeginTrans();
+  keepEdition(connection, parish.edition);
   if (parish.content == Content::Sample)
     fillSampleParish(connection, parish, today);
   else
@@ -20,20 +22,12 @@ void fill(store::Connection& connection, const NewParish& parish, const text::Da
 }
 
 void makeDirectory(const std::filesystem::path& directory) {
-  std::error_code error;
-  std::filesystem::create_directories(directory, error);
-  if (error)
+  try {
+    files::makeFolders(directory);
+  } catch (const std::filesystem::filesystem_error&) {
     throw store::Error(store::ErrorKind::ReadOnly,
                        "No se puede crear la carpeta «" + directory.string() +
                            "». Compruebe que tiene permiso para escribir en ella.");
-}
-
-void removeWithCompanions(const std::filesystem::path& database) {
-  std::error_code ignored;
-  for (const char* ending : {"", "-journal", "-wal", "-shm"}) {
-    std::filesystem::path file = database;
-    file += ending;
-    std::filesystem::remove(file, ignored);
   }
 }
 
@@ -55,18 +49,10 @@ void createParish(const NewParish& parish, const text::Date& today) {
   makeDirectory(parish.directory);
   if (files.exists())
     throw store::Error(store::ErrorKind::Constraint, "Ya existe una parroquia en esa carpeta.");
-  try {
-    const auto connection = store::createDatabase(files.parish(), store::parishSchema());
-    fill(*connection, parish, today);
-    writeEdition(files, parish.edition);
-    if (!std::filesystem::exists(files.reports()))
-      store::createDatabase(files.reports(), store::reportsSchema());
-  } catch (...) {
-    removeWithCompanions(files.parish());
-    std::error_code ignored;
-    std::filesystem::remove(files.note(), ignored);
-    throw;
-  }
+  // The note stands before the parish does: a power cut leaves a whole parish or none.
+  writeEdition(files, parish.edition);
+  store::createDatabase(files.parish(), store::parishSchema(),
+                        [&](store::Connection& connection) { fill(connection, parish, today); });
 }
 
 std::int32_t townKey(store::Connection& connection, const std::string& town,

@@ -25,9 +25,9 @@ struct NewParish {
 /// What is missing or wrong in it, in Spanish; empty when it can be made.
 std::string whatIsMissing(const NewParish& parish);
 
-/// Creates the directory, the parish database with its first institution (and the sample register
-/// when asked), the reports database and the note of the edition. On failure nothing of it stays
-/// behind and store::Error is thrown; files that were there before are never touched.
+/// Creates the directory, the note of the edition and the parish database with its first
+/// institution (and the sample register when asked), which takes its name last: there is a whole
+/// parish or none. Throws store::Error; a parish that was there before is never touched.
 void createParish(const NewParish& parish, const text::Date& today);
 
 /// Adds an institution with its line in Ultimos and gives its key.

@@ -5,8 +5,13 @@
 #include <array>
 #include <fstream>
 
+#include "app/Insert.h"
 #include "core/contract/FDAPI.h"
+#include "files/Durable.h"
+#include "store/Companions.h"
 #include "store/Open.h"
+#include "store/Transaction.h"
+#include "text/SystemErrors.h"
 
 namespace fidaleon::app {
 namespace {
@@ -28,14 +33,6 @@ std::string workstation() {
   return gethostname(name, sizeof name - 1) == 0 && name[0] ? name : "local";
 }
 
-std::filesystem::path freeName(const std::filesystem::path& file) {
-  for (int n = 1;; ++n) {
-    std::filesystem::path aside = file;
-    aside += ".estropeada-" + std::to_string(n);
-    if (!std::filesystem::exists(aside)) return aside;
-  }
-}
-
 void openReports(const std::filesystem::path& file, OpenParish& open) {
   const store::Schema& schema = store::reportsSchema();
   try {
@@ -46,9 +43,34 @@ void openReports(const std::filesystem::path& file, OpenParish& open) {
     if (e.kind() != Kind::NotADatabase && e.kind() != Kind::NewerSchema &&
         e.kind() != Kind::UnknownName && e.kind() != Kind::Other)
       throw;
-    open.reportsPutAside = freeName(file);
-    std::filesystem::rename(file, open.reportsPutAside);
+    open.reportsPutAside = store::putAside(file, ".estropeada");
     open.reports = store::createDatabase(file, schema);
+  }
+}
+
+std::string keptEdition(store::Connection& parish) {
+  const auto row = parish.Execute("SELECT Edicion FROM Instalacion");
+  const std::string code = row.EOF_() ? std::string() : row.text("Edicion");
+  for (const Edition& e : EDITIONS)
+    if (code == e.code) return code;
+  return {};
+}
+
+void settleEdition(const ParishFiles& files, OpenParish& open) {
+  const std::string noted = readEdition(files);
+  open.edition = keptEdition(*open.parish);
+  if (noted == open.edition && !noted.empty()) return;
+  if (open.edition.empty()) {
+    open.edition = noted.empty() ? EDITIONS.front().code : noted;
+    if (noted.empty())
+      open.doubt = EditionDoubt::Unknown;
+    else
+      keepEdition(*open.parish, noted);
+  } else if (noted.empty()) {
+    writeEdition(files, open.edition);
+    open.doubt = EditionDoubt::NoteRestored;
+  } else {
+    open.doubt = EditionDoubt::NoteDiffers;
   }
 }
 
@@ -64,27 +86,42 @@ std::string editionName(const std::string& code) {
   return code;
 }
 
+std::vector<std::pair<std::string, std::string>> editions() {
+  std::vector<std::pair<std::string, std::string>> all;
+  for (const Edition& e : EDITIONS) all.emplace_back(e.name, e.code);
+  return all;
+}
+
 std::string readEdition(const ParishFiles& files) {
   std::ifstream in(files.note());
   std::string name;
   std::getline(in, name);
   for (const Edition& e : EDITIONS)
     if (name == e.name) return e.code;
-  return EDITIONS.front().code;
+  return {};
 }
 
 void writeEdition(const ParishFiles& files, const std::string& edition) {
-  std::ofstream out(files.note());
-  out << editionName(edition) << "\n";
-  out.flush();
-  if (!out)
-    throw store::Error(store::ErrorKind::ReadOnly,
-                       "No se puede escribir en la carpeta «" + files.directory.string() + "».");
+  try {
+    files::replace(files.note(), editionName(edition) + "\n");
+  } catch (const std::filesystem::filesystem_error& e) {
+    throw store::Error(store::ErrorKind::ReadOnly, "No se puede escribir en la carpeta «" +
+                                                       files.directory.string() +
+                                                       "»: " + text::systemReason(e.code()));
+  }
+}
+
+void keepEdition(store::Connection& parish, const std::string& edition) {
+  store::Transaction transaction(parish);
+  parish.Execute("DELETE * FROM Instalacion");
+  Insert("Instalacion").text("Edicion", edition).into(parish);
+  transaction.commit();
 }
 
 OpenParish openParish(const ParishFiles& files) {
   OpenParish open;
   open.parish = store::openDatabase(files.parish(), store::parishSchema());
+  settleEdition(files, open);
   openReports(files.reports(), open);
   return open;
 }

@@ -3,6 +3,8 @@
 #include <filesystem>
 #include <memory>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "store/Connection.h"
 
@@ -26,22 +28,35 @@ struct ParishFiles {
   }
 };
 
-/// Edition code of a parish; Madrid's when the note is missing or says something unknown.
+/// Edition code in the note beside a parish; empty when it is missing or says something unknown.
 std::string readEdition(const ParishFiles& files);
+/// On the disk when it returns. Throws store::Error.
 void writeEdition(const ParishFiles& files, const std::string& edition);
+/// The parish keeps its edition itself too, since a note gets lost.
+void keepEdition(store::Connection& parish, const std::string& edition);
 
 /// Name people know an edition by ("Madrid"); its code for one that is unknown.
 std::string editionName(const std::string& code);
 
+/// Name and code of each edition, in the order they are offered.
+std::vector<std::pair<std::string, std::string>> editions();
+
+/// Whether what a parish and the note beside it say of the edition can be relied on.
+enum class EditionDoubt { None, NoteRestored, NoteDiffers, Unknown };
+
 struct OpenParish {
   std::unique_ptr<store::Connection> parish;
   std::unique_ptr<store::Connection> reports;
+  /// The parish's own where the note differs; Madrid's when neither says anything.
+  std::string edition;
+  EditionDoubt doubt = EditionDoubt::None;
   /// Set when the reports database was unusable: where the bad one was put aside.
   std::filesystem::path reportsPutAside;
 };
 
 /// Opens both databases. The reports database holds nothing that lasts: a missing one is made, a
-/// bad one is put aside under another name and made anew. Throws store::Error for the parish's.
+/// bad one is put aside under another name and made anew. Whichever of note and parish lacks the
+/// edition gets it from the other. Throws store::Error for the parish's.
 OpenParish openParish(const ParishFiles& files);
 
 }  // namespace fidaleon::app

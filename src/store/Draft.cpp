@@ -1,9 +1,11 @@
 #include "store/Draft.h"
 
-#include <fcntl.h>
-#include <unistd.h>
+#include <system_error>
 
+#include "files/Durable.h"
+#include "store/Companions.h"
 #include "store/Error.h"
+#include "text/SystemErrors.h"
 
 namespace fidaleon::store {
 
@@ -11,24 +13,12 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// Without this a power cut may take back the new name. Some network disks cannot do it.
-void flushFolderOf(const fs::path& file) {
-  const fs::path folder = file.has_parent_path() ? file.parent_path() : ".";
-  const int fd = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-  if (fd < 0) return;
-  ::fsync(fd);
-  ::close(fd);
-}
-
 /// With what the engine keeps beside it: the journal of a draft whose maker was killed would be
 /// played back into the next one.
 void removeAll(const fs::path& draft) {
-  for (const char* const ending : {"", "-journal", "-wal", "-shm"}) {
-    fs::path file = draft;
-    file += ending;
-    std::error_code ignored;
-    fs::remove(file, ignored);
-  }
+  std::error_code ignored;
+  fs::remove(draft, ignored);
+  for (const fs::path& file : companionsOf(draft)) fs::remove(file, ignored);
 }
 
 }  // namespace
@@ -43,11 +33,16 @@ Draft::~Draft() {
 }
 
 void Draft::accept() {
-  std::error_code failed;
-  fs::rename(draft_, file_, failed);
-  if (failed)
-    throw Error(ErrorKind::Connection, "No se puede crear el archivo «" + file_.string() + "».");
-  flushFolderOf(file_);
+  if (hasUnfinished(draft_))
+    throw Error(ErrorKind::Connection, "No se ha terminado de escribir «" + draft_.string() + "».");
+  try {
+    files::syncFile(draft_);
+    removeCompanions(file_);
+    files::moveTo(draft_, file_);
+  } catch (const fs::filesystem_error& e) {
+    throw Error(ErrorKind::Connection, "No se puede crear el archivo «" + file_.string() +
+                                           "»: " + text::systemReason(e.code()));
+  }
 }
 
 }  // namespace fidaleon::store

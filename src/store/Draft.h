@@ -14,8 +14,8 @@ class Draft {
   Draft& operator=(const Draft&) = delete;
 
   const std::filesystem::path& path() const { return draft_; }
-  /// Takes the place of the file wanted, if there is one, and is then on the disk under its name.
-  /// Throws Connection.
+  /// Takes the place of the file wanted, if there is one, and of what the engine left beside that;
+  /// is then on the disk under its name. The database in it must be closed. Throws Connection.
   void accept();
 
  private:

@@ -5,6 +5,8 @@
 
 #include <map>
 
+#include "files/Durable.h"
+#include "store/Companions.h"
 #include "store/Draft.h"
 #include "store/RowCounts.h"
 #include "store/schema/Installer.h"
@@ -39,8 +41,7 @@ void requireWritable(const fs::path& file) {
 }
 
 void requireFree(const fs::path& file) {
-  std::error_code failed;
-  if (fs::exists(file, failed)) {
+  if (files::isThere(file)) {
     throw Error(ErrorKind::Constraint, "Ya existe el archivo «" + file.string() + "».");
   }
 }
@@ -66,6 +67,27 @@ class Snapshot {
   bool own_;
 };
 
+/// What lies beside a database that is open is in use; taken away it would cost what it holds.
+void requireClosed(const fs::path& file) {
+  if (!files::isThere(file) || companionsOf(file).empty()) return;
+  try {
+    SqliteEngine(file, SqliteEngine::Access::Existing).leaveWriteAheadLog();
+  } catch (const Error& error) {
+    if (error.kind() != ErrorKind::Busy) return;  // nothing that anybody could have open
+    throw Error(ErrorKind::Busy, "No se puede guardar la copia encima de «" + file.string() +
+                                     "»: un programa lo tiene abierto.");
+  }
+}
+
+void requireCopied(const fs::path& file, const Schema& schema,
+                   const std::vector<std::int64_t>& counts, void (SqliteEngine::*test)()) {
+  SqliteEngine copy(file, SqliteEngine::Access::Existing);
+  Installer(copy, schema).version();
+  if (test != nullptr) (copy.*test)();
+  if (rowCounts(copy, schema) != counts)
+    throw Error(ErrorKind::NotADatabase, "La copia no tiene lo mismo que el original.");
+}
+
 std::unique_ptr<SqliteEngine> freshMemory(const Schema& schema) {
   auto engine = std::make_unique<SqliteEngine>();
   Installer(*engine, schema).create();
@@ -82,17 +104,24 @@ std::unique_ptr<Connection> openDatabase(const fs::path& file, const Schema& sch
   return std::make_unique<Connection>(std::move(engine), schema, fs::absolute(file).string());
 }
 
-std::unique_ptr<Connection> createDatabase(const fs::path& file, const Schema& schema) {
+std::unique_ptr<Connection> createDatabase(const fs::path& file, const Schema& schema,
+                                           const std::function<void(Connection&)>& fill) {
   requireFree(file);
   {
     // A draft first: whoever is killed here leaves no half database under the name.
     Draft draft(file, ".nueva");
     {
-      SqliteEngine engine(draft.path(), SqliteEngine::Access::Create);
-      Installer(engine, schema).create();
-      if (!isNetworkDisk(draft.path())) engine.run("PRAGMA journal_mode = WAL;");
+      auto engine = std::make_unique<SqliteEngine>(draft.path(), SqliteEngine::Access::Create);
+      Installer(*engine, schema).create();
+      Connection connection(std::move(engine), schema, fs::absolute(draft.path()).string());
+      if (fill) fill(connection);
+      // Only now, so that nothing is left in a log that does not take the name with it.
+      const bool log = !isNetworkDisk(draft.path());
+      connection.engine().run("PRAGMA journal_mode = DELETE;");
+      if (log) connection.engine().run("PRAGMA journal_mode = WAL;");
     }
     requireFree(file);
+    if (!companionsOf(file).empty()) putAside(file, ".apartada");
     draft.accept();
   }
   return openDatabase(file, schema);
@@ -118,6 +147,7 @@ void backupDatabase(Connection& from, const fs::path& to) {
   if (fs::equivalent(to, from.Properties("DATA SOURCE").Value, ignored))
     throw Error(ErrorKind::Constraint,
                 "La copia no puede guardarse encima de la propia base de datos.");
+  requireClosed(to);
   Draft draft(to, ".parte");
   Engine& engine = from.engine();
   std::vector<std::int64_t> counts;
@@ -126,14 +156,9 @@ void backupDatabase(Connection& from, const fs::path& to) {
     counts = rowCounts(engine, from.schema());
     engine.backup(draft.path());
   }
-  {
-    SqliteEngine copy(draft.path(), SqliteEngine::Access::Existing);
-    Installer(copy, from.schema()).version();
-    copy.requireSound();
-    if (rowCounts(copy, from.schema()) != counts)
-      throw Error(ErrorKind::NotADatabase, "La copia no tiene lo mismo que el original.");
-  }
+  requireCopied(draft.path(), from.schema(), counts, &SqliteEngine::requireSound);
   draft.accept();
+  requireCopied(to, from.schema(), counts, nullptr);
 }
 
 }  // namespace fidaleon::store

@@ -2,6 +2,7 @@
 // Opening, creating and copying databases. Nothing above this header knows which engine runs.
 
 #include <filesystem>
+#include <functional>
 #include <memory>
 
 #include "store/Connection.h"
@@ -15,13 +16,17 @@ const Schema& reportsSchema();  // the scratch tables that templates print from
 /// Opens the database and brings an older one up to the schema's version, in place and as one
 /// step. Throws Missing, NotADatabase, NewerSchema, Busy, ReadOnly, DiskFull.
 std::unique_ptr<Connection> openDatabase(const std::filesystem::path& file, const Schema& schema);
-/// Creates the database with its tables and seed rows; refuses to overwrite (Constraint).
-std::unique_ptr<Connection> createDatabase(const std::filesystem::path& file, const Schema& schema);
+/// Creates the database with its tables and seed rows; refuses to overwrite (Constraint). `fill` is
+/// called before the database takes its name: whatever happens, under that name it is complete.
+/// What an earlier one of the name has left beside it is put aside, not played into it.
+std::unique_ptr<Connection> createDatabase(const std::filesystem::path& file, const Schema& schema,
+                                           const std::function<void(Connection&)>& fill = {});
 /// An unnamed database in memory with tables and seed rows, for tests and measurements.
 std::unique_ptr<Connection> memoryDatabase(const Schema& schema,
                                            const std::string& dataSource = "/tmp/fidaleon.mdb");
 /// A consistent copy of an open database through the engine's own backup call, verified by
-/// reopening it.
+/// reopening it, before it takes the place of an older one and again under its name. Throws Busy
+/// when a program has that older one open.
 void backupDatabase(Connection& from, const std::filesystem::path& to);
 
 }  // namespace fidaleon::store

@@ -6,6 +6,7 @@
 #include <cerrno>
 #include <system_error>
 
+#include "store/Companions.h"
 #include "store/Error.h"
 #include "store/RowCounts.h"
 #include "store/schema/Installer.h"
@@ -18,23 +19,13 @@ namespace fs = std::filesystem;
 
 namespace {
 
-bool hasCompanion(const fs::path& file) {
-  for (const char* const ending : {"-wal", "-journal"}) {
-    fs::path companion = file;
-    companion += ending;
-    std::error_code ignored;
-    if (fs::exists(companion, ignored)) return true;
-  }
-  return false;
-}
-
 void requireCopy(const fs::path& copy, const fs::path& database) {
   std::error_code ignored;
   const std::string name = "«" + copy.string() + "»";
   if (!fs::exists(copy, ignored)) throw Error(ErrorKind::Missing, "No se encuentra " + name + ".");
   if (!fs::is_regular_file(copy, ignored))
     throw Error(ErrorKind::NotADatabase, name + " no es un archivo.");
-  if (fs::equivalent(copy, database, ignored) || hasCompanion(copy))
+  if (fs::equivalent(copy, database, ignored) || hasUnfinished(copy))
     throw Error(ErrorKind::Busy, name + " no es una copia: un programa lo tiene abierto.");
 }
 

@@ -11,6 +11,7 @@
 #include <system_error>
 #include <thread>
 
+#include "files/Durable.h"
 #include "locks/OfdLock.h"
 #include "text/SystemErrors.h"
 
@@ -34,20 +35,6 @@ locks::File turnToWrite(const fs::path& file) {
     std::this_thread::sleep_for(std::chrono::milliseconds(10));
   }
   throw std::system_error(EBUSY, std::generic_category());
-}
-
-/// The new content is on the disk before it takes the file's name.
-void replaceFile(const fs::path& file, const std::string& content) {
-  const fs::path next = with(file, ".nuevo");
-  const int fd = ::open(next.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0600);
-  if (fd < 0) throw std::system_error(errno, std::generic_category());
-  const bool written =
-      ::write(fd, content.data(), content.size()) == static_cast<ssize_t>(content.size()) &&
-      ::fsync(fd) == 0;
-  const int error = errno;
-  ::close(fd);
-  if (!written) throw std::system_error(error, std::generic_category());
-  fs::rename(next, file);
 }
 
 }  // namespace
@@ -101,7 +88,8 @@ void FileSettings::mend() const {
   if (!damaged_) return;
   const fs::path kept = with(file_, ".danado");
   fs::copy_file(file_, kept, fs::copy_options::overwrite_existing);
-  save();
+  files::syncFile(kept);
+  save(values_);
   damaged_ = false;
   if (report_)
     report_(
@@ -110,8 +98,10 @@ void FileSettings::mend() const {
         kept.string() + "».");
 }
 
-void FileSettings::save() const {
-  replaceFile(file_, formatSettings(values_));
+/// What could not be saved is not read back either.
+void FileSettings::save(SettingValues values) const {
+  files::replace(file_, formatSettings(values), 0600);
+  values_ = std::move(values);
   seen_ = stamp();
 }
 
@@ -128,8 +118,8 @@ std::string FileSettings::read(const std::string& application, const std::string
 
 void FileSettings::write(const std::string& application, const std::string& section,
                          const std::string& key, const std::string& value) {
-  update([&] {
-    const auto [entry, isNew] = values_.try_emplace({application, section, key}, value);
+  update([&](SettingValues& values) {
+    const auto [entry, isNew] = values.try_emplace({application, section, key}, value);
     if (!isNew && entry->second == value) return false;
     entry->second = value;
     return true;
@@ -146,16 +136,17 @@ std::vector<Settings::Name> FileSettings::names(const std::string& application) 
 
 void FileSettings::remove(const std::string& application, const std::string& section,
                           const std::string& key) {
-  update([&] { return values_.erase({application, section, key}) != 0; });
+  update([&](SettingValues& values) { return values.erase({application, section, key}) != 0; });
 }
 
-void FileSettings::update(const std::function<bool()>& change) {
+void FileSettings::update(const std::function<bool(SettingValues&)>& change) {
   try {
-    fs::create_directories(file_.parent_path());
+    files::makeFolders(file_.parent_path());
     const locks::File turn = turnToWrite(file_);
     load();
     mend();
-    if (change()) save();
+    SettingValues values = values_;
+    if (change(values)) save(std::move(values));
   } catch (const std::system_error& e) {
     throw std::runtime_error("No se ha podido guardar el ajuste en «" + file_.string() +
                              "»: " + text::systemReason(e.code()));

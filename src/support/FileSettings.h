@@ -32,7 +32,7 @@ class FileSettings : public Settings {
 
  private:
   /// Makes a change to what the file holds at that moment; `change` says whether there was one.
-  void update(const std::function<bool()>& change);
+  void update(const std::function<bool(SettingValues&)>& change);
   /// What the file is now; any difference means that somebody has written it.
   struct Stamp {
     std::uint64_t inode = 0;
@@ -45,7 +45,7 @@ class FileSettings : public Settings {
   void refresh() const;
   void load() const;
   void mend() const;
-  void save() const;
+  void save(SettingValues values) const;
 
   std::filesystem::path file_;
   Report report_;

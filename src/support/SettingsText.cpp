@@ -12,11 +12,13 @@ namespace {
 
 constexpr std::string_view TITLE = "# Ajustes de Fidaleon";
 
+/// A text that a reader would change, as one in another encoding, is written in plain ASCII.
 std::string escape(std::string_view s, std::string_view marks) {
+  const unsigned char last = text::sanitized(s) == s ? 0xFF : 0x7E;
   std::string out;
   for (const char c : s) {
     const auto byte = static_cast<unsigned char>(c);
-    if (byte >= 0x20 && c != '%' && marks.find(c) == std::string_view::npos) {
+    if (byte >= 0x20 && byte <= last && c != '%' && marks.find(c) == std::string_view::npos) {
       out += c;
     } else {
       std::array<char, 4> hex{};

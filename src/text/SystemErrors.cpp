@@ -15,7 +15,17 @@ std::string systemReason(const std::error_code& error) {
       return "no hay permiso para escribir.";
     case ENOSPC:
     case EDQUOT:
+    case EFBIG:
       return "el disco está lleno.";
+    case EIO:
+      return "el disco falla.";
+    case EMFILE:
+    case ENFILE:
+      return "hay demasiados archivos abiertos.";
+    case ENAMETOOLONG:
+      return "el nombre es demasiado largo.";
+    case EISDIR:
+      return "en su lugar hay una carpeta.";
     case EBUSY:
       return "otro programa lo está usando.";
     case ENOLCK:

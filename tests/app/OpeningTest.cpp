@@ -178,9 +178,29 @@ TEST_F(Opening, edition_isTheParishs) {
   NewParish p = described(Content::Empty);
   p.edition = FDAPI::cCAplicacion::APP_FIDALEON_MENORCA;
   createParish(p, clock.today());
-  EXPECT_EQ(readEdition(files()), FDAPI::cCAplicacion::APP_FIDALEON_MENORCA);
-  write(files().note(), "Marte\n");
-  EXPECT_EQ(readEdition(files()), FDAPI::cCAplicacion::APP_FIDALEON_MADRID);
+  const auto opened = [&](const std::string& edition) {
+    open();
+    EXPECT_EQ(desk->edition(), edition);
+    return desk->editionDoubt();
+  };
+  EXPECT_EQ(opened("Menorca"), EditionDoubt::None);
+  for (const char* note : {"", "Marte\n"}) {
+    write(files().note(), note);
+    EXPECT_EQ(opened("Menorca"), EditionDoubt::NoteRestored);
+    EXPECT_EQ(opened("Menorca"), EditionDoubt::None);
+  }
+  write(files().note(), "Zaragoza\n");
+  EXPECT_EQ(opened("Menorca"), EditionDoubt::NoteDiffers);
+  desk->setEdition(FDAPI::cCAplicacion::APP_FIDALEON_ZARAGOZA);
+  EXPECT_EQ(opened("Zaragoza"), EditionDoubt::None);
+  // A parish of an earlier version keeps no edition itself.
+  desk->parish().Execute("DELETE * FROM Instalacion");
+  EXPECT_EQ(opened("Zaragoza"), EditionDoubt::None);
+  std::filesystem::remove(files().note());
+  EXPECT_EQ(opened("Zaragoza"), EditionDoubt::NoteRestored);
+  desk->parish().Execute("DELETE * FROM Instalacion");
+  std::filesystem::remove(files().note());
+  EXPECT_EQ(opened("Madrid"), EditionDoubt::Unknown);
 }
 
 TEST_F(Opening, draft_holdsWhatStandsInTheOpenForms) {

@@ -245,6 +245,60 @@ TEST_F(Files, fullDisk_isToldAndLosesNothingStored) {
   connection->Execute(kInsert);
 }
 
+/// What a killed program has left beside a file: a log with rows in it, or a journal.
+void leaveBeside(const fs::path& file, const char* journal) {
+  const fs::path other = file.string() + ".otra";
+  const auto connection = createDatabase(other, parishSchema());
+  connection->engine().run(std::string("PRAGMA journal_mode = ") + journal);
+  connection->engine().run("PRAGMA cache_size = 1; PRAGMA cache_spill = 1");
+  connection->BeginTrans();
+  for (int i = 0; i < 500; ++i) connection->Execute(kInsert);
+  if (journal == std::string("WAL")) connection->CommitTrans();
+  for (const char* ending : {"-wal", "-journal"})
+    if (fs::exists(other.string() + ending))
+      fs::copy_file(other.string() + ending, file.string() + ending);
+}
+
+TEST_F(Files, namesOfAnotherDatabasesRests_areTakenWithoutThem) {
+  const auto connection = createDatabase(folder / "parroquia", parishSchema());
+  for (const char* journal : {"WAL", "PERSIST"}) {
+    const fs::path created = folder / (std::string("nueva") + journal);
+    leaveBeside(created, journal);
+    EXPECT_EQ(count(*createDatabase(created, parishSchema())), 0);
+    std::size_t kept = 0;
+    for (const auto& entry : fs::directory_iterator(folder))
+      kept +=
+          entry.path().filename().string().starts_with(created.filename().string() + ".apartada");
+    EXPECT_EQ(kept, 1U) << "nobody knows what is in it";
+
+    const fs::path copy = folder / (std::string("copia") + journal);
+    backupDatabase(*connection, copy);
+    leaveBeside(copy, journal);
+    backupDatabase(*connection, copy);
+    EXPECT_FALSE(fs::exists(copy.string() + "-wal") || fs::exists(copy.string() + "-journal"));
+    EXPECT_EQ(count(*openDatabase(copy, parishSchema())), 0);
+  }
+}
+
+TEST_F(Files, backupOverADatabaseThatIsOpen_isRefused) {
+  const auto connection = createDatabase(file, parishSchema());
+  const auto other = createDatabase(folder / "otra", parishSchema());
+  other->Execute(kInsert);
+  EXPECT_EQ(kindOf([&] { backupDatabase(*connection, folder / "otra"); }), ErrorKind::Busy);
+  EXPECT_EQ(count(*other), 1);
+}
+
+TEST_F(Files, createdAndFilled_standsUnderItsNameOnlyWhenComplete) {
+  EXPECT_THROW(createDatabase(file, parishSchema(),
+                              [&](Connection& connection) {
+                                connection.Execute(kInsert);
+                                EXPECT_FALSE(fs::exists(file));
+                                throw Error(ErrorKind::DiskFull, "lleno");
+                              }),
+               Error);
+  EXPECT_TRUE(fs::is_empty(folder));
+}
+
 TEST_F(Files, backup_isACompleteDatabaseAndReplacesOnlyWhenWhole) {
   const fs::path copy = folder / "copia.copia";
   const auto connection = createDatabase(file, parishSchema());

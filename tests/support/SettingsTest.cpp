@@ -1,5 +1,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <signal.h>
+#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -30,11 +32,14 @@ TEST_F(SettingsFile, ValuesOfAnyText_AreReadBackByAnother) {
   FileSettings here(file);
   EXPECT_EQ(here.read("Fidaleon", section, "0", "-1"), "-1");
   EXPECT_FALSE(fs::exists(file));
-  const std::string odd = " ñ=\r\n[x]\t% \"#";
-  here.write("Fidaleon/2", section, "=clave", odd);
+  std::vector<std::string> odd{" ñ=\r\n[x]\t% \"#", "Mu\xF1oz", "\xC2\x85\x7F", "\xED\xA0\x80",
+                               "á\xFF"};
+  odd.emplace_back("\0\x01", 2);
+  for (const std::string& text : odd) here.write("Fidaleon/2", section + text, "=" + text, text);
   here.write("Fidaleon", section, "0", "1200");
-  FileSettings there(file);
-  EXPECT_EQ(there.read("Fidaleon/2", section, "=clave"), odd);
+  FileSettings there(file, [](const std::string& damage) { ADD_FAILURE() << damage; });
+  for (const std::string& text : odd)
+    EXPECT_EQ(there.read("Fidaleon/2", section + text, "=" + text), text);
   EXPECT_EQ(there.read("Fidaleon", section, "0"), "1200");
   EXPECT_EQ(there.read("Fidaleon", section, "1", "x"), "x");
 }
@@ -104,6 +109,27 @@ TEST_F(SettingsFile, CannotBeWritten_SaysSoAndChangesNothing) {
                             "»: la carpeta no existe.");
   }
   EXPECT_EQ(settings.read("F", "s", "k", "x"), "x");
+}
+
+TEST_F(SettingsFile, FullDisk_IsNamedAndTheValueIsNotKept) {
+  FileSettings settings(file);
+  settings.write("F", "s", "k", "v");
+  const auto handler = ::signal(SIGXFSZ, SIG_IGN);
+  rlimit before{};
+  ::getrlimit(RLIMIT_FSIZE, &before);
+  const rlimit full{fs::file_size(file) + 10, before.rlim_max};
+  ::setrlimit(RLIMIT_FSIZE, &full);
+  std::string said;
+  try {
+    settings.write("F", "s", "k", std::string(100, 'x'));
+  } catch (const std::runtime_error& e) {
+    said = e.what();
+  }
+  ::setrlimit(RLIMIT_FSIZE, &before);
+  ::signal(SIGXFSZ, handler);
+  EXPECT_THAT(said, ::testing::HasSubstr("el disco está lleno"));
+  EXPECT_EQ(settings.read("F", "s", "k"), "v");
+  EXPECT_EQ(content(), "# Ajustes de Fidaleon\n\n[F/s]\nk=v\n");
 }
 
 TEST_F(SettingsFile, CannotBeRead_IsNotOverwritten) {

@@ -86,6 +86,8 @@ void addCatalogues(std::vector<Table>& tables) {
                        .refers("Provincia", {"CodProvincia"})
                        .index({"CodProvincia", "Nombre"})
                        .index({"Nombre"}));
+  // Also in a note beside the database, which gets lost: one row, once it is known.
+  tables.push_back(Table("Instalacion", 2).texts({"Edicion"}));
 }
 
 }  // namespace fidaleon::store

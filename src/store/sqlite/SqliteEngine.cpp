@@ -24,6 +24,9 @@ SqliteEngine::SqliteEngine(const std::filesystem::path& file, Access access) {
     if (!create && isNetworkDisk(file) && usesWriteAheadLog(file)) leaveWriteAheadLog();
     // Reads the file, so that one that is no database is found out here.
     run("PRAGMA synchronous = FULL; SELECT count(*) FROM sqlite_schema;");
+    // A journal that is taken away may come back with a power cut, and undo what was told as
+    // stored. One that is cut to nothing may not.
+    if (journal() == "delete") run("PRAGMA journal_mode = TRUNCATE;");
   } catch (...) {
     sqlite3_close_v2(db_);
     throw;
@@ -52,7 +55,13 @@ void SqliteEngine::open(const std::string& name, int flags) {
   addFunctions(db_);
 }
 
-/// Needs the file for itself; whoever keeps it open on its own machine makes us fail as Busy.
+std::string SqliteEngine::journal() {
+  SqliteStatement statement(db_, "PRAGMA journal_mode");
+  RowStore rows(1);
+  if (statement.step()) statement.read(rows);
+  return rows.rows() == 0 ? std::string() : rows.at(0, 0).text();
+}
+
 void SqliteEngine::leaveWriteAheadLog() {
   run("PRAGMA locking_mode = EXCLUSIVE; PRAGMA journal_mode = DELETE; "
       "PRAGMA locking_mode = NORMAL; SELECT count(*) FROM sqlite_schema;");

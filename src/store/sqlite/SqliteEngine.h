@@ -33,11 +33,13 @@ class SqliteEngine : public Engine {
   void copyFrom(SqliteEngine& from);
   /// Reads the whole file; throws NotADatabase when it is damaged.
   void requireSound();
+  /// Needs the file for itself: throws Busy when anybody else has it open with its log.
+  void leaveWriteAheadLog();
   sqlite3* handle() { return db_; }
 
  private:
   void open(const std::string& name, int flags);
-  void leaveWriteAheadLog();
+  std::string journal();
 
   sqlite3* db_ = nullptr;
   SqliteSpelling spelling_;

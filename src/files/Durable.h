@@ -1,0 +1,33 @@
+#pragma once
+// How what the program writes by itself comes to the disk: in such an order that a power cut leaves
+// what was there or what is new, never half of it, and nothing that was told as done is undone.
+// All throw std::filesystem::filesystem_error, whose code says why.
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+namespace fidaleon::files {
+
+/// What was written to the file is on the disk.
+void syncFile(const std::filesystem::path& file);
+/// The names in the folder of the file are on the disk. Does nothing where the file system has no
+/// such order.
+void syncFolderOf(const std::filesystem::path& file);
+
+/// Makes the folder and those above it that are missing; all are on the disk.
+void makeFolders(const std::filesystem::path& folder);
+/// Takes the place of what bears the name, if anything does.
+void moveTo(const std::filesystem::path& file, const std::filesystem::path& name);
+/// Takes the file away for good; one that is not there is no fault.
+void removeForGood(const std::filesystem::path& file);
+/// The file holds this content under its name. A new one gets the mode, less the umask; one that is
+/// replaced hands its own on.
+void replace(const std::filesystem::path& file, std::string_view content, unsigned mode = 0666);
+
+/// False only when nothing bears the name: what cannot be looked at counts as there.
+bool isThere(const std::filesystem::path& file);
+/// A name with this ending that nobody else has or will have: "parroquia.fidaleon.nueva-1f09c2d4".
+std::filesystem::path passingName(const std::filesystem::path& file, const std::string& ending);
+
+}  // namespace fidaleon::files
