@@ -86,12 +86,25 @@ void frmInfDuplicadas::imprimir(const documents::OrdenDuplicada& orden, std::int
       conBaseDatos->Execute(duplicada_->sentencia(ano, idInstitucion) + orden.sql);
   const bool hay = !entries.EOF_();
   if (hay)
-    escribir(entries, idInstitucion);
+    escribirODeshacer(entries, idInstitucion);
   else
     forms::warn(ui(), "¡No se ha encontrado ningún registro!", forms::MsgIcon::Information);
   terminarTransaccion();
   if (hay) abpProgreso.setValue(0);
   Unload();
+}
+
+/// A user who stops the work keeps nothing of it, and is back in the dialog.
+void frmInfDuplicadas::escribirODeshacer(store::Recordset& entries, std::int32_t idInstitucion) {
+  try {
+    escribir(entries, idInstitucion);
+  } catch (const forms::Cancelled&) {
+    conInformes->RollbackTrans();
+    transaccionAbierta_ = false;
+    strOrden.clear();
+    abpProgreso.setValue(0);
+    throw;
+  }
 }
 
 void frmInfDuplicadas::escribir(store::Recordset& entries, std::int32_t idInstitucion) {
@@ -103,8 +116,12 @@ void frmInfDuplicadas::escribir(store::Recordset& entries, std::int32_t idInstit
   const documents::Signature signature{"", contexto_.hoy(), &institucion};
   documents::Lookups lookups(contexto_, *conBaseDatos);
   documents::RowStatements rows(duplicada_->documento, signature, lookups, entries);
-  documents::escribirFilas(rows, entries, *conInformes,
-                           [this](std::int32_t fila) { abpProgreso.setValue(fila); });
+  const auto fidaleon = contexto_.fidaleon();
+  documents::ProgresoImpresion ventana(*fidaleon, cuenta);
+  documents::escribirFilas(rows, entries, *conInformes, [&](std::int32_t fila) {
+    abpProgreso.setValue(fila);
+    ventana.avanzar(fila);
+  });
   abpProgreso.setValue(cuenta);
 }
 

@@ -14,6 +14,9 @@ namespace fidaleon {
 /// diocese. Set the public fields, then Show(); afterwards strOrden says in which order the rows
 /// are to be printed. It is set also when the year has no entries, and empty when cancelled.
 ///
+/// Its bar and the host's progress display follow the rows; stopped there, all of them are taken
+/// back and the dialog stays.
+///
 /// An error while rows are being written leaves the transaction on conInformes open, with some of
 /// the rows in it. The dialog stays, and takes them back before it tries again; once it has been
 /// closed, that is for the owner of the connection to do.
@@ -49,6 +52,7 @@ class frmInfDuplicadas : public Dialogo {
   std::optional<std::int32_t> ano() const;
   void imprimir(const documents::OrdenDuplicada& orden, std::int32_t ano,
                 std::int32_t idInstitucion);
+  void escribirODeshacer(store::Recordset& entries, std::int32_t idInstitucion);
   void escribir(store::Recordset& entries, std::int32_t idInstitucion);
   void empezarTransaccion();
   void terminarTransaccion();
