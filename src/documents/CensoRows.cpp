@@ -52,7 +52,13 @@ std::string fechaCorta(const std::string& fecha, Lookups& lookups) {
 }
 
 std::string nombresPadres(const store::Recordset& persona) {
-  return text::trim(persona.text("NombrePadre") + " " + persona.text("NombreMadre"));
+  const std::string padre = text::trim(persona.text("NombrePadre"));
+  const std::string madre = text::trim(persona.text("NombreMadre"));
+  if (vacio(padre) || vacio(madre)) return padre + madre;
+  const std::string clave = text::searchKey(madre);
+  const bool suena =
+      clave.starts_with("i") || (clave.starts_with("hi") && !clave.starts_with("hie"));
+  return padre + (suena ? " e " : " y ") + madre;
 }
 
 std::string profesion(const std::string& profesion) {

@@ -33,7 +33,7 @@ const Fila COMPLETA{{"InstitucionNombre", "San Ginés"},
                     {"Email", "ana@correo.es"},
                     {"Comentarios", "Canta d'oído"},
                     {"FechaNacimiento", "15/03/1970"},
-                    {"NombresPadres", "Luis Carmen"},
+                    {"NombresPadres", "Luis y Carmen"},
                     {"FechaBautismo", "10/04/1970"},
                     {"ParroquiaBaut", "San Ginés"},
                     {"DireccionBaut", "Arenal, 13"},
@@ -85,6 +85,8 @@ TEST(CollaboratorRow, HalfKnown_JoinsWhatThereIs) {
   const Fila fila = w.imprimir().at(0);
   EXPECT_EQ(fila.at("PoblacionProvincia"), "Lisboa");
   EXPECT_EQ(fila.at("NombresPadres"), "Carmen");
+  w.run("UPDATE Padron_Nacimiento SET NombrePadre=\"Luis\", NombreMadre=\"Inés\"");
+  EXPECT_EQ(w.imprimir().back().at("NombresPadres"), "Luis e Inés");
 }
 
 TEST(CollaboratorRows, EachInstitution_ListsItsMembersThenThoseOfNoActivityThere) {
