@@ -21,11 +21,12 @@ QString printed(const paper::Row& row, const char* column) {
 
 }  // namespace
 
-QString annulledMark() {
-  return QStringLiteral("ANULADA");
+QString annulledMark(bool catalan) {
+  return catalan ? QStringLiteral("ANUL·LADA") : QStringLiteral("ANULADA");
 }
 
-Annulled::Annulled(store::Connection& parish, std::int32_t book) : allBooks_(book == 0) {
+Annulled::Annulled(store::Connection& parish, std::int32_t book, QString word)
+    : allBooks_(book == 0), word_(std::move(word)) {
   std::string sql =
       "SELECT Institucion.InstitucionNombre, Libro_Bautismo.Nombre AS Libro, Bautismo.CodLibro, "
       "Bautismo.Folio, Bautismo.Numero, Bautismo_Hijo.Nombre, Bautismo_Hijo.PrimerApellido, "
@@ -58,12 +59,12 @@ QString Annulled::mark(const paper::Row& row) const {
   const auto found = places_.find(joined(at));
   if (found == places_.end()) return {};
   const Place& place = found->second;
-  if (!place.shared) return annulledMark();
+  if (!place.shared) return word_;
   const QString child = joined({printed(row, "NombreHijo"), printed(row, "PrimerApellidoHijo"),
                                 printed(row, "SegundoApellidoHijo")});
   const bool isOne =
       std::find(place.children.begin(), place.children.end(), child) != place.children.end();
-  return isOne ? annulledMark() : QString();
+  return isOne ? word_ : QString();
 }
 
 }  // namespace fidaleon::app

@@ -12,6 +12,7 @@
 #include "core/contract/Sacramento.h"
 #include "paper/DocumentCatalogue.h"
 #include "paper/ScratchTables.h"
+#include "text/Dates.h"
 
 namespace fidaleon::app {
 namespace {
@@ -63,6 +64,14 @@ void markAnnulled(paper::ReportOptions& options, Annulled annulled) {
   if (annulled.places() == 0) return;
   const auto shared = std::make_shared<const Annulled>(std::move(annulled));
   options.mark = [shared](const paper::Row& row) { return shared->mark(row); };
+}
+
+// A dialog that was left without a choice still gives a document, which must not be signed unread.
+QString withoutKeeper(const std::string& date) {
+  return QStringLiteral(
+             "Este documento no dice quién lo firma, porque no se ha elegido ningún encargado del "
+             "archivo. Lleva la fecha %1.")
+      .arg(QString::fromStdString(text::toShort(text::parseStored(date).value_or(text::Date{}))));
 }
 
 // Nothing when there are no rows.
@@ -123,16 +132,20 @@ std::optional<paper::Report> makeReport(Desk& desk, const Document& document, st
                                         paper::ReportOptions options) {
   const paper::Document& paper = paperOf(document.operation);
   DocumentRun run{desk.nucleo(), desk.parish(), desk.reports(), id, {}, {}};
-  if (paper.signedByKeeper)
+  if (paper.signedByKeeper) {
     run.nucleo.SelecEncargado(run.parish, BAUTISMO.palabra, id, run.date, run.keeper);
+    if (run.keeper.empty()) options.notices << withoutKeeper(run.date);
+  }
   startAfresh(run.reports);
   document.run(run);
   takeBackUnfinished(run.reports);
+  const bool catalan = document.edition == MENORCA;
+  const QString word = annulledMark(catalan);
   if (document.kind == BOOK) {
-    markAnnulled(options, Annulled(run.parish, id));
-    options.values = bookHeader(run.parish, id, document.edition == MENORCA);
+    markAnnulled(options, Annulled(run.parish, id, word));
+    options.values = bookHeader(run.parish, id, catalan);
   } else if (isAnnulled(run.parish, id)) {
-    options.mark = [](const paper::Row&) { return annulledMark(); };
+    options.mark = [word](const paper::Row&) { return word; };
   }
   return layOut(run.reports, paper, std::move(options));
 }

@@ -91,6 +91,7 @@ PreviewDialog::PreviewDialog(paper::Report report, QWidget* parent, std::shared_
   scroll_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
   scroll_->setWidget(sheet_);
   buildBar();
+  if (!report_.notices().isEmpty()) layout->addWidget(noticeBar());
   layout->addWidget(scroll_);
   const QSize room = screen()->availableSize();
   resize(std::min(900, room.width() * 9 / 10), std::min(960, room.height() * 9 / 10));
@@ -141,6 +142,18 @@ void PreviewDialog::buildBar() {
   stretch->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
   bar->addWidget(stretch);
   add("close", tr("Cerrar"), {}, [this] { reject(); });
+}
+
+// Said above the page, to be read before it is printed.
+QWidget* PreviewDialog::noticeBar() {
+  auto* notice = new QLabel(report_.notices().join(QLatin1Char('\n')), this);
+  notice->setObjectName(QStringLiteral("notices"));
+  notice->setTextFormat(Qt::PlainText);
+  notice->setWordWrap(true);
+  notice->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  notice->setMargin(8);
+  notice->setStyleSheet(QStringLiteral("background: #fff3cd; color: #4d3b00;"));
+  return notice;
 }
 
 void PreviewDialog::composeSome() {

@@ -38,6 +38,7 @@ class PreviewDialog : public QDialog {
  private:
   class Sheet;
   void buildBar();
+  QWidget* noticeBar();
   void setZoom(double percent);
   void applyZoom();
   QSizeF naturalSize() const;

@@ -39,10 +39,10 @@ void BlockLayout::add(const Block& block, const Source& source, qreal width,
     case Block::Kind::Space:
       return addSpace(block.height, out);
     case Block::Kind::Paragraph:
-      made = text_.paragraph(expand(block.text, source), block.style, width);
+      made = paragraph(block, source, width);
       break;
     case Block::Kind::Group:
-      made = layOut(block.children, source, width, block.keep);
+      made = group(block, source, width);
       break;
     case Block::Kind::Columns:
       made = columns(block, source, width);
@@ -64,6 +64,22 @@ void BlockLayout::add(const Block& block, const Source& source, qreal width,
   addSpace(block.style.before, out);
   out.push_back(std::move(made));
   addSpace(block.style.after, out);
+}
+
+FragmentPtr BlockLayout::paragraph(const Block& block, const Source& source, qreal width) const {
+  const Expanded text = expand(block.text, source);
+  if (block.clause && !text.anyValue) return nullptr;
+  FragmentPtr made = text_.paragraph(text, block.style, width);
+  if (!made || !block.withNext) return made;
+  return std::make_shared<StackFragment>(std::vector{std::move(made)},
+                                         StackFragment::Look{true, true, false});
+}
+
+FragmentPtr BlockLayout::group(const Block& block, const Source& source, qreal width) const {
+  FragmentPtr made = layOut(block.children, source, width, block.keep);
+  if (!made || !block.clear) return made;
+  return std::make_shared<StackFragment>(std::vector{std::move(made)},
+                                         StackFragment::Look{block.keep, false, true});
 }
 
 void BlockLayout::addSpace(qreal millimetres, std::vector<FragmentPtr>& out) const {
@@ -134,6 +150,8 @@ FragmentPtr BlockLayout::box(const Block& block, const Source& source, qreal wid
 }
 
 FragmentPtr BlockLayout::field(const Block& block, const Source& source, qreal width) const {
+  Expanded value = expand(block.text, source);
+  if (block.clause && !value.anyValue) return nullptr;
   const Expanded label = expand(block.label, source);
   const QFontMetricsF labelMetrics(text_.font(block.labelStyle, {}));
   const QFontMetricsF valueMetrics(text_.font(block.style, {}));
@@ -151,7 +169,6 @@ FragmentPtr BlockLayout::field(const Block& block, const Source& source, qreal w
   if (FragmentPtr p = text_.paragraph(label, block.labelStyle, std::max(labelWidth, gap)))
     left.push_back(p);
 
-  Expanded value = expand(block.text, source);
   if (value.text.isEmpty() || (block.writeIn && !value.anyValue))
     value = {QStringLiteral(" "), {}, false};
   std::vector<FragmentPtr> right{std::make_shared<SpaceFragment>(above)};

@@ -23,6 +23,8 @@ class BlockLayout {
  private:
   void add(const Block& block, const Source& source, qreal width,
            std::vector<FragmentPtr>& out) const;
+  FragmentPtr paragraph(const Block& block, const Source& source, qreal width) const;
+  FragmentPtr group(const Block& block, const Source& source, qreal width) const;
   FragmentPtr columns(const Block& block, const Source& source, qreal width) const;
   FragmentPtr box(const Block& block, const Source& source, qreal width) const;
   FragmentPtr stretched(const Block& column, const Source& source, qreal width,

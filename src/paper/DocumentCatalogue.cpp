@@ -34,7 +34,7 @@ const std::vector<Document>& documentCatalogue() {
        QStringLiteral("Libro de bautismos (Menorca)"), Edition::Menorca, false},
       {"InformeIndiceLibroBautismo", "indice_libro_bautismo",
        QStringLiteral("Índice del libro de bautismos"), Edition::Base, false},
-      {"InformeIndiceLibroBautismoMenorca", "indice_libro_bautismo",
+      {"InformeIndiceLibroBautismoMenorca", "indice_libro_bautismo_menorca",
        QStringLiteral("Índice del libro de bautismos (Menorca)"), Edition::Menorca, false},
       {"ImprimirDuplicadasBautismo", "duplicado_bautismo", QStringLiteral("Duplicado de bautismos"),
        Edition::Base, false},

@@ -13,22 +13,41 @@ namespace fidaleon::paper {
 /// Values that a template may print and that no row holds, by their names without the "@".
 using GivenValues = std::map<QString, QString>;
 
-/// Where the values of a template's columns come from.
+struct Source;
+
+/// Where the values of a template's columns come from. To be used from one thread, also where
+/// const.
 class Binding {
  public:
-  /// Throws Error(MissingColumn) that names template, column and table.
+  /// Template and rows must outlive it. Throws Error(MissingColumn) that names template, column
+  /// and table.
   Binding(const ReportTemplate& t, const Rows& rows, const GivenValues& given);
 
-  static constexpr int kMark = -1;
-  /// A position in the rows, kMark, or, below that, a given value.
-  int position(int column) const { return positions_[static_cast<std::size_t>(column)]; }
-  const QString& given(int position) const {
-    return given_[static_cast<std::size_t>(kMark - 1 - position)];
-  }
+  const ReportTemplate& layout() const { return *t_; }
+  /// Of the first or the last row of the source. The text of a formula stays until the next one
+  /// of that formula is asked for.
+  const QString& value(int column, const Source& source, bool ofLastRow) const;
+  /// To be called when rows have changed their places.
+  void forget();
 
  private:
-  std::vector<int> positions_;
+  struct Place {
+    enum class Kind { Row, Mark, Given, Formula };
+    Kind kind;
+    int index;
+  };
+  struct Computed {
+    const std::vector<Inline>* formula;
+    std::size_t row;
+    QString text;
+  };
+  Place placeOf(const QString& column, const Rows& rows, const GivenValues& given);
+  const QString& computed(int index, const Source& source, bool ofLastRow) const;
+
+  const ReportTemplate* t_;
+  std::vector<Place> places_;
   std::vector<QString> given_;
+  mutable std::vector<Computed> computed_;  // two each: of a first row, of a last row
 };
 
 /// What a template's text is filled from.
@@ -42,9 +61,7 @@ struct Source {
   QString mark = {};
 
   const QString& value(int column, bool ofLastRow = false) const {
-    const int position = binding->position(column);
-    if (position >= 0) return rows->value(ofLastRow ? lastRow : row, position);
-    return position == Binding::kMark ? mark : binding->given(position);
+    return binding->value(column, *this, ofLastRow);
   }
 };
 

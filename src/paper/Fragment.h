@@ -28,6 +28,10 @@ class Fragment : public std::enable_shared_from_this<Fragment> {
   virtual Parts split(qreal available, bool must) const;
   /// Empty space, which is dropped at the top of a page.
   virtual bool isSpace() const { return false; }
+  /// A heading: never the last thing on a page that goes on.
+  virtual bool staysWithNext() const { return false; }
+  /// How far down a mark may be painted across it.
+  virtual qreal markedHeight() const { return height(); }
   /// Without the space that it begins with; null when it is nothing else.
   virtual FragmentPtr withoutLeadingSpace() const;
 };

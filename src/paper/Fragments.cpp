@@ -110,8 +110,8 @@ Fragment::Parts WriteLinesFragment::split(qreal available, bool must) const {
           std::make_shared<WriteLinesFragment>(width_, height_ - head, spacing_)};
 }
 
-StackFragment::StackFragment(std::vector<FragmentPtr> children, bool keep)
-    : children_(std::move(children)), keep_(keep), height_(0) {
+StackFragment::StackFragment(std::vector<FragmentPtr> children, Look look)
+    : children_(std::move(children)), look_(look), height_(0) {
   for (const FragmentPtr& c : children_) height_ += c->height();
 }
 
@@ -122,9 +122,40 @@ void StackFragment::paint(QPainter& painter, QPointF topLeft) const {
   }
 }
 
+qreal StackFragment::markedHeight() const {
+  if (look_.clear) return 0;
+  qreal marked = 0;
+  for (const FragmentPtr& c : children_) {
+    marked += c->markedHeight();
+    if (c->markedHeight() < c->height()) break;
+  }
+  return marked;
+}
+
+namespace {
+
+FragmentPtr stacked(std::vector<FragmentPtr> pieces) {
+  if (pieces.empty()) return nullptr;
+  return std::make_shared<StackFragment>(std::move(pieces), false);
+}
+
+/// Takes the headings that would be the last things on a page over to the next one, with the space
+/// around them.
+void takeHeadings(std::vector<FragmentPtr>& head, std::vector<FragmentPtr>& rest) {
+  const auto first = std::find_if(head.rbegin(), head.rend(), [](const FragmentPtr& c) {
+    return !c->isSpace() && !c->staysWithNext();
+  });
+  const auto from = std::find_if(first.base(), head.end(),
+                                 [](const FragmentPtr& c) { return c->staysWithNext(); });
+  rest.insert(rest.begin(), from, head.end());
+  head.erase(from, head.end());
+}
+
+}  // namespace
+
 Fragment::Parts StackFragment::split(qreal available, bool must) const {
   if (height_ <= available) return {shared_from_this(), nullptr};
-  if (keep_ && !must) return {nullptr, shared_from_this()};
+  if (look_.keep && !must) return {nullptr, shared_from_this()};
   std::vector<FragmentPtr> head, rest;
   bool printed = false;
   for (const FragmentPtr& c : children_) {
@@ -136,16 +167,13 @@ Fragment::Parts StackFragment::split(qreal available, bool must) const {
     if (parts.head) {
       head.push_back(parts.head);
       available -= parts.head->height();
-      printed = printed || !c->isSpace();
+      printed = printed || (!c->isSpace() && !c->staysWithNext());
     }
     if (parts.rest && !c->isSpace()) rest.push_back(parts.rest);
   }
-  const auto stack = [](std::vector<FragmentPtr> v) -> FragmentPtr {
-    if (v.empty()) return nullptr;
-    return std::make_shared<StackFragment>(std::move(v), false);
-  };
   if (!printed && !must) return {nullptr, shared_from_this()};
-  return {stack(std::move(head)), stack(std::move(rest))};
+  if (printed && !rest.empty()) takeHeadings(head, rest);
+  return {stacked(std::move(head)), stacked(std::move(rest))};
 }
 
 FragmentPtr StackFragment::withoutLeadingSpace() const {
@@ -156,7 +184,7 @@ FragmentPtr StackFragment::withoutLeadingSpace() const {
     else if (FragmentPtr kept = c->withoutLeadingSpace())
       left.push_back(std::move(kept));
   if (left.empty()) return nullptr;
-  return std::make_shared<StackFragment>(std::move(left), keep_);
+  return std::make_shared<StackFragment>(std::move(left), look_);
 }
 
 ColumnsFragment::ColumnsFragment(std::vector<Column> columns, Look look)

@@ -87,15 +87,24 @@ class WriteLinesFragment : public Fragment {
 /// Pieces one below the other.
 class StackFragment : public Fragment {
  public:
-  StackFragment(std::vector<FragmentPtr> children, bool keep);
+  struct Look {
+    bool keep = false;      // not cut in two
+    bool withNext = false;  // a heading
+    bool clear = false;     // no mark is painted across it
+  };
+  StackFragment(std::vector<FragmentPtr> children, Look look);
+  StackFragment(std::vector<FragmentPtr> children, bool keep)
+      : StackFragment(std::move(children), Look{keep, false, false}) {}
   qreal height() const override { return height_; }
   void paint(QPainter& painter, QPointF topLeft) const override;
   Parts split(qreal available, bool must) const override;
+  bool staysWithNext() const override { return look_.withNext; }
+  qreal markedHeight() const override;
   FragmentPtr withoutLeadingSpace() const override;
 
  private:
   std::vector<FragmentPtr> children_;
-  bool keep_;
+  Look look_;
   qreal height_;
 };
 

@@ -1,6 +1,9 @@
 #include "paper/InlineReader.h"
 
 #include <QHash>
+#include <algorithm>
+
+#include "documents/TextosPartida.h"
 
 namespace fidaleon::paper {
 namespace {
@@ -10,19 +13,41 @@ QString collapsed(const QString& text) {
   return QString(text).replace(blanks, QStringLiteral(" "));
 }
 
-Inline placeholder(const XmlNode& node, const QString& inside, QStringList& columns) {
-  static const QHash<QString, Filter> filters{{QString(), Filter::None},
-                                              {QStringLiteral("upper"), Filter::Upper},
+void addLiteral(const XmlNode& node, const QString& text, std::vector<Inline>& out);
+
+/// {{#28006}}: a text of the entry's wording, by its number.
+QString wordingOf(const XmlNode& node, const QString& inside) {
+  const QString text = QString::fromUtf8(documents::textoPartida(inside.mid(1).toInt()));
+  if (text.isEmpty()) failAt(node, QStringLiteral("no hay ningún texto «%1»").arg(inside));
+  return text;
+}
+
+bool readFilter(const QString& word, Inline& item) {
+  static const QHash<QString, Filter> filters{{QStringLiteral("upper"), Filter::Upper},
                                               {QStringLiteral("capital"), Filter::Capital},
-                                              {QStringLiteral("dashes"), Filter::Dashes}};
+                                              {QStringLiteral("letter"), Filter::Letter},
+                                              {QStringLiteral("weekday"), Filter::Weekday}};
+  const QString otherwise = QStringLiteral("else=");
+  if (word == QLatin1String("last"))
+    item.ofLastRow = true;
+  else if (word.startsWith(otherwise))
+    item.otherwise = word.mid(otherwise.size());
+  else if (const auto filter = filters.find(word); filter != filters.end())
+    item.filters.push_back(*filter);
+  else
+    return false;
+  return true;
+}
+
+Inline placeholder(const XmlNode& node, const QString& inside, QStringList& columns) {
   Inline item;
-  const QString name = inside.section(QLatin1Char('|'), 0, 0).trimmed();
-  QStringList rest = inside.split(QLatin1Char('|')).mid(1);
-  for (QString& word : rest) word = word.trimmed();
-  item.ofLastRow = rest.removeAll(QStringLiteral("last")) > 0;
-  const auto filter = filters.find(rest.join(QLatin1Char('|')));
-  if (name.isEmpty() || filter == filters.end())
-    failAt(node, QStringLiteral("no se entiende «{{%1}}»").arg(inside));
+  QStringList words = inside.split(QLatin1Char('|'));
+  const QString name = words.takeFirst().trimmed();
+  const bool understood =
+      !name.isEmpty() && std::all_of(words.begin(), words.end(), [&](const QString& word) {
+        return readFilter(word.trimmed(), item);
+      });
+  if (!understood) failAt(node, QStringLiteral("no se entiende «{{%1}}»").arg(inside));
   if (name == QLatin1String("@Pagina")) {
     item.kind = Inline::Kind::PageNumber;
   } else if (name == QLatin1String("@Paginas")) {
@@ -30,7 +55,6 @@ Inline placeholder(const XmlNode& node, const QString& inside, QStringList& colu
   } else {
     item.kind = Inline::Kind::Value;
     item.column = columnIndex(name, columns);
-    item.filter = *filter;
   }
   return item;
 }
@@ -51,7 +75,11 @@ void addText(const XmlNode& node, QStringList& columns, std::vector<Inline>& out
   for (auto it = marks.globalMatch(text); it.hasNext();) {
     const auto match = it.next();
     addLiteral(node, text.mid(from, match.capturedStart() - from), out);
-    out.push_back(placeholder(node, match.captured(1), columns));
+    const QString inside = match.captured(1).trimmed();
+    if (inside.startsWith(QLatin1Char('#')))
+      addLiteral(node, wordingOf(node, inside), out);
+    else
+      out.push_back(placeholder(node, inside, columns));
     from = match.capturedEnd();
   }
   addLiteral(node, text.mid(from), out);
@@ -64,35 +92,53 @@ void refuseAttributes(const XmlNode& node, std::initializer_list<const char*> kn
     failAt(node, QStringLiteral("«%1» no tiene el atributo «%2»").arg(node.name, left.firstKey()));
 }
 
-Inline readGroup(const XmlNode& node, QStringList& columns) {
+Condition changeOf(const XmlNode& node, QStringList& columns) {
+  refuseAttributes(node, {"column"});
+  Condition condition;
+  condition.changes = true;
+  condition.columns.push_back(
+      columnIndex(node.attributes.value(QStringLiteral("column")), columns));
+  return condition;
+}
+
+std::optional<Condition> conditionOf(const XmlNode& node, QStringList& columns) {
+  refuseAttributes(node, {"column", "matches"});
+  const bool asks = node.name == QLatin1String("if");
+  const QString column = node.attributes.value(QStringLiteral("column"));
+  if (column.isEmpty()) failAt(node, QStringLiteral("falta el atributo «column»"));
+  return readCondition(node,
+                       {asks ? column : QString(), asks ? QString() : column,
+                        node.attributes.value(QStringLiteral("matches"))},
+                       columns);
+}
+
+Condition genderOf(const XmlNode& node, const ReportTemplate& t) {
+  refuseAttributes(node, {});
+  if (!t.feminine) failAt(node, QStringLiteral("falta antes el elemento «gender»"));
+  Condition condition = *t.feminine;
+  condition.negated = node.name == QLatin1String("m");
+  return condition;
+}
+
+Inline readGroup(const XmlNode& node, ReportTemplate& t) {
   Inline group;
   group.kind = Inline::Kind::Group;
-  group.bold = node.name == QLatin1String("b");
-  group.italic = node.name == QLatin1String("i");
-  group.smallCaps = node.name == QLatin1String("sc");
-  const bool asks = node.name == QLatin1String("if");
-  const bool denies = node.name == QLatin1String("unless");
-  const bool changes = node.name == QLatin1String("change");
-  if (!changes && !group.bold && !group.italic && !group.smallCaps && !asks && !denies)
-    failUnknown(node);
-  if (asks || denies) {
-    refuseAttributes(node, {"column", "matches"});
-    const QString column = node.attributes.value(QStringLiteral("column"));
-    if (column.isEmpty()) failAt(node, QStringLiteral("falta el atributo «column»"));
-    group.condition = readCondition(node,
-                                    {asks ? column : QString(), denies ? column : QString(),
-                                     node.attributes.value(QStringLiteral("matches"))},
-                                    columns);
-  } else if (changes) {
-    refuseAttributes(node, {"column"});
-    group.condition.emplace();
-    group.condition->changes = true;
-    group.condition->columns.push_back(
-        columnIndex(node.attributes.value(QStringLiteral("column")), columns));
-  } else {
+  const QString& name = node.name;
+  group.bold = name == QLatin1String("b");
+  group.italic = name == QLatin1String("i");
+  group.smallCaps = name == QLatin1String("sc");
+  group.clause = name == QLatin1String("clause");
+  if (name == QLatin1String("if") || name == QLatin1String("unless"))
+    group.condition = conditionOf(node, t.columns);
+  else if (name == QLatin1String("change"))
+    group.condition = changeOf(node, t.columns);
+  else if (name == QLatin1String("m") || name == QLatin1String("f"))
+    group.condition = genderOf(node, t);
+  else if (group.bold || group.italic || group.smallCaps || group.clause)
     refuseAttributes(node, {});
-  }
-  group.children = readInlines(node, columns);
+  else
+    failUnknown(node);
+  group.children = readInlines(node, t);
   return group;
 }
 
@@ -108,17 +154,17 @@ int columnIndex(QString name, QStringList& columns) {
   return static_cast<int>(columns.size()) - 1;
 }
 
-std::vector<Inline> readInlines(const XmlNode& node, QStringList& columns) {
+std::vector<Inline> readInlines(const XmlNode& node, ReportTemplate& t) {
   std::vector<Inline> out;
   for (const XmlNode& child : node.children) {
     if (child.name.isEmpty()) {
-      addText(child, columns, out);
+      addText(child, t.columns, out);
     } else if (child.name == QLatin1String("br")) {
       Inline item;
       item.kind = Inline::Kind::Break;
       out.push_back(std::move(item));
     } else {
-      out.push_back(readGroup(child, columns));
+      out.push_back(readGroup(child, t));
     }
   }
   return out;
@@ -138,13 +184,16 @@ std::optional<Condition> readCondition(const XmlNode& node, const ConditionText&
   condition.negated = negated;
   for (const QString& name : names.split(QLatin1Char(','), Qt::SkipEmptyParts))
     condition.columns.push_back(columnIndex(name, columns));
-  if (!text.pattern.isEmpty()) {
-    condition.pattern.emplace(text.pattern, QRegularExpression::CaseInsensitiveOption |
-                                                QRegularExpression::UseUnicodePropertiesOption);
-    if (!condition.pattern->isValid())
-      failAt(node, QStringLiteral("«matches» no se entiende: %1").arg(text.pattern));
-  }
+  if (!text.pattern.isEmpty()) condition.pattern = readPattern(node, "matches", text.pattern);
   return condition;
+}
+
+QRegularExpression readPattern(const XmlNode& node, const char* attribute, const QString& pattern) {
+  QRegularExpression expression(pattern, QRegularExpression::CaseInsensitiveOption |
+                                             QRegularExpression::UseUnicodePropertiesOption);
+  if (!expression.isValid())
+    failAt(node, QStringLiteral("«%1» no se entiende: %2").arg(QLatin1String(attribute), pattern));
+  return expression;
 }
 
 bool isBlankText(const XmlNode& node) {

@@ -9,9 +9,10 @@
 
 namespace fidaleon::paper {
 
-/// The running text of an element: its text with {{Column}} place-holders, b, i, sc, br, if and
-/// unless. Columns not yet in `columns` are added. Throws Error(BrokenTemplate).
-std::vector<Inline> readInlines(const XmlNode& node, QStringList& columns);
+/// The running text of an element: its text with {{Column}} place-holders, b, i, sc, br, if,
+/// unless, change, clause, m and f. Columns that the template does not know yet are added to it.
+/// Throws Error(BrokenTemplate).
+std::vector<Inline> readInlines(const XmlNode& node, ReportTemplate& t);
 
 /// The condition of the attributes if, unless and matches; empty when none is given.
 struct ConditionText {
@@ -21,6 +22,8 @@ struct ConditionText {
 };
 std::optional<Condition> readCondition(const XmlNode& node, const ConditionText& text,
                                        QStringList& columns);
+/// A regular expression of an attribute: case does not count, letters are those of Unicode.
+QRegularExpression readPattern(const XmlNode& node, const char* attribute, const QString& pattern);
 
 /// Where a column stands in `columns`, to which it is added if it is not yet there.
 int columnIndex(QString name, QStringList& columns);

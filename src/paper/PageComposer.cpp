@@ -9,7 +9,18 @@ namespace fidaleon::paper {
 namespace {
 
 constexpr qreal kScaleStep = 0.04;
-constexpr qreal kHeaderGap = 4;  // millimetres
+constexpr qreal kHeaderGap = 4;   // millimetres
+constexpr qreal kEvenEnough = 1;  // millimetres
+
+bool cutsOrOverflows(const Page& page, qreal bottom) {
+  for (std::size_t i = 0; i < page.parts.size(); ++i) {
+    const Placed& part = page.parts[i];
+    if (part.isRow && part.top + part.content->height() > bottom) return true;
+    if (i > 0 && page.parts[i - 1].isRow == part.isRow && page.parts[i - 1].row == part.row)
+      return true;
+  }
+  return false;
+}
 
 }  // namespace
 
@@ -116,7 +127,8 @@ std::vector<FragmentPtr> PageComposer::headsOf(std::size_t row, std::size_t firs
   for (std::size_t i = first; i < t_.groupHeads.size(); ++i)
     if (FragmentPtr head =
             layout_.layOut(t_.groupHeads[i].blocks, source(row, 1), columnWidth(), true))
-      heads.push_back(std::move(head));
+      heads.push_back(std::make_shared<StackFragment>(std::vector{std::move(head)},
+                                                      StackFragment::Look{true, true, false}));
   return heads;
 }
 
@@ -153,7 +165,7 @@ bool PageComposer::mustStartPage(const Start& start, const Page& page) const {
 /// The opening stands above all columns of the page.
 qreal PageComposer::placeOpening(qreal top, Page& page, Start& start) {
   if (start.item >= openings()) return top;
-  Column across{dotsOfMillimetres(t_.marginLeft), top, top};
+  Column across{dotsOfMillimetres(t_.leftMargin(page.number)), top, bodyBottom(), top};
   if (FragmentPtr opening = bodyOf(start.item)) put(std::move(opening), across, page, start.item);
   ++start.item;
   return across.y;
@@ -174,7 +186,7 @@ bool PageComposer::fill(Column& column, Page& page, Start& start) {
     if (mustStartPage(start, page)) return false;
     FragmentPtr content = remaining(start, column.empty());
     if (!content) continue;
-    const qreal room = bodyBottom() - column.y;
+    const qreal room = column.bottom - column.y;
     if (content->height() <= room) {
       put(std::move(content), column, page, start.item);
       continue;
@@ -190,19 +202,45 @@ bool PageComposer::fill(Column& column, Page& page, Start& start) {
 }
 
 Page PageComposer::compose(Start& start) {
+  const Start begin = start;
+  Page page = composeTo(bodyBottom(), start);
+  if (t_.pageColumns < 2 || !atEnd(start)) return page;
+  return withEvenColumns(std::move(page), begin, start);
+}
+
+Page PageComposer::composeTo(qreal bottom, Start& start) {
   Page page;
   page.number = start.number;
   page.firstRow = page.lastRow = rowOf(start.item);
   const bool titlePage = start.item < openings() && t_.openingHasItsPage;
   const qreal top = placeOpening(bodyTop(start), page, start);
+  const qreal step = columnWidth() + dotsOfMillimetres(t_.pageColumnGap);
   for (int i = 0; i < t_.pageColumns && !titlePage; ++i) {
-    const qreal left = dotsOfMillimetres(t_.marginLeft) +
-                       i * (columnWidth() + dotsOfMillimetres(t_.pageColumnGap));
-    Column column{left, top, top};
+    const qreal left = dotsOfMillimetres(t_.leftMargin(page.number)) + i * step;
+    Column column{left, top, std::max(bottom, top), top};
     if (!fill(column, page, start)) break;
   }
   const bool newDocument = t_.flow == Flow::Page && start.cuts.empty();
   start.number = newDocument ? 1 : start.number + 1;
+  return page;
+}
+
+/// The columns of the last page end as high up as all that is left still fits.
+Page PageComposer::withEvenColumns(Page page, const Start& begin, Start& start) {
+  qreal enough = bodyBottom();
+  qreal tooLittle = bodyTop(begin);
+  while (enough - tooLittle > dotsOfMillimetres(kEvenEnough)) {
+    const qreal tried = (enough + tooLittle) / 2;
+    Start end = begin;
+    Page shorter = composeTo(tried, end);
+    if (!atEnd(end) || cutsOrOverflows(shorter, tried)) {
+      tooLittle = tried;
+      continue;
+    }
+    enough = tried;
+    page = std::move(shorter);
+    start = end;
+  }
   return page;
 }
 

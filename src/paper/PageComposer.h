@@ -49,7 +49,7 @@ class PageComposer {
 
  private:
   struct Column {
-    qreal left, top, y;
+    qreal left, top, bottom, y;
     bool empty() const { return y <= top; }
   };
 
@@ -76,6 +76,8 @@ class PageComposer {
   qreal placeOpening(qreal top, Page& page, Start& start);
   bool fill(Column& column, Page& page, Start& start);
   void put(FragmentPtr content, Column& column, Page& page, std::size_t item);
+  Page composeTo(qreal bottom, Start& start);
+  Page withEvenColumns(Page page, const Start& begin, Start& start);
 
   const ReportTemplate& t_;
   const Rows& rows_;

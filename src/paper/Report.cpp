@@ -2,6 +2,7 @@
 
 #include <QPageLayout>
 #include <QPainter>
+#include <QPainterPath>
 #include <QPdfWriter>
 #include <QPrinter>
 #include <QtMath>
@@ -9,6 +10,7 @@
 #include <cmath>
 #include <optional>
 #include <stdexcept>
+#include <utility>
 
 #include "paper/CheckedFile.h"
 #include "paper/Pages.h"
@@ -35,6 +37,7 @@ struct Report::Impl {
   void paint(QPainter& painter, int number);
   void paintFurniture(QPainter& painter, const Page& page, int total) const;
   void paintMarks(QPainter& painter, const Page& page);
+  QRectF areaOf(const Placed& part) const;
   void writePdf(QIODevice& to);
   void reportProgress(std::size_t done, std::size_t total) const {
     if (options.progress && !options.progress(done, total))
@@ -54,25 +57,80 @@ QPageLayout sheetOf(const ReportTemplate& t) {
                      wide ? QPageLayout::Landscape : QPageLayout::Portrait, QMarginsF());
 }
 
-void paintMark(QPainter& painter, const QString& word, const QRectF& area) {
-  painter.save();
-  QFont f = painter.font();
-  f.setBold(true);
-  f.setPixelSize(1000);
-  const QFontMetricsF metrics(f);
+constexpr int kLossesTold = 6;
+
+/// As an outline, not as text: what lies under it is found, marked and copied undisturbed.
+void paintMark(QPainter& painter, const QString& word, const QRectF& area, QFont face) {
+  face.setBold(true);
+  face.setPixelSize(1000);
+  QPainterPath outline;
+  outline.addText(0, 0, face, word);
+  const QRectF shape = outline.boundingRect();
   const qreal angle =
       std::min<qreal>(45, qRadiansToDegrees(std::atan2(area.height() * 0.8, area.width())));
-  const qreal room = std::hypot(area.width(), area.height()) * 0.62;
-  f.setPixelSize(
-      std::max(10, static_cast<int>(1000 * std::min(room / metrics.horizontalAdvance(word),
-                                                    area.height() * 0.8 / metrics.height()))));
+  const qreal scale = std::min(std::hypot(area.width(), area.height()) * 0.62 / shape.width(),
+                               area.height() * 0.5 / shape.height());
+  painter.save();
   painter.translate(area.center());
   painter.rotate(-angle);
-  painter.setFont(f);
-  painter.setPen(QColor(205, 205, 205));
-  const qreal far = area.width() + area.height();
-  painter.drawText(QRectF(-far, -far, 2 * far, 2 * far), Qt::AlignCenter, word);
+  painter.scale(scale, scale);
+  painter.translate(-shape.center());
+  painter.fillPath(outline, QColor(222, 222, 222));
   painter.restore();
+}
+
+/// Black and boxed, in the upper margin: a copy loses what is grey.
+void paintStampInMargin(QPainter& painter, const QString& word, const ReportTemplate& t,
+                        QFont face) {
+  face.setBold(true);
+  face.setPixelSize(qRound(dotsOfPoints(8)));
+  const QSizeF size = QFontMetricsF(face).size(Qt::TextSingleLine, word) +
+                      QSizeF(dotsOfMillimetres(4), dotsOfMillimetres(1));
+  const QRectF box(
+      QPointF((dotsOfMillimetres(t.page.width()) - size.width()) / 2, dotsOfMillimetres(4)), size);
+  painter.save();
+  painter.setPen(QPen(Qt::black, dotsOfMillimetres(0.3)));
+  painter.drawRect(box);
+  painter.setFont(face);
+  painter.drawText(box, Qt::AlignCenter, word);
+  painter.restore();
+}
+
+QString placeOf(const Rows& rows, std::size_t row) {
+  const Row at(rows, row);
+  const QString folio = at.value(QStringLiteral("Folio"));
+  if (rows.size() < 2 || isBlankValue(folio)) return {};
+  return QStringLiteral(" (folio %1, número %2)").arg(folio, at.value(QStringLiteral("Numero")));
+}
+
+/// Empty when every sign can be printed. To be called before the rows change their order.
+QString lossesOf(const Rows& rows, const QStringList& given) {
+  QStringList fields = given;
+  for (const Rows::Loss& loss : rows.losses())
+    fields << fieldName(rows.columns()[loss.column]) + placeOf(rows, loss.row);
+  if (fields.isEmpty()) return {};
+  QString told = fields.mid(0, kLossesTold).join(QStringLiteral("; "));
+  if (fields.size() > kLossesTold)
+    told += QStringLiteral("; y %1 más").arg(fields.size() - kLossesTold);
+  return QStringLiteral("Algún signo no se puede imprimir y sale como «?». Está en: %1.").arg(told);
+}
+
+/// The given values made fit for paper; the names of those that lost something.
+QStringList makePrintable(GivenValues& values, Printable& printable) {
+  QStringList lost;
+  for (auto& [name, value] : values) {
+    Printable::Text made = printable.of(value);
+    if (made.lost) lost << fieldName(name);
+    value = std::move(made.text);
+  }
+  return lost;
+}
+
+int markedRows(const Rows& rows, const ReportOptions& options) {
+  int marked = 0;
+  for (std::size_t row = 0; options.mark && row < rows.size(); ++row)
+    marked += options.mark(Row(rows, row)).isEmpty() ? 0 : 1;
+  return marked;
 }
 
 }  // namespace
@@ -87,6 +145,7 @@ Report::Impl::Impl(ReportTemplate t, Rows r, QString name, ReportOptions o)
       pages(layout, rows, binding, [this](std::size_t row) { return markOf(row); }) {
   sortRows(rows, layout, binding,
            options.order.empty() ? layout.order.toStdString() : options.order);
+  binding.forget();
 }
 
 const QString& Report::Impl::markOf(std::size_t row) {
@@ -107,8 +166,13 @@ Report::Report(store::Connection& reports, const std::filesystem::path& template
   ReportTemplate layout = readTemplate(templateDirectory, templateName);
   QStringList wanted = layout.columns;
   wanted << QStringLiteral("Libro") << QStringLiteral("Folio") << QStringLiteral("Numero");
-  Rows rows(reports, layout.table.toStdString(), wanted);
+  Printable printable(layout.fonts);
+  Rows rows(reports, layout.table.toStdString(), wanted, printable);
+  const QString losses = lossesOf(rows, makePrintable(options.values, printable));
+  if (!losses.isEmpty()) options.notices << losses;
   options.values[QStringLiteral("Filas")] = QString::number(rows.size());
+  if (layout.columns.contains(QStringLiteral("@Marcadas")))
+    options.values[QStringLiteral("Marcadas")] = QString::number(markedRows(rows, options));
   const bool whole = options.composition == ReportOptions::Composition::Whole;
   impl_ = std::make_unique<Impl>(std::move(layout), std::move(rows), std::move(title),
                                  std::move(options));
@@ -121,6 +185,9 @@ Report& Report::operator=(Report&&) noexcept = default;
 
 const QString& Report::title() const {
   return impl_->title;
+}
+const QStringList& Report::notices() const {
+  return impl_->options.notices;
 }
 std::size_t Report::rowCount() const {
   return impl_->rows.size();
@@ -155,7 +222,7 @@ int Report::heldPages() const {
 }
 
 void Report::Impl::paintFurniture(QPainter& painter, const Page& page, int total) const {
-  const qreal left = dotsOfMillimetres(layout.marginLeft);
+  const qreal left = dotsOfMillimetres(layout.leftMargin(page.number));
   if (const FragmentPtr header = pages.furniture(layout.header, page, total))
     header->paint(painter, {left, dotsOfMillimetres(layout.marginTop)});
   if (const FragmentPtr footer = pages.furniture(layout.footer, page, total))
@@ -163,20 +230,28 @@ void Report::Impl::paintFurniture(QPainter& painter, const Page& page, int total
                                                     kFooterGap)});
 }
 
-void Report::Impl::paintMarks(QPainter& painter, const Page& page) {
-  if (!options.mark || !layout.marksAcross) return;
+QRectF Report::Impl::areaOf(const Placed& part) const {
   const qreal gaps = layout.pageColumnGap * (layout.pageColumns - 1);
   const qreal width = dotsOfMillimetres(
       (layout.page.width() - layout.marginLeft - layout.marginRight - gaps) / layout.pageColumns);
-  const qreal bottom = dotsOfMillimetres(layout.page.height() - layout.marginBottom);
+  return {part.left, part.top, width, part.content->markedHeight()};
+}
+
+void Report::Impl::paintMarks(QPainter& painter, const Page& page) {
   QFont face;
   face.setFamilies(layout.fonts);
-  painter.setFont(face);
+  QString stamp = options.stamp;
   for (const Placed& part : page.parts) {
-    if (!part.isRow || markOf(part.row).isEmpty()) continue;
-    const qreal foot = layout.flow == Flow::Page ? bottom : part.top + part.content->height();
-    paintMark(painter, markOf(part.row), QRectF(part.left, part.top, width, foot - part.top));
+    if (!part.isRow || !layout.marksAcross || markOf(part.row).isEmpty()) continue;
+    QString word = markOf(part.row);
+    if (layout.flow == Flow::Page && !stamp.isEmpty())
+      word += QStringLiteral(" · ") + std::exchange(stamp, QString());
+    const QRectF area = areaOf(part);
+    if (area.height() > 0) paintMark(painter, word, area, face);
   }
+  if (!stamp.isEmpty())
+    paintMark(painter, stamp, QRectF(QPointF(), layout.page * dotsOfMillimetres(1)), face);
+  if (!options.stamp.isEmpty()) paintStampInMargin(painter, options.stamp, layout, face);
 }
 
 void Report::Impl::paint(QPainter& painter, int number) {

@@ -3,6 +3,7 @@
 #include <QImage>
 #include <QSizeF>
 #include <QString>
+#include <QStringList>
 #include <chrono>
 #include <filesystem>
 #include <functional>
@@ -24,14 +25,21 @@ struct ReportOptions {
   /// rows were written.
   std::string order;
   /// A word printed large across a row, such as "ANULADA", and by the template as {{@Marca}};
-  /// empty for none. Asked once per row. The row has the columns that the template reads, and
+  /// empty for none. Asked once per row, and once more where the template counts the marked
+  /// ones. The row has the columns that the template reads, and
   /// Libro, Folio and Numero.
   std::function<QString(const Row&)> mark;
+  /// A word printed large across every page and small above it, such as "MUESTRA"; empty for none.
+  /// Where a page is one row with a mark of its own, both words stand in one.
+  QString stamp;
+  /// What the user is to know before the document is signed: see Report::notices.
+  QStringList notices = {};
   /// Told after each page how many rows are laid out, or, once all are, how many pages are
   /// written or printed; false cancels.
   std::function<bool(std::size_t done, std::size_t total)> progress;
   /// What a template prints as {{@Name}}, by name without "@": the institution and the book of a
-  /// printed book, whose rows do not hold them. "Filas" and "Marca" are taken. Absent is blank.
+  /// printed book, whose rows do not hold them. "Filas", "Marcadas" and "Marca" are
+  /// taken. Absent is blank.
   GivenValues values;
   enum class Composition {
     Whole,     // the constructor lays out all pages
@@ -57,6 +65,8 @@ class Report {
   Report& operator=(Report&&) noexcept;
 
   const QString& title() const;
+  /// Those of the options, and which fields hold signs that are printed as "?".
+  const QStringList& notices() const;
   std::size_t rowCount() const;
   /// 0 when the table has no rows. Lays out what is left; may throw Error(Cancelled).
   int pageCount() const;

@@ -8,18 +8,6 @@
 namespace fidaleon::paper {
 namespace {
 
-QString printable(const std::string& stored) {
-  QString s = QString::fromStdString(text::sanitized(stored));
-  const bool plain = std::none_of(s.begin(), s.end(), [](QChar c) { return c < QLatin1Char(' '); });
-  if (plain) return s.isNull() ? QStringLiteral("") : s;
-  s.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
-  s.replace(QLatin1Char('\r'), QLatin1Char('\n'));
-  s.replace(QLatin1Char('\t'), QLatin1Char(' '));
-  while (s.endsWith(QLatin1Char('\n'))) s.chop(1);
-  s.replace(QLatin1Char('\n'), QChar(QChar::LineSeparator));
-  return s.isNull() ? QStringLiteral("") : s;
-}
-
 QStringList columnsOf(store::Connection& connection, const std::string& table) {
   const store::Recordset none = connection.Execute("SELECT * FROM " + table + " WHERE 1=0");
   QStringList names;
@@ -30,7 +18,8 @@ QStringList columnsOf(store::Connection& connection, const std::string& table) {
 
 }  // namespace
 
-Rows::Rows(store::Connection& connection, const std::string& table, const QStringList& wanted) {
+Rows::Rows(store::Connection& connection, const std::string& table, const QStringList& wanted,
+           Printable& printable) {
   std::string list;
   for (const QString& name : columnsOf(connection, table)) {
     if (!wanted.contains(name, Qt::CaseInsensitive)) continue;
@@ -47,8 +36,11 @@ Rows::Rows(store::Connection& connection, const std::string& table, const QStrin
     std::vector<QString>& row = rows_.emplace_back(static_cast<std::size_t>(count));
     for (int i = 0; i < count; ++i) {
       const store::Field field = rows.Fields(i);
-      if (!field.Value().isNull())
-        row[static_cast<std::size_t>(i)] = *known.insert(printable(field.Value().text()));
+      if (field.Value().isNull()) continue;
+      const std::string stored = text::sanitized(field.Value().text());
+      const Printable::Text made = printable.of(QString::fromStdString(stored));
+      row[static_cast<std::size_t>(i)] = *known.insert(made.text);
+      if (made.lost) losses_.push_back({rows_.size() - 1, i});
     }
   }
 }
@@ -75,8 +67,10 @@ QString Row::value(const QString& column) const {
 }
 
 bool isBlankValue(const QString& value) {
-  const QString trimmed = value.trimmed();
-  return trimmed.isEmpty() || trimmed == QLatin1String("---") || trimmed == QLatin1String("//");
+  QStringView rest = QStringView(value).trimmed();
+  while (rest.endsWith(QStringLiteral(" ."))) rest = rest.chopped(2).trimmed();
+  return rest.isEmpty() || rest == QLatin1String(".") || rest == QLatin1String("---") ||
+         rest == QLatin1String("//");
 }
 
 }  // namespace fidaleon::paper

@@ -5,16 +5,18 @@
 #include <string>
 #include <vector>
 
+#include "paper/Printable.h"
 #include "store/Connection.h"
 
 namespace fidaleon::paper {
 
-/// The rows of a scratch table, as text that may be printed: control characters are taken out.
+/// The rows of a scratch table, as text that can be printed.
 class Rows {
  public:
   /// All rows of the table, in the order in which they were written, with those of `wanted` that
   /// the table has. Throws store::Error.
-  Rows(store::Connection& connection, const std::string& table, const QStringList& wanted);
+  Rows(store::Connection& connection, const std::string& table, const QStringList& wanted,
+       Printable& printable);
   Rows(QStringList columns, std::vector<std::vector<QString>> rows);
 
   std::size_t size() const { return rows_.size(); }
@@ -28,9 +30,17 @@ class Rows {
 
   void arrange(const std::vector<std::size_t>& order);
 
+  /// A value of which something is printed as "?". The row is that of the reading.
+  struct Loss {
+    std::size_t row;
+    int column;
+  };
+  const std::vector<Loss>& losses() const { return losses_; }
+
  private:
   QStringList columns_;
   std::vector<std::vector<QString>> rows_;
+  std::vector<Loss> losses_;
 };
 
 /// One row, as it is handed to the caller's questions about it.
@@ -46,7 +56,8 @@ class Row {
   std::size_t index_;
 };
 
-/// Null, blanks, "---" and "//": nothing that a reader would miss.
+/// Null, blanks, "---" and "//", also where " . . ." fills the line behind them: nothing that a
+/// reader would miss.
 bool isBlankValue(const QString& value);
 
 }  // namespace fidaleon::paper

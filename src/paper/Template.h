@@ -3,8 +3,8 @@
 // the file. Columns are positions in ReportTemplate::columns.
 //
 // A column whose name begins with "@" is none of the table: "@Marca" is the word that marks the
-// row,
-// "@Filas" the count of rows, any other a value that the caller gives.
+// row, "@Filas" the count of rows, a formula's name its text, any other a value that the caller
+// gives.
 
 #include <QRegularExpression>
 #include <QSizeF>
@@ -24,10 +24,19 @@ struct Condition {
 };
 
 enum class Filter {
-  None,
   Upper,    // all capitals
   Capital,  // first letter a capital
-  Dashes,   // "---" for Null and blank
+  Letter,   // the letter it stands under in an index: a capital without accent; Ñ is its own
+  Weekday,  // of a date "dd/mm/yyyy", in the template's language; nothing of any other text
+};
+
+/// Mends the seam between a template's words and the value that follows them: of "el Presbítero D."
+/// and "Rvdo. D. Julián" one title goes, of "de" and "el Carmen" comes "del Carmen".
+struct Join {
+  QRegularExpression before;   // what the words end in
+  QRegularExpression value;    // what the value begins with
+  std::optional<QString> put;  // stands for what `before` found; without it that stays
+  bool cut = false;            // what `value` found is left out
 };
 
 struct Inline {
@@ -35,11 +44,13 @@ struct Inline {
   Kind kind = Kind::Text;
   QString text;
   int column = -1;
-  Filter filter = Filter::None;
+  std::vector<Filter> filters;
+  QString otherwise;       // printed where there is no value
   bool ofLastRow = false;  // of the last row of the page (or document), not of its first
   // A group: its children, under a condition, in another face.
   std::vector<Inline> children;
   std::optional<Condition> condition;
+  bool clause = false;  // left out when none of its place-holders has something to print
   bool bold = false;
   bool italic = false;
   bool smallCaps = false;
@@ -80,7 +91,10 @@ struct Block {
   std::vector<Inline> text;
   std::vector<Block> children;
   std::optional<Condition> condition;
+  bool clause = false;    // Paragraph, Field: left out when none of its values is known
   bool keep = false;      // not cut in two where it fits on a page
+  bool withNext = false;  // never the last thing on a page: a heading
+  bool clear = false;     // Group: a mark across the row ends above it
   qreal width = 0;        // Group in Columns: 0 shares what is left; Field: of the label
   qreal height = 0;       // Space, Box and WriteLines (at least)
   qreal gap = 0;          // Columns; WriteLines: between two lines
@@ -119,11 +133,16 @@ struct GroupHead {
 };
 
 struct ReportTemplate {
+  qreal leftMargin(int pageNumber) const {
+    return mirrored && pageNumber % 2 == 0 ? marginRight : marginLeft;
+  }
+
   QString name;
   QString table;
   QString language = QStringLiteral("es");
   QSizeF page{210, 297};
   qreal marginTop = 20, marginRight = 20, marginBottom = 20, marginLeft = 20;
+  bool mirrored = false;  // even pages, the backs of the sheets, swap left and right
   Flow flow = Flow::Page;
   qreal smallestScale = 1;  // type may shrink to this for a row to fit on one page
   QString order;            // of the rows, where the caller asks for none: "+{@Folio},-{@Numero}"
@@ -142,7 +161,10 @@ struct ReportTemplate {
   Furniture header;
   Furniture footer;
   std::vector<Formula> formulas;
-  QStringList columns;  // every column it reads, once each
+  std::vector<Join> joins;
+  QRegularExpression anyJoin;         // what the value of some join begins with
+  std::optional<Condition> feminine;  // the words of <f> are meant, not those of <m>
+  QStringList columns;                // every column it reads, once each
 };
 
 }  // namespace fidaleon::paper

@@ -1,6 +1,7 @@
 #include "paper/TemplateReader.h"
 
 #include <QHash>
+#include <QSet>
 #include <algorithm>
 #include <functional>
 
@@ -59,6 +60,8 @@ class Attributes {
   }
 
   const XmlNode& node() const { return node_; }
+  /// The named style, left to be read.
+  QString style() const { return left_.value(QStringLiteral("style")); }
 
  private:
   const XmlNode& node_;
@@ -88,6 +91,9 @@ class Reader {
     if (flowing && t_.flow != Flow::Continuous)
       failAt(root, QStringLiteral("«opening», «closing», «between», «group-head» y las columnas de "
                                   "página necesitan flow=\"continuous\""));
+    if (!joinValues_.isEmpty())
+      t_.anyJoin = readPattern(root, "value",
+                               QStringLiteral("^(?:%1)").arg(joinValues_.join(QLatin1Char('|'))));
     t_.readsTotal = t_.header.onlyWhenSeveral || t_.footer.onlyWhenSeveral ||
                     readsTotal(t_.header.blocks) || readsTotal(t_.footer.blocks);
     return std::move(t_);
@@ -100,6 +106,8 @@ class Reader {
         {QStringLiteral("font"), &Reader::readFont},
         {QStringLiteral("style"), &Reader::readStyle},
         {QStringLiteral("formula"), &Reader::readFormula},
+        {QStringLiteral("gender"), &Reader::readGender},
+        {QStringLiteral("join"), &Reader::readJoin},
         {QStringLiteral("header"), &Reader::readHeader},
         {QStringLiteral("footer"), &Reader::readFooter},
         {QStringLiteral("body"), &Reader::readBody},
@@ -123,6 +131,7 @@ class Reader {
     t_.marginLeft = a.number("left", t_.marginLeft);
     t_.pageColumns = static_cast<int>(a.number("columns", t_.pageColumns));
     t_.pageColumnGap = a.number("column-gap", t_.pageColumnGap);
+    t_.mirrored = a.flag("mirrored", t_.mirrored);
     a.done();
     if (t_.pageColumns < 1 ||
         t_.page.width() - t_.marginLeft - t_.marginRight <
@@ -144,6 +153,7 @@ class Reader {
     const QString name = a.text("name");
     if (name.isEmpty()) failAt(node, QStringLiteral("falta el atributo «name»"));
     styles_[name] = styleOf(a, base_);
+    if (a.flag("with-next", false)) headings_.insert(name);
     a.done();
   }
 
@@ -157,8 +167,32 @@ class Reader {
                                   {"date", Formula::As::Date}});
     a.done();
     if (f.name.isEmpty()) failAt(node, QStringLiteral("falta el atributo «name»"));
-    f.text = readInlines(node, t_.columns);
+    f.text = readInlines(node, t_);
     t_.formulas.push_back(std::move(f));
+  }
+
+  void readGender(const XmlNode& node) {
+    Attributes a(node);
+    t_.feminine = readCondition(node, {a.text("column"), {}, a.text("feminine")}, t_.columns);
+    a.done();
+    if (!t_.feminine || !t_.feminine->pattern)
+      failAt(node, QStringLiteral("«gender» necesita «column» y «feminine»"));
+  }
+
+  void readJoin(const XmlNode& node) {
+    Attributes a(node);
+    Join join;
+    const QString before = a.text("before");
+    const QString value = a.text("value");
+    if (before.isEmpty() || value.isEmpty())
+      failAt(node, QStringLiteral("«join» necesita «before» y «value»"));
+    join.before = readPattern(node, "before", QStringLiteral("(?:%1)$").arg(before));
+    join.value = readPattern(node, "value", QStringLiteral("^(?:%1)").arg(value));
+    if (node.attributes.contains(QStringLiteral("put"))) join.put = a.text("put");
+    join.cut = a.flag("cut", false);
+    joinValues_ << value;
+    a.done();
+    t_.joins.push_back(std::move(join));
   }
 
   void readHeader(const XmlNode& node) { readFurniture(node, t_.header); }
@@ -240,12 +274,16 @@ class Reader {
   }
 
   void readParagraph(Attributes& a, Block& block) {
+    const QString named = a.style();
     block.style = namedStyle(a);
-    block.text = readInlines(a.node(), t_.columns);
+    block.withNext = a.flag("with-next", headings_.contains(named));
+    block.clause = a.flag("clause", false);
+    block.text = readInlines(a.node(), t_);
   }
 
   void readGroup(Attributes& a, Block& block) {
     block.keep = a.flag("keep", false);
+    block.clear = a.flag("clear", false);
     block.width = a.number("width", 0);
     block.children = readBlocks(a.node());
   }
@@ -273,7 +311,8 @@ class Reader {
   void readField(Attributes& a, Block& block) {
     XmlNode label = a.node();
     label.children = {{{}, a.text("label"), {}, {}, label.file, label.line}};
-    block.label = readInlines(label, t_.columns);
+    block.label = readInlines(label, t_);
+    block.clause = a.flag("clause", false);
     block.width = a.number("label-width", 0);
     block.writeIn = a.flag("write-in", false);
     block.style = namedStyle(a);
@@ -281,7 +320,7 @@ class Reader {
     block.valueStyle.leading = 1;
     block.labelStyle = styles_.value(QStringLiteral("label"), base_);
     block.labelStyle.align = Qt::AlignLeft;
-    block.text = readInlines(a.node(), t_.columns);
+    block.text = readInlines(a.node(), t_);
   }
 
   void readRule(Attributes& a, Block& block) {
@@ -338,8 +377,10 @@ class Reader {
   }
 
   ReportTemplate t_;
+  QStringList joinValues_;
   TextStyle base_;
   QHash<QString, TextStyle> styles_;
+  QSet<QString> headings_;  // styles of paragraphs that stay with what follows
 };
 
 }  // namespace

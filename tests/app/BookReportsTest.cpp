@@ -4,6 +4,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QLabel>
 #include <QProgressDialog>
 #include <QTest>
 
@@ -31,13 +32,14 @@ class BookReports : public ParishTest {
     return makeReport(*desk, *findDocument(command, FDAPI::cCAplicacion::APP_FIDALEON_MADRID), BOOK,
                       std::move(options));
   }
+  static void ask(forms::FormDriver& d, const std::string& year) {
+    d.chooseData("cboInstitucion", 1);
+    d.type("adtpAno", year);
+    d.choose("cboOrden", "Fecha de Bautismo");
+    d.click("cmdBoton(0)");
+  }
   std::optional<paper::Report> duplicate(const std::string& year) {
-    user.expectForm("frmInfDuplicadas", [year](forms::FormDriver& d) {
-      d.chooseData("cboInstitucion", 1);
-      d.type("adtpAno", year);
-      d.choose("cboOrden", "Fecha de Bautismo");
-      d.click("cmdBoton(0)");
-    });
+    user.expectForm("frmInfDuplicadas", [year](forms::FormDriver& d) { ask(d, year); });
     return makeDuplicate(*desk, CcNodos::INFDUPLICADASBAUTISMO);
   }
   std::int64_t entriesOfBook() {
@@ -52,7 +54,8 @@ class BookReports : public ParishTest {
                         "NombreHijo",
                         "PrimerApellidoHijo",
                         "SegundoApellidoHijo"};
-    const paper::Rows rows(desk->reports(), "Documentos_Bautismo", columns);
+    paper::Printable printable({});
+    const paper::Rows rows(desk->reports(), "Documentos_Bautismo", columns, printable);
     int n = 0;
     for (std::size_t i = 0; i < rows.size(); ++i)
       n += annulled.mark(paper::Row(rows, i)).isEmpty() ? 0 : 1;
@@ -141,10 +144,7 @@ TEST_F(BookReports, duplicate_thatFailsInTheMiddle_leavesNoTransactionAndNoRow) 
   failAtTheSecondRow();
   user.answerAnything(forms::Answer::Ok);
   user.expectForm("frmInfDuplicadas", [](forms::FormDriver& d) {
-    d.chooseData("cboInstitucion", 1);
-    d.type("adtpAno", "2015");
-    d.choose("cboOrden", "Fecha de Bautismo");
-    d.click("cmdBoton(0)");
+    ask(d, "2015");
     d.form().Unload();
   });
   EXPECT_FALSE(makeDuplicate(*desk, CcNodos::INFDUPLICADASBAUTISMO));
@@ -165,6 +165,16 @@ TEST_F(BookReports, stoppedWhileItsRowsAreWritten_isNothingAndCanBeAskedForAgain
   ASSERT_EQ(impatient.messages().size(), 1u);
   EXPECT_EQ(impatient.messages().front().text, forms::Cancelled().what());
   EXPECT_FALSE(desk->reports().inTransaction());
+  desk->parish().Execute("UPDATE Bautismo SET FechaBautismo=\"20150101\"");
+  impatient.expectForm("frmInfDuplicadas", [&](forms::FormDriver& d) {
+    ask(d, "2015");
+    EXPECT_FALSE(d.closed());
+    EXPECT_FALSE(desk->reports().inTransaction());
+    EXPECT_EQ(desk->reports().Execute("SELECT * FROM Documentos_Bautismo").RecordCount(), 0);
+    d.form().Unload();
+  });
+  EXPECT_FALSE(makeDuplicate(*desk, CcNodos::INFDUPLICADASBAUTISMO));
+  EXPECT_EQ(impatient.messages().size(), 2u);
   impatient.stops = false;
   const auto report = make("libro");
   ASSERT_TRUE(report);
@@ -189,6 +199,19 @@ TEST_F(BookReports, header_namesInstitutionDioceseAndTown) {
   EXPECT_EQ(values["Diocesis"], "Archidiócesis de Toledo");
   EXPECT_EQ(values["Poblacion"], "");
   EXPECT_TRUE(bookHeader(desk->parish(), 99, false).empty());
+}
+
+TEST_F(BookReports, certificateWithoutKeeper_isSaidAboveItsPage) {
+  user.expectForm("frmEncargado", [](forms::FormDriver& d) { d.escape(); });
+  auto report = make("certificado");
+  ASSERT_TRUE(report);
+  PreviewDialog preview(std::move(*report));
+  preview.show();
+  const auto* notice = preview.findChild<QLabel*>("notices");
+  ASSERT_TRUE(notice && notice->isVisible());
+  EXPECT_THAT(notice->text().toStdString(), ::testing::HasSubstr("no dice quién lo firma"));
+  const auto unsaid = make("partida");
+  EXPECT_TRUE(unsaid->notices().isEmpty());
 }
 
 TEST_F(BookReports, preview_showsItsFirstPageAndCountsTheRest) {

@@ -2,7 +2,6 @@
 
 #include "BautismoWorld.h"
 #include "documents/TextRules.h"
-#include "documents/TextosPartida.h"
 #include "store/FailingEngine.h"
 
 namespace fidaleon::tests {
@@ -230,16 +229,6 @@ TEST(TextRules, GenderTest_IsExact) {
   EXPECT_STREQ(documents::WORDS_ENTRY.child(""), "a la niña");
   EXPECT_STREQ(documents::formOfAddress("Hombre"), "D.");
   EXPECT_STREQ(documents::formOfAddress("mujer"), "D./Dª");
-}
-
-TEST(TextosPartida, Identifiers_FindTheirTexts) {
-  using documents::textoPartida;
-  EXPECT_STREQ(textoPartida(28000), "Libro:");
-  EXPECT_STREQ(textoPartida(28019), " natural de");
-  EXPECT_STREQ(textoPartida(28030), "el");
-  EXPECT_STREQ(textoPartida(28042), "Y para que conste lo firmo, fecha ut supra");
-  EXPECT_STREQ(textoPartida(28043), "");
-  EXPECT_STREQ(textoPartida(27999), "");
 }
 
 }  // namespace

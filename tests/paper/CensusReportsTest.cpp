@@ -200,13 +200,13 @@ TEST_F(CensusReport, agenda_isCutByDays) {
   const std::string printed = pdfText(open("InformeAgenda", options));
   EXPECT_THAT(printed, HasSubstr("PARROQUIA DE SAN GINÉS"));
   EXPECT_THAT(printed, HasSubstr("01/12/2026 – 02/12/2026 · Tareas: 3"));
-  EXPECT_THAT(printed, HasSubstr("01/12/2026 09:30 – 10:15 Misa Con los niños de primera comunión "
-                                 "18:00 Vísperas 02/12/2026 Limpieza"));
+  EXPECT_THAT(printed, HasSubstr("Martes, 01/12/2026 09:30 – 10:15 Misa Con los niños de primera "
+                                 "comunión 18:00 Vísperas Miércoles, 02/12/2026 Limpieza"));
 }
 
 TEST_F(CensusReport, oneDay_isNamedOnce) {
   addTask("01/12/2026", "09:30", "10:15", "Misa");
-  EXPECT_THAT(text("InformeAgenda"), HasSubstr("01/12/2026 · Tareas: 1 01/12/2026 09:30"));
+  EXPECT_THAT(text("InformeAgenda"), HasSubstr("01/12/2026 · Tareas: 1 Martes, 01/12/2026"));
 }
 
 TEST_F(CensusReport, withoutRows_hasNoPage) {
