@@ -31,13 +31,17 @@ void oldEntry(Workplace& w, const Choice& c) {
 void openEntry(Workplace& w, const Choice& c) {
   w.nucleo().PropiedadesPartida(w.parish(), c.id, w.config(), nodeName(c));
 }
+// The list may have been read before another desk changed the entry.
 void toggleAnnulled(Workplace& w, const Choice& c) {
-  w.nucleo().AnularPartidas(w.parish(), c.id, w.config(), nodeName(c));
-}
-void annulEntry(Workplace& w, const Choice& c) {
-  if (forms::ask(w.entorno().ui,
-                 "La partida quedará anulada: conservará su folio y su número. ¿Desea anularla?"))
-    toggleAnnulled(w, c);
+  w.nucleo().AnularPartidas(w.parish(), c.id, w.config(), nodeName(c), [&](bool annulled) {
+    if (annulled != c.annulled) {
+      avisarYaEsta(w.entorno().ui, annulled);
+      return false;
+    }
+    return annulled || forms::ask(w.entorno().ui,
+                                  "La partida quedará anulada: conservará su folio y su número. "
+                                  "¿Desea anularla?");
+  });
 }
 void deleteEntry(Workplace& w, const Choice& c) {
   w.nucleo().EliminarPartida(w.parish(), c.id, w.config(), nodeName(c));
@@ -112,7 +116,7 @@ void addEntryCommands(std::vector<Command>& all) {
                                      ENTRIES, Needs::Row, openEntry))));
   all.push_back(inToolbar("annul", line("anular", "&Anular", "Ctrl+U",
                                         "Anula la partida: conserva su folio y su número", ENTRIES,
-                                        Needs::ValidRow, annulEntry)));
+                                        Needs::ValidRow, toggleAnnulled)));
   all.push_back(inToolbar(
       "valid", line("validar", "&Validar", "Ctrl+U", "Devuelve su validez a la partida anulada",
                     ENTRIES, Needs::AnnulledRow, toggleAnnulled)));

@@ -47,14 +47,10 @@ bool wholeTable(Kind kind) {
   return kind == Kind::Table || kind == Kind::SharedTable;
 }
 
-std::string whoHas(const HeldEntry& held, const Holder& own) {
-  const bool here = held.holder.host == own.host && held.holder.process == own.process;
-  const std::string what =
-      held.entry.kind == Kind::Table ? "Tiene reservado todo el conjunto: " : "Lo está usando: ";
-  const std::string who = held.holder.user.empty() ? "usuario sin nombre" : held.holder.user;
-  const std::string where =
-      here ? "este mismo equipo, en otra ventana del programa" : "el equipo " + held.holder.host;
-  return what + who + ", en " + where + ", desde el " + held.holder.since + ".";
+/// "la tiene" of "la partida de bautismo".
+std::string isHeld(const std::string& what) {
+  const std::string article = what.substr(0, what.find(' '));
+  return (article == "el" ? "lo" : article) + " tiene ";
 }
 
 }  // namespace
@@ -69,17 +65,35 @@ std::string allOf(const std::string& table) {
   return w ? w->all : "los registros de " + table;
 }
 
+std::string whoAndSince(const Holder& holder, const Holder& own) {
+  const bool here = holder.host == own.host && holder.process == own.process;
+  const std::string who = holder.user.empty() ? "usuario sin nombre" : holder.user;
+  const std::string where =
+      here ? "este mismo equipo, en otra ventana del programa" : "el equipo " + holder.host;
+  return who + ", en " + where + ", desde el " + holder.since;
+}
+
 std::string refusal(const LockEntry& wanted, const HeldEntry& held, const Holder& own) {
   std::string text;
   if (wholeTable(wanted.kind))
     text = "En este momento no se puede trabajar con " + allOf(wanted.table) + ".";
   else
     text = "En este momento no se puede abrir " + oneOf(wanted.table) + ".";
-  return text + "\n" + whoHas(held, own) + "\nInténtelo de nuevo cuando termine.";
+  const std::string what =
+      held.entry.kind == Kind::Table ? "Tiene reservado todo el conjunto: " : "Lo está usando: ";
+  return text + "\n" + what + whoAndSince(held.holder, own) +
+         ".\nInténtelo de nuevo cuando termine.";
 }
 
-std::string recordGone(const LockEntry& wanted) {
-  return "Ya no existe " + oneOf(wanted.table) +
+std::string refusal(const LockEntry& wanted, const HeldEntry& held, const Holder& own,
+                    const std::string& consequence) {
+  const bool all = wholeTable(wanted.kind) || held.entry.kind == Kind::Table;
+  const std::string what = all ? allOf(wanted.table) : oneOf(wanted.table);
+  return consequence + ": " + what + " " + isHeld(what) + whoAndSince(held.holder, own) + ".";
+}
+
+std::string recordGone(const std::string& table) {
+  return "Ya no existe " + oneOf(table) +
          ": se ha eliminado desde otro puesto. Actualice la lista.";
 }
 

@@ -11,8 +11,13 @@ namespace fidaleon::locks {
 std::string oneOf(const std::string& table);
 std::string allOf(const std::string& table);
 
-/// What the user is told when a lock is refused. `own` is who asked.
+/// "luis, en el equipo SACRISTIA, desde el 22/11/2026 a las 10:30". `own` is who asked.
+std::string whoAndSince(const Holder& holder, const Holder& own);
+/// What the user is told when a lock is refused and nothing can be done without it.
 std::string refusal(const LockEntry& wanted, const HeldEntry& held, const Holder& own);
-std::string recordGone(const LockEntry& wanted);
+/// The same when the work goes on: what that means, and who has what.
+std::string refusal(const LockEntry& wanted, const HeldEntry& held, const Holder& own,
+                    const std::string& consequence);
+std::string recordGone(const std::string& table);
 
 }  // namespace fidaleon::locks

@@ -65,6 +65,10 @@ void ProcesarBloqueos::DefinirBloqueo(DefinicionBloqueo definicion) {
   pending_.push_back(std::move(definicion));
 }
 
+void ProcesarBloqueos::AlRehusar(FDAPI::ErrorBloqueo error, const std::string& strConsecuencia) {
+  consequences_[error] = strConsecuencia;
+}
+
 long ProcesarBloqueos::lngEfectuarBloqueos(bool blnSoloComprobar) {
   Outcome outcome;
   lastError_ = FDAPI::BloqueoSesion;  // stands if a statement of the definitions throws
@@ -72,9 +76,11 @@ long ProcesarBloqueos::lngEfectuarBloqueos(bool blnSoloComprobar) {
   try {
     outcome = attempt(blnSoloComprobar);
   } catch (const Unusable& e) {
-    outcome = {FDAPI::BloqueoSesion, e.what()};
+    outcome = {FDAPI::BloqueoSesion, e.what(), {}};
   }
+  consequences_.clear();
   lastError_ = outcome.error;
+  lastHolder_ = outcome.holder;
   pendingRefused_ = outcome.error != FDAPI::BloqueoNinguno;
   if (!pendingRefused_ && !blnSoloComprobar) pending_.clear();
   if (pendingRefused_) forms::warn(ui_, outcome.message);
@@ -82,7 +88,7 @@ long ProcesarBloqueos::lngEfectuarBloqueos(bool blnSoloComprobar) {
 }
 
 ProcesarBloqueos::Outcome ProcesarBloqueos::attempt(bool onlyTest) {
-  if (!directory_) return {FDAPI::BloqueoSesion, "La sesión de bloqueos no se ha abierto."};
+  if (!directory_) return {FDAPI::BloqueoSesion, "La sesión de bloqueos no se ha abierto.", {}};
   const SharedDirectory::Guard guard = directory_->enter();
   std::vector<LockEntry> wanted;
   Outcome outcome = tryAll(guard, wanted);
@@ -95,23 +101,35 @@ ProcesarBloqueos::Outcome ProcesarBloqueos::attempt(bool onlyTest) {
 ProcesarBloqueos::Outcome ProcesarBloqueos::tryAll(const SharedDirectory::Guard& guard,
                                                    std::vector<LockEntry>& wanted) {
   for (const DefinicionBloqueo& d : pending_) {
-    if (const auto gone = missing(d)) return {FDAPI::BloqueoRegistroNoExiste, recordGone(*gone)};
+    if (missing(d))
+      return {FDAPI::BloqueoRegistroNoExiste,
+              d.strNoExiste.empty() ? recordGone(d.strTabla) : d.strNoExiste,
+              {}};
     for (LockEntry& e : resolve(d)) wanted.push_back(std::move(e));
   }
   const std::vector<HeldEntry> others = directory_->others(guard);
   for (const LockEntry& e : wanted) {
     const auto other = std::find_if(others.begin(), others.end(),
                                     [&](const HeldEntry& held) { return conflict(e, held.entry); });
-    if (other != others.end()) return {errorFor(e.kind), refusal(e, *other, self())};
+    if (other != others.end()) return refused(e, *other);
   }
   return {};
 }
 
-std::optional<LockEntry> ProcesarBloqueos::missing(const DefinicionBloqueo& d) const {
-  if (!d.blnComprobarExisteRegistro) return std::nullopt;
+ProcesarBloqueos::Outcome ProcesarBloqueos::refused(const LockEntry& wanted,
+                                                    const HeldEntry& held) const {
+  const long error = errorFor(wanted.kind);
+  const auto consequence = consequences_.find(error);
+  return {error,
+          consequence == consequences_.end() ? refusal(wanted, held, self())
+                                             : refusal(wanted, held, self(), consequence->second),
+          whoAndSince(held.holder, self())};
+}
+
+bool ProcesarBloqueos::missing(const DefinicionBloqueo& d) const {
+  if (!d.blnComprobarExisteRegistro) return false;
   const std::string sql = existenceStatement(d);
-  if (sql.empty() || !d.conBd || !d.conBd->Execute(sql).EOF_()) return std::nullopt;
-  return LockEntry{kindOf(d), d.strTabla, d.strRegistro, d.lngContador};
+  return !sql.empty() && d.conBd && d.conBd->Execute(sql).EOF_();
 }
 
 std::vector<LockEntry> ProcesarBloqueos::resolve(const DefinicionBloqueo& d) const {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <map>
 #include <optional>
 #include <string>
 #include <vector>
@@ -23,6 +24,8 @@ class ProcesarBloqueos : public FDAPI::cProcesarBloqueos {
   void DefinirBloqueo(FDAPI::DefinicionBloqueo definicion) override;
   long lngEfectuarBloqueos(bool blnSoloComprobar = false) override;
   long lngUltimoBloqueoError() const override { return lastError_; }
+  void AlRehusar(FDAPI::ErrorBloqueo error, const std::string& strConsecuencia) override;
+  std::string strPoseedor() const override { return lastHolder_; }
   void LiberarBloqueo(const std::string& strTabla) override;
   void LiberarBloqueos() override;
 
@@ -30,10 +33,12 @@ class ProcesarBloqueos : public FDAPI::cProcesarBloqueos {
   struct Outcome {
     long error = FDAPI::BloqueoNinguno;
     std::string message;
+    std::string holder;
   };
   Outcome attempt(bool onlyTest);
+  Outcome refused(const LockEntry& wanted, const HeldEntry& held) const;
   Outcome tryAll(const SharedDirectory::Guard& guard, std::vector<LockEntry>& wanted);
-  std::optional<LockEntry> missing(const FDAPI::DefinicionBloqueo& definition) const;
+  bool missing(const FDAPI::DefinicionBloqueo& definition) const;
   std::vector<LockEntry> resolve(const FDAPI::DefinicionBloqueo& definition) const;
   long errorFor(Kind kind) const;
   bool sharesRecord() const;
@@ -48,7 +53,9 @@ class ProcesarBloqueos : public FDAPI::cProcesarBloqueos {
   std::vector<FDAPI::DefinicionBloqueo> pending_;
   bool pendingRefused_ = false;
   std::vector<HeldEntry> held_;
+  std::map<long, std::string> consequences_;  // of a refusal, by its kind
   long lastError_ = FDAPI::BloqueoNinguno;
+  std::string lastHolder_;
 };
 
 }  // namespace fidaleon::locks

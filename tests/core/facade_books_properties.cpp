@@ -76,17 +76,22 @@ TEST(FacadeBooks, ActionsOnEntries_DefineTheirOwnLocks) {
 }
 
 TEST(FacadeBooks, RefusedLocks_LeaveWhatTheirValueLeaves) {
-  for (const long valor : {1L, 2L, 3L, 4L, 5L, 6L}) {
+  // Without a shared part the book is asked for alone; the second answer is to that.
+  const std::vector<std::vector<long>> respuestas{{1},    {2},    {4},    {5},
+                                                  {3, 0}, {6, 0}, {6, 3}, {6, 1}};
+  for (const std::vector<long>& r : respuestas) {
     SpyWorld w;
-    w.spy.answer = valor;
-    const bool soloNombre = valor == 3 || valor == 6;
-    if (valor > 2)
+    w.spy.answers = r;
+    const std::string cuales = ::testing::PrintToString(r);
+    if (r.back() == 0 || r.back() > 2)
       w.user.expectForm(DIALOGO, [&](FormDriver& u) {
-        EXPECT_EQ(u.enabled("txtNombreLibro"), !soloNombre) << valor;
-        EXPECT_EQ(u.enabled("cboTipoNombre"), !soloNombre) << valor;
-        EXPECT_EQ(u.enabled("cmdBoton(0)"), soloNombre) << valor;
+        const bool sinNombre = r.size() > 1;
+        const bool delLibro = r.back() == 0;
+        EXPECT_EQ(u.enabled("txtNombreLibro"), !sinNombre) << cuales;
+        EXPECT_EQ(u.enabled("cboTipoNombre"), !sinNombre) << cuales;
+        EXPECT_EQ(u.enabled("cmdBoton(0)"), delLibro) << cuales;
         for (int i = 0; i < 4; ++i)
-          EXPECT_EQ(u.enabled("cmdPartidas(" + std::to_string(i) + ")"), soloNombre) << valor;
+          EXPECT_EQ(u.enabled("cmdPartidas(" + std::to_string(i) + ")"), delLibro) << cuales;
         EXPECT_TRUE(u.enabled("cmdBoton(1)"));
         cancelarLibro(u);
       });
@@ -152,12 +157,25 @@ TEST(FacadeBooks, EntryOpenFromTheTree_KeepsTheListReadOnly) {
   EXPECT_SCRIPT_DONE(w.otherUser);
 }
 
-TEST(FacadeBooks, NameTypesHeldElsewhere_OnlyTheNameIsFixed) {
+TEST(FacadeBooks, InstitutionHeldElsewhere_FixesTheNameButTheBookIsStillHeld) {
   FacadeWorld w;
-  const auto otra = w.ocupar("Libros_TipoNombre");
-  w.user.answerAnything(Answer::Ok);
+  OtroPuesto otro(w);
+  const auto otra = w.ocupar("Institucion", std::to_string(w.parroquia).c_str());
+  w.user.expectMessage(
+      "El nombre del libro y su tipo no se pueden cambiar: la institución la tiene luis, en el "
+      "equipo SACRISTIA, desde el 22/11/2026 a las 10:30.");
   w.user.expectForm(DIALOGO, [&](FormDriver& u) {
     EXPECT_FALSE(u.enabled("txtNombreLibro"));
+    w.otherUser.answerAnything(Answer::Ok);
+    w.otherUser.expectForm(DIALOGO, [](FormDriver& v) {
+      EXPECT_FALSE(v.enabled("cmdPartidas(0)")) << "two desks would give one position twice";
+      v.escape();
+    });
+    otro.nucleo.PropiedadesLibro(w.con(), 1, otro.config, NODO);
+    ASSERT_EQ(w.otherUser.messages().size(), 2u);
+    EXPECT_THAT(
+        w.otherUser.messages()[1].text,
+        ::testing::StartsWith("Solo se puede consultar: el libro de bautismo lo tiene ana"));
     u.type("dtpFecha", "2/1/2003");
     u.click("cmdBoton(0)");
     EXPECT_TRUE(u.closed());
@@ -166,6 +184,7 @@ TEST(FacadeBooks, NameTypesHeldElsewhere_OnlyTheNameIsFixed) {
   EXPECT_EQ(w.value("SELECT FechaCreacion FROM Libro_Bautismo"), "20030102");
   EXPECT_EQ(w.value("SELECT Nombre FROM Libro_Bautismo"), "2003/01");
   EXPECT_SCRIPT_DONE(w.user);
+  EXPECT_SCRIPT_DONE(w.otherUser);
 }
 
 TEST(FacadeBooks, BookGone_OpensNothing) {

@@ -64,7 +64,8 @@ TEST(FacadeLocks, Requests_LockTheTableWhenNewTheRecordWhenEdited) {
   EXPECT_THAT(
       w.bloqueos(),
       ElementsAre("Institucion compartida", "Provincia compartida", "Municipio compartida",
-                  "Bautismo [1] existe [SELECT IDBautismo FROM Bautismo WHERE IDBautismo=1]",
+                  "Bautismo [1] existe [SELECT IDBautismo FROM Bautismo WHERE IDBautismo=1 AND "
+                  "CodLibro=0]",
                   "efectuar", "liberar"));
   EXPECT_SCRIPT_DONE(w.user);
 }
@@ -103,7 +104,7 @@ TEST(FacadeLocks, AnularPartidas_LocksTheEntry) {
 
 TEST(FacadeLocks, Refused_EndsSilentlyAndGivesNothingBack) {
   SpyWorld w;
-  w.spy.answer = FDAPI::BloqueoTabla;
+  w.spy.answers = {FDAPI::BloqueoTabla};
   const std::vector<std::function<void()>> operaciones{
       [&] { w.nucleo.NuevaPartida(w.con(), w.config, "PartidasBautismo"); },
       [&] { w.nucleo.AntiguaPartida(w.con(), w.config, "PartidasBautismo"); },
@@ -141,7 +142,7 @@ TEST(FacadeLocks, Books_AreLockedAfterTheQuestionAndGivenBackUnlessRefused) {
     orden(sinPermiso);
     EXPECT_THAT(sinPermiso.bloqueos(), ElementsAre("liberar"));
     SpyWorld rehusado;
-    rehusado.spy.answer = FDAPI::BloqueoRegistro;
+    rehusado.spy.answers = {FDAPI::BloqueoRegistro};
     rehusado.user.answerAnything(forms::Answer::Yes);
     orden(rehusado);
     EXPECT_THAT(rehusado.bloqueos(), ElementsAre(libro, "efectuar"));
@@ -159,7 +160,7 @@ TEST(FacadeLocks, Books_AreLockedAfterTheQuestionAndGivenBackUnlessRefused) {
 TEST(FacadeLocks, RecordGoneOrSessionFailed_OpensNothing) {
   for (const long error : {FDAPI::BloqueoRegistroNoExiste, FDAPI::BloqueoSesion}) {
     SpyWorld w;
-    w.spy.answer = error;
+    w.spy.answers = {error};
     w.nucleo.PropiedadesPartida(w.con(), 1, w.config, "PartidasBautismo");
     EXPECT_EQ(w.bloqueos().back(), "efectuar");
     w.nucleo.PropiedadesSolicitudes(w.con(), 1, w.config, "SolicitudesBautismo");
@@ -172,7 +173,7 @@ TEST(FacadeLocks, HeldByAnother_OpensWithTheCancelButtonOnly) {
   for (const long error : {FDAPI::BloqueoRegistro, FDAPI::BloqueoRegistroConPadres,
                            FDAPI::BloqueoTabla, FDAPI::BloqueoCompartido}) {
     SpyWorld w;
-    w.spy.answer = error;
+    w.spy.answers = {error};
     const auto soloCancelar = [](forms::FormDriver& u) {
       for (forms::Control* control : u.form().controls()) {
         if (!dynamic_cast<forms::Button*>(control)) continue;

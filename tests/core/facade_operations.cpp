@@ -67,7 +67,10 @@ TEST(FacadeDialogs, EntryOpenElsewhere_ReadOnlyAndNoLockLeft) {
     const auto otra = w.ocupar("Bautismo", "1");
     w.user.answerAnything(Answer::Ok);
     w.user.expectForm("frmPartidaBautismo", [&](FormDriver& u) {
-      EXPECT_EQ(w.user.messages().size(), 1u) << "the lock service has told who holds it";
+      ASSERT_EQ(w.user.messages().size(), 1u) << "the lock service has told who holds it";
+      EXPECT_THAT(w.user.messages()[0].text,
+                  ::testing::StartsWith("Solo se puede consultar: la partida de bautismo la tiene "
+                                        "luis, en el equipo SACRISTIA"));
       EXPECT_FALSE(u.enabled("cmdBautismo(0)"));
       cancelar(u);
     });
@@ -104,6 +107,29 @@ TEST(FacadeAnnul, Twice_EndsAsItBegan) {
   w.nucleo.AnularPartidas(w.con(), 1, w.config, NODO);
   EXPECT_EQ(w.count("Bautismo WHERE Anulada = true"), 0);
   w.esperarLibre();
+}
+
+TEST(FacadeAnnul, ChangedByAnotherDesk_IsAskedByTheTableAndLeftAlone) {
+  FacadeWorld w;
+  const auto preguntar = [&](bool vista, bool otroPuesto) {
+    return [&w, vista, otroPuesto](bool anulada) {
+      EXPECT_EQ(anulada, vista);
+      if (otroPuesto) w.run(std::string("UPDATE Bautismo SET Anulada=") + (anulada ? "0" : "1"));
+      return true;
+    };
+  };
+  w.nucleo.AnularPartidas(w.con(), 1, w.config, NODO, preguntar(false, false));
+  EXPECT_EQ(w.count("Bautismo WHERE Anulada = true"), 1);
+  w.nucleo.AnularPartidas(w.con(), 1, w.config, NODO, preguntar(true, false));
+  for (const char* hecho : {"anulado", "validado"}) {
+    w.user.expectMessage(std::string("Otro puesto ya ha ") + hecho +
+                         " esta partida: no se ha cambiado nada.");
+    const bool valida = std::string(hecho) == "anulado";
+    w.nucleo.AnularPartidas(w.con(), 1, w.config, NODO, preguntar(!valida, true));
+    EXPECT_EQ(w.count("Bautismo WHERE Anulada = true"), valida ? 1 : 0);
+  }
+  w.esperarLibre();
+  EXPECT_SCRIPT_DONE(w.user);
 }
 
 TEST(FacadeDelete, OpenNewBook_OnlyTheLastByValueOfNumber) {
@@ -174,6 +200,20 @@ TEST(FacadeDelete, Request_WithoutAskingAndWithoutTouchingABook) {
        {"Bautismo", "Bautismo_Hijo", "Bautismo_Padres", "Bautismo_Madres", "Bautismo_Matrimonio"})
     EXPECT_EQ(w.count(tabla), 0) << tabla;
   EXPECT_EQ(w.value("SELECT FolioSiguiente FROM Libro_Bautismo"), "9");
+  w.esperarLibre();
+  EXPECT_SCRIPT_DONE(w.user);
+}
+
+TEST(FacadeDelete, RequestMovedIntoABookMeanwhile_IsNoRequestAnyMore) {
+  FacadeWorld w;  // its entry is in the book by now
+  const std::string ya =
+      "Esta solicitud ya no está: otro puesto la ha pasado a un libro o la ha eliminado. Actualice "
+      "la lista.";
+  w.user.expectMessage(ya);
+  w.nucleo.EliminarSolicitud(w.con(), 1, w.config, "SolicitudesBautismo");
+  w.user.expectMessage(ya);
+  w.nucleo.PropiedadesSolicitudes(w.con(), 1, w.config, "SolicitudesBautismo");
+  EXPECT_EQ(w.count("Bautismo WHERE CodLibro = 1"), 1);
   w.esperarLibre();
   EXPECT_SCRIPT_DONE(w.user);
 }

@@ -26,20 +26,23 @@ inline std::string describe(const FDAPI::DefinicionBloqueo& d) {
 
 class SpySession : public FDAPI::cProcesarBloqueos {
  public:
-  SpySession(Log& log, const long& answer) : log_(log), answer_(answer) {}
+  SpySession(Log& log, const std::vector<long>& answers) : log_(log), answers_(answers) {}
   void Inicializar(const std::string& directory) override { log_.push_back("en " + directory); }
   void DefinirBloqueo(FDAPI::DefinicionBloqueo d) override { log_.push_back(describe(d)); }
   long lngEfectuarBloqueos(bool onlyTest) override {
     log_.push_back(onlyTest ? "comprobar" : "efectuar");
-    return answer_;
+    last_ = asked_ < answers_.size() ? answers_[asked_++] : answers_.back();
+    return last_;
   }
-  long lngUltimoBloqueoError() const override { return answer_; }
+  long lngUltimoBloqueoError() const override { return last_; }
   void LiberarBloqueo(const std::string& table) override { log_.push_back("liberar " + table); }
   void LiberarBloqueos() override { log_.push_back("liberar"); }
 
  private:
   Log& log_;
-  const long& answer_;
+  const std::vector<long>& answers_;
+  std::size_t asked_ = 0;
+  long last_ = 0;
 };
 
 /// The host's support with lock sessions that only note.
@@ -50,10 +53,10 @@ class SpySupport : public SupportFactory {
   std::unique_ptr<FDAPI::cIListas> create_cIListas() override { return host_.create_cIListas(); }
   std::unique_ptr<FDAPI::cInformes> create_cInformes() override { return host_.create_cInformes(); }
   std::unique_ptr<FDAPI::cProcesarBloqueos> create_cProcesarBloqueos() override {
-    return std::make_unique<SpySession>(log, answer);
+    return std::make_unique<SpySession>(log, answers);
   }
   Log log;
-  long answer = 0;
+  std::vector<long> answers{0};  // of each session, one after the other; the last one stays
 
  private:
   SupportFactory& host_;

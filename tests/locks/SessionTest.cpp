@@ -93,6 +93,27 @@ TEST_F(Session, EachRefusal_HasItsKind) {
   EXPECT_EQ(take(*open(), {shared("Provincia"), sharedRecord("Institucion", "3")}), 0);
 }
 
+TEST_F(Session, RefusedToWhoGoesOnAllTheSame_SaysWhatIsLeftAndWhoHasIt) {
+  const std::string luis = "luis, en el equipo SACRISTIA, desde el 22/11/2026 a las 10:30";
+  auto other = w.otherSession();
+  ASSERT_EQ(take(*other, {record("Bautismo", "9"), whole("Municipio")}), 0);
+  auto mine = open();
+  mine->AlRehusar(FDAPI::BloqueoRegistro, "Solo se puede consultar");
+  w.user.expectMessage("Solo se puede consultar: la partida de bautismo la tiene " + luis + ".");
+  EXPECT_EQ(take(*mine, {record("Bautismo", "9")}), FDAPI::BloqueoRegistro);
+  EXPECT_EQ(mine->strPoseedor(), luis);
+  mine->AlRehusar(FDAPI::BloqueoCompartido, "Solo se puede consultar");
+  w.user.expectMessage("Solo se puede consultar: los municipios los tiene " + luis + ".");
+  EXPECT_EQ(take(*mine, {sharedRecord("Municipio", "1")}), FDAPI::BloqueoCompartido);
+  EXPECT_SCRIPT_DONE(w.user);
+  w.user.answerAnything(forms::Answer::Ok);
+  EXPECT_NE(mine->lngEfectuarBloqueos(), 0);
+  lastMessage("Inténtelo de nuevo");  // it was said for one attempt
+  other->LiberarBloqueos();
+  EXPECT_EQ(mine->lngEfectuarBloqueos(), 0);
+  EXPECT_EQ(mine->strPoseedor(), "");
+}
+
 TEST_F(Session, Refused_TakesNothingNewAndKeepsWhatItHad) {
   w.user.answerAnything(forms::Answer::Ok);
   auto other = w.otherSession();

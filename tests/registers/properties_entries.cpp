@@ -157,6 +157,10 @@ TEST_F(BookEntries, AnnulAndValidate_ShowAtOnceAndAreStoredOnAcceptance) {
     EXPECT_EQ(d.text("cmdPartidas(2)"), "Anular") << "by the value before the change";
     EXPECT_FALSE(d.enabled("cmdPartidas(3)"));
     EXPECT_TRUE(d.enabled("cmdPartidas(1)"));
+    d.row("msgPartidas", 1);
+    EXPECT_FALSE(d.enabled("cmdPartidas(3)")) << "not the last of a new book";
+    d.row("msgPartidas", 2);
+    EXPECT_TRUE(d.enabled("cmdPartidas(3)"));
   };
   openBook(nuevo, [&](FormDriver& d) {
     annul(d);
@@ -180,6 +184,21 @@ TEST_F(BookEntries, AnnulAndValidate_ShowAtOnceAndAreStoredOnAcceptance) {
   });
   EXPECT_EQ(w.count("bautismo WHERE Anulada=true"), 0);
   EXPECT_THAT(stored(nuevo), ElementsAre("1/1 Luis", "2/2 Eva"));
+  EXPECT_SCRIPT_DONE(w.user);
+}
+
+TEST_F(BookEntries, AnnulledByAnotherDeskMeanwhile_IsToldAndNotValidated) {
+  fill(nuevo, {"Luis", "Eva"});
+  openBook(nuevo, [&](FormDriver& d) {
+    toEntries(d);
+    d.row("msgPartidas", 2);
+    w.con().Execute("UPDATE bautismo SET Anulada=1 WHERE Folio=2");
+    w.user.expectMessage("Otro puesto ya ha anulado esta partida: no se ha cambiado nada.");
+    d.click("cmdPartidas(2)");
+    EXPECT_EQ(grid(d).cell(2, 6), "SI");
+    EXPECT_EQ(d.text("cmdPartidas(2)"), "Validar");
+    cancelBook(d);  // nothing to lose
+  });
   EXPECT_SCRIPT_DONE(w.user);
 }
 

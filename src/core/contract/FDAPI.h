@@ -154,6 +154,7 @@ struct DefinicionBloqueo {
   Conexion* conBd = nullptr;
   bool blnComprobarExisteRegistro = false;
   std::string strSQLExisteRegistro;
+  std::string strNoExiste;  // what the user is told then; empty: that it has been deleted
   std::int32_t lngContador = 0;
 };
 
@@ -168,7 +169,8 @@ enum ErrorBloqueo : long {
   BloqueoCompartido = 6,  // shared table or shared record
 };
 
-/// A lock session. Dropping it gives everything back. A refusal is told to the user here.
+/// A lock session. Dropping it gives everything back. A refusal is told to the user here: who has
+/// what was wanted, and that it cannot be opened now, or what AlRehusar says instead.
 class cProcesarBloqueos {
  public:
   virtual ~cProcesarBloqueos() = default;
@@ -179,6 +181,14 @@ class cProcesarBloqueos {
   /// otherwise the kind of failure. `blnSoloComprobar` tests and holds nothing.
   virtual long lngEfectuarBloqueos(bool blnSoloComprobar = false) = 0;
   virtual long lngUltimoBloqueoError() const = 0;
+  /// "Solo se puede consultar": what a refusal of this kind means for the user who goes on all the
+  /// same. Holds for the next lngEfectuarBloqueos alone.
+  virtual void AlRehusar(ErrorBloqueo error, const std::string& strConsecuencia) {
+    (void)error, (void)strConsecuencia;
+  }
+  /// Who has what was refused last: "luis, en el equipo SACRISTIA, desde el 22/11/2026 a las
+  /// 10:30". Empty when nothing was refused, or nobody has it.
+  virtual std::string strPoseedor() const { return {}; }
   /// Gives back the locks of one table, or of table plus lngContador ("Grupo3"), and forgets
   /// their definitions. An unknown name is ignored.
   virtual void LiberarBloqueo(const std::string& strTabla) = 0;

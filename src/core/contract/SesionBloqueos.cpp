@@ -41,8 +41,11 @@ void SesionBloqueos::registrosCompartidos(const char* nombreTabla, const std::st
   definir(std::move(bloqueo));
 }
 
-void SesionBloqueos::registro(const char* nombreTabla, std::int32_t id, const std::string& existe) {
-  definir(bloqueoDeRegistro(conexion_, nombreTabla, id, existe));
+void SesionBloqueos::registro(const char* nombreTabla, std::int32_t id, const std::string& existe,
+                              const std::string& siNoExiste) {
+  FDAPI::DefinicionBloqueo bloqueo = bloqueoDeRegistro(conexion_, nombreTabla, id, existe);
+  bloqueo.strNoExiste = siNoExiste;
+  definir(std::move(bloqueo));
 }
 
 void SesionBloqueos::registroPorClave(const char* nombreTabla, const char* clave, std::int32_t id) {
@@ -66,13 +69,22 @@ long SesionBloqueos::intentar() {
   return error;
 }
 
+long SesionBloqueos::intentarParaAbrir(const char* sinLoCompartido) {
+  for (const auto error :
+       {FDAPI::BloqueoRegistro, FDAPI::BloqueoRegistroConPadres, FDAPI::BloqueoTabla})
+    sesion_->AlRehusar(error, SOLO_CONSULTA);
+  sesion_->AlRehusar(FDAPI::BloqueoCompartido, sinLoCompartido);
+  return intentar();
+}
+
 SesionBloqueos::Apertura SesionBloqueos::efectuarParaAbrir() {
-  const long error = intentar();
+  const long error = intentarParaAbrir();
   if (rehusado_) return Apertura::NINGUNA;
   return error == FDAPI::BloqueoNinguno ? Apertura::NORMAL : Apertura::SOLO_LECTURA;
 }
 
 SesionBloqueos::Apertura SesionBloqueos::efectuarParaFicha() {
+  sesion_->AlRehusar(FDAPI::BloqueoRegistro, SOLO_CONSULTA);
   const long error = intentar();
   if (error == FDAPI::BloqueoNinguno) return Apertura::NORMAL;
   rehusado_ = true;

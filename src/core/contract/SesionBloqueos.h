@@ -27,8 +27,10 @@ class SesionBloqueos {
   /// `cuales` is a statement that gives their keys.
   void registros(const char* nombreTabla, const std::string& cuales);
   void registrosCompartidos(const char* nombreTabla, const std::string& cuales);
-  /// `existe` is a statement that gives a row as long as the record is there.
-  void registro(const char* nombreTabla, std::int32_t id, const std::string& existe);
+  /// `existe` is a statement that gives a row as long as the record is there; `siNoExiste` is what
+  /// the user is told otherwise, empty for the usual words.
+  void registro(const char* nombreTabla, std::int32_t id, const std::string& existe,
+                const std::string& siNoExiste = {});
   /// With "SELECT clave FROM tabla WHERE clave=id" for that statement.
   void registroPorClave(const char* nombreTabla, const char* clave, std::int32_t id);
 
@@ -39,6 +41,12 @@ class SesionBloqueos {
 
   /// For those who go on with what they got: 0 or what could not be had (FDAPI::ErrorBloqueo).
   long intentar();
+  static constexpr const char* SOLO_CONSULTA = "Solo se puede consultar";
+  /// The same for what can then only be looked at, as the user is told. `sinLoCompartido` says
+  /// what else it means that a shared part could not be had.
+  long intentarParaAbrir(const char* sinLoCompartido = SOLO_CONSULTA);
+  /// Who has what was refused last, and since when, in words; empty when nobody has.
+  std::string poseedor() const { return sesion_->strPoseedor(); }
 
   enum class Apertura { NINGUNA, SOLO_LECTURA, NORMAL };
   /// For an entry that may also be looked at while another works on it.

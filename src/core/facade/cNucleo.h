@@ -4,6 +4,7 @@
 #include <string>
 
 #include "core/contract/Contexto.h"
+#include "registers/common/Anulacion.h"
 
 namespace fidaleon {
 
@@ -31,9 +32,10 @@ class cNucleo {
   /// Opens the entry read-only, with nothing but the cancel button, while another works on it.
   void PropiedadesPartida(FDAPI::Conexion& conBaseDatos, std::int32_t lngID,
                           const FDAPI::cConfig& objConfig, const std::string& strNodo);
-  /// Annuls the entry, or validates an annulled one.
+  /// Annuls the entry, or validates an annulled one. `preguntar` may be empty.
   void AnularPartidas(FDAPI::Conexion& conBaseDatos, std::int32_t lngID,
-                      const FDAPI::cConfig& objConfig, const std::string& strTextDescription);
+                      const FDAPI::cConfig& objConfig, const std::string& strTextDescription,
+                      const PreguntaAnulacion& preguntar = {});
   /// Any entry of an old book, only the last one of an open new book, none of a closed one. Asks.
   void EliminarPartida(FDAPI::Conexion& conBaseDatos, std::int32_t lngID,
                        const FDAPI::cConfig& objConfig, const std::string& strNodo);

@@ -22,29 +22,55 @@ void cNucleo::NuevoLibro(FDAPI::Conexion& conBaseDatos, const FDAPI::cConfig& ob
   });
 }
 
+namespace {
+
+/// What the user gets to see of a book that is open elsewhere, in part or whole.
+struct AperturaDeLibro {
+  bool abrir = true;
+  bool sinNombre = false;
+  bool soloLectura = false;
+};
+
+/// Name and name type rest on what others may hold; all else on the book's own record alone.
+AperturaDeLibro bloquearLibro(SesionBloqueos& sesion, const Sacramento& s, std::int32_t lngLibro) {
+  const std::string delLibro = std::string(" FROM ") + s.tablaLibros + " WHERE " + s.claveLibro +
+                               "=" + std::to_string(lngLibro);
+  const auto definirLibro = [&] {
+    sesion.registro(s.tablaLibros, lngLibro, std::string("SELECT ") + s.claveLibro + delLibro);
+  };
+  sesion.tablasCompartidas({"Libros_TipoNombre"});
+  sesion.registrosCompartidos("Libros_Formato", "SELECT CodFormato" + delLibro);
+  sesion.registrosCompartidos("Institucion", "SELECT CodInstitucion" + delLibro);
+  definirLibro();
+  long error = sesion.intentarParaAbrir("El nombre del libro y su tipo no se pueden cambiar");
+  AperturaDeLibro como;
+  como.sinNombre = error == FDAPI::BloqueoRegistro || error == FDAPI::BloqueoCompartido;
+  if (como.sinNombre) {
+    definirLibro();
+    error = sesion.intentarParaAbrir();
+  }
+  como.abrir = error != FDAPI::BloqueoRegistroNoExiste && error != FDAPI::BloqueoSesion;
+  como.soloLectura = error != FDAPI::BloqueoNinguno;
+  return como;
+}
+
+}  // namespace
+
 void cNucleo::PropiedadesLibro(FDAPI::Conexion& conBaseDatos, std::int32_t lngLibro,
                                const FDAPI::cConfig& objConfig, const std::string& strNodoPadre) {
   operacion(contexto_, "PropiedadesLibro", [&] {
     const Sacramento* s = sacramentoDeNodo(strNodoPadre, "Libros");
     const auto dialogo = s ? crearPropiedadesLibro(contexto_, *s) : nullptr;
     if (!dialogo) return;
-    const std::string delLibro = std::string(" FROM ") + s->tablaLibros + " WHERE " +
-                                 s->claveLibro + "=" + std::to_string(lngLibro);
     SesionBloqueos sesion(contexto_, conBaseDatos);
-    sesion.tablasCompartidas({"Libros_TipoNombre"});
-    sesion.registrosCompartidos("Libros_Formato", "SELECT CodFormato" + delLibro);
-    sesion.registrosCompartidos("Institucion", "SELECT CodInstitucion" + delLibro);
-    sesion.registro(s->tablaLibros, lngLibro, std::string("SELECT ") + s->claveLibro + delLibro);
-    const long error = sesion.intentar();
-    if (error == FDAPI::BloqueoRegistroNoExiste || error == FDAPI::BloqueoSesion) return;
+    const AperturaDeLibro como = bloquearLibro(sesion, *s, lngLibro);
+    if (!como.abrir) return;
     contexto_.gobjConfig = &objConfig;
     dialogo->conBaseDatos = &conBaseDatos;
     dialogo->lngLibro = lngLibro;
     dialogo->Load();
-    if (error == FDAPI::BloqueoRegistro || error == FDAPI::BloqueoCompartido)
-      dialogo->sinNombre();
-    else if (error != FDAPI::BloqueoNinguno)
-      dialogo->soloLectura();
+    if (como.sinNombre) dialogo->sinNombre();
+    if (como.soloLectura) dialogo->soloLectura();
     dialogo->Show();
   });
 }

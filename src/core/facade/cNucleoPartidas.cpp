@@ -66,13 +66,13 @@ void cNucleo::PropiedadesPartida(FDAPI::Conexion& conBaseDatos, std::int32_t lng
 }
 
 void cNucleo::AnularPartidas(FDAPI::Conexion& conBaseDatos, std::int32_t lngID,
-                             const FDAPI::cConfig&, const std::string& strTextDescription) {
+                             const FDAPI::cConfig&, const std::string& strTextDescription,
+                             const PreguntaAnulacion& preguntar) {
   operacion(contexto_, "AnularPartidas", [&] {
     const Sacramento* s = sacramentoDeNodo(strTextDescription, "Partidas");
     if (s != &BAUTISMO) return;
-    SesionBloqueos sesion(contexto_, conBaseDatos);
-    sesion.registro(s->tablaPartidas, lngID, existePartida(*s, lngID));
-    if (sesion.efectuar()) cBaseDatos(contexto_).AnularDesanularPar(conBaseDatos, lngID);
+    anularPartida(contexto_, conBaseDatos, *s, lngID, preguntar,
+                  [&] { cBaseDatos(contexto_).AnularDesanularPar(conBaseDatos, lngID); });
   });
 }
 

@@ -1,5 +1,6 @@
 #include "core/facade/Operacion.h"
 #include "core/facade/cNucleo.h"
+#include "registers/requests/BloqueoSolicitud.h"
 #include "registers/requests/EliminarSolicitud.h"
 #include "registers/requests/frmSolicitudes.h"
 
@@ -31,7 +32,7 @@ void cNucleo::PropiedadesSolicitudes(FDAPI::Conexion& conBaseDatos, std::int32_t
     if (!crear) return;
     SesionBloqueos sesion(contexto_, conBaseDatos);
     sesion.tablasCompartidas({"Institucion", "Provincia", "Municipio"});
-    sesion.registro(s->tablaPartidas, lngID, existePartida(*s, lngID));
+    bloquearSolicitud(sesion, *s, lngID);
     const SesionBloqueos::Apertura modo = sesion.efectuarParaAbrir();
     if (modo == SesionBloqueos::Apertura::NINGUNA) return;
     contexto_.gobjConfig = &objConfig;

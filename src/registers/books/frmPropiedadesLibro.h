@@ -73,13 +73,18 @@ class frmPropiedadesLibro : public Dialogo {
   void msgPartidas_RowChange();
   void msgPartidas_DblClick();
   void cmdPartidas_Click(Entrada boton);
-  void agregar(bool nuevoCerrado);
+  void agregar();
   void propiedades();
   void anular();
-  void eliminar(bool nuevoCerrado);
+  void eliminar();
+  /// The chosen entry, by the rule of its book: of an old one any, of an open new one the last.
+  bool sePuedeEliminar() const;
   std::optional<std::size_t> elegida() const;
-  /// Asks for the lock of a stored entry; what the session then says, 0 for one not yet stored.
-  long bloquear(const PartidaEnLista& partida);
+  void definirBloqueos(const PartidaEnLista& partida);
+  /// Takes the lock of an entry; one that is not yet stored needs none.
+  bool bloquear(const PartidaEnLista& partida);
+  /// The same for one that may also be looked at; what the session then says.
+  long bloquearParaAbrir(const PartidaEnLista& partida);
   AperturaDeLista apertura(std::optional<std::size_t> posicion) const;
   void avisarIlegible();
   void refrescarFecha();
@@ -105,6 +110,8 @@ class frmPropiedadesLibro : public Dialogo {
   std::optional<SesionBloqueos> sesion_;
   std::int32_t institucion_ = 0;
   bool nuevo_ = true;
+  bool cerrado_ = false;     // a new book that was closed
+  bool trasAnular_ = false;  // since the grid was filled
   bool cargado_ = false;
   std::int64_t tipoViejo_ = 0;
   std::string nombreViejo_;

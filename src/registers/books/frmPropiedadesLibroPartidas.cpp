@@ -2,6 +2,7 @@
 
 #include "core/contract/EnSacramento.h"
 #include "registers/books/VariantePropiedadesLibro.h"
+#include "registers/common/Anulacion.h"
 
 namespace fidaleon {
 
@@ -26,6 +27,7 @@ void frmPropiedadesLibro::llenarRejilla() {
     if (i <= antes || fila == 0) fila = nueva;
   }
   msgPartidas.endUpdate();
+  trasAnular_ = false;
   permitirPartidas(fila != 0);
   msgPartidas.setRow(fila);
 }
@@ -41,8 +43,15 @@ std::optional<std::size_t> frmPropiedadesLibro::elegida() const {
 }
 
 void frmPropiedadesLibro::msgPartidas_RowChange() {
-  if (const auto posicion = elegida())
-    cmdPartidas[ANULAR].setCaption(partidas_->partida(*posicion).Anulada ? "Validar" : "Anular");
+  const auto posicion = elegida();
+  if (!posicion) return;
+  cmdPartidas[ANULAR].setCaption(partidas_->partida(*posicion).Anulada ? "Validar" : "Anular");
+  if (trasAnular_) cmdPartidas[ELIMINAR].setEnabled(sePuedeEliminar());
+}
+
+bool frmPropiedadesLibro::sePuedeEliminar() const {
+  const bool ultima = msgPartidas.row() == msgPartidas.rowCount();
+  return !nuevo_ || (ultima && !cerrado_);
 }
 
 void frmPropiedadesLibro::msgPartidas_DblClick() {
@@ -51,21 +60,20 @@ void frmPropiedadesLibro::msgPartidas_DblClick() {
 
 void frmPropiedadesLibro::cmdPartidas_Click(Entrada boton) {
   procedimiento("cmdPartidas_Click()", [&] {
-    const bool nuevoCerrado =
+    cerrado_ =
         hayFilas(sentencia("SELECT * FROM Libro_Bautismo WHERE Cerrado = True AND Nuevo = True "
                            "AND IDLibroBautismo = ") +
                  libro());
-    if (boton == AGREGAR) return agregar(nuevoCerrado);
+    if (boton == AGREGAR) return agregar();
     if (!elegida()) return;
     if (boton == PROPIEDADES) return propiedades();
     if (boton == ANULAR) return anular();
-    eliminar(nuevoCerrado);
+    eliminar();
   });
 }
 
-void frmPropiedadesLibro::agregar(bool nuevoCerrado) {
-  if (nuevoCerrado)
-    return forms::warn(ui(), "¡No se pueden añadir partidas a un libro nuevo cerrado!");
+void frmPropiedadesLibro::agregar() {
+  if (cerrado_) return forms::warn(ui(), "¡No se pueden añadir partidas a un libro nuevo cerrado!");
   sesion_->tablasCompartidas({"Provincia", "Municipio"});
   sesion_->tabla(sacramento_.tablaPartidas);
   if (!sesion_->efectuar()) return;
@@ -93,16 +101,26 @@ void frmPropiedadesLibro::refrescarFecha() {
   fechaLeida_ = dtpFecha.stored();
 }
 
-long frmPropiedadesLibro::bloquear(const PartidaEnLista& partida) {
-  if (!partida.guardada) return FDAPI::BloqueoNinguno;
+void frmPropiedadesLibro::definirBloqueos(const PartidaEnLista& partida) {
   sesion_->tablasCompartidas({"Provincia", "Municipio"});
   sesion_->registroPorClave(sacramento_.tablaPartidas, sacramento_.clavePartida, partida.id);
-  return sesion_->intentar();
+}
+
+bool frmPropiedadesLibro::bloquear(const PartidaEnLista& partida) {
+  if (!partida.guardada) return true;
+  definirBloqueos(partida);
+  return sesion_->intentar() == FDAPI::BloqueoNinguno;
+}
+
+long frmPropiedadesLibro::bloquearParaAbrir(const PartidaEnLista& partida) {
+  if (!partida.guardada) return FDAPI::BloqueoNinguno;
+  definirBloqueos(partida);
+  return sesion_->intentarParaAbrir();
 }
 
 void frmPropiedadesLibro::propiedades() {
   const std::size_t posicion = *elegida();
-  const long error = bloquear(partidas_->partida(posicion));
+  const long error = bloquearParaAbrir(partidas_->partida(posicion));
   if (error == FDAPI::BloqueoRegistroNoExiste || error == FDAPI::BloqueoSesion) return;
   AperturaDeLista como = apertura(posicion);
   como.soloLectura = error != FDAPI::BloqueoNinguno;
@@ -117,22 +135,27 @@ void frmPropiedadesLibro::avisarIlegible() {
 void frmPropiedadesLibro::anular() {
   const std::size_t posicion = *elegida();
   const PartidaEnLista partida = partidas_->partida(posicion);
-  if (bloquear(partida) != FDAPI::BloqueoNinguno) return;
-  if (!partidas_->completar(*conBaseDatos, posicion)) return avisarIlegible();
   const bool anulada = partida.Anulada;
+  if (!bloquear(partida)) return;
+  if (!partidas_->completar(*conBaseDatos, posicion)) return avisarIlegible();
+  // The list may have been read before another desk did the same.
+  if (partida.Anulada != anulada) {
+    avisarYaEsta(contexto_.ui(), partida.Anulada);
+    return CargarGridPartidasDColeccion();
+  }
   partida.Anulada = !anulada;
   partida.Operacion = cCOperacion::EDITAR;
   msgPartidas.setCell(msgPartidas.row(), msgPartidas.columns() - 1, anulada ? "NO" : "SI");
   cmdPartidas[ANULAR].setCaption(anulada ? "Validar" : "Anular");
   permitirPartidas(true);
   cmdPartidas[ELIMINAR].setEnabled(false);
+  trasAnular_ = true;
 }
 
-void frmPropiedadesLibro::eliminar(bool nuevoCerrado) {
+void frmPropiedadesLibro::eliminar() {
   const PartidaEnLista partida = partidas_->partida(*elegida());
-  if (bloquear(partida) != FDAPI::BloqueoNinguno) return;
-  const bool ultima = msgPartidas.row() == msgPartidas.rowCount();
-  if (!nuevo_ || (ultima && !nuevoCerrado)) partida.Operacion = cCOperacion::Borrar;
+  if (!bloquear(partida)) return;
+  if (sePuedeEliminar()) partida.Operacion = cCOperacion::Borrar;
   CargarGridPartidasDColeccion();
 }
 

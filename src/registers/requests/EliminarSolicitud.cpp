@@ -1,8 +1,8 @@
 #include "registers/requests/EliminarSolicitud.h"
 
 #include "core/contract/Guard.h"
-#include "core/contract/SesionBloqueos.h"
 #include "registers/baptism/FilasBautismo.h"
+#include "registers/requests/BloqueoSolicitud.h"
 
 namespace fidaleon {
 
@@ -10,7 +10,7 @@ void eliminarSolicitudBautismo(Contexto& contexto, FDAPI::Conexion& conBaseDatos
                                std::int32_t lngID) {
   guarded(contexto, "cNucleo", "EliminarSolicitud", [&] {
     SesionBloqueos bloqueos(contexto, conBaseDatos);
-    bloqueos.registroPorClave("Bautismo", "IDBautismo", lngID);
+    bloquearSolicitud(bloqueos, BAUTISMO, lngID);
     if (!bloqueos.efectuar()) return;
     const forms::Hourglass reloj(contexto.ui());
     const store::Recordset fila =
