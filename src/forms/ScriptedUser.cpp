@@ -5,15 +5,18 @@
 namespace fidaleon::forms {
 
 void ScriptedUser::expectForm(std::string formName, Act act) {
-  script_.push_back({Expected::Kind::Form, std::move(formName), std::move(act), Answer::None, {}});
+  script_.push_back(
+      {Expected::Kind::Form, std::move(formName), std::move(act), Answer::None, {}, {}});
 }
 
-void ScriptedUser::expectMessage(std::string text, Answer answer) {
-  script_.push_back({Expected::Kind::Message, std::move(text), {}, answer, {}});
+void ScriptedUser::expectMessage(std::string text, Answer answer, std::function<void()> meanwhile) {
+  script_.push_back(
+      {Expected::Kind::Message, std::move(text), {}, answer, {}, std::move(meanwhile)});
 }
 
 void ScriptedUser::expectInput(std::string prompt, std::optional<std::string> reply) {
-  script_.push_back({Expected::Kind::Input, std::move(prompt), {}, Answer::None, std::move(reply)});
+  script_.push_back(
+      {Expected::Kind::Input, std::move(prompt), {}, Answer::None, std::move(reply), {}});
 }
 
 namespace {
@@ -70,7 +73,10 @@ void ScriptedUser::showModal(Form& form) {
 Answer ScriptedUser::msgBox(const std::string& text, MsgButtons buttons, MsgIcon icon,
                             const std::string& title) {
   messages_.push_back({text, buttons, icon, title});
-  if (const auto expected = take(Expected::Kind::Message, text)) return expected->answer;
+  if (const auto expected = take(Expected::Kind::Message, text)) {
+    if (expected->meanwhile) expected->meanwhile();
+    return expected->answer;
+  }
   if (fallback_) return *fallback_;
   switch (buttons) {
     case MsgButtons::Ok:

@@ -67,8 +67,10 @@ class ScriptedUser : public UserInterface {
 
   /// The next form must have this name; `act` works on it and must leave it closed.
   void expectForm(std::string formName, Act act);
-  /// The next message must have exactly this text.
-  void expectMessage(std::string text, Answer answer = Answer::Ok);
+  /// The next message must have exactly this text. `meanwhile` is what happens elsewhere while it
+  /// stands.
+  void expectMessage(std::string text, Answer answer = Answer::Ok,
+                     std::function<void()> meanwhile = {});
   /// The next prompt must have this text; no reply cancels it.
   void expectInput(std::string prompt, std::optional<std::string> reply);
   /// Answers any message from now on that nothing else is expected for (for stress and demos).
@@ -113,6 +115,7 @@ class ScriptedUser : public UserInterface {
     Act act;
     Answer answer = Answer::None;
     std::optional<std::string> reply;
+    std::function<void()> meanwhile;
   };
   std::optional<Expected> take(Expected::Kind kind, const std::string& text);
 

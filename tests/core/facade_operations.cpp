@@ -160,6 +160,21 @@ TEST(FacadeDelete, ClosedBook_Refused) {
   EXPECT_SCRIPT_DONE(w.user);
 }
 
+TEST(FacadeDelete, BookChangedWhileTheQuestionStood_Refused) {
+  using Otro = std::function<void(FacadeWorld&)>;
+  const Otro inscribe = [](FacadeWorld& w) { partida(w, 90, "90"); };
+  const Otro cierra = [](FacadeWorld& w) { w.run("UPDATE Libro_Bautismo SET Cerrado = true"); };
+  for (const Otro& otro : {inscribe, cierra}) {
+    FacadeWorld w;
+    w.user.expectMessage(BORRAR, Answer::Yes, [&] { otro(w); });
+    w.user.expectMessage(NO_SE_PUEDE);
+    w.nucleo.EliminarPartida(w.con(), 1, w.config, NODO);
+    EXPECT_EQ(w.count("Bautismo WHERE IDBautismo = 1"), 1);
+    w.esperarLibre();
+    EXPECT_SCRIPT_DONE(w.user);
+  }
+}
+
 TEST(FacadeDelete, OldBook_AnyEntryWithAllItsRowsAndCountersBackToOne) {
   FacadeWorld w;
   w.run(

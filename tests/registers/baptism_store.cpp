@@ -174,8 +174,9 @@ TEST_F(BaptismStore, FailedInsert_IsReportedAndLeavesNoTransactionOpen) {
 class DeletingAnEntry : public BaptismWorld {
  protected:
   void eliminate(std::int32_t id) {
-    eliminarPartida(w.contexto, w.con(), id, BAUTISMO,
-                    [&] { borrarPartidaBautismo(w.contexto, w.con(), id); });
+    eliminarPartida(w.contexto, w.con(), id, BAUTISMO, [&](const PermisoEliminar& permiso) {
+      borrarPartidaBautismo(w.contexto, w.con(), id, permiso);
+    });
   }
 };
 

@@ -81,8 +81,9 @@ void cNucleo::EliminarPartida(FDAPI::Conexion& conBaseDatos, std::int32_t lngID,
   const Sacramento* s = sacramentoDeNodo(strNodo, "Partidas");
   if (s != &BAUTISMO) return;
   contexto_.gobjConfig = &objConfig;
-  eliminarPartida(contexto_, conBaseDatos, lngID, *s,
-                  [&] { BorrarPartidaBautismo(conBaseDatos, lngID); });
+  eliminarPartida(contexto_, conBaseDatos, lngID, *s, [&](const PermisoEliminar& permiso) {
+    borrarPartidaBautismo(contexto_, conBaseDatos, lngID, permiso);
+  });
 }
 
 void cNucleo::BorrarPartidaBautismo(FDAPI::Conexion& conBaseDatos, std::int32_t lngID) {

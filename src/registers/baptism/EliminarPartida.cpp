@@ -23,6 +23,23 @@ bool esLaUltima(Conexion& conexion, std::int32_t lngID, const Sacramento& sacram
   return partidas.integer(sacramento.clavePartida) == lngID;
 }
 
+bool sePuedeEliminar(Contexto& contexto, Conexion& conBaseDatos, std::int32_t lngID,
+                     const Sacramento& sacramento) {
+  const store::Recordset partida = conBaseDatos.Execute(
+      enSacramento(sacramento, "SELECT codlibro FROM bautismo WHERE idbautismo=") +
+      std::to_string(lngID));
+  if (partida.EOF_()) return false;
+  const std::string codLibro = partida.text("codlibro");
+  const store::Recordset libro = conBaseDatos.Execute(
+      enSacramento(sacramento, "SELECT Nuevo, Cerrado FROM Libro_Bautismo WHERE idlibrobautismo=") +
+      codLibro);
+  if (libro.EOF_()) return false;
+  if (!libro.flag("Nuevo")) return true;
+  if (!libro.flag("Cerrado") && esLaUltima(conBaseDatos, lngID, sacramento, codLibro)) return true;
+  forms::warn(contexto.ui(), NO_SE_PUEDE);
+  return false;
+}
+
 /// Only a test: the lock itself is taken when the user has agreed.
 bool existeYEstaLibre(Contexto& contexto, Conexion& conexion, std::int32_t lngID,
                       const Sacramento& sacramento) {
@@ -45,14 +62,16 @@ void borrarFilasBautismo(Conexion& conBaseDatos, const store::Recordset& bautism
   conBaseDatos.Execute("DELETE * FROM bautismo WHERE idbautismo=" + id);
 }
 
-void borrarPartidaBautismo(Contexto& contexto, Conexion& conBaseDatos, std::int32_t lngID) {
+void borrarPartidaBautismo(Contexto& contexto, Conexion& conBaseDatos, std::int32_t lngID,
+                           const PermisoEliminar& permiso) {
   guarded(contexto, "cNucleo", "BorrarPartidaBautismo", [&] {
     SesionBloqueos bloqueos(contexto, conBaseDatos);
     if (!forms::ask(contexto.ui(), "¿Está seguro que desea eliminar la partida?")) return;
     const std::string id = std::to_string(lngID);
     bloqueos.registroPorClave("Bautismo", "IdBautismo", lngID);
     bloqueos.registros("Libro_Bautismo", "SELECT codLibro FROM Bautismo WHERE IDBautismo=" + id);
-    if (!bloqueos.efectuar()) return;
+    // Another desk may have added an entry or closed the book while the question stood.
+    if (!bloqueos.efectuar() || (permiso && !permiso())) return;
     const forms::Hourglass reloj(contexto.ui());
     const store::Recordset fila =
         conBaseDatos.Execute("SELECT * FROM bautismo WHERE idbautismo=" + id);
@@ -65,23 +84,14 @@ void borrarPartidaBautismo(Contexto& contexto, Conexion& conBaseDatos, std::int3
 }
 
 void eliminarPartida(Contexto& contexto, Conexion& conBaseDatos, std::int32_t lngID,
-                     const Sacramento& sacramento, const std::function<void()>& borrar) {
+                     const Sacramento& sacramento,
+                     const std::function<void(const PermisoEliminar&)>& borrar) {
   guarded(contexto, "cNucleo", "EliminarPartida", [&] {
     if (!existeYEstaLibre(contexto, conBaseDatos, lngID, sacramento)) return;
-    const store::Recordset partida = conBaseDatos.Execute(
-        enSacramento(sacramento, "SELECT codlibro FROM bautismo WHERE idbautismo=") +
-        std::to_string(lngID));
-    if (partida.EOF_()) return;
-    const std::string codLibro = partida.text("codlibro");
-    const store::Recordset libro = conBaseDatos.Execute(
-        enSacramento(sacramento,
-                     "SELECT Nuevo, Cerrado FROM Libro_Bautismo WHERE idlibrobautismo=") +
-        codLibro);
-    if (libro.EOF_()) return;
-    if (!libro.flag("Nuevo")) return borrar();
-    if (!libro.flag("Cerrado") && esLaUltima(conBaseDatos, lngID, sacramento, codLibro))
-      return borrar();
-    forms::warn(contexto.ui(), NO_SE_PUEDE);
+    const PermisoEliminar permiso = [&] {
+      return sePuedeEliminar(contexto, conBaseDatos, lngID, sacramento);
+    };
+    if (permiso()) borrar(permiso);
   });
 }
 
