@@ -85,6 +85,10 @@ class TextBox : public Control {
   void selectAll();
 
   std::function<void()> onChange;
+  /// What the user may make of the text; unset, anything. A key or a paste that would make
+  /// something else of it is refused with a beep. Text from code stands as it is, and one that does
+  /// not fit can be made shorter.
+  std::function<bool(const std::string& text)> fits;
 
   bool canTakeFocus() const override { return true; }
   void leftByFocus(Control* next) override;
@@ -98,6 +102,9 @@ class TextBox : public Control {
   virtual std::string accepted(const std::string& text) const;
 
  private:
+  bool refuses(const std::string& next) const;
+  std::string withTyped(const KeyPress& key) const;
+
   std::string text_;
   bool locked_ = false;
   int maxLength_ = 0;

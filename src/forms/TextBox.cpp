@@ -60,7 +60,32 @@ std::string TextBox::accepted(const std::string& text) const {
 
 void TextBox::enterText(const std::string& text) {
   if (locked_ || !usable()) return;
-  setText(accepted(text));
+  const std::string next = accepted(text);
+  if (refuses(next)) return form().ui().beep();
+  setText(next);
+}
+
+bool TextBox::refuses(const std::string& next) const {
+  if (!fits || next == text_ || fits(next)) return false;
+  return fits(text_) || text::length(next) >= text::length(text_);
+}
+
+/// The text as this key would leave it.
+std::string TextBox::withTyped(const KeyPress& key) const {
+  int from = selStart_;
+  int to = selStart_ + selLength_;
+  std::string typed;
+  if (key.changed())
+    typed = *key.replacement;
+  else if (key.key == Key::Character || key.key == Key::Space)
+    typed = text::toUtf8(std::u32string(1, key.character));
+  else if (from == to && key.key == Key::Backspace)
+    from = std::max(0, from - 1);
+  else if (from == to && key.key == Key::Delete)
+    ++to;
+  else if (key.key != Key::Backspace && key.key != Key::Delete)
+    return text_;
+  return text::left(text_, from) + typed + text::mid(text_, to);
 }
 
 void TextBox::setLocked(bool on) {
@@ -97,6 +122,9 @@ void TextBox::filterKey(KeyPress& key) {
   if (key.character == U'"' && quoteRule_ != QuoteRule::Keep) key.replaceWith("''");
   const bool digit = key.character >= U'0' && key.character <= U'9';
   if (digitsOnly_ && key.character >= U' ' && !digit) key.swallow();
+  if (!fits || (key.changed() && key.replacement->empty()) || !refuses(withTyped(key))) return;
+  key.swallow();
+  form().ui().beep();
 }
 
 void TextBox::insertAtCaret(const std::string& text) {

@@ -107,6 +107,23 @@ TEST_F(FormTest, pastedText_losesLineBreaksControlCharactersAndExcess) {
   EXPECT_EQ(form.txtCode.text(), "78");
 }
 
+TEST_F(FormTest, textThatDoesNotFit_isRefusedWithABeepAndCanBeMadeShorter) {
+  form.txtCode.fits = [](const std::string& text) {
+    return text.find_first_not_of("0123456789") == std::string::npos;
+  };
+  driver.type("txtCode", "1a2");
+  driver.paste("txtCode", "1 2");
+  EXPECT_EQ(form.txtCode.text(), "12");
+  EXPECT_EQ(user.beeps(), 2);
+  form.txtCode.setText("12 b");  // as it was stored
+  form.txtCode.setSelection(4, 0);
+  driver.press("txtCode", {Key::Character, U'3'});
+  EXPECT_EQ(form.txtCode.text(), "12 b");
+  driver.press("txtCode", {Key::Backspace});
+  driver.press("txtCode", {Key::Backspace});
+  EXPECT_EQ(form.txtCode.text(), "12");
+}
+
 TEST_F(FormTest, typing_overMaxLengthWithSelection_replacesOnlyWhatFits) {
   form.txtName.setMaxLength(3);
   driver.type("txtName", "ñandú");

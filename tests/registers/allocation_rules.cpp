@@ -1,8 +1,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <map>
 #include <set>
-#include <stdexcept>
 
 #include "registers/allocation/LimiteFolios.h"
 #include "registers/allocation/Posicion.h"
@@ -55,6 +55,7 @@ INSTANTIATE_TEST_SUITE_P(UnaPorFolio, Huecos,
                                            Caso{"number before the hole has a letter", 1,
                                                 "1/7 2/7a 4/9", "3/8"},
                                            Caso{"last number has a letter", 1, "1/7 2/7a", "3/8"},
+                                           Caso{"last number has a word", 1, "1/7 2/7bis", "3/8"},
                                            Caso{"starts at folio 3", 1, "3/1 4/2", "1/1"}));
 
 INSTANTIATE_TEST_SUITE_P(DosPorFolio, Huecos,
@@ -115,13 +116,17 @@ TEST(Huecos, bookFilledByItsProposals_neverGivesAPositionTwiceNorLeavesOneOut) {
   }
 }
 
-TEST(ValNumero, letterIsStripped_andWhatIsNoNumberIsAnError) {
-  EXPECT_EQ(valNumero("12"), 12);
-  EXPECT_EQ(valNumero("12a"), 12);
-  EXPECT_EQ(valNumero("100000"), 100000);
-  EXPECT_EQ(valNumero("7ñ"), 7);
-  for (const char* malo : {"", "a", "12ab", "---", "40000a"})
-    EXPECT_THROW(valNumero(malo), std::range_error) << malo;
+TEST(ValNumero, isTheLeadingDigits_whateverOldDataHaveBehindThem) {
+  const std::map<std::string, std::int64_t> valores{
+      {"12", 12},        {"12a", 12},  {"100000", 100000}, {"7ñ", 7},  {"12 bis", 12},
+      {"40000a", 40000}, {"12ab", 12}, {"a", 0},           {"---", 0}, {"", 0}};
+  for (const auto& [numero, valor] : valores) EXPECT_EQ(valNumero(numero), valor) << numero;
+}
+
+TEST(NumeroDePartida, isDigitsAndOneLetterBehindThem) {
+  for (const char* bueno : {"", "7", "12a", "12Z"}) EXPECT_TRUE(esNumeroDePartida(bueno)) << bueno;
+  for (const char* malo : {"a", "12 ", "12ab", "1a2", "7ñ", "---"})
+    EXPECT_FALSE(esNumeroDePartida(malo)) << malo;
 }
 
 TEST(LimiteFolios, equalIsAllowed_andAnEmptySettingIsNoLimit) {

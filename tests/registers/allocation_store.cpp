@@ -153,6 +153,8 @@ TEST_P(Subida, afterADeletion_climbsToTheFirstFreePosition) {
   partidas("1/1 1/2 1/3 1/4 2/5 2/6 2/6a 2/7 3/8");
   EXPECT_EQ(libre(), "3/9");
   EXPECT_EQ(contadores(), "3/9");
+  partidas("3/9 3/12bis");
+  EXPECT_EQ(libre(), "3/13");
 }
 
 TEST_P(Subida, oneEntryPerFolio_stepsFolioAndNumber) {
@@ -197,7 +199,8 @@ struct Dialogo : forms::Form {
         libro(*this, "cboBautismo(23)"),
         folio(*this, "txtLibro(1)"),
         numero(*this, "txtLibro(2)"),
-        pestanas(*this, "mstBautismo", {"Libro", "Niño"}) {
+        pestanas(*this, "mstBautismo", {"Libro", "Niño"}),
+        aviso(*this, "lblNumeroRepetido") {
     setLayout(forms::tabs(pestanas, {forms::page({forms::item(institucion), forms::item(libro),
                                                   forms::item(folio), forms::item(numero)}),
                                      forms::page({})}));
@@ -207,6 +210,7 @@ struct Dialogo : forms::Form {
   forms::TextBox folio;
   forms::TextBox numero;
   forms::TabStrip pestanas;
+  forms::Label aviso;
 };
 
 class EnDialogo : public ConLibro {
@@ -216,7 +220,7 @@ class EnDialogo : public ConLibro {
   PosicionPartida posicion{mundo.contexto,
                            s,
                            {dialogo.institucion, dialogo.libro, dialogo.folio, dialogo.numero,
-                            dialogo.pestanas, [this] { return lista; }}};
+                            dialogo.pestanas, dialogo.aviso, [this] { return lista; }}};
 
   void abrir(int formato, bool nuevo, cCOrigen origen = cCOrigen::PRINCIPAL) {
     crear(formato, nuevo);
@@ -340,6 +344,24 @@ TEST_P(EnDialogo, takenNumber_isReplacedWhenTheUserAgrees) {
   EXPECT_EQ(dialogo.pestanas.tab(), 1);
   EXPECT_EQ(mundo.user.messages()[0].title, "Fidaleon2000");
   EXPECT_SCRIPT_DONE(mundo.user);
+}
+
+TEST_P(EnDialogo, numberThatStandsInTheBook_isSaidWithItsFolios) {
+  abrir(1, false);
+  partidas("3/10 5/10 4/10a");
+  const auto aviso = [&](const char* numero) {
+    teclear("7", numero);
+    posicion.avisarNumeroRepetido(0);
+    return dialogo.aviso.visible() ? dialogo.aviso.caption() : "";
+  };
+  EXPECT_EQ(aviso("10"), "El 10 ya está en los folios 3 y 5");
+  EXPECT_EQ(aviso("10A"), "El 10A ya está en el folio 4");
+  EXPECT_EQ(aviso("11"), "");
+  EXPECT_EQ(aviso(""), "");
+  posicion.abrir(mundo.con(), origenLista(s));
+  lista = {{2, "11"}};
+  EXPECT_EQ(aviso("11"), "El 11 ya está en el folio 2");
+  EXPECT_EQ(aviso("10"), "") << "the list knows better than the table";
 }
 
 TEST_P(EnDialogo, freePositionOrNothingChosen_passesWithoutAWord) {

@@ -208,7 +208,43 @@ TEST_F(NewBaptism, EntryWithoutItsChild_IsGoneOnWithWhenAcceptedAgain) {
   EXPECT_EQ(w.value("SELECT Nombre FROM bautismo_padres WHERE IDPadres=" + brothersFather), "Juan");
 }
 
-TEST_F(NewBaptism, FailedProposal_LeavesNoPositionThatCouldBeTaken) {
+TEST_F(NewBaptism, BookAndTownDeletedMeanwhile_AreNamedAndOthersCanBeChosen) {
+  const std::int32_t libro = book("Libro 1", true, 3);
+  for (const char* other : {"Libro 2", "Libro 3"}) book(other, true, 3);
+  const std::int32_t meco = w.municipio("Meco", "Madrid");
+  open(cCOperacion::ANADIR, [&](FormDriver& d) {
+    chooseBook(d, "Libro 1");
+    typeChild(d, "Luis");
+    d.choose("cboBautismo(0)", "Madrid");
+    d.choose("cboBautismo(1)", "Meco");
+    w.con().Execute("DELETE * FROM Libro_Bautismo WHERE IDLibroBautismo=" + std::to_string(libro));
+    w.con().Execute("DELETE * FROM Municipio WHERE IDMunicipio=" + std::to_string(meco));
+    w.user.expectMessage(gone("el libro «Libro 1»\nla población «Meco»"));
+    accept(d);
+    EXPECT_EQ(d.focused(), "cboBautismo(23)");
+    d.choose("cboBautismo(23)", "Libro 2");
+    EXPECT_EQ(d.text("txtLibro(1)"), "1");
+    d.tab("mstBautismo", frmPartidaBautismo::TAB_BAUTIZADO);
+    EXPECT_EQ(d.text("txtBautismo(7)"), "Luis");
+    EXPECT_EQ(d.text("cboBautismo(0)"), "Madrid");
+    EXPECT_EQ(d.text("cboBautismo(1)"), "");
+    d.choose("cboBautismo(1)", "Alcalá de Henares");
+    w.user.expectMessage(EMPTY_FIELDS, Answer::Yes, [&] {
+      w.con().Execute("DELETE * FROM Libro_Bautismo WHERE Nombre=\"Libro 2\"");
+    });
+    w.user.expectMessage(gone("el libro «Libro 2»"));
+    accept(d);
+    d.choose("cboBautismo(23)", "Libro 3");
+    w.user.expectMessage(EMPTY_FIELDS, Answer::Yes);
+    w.user.expectMessage(FURTHER, Answer::No);
+    accept(d);
+    EXPECT_TRUE(d.closed());
+  });
+  EXPECT_EQ(w.value("SELECT CodMunicipioNac FROM bautismo_hijo"), std::to_string(town));
+  EXPECT_SCRIPT_DONE(w.user);
+}
+
+TEST_F(NewBaptism, FailedProposal_IsToldOnceAndLeavesNoPositionThatCouldBeTaken) {
   const std::int32_t libro = book("Libro 1", true, 3);
   store(record("Luis", libro, 1, "1"));
   auto* faults = store::FailingEngine::wrap(w.con());
@@ -216,15 +252,17 @@ TEST_F(NewBaptism, FailedProposal_LeavesNoPositionThatCouldBeTaken) {
   open(cCOperacion::ANADIR, [&](FormDriver& d) {
     chooseBook(d, "Libro 1");
     EXPECT_EQ(d.text("txtLibro(1)"), "2");
-    faults->failOn("SELECT folio,numero FROM bautismo");
-    d.choose("cboBautismo(23)", "Libro 1");
-    EXPECT_EQ(d.text("txtLibro(1)"), "");
     typeChild(d, "Eva", "Otro", "Más");
+    faults->failOn("SELECT folio,numero FROM bautismo");
+    accept(d);
+    EXPECT_EQ(w.user.messages().size(), 3u) << "two questions and one error";
+    EXPECT_EQ(d.text("txtLibro(1)"), "");
+    typeChild(d, "Ana", "Otra", "Más");
     accept(d);
     EXPECT_EQ(w.user.messages().back().text, "¡Debe introducir datos en el campo folio!");
     cancel(d);
   });
-  EXPECT_EQ(w.count("bautismo"), 1);
+  EXPECT_EQ(w.count("bautismo"), 2);
 }
 
 TEST_F(NewBaptism, BookAndTownAddedFromInside_CanBeChosenAtOnce) {
@@ -241,6 +279,14 @@ TEST_F(NewBaptism, BookAndTownAddedFromInside_CanBeChosenAtOnce) {
     });
     d.click("cmdAltaLibro");
     EXPECT_EQ(d.text("cboBautismo(23)"), "Libro viejo");
+    const auto other = w.otherSession();
+    FDAPI::DefinicionBloqueo added;
+    added.strTabla = "Libro_Bautismo";
+    added.strRegistro = w.value("SELECT MAX(IDLibroBautismo) AS ID FROM Libro_Bautismo");
+    added.conBd = &w.con();
+    other->DefinirBloqueo(added);
+    w.otherUser.answerAnything(Answer::Ok);
+    EXPECT_NE(other->lngEfectuarBloqueos(), 0) << "nobody deletes the book under the entry";
     EXPECT_EQ(d.text("txtLibro(1)"), "1");
     d.tab("mstBautismo", frmPartidaBautismo::TAB_BAUTIZADO);
     d.choose("cboBautismo(0)", "Madrid");
@@ -260,6 +306,7 @@ TEST_F(NewBaptism, BookAndTownAddedFromInside_CanBeChosenAtOnce) {
     w.user.expectForm("frmInstitucion", [](FormDriver& institucion) { institucion.escape(); });
     d.click("cmdAltaInstitucion");
     EXPECT_EQ(d.text("cboBautismo(22)"), "San Pedro");
+    EXPECT_EQ(d.text("cboBautismo(23)"), "Libro viejo");
     cancel(d);
   });
   EXPECT_SCRIPT_DONE(w.user);
@@ -335,6 +382,66 @@ TEST_F(OldBaptism, TypedPosition_IsCheckedOnLeavingTheFirstTab) {
     accept(d);
   });
   EXPECT_EQ(w.count("bautismo WHERE Folio=2 AND Numero=\"12a\""), 1);
+  EXPECT_SCRIPT_DONE(w.user);
+}
+
+TEST_F(OldBaptism, NumberThatStandsInTheBook_IsSaidUnderTheFieldAndTakenAllTheSame) {
+  const std::int32_t libro = book("Antiguo", false, 2);
+  for (const char* numero : {"9", "10"}) store(record(std::string("N") + numero, libro, 1, numero));
+  const auto line = [](FormDriver& d) {
+    return d.visible("lblNumeroRepetido") ? d.text("lblNumeroRepetido") : "";
+  };
+  open(cCOperacion::ANTIGUA, [&](FormDriver& d) {
+    chooseBook(d, "Antiguo");
+    EXPECT_EQ(d.text("txtLibro(2)"), "10") << "by the text, 9 is above 10";
+    EXPECT_EQ(line(d), "El 10 ya está en el folio 1");
+    d.type("txtLibro(2)", "11");
+    EXPECT_EQ(line(d), "");
+    d.type("txtLibro(2)", "9");
+    EXPECT_EQ(line(d), "El 9 ya está en el folio 1");
+    typeChild(d, "Eva", "Otro", "Más");
+    w.user.expectMessage(FURTHER, Answer::No);
+    accept(d);
+  });
+  const std::int32_t id = std::stoi(w.value("SELECT IDBautismo FROM bautismo WHERE Folio=2"));
+  open(
+      cCOperacion::EDITAR,
+      [&](FormDriver& d) {
+        EXPECT_EQ(line(d), "El 9 ya está en el folio 1") << "not in its own place";
+        cancel(d);
+      },
+      id);
+  EXPECT_SCRIPT_DONE(w.user);
+}
+
+TEST_F(OldBaptism, NumberOfAnotherForm_IsRefusedWhenTypedAndKeptWhenStored) {
+  const std::int32_t libro = book("Antiguo", false, 3);
+  const std::int32_t id = store(record("A", libro, 1, "12 bis"));
+  open(cCOperacion::ANTIGUA, [&](FormDriver& d) {
+    chooseBook(d, "Antiguo");
+    EXPECT_EQ(d.text("txtLibro(2)"), "13");
+    d.type("txtLibro(2)", "12 bis");
+    EXPECT_EQ(d.text("txtLibro(2)"), "12b");
+    EXPECT_EQ(w.user.beeps(), 3);
+    d.paste("txtLibro(2)", "12 bis");
+    EXPECT_EQ(d.text("txtLibro(2)"), "12b");
+    cancel(d);
+  });
+  open(
+      cCOperacion::EDITAR,
+      [&](FormDriver& d) {
+        EXPECT_EQ(d.text("txtLibro(2)"), "12 bis");
+        d.tab("mstBautismo", frmPartidaBautismo::TAB_BAUTIZADO);
+        d.type("txtBautismo(7)", "B");
+        accept(d);
+      },
+      id);
+  EXPECT_EQ(column(id, "Numero"), "12 bis");
+  ColeccionBautismo items{record("A", libro, 1, "12 bis")};
+  openFromList(cCOperacion::ANADIR, libro, items, [](FormDriver& d) {
+    EXPECT_EQ(d.text("txtLibro(2)"), "13");
+    cancel(d);
+  });
   EXPECT_SCRIPT_DONE(w.user);
 }
 

@@ -20,6 +20,12 @@ inline constexpr const char* EMPTY_FIELDS =
 inline constexpr const char* FURTHER = "¿Desea dar de alta nuevas partidas?";
 inline constexpr const char* DIALOG = "frmPartidaBautismo";
 
+/// What acceptance says of something that another desk has deleted.
+inline std::string gone(const std::string& what) {
+  return "Ya no existe, porque se ha eliminado desde otro puesto:\n\n" + what +
+         "\n\nLo que ha escrito sigue aquí. Elija otro de la lista y acepte de nuevo.";
+}
+
 class BaptismWorld : public ::testing::Test {
  protected:
   explicit BaptismWorld(const char* edition = FDAPI::cCAplicacion::APP_FIDALEON_MADRID)

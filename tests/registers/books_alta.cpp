@@ -192,13 +192,13 @@ TEST_P(AltaLibroBautismo, whatIsMissing_isToldInOrderAndGetsTheFocus) {
     EXPECT_FALSE(f.closed());
     EXPECT_EQ(f.focused(), control);
   };
-  for (const char* campo : {"Institución", "Tipo de nombre", "Tipo de nombre", "Nombre del libro",
-                            "Formato", "Fecha de creación"})
+  for (const char* campo : {"Institución", "Libro nuevo o antiguo", "Tipo de nombre",
+                            "Nombre del libro", "Formato", "Fecha de creación"})
     espera(std::string("Falta rellenar el campo «") + campo + "».");
   abrir([&](FormDriver& f) {
     falta(f, "cboInstituciones");
     f.choose("cboInstituciones", "San Juan");
-    falta(f, "cboTipoNombre");  // neither new nor old
+    falta(f, "optNuevo");
     f.click("optAntiguo");
     falta(f, "cboTipoNombre");
     f.chooseData("cboTipoNombre", 4);
@@ -211,6 +211,47 @@ TEST_P(AltaLibroBautismo, whatIsMissing_isToldInOrderAndGetsTheFocus) {
     f.click("cmdBoton(0)");
     EXPECT_TRUE(f.closed());
   });
+  EXPECT_SCRIPT_DONE(mundo.user);
+}
+
+TEST_P(AltaLibroBautismo, addingAnInstitution_choosesItAloneAndCancellingLeavesTheList) {
+  mundo.user.expectForm("frmAltaLibroBautismo", [&](FormDriver& f) {
+    rellenarAntiguo(f);
+    mundo.user.expectForm("frmInstitucion", [](FormDriver& i) { i.escape(); });
+    f.click("cmdAgregarInstitucion");
+    EXPECT_EQ(f.get<forms::ComboBox>("cboInstituciones").listCount(), 2);
+    EXPECT_EQ(f.text("cboInstituciones"), "San Juan");
+    EXPECT_EQ(f.text("txtNombreLibro"), "Libro 12");
+    mundo.user.expectForm("frmInstitucion", [](FormDriver& i) {
+      i.type("txtInstitucion(0)", "San Blas");
+      i.click("cmdBoton(0)");
+    });
+    f.click("cmdAgregarInstitucion");
+    EXPECT_EQ(f.get<forms::ComboBox>("cboInstituciones").listCount(), 1);
+    EXPECT_EQ(f.text("cboInstituciones"), "San Blas");
+    f.escape();
+  });
+  frmAltaLibroBautismo alta(mundo.contexto);
+  alta.conBaseDatos = mundo.parish.get();
+  alta.Show();
+  EXPECT_SCRIPT_DONE(mundo.user);
+}
+
+TEST_P(AltaLibroBautismo, institutionDeletedMeanwhile_isNamedAndAnotherCanBeChosen) {
+  espera(
+      "Ya no existe, porque se ha eliminado desde otro puesto:\n\nla institución «San Juan»\n\nLo "
+      "que ha escrito sigue aquí. Elija otro de la lista y acepte de nuevo.");
+  abrir([&](FormDriver& f) {
+    rellenarAntiguo(f);
+    mundo.con().Execute("DELETE * FROM Institucion WHERE IDInstitucion=" + std::to_string(sanJuan));
+    f.click("cmdBoton(0)");
+    EXPECT_FALSE(f.closed());
+    EXPECT_EQ(f.focused(), "cboInstituciones");
+    EXPECT_EQ(f.get<forms::ComboBox>("cboInstituciones").listCount(), 1);
+    EXPECT_EQ(f.text("txtNombreLibro"), "Libro 12");
+    f.escape();
+  });
+  EXPECT_EQ(libros(), 0);
   EXPECT_SCRIPT_DONE(mundo.user);
 }
 

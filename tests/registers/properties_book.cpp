@@ -128,6 +128,24 @@ TEST_F(BookData, RefusedAcceptance_KeepsEverythingInTheDialog) {
   EXPECT_SCRIPT_DONE(w.user);
 }
 
+TEST_F(BookData, BookGoneMeanwhile_IsNamedAndNothingIsStored) {
+  const std::int32_t antiguo = book("Libro viejo", false, 1);
+  openBook(antiguo, [&](FormDriver& d) {
+    toEntries(d);
+    add(d, "Ana", true);
+    w.con().Execute("DELETE * FROM Libro_Bautismo");
+    w.user.expectMessage(
+        "Ya no existe, porque se ha eliminado desde otro puesto:\n\nel libro «Libro viejo»\n\nLo "
+        "que ha escrito sigue aquí. Sin ello no se puede guardar.");
+    acceptBook(d);
+    EXPECT_EQ(grid(d).rowCount(), 1);
+    w.user.expectMessage(LOSE_CHANGES, Answer::Yes);
+    cancelBook(d);
+  });
+  EXPECT_EQ(w.count("bautismo"), 0);
+  EXPECT_SCRIPT_DONE(w.user);
+}
+
 TEST_F(BookData, AnotherOpenNewBook_DoesNotStandInTheWay) {
   book("2003/01", true, 3);
   const std::int32_t nuevo = book("2003/02", true, 3);

@@ -38,9 +38,12 @@ TEST_F(BaptismRequest, WithoutInstitution_IsRefusedInItsOwnWords) {
   EXPECT_SCRIPT_DONE(w.user);
 }
 
-TEST_F(BaptismRequest, Edited_KeepsItsInstitution) {
+TEST_F(BaptismRequest, Edited_KeepsItsInstitutionUntilAnotherIsChosen) {
   enter("Luis");
   const std::int32_t id = std::stoi(w.value("SELECT IDBautismo FROM bautismo"));
+  const std::int32_t other = w.institucion("Santa Ana", town);
+  const std::int32_t third = w.institucion("San Blas", town);
+  const auto institution = [&] { return w.value("SELECT InstitucionSolicitud FROM bautismo"); };
   open(
       cCOperacion::EDITARSOLICITUD,
       [&](FormDriver& d) {
@@ -52,7 +55,20 @@ TEST_F(BaptismRequest, Edited_KeepsItsInstitution) {
       },
       id);
   EXPECT_EQ(w.value("SELECT Nombre FROM bautismo_hijo"), "Carlos");
-  EXPECT_EQ(w.value("SELECT InstitucionSolicitud FROM bautismo"), std::to_string(parish));
+  EXPECT_EQ(institution(), std::to_string(parish));
+  open(
+      cCOperacion::EDITARSOLICITUD,
+      [&](FormDriver& d) {
+        EXPECT_TRUE(d.enabled("cmdAltaInstitucion"));
+        d.choose("cboBautismo(22)", "San Blas");
+        w.con().Execute("DELETE * FROM Institucion WHERE IDInstitucion=" + std::to_string(third));
+        w.user.expectMessage(gone("la institución «San Blas»"));
+        accept(d);
+        d.choose("cboBautismo(22)", "Santa Ana");
+        accept(d);
+      },
+      id);
+  EXPECT_EQ(institution(), std::to_string(other));
   EXPECT_EQ(w.count("bautismo WHERE codlibro=0"), 1);
   EXPECT_SCRIPT_DONE(w.user);
 }

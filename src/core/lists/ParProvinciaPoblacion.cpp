@@ -49,6 +49,12 @@ void ParProvinciaPoblacion::refrescar() {
   poblacion_.selectData(elegida);
 }
 
+void ParProvinciaPoblacion::olvidarPoblacion() {
+  const std::int64_t provincia = provincia_.data();
+  abrir(*conexion_);
+  provincia_.selectData(provincia);
+}
+
 void ParProvinciaPoblacion::llenarPoblaciones(std::int32_t elegida) {
   poblacion_.clear();
   if (!conexion_ || provincia_.listIndex() < 0) return;

@@ -22,8 +22,11 @@ class ParProvinciaPoblacion {
   /// Key of the chosen town, 0 when none is.
   std::int32_t valor() const { return static_cast<std::int32_t>(poblacion_.data()); }
   bool visible() const { return provincia_.visible(); }
+  forms::ComboBox& poblacion() const { return poblacion_; }
   /// Reads both lists anew and keeps what was chosen.
   void refrescar();
+  /// The same without a town, which has been deleted.
+  void olvidarPoblacion();
 
  private:
   void llenarPoblaciones(std::int32_t elegida);

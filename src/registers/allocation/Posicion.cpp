@@ -1,23 +1,29 @@
 #include "registers/allocation/Posicion.h"
 
-#include <limits>
-#include <stdexcept>
+#include <algorithm>
 
 #include "text/Numbers.h"
-#include "text/Utf8.h"
 
 namespace fidaleon {
 
+namespace {
+
+constexpr std::size_t MAX_DIGITOS = 18;  // of 64 bits
+
+}  // namespace
+
+bool esNumeroDePartida(const std::string& numero) {
+  const std::size_t digitos = std::min(numero.find_first_not_of("0123456789"), numero.size());
+  if (digitos == numero.size()) return true;
+  const char letra = numero.back();
+  const bool esLetra = (letra >= 'a' && letra <= 'z') || (letra >= 'A' && letra <= 'Z');
+  return digitos != 0 && digitos + 1 == numero.size() && esLetra;
+}
+
 std::int64_t valNumero(const std::string& numero) {
   if (text::isNumeric(numero)) return static_cast<std::int64_t>(text::Val(numero));
-  const std::size_t n = text::length(numero);
-  const std::string digitos = text::left(numero, n == 0 ? 0 : n - 1);
-  if (!text::isNumeric(digitos))
-    throw std::range_error("El número de partida «" + numero + "» no se puede leer.");
-  const double valor = text::Val(digitos);
-  if (valor > std::numeric_limits<std::int16_t>::max())
-    throw std::range_error("El número de partida «" + numero + "» es demasiado grande.");
-  return static_cast<std::int64_t>(valor);
+  const std::size_t digitos = numero.find_first_not_of("0123456789");
+  return static_cast<std::int64_t>(text::Val(numero.substr(0, std::min(digitos, MAX_DIGITOS))));
 }
 
 bool haySalto(const Sacramento& sacramento, const Posicion& anterior, const Posicion& siguiente) {

@@ -15,8 +15,12 @@ struct Posicion {
   friend bool operator==(const Posicion&, const Posicion&) = default;
 };
 
-/// The number without its letter. Throws std::range_error for a text that is neither a number nor
-/// one with a single character behind it, and for such a one above 32767.
+/// What can be typed as the number of an old book: digits, and one letter behind them at most. An
+/// empty text can become one.
+bool esNumeroDePartida(const std::string& numero);
+
+/// The number without its letter. Of a text of another form that came with old data ("12 bis") its
+/// leading digits, 0 without any: it has its place in the book all the same.
 std::int64_t valNumero(const std::string& numero);
 
 /// True when the proposal lies further ahead than the next folio and number after `anterior`.

@@ -151,6 +151,43 @@ bool PosicionPartida::ocupado(const Libro& libro, const std::string& numero) con
               .EOF_();
 }
 
+void PosicionPartida::avisarNumeroRepetido(std::int32_t propia) {
+  const std::string numero = text::trim(campos_.numero.text());
+  std::set<std::int64_t> folios;
+  if (!numero.empty() && campos_.libro.listIndex() >= 0) folios = foliosCon(numero, propia);
+  if (folios.empty()) return quitarAviso();
+  std::string cuales;
+  for (const std::int64_t folio : folios) {
+    const bool ultimo = folio == *folios.rbegin();
+    if (!cuales.empty()) cuales += ultimo ? " y " : ", ";
+    cuales += std::to_string(folio);
+  }
+  campos_.aviso.setCaption("El " + numero + " ya está en " +
+                           (folios.size() == 1 ? "el folio " : "los folios ") + cuales);
+  campos_.aviso.setVisible(true);
+}
+
+void PosicionPartida::quitarAviso() {
+  campos_.aviso.setVisible(false);
+  campos_.aviso.setCaption("");
+}
+
+std::set<std::int64_t> PosicionPartida::foliosCon(const std::string& numero,
+                                                  std::int32_t propia) const {
+  std::set<std::int64_t> folios;
+  if (desdeLista()) {
+    for (const Posicion& p : campos_.coleccion())
+      if (text::equalsNoCase(p.numero, numero)) folios.insert(p.folio);
+    return folios;
+  }
+  Recordset fila = conexion_->Execute(
+      enSacramento(sacramento_, "SELECT Folio FROM Bautismo WHERE CodLibro=") +
+      std::to_string(campos_.libro.data()) + " AND Numero=" + entreComillas(numero) +
+      enSacramento(sacramento_, " AND IDBautismo<>") + std::to_string(propia));
+  for (; !fila.EOF_(); fila.MoveNext()) folios.insert(fila.integer("Folio"));
+  return folios;
+}
+
 bool PosicionPartida::volverAlFolio() {
   campos_.pestanas.setTab(0);
   campos_.folio.form().setFocus(campos_.folio);

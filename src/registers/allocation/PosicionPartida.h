@@ -2,6 +2,8 @@
 
 #include <cstdint>
 #include <functional>
+#include <set>
+#include <string>
 #include <vector>
 
 #include "core/contract/Contexto.h"
@@ -22,8 +24,9 @@ struct CamposPosicion {
   forms::TextBox& folio;
   forms::TextBox& numero;
   forms::TabStrip& pestanas;
-  /// Positions of the items of the book's list that are not to be deleted. Asked for only when
-  /// the dialog was opened from that list.
+  forms::Label& aviso;  // under the number
+  /// Positions of the items of the book's list that are not to be deleted, without the one that
+  /// is being edited. Asked for only when the dialog was opened from that list.
   std::function<std::vector<Posicion>()> coleccion;
 };
 
@@ -52,6 +55,12 @@ class PosicionPartida {
   /// there is nothing to check.
   bool comprobarPosicionTecleada();
 
+  /// Says under the number on which folios of the book it stands already ("El 10 ya está en el
+  /// folio 3"), or nothing. Nothing is refused: books have been kept so. `propia` is the key of the
+  /// entry that is being edited, 0 for a new one.
+  void avisarNumeroRepetido(std::int32_t propia);
+  void quitarAviso();
+
   /// Folio and number as they stand in the fields.
   Posicion enCampos() const;
   /// Warns when the position in the fields is not the one that follows `anterior`.
@@ -75,6 +84,7 @@ class PosicionPartida {
   std::int64_t partidasDelFolio(const Libro& libro, std::int64_t folio) const;
   bool ofrecerLetra(const Libro& libro);
   bool ocupado(const Libro& libro, const std::string& numero) const;
+  std::set<std::int64_t> foliosCon(const std::string& numero, std::int32_t propia) const;
   bool volverAlFolio();
   void proponer(const Posicion& posicion);
   void ponerFolio(std::int64_t folio);

@@ -46,7 +46,7 @@ std::uint8_t institucionDeSolicitud(std::int64_t id) {
 }  // namespace
 
 void frmPartidaBautismo::aceptar() {
-  if (faltaInstitucionOLibro() || faltaPosicion()) return;
+  if (faltaInstitucionOLibro() || !elecciones_->siguen() || faltaPosicion()) return;
   if (!mstBautismo_MouseDown()) return;
   if (esAlta() && posicion_->limiteSuperado()) {
     forms::warn(ui(), MENSAJE_LIMITE_FOLIOS);
@@ -54,6 +54,8 @@ void frmPartidaBautismo::aceptar() {
     return;
   }
   if (!ComprobarCampos() || !ComprobarDatosBaseDatos()) return;
+  // Questions have been standing since: what they were about may have gone.
+  if (!elecciones_->siguen()) return;
   if (!esAlta()) {
     if (guardarEdicion()) Unload();
   } else if (guardarAlta()) {
@@ -201,8 +203,7 @@ void frmPartidaBautismo::otraPartida() {
   limpiarCampos();
   cargando_ = false;
   mstBautismo.setTab(TAB_GENERAL);
-  proponerPosicion();
-  if (!esSolicitud()) posicion_->avisarSalto(anterior);
+  if (proponerPosicion() && !esSolicitud()) posicion_->avisarSalto(anterior);
   refrescarTitulo();
   focusFirst();
 }

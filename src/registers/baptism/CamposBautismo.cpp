@@ -38,6 +38,7 @@ frmPartidaBautismo::frmPartidaBautismo(Contexto& contexto)
       fraMatrimonio(*this, "fraMatrimonio", "MATRIMONIO DE LOS PADRES:"),
       fraDomicilio(*this, "fraDomicilio", "DOMICILIO:"),
       fraPadrinos(*this, "fraPadrinos", "PADRINOS:"),
+      lblNumeroRepetido(*this, "lblNumeroRepetido"),
       lblPartidaAnulada(*this, "lblPartidaAnulada", "PARTIDA ANULADA"),
       cmdAltaInstitucion(*this, "cmdAltaInstitucion", "Agregar Institución"),
       cmdAltaLibro(*this, "cmdAltaLibro", "Agregar Libro"),
@@ -92,6 +93,8 @@ void frmPartidaBautismo::crearCampos() {
   txtLibro[FOLIO].setDigitsOnly(true);
   txtLibro[FOLIO].setMaxLength(ANCHO_FOLIO);
   txtLibro[NUMERO].setMaxLength(ANCHO_FOLIO);
+  txtLibro[NUMERO].fits = esNumeroDePartida;
+  lblNumeroRepetido.setVisible(false);
   lblPartidaAnulada.setEmphasised(true);
   lblPartidaAnulada.setVisible(false);
 
@@ -224,7 +227,8 @@ LayoutNode frmPartidaBautismo::disposicion() {
 LayoutNode frmPartidaBautismo::paginaGeneral() {
   return page({fields(1, {item(cboBautismo[Institucion], {&cmdAltaInstitucion}),
                           item(cboBautismo[Libro], {&cmdAltaLibro})}),
-               group(fraLibro, {fields(2, {item(txtLibro[FOLIO]), item(txtLibro[NUMERO])})}),
+               group(fraLibro, {fields(2, {item(txtLibro[FOLIO]), item(txtLibro[NUMERO])}),
+                                item(lblNumeroRepetido)}),
                item(lblPartidaAnulada), forms::stretch()});
 }
 

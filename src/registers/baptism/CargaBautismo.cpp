@@ -34,8 +34,9 @@ bool frmPartidaBautismo::esAlta() const {
 
 void frmPartidaBautismo::Form_Load() {
   // Half-loaded fields must never be accepted over what is stored.
-  if (!procedimiento("Form_Load", [this] { cargar(); })) Unload();
+  if (!procedimiento("Form_Load", [this] { cargar(); })) return Unload();
   cargando_ = false;
+  procedimiento("Form_Load", [this] { avisarNumeroRepetido(); });
 }
 
 void frmPartidaBautismo::cargar() {
@@ -44,6 +45,7 @@ void frmPartidaBautismo::cargar() {
   if (!strPortapapeles.empty()) ui().setClipboardText(strPortapapeles);
   listas_->abrir(*conBaseDatos);
   posicion_->abrir(*conBaseDatos, Origen);
+  vigilarElecciones();
   cIListas(contexto_).fillSexo(cboBautismo[Sexo]);
   for (ParProvinciaPoblacion& par : pares_) par.abrir(*conBaseDatos);
   cmdBautismo[ANULAR].setVisible(Operacion == cCOperacion::ANTIGUA ||
@@ -54,6 +56,24 @@ void frmPartidaBautismo::cargar() {
   if (Operacion == cCOperacion::EDITAR) prepararEdicion();
   refrescarTitulo();
   if (incompleta_) soloLectura();
+}
+
+void frmPartidaBautismo::vigilarElecciones() {
+  elecciones_.emplace(contexto_, *conBaseDatos);
+  elecciones_->vigilar(
+      {&cboBautismo[Institucion], "Institucion", "IDInstitucion", "la institución", [this] {
+         listas_->cargarInstituciones(0);
+         cboBautismo[Libro].clear();
+         vaciarPosicion();
+       }});
+  elecciones_->vigilar(
+      {&cboBautismo[Libro], BAUTISMO.tablaLibros, BAUTISMO.claveLibro, "el libro", [this] {
+         llenarLibros();
+         vaciarPosicion();
+       }});
+  for (ParProvinciaPoblacion& par : pares_)
+    elecciones_->vigilar({&par.poblacion(), "Municipio", "IDMunicipio", "la población",
+                          [&par] { par.olvidarPoblacion(); }});
 }
 
 void frmPartidaBautismo::limpiarCampos() {
@@ -101,14 +121,12 @@ void frmPartidaBautismo::prepararSolicitud() {
   if (edicion) {
     leerPartida();
     InstitucionSolicitud = registro_.CodInstitucionBautismo;
-    const bool fijada = InstitucionSolicitud != 0;
-    cboBautismo[Institucion].setLocked(fijada);
-    cmdAltaInstitucion.setEnabled(!fijada);
   }
-  listas_->cargarInstituciones(InstitucionSolicitud);
-  if (edicion)
+  listas_->cargarInstituciones(edicion ? 0 : InstitucionSolicitud);
+  if (edicion) {
+    cboBautismo[Institucion].selectData(InstitucionSolicitud);
     mostrarRegistro();
-  else if (InstitucionSolicitud == 0)
+  } else if (InstitucionSolicitud == 0)
     listas_->elegirUltimaInstitucion();
 }
 

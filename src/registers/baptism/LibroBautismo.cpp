@@ -21,19 +21,36 @@ void frmPartidaBautismo::cboInstitucion_Click() {
   procedimiento("cboBautismo_Click", [this] {
     if (!esAlta() || esSolicitud() || lngLibro != 0) return;
     llenarLibros();
-    for (const CampoLibro campo : {FOLIO, NUMERO}) txtLibro[campo].setText("");
+    vaciarPosicion();
   });
+}
+
+void frmPartidaBautismo::vaciarPosicion() {
+  for (const CampoLibro campo : {FOLIO, NUMERO}) txtLibro[campo].setText("");
 }
 
 void frmPartidaBautismo::cboLibro_Click() {
   if (esAlta()) proponerPosicion();
 }
 
-void frmPartidaBautismo::proponerPosicion() {
-  if (esSolicitud()) return;
+bool frmPartidaBautismo::proponerPosicion() {
+  if (esSolicitud()) return true;
+  bool propuesta = false;
+  procedimiento("cboBautismo_Click", [&] {
+    if (!elecciones_->siguen()) return;
+    calcularPosicion();
+    propuesta = true;
+  });
   // A position that could not be worked out must not be taken for the one of the entry before.
-  if (!procedimiento("cboBautismo_Click", [this] { calcularPosicion(); }))
-    for (const CampoLibro campo : {FOLIO, NUMERO}) txtLibro[campo].setText("");
+  if (!propuesta) vaciarPosicion();
+  avisarNumeroRepetido();
+  return propuesta;
+}
+
+/// Only where the number can be typed: a new book counts by itself.
+void frmPartidaBautismo::avisarNumeroRepetido() {
+  if (!posicion_ || cargando_ || txtLibro[NUMERO].locked()) return;
+  posicion_->avisarNumeroRepetido(registro_.IDBautismo);
 }
 
 void frmPartidaBautismo::calcularPosicion() {
@@ -47,9 +64,12 @@ void frmPartidaBautismo::calcularPosicion() {
 
 std::vector<Posicion> frmPartidaBautismo::posicionesDeColeccion() const {
   std::vector<Posicion> posiciones;
-  for (const cBautismo& item : *colPartidas)
-    if (item.Operacion != cCOperacion::Borrar)
+  for (std::size_t i = 0; i < colPartidas->size(); ++i) {
+    const cBautismo& item = (*colPartidas)[i];
+    const bool esEsta = !esAlta() && i == lngPosicion;
+    if (item.Operacion != cCOperacion::Borrar && !esEsta)
       posiciones.push_back({text::toInteger(item.FolioBautismo).value_or(0), item.NumeroBautismo});
+  }
   return posiciones;
 }
 
@@ -112,7 +132,7 @@ bool frmPartidaBautismo::mstBautismo_MouseDown() {
   bool adelante = false;
   procedimiento("mstBautismo_MouseDown", [&] {
     const bool comprobar = mstBautismo.tab() == TAB_GENERAL && Operacion == cCOperacion::ANTIGUA;
-    adelante = !comprobar || posicion_->comprobarPosicionTecleada();
+    adelante = !comprobar || (elecciones_->siguen() && posicion_->comprobarPosicionTecleada());
   });
   return adelante;
 }

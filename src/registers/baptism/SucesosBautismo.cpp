@@ -8,10 +8,10 @@ namespace fidaleon {
 
 void frmPartidaBautismo::crearSucesos() {
   listas_.emplace(contexto_, BAUTISMO, cboBautismo[Institucion], cboBautismo[Libro]);
-  posicion_.emplace(
-      contexto_, BAUTISMO,
-      CamposPosicion{cboBautismo[Institucion], cboBautismo[Libro], txtLibro[FOLIO],
-                     txtLibro[NUMERO], mstBautismo, [this] { return posicionesDeColeccion(); }});
+  posicion_.emplace(contexto_, BAUTISMO,
+                    CamposPosicion{cboBautismo[Institucion], cboBautismo[Libro], txtLibro[FOLIO],
+                                   txtLibro[NUMERO], mstBautismo, lblNumeroRepetido,
+                                   [this] { return posicionesDeColeccion(); }});
   limiteNotas_.emplace(ui(), txtBautismo[NotasMarginales]);
   txtBautismo[NotasMarginales].onChange = [this] {
     if (!cargando_) limiteNotas_->comprobar();
@@ -29,7 +29,10 @@ void frmPartidaBautismo::crearSucesos() {
       txtLibro_LostFocus(campo, siguiente);
     };
     txtLibro[campo].onChange = [this] {
-      procedimiento("txtLibro_Change", [this] { refrescarTitulo(); });
+      procedimiento("txtLibro_Change", [this] {
+        refrescarTitulo();
+        avisarNumeroRepetido();
+      });
     };
   }
   for (const Texto apellido : {PrimerApellidoHijo, SegundoApellidoHijo})
@@ -65,18 +68,14 @@ void frmPartidaBautismo::cmdAltaInstitucion_Click() {
 
 void frmPartidaBautismo::cmdAltaLibro_Click() {
   procedimiento("cmdAltaLibro_Click", [this] {
-    forms::ComboBox& libros = cboBautismo[Libro];
-    const std::int64_t elegido = libros.data();
-    const int antes = libros.listCount();
+    const std::int64_t elegido = cboBautismo[Libro].data();
     frmAltaLibroBautismo alta(contexto_);
     alta.conBaseDatos = conBaseDatos;
     alta.lngInstitucion = static_cast<std::int32_t>(cboBautismo[Institucion].data());
     alta.Show();
+    if (alta.strAgregado.empty()) return;
     llenarLibros();
-    if (libros.listCount() > antes)
-      libros.setListIndex(libros.listCount() - 1);
-    else
-      libros.selectData(elegido);
+    listas_->elegirAgregado(alta.strAgregado, elegido);
   });
 }
 

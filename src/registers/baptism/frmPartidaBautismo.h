@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "core/contract/Dialogo.h"
+#include "core/lists/Elecciones.h"
 #include "core/lists/ParProvinciaPoblacion.h"
 #include "registers/allocation/PosicionPartida.h"
 #include "registers/baptism/cBautismo.h"
@@ -147,6 +148,7 @@ class frmPartidaBautismo : public Dialogo {
   forms::Frame fraMatrimonio;
   forms::Frame fraDomicilio;
   forms::Frame fraPadrinos;
+  forms::Label lblNumeroRepetido;
   forms::Label lblPartidaAnulada;
   forms::Button cmdAltaInstitucion;
   forms::Button cmdAltaLibro;
@@ -187,6 +189,7 @@ class frmPartidaBautismo : public Dialogo {
 
   // Loading
   void cargar();
+  void vigilarElecciones();
   void prepararAlta();
   void prepararSolicitud();
   void prepararEdicion();
@@ -201,8 +204,11 @@ class frmPartidaBautismo : public Dialogo {
   bool desdeLista() const { return Origen == FDAPI::cCOrigen::LISTAPARTIDASBAUTISMO; }
   void llenarLibros();
   void abrirPosicion(bool abierta);
-  void proponerPosicion();
+  /// False when there is none; the user knows why.
+  bool proponerPosicion();
   void calcularPosicion();
+  void avisarNumeroRepetido();
+  void vaciarPosicion();
   std::vector<Posicion> posicionesDeColeccion() const;
   void refrescarTitulo();
   bool faltaInstitucionOLibro();
@@ -252,6 +258,7 @@ class frmPartidaBautismo : public Dialogo {
   std::vector<Enlace<std::string, forms::DateField>> fechas_;
   std::deque<ParProvinciaPoblacion> pares_;
   std::vector<Enlace<std::int32_t, ParProvinciaPoblacion>> municipios_;
+  std::optional<Elecciones> elecciones_;
   std::optional<ListasDeLibro> listas_;
   std::optional<PosicionPartida> posicion_;
   std::optional<LimiteNotas> limiteNotas_;

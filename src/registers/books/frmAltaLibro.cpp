@@ -5,13 +5,12 @@
 #include "core/contract/EnSacramento.h"
 #include "core/contract/Guard.h"
 #include "core/lists/cIListas.h"
+#include "registers/common/NuevaInstitucion.h"
 #include "text/Utf8.h"
 
 namespace fidaleon {
 
 using FDAPI::cCRegistry;
-using store::Recordset;
-
 struct VarianteAltaLibro {
   const char* titulo;
   /// Book table as the statements spell it; null: as they stand.
@@ -41,6 +40,7 @@ bool vacio(const std::string& texto) {
 
 frmAltaLibro::frmAltaLibro(Contexto& contexto, const Sacramento& sacramento)
     : Dialogo(contexto, std::string("frmAltaLibro") + sacramento.palabra),
+      lblEleccion(*this, "lblEleccion", "Libro nuevo o antiguo:"),
       cboInstituciones(*this, "cboInstituciones", "Institución:"),
       cmdAgregarInstitucion(*this, "cmdAgregarInstitucion", "Agregar Institución"),
       optNuevo(*this, "optNuevo", "Nuevo", "libro"),
@@ -64,7 +64,7 @@ void frmAltaLibro::prepararControles() {
   txtNombreLibro.setQuoteRule(forms::QuoteRule::Remove);
   setLayout(forms::column({
       forms::fields(1, {forms::item(cboInstituciones, {&cmdAgregarInstitucion})}),
-      forms::row({forms::item(optNuevo), forms::item(optAntiguo)}),
+      forms::row({forms::item(lblEleccion), forms::item(optNuevo), forms::item(optAntiguo)}),
       forms::fields(1, {forms::item(cboTipoNombre), forms::item(txtNombreLibro),
                         forms::item(cboFormato), forms::item(adtpAltaLibro)}),
       forms::stretch(),
@@ -89,6 +89,9 @@ void frmAltaLibro::Form_Load() {
     txtNombreLibro.setText("");
     txtNombreLibro.setLocked(true);
     cboFormato.setEnabled(false);
+    elecciones_.emplace(contexto_, *conBaseDatos);
+    elecciones_->vigilar({&cboInstituciones, "Institucion", "IDInstitucion", "la institución",
+                          [this] { vaciarInstituciones(); }});
     cargarInstituciones();
   });
 }
@@ -103,6 +106,11 @@ void frmAltaLibro::cargarInstituciones() {
   }
   cboInstituciones.selectText(
       contexto_.leerAjuste(cCRegistry::ultimos, cCRegistry::ultimos_Institucion));
+}
+
+void frmAltaLibro::vaciarInstituciones() {
+  contexto_.entorno.support.create_cIListas()->fillInstituciones(cboInstituciones, 0,
+                                                                 *conBaseDatos);
 }
 
 void frmAltaLibro::cboInstituciones_Click() {
@@ -120,14 +128,10 @@ void frmAltaLibro::cboInstituciones_Click() {
 
 void frmAltaLibro::cmdAgregarInstitucion_Click() {
   procedimiento("cmdAgregarInstitucion_Click()", [&] {
-    contexto_.fidaleon()->NuevaInstitucion(*conBaseDatos, contexto_.config());
-    Recordset fila = conBaseDatos->Execute(
-        "SELECT Nombre, IDInstitucion FROM Institucion ORDER BY IDInstitucion");
-    if (fila.EOF_()) return;
-    fila.MoveLast();
-    const auto ultima = static_cast<std::int32_t>(fila.integer("IDInstitucion"));
+    const std::int32_t agregada = nuevaInstitucion(contexto_, *conBaseDatos);
+    if (agregada == 0) return;
     cboInstituciones.clear();
-    contexto_.entorno.support.create_cIListas()->fillInstituciones(cboInstituciones, ultima,
+    contexto_.entorno.support.create_cIListas()->fillInstituciones(cboInstituciones, agregada,
                                                                    *conBaseDatos);
   });
 }
@@ -191,6 +195,7 @@ void frmAltaLibro::aceptar() {
   }
   const forms::Hourglass reloj(ui());
   if (!ValidarDatos()) return avisarFalta();
+  if (!elecciones_->siguen()) return;
   if (!GuardarDatos()) return setFocus(cboInstituciones);
   // The book is in the store: a setting that cannot be kept must not hold the dialog open.
   guarded(contexto_, name(), variante_.errorDeBoton, [&] {
@@ -211,19 +216,24 @@ bool frmAltaLibro::ValidarDatos() {
 }
 
 void frmAltaLibro::avisarFalta() {
+  struct Dato {
+    forms::Control& campo;
+    const forms::Label& rotulo;
+    bool falta;
+  };
   // Without the choice of new or old the name types have not been offered.
-  const bool sinEleccion = !optNuevo.value() && !optAntiguo.value();
-  const std::array<std::pair<forms::Control*, bool>, 5> orden{{
-      {&cboInstituciones, vacio(cboInstituciones.text())},
-      {&cboTipoNombre, sinEleccion || vacio(cboTipoNombre.text())},
-      {&txtNombreLibro, vacio(txtNombreLibro.text())},
-      {&cboFormato, vacio(cboFormato.text())},
-      {&adtpAltaLibro, adtpAltaLibro.stored().empty()},
-  }};
-  for (const auto& [campo, falta] : orden) {
-    if (!falta) continue;
-    contexto_.fidaleon()->verfalta(*campo->label());
-    return setFocus(*campo);
+  const Dato orden[] = {
+      {cboInstituciones, *cboInstituciones.label(), vacio(cboInstituciones.text())},
+      {optNuevo, lblEleccion, !optNuevo.value() && !optAntiguo.value()},
+      {cboTipoNombre, *cboTipoNombre.label(), vacio(cboTipoNombre.text())},
+      {txtNombreLibro, *txtNombreLibro.label(), vacio(txtNombreLibro.text())},
+      {cboFormato, *cboFormato.label(), vacio(cboFormato.text())},
+      {adtpAltaLibro, *adtpAltaLibro.label(), adtpAltaLibro.stored().empty()},
+  };
+  for (const Dato& dato : orden) {
+    if (!dato.falta) continue;
+    contexto_.fidaleon()->verfalta(dato.rotulo);
+    return setFocus(dato.campo);
   }
 }
 
@@ -250,6 +260,7 @@ bool frmAltaLibro::GuardarDatos() {
         std::to_string(cboTipoNombre.data()) + ", " + nombre + ", " +
         entreComillas(adtpAltaLibro.stored()) + ", " + (optNuevo.value() ? "1" : "0") +
         ", 0, 1, 1)");
+    strAgregado = txtNombreLibro.text();
     guardado = true;
   });
   return guardado;

@@ -2,9 +2,12 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
+#include <string>
 
 #include "core/contract/Dialogo.h"
 #include "core/contract/Sacramento.h"
+#include "core/lists/Elecciones.h"
 
 namespace fidaleon {
 
@@ -19,7 +22,10 @@ class frmAltaLibro : public Dialogo {
   FDAPI::Conexion* conBaseDatos = nullptr;
   /// When not 0, the book can only be of this institution.
   std::int32_t lngInstitucion = 0;
+  /// Name of the book that was created; empty when none was.
+  std::string strAgregado;
 
+  forms::Label lblEleccion;
   forms::ComboBox cboInstituciones;
   forms::Button cmdAgregarInstitucion;
   forms::OptionButton optNuevo;
@@ -47,6 +53,7 @@ class frmAltaLibro : public Dialogo {
 
   void prepararControles();
   void cargarInstituciones();
+  void vaciarInstituciones();
   void construirNombre();
   void aceptar();
   void avisarFalta();
@@ -58,6 +65,7 @@ class frmAltaLibro : public Dialogo {
 
   const Sacramento& sacramento_;
   const VarianteAltaLibro& variante_;
+  std::optional<Elecciones> elecciones_;
 };
 
 class frmAltaLibroBautismo : public frmAltaLibro {

@@ -1,6 +1,7 @@
 // Accepting and cancelling the dialog of a book.
 
 #include "core/contract/EnSacramento.h"
+#include "core/lists/Elecciones.h"
 #include "registers/books/VariantePropiedadesLibro.h"
 #include "text/Utf8.h"
 
@@ -33,6 +34,8 @@ void frmPropiedadesLibro::aceptar() {
     mstLibro.setTab(TAB_LIBRO);
     return setFocus(campo);
   }
+  if (!hayFilas(sentencia("Select * from Libro_Bautismo where IdLibroBautismo=") + libro()))
+    return avisarEliminados(ui(), {"el libro «" + nombreViejo_ + "»"}, false);
   const forms::Hourglass reloj(ui());
   if (partidas_->guardar(*conBaseDatos) && GuardarDatos()) Unload();
 }

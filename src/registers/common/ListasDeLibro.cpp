@@ -3,6 +3,7 @@
 #include <set>
 
 #include "core/contract/EnSacramento.h"
+#include "registers/common/NuevaInstitucion.h"
 #include "text/Utf8.h"
 
 namespace fidaleon {
@@ -62,15 +63,23 @@ void ListasDeLibro::guardarUltimaInstitucion() {
 }
 
 void ListasDeLibro::agregarInstitucion() {
-  const std::int64_t elegida = institucion_.data();
-  contexto_.fidaleon()->NuevaInstitucion(*conexion_, contexto_.config());
-  store::Recordset filas =
-      conexion_->Execute("SELECT Nombre, IDInstitucion FROM Institucion ORDER BY IDInstitucion");
-  if (filas.EOF_()) return;
-  const bool agregada = filas.RecordCount() > institucion_.listCount();
-  filas.MoveLast();
+  const std::int32_t agregada = nuevaInstitucion(contexto_, *conexion_);
+  if (agregada == 0) return;
   cargarInstituciones(0);
-  institucion_.selectData(agregada ? filas.integer("IDInstitucion") : elegida);
+  institucion_.selectData(agregada);
+}
+
+void ListasDeLibro::elegirAgregado(const std::string& libro, std::int64_t elegido) {
+  int fila = libro_.listCount() - 1;
+  while (fila >= 0 && libro_.list(fila) != libro) --fila;
+  if (fila < 0) {
+    libro_.selectData(elegido);
+    return;
+  }
+  if (!libros_) libros_.emplace(contexto_, *conexion_);
+  libros_->registroPorClave(sacramento_.tablaLibros, sacramento_.claveLibro,
+                            static_cast<std::int32_t>(libro_.itemData(fila)));
+  if (libros_->efectuar()) libro_.setListIndex(fila);
 }
 
 }  // namespace fidaleon

@@ -1,9 +1,12 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
+#include <string>
 
 #include "core/contract/Contexto.h"
 #include "core/contract/Sacramento.h"
+#include "core/contract/SesionBloqueos.h"
 #include "forms/Controls.h"
 
 namespace fidaleon {
@@ -28,8 +31,13 @@ class ListasDeLibro {
   /// Chooses the institution used last, if the list holds it.
   void elegirUltimaInstitucion();
   void guardarUltimaInstitucion();
-  /// The host's dialog for a new institution; what was added is chosen.
+  /// The host's dialog for a new institution; what was added is chosen. Cancelled, it leaves the
+  /// list as it is.
   void agregarInstitucion();
+  /// Chooses a book that was added from inside, and holds it as long as the dialog lives: nobody
+  /// deletes it before the entry is in it. Refused, as the user is told, none is chosen; a book
+  /// that this list does not offer leaves `elegido` chosen.
+  void elegirAgregado(const std::string& libro, std::int64_t elegido);
 
  private:
   void cargarLibros(const std::string& condicion);
@@ -39,6 +47,7 @@ class ListasDeLibro {
   forms::ComboBox& institucion_;
   forms::ComboBox& libro_;
   FDAPI::Conexion* conexion_ = nullptr;
+  std::optional<SesionBloqueos> libros_;
 };
 
 }  // namespace fidaleon
