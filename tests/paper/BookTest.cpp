@@ -110,6 +110,16 @@ TEST_F(LongDocument, book_cutsNoEntryInTwo_andKeepsTheOrderOfItsRows) {
   EXPECT_EQ(next, 24);
 }
 
+TEST_F(LongDocument, book_putsANumberWithALetterBehindItsBareNumber) {
+  for (const char* number : {"12a", "9", "12"})
+    add("InformeLibroBautismo",
+        {{"Folio", "3"}, {"Numero", number}, {"Madrina", std::string("Final") + number}});
+  const Report book = open("InformeLibroBautismo");
+  std::string text;
+  for (int page = 1; page < book.pageCount(); ++page) text += pageText(book, page);
+  EXPECT_THAT(found(text, "Final(\\w+)"), ElementsAre("9", "12", "12a"));
+}
+
 TEST_F(LongDocument, entryTallerThanAPage_goesOnOverleafWithoutLosingAWord) {
   std::string long_;
   for (int i = 0; i < 1500; ++i) long_ += "dato" + std::to_string(i) + "x ";
