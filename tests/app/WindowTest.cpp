@@ -78,6 +78,17 @@ TEST_F(Window, annulling_asksAndKeepsTheRowChosen) {
   EXPECT_THAT(user.problems(), ::testing::IsEmpty());
 }
 
+TEST_F(Window, annulledElsewhere_isToldInsteadOfAskedAndNotValidated) {
+  const std::int32_t id = window->choice().id;
+  ASSERT_FALSE(window->choice().annulled);
+  desk->parish().Execute("UPDATE Bautismo SET Anulada=1 WHERE IDBautismo=" + std::to_string(id));
+  user.expectMessage("Otro puesto ya ha anulado esta partida: no se ha cambiado nada.");
+  window->action("anular")->trigger();
+  EXPECT_EQ(window->choice().id, id);
+  EXPECT_TRUE(window->choice().annulled);
+  EXPECT_THAT(user.problems(), ::testing::IsEmpty());
+}
+
 TEST_F(Window, deletingARequest_asksFirst) {
   window->showNode("SolicitudesBautismo");
   const int before = shown();

@@ -23,7 +23,7 @@ inline constexpr const char* DIALOG = "frmPartidaBautismo";
 /// What acceptance says of something that another desk has deleted.
 inline std::string gone(const std::string& what) {
   return "Ya no existe, porque se ha eliminado desde otro puesto:\n\n" + what +
-         "\n\nLo que ha escrito sigue aquí. Elija otro de la lista y acepte de nuevo.";
+         "\n\nLo que ha escrito sigue aquí. Elija otro y acepte de nuevo.";
 }
 
 class BaptismWorld : public ::testing::Test {

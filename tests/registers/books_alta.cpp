@@ -240,7 +240,7 @@ TEST_P(AltaLibroBautismo, addingAnInstitution_choosesItAloneAndCancellingLeavesT
 TEST_P(AltaLibroBautismo, institutionDeletedMeanwhile_isNamedAndAnotherCanBeChosen) {
   espera(
       "Ya no existe, porque se ha eliminado desde otro puesto:\n\nla institución «San Juan»\n\nLo "
-      "que ha escrito sigue aquí. Elija otro de la lista y acepte de nuevo.");
+      "que ha escrito sigue aquí. Elija otro y acepte de nuevo.");
   abrir([&](FormDriver& f) {
     rellenarAntiguo(f);
     mundo.con().Execute("DELETE * FROM Institucion WHERE IDInstitucion=" + std::to_string(sanJuan));

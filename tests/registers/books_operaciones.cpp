@@ -64,6 +64,13 @@ TEST_P(OperacionesLibro, openNewBook_isClosedAfterAsking) {
   mundo.user.expectMessage(PREGUNTA_CERRAR, Answer::Yes);
   cerrar(id);
   EXPECT_TRUE(cerrado());
+  const auto poner = [&](const char* valor) {
+    mundo.con().Execute(std::string("UPDATE ") + s.tablaLibros + " SET cerrado=" + valor);
+  };
+  poner("false");
+  mundo.user.expectMessage(PREGUNTA_CERRAR, Answer::Yes, [&] { poner("true"); });
+  mundo.user.expectMessage("¡No se puede cerrar un libro que ya está cerrado!");
+  cerrar(id);
   mundo.user.expectMessage("¡No se puede cerrar un libro que ya está cerrado!");
   cerrar(id);
   EXPECT_SCRIPT_DONE(mundo.user);

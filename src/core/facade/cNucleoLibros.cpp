@@ -6,22 +6,6 @@
 
 namespace fidaleon {
 
-void cNucleo::NuevoLibro(FDAPI::Conexion& conBaseDatos, const FDAPI::cConfig& objConfig,
-                         const std::string& strNodoPadre) {
-  operacion(contexto_, "NuevoLibro", [&] {
-    const Sacramento* s = sacramentoDeNodo(strNodoPadre, "Libros");
-    if (!s) return;
-    SesionBloqueos sesion(contexto_, conBaseDatos);
-    sesion.tablasCompartidas({"Institucion", "Libros_Formato", "Libros_TipoNombre"});
-    sesion.tabla(s->tablaLibros);
-    if (!sesion.efectuar()) return;
-    contexto_.gobjConfig = &objConfig;
-    const auto dialogo = crearAltaLibro(contexto_, *s);
-    dialogo->conBaseDatos = &conBaseDatos;
-    dialogo->Show();
-  });
-}
-
 namespace {
 
 /// What the user gets to see of a book that is open elsewhere, in part or whole.
@@ -55,6 +39,22 @@ AperturaDeLibro bloquearLibro(SesionBloqueos& sesion, const Sacramento& s, std::
 }
 
 }  // namespace
+
+void cNucleo::NuevoLibro(FDAPI::Conexion& conBaseDatos, const FDAPI::cConfig& objConfig,
+                         const std::string& strNodoPadre) {
+  operacion(contexto_, "NuevoLibro", [&] {
+    const Sacramento* s = sacramentoDeNodo(strNodoPadre, "Libros");
+    if (!s) return;
+    SesionBloqueos sesion(contexto_, conBaseDatos);
+    sesion.tablasCompartidas({"Institucion", "Libros_Formato", "Libros_TipoNombre"});
+    sesion.tabla(s->tablaLibros);
+    if (!sesion.efectuar()) return;
+    contexto_.gobjConfig = &objConfig;
+    const auto dialogo = crearAltaLibro(contexto_, *s);
+    dialogo->conBaseDatos = &conBaseDatos;
+    dialogo->Show();
+  });
+}
 
 void cNucleo::PropiedadesLibro(FDAPI::Conexion& conBaseDatos, std::int32_t lngLibro,
                                const FDAPI::cConfig& objConfig, const std::string& strNodoPadre) {

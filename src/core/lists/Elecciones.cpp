@@ -68,7 +68,7 @@ void avisarEliminados(forms::UserInterface& ui, const std::vector<std::string>& 
   std::string texto = "Ya no existe, porque se ha eliminado desde otro puesto:\n";
   for (const std::string& cual : cuales) texto += "\n" + cual;
   forms::warn(ui, texto + "\n\nLo que ha escrito sigue aquí. " +
-                      (puedeElegirOtro ? "Elija otro de la lista y acepte de nuevo."
+                      (puedeElegirOtro ? "Elija otro y acepte de nuevo."
                                        : "Sin ello no se puede guardar."));
 }
 

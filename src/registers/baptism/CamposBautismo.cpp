@@ -94,6 +94,7 @@ void frmPartidaBautismo::crearCampos() {
   txtLibro[FOLIO].setMaxLength(ANCHO_FOLIO);
   txtLibro[NUMERO].setMaxLength(ANCHO_FOLIO);
   txtLibro[NUMERO].fits = esNumeroDePartida;
+  lblNumeroRepetido.setEmphasised(true);
   lblNumeroRepetido.setVisible(false);
   lblPartidaAnulada.setEmphasised(true);
   lblPartidaAnulada.setVisible(false);
@@ -227,8 +228,8 @@ LayoutNode frmPartidaBautismo::disposicion() {
 LayoutNode frmPartidaBautismo::paginaGeneral() {
   return page({fields(1, {item(cboBautismo[Institucion], {&cmdAltaInstitucion}),
                           item(cboBautismo[Libro], {&cmdAltaLibro})}),
-               group(fraLibro, {fields(2, {item(txtLibro[FOLIO]), item(txtLibro[NUMERO])}),
-                                item(lblNumeroRepetido)}),
+               group(fraLibro, {fields(1, {item(txtLibro[FOLIO]), item(txtLibro[NUMERO]),
+                                           item(lblNumeroRepetido)})}),
                item(lblPartidaAnulada), forms::stretch()});
 }
 

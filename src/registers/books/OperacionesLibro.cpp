@@ -34,6 +34,8 @@ class OperacionLibro {
                     "Si cierra este libro no podrá introducir más partidas. ¿Desea cerrarlo?"))
       return;
     if (!bloquear()) return;
+    // Another workstation may have closed it while the question stood.
+    if (const char* motivo = motivoParaNoCerrar()) return forms::warn(contexto_.ui(), motivo);
     ejecutar("UPDATE libro_bautismo SET cerrado=true WHERE idlibrobautismo=");
   }
 

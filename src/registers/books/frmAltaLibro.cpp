@@ -40,7 +40,6 @@ bool vacio(const std::string& texto) {
 
 frmAltaLibro::frmAltaLibro(Contexto& contexto, const Sacramento& sacramento)
     : Dialogo(contexto, std::string("frmAltaLibro") + sacramento.palabra),
-      lblEleccion(*this, "lblEleccion", "Libro nuevo o antiguo:"),
       cboInstituciones(*this, "cboInstituciones", "Institución:"),
       cmdAgregarInstitucion(*this, "cmdAgregarInstitucion", "Agregar Institución"),
       optNuevo(*this, "optNuevo", "Nuevo", "libro"),
@@ -61,12 +60,13 @@ void frmAltaLibro::prepararControles() {
   forms::Button& cancelarBoton = cmdBoton.add(CANCELAR, "CANCELAR");
   aceptarBoton.setDefault(true);
   cancelarBoton.setCancel(true);
+  optNuevo.setLabel(makeLabel("lblEleccion", "Libro nuevo o antiguo:"));
   txtNombreLibro.setQuoteRule(forms::QuoteRule::Remove);
   setLayout(forms::column({
-      forms::fields(1, {forms::item(cboInstituciones, {&cmdAgregarInstitucion})}),
-      forms::row({forms::item(lblEleccion), forms::item(optNuevo), forms::item(optAntiguo)}),
-      forms::fields(1, {forms::item(cboTipoNombre), forms::item(txtNombreLibro),
-                        forms::item(cboFormato), forms::item(adtpAltaLibro)}),
+      forms::fields(
+          1, {forms::item(cboInstituciones, {&cmdAgregarInstitucion}),
+              forms::item(optNuevo, {&optAntiguo}), forms::item(cboTipoNombre),
+              forms::item(txtNombreLibro), forms::item(cboFormato), forms::item(adtpAltaLibro)}),
       forms::stretch(),
       forms::buttons({&aceptarBoton, &cancelarBoton}),
   }));
@@ -216,24 +216,20 @@ bool frmAltaLibro::ValidarDatos() {
 }
 
 void frmAltaLibro::avisarFalta() {
-  struct Dato {
-    forms::Control& campo;
-    const forms::Label& rotulo;
-    bool falta;
-  };
   // Without the choice of new or old the name types have not been offered.
-  const Dato orden[] = {
-      {cboInstituciones, *cboInstituciones.label(), vacio(cboInstituciones.text())},
-      {optNuevo, lblEleccion, !optNuevo.value() && !optAntiguo.value()},
-      {cboTipoNombre, *cboTipoNombre.label(), vacio(cboTipoNombre.text())},
-      {txtNombreLibro, *txtNombreLibro.label(), vacio(txtNombreLibro.text())},
-      {cboFormato, *cboFormato.label(), vacio(cboFormato.text())},
-      {adtpAltaLibro, *adtpAltaLibro.label(), adtpAltaLibro.stored().empty()},
-  };
-  for (const Dato& dato : orden) {
-    if (!dato.falta) continue;
-    contexto_.fidaleon()->verfalta(dato.rotulo);
-    return setFocus(dato.campo);
+  const bool sinEleccion = !optNuevo.value() && !optAntiguo.value();
+  const std::array<std::pair<forms::Control*, bool>, 6> orden{{
+      {&cboInstituciones, vacio(cboInstituciones.text())},
+      {&optNuevo, sinEleccion},
+      {&cboTipoNombre, vacio(cboTipoNombre.text())},
+      {&txtNombreLibro, vacio(txtNombreLibro.text())},
+      {&cboFormato, vacio(cboFormato.text())},
+      {&adtpAltaLibro, adtpAltaLibro.stored().empty()},
+  }};
+  for (const auto& [campo, falta] : orden) {
+    if (!falta) continue;
+    contexto_.fidaleon()->verfalta(*campo->label());
+    return setFocus(*campo);
   }
 }
 

@@ -25,7 +25,6 @@ class frmAltaLibro : public Dialogo {
   /// Name of the book that was created; empty when none was.
   std::string strAgregado;
 
-  forms::Label lblEleccion;
   forms::ComboBox cboInstituciones;
   forms::Button cmdAgregarInstitucion;
   forms::OptionButton optNuevo;
