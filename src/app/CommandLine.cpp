@@ -61,7 +61,7 @@ std::string CommandLine::help() {
          "persona,\n"
          "                              desde el padrón hasta los grupos y sus informes; deja en "
          "la\n"
-         "                              carpeta las dos bases de datos, los documentos y un "
+         "                              carpeta la parroquia, los documentos y un "
          "registro\n"
          "  fidaleon --pictures CARPETA guarda una imagen de cada diálogo y de cada documento\n"
          "  fidaleon --help             muestra esta ayuda\n";

@@ -25,8 +25,6 @@ class Desk {
   store::Connection& parish() { return *open_.parish; }
   store::Connection& reports() { return *open_.reports; }
   const ParishFiles& files() const { return files_; }
-  /// Set when the reports database was unusable and has been put aside under this name.
-  const std::filesystem::path& reportsPutAside() const { return open_.reportsPutAside; }
   /// Short name of the first institution.
   std::string parishName();
   std::string edition() const { return editionName(entorno_.installation.Aplicacion); }

@@ -11,8 +11,25 @@
 #include "app/FirstRunWizard.h"
 #include "app/LastWords.h"
 #include "app/MainWindow.h"
+#include "store/Open.h"
 
 namespace fidaleon::app {
+namespace {
+
+/// The first start on two workstations at once: one has made the parish, the other works on it too.
+bool wantsToJoin(const NewParish& wanted) {
+  QMessageBox box(QMessageBox::Question, QObject::tr("Ya hay una parroquia"),
+                  QObject::tr("Mientras tanto, en otro puesto se ha creado una parroquia en la "
+                              "carpeta «%1». No se ha cambiado nada en ella.")
+                      .arg(QString::fromStdString(wanted.directory.string())));
+  box.setInformativeText(QObject::tr("¿Quiere trabajar con esa parroquia?"));
+  const auto* join = box.addButton(QObject::tr("&Abrir esa parroquia"), QMessageBox::AcceptRole);
+  box.addButton(QObject::tr("&Elegir otra carpeta"), QMessageBox::RejectRole);
+  box.exec();
+  return box.clickedButton() == join;
+}
+
+}  // namespace
 
 Desktop::Desktop()
     : settings_(support::FileSettings::defaultFile(),
@@ -47,6 +64,11 @@ bool Desktop::createFirst(ParishFiles& files) {
     const NewParish parish = wizard.parish();
     try {
       createParish(parish, clock_.today());
+      files = ParishFiles(parish.directory);
+      preferences_.user = parish.user;
+      return true;
+    } catch (const store::NameTaken&) {
+      if (!wantsToJoin(parish)) continue;
       files = ParishFiles(parish.directory);
       preferences_.user = parish.user;
       return true;
@@ -120,12 +142,6 @@ void Desktop::chooseFolder(ParishFiles& files) const {
 
 int Desktop::work(Desk& desk) {
   const LastWords lastWords(watch_, desk.files().directory);
-  if (!desk.reportsPutAside().empty())
-    QMessageBox::information(
-        nullptr, "Fidaleon",
-        QObject::tr("La base de datos de informes estaba estropeada y se ha creado de nuevo. No "
-                    "contenía datos de la parroquia.\nLa estropeada se ha guardado como «%1».")
-            .arg(QString::fromStdString(desk.reportsPutAside().string())));
   if (!settleEdition(desk) || !desk.setUp()) return 0;
   MainWindow window(desk);
   window.show();

@@ -47,12 +47,20 @@ std::string whatIsMissing(const NewParish& parish) {
 void createParish(const NewParish& parish, const text::Date& today) {
   const ParishFiles files(parish.directory);
   makeDirectory(parish.directory);
-  if (files.exists())
-    throw store::Error(store::ErrorKind::Constraint, "Ya existe una parroquia en esa carpeta.");
-  // The note stands before the parish does: a power cut leaves a whole parish or none.
-  writeEdition(files, parish.edition);
-  store::createDatabase(files.parish(), store::parishSchema(),
-                        [&](store::Connection& connection) { fill(connection, parish, today); });
+  if (files.exists()) throw store::NameTaken(files.parish());
+  // The note stands before the parish does: a power cut leaves a whole parish or none. That of
+  // somebody else, who may be making one too, stays until this one has won the name.
+  const bool noted = !files::isThere(files.note());
+  if (noted) writeEdition(files, parish.edition);
+  try {
+    store::createDatabase(files.parish(), store::parishSchema(),
+                          [&](store::Connection& connection) { fill(connection, parish, today); });
+  } catch (...) {
+    std::error_code ignored;
+    if (noted && !files.exists()) std::filesystem::remove(files.note(), ignored);
+    throw;
+  }
+  if (readEdition(files) != parish.edition) writeEdition(files, parish.edition);
 }
 
 std::int32_t townKey(store::Connection& connection, const std::string& town,

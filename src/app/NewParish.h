@@ -27,7 +27,9 @@ std::string whatIsMissing(const NewParish& parish);
 
 /// Creates the directory, the note of the edition and the parish database with its first
 /// institution (and the sample register when asked), which takes its name last: there is a whole
-/// parish or none. Throws store::Error; a parish that was there before is never touched.
+/// parish or none. Throws store::Error; nothing stays behind then of what this call has made, and
+/// nothing else is ever touched. Of several who do this at once in one directory one makes the
+/// parish, and the others get store::NameTaken.
 void createParish(const NewParish& parish, const text::Date& today);
 
 /// Adds an institution with its line in Ultimos and gives its key.

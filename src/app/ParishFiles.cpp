@@ -8,7 +8,6 @@
 #include "app/Insert.h"
 #include "core/contract/FDAPI.h"
 #include "files/Durable.h"
-#include "store/Companions.h"
 #include "store/Open.h"
 #include "store/Transaction.h"
 #include "text/SystemErrors.h"
@@ -33,19 +32,16 @@ std::string workstation() {
   return gethostname(name, sizeof name - 1) == 0 && name[0] ? name : "local";
 }
 
-void openReports(const std::filesystem::path& file, OpenParish& open) {
-  const store::Schema& schema = store::reportsSchema();
-  try {
-    open.reports = std::filesystem::exists(file) ? store::openDatabase(file, schema)
-                                                 : store::createDatabase(file, schema);
-  } catch (const store::Error& e) {
-    using Kind = store::ErrorKind;
-    if (e.kind() != Kind::NotADatabase && e.kind() != Kind::NewerSchema &&
-        e.kind() != Kind::UnknownName && e.kind() != Kind::Other)
-      throw;
-    open.reportsPutAside = store::putAside(file, ".estropeada");
-    open.reports = store::createDatabase(file, schema);
-  }
+/// Earlier versions kept the scratch tables of each account beside the parish, for good.
+void removeKeptReports(const std::filesystem::path& directory) {
+  const std::string ours =
+      "informes-" + workstation() + "-" + std::to_string(getuid()) + ".fidaleon";
+  std::vector<std::filesystem::path> kept;
+  std::error_code failed;
+  std::filesystem::directory_iterator at(directory, failed);
+  for (; !failed && at != std::filesystem::directory_iterator(); at.increment(failed))
+    if (at->path().filename().string().starts_with(ours)) kept.push_back(at->path());
+  for (const std::filesystem::path& file : kept) std::filesystem::remove(file, failed);
 }
 
 std::string keptEdition(store::Connection& parish) {
@@ -75,10 +71,6 @@ void settleEdition(const ParishFiles& files, OpenParish& open) {
 }
 
 }  // namespace
-
-std::filesystem::path ParishFiles::reports() const {
-  return directory / ("informes-" + workstation() + "-" + std::to_string(getuid()) + ".fidaleon");
-}
 
 std::string editionName(const std::string& code) {
   for (const Edition& e : EDITIONS)
@@ -122,7 +114,8 @@ OpenParish openParish(const ParishFiles& files) {
   OpenParish open;
   open.parish = store::openDatabase(files.parish(), store::parishSchema());
   settleEdition(files, open);
-  openReports(files.reports(), open);
+  open.reports = store::passingDatabase(store::reportsSchema());
+  removeKeptReports(files.directory);
   return open;
 }
 

@@ -6,6 +6,7 @@
 #include <utility>
 #include <vector>
 
+#include "files/Durable.h"
 #include "store/Connection.h"
 
 namespace fidaleon::app {
@@ -18,14 +19,9 @@ struct ParishFiles {
   std::filesystem::path directory;
   std::filesystem::path parish() const { return directory / "parroquia.fidaleon"; }
   std::filesystem::path note() const { return directory / "edicion.txt"; }
-  /// Scratch tables belong to one user of one workstation, who keeps them beside the parish.
-  std::filesystem::path reports() const;
 
-  /// Also false for a directory that cannot be read.
-  bool exists() const {
-    std::error_code ignored;
-    return std::filesystem::exists(parish(), ignored);
-  }
+  /// Whether there is a parish; one that cannot be looked at counts as there.
+  bool exists() const { return files::isThere(parish()); }
 };
 
 /// Edition code in the note beside a parish; empty when it is missing or says something unknown.
@@ -46,17 +42,16 @@ enum class EditionDoubt { None, NoteRestored, NoteDiffers, Unknown };
 
 struct OpenParish {
   std::unique_ptr<store::Connection> parish;
+  /// The scratch tables of documents: of this program alone, and gone when it ends, however that
+  /// ends, since they hold what is written about people.
   std::unique_ptr<store::Connection> reports;
   /// The parish's own where the note differs; Madrid's when neither says anything.
   std::string edition;
   EditionDoubt doubt = EditionDoubt::None;
-  /// Set when the reports database was unusable: where the bad one was put aside.
-  std::filesystem::path reportsPutAside;
 };
 
-/// Opens both databases. The reports database holds nothing that lasts: a missing one is made, a
-/// bad one is put aside under another name and made anew. Whichever of note and parish lacks the
-/// edition gets it from the other. Throws store::Error for the parish's.
+/// Opens both databases. Whichever of note and parish lacks the edition gets it from the other.
+/// Throws store::Error.
 OpenParish openParish(const ParishFiles& files);
 
 }  // namespace fidaleon::app

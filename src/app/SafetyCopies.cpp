@@ -1,16 +1,15 @@
 #include "app/SafetyCopies.h"
 
-#include <fcntl.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 #include <algorithm>
 #include <system_error>
 #include <tuple>
 
 #include "app/CopyRetention.h"
+#include "files/PrivateFile.h"
+#include "store/FileFault.h"
 #include "store/Open.h"
-#include "text/SystemErrors.h"
 
 namespace fidaleon::app {
 
@@ -22,10 +21,7 @@ constexpr const char* BY_HAND = ".copia";
 constexpr const char* UNFINISHED = ".parte";
 
 [[noreturn]] void refuse(const fs::path& where, const std::error_code& why) {
-  throw store::Error(
-      why == std::errc::no_space_on_device ? store::ErrorKind::DiskFull
-                                           : store::ErrorKind::ReadOnly,
-      "No se puede escribir en «" + where.string() + "»: " + text::systemReason(why));
+  throw store::fileFault("No se puede escribir en", where, why);
 }
 
 Moment lastWritten(const fs::path& file) {
@@ -73,20 +69,22 @@ fs::path SafetyCopies::reserve(CopyName name) const {
   });
   for (;; ++name.ordinal) {
     const fs::path file = directory_ / name.file();
-    const int fd = ::open(file.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
-    if (fd >= 0) {
-      ::close(fd);
+    try {
+      files::create(file);
       return file;
+    } catch (const std::system_error& e) {
+      if (e.code() != std::errc::file_exists) refuse(directory_, e.code());
     }
-    if (errno != EEXIST) refuse(directory_, {errno, std::generic_category()});
   }
 }
 
 fs::path SafetyCopies::make(store::Connection& parish, const std::string& before,
                             const Moment& now) const {
-  std::error_code failed;
-  fs::create_directories(directory_, failed);
-  if (failed) refuse(directory_.parent_path(), failed);
+  try {
+    files::createFolders(directory_);
+  } catch (const std::system_error& e) {
+    refuse(directory_.parent_path(), e.code());
+  }
   const fs::path file = reserve({now, 1, before});
   try {
     store::backupDatabase(parish, file);

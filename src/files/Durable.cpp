@@ -9,6 +9,8 @@
 #include <random>
 #include <system_error>
 
+#include "files/PrivateFile.h"
+
 namespace fidaleon::files {
 
 namespace fs = std::filesystem;
@@ -18,14 +20,6 @@ namespace {
 [[noreturn]] void fail(const char* what, const fs::path& file, int why = errno) {
   throw fs::filesystem_error(what, file, std::error_code(why, std::generic_category()));
 }
-
-/// A file descriptor, closed when dropped.
-struct Descriptor {
-  ~Descriptor() {
-    if (number >= 0) ::close(number);
-  }
-  int number;
-};
 
 fs::path folderOf(const fs::path& file) {
   return file.has_parent_path() ? file.parent_path() : ".";
@@ -51,15 +45,15 @@ struct Passing {
 }  // namespace
 
 void syncFile(const fs::path& file) {
-  const Descriptor opened{::open(file.c_str(), O_RDONLY | O_CLOEXEC)};
-  if (opened.number < 0) fail("open", file);
-  if (::fsync(opened.number) != 0) fail("fsync", file);
+  const Descriptor opened(::open(file.c_str(), O_RDONLY | O_CLOEXEC));
+  if (opened.number() < 0) fail("open", file);
+  if (::fsync(opened.number()) != 0) fail("fsync", file);
 }
 
 void syncFolderOf(const fs::path& file) {
   const fs::path folder = folderOf(file);
-  const Descriptor opened{::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)};
-  if (opened.number >= 0 && ::fsync(opened.number) == 0) return;
+  const Descriptor opened(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+  if (opened.number() >= 0 && ::fsync(opened.number()) == 0) return;
   // A folder may be written to and not read; some network disks cannot do it at all.
   const bool unable = errno == EACCES || errno == EINVAL || errno == ENOTSUP || errno == ENOSYS;
   if (!unable) fail("fsync", folder);
@@ -70,8 +64,9 @@ void makeFolders(const fs::path& folder) {
   if (folder.empty() || fs::is_directory(folder, failed)) return;
   const fs::path whole = folder.has_filename() ? folder : folder.parent_path();
   makeFolders(whole.parent_path());
-  if (::mkdir(whole.c_str(), 0777) != 0 && errno != EEXIST) fail("mkdir", whole);
+  if (::mkdir(whole.c_str(), S_IRWXU) != 0 && errno != EEXIST) fail("mkdir", whole);
   if (!fs::is_directory(whole, failed)) fail("mkdir", whole, ENOTDIR);
+  if (isShared(whole)) ::chmod(whole.c_str(), S_ISGID | S_IRWXU | S_IRWXG);
   syncFolderOf(whole);
 }
 
@@ -85,20 +80,14 @@ void removeForGood(const fs::path& file) {
   if (fs::remove(file)) syncFolderOf(file);
 }
 
-void replace(const fs::path& file, std::string_view content, unsigned mode) {
-  Passing next{passingName(file, ".nuevo")};
+void replace(const fs::path& file, std::string_view content) {
+  Passing next;
   {
-    const Descriptor out{
-        ::open(next.path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC | O_NOFOLLOW, mode)};
-    if (out.number < 0) {
-      next.path.clear();
-      fail("open", file);
-    }
-    struct stat before = {};
-    if (::stat(file.c_str(), &before) == 0 && ::fchmod(out.number, before.st_mode & 07777) != 0)
-      errno = 0;  // some network disks refuse to change modes
-    writeAll(out.number, content, next.path);
-    if (::fsync(out.number) != 0) fail("fsync", next.path);
+    const fs::path name = passingName(file, ".nuevo");
+    const Descriptor out = create(name);
+    next.path = name;
+    writeAll(out.number(), content, next.path);
+    if (::fsync(out.number()) != 0) fail("fsync", next.path);
   }
   moveTo(next.path, file);
   next.path.clear();

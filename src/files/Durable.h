@@ -15,15 +15,15 @@ void syncFile(const std::filesystem::path& file);
 /// such order.
 void syncFolderOf(const std::filesystem::path& file);
 
-/// Makes the folder and those above it that are missing; all are on the disk.
+/// Makes the folder and those above it that are missing, for their owner alone, or as the
+/// set-group-id folder above them says; all are on the disk.
 void makeFolders(const std::filesystem::path& folder);
 /// Takes the place of what bears the name, if anything does.
 void moveTo(const std::filesystem::path& file, const std::filesystem::path& name);
 /// Takes the file away for good; one that is not there is no fault.
 void removeForGood(const std::filesystem::path& file);
-/// The file holds this content under its name. A new one gets the mode, less the umask; one that is
-/// replaced hands its own on.
-void replace(const std::filesystem::path& file, std::string_view content, unsigned mode = 0666);
+/// The file holds this content under its name, with the rights of its folder.
+void replace(const std::filesystem::path& file, std::string_view content);
 
 /// False only when nothing bears the name: what cannot be looked at counts as there.
 bool isThere(const std::filesystem::path& file);

@@ -1,12 +1,10 @@
 #include "locks/OfdLock.h"
 
 #include <fcntl.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
 #include <system_error>
-#include <utility>
 
 namespace fidaleon::locks {
 
@@ -31,68 +29,56 @@ struct flock region(short type) {
 
 }  // namespace
 
-File::File(File&& other) noexcept : fd_(std::exchange(other.fd_, -1)) {}
-
-File& File::operator=(File&& other) noexcept {
-  std::swap(fd_, other.fd_);
-  return *this;
-}
-
-File::~File() {
-  if (fd_ >= 0) ::close(fd_);
-}
-
 File File::openOrCreate(const std::filesystem::path& path) {
-  const int fd = ::open(path.c_str(), O_RDWR | O_CLOEXEC);
-  if (fd >= 0) return File(fd);
-  if (errno != ENOENT) fail("open");
+  if (auto there = openIfThere(path, O_RDWR)) return std::move(*there);
   try {
     return create(path);
   } catch (const std::system_error& e) {
-    if (e.code().value() != EEXIST) throw;
+    if (e.code() != std::errc::file_exists) throw;
   }
-  const int again = ::open(path.c_str(), O_RDWR | O_CLOEXEC);
-  if (again < 0) fail("open");
-  return File(again);
+  return File(files::open(path, O_RDWR));
 }
 
 File File::create(const std::filesystem::path& path) {
-  const int fd = ::open(path.c_str(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
-  if (fd < 0) fail("open");
-  // The directory decides who may come here; some share systems refuse to change modes.
-  if (::fchmod(fd, 0666) != 0) errno = 0;
-  return File(fd);
+  return File(files::create(path));
 }
 
 std::optional<File> File::openToRead(const std::filesystem::path& path) {
-  const int fd = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
-  if (fd < 0) return std::nullopt;
-  return File(fd);
+  return openIfThere(path, O_RDONLY);
+}
+
+std::optional<File> File::openIfThere(const std::filesystem::path& path, int flags) {
+  try {
+    return File(files::open(path, flags));
+  } catch (const std::system_error& e) {
+    if (e.code() == std::errc::no_such_file_or_directory) return std::nullopt;
+    throw;
+  }
 }
 
 bool File::tryLock() {
   struct flock lock = region(F_WRLCK);
-  if (::fcntl(fd_, F_OFD_SETLK, &lock) == 0) return true;
+  if (::fcntl(fd(), F_OFD_SETLK, &lock) == 0) return true;
   if (errno == EAGAIN || errno == EACCES || errno == EINTR) return false;
   fail("lock");
 }
 
 bool File::lockedByOther() const {
   struct flock lock = region(F_RDLCK);
-  if (::fcntl(fd_, F_OFD_GETLK, &lock) != 0) fail("lock");
+  if (::fcntl(fd(), F_OFD_GETLK, &lock) != 0) fail("lock");
   return lock.l_type != F_UNLCK;
 }
 
 void File::unlock() {
   struct flock lock = region(F_UNLCK);
-  if (::fcntl(fd_, F_OFD_SETLK, &lock) != 0) fail("unlock");
+  if (::fcntl(fd(), F_OFD_SETLK, &lock) != 0) fail("unlock");
 }
 
 std::string File::read() const {
   std::string content;
   char buffer[4096];
   for (;;) {
-    const ssize_t n = ::pread(fd_, buffer, sizeof buffer, static_cast<off_t>(content.size()));
+    const ssize_t n = ::pread(fd(), buffer, sizeof buffer, static_cast<off_t>(content.size()));
     if (n < 0 && errno == EINTR) continue;
     if (n < 0) fail("read");
     if (n == 0) return content;
@@ -104,12 +90,12 @@ void File::write(const std::string& content) {
   std::size_t done = 0;
   while (done < content.size()) {
     const ssize_t n =
-        ::pwrite(fd_, content.data() + done, content.size() - done, static_cast<off_t>(done));
+        ::pwrite(fd(), content.data() + done, content.size() - done, static_cast<off_t>(done));
     if (n < 0 && errno == EINTR) continue;
     if (n < 0) fail("write");
     done += static_cast<std::size_t>(n);
   }
-  if (::ftruncate(fd_, static_cast<off_t>(content.size())) != 0) fail("truncate");
+  if (::ftruncate(fd(), static_cast<off_t>(content.size())) != 0) fail("truncate");
 }
 
 }  // namespace fidaleon::locks

@@ -4,23 +4,21 @@
 #include <optional>
 #include <string>
 
+#include "files/PrivateFile.h"
+
 namespace fidaleon::locks {
 
 /// An open file, closed when dropped. Never inherited by a program started from this one, so that
 /// no lock outlives the process that took it.
 class File {
  public:
-  File() = default;
-  File(File&& other) noexcept;
-  File& operator=(File&& other) noexcept;
-  ~File();
-
-  /// Opens for reading and writing. A file that is created may be used by every account that can
-  /// use its directory. Throws std::system_error.
+  /// Opens for reading and writing. A file that is created has the rights of its directory
+  /// (files::rightsIn). No symbolic link is followed. Throws std::system_error.
   static File openOrCreate(const std::filesystem::path& path);
   /// Creates a file that must not exist yet. Throws std::system_error.
   static File create(const std::filesystem::path& path);
-  /// Nothing when there is no such file or it may not be read.
+  /// Nothing when there is no such file. Throws std::system_error when there is one that cannot be
+  /// opened.
   static std::optional<File> openToRead(const std::filesystem::path& path);
 
   /// Takes the one byte that stands for the whole file, as against every other open of the file
@@ -37,8 +35,11 @@ class File {
   void write(const std::string& content);
 
  private:
-  explicit File(int fd) : fd_(fd) {}
-  int fd_ = -1;
+  explicit File(files::Descriptor descriptor) : descriptor_(std::move(descriptor)) {}
+  static std::optional<File> openIfThere(const std::filesystem::path& path, int flags);
+  int fd() const { return descriptor_.number(); }
+
+  files::Descriptor descriptor_;
 };
 
 }  // namespace fidaleon::locks

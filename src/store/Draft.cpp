@@ -1,11 +1,13 @@
 #include "store/Draft.h"
 
-#include <system_error>
+#include <chrono>
+#include <vector>
 
 #include "files/Durable.h"
+#include "files/Naming.h"
+#include "files/PrivateFile.h"
 #include "store/Companions.h"
-#include "store/Error.h"
-#include "text/SystemErrors.h"
+#include "store/FileFault.h"
 
 namespace fidaleon::store {
 
@@ -13,35 +15,70 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// With what the engine keeps beside it: the journal of a draft whose maker was killed would be
-/// played back into the next one.
 void removeAll(const fs::path& draft) {
   std::error_code ignored;
   fs::remove(draft, ignored);
   for (const fs::path& file : companionsOf(draft)) fs::remove(file, ignored);
 }
 
+/// The hour is compared with the one that the disk has just given to a file: the clocks of two
+/// machines may differ.
+bool isOlderByADay(const fs::path& file, const fs::path& justMade) {
+  std::error_code failed;
+  const auto then = fs::last_write_time(file, failed);
+  if (failed) return false;
+  const auto now = fs::last_write_time(justMade, failed);
+  return !failed && now - then > std::chrono::hours(24);
+}
+
+void removeRests(const std::string& beginning, const fs::path& justMade) {
+  std::vector<fs::path> rests;
+  std::error_code failed;
+  fs::directory_iterator at(justMade.has_parent_path() ? justMade.parent_path() : ".", failed);
+  for (; !failed && at != fs::directory_iterator(); at.increment(failed))
+    if (at->path().filename().string().starts_with(beginning) &&
+        isOlderByADay(at->path(), justMade))
+      rests.push_back(at->path());
+  for (const fs::path& rest : rests) fs::remove(rest, failed);
+}
+
 }  // namespace
 
-Draft::Draft(const fs::path& file, const char* ending) : file_(file), draft_(file) {
-  draft_ += ending;
-  removeAll(draft_);
+Draft::Draft(const fs::path& file, const char* ending) : file_(file) {
+  try {
+    draft_ = files::createUnique(file, ending);
+  } catch (const fs::filesystem_error& e) {
+    throw fileFault("No se puede escribir en", file, e.code());
+  }
+  removeRests(file.filename().string() + ending, draft_);
 }
 
 Draft::~Draft() {
   removeAll(draft_);
 }
 
-void Draft::accept() {
+void Draft::complete() const {
   if (hasUnfinished(draft_))
     throw Error(ErrorKind::Connection, "No se ha terminado de escribir «" + draft_.string() + "».");
+  files::syncFile(draft_);
+}
+
+void Draft::accept() {
   try {
-    files::syncFile(draft_);
+    complete();
     removeCompanions(file_);
     files::moveTo(draft_, file_);
   } catch (const fs::filesystem_error& e) {
-    throw Error(ErrorKind::Connection, "No se puede crear el archivo «" + file_.string() +
-                                           "»: " + text::systemReason(e.code()));
+    throw fileFault("No se puede crear el archivo", file_, e.code());
+  }
+}
+
+bool Draft::acceptIfFree() {
+  try {
+    complete();
+    return files::takeFreeName(draft_, file_);
+  } catch (const fs::filesystem_error& e) {
+    throw fileFault("No se puede crear el archivo", file_, e.code());
   }
 }
 

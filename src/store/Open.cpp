@@ -6,8 +6,10 @@
 #include <map>
 
 #include "files/Durable.h"
+#include "files/PrivateFile.h"
 #include "store/Companions.h"
 #include "store/Draft.h"
+#include "store/FileFault.h"
 #include "store/RowCounts.h"
 #include "store/schema/Installer.h"
 #include "store/sqlite/NetworkDisk.h"
@@ -19,7 +21,9 @@ namespace fs = std::filesystem;
 
 namespace {
 
-void requireFile(const fs::path& file) {
+/// The file that the name leads to: whoever comes to it through a symbolic link meets the others
+/// in the folder where it lies.
+fs::path requireFile(const fs::path& file) {
   std::error_code failed;
   const fs::file_status status = fs::status(file, failed);
   if (status.type() == fs::file_type::not_found) {
@@ -28,6 +32,9 @@ void requireFile(const fs::path& file) {
   if (status.type() == fs::file_type::directory) {
     throw Error(ErrorKind::NotADatabase, "«" + file.string() + "» es una carpeta.");
   }
+  const fs::path real = fs::canonical(file, failed);
+  if (failed) throw fileFault("No se puede abrir", file, failed);
+  return real;
 }
 
 /// Both the file and its folder, where the journal is kept.
@@ -37,12 +44,6 @@ void requireWritable(const fs::path& file) {
     if (faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) == 0) continue;
     throw Error(ErrorKind::ReadOnly, "No se puede escribir en «" + path.string() +
                                          "»: está protegido contra escritura.");
-  }
-}
-
-void requireFree(const fs::path& file) {
-  if (files::isThere(file)) {
-    throw Error(ErrorKind::Constraint, "Ya existe el archivo «" + file.string() + "».");
   }
 }
 
@@ -88,58 +89,70 @@ void requireCopied(const fs::path& file, const Schema& schema,
     throw Error(ErrorKind::NotADatabase, "La copia no tiene lo mismo que el original.");
 }
 
-std::unique_ptr<SqliteEngine> freshMemory(const Schema& schema) {
-  auto engine = std::make_unique<SqliteEngine>();
+/// Closed when it returns.
+void makeDraft(const fs::path& draft, const Schema& schema, const Filling& fill) {
+  auto engine = std::make_unique<SqliteEngine>(draft, SqliteEngine::Access::Create);
   Installer(*engine, schema).create();
-  return engine;
+  Connection connection(std::move(engine), schema, fs::absolute(draft).string());
+  if (fill) fill(connection);
+  // Only now, so that nothing is left in a log that does not take the name with it.
+  connection.engine().run("PRAGMA journal_mode = DELETE;");
+  if (!isNetworkDisk(draft)) connection.engine().run("PRAGMA journal_mode = WAL;");
+}
+
+/// An unnamed database as a new one is.
+std::unique_ptr<Connection> unnamed(SqliteEngine::Unnamed where, const Schema& schema,
+                                    const std::string& dataSource) {
+  auto engine = std::make_unique<SqliteEngine>(where);
+  if (&schema == &parishSchema() || &schema == &reportsSchema()) {
+    // Copying pages is many times faster than defining some sixty tables anew.
+    static std::map<const Schema*, std::unique_ptr<SqliteEngine>> originals;
+    auto& original = originals[&schema];
+    if (original == nullptr) {
+      original = std::make_unique<SqliteEngine>(SqliteEngine::Unnamed::Memory);
+      Installer(*original, schema).create();
+    }
+    engine->copyFrom(*original);
+  } else {
+    Installer(*engine, schema).create();
+  }
+  return std::make_unique<Connection>(std::move(engine), schema, dataSource);
 }
 
 }  // namespace
 
 std::unique_ptr<Connection> openDatabase(const fs::path& file, const Schema& schema) {
-  requireFile(file);
-  requireWritable(file);
-  auto engine = std::make_unique<SqliteEngine>(file, SqliteEngine::Access::Existing);
+  const fs::path real = requireFile(file);
+  requireWritable(real);
+  files::narrow(real);
+  auto engine = std::make_unique<SqliteEngine>(real, SqliteEngine::Access::Existing);
   Installer(*engine, schema).upgrade();
-  return std::make_unique<Connection>(std::move(engine), schema, fs::absolute(file).string());
+  return std::make_unique<Connection>(std::move(engine), schema, real.string());
 }
 
+NameTaken::NameTaken(const fs::path& file)
+    : Error(ErrorKind::Constraint, "Ya existe el archivo «" + file.string() + "».") {}
+
 std::unique_ptr<Connection> createDatabase(const fs::path& file, const Schema& schema,
-                                           const std::function<void(Connection&)>& fill) {
-  requireFree(file);
+                                           const Filling& fill) {
+  if (files::isThere(file)) throw NameTaken(file);
   {
     // A draft first: whoever is killed here leaves no half database under the name.
     Draft draft(file, ".nueva");
-    {
-      auto engine = std::make_unique<SqliteEngine>(draft.path(), SqliteEngine::Access::Create);
-      Installer(*engine, schema).create();
-      Connection connection(std::move(engine), schema, fs::absolute(draft.path()).string());
-      if (fill) fill(connection);
-      // Only now, so that nothing is left in a log that does not take the name with it.
-      const bool log = !isNetworkDisk(draft.path());
-      connection.engine().run("PRAGMA journal_mode = DELETE;");
-      if (log) connection.engine().run("PRAGMA journal_mode = WAL;");
-    }
-    requireFree(file);
+    makeDraft(draft.path(), schema, fill);
+    if (files::isThere(file)) throw NameTaken(file);
     if (!companionsOf(file).empty()) putAside(file, ".apartada");
-    draft.accept();
+    if (!draft.acceptIfFree()) throw NameTaken(file);
   }
   return openDatabase(file, schema);
 }
 
 std::unique_ptr<Connection> memoryDatabase(const Schema& schema, const std::string& dataSource) {
-  std::unique_ptr<SqliteEngine> engine;
-  if (&schema == &parishSchema() || &schema == &reportsSchema()) {
-    // Copying pages is many times faster than defining some sixty tables anew.
-    static std::map<const Schema*, std::unique_ptr<SqliteEngine>> originals;
-    auto& original = originals[&schema];
-    if (original == nullptr) original = freshMemory(schema);
-    engine = std::make_unique<SqliteEngine>();
-    engine->copyFrom(*original);
-  } else {
-    engine = freshMemory(schema);
-  }
-  return std::make_unique<Connection>(std::move(engine), schema, dataSource);
+  return unnamed(SqliteEngine::Unnamed::Memory, schema, dataSource);
+}
+
+std::unique_ptr<Connection> passingDatabase(const Schema& schema) {
+  return unnamed(SqliteEngine::Unnamed::Disk, schema, {});
 }
 
 void backupDatabase(Connection& from, const fs::path& to) {

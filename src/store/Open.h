@@ -6,6 +6,7 @@
 #include <memory>
 
 #include "store/Connection.h"
+#include "store/Error.h"
 
 namespace fidaleon::store {
 
@@ -13,17 +14,28 @@ namespace fidaleon::store {
 const Schema& parishSchema();   // the registers, the institutions, the census
 const Schema& reportsSchema();  // the scratch tables that templates print from
 
-/// Opens the database and brings an older one up to the schema's version, in place and as one
-/// step. Throws Missing, NotADatabase, NewerSchema, Busy, ReadOnly, DiskFull.
+/// Opens the database, where symbolic links lead to, and brings an older one up to the schema's
+/// version, in place and as one step. Throws Missing, NotADatabase, NewerSchema, Busy, ReadOnly,
+/// DiskFull.
 std::unique_ptr<Connection> openDatabase(const std::filesystem::path& file, const Schema& schema);
-/// Creates the database with its tables and seed rows; refuses to overwrite (Constraint). `fill` is
+/// The name of a database to be made belongs to another file already, or to one that somebody made
+/// in the same moment.
+class NameTaken : public Error {
+ public:
+  explicit NameTaken(const std::filesystem::path& file);
+};
+using Filling = std::function<void(Connection&)>;
+/// Creates the database with its tables and seed rows; never overwrites (NameTaken). `fill` is
 /// called before the database takes its name: whatever happens, under that name it is complete.
 /// What an earlier one of the name has left beside it is put aside, not played into it.
 std::unique_ptr<Connection> createDatabase(const std::filesystem::path& file, const Schema& schema,
-                                           const std::function<void(Connection&)>& fill = {});
+                                           const Filling& fill = {});
 /// An unnamed database in memory with tables and seed rows, for tests and measurements.
 std::unique_ptr<Connection> memoryDatabase(const Schema& schema,
                                            const std::string& dataSource = "/tmp/fidaleon.mdb");
+/// An unnamed database for this program alone, on the disk as far as the memory does not hold it.
+/// It is gone with its connection, also when the program is killed.
+std::unique_ptr<Connection> passingDatabase(const Schema& schema);
 /// A consistent copy of an open database through the engine's own backup call, verified by
 /// reopening it, before it takes the place of an older one and again under its name. Throws Busy
 /// when a program has that older one open.

@@ -5,13 +5,14 @@
 
 #include <cerrno>
 #include <system_error>
+#include <vector>
 
+#include "files/PrivateFile.h"
 #include "store/Companions.h"
-#include "store/Error.h"
+#include "store/FileFault.h"
 #include "store/RowCounts.h"
 #include "store/schema/Installer.h"
 #include "store/sqlite/SqliteEngine.h"
-#include "text/SystemErrors.h"
 
 namespace fidaleon::store {
 
@@ -30,34 +31,23 @@ void requireCopy(const fs::path& copy, const fs::path& database) {
 }
 
 [[noreturn]] void fail(const std::string& what, const fs::path& file, int why) {
-  const bool full = why == ENOSPC || why == EDQUOT || why == EFBIG;
-  throw Error(full ? ErrorKind::DiskFull : ErrorKind::Connection,
-              what + " «" + file.string() +
-                  "»: " + text::systemReason({full ? ENOSPC : why, std::generic_category()}));
+  throw fileFault(what, file, {why, std::generic_category()});
 }
-
-/// A file descriptor, closed when dropped.
-struct Descriptor {
-  ~Descriptor() {
-    if (number >= 0) ::close(number);
-  }
-  int number;
-};
 
 /// The library's own way to copy a file does not tell a full disk from others.
 void read(const fs::path& copy, const fs::path& draft) {
-  const Descriptor in{::open(copy.c_str(), O_RDONLY | O_CLOEXEC)};
-  if (in.number < 0) fail("No se puede leer", copy, errno);
-  const Descriptor out{::open(draft.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0600)};
-  if (out.number < 0) fail("No se puede escribir en", draft, errno);
+  const files::Descriptor in(::open(copy.c_str(), O_RDONLY | O_CLOEXEC));
+  if (in.number() < 0) fail("No se puede leer", copy, errno);
+  const files::Descriptor out(::open(draft.c_str(), O_WRONLY | O_NOFOLLOW | O_CLOEXEC));
+  if (out.number() < 0) fail("No se puede escribir en", draft, errno);
   std::vector<char> block(1 << 16);
   for (;;) {
-    const ssize_t got = ::read(in.number, block.data(), block.size());
+    const ssize_t got = ::read(in.number(), block.data(), block.size());
     if (got == 0) return;
     if (got < 0) fail("No se puede leer", copy, errno);
     for (ssize_t put = 0; put < got;) {
       const ssize_t more =
-          ::write(out.number, block.data() + put, static_cast<std::size_t>(got - put));
+          ::write(out.number(), block.data() + put, static_cast<std::size_t>(got - put));
       if (more < 0) fail("No se puede escribir en", draft, errno);
       put += more;
     }

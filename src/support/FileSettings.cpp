@@ -100,7 +100,7 @@ void FileSettings::mend() const {
 
 /// What could not be saved is not read back either.
 void FileSettings::save(SettingValues values) const {
-  files::replace(file_, formatSettings(values), 0600);
+  files::replace(file_, formatSettings(values));
   values_ = std::move(values);
   seen_ = stamp();
 }

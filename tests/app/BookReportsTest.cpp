@@ -1,7 +1,5 @@
 // The book, its index and the duplicate as the main program asks for them, and their preview.
 
-#include <sqlite3.h>
-
 #include <QAction>
 #include <QApplication>
 #include <QLabel>
@@ -18,6 +16,7 @@
 #include "app/PreviewDialog.h"
 #include "core/contract/CcNodos.h"
 #include "paper/ScratchTables.h"
+#include "store/Engine.h"
 
 namespace fidaleon::app {
 namespace {
@@ -65,15 +64,9 @@ class BookReports : public ParishTest {
     desk->parish().Execute("UPDATE Bautismo SET Anulada=true WHERE " + which);
   }
   void failAtTheSecondRow() {
-    sqlite3* db = nullptr;
-    ASSERT_EQ(sqlite3_open(files().reports().c_str(), &db), SQLITE_OK);
-    ASSERT_EQ(sqlite3_exec(db,
-                           "CREATE TRIGGER falla BEFORE INSERT ON Documentos_Bautismo WHEN (SELECT "
-                           "COUNT(*) FROM Documentos_Bautismo)>0 BEGIN SELECT RAISE(ABORT, 'no'); "
-                           "END",
-                           nullptr, nullptr, nullptr),
-              SQLITE_OK);
-    sqlite3_close(db);
+    desk->reports().engine().run(
+        "CREATE TRIGGER falla BEFORE INSERT ON Documentos_Bautismo WHEN (SELECT COUNT(*) FROM "
+        "Documentos_Bautismo)>0 BEGIN SELECT RAISE(ABORT, 'no'); END");
   }
   void onlyAnnulled(const std::string& which) {
     desk->parish().Execute("UPDATE Bautismo SET Anulada=false");

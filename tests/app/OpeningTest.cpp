@@ -40,7 +40,6 @@ class Opening : public ParishTest {
 TEST_F(Opening, firstRun_makesBothDatabasesTheTownAndTheLastValues) {
   create(Content::Empty);
   EXPECT_TRUE(std::filesystem::exists(files().parish()));
-  EXPECT_TRUE(std::filesystem::exists(files().reports()));
   EXPECT_EQ(desk->parishName(), "San Blas");
   EXPECT_EQ(desk->edition(), "Madrid");
   EXPECT_EQ(count("SELECT COUNT(IDProvincia) FROM Provincia"), 52);
@@ -70,10 +69,21 @@ TEST_F(Opening, firstRun_missingAnswersAreNamed) {
 
 TEST_F(Opening, firstRun_neverTouchesAParishThatIsThere) {
   create(Content::Empty);
-  EXPECT_NE(whatIsMissing(described()), "");
-  EXPECT_THROW(createParish(described(), clock.today()), store::Error);
+  NewParish second = described();
+  second.name = "San Roque";
+  second.edition = FDAPI::cCAplicacion::APP_FIDALEON_MENORCA;
+  EXPECT_NE(whatIsMissing(second), "");
+  EXPECT_THROW(createParish(second, clock.today()), store::NameTaken);
   open();
   EXPECT_EQ(desk->parishName(), "San Blas");
+  EXPECT_EQ(desk->edition(), "Madrid");
+}
+
+TEST_F(Opening, firstRun_whereAParishCannotBeLookedAt_leavesItAlone) {
+  std::filesystem::create_symlink("parroquia.fidaleon", files().parish());  // leads to itself
+  EXPECT_NE(whatIsMissing(described()), "");
+  EXPECT_THROW(createParish(described(), clock.today()), store::NameTaken);
+  EXPECT_TRUE(std::filesystem::is_symlink(files().parish()));
 }
 
 TEST_F(Opening, firstRun_thatFails_leavesNothing) {
@@ -81,7 +91,6 @@ TEST_F(Opening, firstRun_thatFails_leavesNothing) {
   p.directory = "/proc/fidaleon";
   EXPECT_THROW(createParish(p, clock.today()), store::Error);
   p.directory = directory();
-  std::filesystem::create_directory(files().reports());  // so that it cannot be made
   std::filesystem::create_directory(files().note());
   EXPECT_THROW(createParish(p, clock.today()), store::Error);
   EXPECT_FALSE(files().exists());
@@ -139,22 +148,22 @@ TEST_F(Opening, noDatabase_isNotTouched) {
   EXPECT_EQ(std::filesystem::file_size(files().parish()), 4096u);
 }
 
-TEST_F(Opening, theOtherKindOfDatabase_isRefused) {
+TEST_F(Opening, twoWindowsOfOneAccount_haveScratchTablesOfTheirOwnAndLeaveNone) {
   create(Content::Empty);
-  desk.reset();
-  std::filesystem::copy_file(files().reports(), files().parish(),
-                             std::filesystem::copy_options::overwrite_existing);
-  failure();
-  EXPECT_FALSE(fault.text.empty());
-}
-
-TEST_F(Opening, badReports_arePutAsideAndMadeAnew) {
-  create(Content::Empty);
-  desk.reset();
-  write(files().reports(), std::string(4096, 'x'));
-  open();
-  EXPECT_TRUE(std::filesystem::exists(desk->reportsPutAside()));
-  EXPECT_EQ(desk->reports().Execute("SELECT * FROM Documentos_Bautismo").RecordCount(), 0);
+  char host[256] = {};
+  gethostname(host, sizeof host - 1);
+  const std::filesystem::path kept = directory() / ("informes-" + std::string(host) + "-" +
+                                                    std::to_string(getuid()) + ".fidaleon");
+  write(kept, "de una versión anterior");
+  Desk other(files(), "Secretaría", user, settings, clock);
+  const auto rowsOn = [](store::Connection& reports) {
+    return reports.Execute("SELECT * FROM Documentos_Bautismo").RecordCount();
+  };
+  desk->reports().Execute("INSERT INTO Documentos_Bautismo (NombreHijo) VALUES (\"Ana\")");
+  EXPECT_EQ(rowsOn(desk->reports()), 1);
+  EXPECT_EQ(rowsOn(other.reports()), 0);
+  for (const auto& file : std::filesystem::directory_iterator(directory()))
+    EXPECT_FALSE(file.path().filename().string().starts_with("informes")) << file.path();
 }
 
 TEST_F(Opening, everyFaultSaysSomethingAndLetsTheUserOut) {

@@ -71,8 +71,11 @@ TEST_F(Returning, bringsBackTheContentAndKeepsWhatWasThere) {
 }
 
 TEST_F(Returning, restsOfAnEarlierOneThatWasKilled_areNoMatter) {
-  for (const char* ending : {"", "-journal", "-wal"})
-    std::ofstream(files().parish().string() + ".vuelta" + ending) << "restos";
+  for (const char* ending : {"", "-1f", "-1f-journal", "-1f-wal"}) {
+    const fs::path left = files().parish().string() + ".vuelta" + ending;
+    std::ofstream(left) << "restos";
+    fs::last_write_time(left, fs::file_time_type::clock::now() - std::chrono::days(2));
+  }
   answerNext("&Volver a la copia");
   EXPECT_TRUE(returnTo(copy));
   EXPECT_EQ(offices(), 1);
@@ -127,6 +130,7 @@ TEST_F(Returning, toWhatIsNoSoundCopy_isRefusedAndChangesNothing) {
     damage(file);
     return file;
   };
+  store::createDatabase(directory() / "otra.copia", store::reportsSchema());
   const std::vector<std::pair<fs::path, std::string>> cases{
       {damaged("corta.copia", [](const fs::path& f) { fs::resize_file(f, fs::file_size(f) / 2); }),
        "está estropeada"},
@@ -149,7 +153,7 @@ TEST_F(Returning, toWhatIsNoSoundCopy_isRefusedAndChangesNothing) {
       {damaged("abierta.copia",
                [](const fs::path& f) { std::ofstream(f.string() + "-wal") << "x"; }),
        "no es una copia"},
-      {files().reports(), "una copia"},
+      {directory() / "otra.copia", "estropeada, o no es de una parroquia"},
       {files().parish(), "no es una copia"},
       {directory() / "no hay.copia", "No se encuentra"},
   };

@@ -230,6 +230,27 @@ TEST_F(Session, LeftOrDamagedFiles_AreSwept) {
   EXPECT_EQ(sessionFiles(), 0);
 }
 
+// It may be another account's, or this program may have no file descriptor left.
+TEST_F(Session, FileOfAnotherSessionThatCannotBeOpened_CountsAsHeld) {
+  w.user.answerAnything(forms::Answer::Ok);
+  const fs::path left =
+      w.directory.path() / (std::string(locks::SharedDirectory::SESSION_PREFIX) + "ajeno.1.2");
+  fs::create_symlink("no-se-sigue", left);
+  EXPECT_EQ(take(*open(), {whole("Bautismo")}), FDAPI::BloqueoSesion);
+  lastMessage("No se puede trabajar con los bloqueos");
+  fs::remove(left);
+  EXPECT_EQ(take(*open(), {whole("Bautismo")}), 0);
+}
+
+TEST_F(Session, FilesOfTheLocks_AreForWhoeverTheFolderIsFor) {
+  auto mine = open();
+  ASSERT_EQ(take(*mine, {whole("Bautismo")}), 0);
+  for (const auto& f : fs::directory_iterator(w.directory.path())) {
+    if (f.path().string().find("bloqueos") == std::string::npos) continue;
+    EXPECT_EQ(fs::status(f.path()).permissions(), fs::perms(0600)) << f.path();
+  }
+}
+
 TEST_F(Session, GuardHeldByOneThatHangs_IsNotWaitedForWithoutEnd) {
   locks::File hanging = locks::File::openOrCreate(w.directory.path() / "fidaleon.bloqueos");
   ASSERT_TRUE(hanging.tryLock());

@@ -96,6 +96,65 @@ TEST_F(Files, created_keepsWhatIsWrittenAndIsNotOverwritten) {
             ErrorKind::Connection);
 }
 
+TEST_F(Files, ofTwoThatCreateOneDatabase_theFirstHasIt) {
+  EXPECT_EQ(
+      kindOf([&] {
+        createDatabase(file, parishSchema(), [&](Connection& mine) {
+          mine.Execute(kInsert);
+          createDatabase(file, parishSchema())->Execute("INSERT INTO Grupo (Nombre) VALUES ('a')");
+        });
+      }),
+      ErrorKind::Constraint);
+  const auto connection = openDatabase(file, parishSchema());
+  EXPECT_EQ(count(*connection, "Grupo"), 1);
+  EXPECT_EQ(count(*connection), 0);
+}
+
+TEST_F(Files, killedWhileItIsFilled_hasNoNameYet) {
+  const int status =
+      inChild([&] { createDatabase(file, parishSchema(), [](Connection&) { raise(SIGKILL); }); });
+  EXPECT_TRUE(WIFSIGNALED(status));
+  EXPECT_FALSE(fs::exists(file));
+  EXPECT_EQ(count(*createDatabase(file, parishSchema())), 0);
+}
+
+// Whatever the mask of the account says.
+TEST_F(Files, rights_areTheOwnersAloneOrTheGroupsOfASharedFolder) {
+  const auto rights = [](const fs::path& path) {
+    return static_cast<unsigned>(fs::status(path).permissions() & fs::perms::all);
+  };
+  const struct {
+    mode_t folder, mask;
+    unsigned file;
+  } cases[] = {{0755, 0000, 0600}, {0755, 0077, 0600}, {02770, 0077, 0660}, {02775, 0000, 0660}};
+  for (const auto& c : cases) {
+    const mode_t before = umask(c.mask);
+    ASSERT_EQ(chmod(folder.c_str(), c.folder), 0);
+    {
+      const auto connection = createDatabase(file, parishSchema());
+      connection->Execute(kInsert);
+      backupDatabase(*connection, folder / "copia");
+      chmod(file.c_str(), 0666);
+      openDatabase(file, parishSchema())->Execute(kInsert);
+      for (const auto& made : fs::directory_iterator(folder))
+        EXPECT_EQ(rights(made.path()), c.file) << made.path() << " " << std::oct << c.folder;
+    }
+    umask(before);
+    fs::remove(file);
+    fs::remove(folder / "copia");
+  }
+}
+
+TEST_F(Files, reachedThroughALink_isWhereItLies) {
+  createDatabase(file, parishSchema());
+  fs::create_directory(folder / "otra");
+  fs::create_symlink(file, folder / "otra" / "parroquia.fid");
+  EXPECT_EQ(openDatabase(folder / "otra" / "parroquia.fid", parishSchema())
+                ->Properties("DATA SOURCE")
+                .Value,
+            file.string());
+}
+
 TEST_F(Files, whatIsNoDatabase_isRefused) {
   EXPECT_EQ(kindOfOpening(), ErrorKind::Missing);
   EXPECT_NE(message.find("parroquia.fid"), std::string::npos);

@@ -33,8 +33,8 @@ SqliteEngine::SqliteEngine(const std::filesystem::path& file, Access access) {
   }
 }
 
-SqliteEngine::SqliteEngine() {
-  open(":memory:", SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
+SqliteEngine::SqliteEngine(Unnamed where) {
+  open(where == Unnamed::Memory ? ":memory:" : "", SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
 }
 
 SqliteEngine::~SqliteEngine() {

@@ -10,12 +10,13 @@ namespace fidaleon::store {
 class SqliteEngine : public Engine {
  public:
   enum class Access { Existing, Create };
+  enum class Unnamed { Memory, Disk };
 
-  /// An existing file, or a new one that must not be there yet. A file on a network disk is
-  /// taken out of write-ahead logging, which is not safe there.
+  /// An existing file, or a new one, which may be there when it is empty. A file on a network disk
+  /// is taken out of write-ahead logging, which is not safe there.
   SqliteEngine(const std::filesystem::path& file, Access access);
-  /// In memory.
-  SqliteEngine();
+  /// For this engine alone, and gone with it.
+  explicit SqliteEngine(Unnamed where);
   ~SqliteEngine() override;
   SqliteEngine(const SqliteEngine&) = delete;
   SqliteEngine& operator=(const SqliteEngine&) = delete;
