@@ -2,6 +2,8 @@
 
 #include <array>
 
+#include "app/ParishFiles.h"
+
 namespace fidaleon::app {
 namespace {
 
@@ -43,6 +45,7 @@ CommandLine CommandLine::parse(const std::vector<std::string>& arguments) {
     const std::string directory =
         sign == std::string::npos ? arguments[i] : argument.substr(sign + 1);
     if (directory.empty()) return wrong("La opción " + argument + " necesita una carpeta.");
+    if (!isReadable(directory)) return wrong(UNREADABLE_NAME);
     line.task = option->task;
     line.directory = directory;
     given = true;

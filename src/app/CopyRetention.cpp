@@ -14,13 +14,12 @@ std::chrono::sys_days mondayOf(const text::Date& d) {
 
 }  // namespace
 
-std::vector<std::size_t> superfluous(const std::vector<text::Date>& days, const text::Date& today) {
-  const auto oldest = mondayOf(today) - std::chrono::weeks(WEEKS_KEPT);
+std::vector<std::size_t> superfluous(const std::vector<text::Date>& days) {
+  int weeks = 0;
   std::vector<std::size_t> places;
   for (std::size_t i = COPIES_KEPT; i < days.size(); ++i) {
-    const auto week = mondayOf(days[i]);
-    const bool newestOfItsWeek = mondayOf(days[i - 1]) != week;
-    if (!newestOfItsWeek || week < oldest) places.push_back(i);
+    const bool newestOfItsWeek = mondayOf(days[i - 1]) != mondayOf(days[i]);
+    if (!newestOfItsWeek || ++weeks > WEEKS_KEPT) places.push_back(i);
   }
   return places;
 }

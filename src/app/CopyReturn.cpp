@@ -48,7 +48,7 @@ bool CopyReturn::to(const SafetyCopy& copy) {
 
 bool CopyReturn::isAlone() const {
   try {
-    const auto there = presence_.others();
+    const auto there = desk_.presence().others();
     if (!there.empty()) refuse(there);
     return there.empty();
   } catch (const locks::Unusable& e) {
@@ -99,6 +99,11 @@ bool CopyReturn::replace(const SafetyCopy& copy, store::Restore& restore) const 
       if (whyNotKept.empty()) break;
       if (!askToGoOnWithoutCopy(over_, whyNotKept)) return false;
     }
+  } catch (const store::Unconfirmed& e) {
+    tell(std::string(e.what()) +
+             "\n\nCompruebe el disco, y haga una copia de seguridad en otro antes de seguir.",
+         forms::MsgIcon::Critical);
+    return true;
   } catch (const store::Error& e) {
     tell("No se ha podido volver a la copia.\n\n" + std::string(e.what()),
          forms::MsgIcon::Critical);
@@ -116,7 +121,7 @@ bool CopyReturn::replace(const SafetyCopy& copy, store::Restore& restore) const 
 std::vector<locks::Holder> CopyReturn::attempt(store::Restore& restore, bool keepPresent,
                                                std::string& whyNotKept) const {
   const forms::Hourglass hourglass(desk_.entorno().ui);
-  return presence_.alone([&] {
+  return desk_.presence().alone("está volviendo a una copia de la parroquia", [&] {
     try {
       if (keepPresent) copies_.make(desk_.parish(), BEFORE, thisMoment());
     } catch (const store::Error& e) {

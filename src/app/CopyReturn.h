@@ -5,7 +5,6 @@
 #include <vector>
 
 #include "app/Desk.h"
-#include "app/Presence.h"
 #include "app/SafetyCopies.h"
 #include "store/Restore.h"
 
@@ -17,8 +16,8 @@ namespace fidaleon::app {
 /// on it. What it holds now is saved as a copy first.
 class CopyReturn {
  public:
-  CopyReturn(Desk& desk, const SafetyCopies& copies, const Presence& presence, QWidget* over)
-      : desk_(desk), copies_(copies), presence_(presence), over_(over) {}
+  CopyReturn(Desk& desk, const SafetyCopies& copies, QWidget* over)
+      : desk_(desk), copies_(copies), over_(over) {}
 
   /// Lets the user choose the copy. True when the parish holds something else than before; whatever
   /// else came of it, the user has been told.
@@ -37,7 +36,6 @@ class CopyReturn {
 
   Desk& desk_;
   const SafetyCopies& copies_;
-  const Presence& presence_;
   QWidget* over_;
 };
 

@@ -9,11 +9,20 @@ FDAPI::cConfig configFor(const std::string& user) {
   return config;
 }
 
+/// Nobody where there is no parish.
+std::unique_ptr<Presence> come(const ParishFiles& files, const std::string& user,
+                               const Clock& clock) {
+  if (!files.exists()) return nullptr;
+  return std::make_unique<Presence>(files.directory, user,
+                                    text::toShort(clock.today()) + " a las " + clock.now());
+}
+
 }  // namespace
 
 Desk::Desk(const ParishFiles& files, const std::string& user, forms::UserInterface& ui,
            Settings& settings, Clock& clock)
-    : files_(files),
+    : files_(files.resolved()),
+      presence_(come(files_, user, clock)),
       open_(openParish(files_)),
       config_(configFor(user)),
       support_(ui, settings, clock, config_),

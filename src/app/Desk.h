@@ -3,6 +3,7 @@
 #include <string>
 
 #include "app/ParishFiles.h"
+#include "app/Presence.h"
 #include "core/facade/cNucleo.h"
 #include "support/HostSupport.h"
 
@@ -13,7 +14,7 @@ namespace fidaleon::app {
 class Desk {
  public:
   /// The user interface, the settings and the clock stay the caller's and must outlive the desk.
-  /// Throws store::Error as openParish does.
+  /// Throws store::Error as openParish does, and what Presence throws.
   Desk(const ParishFiles& files, const std::string& user, forms::UserInterface& ui,
        Settings& settings, Clock& clock);
   Desk(const Desk&) = delete;
@@ -25,6 +26,7 @@ class Desk {
   store::Connection& parish() { return *open_.parish; }
   store::Connection& reports() { return *open_.reports; }
   const ParishFiles& files() const { return files_; }
+  Presence& presence() { return *presence_; }
   /// Short name of the first institution.
   std::string parishName();
   std::string edition() const { return editionName(entorno_.installation.Aplicacion); }
@@ -40,6 +42,7 @@ class Desk {
 
  private:
   ParishFiles files_;
+  std::unique_ptr<Presence> presence_;  // before anything of the parish is touched
   OpenParish open_;
   FDAPI::cConfig config_;
   support::HostSupport support_;

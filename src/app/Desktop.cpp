@@ -7,6 +7,7 @@
 #include <fstream>
 #include <map>
 
+#include "app/CarefulQuestion.h"
 #include "app/EditionQuestion.h"
 #include "app/FirstRunWizard.h"
 #include "app/LastWords.h"
@@ -27,6 +28,23 @@ bool wantsToJoin(const NewParish& wanted) {
   box.addButton(QObject::tr("&Elegir otra carpeta"), QMessageBox::RejectRole);
   box.exec();
   return box.clickedButton() == join;
+}
+
+/// What stands in the way is told when the parish is opened again.
+void takeOver(const ParishFiles& files) {
+  try {
+    dismissUnseen(files.resolved().directory);
+  } catch (const locks::Unusable&) {
+  }
+}
+
+bool knowsThatNobodyIsThere() {
+  return askCarefully(
+      nullptr, QObject::tr("Ya hay otro equipo en la parroquia"),
+      QObject::tr("¿Está seguro de que el programa no está abierto en el otro equipo?"),
+      QObject::tr("Desde aquí no puede verse. Si el otro equipo se apagó de golpe, puede seguir en "
+                  "este. Si alguien trabaja en él, los dos estropearían los datos."),
+      QObject::tr("No hay nadie: &abrir aquí"));
 }
 
 }  // namespace
@@ -120,6 +138,9 @@ bool Desktop::tryRemedy(const OpeningFault& fault, ParishFiles& files) {
   const auto chosen = buttons.find(box.clickedButton());
   switch (chosen == buttons.end() ? Remedy::Exit : chosen->second) {
     case Remedy::Retry:
+      return true;
+    case Remedy::OtherIsOff:
+      if (knowsThatNobodyIsThere()) takeOver(files);
       return true;
     case Remedy::NewParish:
       createFirst(files);

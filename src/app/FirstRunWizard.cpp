@@ -125,6 +125,19 @@ QWizardPage* FirstRunWizard::contentPage(const NewParish& proposal) {
   layout->addWidget(explanation(
       tr("Si varios equipos van a trabajar a la vez, elija una carpeta compartida por todos."),
       page));
+  accounts_ = new QComboBox(page);
+  accounts_->addItem(tr("Solo esta cuenta del equipo"));
+  for (const AccountGroup& group : ownGroups())
+    accounts_->addItem(
+        tr("También las demás cuentas del grupo «%1»").arg(QString::fromStdString(group.name)),
+        group.id);
+  auto* who = new QLabel(tr("&Quién puede abrirlos:"), page);
+  who->setBuddy(accounts_);
+  const bool choice = accounts_->count() > 1;
+  who->setVisible(choice);
+  accounts_->setVisible(choice);
+  layout->addWidget(who);
+  layout->addWidget(accounts_);
   layout->addStretch();
   return page;
 }
@@ -144,6 +157,8 @@ NewParish FirstRunWizard::parish() const {
   p.user = text::trim(text::sanitized(user_->text().toStdString()));
   p.content = static_cast<Content>(content_->checkedId());
   p.directory = directory_->text().trimmed().toStdString();
+  const QVariant group = accounts_->currentData();
+  if (group.isValid()) p.group = group.toUInt();
   return p;
 }
 

@@ -34,6 +34,7 @@ class FirstRunWizard : public QWizard {
   QLineEdit* user_ = nullptr;
   QLineEdit* directory_ = nullptr;
   QButtonGroup* content_ = nullptr;
+  QComboBox* accounts_ = nullptr;
 };
 
 }  // namespace fidaleon::app

@@ -11,11 +11,13 @@
 #include <QStackedWidget>
 #include <QStatusBar>
 #include <QTableView>
+#include <QTimer>
 #include <QToolBar>
 #include <QToolButton>
 #include <QTreeView>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <chrono>
 
 #include "app/Documents.h"
 #include "app/PreviewDialog.h"
@@ -41,12 +43,7 @@ const char* hintOf(NodeKind kind) {
 }  // namespace
 
 MainWindow::MainWindow(Desk& desk, QWidget* parent)
-    : QMainWindow(parent),
-      desk_(desk),
-      copies_(desk.files().directory),
-      presence_(desk.files().directory, desk.config().Usuario,
-                text::toShort(desk.entorno().clock.today()) + " " + desk.entorno().clock.now()),
-      removals_(desk.parish()) {
+    : QMainWindow(parent), desk_(desk), copies_(desk.files().directory), removals_(desk.parish()) {
   setObjectName("MainWindow");
   setPalette(qt::legible(palette()));
   splitter_ = new QSplitter(this);
@@ -60,6 +57,9 @@ MainWindow::MainWindow(Desk& desk, QWidget* parent)
   restoreWindow();
   showNode("PartidasBautismo");
   table_->setFocus();
+  auto* again = new QTimer(this);
+  connect(again, &QTimer::timeout, this, [this] { desk_.presence().tellAgain(); });
+  again->start(std::chrono::seconds(30));
 }
 
 MainWindow::~MainWindow() = default;

@@ -11,7 +11,6 @@
 #include "app/Command.h"
 #include "app/Desk.h"
 #include "app/Precaution.h"
-#include "app/Presence.h"
 #include "app/RowsFilter.h"
 #include "app/RowsModel.h"
 #include "paper/Report.h"
@@ -101,7 +100,6 @@ class MainWindow : public QMainWindow, private Workplace {
 
   Desk& desk_;
   SafetyCopies copies_;
-  Presence presence_;
   store::RemovalWatch removals_;
   const NodeView* node_ = nullptr;
   bool busy_ = false;

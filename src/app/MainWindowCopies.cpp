@@ -89,7 +89,7 @@ void MainWindow::backUp() {
 }
 
 void MainWindow::returnToCopy() {
-  if (!CopyReturn(desk_, copies_, presence_, this).run()) return;
+  if (!CopyReturn(desk_, copies_, this).run()) return;
   setScope(0, {});
   showParishName();
 }

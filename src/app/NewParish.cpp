@@ -1,9 +1,17 @@
 #include "app/NewParish.h"
 
+#include <grp.h>
+#include <pwd.h>
+#include <unistd.h>
+
+#include <array>
+
 #include "app/Insert.h"
 #include "app/ParishFiles.h"
 #include "app/SampleParish.h"
 #include "files/Durable.h"
+#include "files/PrivateFile.h"
+#include "locks/SharedDirectory.h"
 #include "store/Open.h"
 #include "text/Utf8.h"
 
@@ -21,17 +29,31 @@ void fill(store::Connection& connection, const NewParish& parish, const text::Da
   connection.CommitTrans();
 }
 
-void makeDirectory(const std::filesystem::path& directory) {
+void makeDirectory(const std::filesystem::path& directory, const std::optional<gid_t>& group) {
   try {
     files::makeFolders(directory);
+    if (group) files::shareWith(directory, *group);
   } catch (const std::filesystem::filesystem_error&) {
     throw store::Error(store::ErrorKind::ReadOnly,
-                       "No se puede crear la carpeta «" + directory.string() +
+                       "No se puede preparar la carpeta «" + directory.string() +
                            "». Compruebe que tiene permiso para escribir en ella.");
   }
 }
 
 }  // namespace
+
+std::vector<AccountGroup> ownGroups() {
+  std::array<gid_t, 256> ids{};
+  const int count = ::getgroups(static_cast<int>(ids.size()), ids.data());
+  const passwd* const account = ::getpwuid(::getuid());
+  const std::string self = account ? account->pw_name : "";
+  std::vector<AccountGroup> groups;
+  for (int i = 0; i < count; ++i) {
+    const group* const found = ::getgrgid(ids[static_cast<std::size_t>(i)]);
+    if (found && found->gr_name != self) groups.push_back({found->gr_gid, found->gr_name});
+  }
+  return groups;
+}
 
 std::string whatIsMissing(const NewParish& parish) {
   if (text::trim(parish.name).empty()) return "Escriba el nombre de la parroquia.";
@@ -39,6 +61,7 @@ std::string whatIsMissing(const NewParish& parish) {
   if (text::trim(parish.town).empty()) return "Escriba la población de la parroquia.";
   if (parish.province == 0) return "Elija la provincia de la parroquia.";
   if (parish.directory.empty()) return "Elija la carpeta donde se guardarán los datos.";
+  if (!isReadable(parish.directory)) return UNREADABLE_NAME;
   if (ParishFiles(parish.directory).exists())
     return "En esa carpeta ya hay una parroquia. Elija otra carpeta, o abra la que ya existe.";
   return {};
@@ -46,11 +69,13 @@ std::string whatIsMissing(const NewParish& parish) {
 
 void createParish(const NewParish& parish, const text::Date& today) {
   const ParishFiles files(parish.directory);
-  makeDirectory(parish.directory);
+  makeDirectory(parish.directory, parish.group);
+  // Nobody comes in meanwhile. Where the guard is not seen by all, the name alone decides.
+  const auto guard = locks::SharedDirectory(parish.directory).enter();
   if (files.exists()) throw store::NameTaken(files.parish());
   // The note stands before the parish does: a power cut leaves a whole parish or none. That of
   // somebody else, who may be making one too, stays until this one has won the name.
-  const bool noted = !files::isThere(files.note());
+  const bool noted = readEdition(files).empty();
   if (noted) writeEdition(files, parish.edition);
   try {
     store::createDatabase(files.parish(), store::parishSchema(),

@@ -1,8 +1,12 @@
 #pragma once
 
+#include <sys/types.h>
+
 #include <cstdint>
 #include <filesystem>
+#include <optional>
 #include <string>
+#include <vector>
 
 #include "store/Connection.h"
 #include "text/Dates.h"
@@ -20,16 +24,25 @@ struct NewParish {
   std::int32_t province = 0;  // official code of its province
   Content content = Content::Empty;
   std::filesystem::path directory;
+  std::optional<gid_t> group;  // whose accounts may work on it too; otherwise as the folder says
 };
+
+/// A group of accounts of this machine.
+struct AccountGroup {
+  gid_t id;
+  std::string name;
+};
+/// Those that this account belongs to and others may too.
+std::vector<AccountGroup> ownGroups();
 
 /// What is missing or wrong in it, in Spanish; empty when it can be made.
 std::string whatIsMissing(const NewParish& parish);
 
 /// Creates the directory, the note of the edition and the parish database with its first
 /// institution (and the sample register when asked), which takes its name last: there is a whole
-/// parish or none. Throws store::Error; nothing stays behind then of what this call has made, and
-/// nothing else is ever touched. Of several who do this at once in one directory one makes the
-/// parish, and the others get store::NameTaken.
+/// parish or none. Throws store::Error and locks::Unusable; nothing stays behind then of what this
+/// call has made, and nothing else is ever touched. Of several who do this at once in one directory
+/// one makes the parish, and the others get store::NameTaken.
 void createParish(const NewParish& parish, const text::Date& today);
 
 /// Adds an institution with its line in Ultimos and gives its key.

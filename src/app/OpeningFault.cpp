@@ -1,5 +1,7 @@
 #include "app/OpeningFault.h"
 
+#include "locks/SharedDirectory.h"
+
 namespace fidaleon::app {
 namespace {
 
@@ -67,6 +69,9 @@ OpeningFault describeFault(const store::Error& error, const ParishFiles& files) 
 OpeningFault describeFault(const std::exception& error, const ParishFiles& files) {
   if (const auto* known = dynamic_cast<const store::Error*>(&error))
     return describeFault(*known, files);
+  if (dynamic_cast<const locks::UnseenOther*>(&error))
+    return fault("Ya hay otro equipo en la parroquia", error.what(),
+                 {Remedy::Retry, Remedy::OtherIsOff, Remedy::OtherFolder, Remedy::Exit});
   return fault("No se puede abrir la parroquia", named(files) + "\n\n" + error.what(), WAIT);
 }
 
@@ -74,6 +79,8 @@ std::string remedyName(Remedy remedy) {
   switch (remedy) {
     case Remedy::Retry:
       return "&Reintentar";
+    case Remedy::OtherIsOff:
+      return "El otro equipo está &apagado…";
     case Remedy::OtherFolder:
       return "&Otra carpeta…";
     case Remedy::NewParish:

@@ -11,6 +11,7 @@
 #include "store/Open.h"
 #include "store/Transaction.h"
 #include "text/SystemErrors.h"
+#include "text/Utf8.h"
 
 namespace fidaleon::app {
 namespace {
@@ -72,6 +73,17 @@ void settleEdition(const ParishFiles& files, OpenParish& open) {
 
 }  // namespace
 
+ParishFiles ParishFiles::resolved() const {
+  std::error_code failed;
+  const std::filesystem::path real = std::filesystem::canonical(parish(), failed);
+  if (failed || real.filename() != parish().filename()) return *this;
+  return ParishFiles(real.parent_path());
+}
+
+bool isReadable(const std::filesystem::path& directory) {
+  return text::sanitized(directory.string()) == directory.string();
+}
+
 std::string editionName(const std::string& code) {
   for (const Edition& e : EDITIONS)
     if (code == e.code) return e.name;
@@ -111,6 +123,8 @@ void keepEdition(store::Connection& parish, const std::string& edition) {
 }
 
 OpenParish openParish(const ParishFiles& files) {
+  if (!isReadable(files.directory))
+    throw store::Error(store::ErrorKind::Connection, UNREADABLE_NAME);
   OpenParish open;
   open.parish = store::openDatabase(files.parish(), store::parishSchema());
   settleEdition(files, open);

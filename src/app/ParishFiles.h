@@ -20,9 +20,16 @@ struct ParishFiles {
   std::filesystem::path parish() const { return directory / "parroquia.fidaleon"; }
   std::filesystem::path note() const { return directory / "edicion.txt"; }
 
+  /// The same where they lie: those who come through a symbolic link meet all the others.
+  ParishFiles resolved() const;
   /// Whether there is a parish; one that cannot be looked at counts as there.
   bool exists() const { return files::isThere(parish()); }
 };
+
+/// Whether the name is UTF-8. One that is not cannot be shown, remembered or chosen again.
+bool isReadable(const std::filesystem::path& directory);
+inline constexpr const char* UNREADABLE_NAME =
+    "El nombre de la carpeta no está escrito en UTF-8 y no puede usarse. Cámbielo, o elija otra.";
 
 /// Edition code in the note beside a parish; empty when it is missing or says something unknown.
 std::string readEdition(const ParishFiles& files);

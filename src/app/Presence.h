@@ -2,7 +2,6 @@
 
 #include <filesystem>
 #include <functional>
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -11,29 +10,40 @@
 namespace fidaleon::app {
 
 /// Tells the other workstations, where they meet for their locks, that somebody works on the
-/// parish; and tells who else does. Keeps nobody from anything. Ends with the program, however that
-/// ends.
+/// parish; and tells who else does. Keeps nobody from anything, save where workstations cannot see
+/// each other: there the first one is the only one. Ends with the program, however that ends.
 class Presence {
  public:
-  /// `since` is "dd/mm/yyyy HH:mm". Where the folder keeps no locks nobody is told.
+  /// `since` is "dd/mm/yyyy a las HH:mm". Throws locks::Unusable where locks do not work, while
+  /// somebody lets nobody in, and locks::UnseenOther.
   Presence(const std::filesystem::path& parishDirectory, const std::string& user,
-           const std::string& since);
+           const std::string& since, locks::Vantage vantage = {});
   ~Presence();
   Presence(const Presence&) = delete;
   Presence& operator=(const Presence&) = delete;
 
+  /// Tries again to tell who is here when that could not be written, for a full disk. The others
+  /// know meanwhile that somebody is here.
+  void tellAgain() noexcept;
   /// Everybody else who works on the parish, each once. Throws locks::Unusable.
   std::vector<locks::Holder> others() const;
-  /// Does the work if nobody else is there, and lets nobody in meanwhile; it should take no more
-  /// than some seconds. The answer is who is there: the work has been done when it is empty.
-  /// Throws locks::Unusable, and what the work throws.
-  std::vector<locks::Holder> alone(const std::function<void()>& work) const;
+  /// Does the work if nobody else is there, and lets nobody in meanwhile; who waits too long is
+  /// told what goes on, "está ordenando los libros". The answer is who is there: the work has been
+  /// done when it is empty. Throws locks::Unusable, and what the work throws.
+  std::vector<locks::Holder> alone(const std::string& doing,
+                                   const std::function<void()>& work) const;
 
  private:
   std::vector<locks::Holder> others(const locks::SharedDirectory::Guard& guard) const;
 
+  locks::Holder self_;
   locks::SharedDirectory meeting_;
+  bool told_ = false;
 };
+
+/// Takes away what programs have left in the parish that cannot be seen from here. Only for a user
+/// who knows that they have ended. Throws locks::Unusable.
+void dismissUnseen(const std::filesystem::path& parishDirectory);
 
 /// "Ana, en el equipo SACRISTIA, desde las 10:30 del 22/11/2026"
 std::string spoken(const locks::Holder& holder);

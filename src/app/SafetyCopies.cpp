@@ -7,6 +7,7 @@
 #include <tuple>
 
 #include "app/CopyRetention.h"
+#include "files/Durable.h"
 #include "files/PrivateFile.h"
 #include "store/FileFault.h"
 #include "store/Open.h"
@@ -81,7 +82,7 @@ fs::path SafetyCopies::reserve(CopyName name) const {
 fs::path SafetyCopies::make(store::Connection& parish, const std::string& before,
                             const Moment& now) const {
   try {
-    files::createFolders(directory_);
+    files::makeFolders(directory_);
   } catch (const std::system_error& e) {
     refuse(directory_.parent_path(), e.code());
   }
@@ -110,7 +111,7 @@ void SafetyCopies::prune(const Moment& now) const {
   std::erase_if(ours, [&](const SafetyCopy& copy) { return copy.byHand() || copy.moment > now; });
   std::vector<text::Date> days;
   for (const SafetyCopy& copy : ours) days.push_back(copy.moment.day);
-  for (const std::size_t place : superfluous(days, now.day)) remove(ours[place].file);
+  for (const std::size_t place : superfluous(days)) remove(ours[place].file);
   removeRests(now.day);
 }
 

@@ -38,6 +38,13 @@ mode_t rightsIn(const fs::path& folder) {
   return isShared(folder) ? OWNER | GROUP : OWNER;
 }
 
+void shareWith(const fs::path& folder, gid_t group) {
+  constexpr mode_t SHARED = S_ISGID | S_IRWXU | S_IRWXG;
+  if (::chown(folder.c_str(), static_cast<uid_t>(-1), group) != 0 ||
+      ::chmod(folder.c_str(), SHARED) != 0)
+    throw fs::filesystem_error("chmod", folder, std::error_code(errno, std::generic_category()));
+}
+
 Descriptor::Descriptor(Descriptor&& other) noexcept : number_(std::exchange(other.number_, -1)) {}
 
 Descriptor& Descriptor::operator=(Descriptor&& other) noexcept {

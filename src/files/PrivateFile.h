@@ -14,6 +14,9 @@ mode_t rightsIn(const std::filesystem::path& folder);
 /// Whether the folder is such a one.
 bool isShared(const std::filesystem::path& folder);
 
+/// Makes it such a folder, for this group. Throws std::filesystem::filesystem_error.
+void shareWith(const std::filesystem::path& folder, gid_t group);
+
 /// An open file, closed when dropped. No program started from this one inherits it.
 class Descriptor {
  public:

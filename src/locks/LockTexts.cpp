@@ -70,7 +70,8 @@ std::string whoAndSince(const Holder& holder, const Holder& own) {
   const std::string who = holder.user.empty() ? "usuario sin nombre" : holder.user;
   const std::string where =
       here ? "este mismo equipo, en otra ventana del programa" : "el equipo " + holder.host;
-  return who + ", en " + where + ", desde el " + holder.since;
+  const std::string since = holder.since.empty() ? "" : ", desde el " + holder.since;
+  return who + ", en " + where + since;
 }
 
 std::string refusal(const LockEntry& wanted, const HeldEntry& held, const Holder& own) {
@@ -95,6 +96,23 @@ std::string refusal(const LockEntry& wanted, const HeldEntry& held, const Holder
 std::string recordGone(const std::string& table) {
   return "Ya no existe " + oneOf(table) +
          ": se ha eliminado desde otro puesto. Actualice la lista.";
+}
+
+std::string goingOn(const HeldEntry& work) {
+  return "Hay que esperar: " + whoAndSince(work.holder, {}) + ", " + work.entry.table +
+         ".\nVuelva a intentarlo cuando termine.";
+}
+
+std::string unseen(const std::string& folder, const Holder& other) {
+  return "En la carpeta «" + folder + "» ya trabaja " + whoAndSince(other, {}) +
+         ".\n\n"
+         "La carpeta está en una unidad en la que un equipo no ve lo que otro tiene abierto, y dos "
+         "a la vez estropearían los datos. Puede trabajar uno solo: cierre el programa en el otro "
+         "equipo.\n\n"
+         "Para trabajar varios a la vez, la parroquia tiene que estar en una carpeta de un "
+         "servidor "
+         "que guarde los bloqueos, conectada por el sistema (NFS o Samba) y no por el gestor de "
+         "ficheros ni por sshfs.";
 }
 
 }  // namespace fidaleon::locks

@@ -19,5 +19,9 @@ std::string refusal(const LockEntry& wanted, const HeldEntry& held, const Holder
 std::string refusal(const LockEntry& wanted, const HeldEntry& held, const Holder& own,
                     const std::string& consequence);
 std::string recordGone(const std::string& table);
+/// What those are told who cannot come in while somebody does this.
+std::string goingOn(const HeldEntry& work);
+/// Why a program may not come into the folder where the other is, and what can be done.
+std::string unseen(const std::string& folder, const Holder& other);
 
 }  // namespace fidaleon::locks

@@ -2,10 +2,12 @@
 
 #include <unistd.h>
 
+#include <array>
 #include <random>
 #include <system_error>
 #include <thread>
 
+#include "locks/LockTexts.h"
 #include "text/SystemErrors.h"
 
 namespace fidaleon::locks {
@@ -18,82 +20,192 @@ std::string unusable(const fs::path& directory, const std::string& why) {
   return "No se puede trabajar con los bloqueos en la carpeta «" + directory.string() + "»: " + why;
 }
 
-std::string newSessionName() {
-  char host[256] = "equipo";
-  ::gethostname(host, sizeof host - 1);
-  return SharedDirectory::SESSION_PREFIX + std::string(host) + "." + std::to_string(::getpid()) +
-         "." + std::to_string(std::random_device{}());
+/// "HOST.MAKER.RANDOM"
+std::string newSessionName(const Maker& self) {
+  std::array<char, 256> host{"equipo"};
+  ::gethostname(host.data(), host.size() - 1);
+  return SharedDirectory::SESSION_PREFIX + std::string(host.data()) + "." + self.text() + "." +
+         std::to_string(std::random_device{}());
+}
+
+std::string withoutLastPart(const std::string& name) {
+  return name.substr(0, name.rfind('.'));
+}
+
+std::optional<Maker> makerOf(const fs::path& session) {
+  const std::string name = withoutLastPart(session.filename().string());
+  return Maker::parse(std::string_view(name).substr(name.rfind('.') + 1));
+}
+
+/// Who it is as far as the name of its file tells.
+Holder namedBy(const fs::path& session) {
+  const std::string name = withoutLastPart(withoutLastPart(session.filename().string()));
+  const std::string prefix = SharedDirectory::SESSION_PREFIX;
+  const auto maker = makerOf(session);
+  return {{},
+          name.size() > prefix.size() ? name.substr(prefix.size()) : std::string(),
+          maker ? maker->process : 0,
+          {}};
+}
+
+Holder holderOf(const fs::path& session, const std::vector<HeldEntry>& held) {
+  return held.empty() ? namedBy(session) : held.front().holder;
 }
 
 }  // namespace
 
-SharedDirectory::SharedDirectory(fs::path directory, std::chrono::milliseconds patience)
-    : directory_(directory.empty() ? fs::path("/") : std::move(directory)), patience_(patience) {}
+SharedDirectory::Guard::~Guard() {
+  if (!announced_) return;
+  try {
+    file_.write({});
+  } catch (const std::system_error&) {
+    // The next one to announce something writes over it.
+  }
+}
+
+void SharedDirectory::Guard::announce(const HeldEntry& work) noexcept {
+  try {
+    announced_ = true;
+    file_.write(encode({work}));
+  } catch (const std::exception&) {
+    // Those who wait are told less.
+  }
+}
+
+SharedDirectory::SharedDirectory(fs::path directory, std::chrono::milliseconds patience,
+                                 Vantage vantage)
+    : directory_(directory.empty() ? fs::path("/") : std::move(directory)),
+      patience_(patience),
+      vantage_(std::move(vantage)) {}
 
 SharedDirectory::Guard SharedDirectory::enter() const {
   const auto until = std::chrono::steady_clock::now() + patience_;
   try {
     File file = File::openOrCreate(directory_ / GUARD_FILE);
     for (auto pause = std::chrono::microseconds(200); !file.tryLock(); pause += pause / 2) {
-      if (std::chrono::steady_clock::now() > until)
-        throw Unusable(unusable(directory_, "otro puesto la tiene ocupada y no responde."));
+      if (std::chrono::steady_clock::now() > until) {
+        const std::vector<HeldEntry> work = decode(file.read());
+        throw Unusable(work.size() == 1
+                           ? goingOn(work.front())
+                           : unusable(directory_, "otro puesto la tiene ocupada y no responde."));
+      }
       std::this_thread::sleep_for(std::min(pause, std::chrono::microseconds(20000)));
     }
+    if (!file.read().empty()) file.write({});  // by one that was killed at its work
     return Guard(std::move(file));
   } catch (const std::system_error& e) {
     throw Unusable(unusable(directory_, text::systemReason(e.code())));
   }
 }
 
-std::vector<HeldEntry> SharedDirectory::others(const Guard&) const {
-  std::vector<HeldEntry> all;
+SharedDirectory::State SharedDirectory::stateOf(const fs::path& path, const File& file) const {
+  if (vantage_.seesLock(file)) return State::Lives;
+  if (vantage_.reach(directory_) == Reach::Everywhere) return State::Ended;
+  const auto maker = makerOf(path);
+  return maker && hasCertainlyEnded(*maker, vantage_.self) ? State::Ended : State::Unseen;
+}
+
+void SharedDirectory::forEachOther(
+    const std::function<void(const fs::path&, const File&, State)>& each) const {
   try {
     for (const auto& found : fs::directory_iterator(directory_)) {
       if (found.path() == ownPath_ || !found.path().filename().string().starts_with(SESSION_PREFIX))
         continue;
       const std::optional<File> session = File::openToRead(found.path());
-      if (!session) continue;  // ended while we looked
-      if (session->lockedByOther()) {
-        for (HeldEntry& held : decode(session->read())) all.push_back(std::move(held));
-      } else {
-        std::error_code ignored;  // whoever may remove it will
-        fs::remove(found.path(), ignored);
-      }
+      if (session) each(found.path(), *session, stateOf(found.path(), *session));
     }
   } catch (const std::system_error& e) {
     throw Unusable(unusable(directory_, text::systemReason(e.code())));
   }
+}
+
+std::vector<SharedDirectory::Session> SharedDirectory::sessions(const Guard&) const {
+  std::vector<Session> all;
+  forEachOther([&](const fs::path& path, const File& file, State state) {
+    if (state == State::Ended) {
+      std::error_code ignored;  // whoever may remove it will
+      fs::remove(path, ignored);
+      return;
+    }
+    std::vector<HeldEntry> held = decode(file.read());
+    const Holder holder = holderOf(path, held);
+    if (state == State::Unseen) throw UnseenOther(unseen(directory_.string(), holder), holder);
+    all.push_back({holder, std::move(held)});
+  });
   return all;
 }
 
-void SharedDirectory::ensureOwnFile() {
-  if (own_) return;
-  const fs::path path = directory_ / newSessionName();
+std::vector<HeldEntry> SharedDirectory::others(const Guard& guard) const {
+  std::vector<HeldEntry> all;
+  for (Session& session : sessions(guard))
+    for (HeldEntry& held : session.held) all.push_back(std::move(held));
+  return all;
+}
+
+void SharedDirectory::dismissUnseen(const Guard&) const {
+  forEachOther([&](const fs::path& path, const File&, State state) {
+    if (state == State::Unseen) fs::remove(path);
+  });
+}
+
+/// True when there was none yet.
+bool SharedDirectory::ensureOwnFile() {
+  if (own_) return false;
+  const fs::path path = directory_ / newSessionName(vantage_.self);
   File file = File::create(path);
   ownPath_ = path;
   if (!file.tryLock()) throw std::system_error(ENOLCK, std::generic_category());
   own_ = std::move(file);
+  return true;
 }
 
 void SharedDirectory::publish(const Guard&, const std::vector<HeldEntry>& entries) {
   std::string before;
+  bool isNew = true;
   try {
-    ensureOwnFile();
+    isNew = ensureOwnFile();
     before = own_->read();
     own_->write(encode(entries));
   } catch (const std::system_error& e) {
     const std::string why = text::systemReason(e.code());
-    if (own_ && !before.empty()) {
-      try {
+    try {
+      if (isNew)
+        withdraw();
+      else
         own_->write(before);
-      } catch (const std::system_error&) {
-        // The list stays damaged: its good lines still count, and it ends with the session.
-      }
-    } else {
-      withdraw();
+    } catch (const std::system_error&) {
+      // The list stays damaged: its good lines still count, and it ends with the session.
     }
     throw Unusable(unusable(directory_, why));
   }
+}
+
+// Where the guard itself is not seen by all, another may come at the same time: whoever has told
+// that he is here looks again.
+bool SharedDirectory::join(const Guard& guard, const std::vector<HeldEntry>& entries) {
+  sessions(guard);
+  bool told = false;
+  try {
+    ensureOwnFile();
+    requireVisible();
+    sessions(guard);
+    own_->write(encode(entries));
+    told = true;
+  } catch (const Unusable&) {
+    withdraw();
+    throw;
+  } catch (const std::system_error& e) {
+    if (own_) return told;
+    withdraw();
+    throw Unusable(unusable(directory_, text::systemReason(e.code())));
+  }
+  return told;
+}
+
+void SharedDirectory::requireVisible() const {
+  const std::optional<File> again = File::openToRead(ownPath_);
+  if (!again || !vantage_.seesLock(*again))
+    throw Unusable(unusable(directory_, "la unidad no guarda los bloqueos. Elija otra carpeta."));
 }
 
 void SharedDirectory::withdraw() noexcept {

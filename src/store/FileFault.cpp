@@ -18,6 +18,7 @@ Error fileFault(const std::string& what, const std::filesystem::path& file,
     case EACCES:
     case EPERM:
     case EROFS:
+    case ENOTDIR:
       kind = ErrorKind::ReadOnly;
       break;
     default:

@@ -67,12 +67,34 @@ Restore::Restore(const fs::path& copy, const fs::path& database, const Schema& s
   counts_ = rowCounts(engine, schema_);
 }
 
-void Restore::run() {
+Unconfirmed::Unconfirmed(const Error& why)
+    : Error(
+          why.kind(),
+          "Los datos de la copia ya están en la base de datos, pero el disco no ha confirmado que "
+          "queden guardados: " +
+              std::string(why.what()),
+          why.number()) {}
+
+bool Restore::isReplaced(const std::vector<std::int64_t>& before) const {
+  SqliteEngine now(database_, SqliteEngine::Access::Existing);
+  return counts_ != before && rowCounts(now, schema_) == counts_;
+}
+
+void Restore::replace() {
   SqliteEngine database(database_, SqliteEngine::Access::Existing);
-  {
-    SqliteEngine copy(draft_.path(), SqliteEngine::Access::Existing);
+  SqliteEngine copy(draft_.path(), SqliteEngine::Access::Existing);
+  const std::vector<std::int64_t> before = rowCounts(database, schema_);
+  try {
     database.copyFrom(copy);
+  } catch (const Error& e) {
+    if (isReplaced(before)) throw Unconfirmed(e);
+    throw;
   }
+}
+
+void Restore::run() {
+  replace();
+  SqliteEngine database(database_, SqliteEngine::Access::Existing);
   database.requireSound();
   if (rowCounts(database, schema_) != counts_)
     throw Error(ErrorKind::NotADatabase, "Lo que ha quedado en «" + database_.string() +

@@ -5,9 +5,16 @@
 #include <vector>
 
 #include "store/Draft.h"
+#include "store/Error.h"
 #include "store/schema/Schema.h"
 
 namespace fidaleon::store {
+
+/// The database shows what the copy held, but the disk has not confirmed that it keeps it.
+class Unconfirmed : public Error {
+ public:
+  explicit Unconfirmed(const Error& why);
+};
 
 /// A saved copy of a database made ready to be returned to: read into a passing file beside the
 /// database, brought up to the version of the schema, and checked. The copy itself is only read.
@@ -22,9 +29,13 @@ class Restore {
   /// whatever moment, leaves either the old content or the new one, and open connections see the
   /// new one from their next statement on. Throws Busy while somebody writes or, on a network
   /// disk, reads; DiskFull; nothing has changed then. What was stored is read back and checked.
+  /// Throws Unconfirmed when the failure came after everything was replaced.
   void run();
 
  private:
+  void replace();
+  bool isReplaced(const std::vector<std::int64_t>& before) const;
+
   std::filesystem::path database_;
   const Schema& schema_;
   Draft draft_;

@@ -163,6 +163,7 @@ TEST(CommandLine, saysWhatIsWrong) {
   EXPECT_EQ(CommandLine::parse({"--demo"}).complaint, "La opción --demo necesita una carpeta.");
   EXPECT_EQ(CommandLine::parse({"--demo="}).task, Task::Wrong);
   EXPECT_EQ(CommandLine::parse({"--demo", "a", "--datos", "b"}).task, Task::Wrong);
+  EXPECT_EQ(CommandLine::parse({"--datos", "Bu\xF1uel"}).task, Task::Wrong);
 }
 
 }  // namespace

@@ -96,6 +96,44 @@ TEST_F(Opening, firstRun_thatFails_leavesNothing) {
   EXPECT_FALSE(files().exists());
 }
 
+TEST_F(Opening, firstRun_forThisAccountOrForItsGroup_decidesWhoMayRead) {
+  using std::filesystem::perms;
+  const auto rightsOf = [](const std::filesystem::path& path) {
+    return std::filesystem::status(path).permissions();
+  };
+  for (const bool shared : {false, true}) {
+    NewParish p = described(Content::Empty);
+    p.directory = directory() / (shared ? "de todos" : "de una");
+    if (shared) p.group = getgid();
+    createParish(p, clock.today());
+    EXPECT_EQ(rightsOf(p.directory), shared ? perms(02770) : perms(0700));
+    for (const auto& file : std::filesystem::directory_iterator(p.directory))
+      EXPECT_EQ(rightsOf(file.path()), shared ? perms(0660) : perms(0600)) << file.path();
+  }
+}
+
+TEST_F(Opening, nameThatIsNoText_isRefusedAtOnce) {
+  NewParish p = described();
+  p.directory = directory() / "Parroquia de Bu\xF1uel";
+  EXPECT_THAT(whatIsMissing(p), ::testing::HasSubstr("UTF-8"));
+  EXPECT_THROW(openParish(ParishFiles(p.directory)), store::Error);
+}
+
+TEST_F(Opening, reachedThroughALink_isWhereItLies) {
+  create(Content::Empty);
+  const std::filesystem::path other = directory() / "otra";
+  std::filesystem::create_directory(other);
+  std::filesystem::create_symlink(files().parish(), ParishFiles(other).parish());
+  Desk linked(ParishFiles(other), "Ana", user, settings, clock);
+  EXPECT_EQ(linked.presence().others().size(), 1u);
+}
+
+TEST_F(Opening, whereAnotherCannotBeSeen_theUserIsToldWaysOut) {
+  fault = describeFault(locks::UnseenOther("motivo", {}), files());
+  EXPECT_TRUE(offers(Remedy::OtherIsOff));
+  EXPECT_EQ(fault.text, "motivo");
+}
+
 TEST_F(Opening, firstRun_quotesInANameDoNoHarm) {
   NewParish p = described(Content::Empty);
   p.name = "San \"Blas\"; DROP TABLE Institucion";

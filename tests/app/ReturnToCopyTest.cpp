@@ -13,6 +13,7 @@
 #include "app/CopiesFixture.h"
 #include "app/CopyReturn.h"
 #include "app/MainWindow.h"
+#include "app/SimulatedDisk.h"
 #include "store/Engine.h"
 #include "store/Restore.h"
 #include "store/sqlite/NetworkDisk.h"
@@ -30,11 +31,10 @@ class Returning : public Copies {
     addOffice("Sacristán");
     copy = make();
     addOffice("Organista");
-    presence = std::make_unique<Presence>(directory(), "Secretaría", "20/05/2026 10:30");
     user.answerAnything(forms::Answer::Ok);
   }
   bool returnTo(const fs::path& file) {
-    return CopyReturn(*desk, copies, *presence, nullptr).to({file, NOON, 1, "Eliminar", 1});
+    return CopyReturn(*desk, copies, nullptr).to({file, NOON, 1, "Eliminar", 1});
   }
   std::string told() const { return user.messages().empty() ? "" : user.messages().back().text; }
   std::vector<std::string> rest() const {
@@ -45,7 +45,6 @@ class Returning : public Copies {
   }
 
   fs::path copy;
-  std::unique_ptr<Presence> presence;
 };
 
 TEST_F(Returning, bringsBackTheContentAndKeepsWhatWasThere) {
@@ -181,7 +180,6 @@ TEST_F(Returning, withoutRoomForTheOtherCopy_asksAndReturns) {
 }
 
 TEST_F(Returning, byTheWindow_showsTheOldRowsAgain) {
-  presence.reset();
   MainWindow window(*desk);
   window.show();
   window.showNode("Cargos");
@@ -307,6 +305,27 @@ TEST_P(KilledReturn, withAFullDisk_changesNothing) {
               100 + static_cast<int>(store::ErrorKind::DiskFull));
   }
   EXPECT_EQ(pairs(), before);
+}
+
+TEST_P(KilledReturn, whicheverFlushFails_isToldAsWhatIsThen) {
+  bool failed = true;
+  for (int which = 1; failed; ++which) {
+    store::Restore restore(few, files().parish(), store::parishSchema());
+    std::int64_t told = 700;
+    {
+      const tests::FailingSync failing(which);
+      try {
+        restore.run();
+      } catch (const store::Unconfirmed& e) {
+        EXPECT_THAT(e.what(), HasSubstr("el disco no ha confirmado"));
+      } catch (const store::Error&) {
+        told = 1400;
+      }
+      failed = failing.happened();
+    }
+    EXPECT_EQ(pairs(), told) << which;
+    store::Restore(many, files().parish(), store::parishSchema()).run();
+  }
 }
 
 INSTANTIATE_TEST_SUITE_P(Journals, KilledReturn, ::testing::Values("WAL", "DELETE"));

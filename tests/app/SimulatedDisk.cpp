@@ -25,6 +25,7 @@ constexpr std::size_t SECTOR = 512;
 
 DiskRecorder* recorder = nullptr;
 bool networkShare = false;
+int syncsUntilFailure = 0;
 
 /// The path below the recorded folder.
 std::optional<std::string> recorded(const std::string& path) {
@@ -86,6 +87,10 @@ int cut(int fd, off_t size) {
 }
 
 int synced(int fd) {
+  if (syncsUntilFailure > 0 && --syncsUntilFailure == 0) {
+    errno = EIO;
+    return -1;
+  }
   struct stat facts = {};
   if (recorder == nullptr) return static_cast<int>(::syscall(SYS_fsync, fd));
   const bool folder = ::fstat(fd, &facts) == 0 && S_ISDIR(facts.st_mode);
@@ -128,6 +133,18 @@ NetworkShare::NetworkShare() {
 
 NetworkShare::~NetworkShare() {
   networkShare = false;
+}
+
+FailingSync::FailingSync(int which) {
+  syncsUntilFailure = which;
+}
+
+FailingSync::~FailingSync() {
+  syncsUntilFailure = 0;
+}
+
+bool FailingSync::happened() const {
+  return syncsUntilFailure == 0;
 }
 
 SimulatedDisk::SimulatedDisk(const fs::path& folder) {

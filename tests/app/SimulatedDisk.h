@@ -43,6 +43,14 @@ class NetworkShare {
   ~NetworkShare();
 };
 
+/// The sync of this number, from now on, fails; the others do not.
+class FailingSync {
+ public:
+  explicit FailingSync(int which);
+  ~FailingSync();
+  bool happened() const;
+};
+
 class SimulatedDisk {
  public:
   /// Holds, safely, what the folder holds.

@@ -251,15 +251,6 @@ TEST_F(Session, FilesOfTheLocks_AreForWhoeverTheFolderIsFor) {
   }
 }
 
-TEST_F(Session, GuardHeldByOneThatHangs_IsNotWaitedForWithoutEnd) {
-  locks::File hanging = locks::File::openOrCreate(w.directory.path() / "fidaleon.bloqueos");
-  ASSERT_TRUE(hanging.tryLock());
-  const locks::SharedDirectory directory(w.directory.path(), std::chrono::milliseconds(20));
-  EXPECT_THROW(directory.enter(), locks::Unusable);
-  hanging.unlock();
-  EXPECT_NO_THROW(directory.enter());
-}
-
 TEST_F(Session, GuardFileRemovedUnderneath_IsMadeAgain) {
   auto mine = open();
   ASSERT_EQ(take(*mine, {whole("Bautismo")}), 0);

@@ -4,6 +4,7 @@
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <signal.h>
+#include <sqlite3.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
@@ -168,6 +169,24 @@ TEST_F(Files, whatIsNoDatabase_isRefused) {
   fs::remove(file);
   fs::create_directory(file);
   EXPECT_EQ(kindOfOpening(), ErrorKind::NotADatabase);
+}
+
+TEST_F(Files, whatAForeignFileWouldDo_isNotDone) {
+  const auto prepare = [&](const char* sql) {
+    sqlite3* db = nullptr;
+    ASSERT_EQ(sqlite3_open(file.c_str(), &db), SQLITE_OK);
+    EXPECT_EQ(sqlite3_exec(db, sql, nullptr, nullptr, nullptr), SQLITE_OK);
+    sqlite3_close(db);
+  };
+  createDatabase(file, parishSchema())->Execute("INSERT INTO Grupo (Nombre) VALUES ('uno')");
+  prepare("CREATE TRIGGER trampa AFTER INSERT ON Cargo BEGIN DELETE FROM Grupo; END");
+  {
+    const auto connection = openDatabase(file, parishSchema());
+    connection->Execute(kInsert);
+    EXPECT_EQ(count(*connection, "Grupo"), 1);
+  }
+  prepare("DROP TABLE Cargo; CREATE VIEW Cargo AS SELECT 1 AS IDCargo");
+  EXPECT_THROW(count(*openDatabase(file, parishSchema())), Error);
 }
 
 TEST_F(Files, cutOffFile_isRefusedOrReportedWhenRead) {

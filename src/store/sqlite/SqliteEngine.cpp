@@ -15,12 +15,24 @@ std::string savepoint(int depth) {
   return "parte" + std::to_string(depth);
 }
 
+/// A file may come from anywhere: what it would have done when it is read or written is not done.
+void distrust(sqlite3* db) {
+  const struct {
+    int setting, value;
+  } settings[] = {{SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0},
+                  {SQLITE_DBCONFIG_ENABLE_TRIGGER, 0},
+                  {SQLITE_DBCONFIG_ENABLE_VIEW, 0},
+                  {SQLITE_DBCONFIG_DEFENSIVE, 1}};
+  for (const auto& s : settings) check(sqlite3_db_config(db, s.setting, s.value, nullptr), db);
+}
+
 }  // namespace
 
 SqliteEngine::SqliteEngine(const std::filesystem::path& file, Access access) {
   const bool create = access == Access::Create;
   open(file.string(), create ? SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE : SQLITE_OPEN_READWRITE);
   try {
+    distrust(db_);
     if (!create && isNetworkDisk(file) && usesWriteAheadLog(file)) leaveWriteAheadLog();
     // Reads the file, so that one that is no database is found out here.
     run("PRAGMA synchronous = FULL; SELECT count(*) FROM sqlite_schema;");

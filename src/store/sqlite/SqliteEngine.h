@@ -12,6 +12,7 @@ class SqliteEngine : public Engine {
   enum class Access { Existing, Create };
   enum class Unnamed { Memory, Disk };
 
+  /// Triggers and views of a file do not run, nor functions that its schema calls.
   /// An existing file, or a new one, which may be there when it is empty. A file on a network disk
   /// is taken out of write-ahead logging, which is not safe there.
   SqliteEngine(const std::filesystem::path& file, Access access);
