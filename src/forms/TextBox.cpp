@@ -66,8 +66,10 @@ void TextBox::enterText(const std::string& text) {
 }
 
 bool TextBox::refuses(const std::string& next) const {
-  if (!fits || next == text_ || fits(next)) return false;
-  return fits(text_) || text::length(next) >= text::length(text_);
+  if (!fits || next == text_) return false;
+  const bool shorter = text::length(next) < text::length(text_);
+  if (maxLength_ > 0 && text::length(next) > static_cast<std::size_t>(maxLength_)) return !shorter;
+  return !fits(next) && (fits(text_) || !shorter);
 }
 
 /// The text as this key would leave it.

@@ -4,7 +4,6 @@
 #include <map>
 #include <set>
 
-#include "registers/allocation/LimiteFolios.h"
 #include "registers/allocation/Posicion.h"
 #include "registers/allocation/PosicionEnLista.h"
 #include "registers/allocation/PosicionTecleada.h"
@@ -92,12 +91,6 @@ INSTANTIATE_TEST_SUITE_P(OtrasCapacidades, Huecos,
                                            Caso{"three per folio", 3, "1/1", "-"},
                                            Caso{"empty list all the same", 3, "", "1/1"}));
 
-TEST(SoloAdelante, newBook_goesBehindTheLastWhateverItsCapacity) {
-  EXPECT_EQ(siguienteEnLista(posiciones("1/1 3/3"), 4, Numeracion::SoloAdelante),
-            (Posicion{4, "4"}));
-  EXPECT_EQ(siguienteEnLista({}, 4, Numeracion::SoloAdelante), Posicion{});
-}
-
 TEST(Huecos, bookFilledByItsProposals_neverGivesAPositionTwiceNorLeavesOneOut) {
   for (const int p : {1, 2, 4}) {
     Lista libro;
@@ -129,33 +122,6 @@ TEST(NumeroDePartida, isDigitsAndOneLetterBehindThem) {
     EXPECT_FALSE(esNumeroDePartida(malo)) << malo;
 }
 
-TEST(LimiteFolios, equalIsAllowed_andAnEmptySettingIsNoLimit) {
-  EXPECT_FALSE(pasaLimiteDeFolios("200", 200));
-  EXPECT_TRUE(pasaLimiteDeFolios("200", 201));
-  EXPECT_FALSE(pasaLimiteDeFolios("", 1'000'000));
-  EXPECT_FALSE(pasaLimiteDeFolios("muchos", 1'000'000));
-  EXPECT_TRUE(pasaLimiteDeFolios("0", 1));
-}
-
-TEST(FolioCompleto, refusalIsThatOfTheFormat) {
-  const auto rechazo = [](int formato, int n) {
-    return rechazoFolioCompleto(formato, "7", n).value_or("");
-  };
-  EXPECT_EQ(rechazo(1, 3), "");
-  EXPECT_EQ(rechazo(1, 4),
-            "¡No puede introducir ninguna partida en el folio 7 porque ya hay cuatro partidas en "
-            "él!");
-  for (const int formato : {2, 4}) {
-    EXPECT_EQ(rechazo(formato, 1), "");
-    EXPECT_EQ(rechazo(formato, 2),
-              "¡No puede introducir ninguna partida en el folio 7 porque ya hay 2 partidas en él!");
-  }
-  EXPECT_EQ(rechazo(3, 1),
-            "¡No puede introducir ninguna partida en el folio 7 porque ya tiene una partida!");
-  EXPECT_EQ(rechazo(3, 0), "");
-  EXPECT_EQ(rechazo(9, 100), "");
-}
-
 TEST(NumeroConLetra, takesTheNextFreeLetter) {
   const auto nuevo = [](const std::string& tecleado, std::set<std::string> ocupados) {
     return numeroConLetra(tecleado, [&](const std::string& n) { return ocupados.contains(n); });
@@ -165,21 +131,6 @@ TEST(NumeroConLetra, takesTheNextFreeLetter) {
   EXPECT_EQ(nuevo("12a", {"12", "12a"}), "12b");
   EXPECT_EQ(nuevo("12a", {"12a", "12b"}), "12c");
   EXPECT_EQ(nuevo("12z", {"12z"}), "12a");
-}
-
-TEST(PreguntaReemplazo, wordingAndTitle_followFormatAndSacrament) {
-  const auto cuatro = preguntaReemplazo(BAUTISMO, 1, "12a");
-  EXPECT_EQ(cuatro.texto,
-            "La partida que va a introducir coincide con otra. El numero se reemplazará por el "
-            "12a ¿Desea continuar?");
-  EXPECT_EQ(cuatro.titulo, "Fidaleon2000");
-  const auto dos = preguntaReemplazo(DEFUNCION, 2, "12a");
-  EXPECT_EQ(dos.texto,
-            "La partida que va a introducir coincide con otra. El número se reemplazará por el "
-            "12a ¿Desea continuar?");
-  EXPECT_EQ(dos.titulo, "");
-  EXPECT_THAT(preguntaReemplazo(DEFUNCION, 1, "3a").texto,
-              ::testing::HasSubstr("El numero se reemplazara por el 3a"));
 }
 
 TEST(Salto, isAForwardMoveOfMoreThanOne) {

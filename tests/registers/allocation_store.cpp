@@ -102,12 +102,6 @@ TEST_P(Contadores, firstFolioEmpty_countsFromNothing) {
   EXPECT_EQ(actualizar(), "1/1");
 }
 
-TEST_P(Contadores, highestNumber_isThatOfTheText) {
-  crear(2);
-  partidas("1/9 1/10");
-  EXPECT_EQ(actualizar(), "2/10");
-}
-
 TEST_P(Contadores, oneEntryPerFolio_goesOnBehindTheFirstRun) {
   crear(3);
   partidas("3/1 4/2 7/5");
@@ -142,12 +136,6 @@ TEST_P(Contadores, emptyBookOrUnknownFormat_keepsItsCounters) {
 class Subida : public ConLibro {};
 INSTANTIATE_TEST_SUITE_P(Sacramentos, Subida, ::testing::Range<std::size_t>(0, 4), palabra);
 
-TEST_P(Subida, freeCounters_areTakenAsTheyStand) {
-  crear(2);
-  contadores("6/8b");
-  EXPECT_EQ(libre(), "6/8b");
-}
-
 TEST_P(Subida, afterADeletion_climbsToTheFirstFreePosition) {
   crear(1);
   partidas("1/1 1/2 1/3 1/4 2/5 2/6 2/6a 2/7 3/8");
@@ -155,12 +143,6 @@ TEST_P(Subida, afterADeletion_climbsToTheFirstFreePosition) {
   EXPECT_EQ(contadores(), "3/9");
   partidas("3/9 3/12bis");
   EXPECT_EQ(libre(), "3/13");
-}
-
-TEST_P(Subida, oneEntryPerFolio_stepsFolioAndNumber) {
-  crear(3);
-  partidas("1/1 2/2 3/3 5/5");
-  EXPECT_EQ(libre(), "4/4");
 }
 
 TEST_P(Subida, tooManySteps_giveUpAndKeepWhatWasClimbed) {
@@ -284,13 +266,6 @@ TEST_P(EnDialogo, newBookFromTheList_goesForwardExceptInMenorca) {
   mundo.entorno.installation.Aplicacion = FDAPI::cCAplicacion::APP_FIDALEON_MENORCA;
   posicion.CalcularColeccionFolioyNumero(libro);
   EXPECT_EQ(campos(), "1/2");
-}
-
-TEST_P(EnDialogo, oldBookFromTheTree_getsTheFirstFreeCounters) {
-  abrir(2, false);
-  partidas("1/1 1/2 2/3");
-  posicion.ComprobarFolioyNumeroAntiguas();
-  EXPECT_EQ(campos(), "2/4");
 }
 
 TEST_P(EnDialogo, pastThePageLimit_warnsShowsTheNumberAndRefuses) {

@@ -312,17 +312,6 @@ TEST_F(NewBaptism, BookAndTownAddedFromInside_CanBeChosenAtOnce) {
   EXPECT_SCRIPT_DONE(w.user);
 }
 
-TEST_F(NewBaptism, Clipboard_IsPutBack) {
-  w.user.expectForm(DIALOG, [](FormDriver& d) { cancel(d); });
-  frmPartidaBautismo dialog(w.contexto);
-  dialog.conBaseDatos = &w.con();
-  dialog.Operacion = cCOperacion::ANADIR;
-  dialog.Origen = cCOrigen::PRINCIPAL;
-  dialog.strPortapapeles = "copiado antes";
-  dialog.Show();
-  EXPECT_EQ(w.user.clipboardText(), "copiado antes");
-}
-
 TEST_F(NewBaptism, MarginalNotes_WarnOnceUntilTheyBecomeShorter) {
   book("Libro 1", true, 3);
   const char* warning =

@@ -3,7 +3,6 @@
 #include "registers/baptism/EliminarPartida.h"
 #include "registers/baptism/TablasBautismo.h"
 #include "registers/baptism_world.h"
-#include "registers/requests/EliminarSolicitud.h"
 
 namespace fidaleon::tests {
 
@@ -146,15 +145,6 @@ TEST_F(BaptismStore, Item_IsStoredOnceAndOnlyIfItsMarksSaySo) {
   EXPECT_EQ(w.count("bautismo"), 0);
 }
 
-TEST_F(BaptismStore, Annulling_TwiceEndsAsItBegan) {
-  const std::int32_t id = store(record("Luis", book("Nuevo", true, 3), 1, "1"));
-  cBaseDatos db(w.contexto);
-  ASSERT_TRUE(db.AnularDesanularPar(w.con(), id));
-  EXPECT_EQ(w.count("bautismo WHERE Anulada=true"), 1);
-  ASSERT_TRUE(db.AnularDesanularPar(w.con(), id));
-  EXPECT_EQ(w.count("bautismo WHERE Anulada=true"), 0);
-}
-
 TEST_F(BaptismStore, FailedInsert_IsReportedAndLeavesNoTransactionOpen) {
   const std::int32_t libro = book("Nuevo", true, 3);
   for (const char* statement : {"INSERT INTO bautismo_madres", "SELECT MAX(IDMatrimonio)", "COMMIT",
@@ -169,80 +159,6 @@ TEST_F(BaptismStore, FailedInsert_IsReportedAndLeavesNoTransactionOpen) {
     EXPECT_THAT(w.user.messages().back().text, ::testing::HasSubstr("AltaPartidaBautismo"));
     EXPECT_FALSE(w.con().inTransaction()) << statement;
   }
-}
-
-class DeletingAnEntry : public BaptismWorld {
- protected:
-  void eliminate(std::int32_t id) {
-    eliminarPartida(w.contexto, w.con(), id, BAUTISMO, [&](const PermisoEliminar& permiso) {
-      borrarPartidaBautismo(w.contexto, w.con(), id, permiso);
-    });
-  }
-};
-
-TEST_F(DeletingAnEntry, OpenNewBook_GivesUpItsLastByValueOnly) {
-  const std::int32_t libro = book("Nuevo", true, 1);
-  store(record("A", libro, 1, "1"));
-  const std::int32_t ten = store(record("B", libro, 1, "10"));
-  const std::int32_t two = store(record("C", libro, 1, "2"));
-  w.user.expectMessage("¡Esta partida no se puede eliminar!");
-  eliminate(two);
-  w.user.expectMessage("¿Está seguro que desea eliminar la partida?", Answer::No);
-  eliminate(ten);
-  EXPECT_EQ(w.count("bautismo"), 3);
-  w.user.expectMessage("¿Está seguro que desea eliminar la partida?", Answer::Yes);
-  eliminate(ten);
-  EXPECT_EQ(w.count("bautismo"), 2);
-  EXPECT_EQ(w.count("bautismo_hijo"), 2);
-  EXPECT_SCRIPT_DONE(w.user);
-}
-
-TEST_F(DeletingAnEntry, ClosedBook_KeepsAllAndOldBookNone) {
-  const std::int32_t closed =
-      store(record("A", book("Cerrado", true, 3, "19900101", true), 1, "1"));
-  const std::int32_t old = book("Antiguo", false, 3);
-  const std::int32_t first = store(record("B", old, 1, "1"));
-  store(record("C", old, 2, "2"));
-  w.user.expectMessage("¡Esta partida no se puede eliminar!");
-  eliminate(closed);
-  w.con().Execute("UPDATE Libro_Bautismo SET FolioSiguiente = 7");
-  w.user.expectMessage("¿Está seguro que desea eliminar la partida?", Answer::Yes);
-  eliminate(first);
-  EXPECT_EQ(w.value("SELECT FolioSiguiente FROM Libro_Bautismo WHERE IDLibroBautismo=" +
-                    std::to_string(old)),
-            "1");
-  EXPECT_SCRIPT_DONE(w.user);
-}
-
-TEST_F(DeletingAnEntry, HeldByAnother_StaysAndNothingIsAsked) {
-  const std::int32_t id = store(record("A", book("Antiguo", false, 3), 1, "1"));
-  auto other = w.otherSession();
-  FDAPI::DefinicionBloqueo held;
-  held.strTabla = "Bautismo";
-  held.strRegistro = std::to_string(id);
-  held.conBd = &w.con();
-  other->DefinirBloqueo(held);
-  ASSERT_EQ(other->lngEfectuarBloqueos(), 0);
-  w.user.answerAnything(Answer::Ok);
-  eliminate(id);
-  ASSERT_EQ(w.user.messages().size(), 1u);  // the lock service's own
-  EXPECT_EQ(w.count("bautismo"), 1);
-  eliminarSolicitudBautismo(w.contexto, w.con(), id);
-  EXPECT_EQ(w.count("bautismo"), 1);
-}
-
-TEST_F(DeletingAnEntry, Request_GoesWithoutAQuestionAndNoBookIsTouched) {
-  const std::int32_t libro = book("Nuevo", true, 3);
-  w.con().Execute("UPDATE Libro_Bautismo SET FolioSiguiente = 7");
-  cBautismo request = record("A", 0, 0, "---");
-  request.Operacion = cCOperacion::ANADIRSOLICITUD;
-  request.CodInstitucionBautismo = 1;
-  eliminarSolicitudBautismo(w.contexto, w.con(), store(request));
-  for (const char* table :
-       {"bautismo", "bautismo_hijo", "bautismo_padres", "bautismo_madres", "bautismo_matrimonio"})
-    EXPECT_EQ(w.count(table), 0) << table;
-  EXPECT_EQ(column(libro, "FolioSiguiente", "Libro_Bautismo", "IDLibroBautismo"), "7");
-  EXPECT_SCRIPT_DONE(w.user);
 }
 
 }  // namespace fidaleon::tests

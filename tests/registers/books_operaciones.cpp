@@ -117,14 +117,6 @@ TEST_P(OperacionesLibro, bookHeldByAnother_isLeftAlone) {
   EXPECT_EQ(mundo.user.messages().size(), 4u) << "each time the question and who holds the book";
 }
 
-TEST_P(OperacionesLibro, afterEachWayOut_nothingStaysLocked) {
-  const std::int32_t id = libro(true);
-  mundo.user.expectMessage(PREGUNTA_CERRAR, Answer::Yes);
-  cerrar(id);
-  ocuparLibro(id);
-  EXPECT_SCRIPT_DONE(mundo.otherUser);
-}
-
 TEST_P(OperacionesLibro, bookThatIsGone_isToldAndNothingChanges) {
   libro(true);
   mundo.user.answerAnything(Answer::Yes);
