@@ -6,6 +6,7 @@
 #include "app/CopiesDialog.h"
 #include "store/Error.h"
 #include "store/Open.h"
+#include "store/SoundnessCheck.h"
 
 namespace fidaleon::app {
 namespace {
@@ -48,7 +49,7 @@ bool CopyReturn::to(const SafetyCopy& copy) {
 
 bool CopyReturn::isAlone() const {
   try {
-    const auto there = desk_.presence().others();
+    const auto there = presence_.others();
     if (!there.empty()) refuse(there);
     return there.empty();
   } catch (const locks::Unusable& e) {
@@ -67,8 +68,8 @@ void CopyReturn::refuse(const std::vector<locks::Holder>& there) const {
 
 std::optional<store::Restore> CopyReturn::prepared(const SafetyCopy& copy) const {
   try {
-    const forms::Hourglass hourglass(desk_.entorno().ui);
-    return std::optional<store::Restore>(std::in_place, copy.file, desk_.files().parish(),
+    const forms::Hourglass hourglass(ui_);
+    return std::optional<store::Restore>(std::in_place, copy.file, files_.parish(),
                                          store::parishSchema());
   } catch (const store::Error& e) {
     tell(whyUnusable(copy, e) + "\n\nLa parroquia no ha cambiado.", forms::MsgIcon::Critical);
@@ -77,17 +78,24 @@ std::optional<store::Restore> CopyReturn::prepared(const SafetyCopy& copy) const
 }
 
 bool CopyReturn::confirmed(const SafetyCopy& copy) const {
+  const QString kept =
+      parish_ != nullptr
+          ? QObject::tr(
+                "Lo que hay ahora se guardará antes en otra copia, «%1», por si hubiera que "
+                "deshacerlo.")
+                .arg(BEFORE)
+          : QObject::tr(
+                "El archivo que no se puede abrir se conservará con otro nombre, por si "
+                "alguien pudiera recuperar algo de él.");
   return askCarefully(
       over_, QObject::tr(TITLE), QObject::tr("¿Volver a la copia del %1?").arg(spoken(copy.moment)),
       QObject::tr("La parroquia quedará como estaba en ese momento. Se perderá todo lo que se ha "
-                  "inscrito, corregido o eliminado desde entonces en todos los puestos.\n\nLo que "
-                  "hay ahora se guardará antes en otra copia, «%1», por si hubiera que "
-                  "deshacerlo.")
-          .arg(BEFORE),
+                  "inscrito, corregido o eliminado desde entonces en todos los puestos.\n\n") +
+          kept,
       QObject::tr("&Volver a la copia"));
 }
 
-bool CopyReturn::replace(const SafetyCopy& copy, store::Restore& restore) const {
+bool CopyReturn::replace(const SafetyCopy& copy, store::Restore& restore) {
   try {
     for (bool keepPresent = true;; keepPresent = false) {
       std::string whyNotKept;
@@ -96,6 +104,7 @@ bool CopyReturn::replace(const SafetyCopy& copy, store::Restore& restore) const 
         refuse(there);
         return false;
       }
+      if (metDamage_) return false;
       if (whyNotKept.empty()) break;
       if (!askToGoOnWithoutCopy(over_, whyNotKept)) return false;
     }
@@ -112,19 +121,27 @@ bool CopyReturn::replace(const SafetyCopy& copy, store::Restore& restore) const 
     tell(e.what(), forms::MsgIcon::Critical);
     return false;
   }
-  tell("La parroquia ha vuelto a la copia del " + spoken(copy.moment).toStdString() + ".",
-       forms::MsgIcon::Information);
+  std::string said =
+      "La parroquia ha vuelto a la copia del " + spoken(copy.moment).toStdString() + ".";
+  if (!aside_.empty())
+    said += "\n\nEl archivo que había se ha guardado como «" + aside_.filename().string() + "».";
+  tell(said, forms::MsgIcon::Information);
   return true;
 }
 
 // Nothing is replaced when the present state should be kept and cannot be.
 std::vector<locks::Holder> CopyReturn::attempt(store::Restore& restore, bool keepPresent,
-                                               std::string& whyNotKept) const {
-  const forms::Hourglass hourglass(desk_.entorno().ui);
-  return desk_.presence().alone("está volviendo a una copia de la parroquia", [&] {
+                                               std::string& whyNotKept) {
+  const forms::Hourglass hourglass(ui_);
+  return presence_.alone("está volviendo a una copia de la parroquia", [&] {
+    if (parish_ == nullptr) {
+      aside_ = restore.takePlace();
+      return;
+    }
     try {
-      if (keepPresent) copies_.make(desk_.parish(), BEFORE, thisMoment());
+      if (keepPresent) copies_.make(*parish_, BEFORE, thisMoment());
     } catch (const store::Error& e) {
+      metDamage_ = store::isDamaged(files_.parish());
       whyNotKept = e.what();
       return;
     }
@@ -133,7 +150,7 @@ std::vector<locks::Holder> CopyReturn::attempt(store::Restore& restore, bool kee
 }
 
 void CopyReturn::tell(const std::string& text, forms::MsgIcon icon) const {
-  desk_.entorno().ui.msgBox(text, forms::MsgButtons::Ok, icon, TITLE);
+  ui_.msgBox(text, forms::MsgButtons::Ok, icon, TITLE);
 }
 
 }  // namespace fidaleon::app

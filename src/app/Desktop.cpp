@@ -8,10 +8,10 @@
 #include <map>
 
 #include "app/CarefulQuestion.h"
+#include "app/CopyReturn.h"
 #include "app/EditionQuestion.h"
 #include "app/FirstRunWizard.h"
 #include "app/LastWords.h"
-#include "app/MainWindow.h"
 #include "store/Open.h"
 
 namespace fidaleon::app {
@@ -59,8 +59,13 @@ Desktop::Desktop()
 int Desktop::run(const std::filesystem::path& asked) {
   ParishFiles files(std::filesystem::absolute(asked.empty() ? usualDirectory() : asked));
   if (!files.exists() && isFirstRun(files) && !createFirst(files)) return 0;
-  const std::unique_ptr<Desk> desk = open(files);
-  return desk ? work(*desk) : 0;
+  while (const std::unique_ptr<Desk> desk = open(files)) {
+    const Departure departure = work(*desk);
+    if (departure.to == Departure::To::End) break;
+    files = ParishFiles(departure.directory);
+    returning_ = departure.to == Departure::To::Copy;
+  }
+  return 0;
 }
 
 std::filesystem::path Desktop::usualDirectory() const {
@@ -99,6 +104,7 @@ bool Desktop::createFirst(ParishFiles& files) {
 }
 
 std::unique_ptr<Desk> Desktop::open(ParishFiles& files) {
+  if (std::exchange(returning_, false)) returnToCopy(files);
   while (true) {
     try {
       auto desk = std::make_unique<Desk>(files, user(), watch_, settings_, clock_);
@@ -124,6 +130,18 @@ void Desktop::remember(const ParishFiles& files) {
   }
 }
 
+void Desktop::returnToCopy(const ParishFiles& files) {
+  try {
+    const ParishFiles real = files.resolved();
+    const SafetyCopies copies(real.directory);
+    const Presence presence(real.directory, user(),
+                            text::toShort(clock_.today()) + " a las " + clock_.now());
+    CopyReturn(person_, real, nullptr, copies, presence, nullptr).run();
+  } catch (const locks::Unusable& e) {
+    QMessageBox::critical(nullptr, QObject::tr("Volver a una copia"), QString::fromUtf8(e.what()));
+  }
+}
+
 // False when the user gives up.
 bool Desktop::tryRemedy(const OpeningFault& fault, ParishFiles& files) {
   QMessageBox box(QMessageBox::Critical, QString::fromStdString(fault.title),
@@ -141,6 +159,9 @@ bool Desktop::tryRemedy(const OpeningFault& fault, ParishFiles& files) {
       return true;
     case Remedy::OtherIsOff:
       if (knowsThatNobodyIsThere()) takeOver(files);
+      return true;
+    case Remedy::ReturnToCopy:
+      returnToCopy(files);
       return true;
     case Remedy::NewParish:
       createFirst(files);
@@ -161,12 +182,13 @@ void Desktop::chooseFolder(ParishFiles& files) const {
   if (!chosen.isEmpty()) files = ParishFiles(chosen.toStdString());
 }
 
-int Desktop::work(Desk& desk) {
+Departure Desktop::work(Desk& desk) {
   const LastWords lastWords(watch_, desk.files().directory);
-  if (!settleEdition(desk) || !desk.setUp()) return 0;
+  if (!settleEdition(desk) || !desk.setUp()) return {};
   MainWindow window(desk);
   window.show();
-  return QApplication::exec();
+  QApplication::exec();
+  return window.departure();
 }
 
 }  // namespace fidaleon::app

@@ -5,6 +5,7 @@
 
 #include "app/Desk.h"
 #include "app/FormWatch.h"
+#include "app/MainWindow.h"
 #include "app/OpeningFault.h"
 #include "app/Preferences.h"
 #include "qt/QtUserInterface.h"
@@ -29,15 +30,17 @@ class Desktop {
   std::unique_ptr<Desk> open(ParishFiles& files);
   std::string user() const;
   void remember(const ParishFiles& files);
+  void returnToCopy(const ParishFiles& files);
   bool tryRemedy(const OpeningFault& fault, ParishFiles& files);
   void chooseFolder(ParishFiles& files) const;
-  int work(Desk& desk);
+  Departure work(Desk& desk);
 
   support::FileSettings settings_;
   support::SystemClock clock_;
   Preferences preferences_;
   qt::QtUserInterface person_;
   FormWatch watch_{person_};
+  bool returning_ = false;  // to a copy, before the parish is opened again
 };
 
 }  // namespace fidaleon::app

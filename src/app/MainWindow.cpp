@@ -43,7 +43,13 @@ const char* hintOf(NodeKind kind) {
 }  // namespace
 
 MainWindow::MainWindow(Desk& desk, QWidget* parent)
-    : QMainWindow(parent), desk_(desk), copies_(desk.files().directory), removals_(desk.parish()) {
+    : QMainWindow(parent),
+      desk_(desk),
+      copies_(desk.files().directory),
+      removals_(desk.parish()),
+      daily_(desk, [this] { sayDamaged(); }),
+      identity_(files::identityOf(desk.files().parish())) {
+  takeUpLog();
   setObjectName("MainWindow");
   setPalette(qt::legible(palette()));
   splitter_ = new QSplitter(this);
@@ -130,15 +136,20 @@ Choice MainWindow::choice() const {
 void MainWindow::run(const Command& command) {
   const Choice chosen = choice();
   if (busy_ || !applies(command, chosen)) return;
+  if (command.kinds != 0 && !isInPlace()) return;
+  daily_.giveUp();
   busy_ = true;
   try {
     carryOut(command, chosen);
   } catch (const store::Error& e) {
-    desk_.entorno().ui.msgBox(e.what(), forms::MsgButtons::Ok, forms::MsgIcon::Critical);
+    if (e.kind() == store::ErrorKind::NotADatabase) metDamage_ = isDamaged();
+    if (!metDamage_)
+      desk_.entorno().ui.msgBox(e.what(), forms::MsgButtons::Ok, forms::MsgIcon::Critical);
   } catch (const paper::Error& e) {
     desk_.entorno().ui.msgBox(e.what(), forms::MsgButtons::Ok, forms::MsgIcon::Critical);
   }
   busy_ = false;
+  if (std::exchange(metDamage_, false)) sayDamaged();
   if (command.refreshes && node_ == chosen.node) refresh(command, chosen.id);
   activateWindow();
 }

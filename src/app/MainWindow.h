@@ -9,10 +9,12 @@
 #include <vector>
 
 #include "app/Command.h"
+#include "app/DailyCheck.h"
 #include "app/Desk.h"
 #include "app/Precaution.h"
 #include "app/RowsFilter.h"
 #include "app/RowsModel.h"
+#include "files/Identity.h"
 #include "paper/Report.h"
 #include "store/RemovalWatch.h"
 
@@ -28,6 +30,13 @@ class QToolButton;
 class QTreeView;
 
 namespace fidaleon::app {
+
+/// What is to come when the window has closed.
+struct Departure {
+  enum class To { End, Parish, Copy };  // Copy: back to one, since the parish is damaged
+  To to = To::End;
+  std::filesystem::path directory;  // of the parish
+};
 
 /// The window of the program: the tree on the left, the rows of its node on the right, and the
 /// commands for both.
@@ -47,6 +56,9 @@ class MainWindow : public QMainWindow, private Workplace {
   QLineEdit& filter() { return *filter_; }
   /// Chooses the row of that key; false when the list does not show it.
   bool chooseRow(std::int32_t key);
+  /// Where the user goes from here.
+  const Departure& departure() const { return departure_; }
+  DailyCheck& dailyCheck() { return daily_; }
 
  protected:
   void closeEvent(QCloseEvent* event) override;
@@ -67,7 +79,8 @@ class MainWindow : public QMainWindow, private Workplace {
   void returnToCopy() override;
   void about() override;
   /// When the command that asked for it has ended: until then the window refuses to close.
-  void leave() override { QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection); }
+  void leave() override { depart({}); }
+  void depart(Departure departure);
 
   void buildTree();
   void buildList();
@@ -84,6 +97,13 @@ class MainWindow : public QMainWindow, private Workplace {
   /// Makes the copy that goes before the command. False when there can be none and the user would
   /// rather not go on.
   bool protect(const Command& command, const Choice& chosen, std::unique_ptr<Precaution>& copy);
+  /// Whether the parish is still under its name; the user has been told otherwise.
+  bool isInPlace();
+  bool isDamaged() const;
+  void takeUpLog();
+  /// Tells the user, with the way back.
+  void sayDamaged();
+  bool offerWayOut(const QString& what, const QString& meaning, const QString& way);
   void showParishName();
   void refresh(const Command& after, std::int32_t keep);
   void loadRows();
@@ -99,8 +119,12 @@ class MainWindow : public QMainWindow, private Workplace {
   void restoreWindow();
 
   Desk& desk_;
+  Departure departure_;
   SafetyCopies copies_;
   store::RemovalWatch removals_;
+  DailyCheck daily_;
+  std::optional<files::Identity> identity_;  // of the parish that is open
+  bool metDamage_ = false;
   const NodeView* node_ = nullptr;
   bool busy_ = false;
   QSplitter* splitter_ = nullptr;

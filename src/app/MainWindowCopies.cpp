@@ -7,6 +7,7 @@
 #include <QFileInfo>
 #include <QLabel>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QStatusBar>
 #include <QTableView>
 
@@ -16,6 +17,8 @@
 #include "app/MainWindow.h"
 #include "app/WindowSettings.h"
 #include "store/Open.h"
+#include "store/SoundnessCheck.h"
+#include "store/sqlite/NetworkDisk.h"
 #include "text/Utf8.h"
 
 namespace fidaleon::app {
@@ -64,6 +67,8 @@ bool MainWindow::protect(const Command& command, const Choice& chosen,
     copy = std::make_unique<Precaution>(copies_, parish(), nameFor(command, chosen), thisMoment());
     return true;
   } catch (const store::Error& e) {
+    metDamage_ = e.kind() == store::ErrorKind::NotADatabase && isDamaged();
+    if (metDamage_) return false;  // told when the command has ended
     QWidget* const dialog = QApplication::activeModalWidget();
     return askToGoOnWithoutCopy(dialog ? dialog : this, e.what());
   }
@@ -89,9 +94,71 @@ void MainWindow::backUp() {
 }
 
 void MainWindow::returnToCopy() {
-  if (!CopyReturn(desk_, copies_, this).run()) return;
+  CopyReturn back(desk_.entorno().ui, desk_.files(), &parish(), copies_, desk_.presence(), this);
+  const bool returned = back.run();
+  metDamage_ = back.metDamage();
+  if (!returned) return;
   setScope(0, {});
   showParishName();
+}
+
+void MainWindow::depart(Departure departure) {
+  departure_ = std::move(departure);
+  QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection);
+}
+
+// The folder may have been on the network. While it still is for others, it stays as it is.
+void MainWindow::takeUpLog() {
+  const std::filesystem::path file = desk_.files().parish();
+  if (store::usesWriteAheadLog(file)) return;
+  try {
+    desk_.presence().alone("está abriendo la parroquia", [&] { store::takeUpLog(file); });
+  } catch (const store::Error&) {
+  } catch (const locks::Unusable&) {
+  }
+}
+
+bool MainWindow::isDamaged() const {
+  return store::isDamaged(desk_.files().parish());
+}
+
+bool MainWindow::offerWayOut(const QString& what, const QString& meaning, const QString& way) {
+  QMessageBox box(QMessageBox::Critical, tr("La parroquia"), "<b>" + what.toHtmlEscaped() + "</b>",
+                  QMessageBox::NoButton, this);
+  box.setInformativeText(meaning);
+  const QPushButton* out = box.addButton(way, QMessageBox::AcceptRole);
+  box.addButton(tr("&Ahora no"), QMessageBox::RejectRole);
+  box.exec();
+  return box.clickedButton() == out;
+}
+
+void MainWindow::sayDamaged() {
+  const QString file = QString::fromStdString(desk_.files().parish().string());
+  if (offerWayOut(tr("La parroquia está estropeada."),
+                  tr("Una parte del archivo «%1» no se puede leer. No siga anotando: lo que se "
+                     "escriba ahora puede perderse.\n\nPuede volver a una copia. El archivo "
+                     "estropeado se conservará con otro nombre, por si alguien pudiera recuperar "
+                     "algo de él.")
+                      .arg(file),
+                  tr("&Volver a una copia…")))
+    depart({Departure::To::Copy, desk_.files().directory});
+}
+
+bool MainWindow::isInPlace() {
+  const auto now = files::identityOf(desk_.files().parish());
+  if (now && now == identity_) return true;
+  const QString file = QString::fromStdString(desk_.files().parish().string());
+  if (offerWayOut(
+          tr("La parroquia ya no está en su sitio."),
+          tr("El archivo «%1» se ha borrado, se ha movido o se ha cambiado por otro "
+             "mientras el programa lo tenía abierto. La lista muestra lo que había, pero no "
+             "se puede guardar nada.\n\nSi lo ha movido alguien, devuélvalo a su sitio y "
+             "siga. Si no, abra de nuevo la carpeta: se verá lo que hay en ella, y podrá "
+             "volver a una copia.")
+              .arg(file),
+          tr("A&brir de nuevo")))
+    depart({Departure::To::Parish, desk_.files().directory});
+  return false;
 }
 
 void MainWindow::showParishName() {

@@ -1,5 +1,6 @@
 #include "app/OpeningFault.h"
 
+#include "app/SafetyCopies.h"
 #include "locks/SharedDirectory.h"
 
 namespace fidaleon::app {
@@ -13,6 +14,14 @@ const std::vector<Remedy> ELSEWHERE{Remedy::OtherFolder, Remedy::Retry, Remedy::
 OpeningFault fault(const std::string& title, const std::string& text,
                    const std::vector<Remedy>& remedies) {
   return {title, text, remedies};
+}
+
+/// A parish that is gone may have left its copies.
+std::vector<Remedy> whenMissing(const ParishFiles& files) {
+  std::vector<Remedy> remedies{Remedy::Retry, Remedy::OtherFolder, Remedy::NewParish, Remedy::Exit};
+  if (!SafetyCopies(files.directory).list().empty())
+    remedies.insert(remedies.begin() + 1, Remedy::ReturnToCopy);
+  return remedies;
 }
 
 std::string named(const ParishFiles& files) {
@@ -29,7 +38,7 @@ OpeningFault describeFault(const store::Error& error, const ParishFiles& files) 
                    "No existe el fichero " + file +
                        ".\n\nSi está en una carpeta compartida o en un disco externo, compruebe "
                        "que está conectado y vuelva a intentarlo.",
-                   {Remedy::Retry, Remedy::OtherFolder, Remedy::NewParish, Remedy::Exit});
+                   whenMissing(files));
     case Kind::Busy:
       return fault("La parroquia está ocupada",
                    "Otro programa tiene abierto el fichero " + file +
@@ -37,12 +46,13 @@ OpeningFault describeFault(const store::Error& error, const ParishFiles& files) 
                        "a intentarlo. Los datos no han cambiado.",
                    WAIT);
     case Kind::NotADatabase:
-      return fault("El fichero no es una parroquia",
-                   "El fichero " + file +
-                       " está estropeado o no es una base de datos de Fidaleon. No se ha "
-                       "modificado.\n\nElija otra carpeta, o restaure en esta una copia de "
-                       "seguridad.",
-                   ELSEWHERE);
+      return fault(
+          "El fichero no es una parroquia",
+          "El fichero " + file +
+              " está estropeado o no es una base de datos de Fidaleon. No se ha "
+              "modificado.\n\nPuede volver a una copia de seguridad: el fichero estropeado se "
+              "conservará con otro nombre. O elija otra carpeta.",
+          {Remedy::ReturnToCopy, Remedy::OtherFolder, Remedy::Retry, Remedy::Exit});
     case Kind::NewerSchema:
       return fault("La parroquia es de una versión más nueva",
                    "El fichero " + file +
@@ -81,6 +91,8 @@ std::string remedyName(Remedy remedy) {
       return "&Reintentar";
     case Remedy::OtherIsOff:
       return "El otro equipo está &apagado…";
+    case Remedy::ReturnToCopy:
+      return "&Volver a una copia…";
     case Remedy::OtherFolder:
       return "&Otra carpeta…";
     case Remedy::NewParish:

@@ -1,7 +1,9 @@
 #include "store/Connection.h"
 
 #include <deque>
+#include <optional>
 
+#include "files/Identity.h"
 #include "store/Coercion.h"
 #include "store/Engine.h"
 #include "store/PlanCache.h"
@@ -21,7 +23,10 @@ constexpr std::int64_t kFetchedAtOnce = 2;
 
 struct Connection::Impl {
   Impl(std::unique_ptr<Engine> e, const Schema& s, std::string source)
-      : engine(std::move(e)), schema(s), dataSource(std::move(source)) {}
+      : engine(std::move(e)),
+        schema(s),
+        dataSource(std::move(source)),
+        identity(files::identityOf(dataSource)) {}
   ~Impl() {
     open.abandon();
     plans.clear();
@@ -34,10 +39,13 @@ struct Connection::Impl {
   /// After an error the engine may have undone the whole transaction by itself. What follows in
   /// it must not be stored as if nothing had happened.
   void requireTransaction() const;
+  /// Nothing is written, nor committed, into a file that no longer bears its name.
+  void requireInPlace() const;
 
   std::unique_ptr<Engine> engine;
   const Schema& schema;
   std::string dataSource;
+  std::optional<files::Identity> identity;  // none where the data are in no file
   OpenRecordsets open;
   PlanCache plans{kPlans};
   LiteralLifter lifter;
@@ -74,6 +82,7 @@ Recordset Connection::Impl::query(const std::shared_ptr<Plan>& plan) {
 
 void Connection::Impl::change(Plan& plan) {
   requireTransaction();
+  if (depth == 0) requireInPlace();
   open.drain();
   auto statement = plan.lend(*engine);
   try {
@@ -94,6 +103,15 @@ void Connection::Impl::requireTransaction() const {
   }
 }
 
+void Connection::Impl::requireInPlace() const {
+  if (!identity || files::identityOf(dataSource) == identity) return;
+  throw Error(ErrorKind::Missing,
+              "El archivo «" + dataSource +
+                  "» ya no está en su sitio: se ha borrado, se ha movido o se ha cambiado por otro "
+                  "mientras el programa lo tenía abierto. No se ha guardado nada.\n\nDeje abierto "
+                  "lo que tiene escrito, devuelva el archivo a su sitio y vuelva a aceptar.");
+}
+
 Connection::Connection(std::unique_ptr<Engine> engine, const Schema& schema, std::string dataSource)
     : impl_(std::make_unique<Impl>(std::move(engine), schema, std::move(dataSource))) {}
 
@@ -109,6 +127,7 @@ Recordset Connection::Execute(std::string_view sql) {
 
 void Connection::BeginTrans() {
   impl_->requireTransaction();
+  if (impl_->depth == 0) impl_->requireInPlace();
   impl_->open.drain();
   impl_->engine->begin(impl_->depth);
   ++impl_->depth;
@@ -117,6 +136,7 @@ void Connection::BeginTrans() {
 void Connection::CommitTrans() {
   if (impl_->depth == 0) throw Error(ErrorKind::Misuse, "No hay cambios pendientes que confirmar.");
   impl_->requireTransaction();
+  if (impl_->depth == 1) impl_->requireInPlace();
   impl_->open.drain();
   impl_->engine->commit(impl_->depth - 1);
   --impl_->depth;

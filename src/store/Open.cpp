@@ -81,10 +81,10 @@ void requireClosed(const fs::path& file) {
 }
 
 void requireCopied(const fs::path& file, const Schema& schema,
-                   const std::vector<std::int64_t>& counts, void (SqliteEngine::*test)()) {
+                   const std::vector<std::int64_t>& counts, bool wholly) {
   SqliteEngine copy(file, SqliteEngine::Access::Existing);
   Installer(copy, schema).version();
-  if (test != nullptr) (copy.*test)();
+  if (wholly) copy.requireSound();
   if (rowCounts(copy, schema) != counts)
     throw Error(ErrorKind::NotADatabase, "La copia no tiene lo mismo que el original.");
 }
@@ -155,6 +155,12 @@ std::unique_ptr<Connection> passingDatabase(const Schema& schema) {
   return unnamed(SqliteEngine::Unnamed::Disk, schema, {});
 }
 
+void takeUpLog(const fs::path& file) {
+  if (isNetworkDisk(file) || usesWriteAheadLog(file)) return;
+  SqliteEngine(file, SqliteEngine::Access::Existing)
+      .run("PRAGMA journal_mode = DELETE; PRAGMA journal_mode = WAL;");
+}
+
 void backupDatabase(Connection& from, const fs::path& to) {
   std::error_code ignored;
   if (fs::equivalent(to, from.Properties("DATA SOURCE").Value, ignored))
@@ -169,9 +175,15 @@ void backupDatabase(Connection& from, const fs::path& to) {
     counts = rowCounts(engine, from.schema());
     engine.backup(draft.path());
   }
-  requireCopied(draft.path(), from.schema(), counts, &SqliteEngine::requireSound);
+  try {
+    requireCopied(draft.path(), from.schema(), counts, true);
+  } catch (const Error& error) {
+    if (error.kind() != ErrorKind::NotADatabase) throw;
+    throw Error(ErrorKind::NotADatabase, "La copia que se acaba de hacer en «" + to.string() +
+                                             "» no se puede leer bien, y no se ha guardado.");
+  }
   draft.accept();
-  requireCopied(to, from.schema(), counts, nullptr);
+  requireCopied(to, from.schema(), counts, false);
 }
 
 }  // namespace fidaleon::store

@@ -30,6 +30,9 @@ using Filling = std::function<void(Connection&)>;
 /// What an earlier one of the name has left beside it is put aside, not played into it.
 std::unique_ptr<Connection> createDatabase(const std::filesystem::path& file, const Schema& schema,
                                            const Filling& fill = {});
+/// Goes back to the log, for a file on a disk of this machine that once lay elsewhere. Nobody on
+/// another machine may have it open. Throws Busy while somebody uses it.
+void takeUpLog(const std::filesystem::path& file);
 /// An unnamed database in memory with tables and seed rows, for tests and measurements.
 std::unique_ptr<Connection> memoryDatabase(const Schema& schema,
                                            const std::string& dataSource = "/tmp/fidaleon.mdb");

@@ -7,6 +7,7 @@
 #include <system_error>
 #include <vector>
 
+#include "files/Durable.h"
 #include "files/PrivateFile.h"
 #include "store/Companions.h"
 #include "store/FileFault.h"
@@ -95,6 +96,19 @@ void Restore::replace() {
 void Restore::run() {
   replace();
   SqliteEngine database(database_, SqliteEngine::Access::Existing);
+  requireContent(database);
+}
+
+fs::path Restore::takePlace() {
+  const bool leavesNothing = !files::isThere(database_) && companionsOf(database_).empty();
+  const fs::path aside = leavesNothing ? fs::path() : putAside(database_, ".estropeada");
+  draft_.accept();
+  SqliteEngine database(database_, SqliteEngine::Access::Existing);
+  requireContent(database);
+  return aside;
+}
+
+void Restore::requireContent(SqliteEngine& database) {
   database.requireSound();
   if (rowCounts(database, schema_) != counts_)
     throw Error(ErrorKind::NotADatabase, "Lo que ha quedado en «" + database_.string() +

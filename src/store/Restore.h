@@ -15,6 +15,7 @@ class Unconfirmed : public Error {
  public:
   explicit Unconfirmed(const Error& why);
 };
+class SqliteEngine;
 
 /// A saved copy of a database made ready to be returned to: read into a passing file beside the
 /// database, brought up to the version of the schema, and checked. The copy itself is only read.
@@ -32,9 +33,15 @@ class Restore {
   /// Throws Unconfirmed when the failure came after everything was replaced.
   void run();
 
+  /// For a database that can be opened no more, or is gone: the copy takes its name. What bore the
+  /// name, and what lay beside it, is put aside: gives the name it has now, empty when there was
+  /// nothing. Nobody may have the database open. Throws Connection, ReadOnly, DiskFull.
+  std::filesystem::path takePlace();
+
  private:
   void replace();
   bool isReplaced(const std::vector<std::int64_t>& before) const;
+  void requireContent(SqliteEngine& database);
 
   std::filesystem::path database_;
   const Schema& schema_;

@@ -9,10 +9,12 @@
 #include <QTest>
 #include <QTimer>
 #include <algorithm>
+#include <fstream>
 
 #include "app/Insert.h"
 #include "app/Parish.h"
 #include "app/SafetyCopies.h"
+#include "store/Engine.h"
 #include "store/Open.h"
 
 namespace fidaleon::app {
@@ -31,11 +33,11 @@ inline std::vector<std::string> namesIn(const fs::path& directory) {
   return names;
 }
 
-/// Presses a button of the next message box; none: the Enter key.
+/// Presses a button of the next message box, when it is there; none: the Enter key.
 inline void answerNext(const QString& button, QString* text = nullptr) {
   QTimer::singleShot(0, [button, text] {
     auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-    ASSERT_TRUE(box);
+    if (!box) return answerNext(button, text);
     if (text) *text = box->text() + "\n" + box->informativeText();
     if (button.isEmpty()) return QTest::keyClick(box, Qt::Key_Return);
     for (QAbstractButton* b : box->buttons())
@@ -77,6 +79,18 @@ class Copies : public ParishTest {
     Insert("Cargo").text("Nombre", name).into(desk->parish());
   }
   std::int64_t offices() { return count("SELECT COUNT(*) FROM Cargo"); }
+  /// Of a parish that is closed: some pages in the middle of what it holds.
+  void damage() {
+    const auto size = fs::file_size(files().parish());
+    std::fstream file(files().parish(), std::ios::in | std::ios::out | std::ios::binary);
+    file.seekp(static_cast<std::streamoff>(size - 4096 * 3)) << std::string(4096 * 2, 'Z');
+  }
+  void fillOffices() {
+    desk->parish().BeginTrans();
+    for (int i = 0; i < 300; ++i) addOffice(std::string(200, 'x'));
+    desk->parish().CommitTrans();
+    desk->parish().engine().run("PRAGMA wal_checkpoint(TRUNCATE)");
+  }
   std::int64_t officesIn(const fs::path& file) {
     return store::openDatabase(file, store::parishSchema())
         ->Execute("SELECT COUNT(*) FROM Cargo")

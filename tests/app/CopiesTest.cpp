@@ -9,6 +9,8 @@
 #include "app/CopyRetention.h"
 #include "app/MainWindow.h"
 #include "app/Precaution.h"
+#include "app/WindowSettings.h"
+#include "registers/baptism/frmPartidaBautismo.h"
 #include "store/Engine.h"
 #include "store/FailingEngine.h"
 
@@ -175,16 +177,9 @@ TEST_F(Copies, thatAreNotTheParish_areFoundOut) {
 }
 
 TEST_F(Copies, ofADamagedParish_areRefused) {
-  desk->parish().BeginTrans();
-  for (int i = 0; i < 300; ++i) addOffice(std::string(200, 'x'));
-  desk->parish().CommitTrans();
-  desk->parish().engine().run("PRAGMA wal_checkpoint(TRUNCATE)");
+  fillOffices();
   desk.reset();
-  const auto size = fs::file_size(files().parish());
-  std::fstream file(files().parish(), std::ios::in | std::ios::out | std::ios::binary);
-  file.seekp(static_cast<std::streamoff>(size - 4096 * 3));
-  file << std::string(4096 * 2, 'Z') << std::flush;
-  file.close();
+  damage();
   open();
   EXPECT_THROW(make(), store::Error);
   EXPECT_THAT(namesIn(folder()), IsEmpty());
@@ -261,6 +256,40 @@ TEST_F(Copies, beforeACommand_stayOnlyWhenItChangedSomething) {
   EXPECT_EQ(after([&] { addOffice("Sacristán"); }), 1U);
 }
 
+/// A parish that is damaged and opens all the same.
+class DamagedWindow : public Copies {
+ protected:
+  void SetUp() override {
+    Copies::SetUp();
+    fillOffices();
+    make();
+    desk.reset();
+    damage();
+    open();
+    window = std::make_unique<MainWindow>(*desk);
+    window->show();
+    window->showNode("Provincias");
+    answerNext("&Volver a una copia…", &said);
+  }
+  void TearDown() override {
+    EXPECT_TRUE(said.contains("La parroquia está estropeada.")) << said.toStdString();
+    EXPECT_EQ(window->departure().to, Departure::To::Copy);
+    EXPECT_EQ(copies.list().size(), 1U) << "of what was whole";
+  }
+  std::unique_ptr<MainWindow> window;
+  QString said;
+};
+
+TEST_F(DamagedWindow, isNoticedBeforeACopyAndToldWithTheWayBack) {
+  window->action("eliminar")->trigger();
+}
+
+TEST_F(DamagedWindow, isNoticedWhenNobodyIsAtTheKeyboard) {
+  window->dailyCheck().begin(std::chrono::seconds(10));
+  window->dailyCheck().begin(std::chrono::minutes(10));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return !said.isEmpty(); }));
+}
+
 /// A parish with an open window.
 class CopiesWindow : public Copies {
  protected:
@@ -302,6 +331,55 @@ TEST_F(CopiesWindow, withoutACopy_goesOnOnlyWhenToldTo) {
   deleteRequest(forms::Answer::Yes);
   EXPECT_EQ(rows(), before - 1);
   EXPECT_THAT(user.problems(), IsEmpty());
+}
+
+TEST_F(CopiesWindow, aSoundParish_isLookedThroughOnceADay) {
+  const auto checked = [&] { return readWindowSetting(*desk, "comprobada"); };
+  window->dailyCheck().begin(std::chrono::minutes(10));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return !checked().empty(); }));
+  EXPECT_THAT(checked(), HasSubstr("20260520"));
+}
+
+TEST_F(CopiesWindow, whenTheParishIsGone_nothingIsBegunAndItCanBeOpenedAgain) {
+  const fs::path aside = directory() / "aparte";
+  fs::rename(files().parish(), aside);
+  QString text;
+  answerNext("&Ahora no", &text);
+  window->action("eliminar-solicitud")->trigger();
+  EXPECT_TRUE(text.contains("ya no está en su sitio")) << text.toStdString();
+  EXPECT_EQ(window->departure().to, Departure::To::End);
+  answerNext("A&brir de nuevo");
+  window->action("eliminar-solicitud")->trigger();
+  EXPECT_EQ(window->departure().to, Departure::To::Parish);
+  fs::rename(aside, files().parish());
+  deleteRequest(forms::Answer::Yes);
+  EXPECT_EQ(rows(), before - 1) << "it is back";
+}
+
+TEST_F(CopiesWindow, anEntryAcceptedIntoAParishThatIsGone_staysOpenWithWhatWasTyped) {
+  const fs::path aside = directory() / "aparte";
+  const auto entries = [&] { return count("SELECT COUNT(*) FROM Bautismo_Hijo"); };
+  const std::int64_t all = entries();
+  const std::string name = "txtBautismo(" + std::to_string(frmPartidaBautismo::NombreHijo) + ")";
+  user.answerAnything(forms::Answer::Yes);
+  user.expectForm("frmPartidaBautismo", [&](forms::FormDriver& d) {
+    d.choose("cboBautismo(22)", "San Blas");
+    auto& books = d.get<forms::ComboBox>("cboBautismo(23)");
+    if (books.listIndex() < 0) d.choose("cboBautismo(23)", books.list(0));
+    d.tab("mstBautismo", 1);
+    d.type(name, "Íñigo");
+    d.type("txtBautismo(" + std::to_string(frmPartidaBautismo::PrimerApellidoHijo) + ")", "Vela");
+    fs::rename(files().parish(), aside);
+    d.click("cmdBautismo(0)");
+    EXPECT_EQ(d.text(name), "Íñigo");
+    EXPECT_EQ(entries(), all);
+    EXPECT_THAT(user.messages().back().text, HasSubstr("devuelva el archivo a su sitio"));
+    fs::rename(aside, files().parish());
+    d.click("cmdBautismo(0)");
+    EXPECT_EQ(entries(), all + 1);
+    d.close();
+  });
+  desk->nucleo().NuevaPartida(desk->parish(), desk->config(), "PartidasBautismo");
 }
 
 /// Opens the properties of the old book and takes one of its entries out, or changes nothing but

@@ -146,6 +146,11 @@ TEST_F(Opening, missing_offersANewParish) {
   EXPECT_EQ(failure(), ErrorKind::Missing);
   EXPECT_TRUE(offers(Remedy::NewParish));
   EXPECT_THAT(fault.text, ::testing::HasSubstr(files().parish().string()));
+  EXPECT_FALSE(offers(Remedy::ReturnToCopy));
+  std::filesystem::create_directory(directory() / "copias");
+  write(directory() / "copias" / "a mano.copia", "x");
+  failure();
+  EXPECT_TRUE(offers(Remedy::ReturnToCopy)) << "it has left a copy";
 }
 
 TEST_F(Opening, whileAnotherHoldsTheFile_saysSoAndCanBeTriedAgain) {
@@ -181,6 +186,7 @@ TEST_F(Opening, whileAnotherHoldsTheFile_saysSoAndCanBeTriedAgain) {
 TEST_F(Opening, noDatabase_isNotTouched) {
   write(files().parish(), std::string(4096, 'x'));
   EXPECT_EQ(failure(), ErrorKind::NotADatabase);
+  EXPECT_TRUE(offers(Remedy::ReturnToCopy));
   EXPECT_TRUE(offers(Remedy::OtherFolder));
   EXPECT_FALSE(offers(Remedy::NewParish));
   EXPECT_EQ(std::filesystem::file_size(files().parish()), 4096u);

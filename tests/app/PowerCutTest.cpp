@@ -1,6 +1,8 @@
 // The power fails while something is stored: what was told as stored is there, the rest is there as
 // a whole or not at all.
 
+#include <fstream>
+
 #include "app/Insert.h"
 #include "app/Parish.h"
 #include "app/SimulatedDisk.h"
@@ -8,6 +10,7 @@
 #include "store/Open.h"
 #include "store/Restore.h"
 #include "store/Transaction.h"
+#include "store/sqlite/NetworkDisk.h"
 #include "store/sqlite/SqliteEngine.h"
 #include "support/FileSettings.h"
 
@@ -136,6 +139,22 @@ const Case CASES[] = {
        return n == 3 || (n == 20 && told == 0);
      },
      80},
+    {"ReturnOfADamagedOne",
+     [](const fs::path& folder) {
+       made(folder / "copia", 3);
+       std::ofstream(folder / "ensayo") << "estropeada";
+       std::ofstream(folder / "ensayo-wal") << "restos";
+     },
+     [](DiskRecorder& disk) {
+       store::Restore(disk.folder / "copia", disk.folder / "ensayo", smallSchema()).takePlace();
+       disk.told();
+     },
+     [](const fs::path& folder, int told) {
+       const fs::path file = folder / "ensayo";
+       if (told == 0 && (!fs::exists(file) || fs::file_size(file) < 20)) return true;
+       return transactionsIn(file) == 3;
+     },
+     50},
     {"CopyOverAnOlderOne",
      [](const fs::path& folder) {
        made(folder / "copia", 2);
@@ -164,6 +183,22 @@ const Case CASES[] = {
      },
      50},
 };
+
+// Two desks in one folder: to one the disk is its own, to the other it is far away.
+TEST_F(ParishTest, logTakenUpUnderADeskFarAway_stopsItInsteadOfBeingShared) {
+  const fs::path file = made(directory() / "ensayo", 1);
+  std::unique_ptr<store::Connection> far;
+  {
+    const tests::NetworkShare share;
+    far = store::openDatabase(file, smallSchema());
+  }
+  addRows(*far);
+  EXPECT_FALSE(store::usesWriteAheadLog(file));
+  store::takeUpLog(file);
+  EXPECT_TRUE(store::usesWriteAheadLog(file));
+  EXPECT_THROW(addRows(*far), store::Error);
+  EXPECT_EQ(transactionsIn(file), 2);
+}
 
 class PowerCut : public ::testing::TestWithParam<Case> {
  protected:

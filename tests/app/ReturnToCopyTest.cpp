@@ -34,7 +34,13 @@ class Returning : public Copies {
     user.answerAnything(forms::Answer::Ok);
   }
   bool returnTo(const fs::path& file) {
-    return CopyReturn(*desk, copies, nullptr).to({file, NOON, 1, "Eliminar", 1});
+    const ParishFiles parish = files();
+    const auto alone =
+        desk ? nullptr
+             : std::make_unique<Presence>(directory(), "Secretaría", "20/05/2026 a las 10:30");
+    return CopyReturn(user, parish, desk ? &desk->parish() : nullptr, copies,
+                      desk ? desk->presence() : *alone, nullptr)
+        .to({file, NOON, 1, "Eliminar", 1});
   }
   std::string told() const { return user.messages().empty() ? "" : user.messages().back().text; }
   std::vector<std::string> rest() const {
@@ -164,6 +170,27 @@ TEST_F(Returning, toWhatIsNoSoundCopy_isRefusedAndChangesNothing) {
   EXPECT_EQ(offices(), 2);
   EXPECT_EQ(copies.list().size(), 1U);
   EXPECT_THAT(rest(), IsEmpty());
+}
+
+TEST_F(Returning, whenTheParishCannotBeOpened_putsItAsideWithWhatLiesBesideIt) {
+  desk.reset();
+  for (const bool gone : {false, true}) {
+    std::ofstream(files().parish().string() + "-wal") << "restos";
+    std::ofstream(files().parish()) << "estropeada";
+    if (gone) fs::remove(files().parish());
+    QString text;
+    answerNext("&Volver a la copia", &text);
+    EXPECT_TRUE(returnTo(copy));
+    EXPECT_TRUE(text.contains("se conservará con otro nombre")) << text.toStdString();
+    EXPECT_FALSE(fs::exists(files().parish().string() + "-wal"));
+    const std::string aside = "parroquia.fidaleon.estropeada-" + std::string(gone ? "2" : "1");
+    EXPECT_THAT(told(), HasSubstr(aside));
+    EXPECT_EQ(fs::exists(directory() / aside), !gone);
+    EXPECT_TRUE(fs::exists(directory() / (aside + "-wal")));
+    open();
+    EXPECT_EQ(offices(), 1);
+    desk.reset();
+  }
 }
 
 TEST_F(Returning, withoutRoomForTheOtherCopy_asksAndReturns) {

@@ -274,6 +274,42 @@ TEST_F(Files, heldByAnotherProcess_isBusyAndNothingIsWritten) {
   EXPECT_EQ(count(*connection), 1);
 }
 
+TEST_F(Files, goneOrReplacedWhileOpen_acceptsNothingUntilItIsBack) {
+  const auto connection = createDatabase(file, parishSchema());
+  const fs::path aside = folder / "aparte";
+  const std::vector<std::function<void()>> losses{[&] { fs::rename(file, aside); },
+                                                  [&] {
+                                                    fs::rename(file, aside);
+                                                    std::ofstream(file) << "otro";
+                                                  }};
+  std::int64_t stored = 0;
+  for (const auto& lose : losses) {
+    lose();
+    EXPECT_EQ(kindOf([&] { connection->Execute(kInsert); }), ErrorKind::Missing);
+    EXPECT_EQ(kindOf([&] { connection->BeginTrans(); }), ErrorKind::Missing);
+    EXPECT_NE(message.find("vuelva a aceptar"), std::string::npos);
+    fs::rename(aside, file);
+    connection->BeginTrans();
+    connection->Execute(kInsert);
+    lose();
+    EXPECT_EQ(kindOf([&] { connection->CommitTrans(); }), ErrorKind::Missing);
+    connection->RollbackTrans();
+    fs::rename(aside, file);
+    connection->Execute(kInsert);
+    EXPECT_EQ(count(*connection), ++stored);
+  }
+}
+
+TEST_F(Files, journalOfANetworkDisk_givesWayToTheLogOnADiskOfTheMachine) {
+  const auto connection = createDatabase(file, parishSchema());
+  connection->engine().run("PRAGMA journal_mode = DELETE");
+  EXPECT_FALSE(usesWriteAheadLog(file));
+  takeUpLog(file);
+  EXPECT_TRUE(usesWriteAheadLog(file));
+  connection->Execute(kInsert);
+  EXPECT_EQ(count(*openDatabase(file, parishSchema())), 1);
+}
+
 TEST_F(Files, writerKilled_leavesADatabaseThatOpensWithAllThatWasStored) {
   createDatabase(file, parishSchema());
   int stored[2];

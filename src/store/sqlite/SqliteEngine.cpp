@@ -1,6 +1,7 @@
 #include "store/sqlite/SqliteEngine.h"
 
 #include "store/sqlite/NetworkDisk.h"
+#include "store/sqlite/NetworkVfs.h"
 #include "store/sqlite/SqliteErrors.h"
 #include "store/sqlite/SqliteFunctions.h"
 #include "store/sqlite/SqliteStatement.h"
@@ -30,10 +31,12 @@ void distrust(sqlite3* db) {
 
 SqliteEngine::SqliteEngine(const std::filesystem::path& file, Access access) {
   const bool create = access == Access::Create;
-  open(file.string(), create ? SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE : SQLITE_OPEN_READWRITE);
+  const bool far = isNetworkDisk(file);
+  open(file.string(), create ? SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE : SQLITE_OPEN_READWRITE,
+       far ? networkVfs() : nullptr);
   try {
     distrust(db_);
-    if (!create && isNetworkDisk(file) && usesWriteAheadLog(file)) leaveWriteAheadLog();
+    if (!create && far && usesWriteAheadLog(file)) leaveWriteAheadLog();
     // Reads the file, so that one that is no database is found out here.
     run("PRAGMA synchronous = FULL; SELECT count(*) FROM sqlite_schema;");
     // A journal that is taken away may come back with a power cut, and undo what was told as
@@ -53,9 +56,9 @@ SqliteEngine::~SqliteEngine() {
   sqlite3_close_v2(db_);
 }
 
-void SqliteEngine::open(const std::string& name, int flags) {
-  const int code = sqlite3_open_v2(name.c_str(), &db_,
-                                   flags | SQLITE_OPEN_EXRESCODE | SQLITE_OPEN_NOMUTEX, nullptr);
+void SqliteEngine::open(const std::string& name, int flags, const char* vfs) {
+  const int code =
+      sqlite3_open_v2(name.c_str(), &db_, flags | SQLITE_OPEN_EXRESCODE | SQLITE_OPEN_NOMUTEX, vfs);
   if (code != SQLITE_OK) {
     const Error error = sqliteError(code, db_);
     sqlite3_close_v2(db_);
@@ -105,8 +108,8 @@ bool SqliteEngine::inTransaction() const {
   return sqlite3_get_autocommit(db_) == 0;
 }
 
-void SqliteEngine::requireSound() {
-  SqliteStatement statement(db_, "PRAGMA integrity_check");
+void SqliteEngine::requireSound(bool quickly) {
+  SqliteStatement statement(db_, quickly ? "PRAGMA quick_check" : "PRAGMA integrity_check");
   RowStore rows(1);
   while (statement.step()) statement.read(rows);
   if (rows.rows() != 1 || rows.at(0, 0).text() != "ok") throw sqliteError(SQLITE_CORRUPT, nullptr);

@@ -33,14 +33,17 @@ class SqliteEngine : public Engine {
 
   /// Replaces what this database holds by what `from` holds.
   void copyFrom(SqliteEngine& from);
-  /// Reads the whole file; throws NotADatabase when it is damaged.
-  void requireSound();
+  /// Reads the whole file; throws NotADatabase when it is damaged. Quickly: without comparing what
+  /// indexes and tables say.
+  void requireSound(bool quickly = false);
+  /// From another thread: what it is doing throws Other.
+  void interrupt() { sqlite3_interrupt(db_); }
   /// Needs the file for itself: throws Busy when anybody else has it open with its log.
   void leaveWriteAheadLog();
   sqlite3* handle() { return db_; }
 
  private:
-  void open(const std::string& name, int flags);
+  void open(const std::string& name, int flags, const char* vfs = nullptr);
   std::string journal();
 
   sqlite3* db_ = nullptr;

@@ -33,7 +33,8 @@ Meaning meaningOf(int code, int systemError) {
       return {ErrorKind::NotADatabase, "El archivo no es una base de datos de este programa."};
     case SQLITE_CORRUPT:
       return {ErrorKind::NotADatabase,
-              "El archivo de la base de datos está dañado. Recupere la última copia de seguridad."};
+              "El archivo de la base de datos está dañado. No siga anotando: vuelva a una copia de "
+              "seguridad (Archivo, Volver a una copia)."};
     case SQLITE_CANTOPEN:
       return {ErrorKind::Connection, "No se puede abrir el archivo de la base de datos."};
     case SQLITE_IOERR:
