@@ -13,7 +13,7 @@ constexpr std::size_t kNoRow = static_cast<std::size_t>(-1);
 constexpr qsizetype kSeam = 60;  // of the words before a value, what a join looks at
 
 QString letterOf(const QString& text) {
-  const QString first = text.trimmed().left(1).toUpper();
+  const QString first = text.trimmed().normalized(QString::NormalizationForm_C).left(1).toUpper();
   if (first == QStringLiteral("Ñ")) return first;
   return first.normalized(QString::NormalizationForm_D).left(1);
 }

@@ -1,40 +1,12 @@
 #include "paper/Rows.h"
 
 #include <map>
-#include <sstream>
 
+#include "documents/BautismoColumns.h"
 #include "text/Utf8.h"
 
 namespace fidaleon::paper::test {
 namespace {
-
-std::vector<std::string> words(const std::string& list) {
-  std::vector<std::string> out;
-  std::istringstream in(list);
-  for (std::string w; std::getline(in, w, ',');) out.push_back(text::trim(w));
-  return out;
-}
-
-void add(std::vector<std::string>& to, const std::string& list) {
-  for (const std::string& w : words(list)) to.push_back(w);
-}
-
-const char* const kChild =
-    "Folio, Numero, PrimerApellidoHijo, SegundoApellidoHijo, NombreHijo, FechaBautismoCorta, "
-    "ParroquiaBaut, PoblacionBaut, ProvinciaBaut, Diocesis, FechaBautismoLarga, Ministro";
-const char* const kGender = "[Al niño/A la niña], [Nacido/Nacida]";
-const char* const kFamily =
-    "FechaNacCorta, FechaNacLarga, HoraNac, DireccionNac, PoblacionNac, ProvinciaNac, "
-    "NombrePadre, PrimerApellidoPadre, SegundoApellidoPadre, PoblacionPadre, ProvinciaPadre, "
-    "NombreMadre, PrimerApellidoMadre, SegundoApellidoMadre, PoblacionMadre, ProvinciaMadre, "
-    "DireccionPadres, PoblacionPadres, ProvinciaPadres, ParroquiaMatr, PoblacionMatr, "
-    "ProvinciaMatr, FechaMatrCorta, FechaMatrLarga, AbueloPaterno, PoblacionAbueloPaterno, "
-    "AbuelaPaterna, PoblacionAbuelaPaterna, AbueloMaterno, PoblacionAbueloMaterno, "
-    "AbuelaMaterna, PoblacionAbuelaMaterna, Padrino, Madrina, ProvinciaAbueloPaterno, "
-    "ProvinciaAbuelaPaterna, ProvinciaAbueloMaterno, ProvinciaAbuelaMaterna";
-constexpr std::size_t kGrandparentProvinces = 4;  // the last ones of kFamily
-const char* const kPlace =
-    "InstitucionNombre, InstitucionDiocesis, InstitucionPoblacion, InstitucionProvincia";
 
 bool endsIn(const std::string& s, const std::string& tail) {
   return s.size() >= tail.size() && s.compare(s.size() - tail.size(), tail.size(), tail) == 0;
@@ -189,68 +161,28 @@ void adapt(const std::string& operation, Values& row) {
 }  // namespace
 
 std::vector<std::string> columnsOf(const std::string& operation) {
-  std::vector<std::string> out;
-  const bool menorca = endsIn(operation, "Menorca");
-  if (operation.find("Volante") != std::string::npos) {
-    add(out,
-        "Libro, Folio, Numero, PrimerApellidoHijo, SegundoApellidoHijo, NombreHijo, "
-        "FechaNacCorta, FechaNacLarga, FechaBautismoCorta, FechaBautismoLarga, "
-        "[Al niño/A la niña], [Nacido/Nacida], NombrePadre, PrimerApellidoPadre, "
-        "SegundoApellidoPadre, NombreMadre, PrimerApellidoMadre, SegundoApellidoMadre, "
-        "InstitucionNombre, InstitucionTipo, InstitucionDiocesis, InstitucionDomicilio, "
-        "InstitucionPoblacion, InstitucionProvincia, InstitucionCP, NotasMarginales, "
-        "FechaSistemaLarga, FechaSistemaCorta, FechaSisteLargMeno, FechaBauLargaMeno, "
-        "FechaNacLargaMeno");
-    return out;
-  }
-  if (operation.find("Indice") != std::string::npos) {
-    add(out,
-        "InstitucionNombre, InstitucionTipo, Libro, Folio, Numero, PrimerApellidoHijo, "
-        "SegundoApellidoHijo, NombreHijo, Año, Letra");
-    return out;
-  }
-  add(out, kChild);
-  add(out, kFamily);
-  if (operation.rfind("InformeLibro", 0) == 0) {
-    add(out, "Libro");
-    add(out, kGender);
-    return out;
-  }
-  if (operation.rfind("ImprimirDuplicadas", 0) == 0) {
-    out.resize(out.size() - kGrandparentProvinces);
-    add(out,
-        "Libro, InstitucionParroco, InstitucionNombre, InstitucionTipo, InstitucionPoblacion, "
-        "InstitucionProvincia, Año, FechaSistemaLarga, FechaCreacionLibro");
-    return out;
-  }
-  add(out, "NotasMarginales");
-  if (operation.find("Solicitud") == std::string::npos) add(out, "Libro");
-  const bool plainCertificate = operation.rfind("InformeCertificadoPartida", 0) == 0;
-  if (!plainCertificate) add(out, kGender);
-  if (operation.rfind("InformePartida", 0) == 0) return out;
-  add(out, kPlace);
-  add(out, "FechaSistemaCorta");
-  if (!endsIn(operation, "Santiago")) add(out, "InstitucionTipo");
-  if (operation.rfind("InformeCertificado", 0) == 0) add(out, "InstitucionEncargado");
-  if (operation == "InformeCertificadoLiteralPartidaBautismoMenorca")
-    add(out,
-        "FechaSisteLargMeno, FechaNacLargaMeno, DiocesisMatrimonio, ProfesionPadrino, "
-        "NaturalPadrino, EstatPadrino, ProfesionMadrina, NaturalMadrina, EstatMadrina, "
-        "MadreProfesion, PadreProfesion");
-  else
-    add(out, "FechaSistemaLarga");
-  if (plainCertificate) add(out, "Sexo");
-  if (plainCertificate && menorca)
-    add(out, "FechaNacLargaMeno, FechaSisteLargMeno, FechaBauLargaMeno");
-  if (endsIn(operation, "Santiago"))
-    add(out,
-        "EdadPadrino, ParroquiaDomicilioPadrino, EdadMadrina, ParroquiaDomicilioMadrina, "
-        "PadreParroquiaBaut, PadreProfesion, PadreProvinciaParrBaut, MadreParroquiaBaut, "
-        "MadreProfesion, MadreProvinciaParrBaut, AbueloPatParroquiaBaut, "
-        "AbueloPatProvinciaParrBaut, AbuelaPatParroquiaBaut, AbuelaPatProvinciaParrBaut, "
-        "AbueloMatParroquiaBaut, AbueloMatProvinciaParrBaut, AbuelaMatParroquiaBaut, "
-        "AbuelaMatProvinciaParrBaut, TelefonoPadres");
-  return out;
+  using namespace documents;
+  static const std::map<std::string, Columns> lists{
+      {"InformeCertificadoPartidaBautismo", bautismoCertificate()},
+      {"InformeCertificadoPartidaBautismoMenorca", bautismoCertificateMenorca()},
+      {"InformeCertificadoLiteralPartidaBautismo", bautismoLiteralCertificate()},
+      {"InformeCertificadoLiteralPartidaBautismoMenorca", bautismoLiteralCertificateMenorca()},
+      {"InformePartidaBautismo", bautismoEntryWithNotes(Source::PaddedNotes)},
+      {"InformePartidaBautismoMenorca", bautismoEntryWithNotes(Source::Stored)},
+      {"InformeVolanteBautismo", bautismoVolante()},
+      {"InformeVolanteBautismoMenorca", bautismoVolante()},
+      {"InformeSolicitudPartidaBautismoDatos", bautismoRequest()},
+      {"InformeSolicitudPartidaBautismoDatosMenorca", bautismoRequest()},
+      {"InformeSolicitudPartidaBautismoDatosSantiago", bautismoRequestSantiago()},
+      {"InformeLibroBautismo", bautismoBook()},
+      {"InformeLibroBautismoMenorca", bautismoBook()},
+      {"InformeIndiceLibroBautismo", bautismoIndex()},
+      {"InformeIndiceLibroBautismoMenorca", bautismoIndex()},
+      {"ImprimirDuplicadasBautismo", bautismoDuplicate()},
+  };
+  std::vector<std::string> names;
+  for (const Column& column : lists.at(operation)) names.emplace_back(column.name);
+  return names;
 }
 
 Values fullRow(const std::string& operation) {
