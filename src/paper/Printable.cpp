@@ -13,7 +13,7 @@ constexpr char32_t kEndOfLatin = 0x250;
 
 bool isPlain(QChar c) {
   const char16_t sign = c.unicode();
-  return sign >= 0x20 && sign < kEndOfLatin && (sign < 0x7f || sign > 0xad);
+  return sign >= 0x20 && sign < kEndOfLatin && (sign < 0x7f || (sign >= 0xa0 && sign != 0xad));
 }
 
 /// Marks without a shape of their own: directions, joiners, the variants of a picture.
