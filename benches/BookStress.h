@@ -66,17 +66,16 @@ class Secretary : public forms::ScriptedUser {
     problems_.clear();
   }
 
-  forms::Answer msgBox(const std::string& text, forms::MsgButtons buttons, forms::MsgIcon icon,
-                       const std::string&) override {
-    if (icon == forms::MsgIcon::Critical) {
+  forms::Answer showMessage(const forms::Message& message) override {
+    if (message.icon == forms::MsgIcon::Critical) {
       ++errors;
-      std::fprintf(stderr, "%s\n", text.c_str());
+      std::fprintf(stderr, "%s\n", message.text.c_str());
     }
-    if (text == "¿Desea dar de alta nuevas partidas?") {
+    if (message.text == "¿Desea dar de alta nuevas partidas?") {
       accepted_ = true;
       return forms::Answer::No;
     }
-    return buttons == forms::MsgButtons::Ok ? forms::Answer::Ok : forms::Answer::Yes;
+    return message.buttons == forms::MsgButtons::Ok ? forms::Answer::Ok : forms::Answer::Yes;
   }
 
  private:

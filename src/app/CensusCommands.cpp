@@ -2,6 +2,7 @@
 
 #include "app/CommandParts.h"
 #include "app/Documents.h"
+#include "census/common/Eliminacion.h"
 
 namespace fidaleon::app {
 namespace {
@@ -44,7 +45,8 @@ bool agreesToEmptyOthers(Workplace& w, std::int32_t person) {
                     "Esta persona es también colaboradora. Si la elimina del padrón se vaciarán la "
                     "comunión, la confirmación, el matrimonio y la defunción de TODAS las "
                     "personas.\n\nPara que nadie más pierda nada, elimínela primero en "
-                    "Colaboradores y después en Padrón.\n\n¿Desea seguir de todos modos?");
+                    "Colaboradores y después en Padrón.\n\n¿Desea seguir de todos modos?",
+                    {}, forms::Stake::Loss, nombrePersona(w.parish(), person));
 }
 
 void deletePerson(Workplace& w, const Choice& c) {

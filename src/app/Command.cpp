@@ -4,6 +4,7 @@
 #include "app/CensusCommands.h"
 #include "app/CommandParts.h"
 #include "app/Documents.h"
+#include "registers/baptism/EliminarPartida.h"
 
 namespace fidaleon::app {
 namespace {
@@ -55,7 +56,8 @@ void openRequest(Workplace& w, const Choice& c) {
 }
 // The operation itself does not ask, and what it deletes cannot be brought back.
 void deleteRequest(Workplace& w, const Choice& c) {
-  if (forms::ask(w.entorno().ui, "¿Está seguro que desea eliminar la solicitud?"))
+  if (forms::ask(w.entorno().ui, "¿Está seguro que desea eliminar la solicitud?", {},
+                 forms::Stake::Loss, nombrePartidaBautismo(w.parish(), c.id)))
     w.nucleo().EliminarSolicitud(w.parish(), c.id, w.config(), nodeName(c));
 }
 void moveRequests(Workplace& w, const Choice& c) {

@@ -48,9 +48,8 @@ void FormWatch::showModal(forms::Form& form) {
   behind_.showModal(form);
 }
 
-forms::Answer FormWatch::msgBox(const std::string& text, forms::MsgButtons buttons,
-                                forms::MsgIcon icon, const std::string& title) {
-  return behind_.msgBox(text, buttons, icon, title);
+forms::Answer FormWatch::showMessage(const forms::Message& message) {
+  return behind_.showMessage(message);
 }
 
 std::optional<std::string> FormWatch::inputBox(const std::string& prompt, const std::string& title,

@@ -16,8 +16,7 @@ class FormWatch : public forms::UserInterface {
   explicit FormWatch(forms::UserInterface& behind) : behind_(behind) {}
 
   void showModal(forms::Form& form) override;
-  forms::Answer msgBox(const std::string& text, forms::MsgButtons buttons, forms::MsgIcon icon,
-                       const std::string& title = {}) override;
+  forms::Answer showMessage(const forms::Message& message) override;
   std::optional<std::string> inputBox(const std::string& prompt, const std::string& title,
                                       const std::string& initial = {}) override;
   void beep() override { behind_.beep(); }

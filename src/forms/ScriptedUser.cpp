@@ -70,15 +70,14 @@ void ScriptedUser::showModal(Form& form) {
   form.Unload();
 }
 
-Answer ScriptedUser::msgBox(const std::string& text, MsgButtons buttons, MsgIcon icon,
-                            const std::string& title) {
-  messages_.push_back({text, buttons, icon, title});
-  if (const auto expected = take(Expected::Kind::Message, text)) {
+Answer ScriptedUser::showMessage(const Message& message) {
+  messages_.push_back(message);
+  if (const auto expected = take(Expected::Kind::Message, message.text)) {
     if (expected->meanwhile) expected->meanwhile();
     return expected->answer;
   }
   if (fallback_) return *fallback_;
-  switch (buttons) {
+  switch (message.buttons) {
     case MsgButtons::Ok:
       return Answer::Ok;
     case MsgButtons::YesNo:

@@ -79,14 +79,8 @@ class ScriptedUser : public UserInterface {
   /// What went against the script, with what was expected and never came last. Empty is good.
   std::vector<std::string> problems() const;
   int beeps() const { return beeps_; }
-  /// Every message shown, with its kind: for logs and for tests of icons and titles.
-  struct Shown {
-    std::string text;
-    MsgButtons buttons;
-    MsgIcon icon;
-    std::string title;
-  };
-  const std::vector<Shown>& messages() const { return messages_; }
+  /// Every message shown, with all that stood in it.
+  const std::vector<Message>& messages() const { return messages_; }
   int hourglassDepth() const { return hourglass_; }
   std::vector<std::string> progressLog;
   bool printer = true;
@@ -94,8 +88,7 @@ class ScriptedUser : public UserInterface {
   std::function<void(Form&)> onForm;
 
   void showModal(Form& form) override;
-  Answer msgBox(const std::string& text, MsgButtons buttons, MsgIcon icon,
-                const std::string& title) override;
+  Answer showMessage(const Message& message) override;
   std::optional<std::string> inputBox(const std::string& prompt, const std::string& title,
                                       const std::string& initial) override;
   void beep() override { ++beeps_; }
@@ -121,7 +114,7 @@ class ScriptedUser : public UserInterface {
 
   std::deque<Expected> script_;
   std::vector<std::string> problems_;
-  std::vector<Shown> messages_;
+  std::vector<Message> messages_;
   std::optional<Answer> fallback_;
   std::string clipboard_;
   int beeps_ = 0;

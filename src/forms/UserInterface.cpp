@@ -2,14 +2,20 @@
 
 namespace fidaleon::forms {
 
-void warn(UserInterface& ui, const std::string& text, MsgIcon icon) {
+void warn(UserInterface& ui, const std::string& text, MsgIcon icon, const std::string& why) {
   ui.beep();
-  ui.msgBox(text, MsgButtons::Ok, icon);
+  ui.showMessage({text, MsgButtons::Ok, icon, {}, why, Answer::None});
 }
 
-bool ask(UserInterface& ui, const std::string& text, const std::string& title) {
+bool ask(UserInterface& ui, const std::string& text, const std::string& title, Stake stake,
+         const std::string& below) {
   ui.beep();
-  return ui.msgBox(text, MsgButtons::YesNo, MsgIcon::Question, title) == Answer::Yes;
+  Message question{text, MsgButtons::YesNo, MsgIcon::Question, title, below, Answer::None};
+  if (stake == Stake::Loss) {
+    question.icon = MsgIcon::Exclamation;
+    question.byEnter = Answer::No;
+  }
+  return ui.showMessage(question) == Answer::Yes;
 }
 
 }  // namespace fidaleon::forms

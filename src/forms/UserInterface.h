@@ -13,6 +13,16 @@ enum class Answer { None, Ok, Yes, No, Cancel };
 enum class MsgButtons { Ok, OkCancel, YesNo, YesNoCancel };
 enum class MsgIcon { None, Information, Exclamation, Question, Critical };
 
+/// What a message box holds.
+struct Message {
+  std::string text;
+  MsgButtons buttons = MsgButtons::Ok;
+  MsgIcon icon = MsgIcon::None;
+  std::string title;              // empty: the application's
+  std::string below;              // what is meant, or why, in lines of its own; may be empty
+  Answer byEnter = Answer::None;  // what Enter answers; None: the first button
+};
+
 /// Thrown by progressMove when the user has asked to stop. The work ends there as it would on an
 /// error, and what it had written so far is taken back.
 class Cancelled : public std::exception {
@@ -30,9 +40,11 @@ class UserInterface {
 
   /// Shows the form and returns when it has been unloaded.
   virtual void showModal(Form& form) = 0;
-  /// An empty title is the application's.
-  virtual Answer msgBox(const std::string& text, MsgButtons buttons, MsgIcon icon,
-                        const std::string& title = {}) = 0;
+  virtual Answer showMessage(const Message& message) = 0;
+  Answer msgBox(const std::string& text, MsgButtons buttons, MsgIcon icon,
+                const std::string& title = {}) {
+    return showMessage({text, buttons, icon, title, {}, Answer::None});
+  }
   /// Empty when cancelled.
   virtual std::optional<std::string> inputBox(const std::string& prompt, const std::string& title,
                                               const std::string& initial = {}) = 0;
@@ -65,9 +77,18 @@ class Hourglass {
   UserInterface& ui_;
 };
 
-/// A beep and a message with one button, as every refusal of the dialogs is told.
-void warn(UserInterface& ui, const std::string& text, MsgIcon icon = MsgIcon::Exclamation);
-/// A beep and a question; true for Yes.
-bool ask(UserInterface& ui, const std::string& text, const std::string& title = {});
+/// What hangs on a question.
+enum class Stake {
+  Little,  // Enter says yes
+  Loss,    // what a yes does is not undone, or is likely a slip: a warning sign, and Enter says no
+};
+
+/// A beep and a message with one button, as every refusal of the dialogs is told. `why` stands in
+/// lines of its own below the text.
+void warn(UserInterface& ui, const std::string& text, MsgIcon icon = MsgIcon::Exclamation,
+          const std::string& why = {});
+/// A beep and a question; true for Yes. `below` names under the question what it is about.
+bool ask(UserInterface& ui, const std::string& text, const std::string& title = {},
+         Stake stake = Stake::Little, const std::string& below = {});
 
 }  // namespace fidaleon::forms

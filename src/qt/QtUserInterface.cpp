@@ -107,21 +107,24 @@ void QtUserInterface::showModal(forms::Form& form) {
   form.Unload();  // when the program ends with the dialog open
 }
 
-Answer QtUserInterface::msgBox(const std::string& text, MsgButtons buttons, MsgIcon icon,
-                               const std::string& title) {
+Answer QtUserInterface::showMessage(const forms::Message& message) {
   const HourglassPause pause(hourglass_);
   QMessageBox box(windowAtWork());
-  box.setIcon(iconOf(icon));
-  box.setWindowTitle(titleOr(title));
+  box.setIcon(iconOf(message.icon));
+  box.setWindowTitle(titleOr(message.title));
   box.setTextFormat(Qt::PlainText);
-  box.setText(toQt(text));
+  box.setText(toQt(message.text));
+  // Its label would take a name with "<" in it for markup.
+  if (!message.below.empty())
+    box.setInformativeText("<span>" + toQt(message.below).toHtmlEscaped().replace("\n", "<br>") +
+                           "</span>");
   std::vector<std::pair<QAbstractButton*, Answer>> made;
-  for (const Choice& choice : choices(buttons)) {
+  for (const Choice& choice : choices(message.buttons)) {
     // One role for all keeps them in the order in which they are always given.
     auto* button = box.addButton(QString::fromUtf8(choice.caption), QMessageBox::ActionRole);
     made.push_back({button, choice.answer});
+    if (made.size() == 1 || choice.answer == message.byEnter) box.setDefaultButton(button);
   }
-  box.setDefaultButton(static_cast<QPushButton*>(made.front().first));
   box.setEscapeButton(made.back().first);
   box.exec();
   for (const auto& [button, answer] : made)

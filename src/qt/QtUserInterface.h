@@ -21,8 +21,7 @@ class QtUserInterface : public forms::UserInterface {
   ~QtUserInterface() override;
 
   void showModal(forms::Form& form) override;
-  forms::Answer msgBox(const std::string& text, forms::MsgButtons buttons, forms::MsgIcon icon,
-                       const std::string& title) override;
+  forms::Answer showMessage(const forms::Message& message) override;
   std::optional<std::string> inputBox(const std::string& prompt, const std::string& title,
                                       const std::string& initial) override;
   void beep() override;

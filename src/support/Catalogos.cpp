@@ -1,5 +1,7 @@
 #include "support/Catalogos.h"
 
+#include <set>
+
 #include "core/contract/EnSacramento.h"
 #include "store/schema/Schema.h"
 #include "text/Utf8.h"
@@ -16,13 +18,12 @@ struct Catalogue {
   const char* question;
 };
 
-/// Calls `visit` for every column of the database that refers to that table, until it says yes.
+/// Calls `visit` for every column of the database that refers to that table.
 template <class Visit>
-bool anyReferenceTo(FDAPI::Conexion& connection, const char* catalogue, const Visit& visit) {
+void forEachReferenceTo(FDAPI::Conexion& connection, const char* catalogue, const Visit& visit) {
   for (const store::Table& table : connection.schema().tables())
     for (const store::Column& column : table.columns())
-      if (text::equalsNoCase(column.refersTo, catalogue) && visit(table, column)) return true;
-  return false;
+      if (text::equalsNoCase(column.refersTo, catalogue)) visit(table, column);
 }
 
 std::string whereHolds(const store::Table& table, const store::Column& column, std::int32_t id) {
@@ -31,18 +32,46 @@ std::string whereHolds(const store::Table& table, const store::Column& column, s
          "]=" + (store::isText(column.type) ? entreComillas(key) : key);
 }
 
-bool inUse(FDAPI::Conexion& connection, const Catalogue& what, std::int32_t id) {
-  return anyReferenceTo(connection, what.table, [&](const auto& table, const auto& column) {
-    return !column.belongs &&
-           !connection.Execute("SELECT TOP 1 [" + column.name + "]" + whereHolds(table, column, id))
-                .EOF_();
+/// What a table holds, for the user.
+std::string contents(const std::string& table) {
+  static constexpr std::pair<const char*, const char*> BY_BEGINNING[] = {
+      {"Libro", "libros"},
+      {"Bautismo", "bautismos"},
+      {"Confirmacion", "confirmaciones"},
+      {"Matrimonio", "matrimonios"},
+      {"Defuncion", "defunciones"},
+      {"Padron", "padrón"},
+      {"Actividad", "actividades"},
+      {"Municipio", "municipios"},
+      {"Institucion", "instituciones"}};
+  for (const auto& [beginning, name] : BY_BEGINNING)
+    if (table.starts_with(beginning)) return name;
+  return table;
+}
+
+/// What names the row, with commas between; empty when nothing does.
+std::string usedIn(FDAPI::Conexion& connection, const Catalogue& what, std::int32_t id) {
+  std::set<std::string> places;
+  forEachReferenceTo(connection, what.table, [&](const auto& table, const auto& column) {
+    if (!column.belongs &&
+        !connection.Execute("SELECT TOP 1 [" + column.name + "]" + whereHolds(table, column, id))
+             .EOF_())
+      places.insert(contents(table.name()));
   });
+  std::string list;
+  for (const std::string& place : places) list += (list.empty() ? "" : ", ") + place;
+  return list;
+}
+
+std::string nameOf(FDAPI::Conexion& connection, const Catalogue& what, std::int32_t id) {
+  const store::Recordset row = connection.Execute(std::string("SELECT Nombre FROM ") + what.table +
+                                                  " WHERE " + what.key + "=" + std::to_string(id));
+  return row.EOF_() ? std::string() : row.text("Nombre");
 }
 
 void removeWithItsParts(FDAPI::Conexion& connection, const Catalogue& what, std::int32_t id) {
-  anyReferenceTo(connection, what.table, [&](const auto& table, const auto& column) {
+  forEachReferenceTo(connection, what.table, [&](const auto& table, const auto& column) {
     if (column.belongs) connection.Execute("DELETE *" + whereHolds(table, column, id));
-    return false;
   });
   connection.Execute(std::string("DELETE * FROM ") + what.table + " WHERE " + what.key + "=" +
                      std::to_string(id));
@@ -51,11 +80,14 @@ void removeWithItsParts(FDAPI::Conexion& connection, const Catalogue& what, std:
 bool eliminar(FDAPI::cFidaleon& fidaleon, forms::UserInterface& ui, FDAPI::Conexion& connection,
               std::int32_t id, const Catalogue& what) {
   try {
-    if (inUse(connection, what, id)) {
-      forms::warn(ui, what.used);
+    const std::string name = nameOf(connection, what, id);
+    const std::string places = usedIn(connection, what, id);
+    if (!places.empty()) {
+      forms::warn(ui, what.used, forms::MsgIcon::Exclamation,
+                  name + "\nAparece en: " + places + ".");
       return false;
     }
-    if (!forms::ask(ui, what.question)) return false;
+    if (!forms::ask(ui, what.question, {}, forms::Stake::Loss, name)) return false;
     connection.BeginTrans();
     try {
       removeWithItsParts(connection, what, id);

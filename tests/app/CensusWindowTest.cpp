@@ -32,6 +32,9 @@ class CensusWindow : public ParishTest {
   void TearDown() override { EXPECT_THAT(user.problems(), ::testing::IsEmpty()); }
   void give(const char* command) { window->action(command)->trigger(); }
   int shown() const { return window->table().model()->rowCount(); }
+  std::string cell(int column) const {
+    return window->table().currentIndex().siblingAtColumn(column).data().toString().toStdString();
+  }
   std::int64_t roles(std::int32_t person) {
     return count("SELECT COUNT(*) FROM Padron_TipoPersona WHERE CodPadron=" +
                  std::to_string(person));
@@ -141,14 +144,41 @@ TEST_F(CensusWindow, aCollaboratorTakenFromTheCensus_isAskedForWhatOthersLose) {
   EXPECT_EQ(communions(), 0);
 }
 
-TEST_F(CensusWindow, deletionDeclined_leavesTheRowChosen) {
-  open("Actividades");
-  const Choice before = window->choice();
-  ASSERT_NE(before.id, 0);
+TEST_F(CensusWindow, whatIsDeletedIsNamed_andEnterLeavesIt) {
+  create();
+  window = std::make_unique<MainWindow>(*desk);
   user.answerAnything(forms::Answer::No);
-  give("eliminar-actividad");
-  EXPECT_EQ(user.messages().size(), 1u);
-  EXPECT_EQ(window->choice().id, before.id);
+  const std::pair<const char*, const char*> commands[] = {
+      {"PartidasBautismo", "eliminar-partida"},
+      {"SolicitudesBautismo", "eliminar-solicitud"},
+      {"LibrosBautismo", "eliminar-libro"},
+      {"LibrosBautismo", "cerrar-libro"},
+      {"Padrón", "eliminar-empadronado"},
+      {"Colaboradores", "eliminar-colaborador"},
+      {"Actividades", "eliminar-actividad"},
+      {"Cargos", "eliminar-cargo"},
+      {"Instituciones", "eliminar"},
+      {"Provincias", "eliminar"},
+      {"Municipios", "eliminar"},
+      {"Tareas", "eliminar"}};
+  for (const auto& [node, command] : commands) {
+    window->showNode(node);
+    window->table().selectRow(window->table().model()->rowCount() - 1);
+    const Choice before = window->choice();
+    give(command);
+    ASSERT_FALSE(user.messages().empty()) << command;
+    const forms::Message& asked = user.messages().back();
+    const bool refused = asked.buttons == forms::MsgButtons::Ok;
+    EXPECT_EQ(asked.byEnter, refused ? forms::Answer::None : forms::Answer::No) << asked.text;
+    EXPECT_EQ(asked.icon, forms::MsgIcon::Exclamation) << asked.text;
+    std::string row;
+    for (int column = 0; column < window->table().model()->columnCount(); ++column)
+      row += cell(column) + "\n";
+    const std::string named = asked.below.substr(0, asked.below.find_first_of(" ,:\n"));
+    EXPECT_FALSE(named.empty()) << asked.text;
+    EXPECT_TRUE(refused || row.find(named) != std::string::npos) << asked.below << "\n" << row;
+    EXPECT_EQ(window->choice().id, before.id) << command;
+  }
 }
 
 TEST_F(CensusWindow, emptyLists_takeTheirFirstRow) {

@@ -6,10 +6,12 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QInputDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QProgressBar>
 #include <QTest>
+#include <QTextDocumentFragment>
 #include <QTimer>
 
 #include "qt/FormDialog.h"
@@ -66,8 +68,17 @@ TEST(QtUserInterface, Messages_HaveSpanishButtonsInOrderAndEscapeIsTheSafeOne) {
     whenAsked([](QWidget& box) { QTest::keyClick(&box, Qt::Key_Escape); });
     EXPECT_EQ(ui.msgBox("¿?", buttons, MsgIcon::None, {}), answer);
   }
-  whenAsked([](QWidget& box) { QTest::keyClick(&box, Qt::Key_Return); });
-  EXPECT_EQ(ui.msgBox("¿?", MsgButtons::YesNo, MsgIcon::Question, {}), Answer::Yes);
+  const auto enter = [](QWidget& box) { QTest::keyClick(&box, Qt::Key_Return); };
+  whenAsked(enter);
+  EXPECT_TRUE(forms::ask(ui, "¿?"));
+  whenAsked([&](QWidget& box) {
+    EXPECT_EQ(dynamic_cast<QMessageBox&>(box).icon(), QMessageBox::Warning);
+    const auto labels = box.findChildren<QLabel*>("qt_msgbox_informativelabel");
+    ASSERT_EQ(labels.size(), 1);
+    EXPECT_EQ(QTextDocumentFragment::fromHtml(labels[0]->text()).toPlainText(), "Ana <b>\nGil");
+    enter(box);
+  });
+  EXPECT_FALSE(forms::ask(ui, "¿Eliminar?", {}, forms::Stake::Loss, "Ana <b>\nGil"));
 }
 
 TEST(QtUserInterface, InputBox_GivesTheTextOrNothingWhenCancelled) {

@@ -1,5 +1,7 @@
 #include "census/common/Eliminacion.h"
 
+#include "core/contract/NombreYApellidos.h"
+
 namespace fidaleon {
 
 Eliminacion::Eliminacion(Contexto& contexto, FDAPI::Conexion& conexion, const std::string& mensaje,
@@ -33,14 +35,29 @@ void Eliminacion::terminar() {
 }
 
 bool preguntarEliminacion(Contexto& contexto, const std::string& articulo,
-                          const std::string& nombre) {
+                          const std::string& nombre, const std::string& cual) {
   const bool una = articulo == "una";
-  return forms::ask(contexto.ui(), "ADVERTENCIA:\nSe propone eliminar " + articulo + " " + nombre +
-                                       ". Si lo hace, perderá todos los  \ndatos que " +
-                                       (una ? "esta" : "este") +
-                                       " tenga relacionados.\n\n¿Está seguro de querer eliminar " +
-                                       (una ? "la " : "el ") + nombre +
-                                       " junto con todos sus \ndatos relacionados?");
+  const std::string pregunta =
+      "ADVERTENCIA:\nSe propone eliminar " + articulo + " " + nombre +
+      ". Si lo hace, perderá todos los  \ndatos que " + (una ? "esta" : "este") +
+      " tenga relacionados.\n\n¿Está seguro de querer eliminar " + (una ? "la " : "el ") + nombre +
+      " junto con todos sus \ndatos relacionados?";
+  return forms::ask(contexto.ui(), pregunta, {}, forms::Stake::Loss, cual);
+}
+
+std::string nombrePersona(FDAPI::Conexion& conexion, std::int32_t id) {
+  const store::Recordset fila = conexion.Execute(
+      "SELECT Nombre, PrimerApellido, SegundoApellido, DNI FROM Padron WHERE IDPadron=" +
+      std::to_string(id));
+  if (fila.EOF_()) return {};
+  const std::string dni = text::trim(fila.text("DNI"));
+  return nombreYApellidos(fila) + (dni.empty() ? "" : ", NIF " + dni);
+}
+
+std::string nombreDe(FDAPI::Conexion& conexion, const char* tabla, std::int32_t id) {
+  const store::Recordset fila = conexion.Execute(std::string("SELECT Nombre FROM ") + tabla +
+                                                 " WHERE ID" + tabla + "=" + std::to_string(id));
+  return fila.EOF_() ? std::string() : fila.text("Nombre");
 }
 
 }  // namespace fidaleon

@@ -34,8 +34,13 @@ class Eliminacion {
 };
 
 /// "ADVERTENCIA" and what would be lost; true for Yes. `articulo` is "un" or "una", `nombre`
-/// "Empadronado" and its like.
+/// "Empadronado" and its like, `cual` what tells this one from others.
 bool preguntarEliminacion(Contexto& contexto, const std::string& articulo,
-                          const std::string& nombre);
+                          const std::string& nombre, const std::string& cual);
+
+/// Name, surnames and NIF; empty when the person has gone.
+std::string nombrePersona(FDAPI::Conexion& conexion, std::int32_t id);
+/// Of an activity or office, by its table; empty when it has gone.
+std::string nombreDe(FDAPI::Conexion& conexion, const char* tabla, std::int32_t id);
 
 }  // namespace fidaleon

@@ -2,6 +2,7 @@
 
 #include "core/contract/EnSacramento.h"
 #include "core/contract/Guard.h"
+#include "core/contract/NombreYApellidos.h"
 #include "core/contract/SesionBloqueos.h"
 #include "registers/baptism/FilasBautismo.h"
 
@@ -13,14 +14,19 @@ namespace {
 
 constexpr const char* NO_SE_PUEDE = "¡Esta partida no se puede eliminar!";
 
-bool esLaUltima(Conexion& conexion, std::int32_t lngID, const Sacramento& sacramento,
-                const std::string& libro) {
+/// Why the entry may not go; empty when it may. `libro` stands on its book, which is new.
+std::string motivoParaNoEliminar(Conexion& conexion, std::int32_t lngID,
+                                 const Sacramento& sacramento, const std::string& codLibro,
+                                 const store::Recordset& libro) {
+  if (libro.flag("Cerrado"))
+    return "El libro está cerrado: de un libro cerrado no se elimina ninguna partida.";
   store::Recordset partidas = conexion.Execute(
-      enSacramento(sacramento, "SELECT IDBautismo FROM Bautismo WHERE CodLibro = ") + libro +
+      enSacramento(sacramento, "SELECT IDBautismo FROM Bautismo WHERE CodLibro = ") + codLibro +
       " ORDER BY Folio, Val(Numero)");
-  if (partidas.EOF_()) return false;
-  partidas.MoveLast();
-  return partidas.integer(sacramento.clavePartida) == lngID;
+  if (!partidas.EOF_()) partidas.MoveLast();
+  if (!partidas.EOF_() && partidas.integer(sacramento.clavePartida) == lngID) return {};
+  return "De un libro nuevo solo se puede eliminar la última partida. Esta puede anularse: "
+         "conservará su folio y su número.";
 }
 
 bool sePuedeEliminar(Contexto& contexto, Conexion& conBaseDatos, std::int32_t lngID,
@@ -35,8 +41,9 @@ bool sePuedeEliminar(Contexto& contexto, Conexion& conBaseDatos, std::int32_t ln
       codLibro);
   if (libro.EOF_()) return false;
   if (!libro.flag("Nuevo")) return true;
-  if (!libro.flag("Cerrado") && esLaUltima(conBaseDatos, lngID, sacramento, codLibro)) return true;
-  forms::warn(contexto.ui(), NO_SE_PUEDE);
+  const std::string motivo = motivoParaNoEliminar(conBaseDatos, lngID, sacramento, codLibro, libro);
+  if (motivo.empty()) return true;
+  forms::warn(contexto.ui(), NO_SE_PUEDE, forms::MsgIcon::Exclamation, motivo);
   return false;
 }
 
@@ -49,6 +56,20 @@ bool existeYEstaLibre(Contexto& contexto, Conexion& conexion, std::int32_t lngID
 }
 
 }  // namespace
+
+std::string nombrePartidaBautismo(Conexion& conBaseDatos, std::int32_t lngID) {
+  const std::string id = std::to_string(lngID);
+  const store::Recordset hijo = conBaseDatos.Execute(
+      "SELECT Nombre, PrimerApellido, SegundoApellido FROM Bautismo_Hijo WHERE CodBautismo=" + id);
+  const std::string nombre = hijo.EOF_() ? std::string() : nombreYApellidos(hijo);
+  const store::Recordset sitio = conBaseDatos.Execute(
+      "SELECT Libro_Bautismo.Nombre, Bautismo.Folio, Bautismo.Numero FROM Bautismo INNER JOIN "
+      "Libro_Bautismo ON Libro_Bautismo.IDLibroBautismo=Bautismo.CodLibro WHERE IDBautismo=" +
+      id);
+  if (sitio.EOF_()) return nombre;
+  return nombre + "\n" + sitio.text("Nombre") + ", folio " + sitio.text("Folio") + ", número " +
+         sitio.text("Numero");
+}
 
 void borrarFilasBautismo(Conexion& conBaseDatos, const store::Recordset& bautismo) {
   const std::string id = bautismo.text("idbautismo");
@@ -66,7 +87,9 @@ void borrarPartidaBautismo(Contexto& contexto, Conexion& conBaseDatos, std::int3
                            const PermisoEliminar& permiso) {
   guarded(contexto, "cNucleo", "BorrarPartidaBautismo", [&] {
     SesionBloqueos bloqueos(contexto, conBaseDatos);
-    if (!forms::ask(contexto.ui(), "¿Está seguro que desea eliminar la partida?")) return;
+    if (!forms::ask(contexto.ui(), "¿Está seguro que desea eliminar la partida?", {},
+                    forms::Stake::Loss, nombrePartidaBautismo(conBaseDatos, lngID)))
+      return;
     const std::string id = std::to_string(lngID);
     bloqueos.registroPorClave("Bautismo", "IdBautismo", lngID);
     bloqueos.registros("Libro_Bautismo", "SELECT codLibro FROM Bautismo WHERE IDBautismo=" + id);

@@ -8,6 +8,10 @@
 
 namespace fidaleon {
 
+/// Who was baptised and, in a second line, where the entry stands: for questions about it. A
+/// request has the first alone; one that has gone has nothing.
+std::string nombrePartidaBautismo(FDAPI::Conexion& conBaseDatos, std::int32_t lngID);
+
 /// Whether an entry may still go; tells the user why not.
 using PermisoEliminar = std::function<bool()>;
 

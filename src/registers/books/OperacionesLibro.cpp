@@ -31,7 +31,8 @@ class OperacionLibro {
   void cerrar() {
     if (const char* motivo = motivoParaNoCerrar()) return forms::warn(contexto_.ui(), motivo);
     if (!forms::ask(contexto_.ui(),
-                    "Si cierra este libro no podrá introducir más partidas. ¿Desea cerrarlo?"))
+                    "Si cierra este libro no podrá introducir más partidas. ¿Desea cerrarlo?", {},
+                    forms::Stake::Loss, nombre()))
       return;
     if (!bloquear()) return;
     // Another workstation may have closed it while the question stood.
@@ -41,7 +42,9 @@ class OperacionLibro {
 
   void eliminar() {
     if (tienePartidas()) return avisarPartidas();
-    if (!forms::ask(contexto_.ui(), "¿Seguro que quiere eliminar el libro?")) return;
+    if (!forms::ask(contexto_.ui(), "¿Seguro que quiere eliminar el libro?", {}, forms::Stake::Loss,
+                    nombre()))
+      return;
     if (!bloquear()) return;
     // Another workstation may have entered one while the question stood.
     if (tienePartidas()) return avisarPartidas();
@@ -61,10 +64,19 @@ class OperacionLibro {
     return nullptr;
   }
 
+  std::string nombre() {
+    const store::Recordset libro = ejecutar("SELECT * FROM libro_bautismo WHERE idlibrobautismo=");
+    return libro.EOF_() ? std::string() : libro.text("Nombre");
+  }
+
   bool tienePartidas() { return !ejecutar("SELECT * FROM bautismo WHERE codlibro=").EOF_(); }
 
   void avisarPartidas() {
-    forms::warn(contexto_.ui(), "¡Este libro no se puede eliminar, tiene partidas asociadas!");
+    const auto cuantas = ejecutar("SELECT * FROM bautismo WHERE codlibro=").RecordCount();
+    forms::warn(
+        contexto_.ui(), "¡Este libro no se puede eliminar, tiene partidas asociadas!",
+        forms::MsgIcon::Exclamation,
+        nombre() + ": " + std::to_string(cuantas) + (cuantas == 1 ? " partida." : " partidas."));
   }
 
   bool bloquear() {
