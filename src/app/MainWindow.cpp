@@ -48,7 +48,8 @@ MainWindow::MainWindow(Desk& desk, QWidget* parent)
       copies_(desk.files().directory),
       removals_(desk.parish()),
       daily_(desk, [this] { sayDamaged(); }),
-      identity_(files::identityOf(desk.files().parish())) {
+      identity_(files::identityOf(desk.files().parish())),
+      others_(desk.parish()) {
   takeUpLog();
   setObjectName("MainWindow");
   setPalette(qt::legible(palette()));
@@ -63,9 +64,13 @@ MainWindow::MainWindow(Desk& desk, QWidget* parent)
   restoreWindow();
   showNode("PartidasBautismo");
   table_->setFocus();
-  auto* again = new QTimer(this);
-  connect(again, &QTimer::timeout, this, [this] { desk_.presence().tellAgain(); });
-  again->start(std::chrono::seconds(30));
+  const auto every = [this](std::chrono::seconds pause, auto work) {
+    auto* timer = new QTimer(this);
+    connect(timer, &QTimer::timeout, this, work);
+    timer->start(pause);
+  };
+  every(std::chrono::seconds(30), [this] { desk_.presence().tellAgain(); });
+  every(std::chrono::seconds(3), [this] { renewIfChanged(); });
 }
 
 MainWindow::~MainWindow() = default;
@@ -156,6 +161,7 @@ void MainWindow::run(const Command& command) {
 
 void MainWindow::loadRows() {
   try {
+    others_.since();  // what is read now is what they have left
     rows_.load(desk_.parish(), *node_);
   } catch (const store::Error& e) {
     desk_.entorno().ui.msgBox(e.what(), forms::MsgButtons::Ok, forms::MsgIcon::Critical);
@@ -191,12 +197,12 @@ void MainWindow::updateCommands() {
   const Choice chosen = choice();
   for (const Command& command : commands()) {
     QAction* action = actions_.at(command.id);
-    action->setEnabled(applies(command, chosen));
+    const bool given = applies(command, chosen);
     const bool other = command.needs == Needs::AnnulledRow || command.needs == Needs::ValidRow;
-    const bool seen =
-        belongs(command, chosen) &&
-        (!other || action->isEnabled() || (command.needs == Needs::ValidRow && !chosen.annulled));
-    action->setVisible(seen);
+    // A hidden action never calls itself enabled, so it is shown first.
+    action->setVisible(belongs(command, chosen) &&
+                       (!other || given || (command.needs == Needs::ValidRow && !chosen.annulled)));
+    action->setEnabled(given);
   }
   for (QAction* title : menuBar()->actions()) {
     const QList<QAction*> lines = title->menu()->actions();

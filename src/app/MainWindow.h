@@ -16,6 +16,7 @@
 #include "app/RowsModel.h"
 #include "files/Identity.h"
 #include "paper/Report.h"
+#include "store/ForeignChanges.h"
 #include "store/RemovalWatch.h"
 
 class QAction;
@@ -59,6 +60,9 @@ class MainWindow : public QMainWindow, private Workplace {
   /// Where the user goes from here.
   const Departure& departure() const { return departure_; }
   DailyCheck& dailyCheck() { return daily_; }
+  /// Shows the list anew when another desk has changed the parish, with the row that was chosen and
+  /// the part that was in sight; not while a dialog or menu is open. Runs by itself now and then.
+  void renewIfChanged();
 
  protected:
   void closeEvent(QCloseEvent* event) override;
@@ -125,6 +129,7 @@ class MainWindow : public QMainWindow, private Workplace {
   DailyCheck daily_;
   std::optional<files::Identity> identity_;  // of the parish that is open
   bool metDamage_ = false;
+  store::ForeignChanges others_;
   const NodeView* node_ = nullptr;
   bool busy_ = false;
   QSplitter* splitter_ = nullptr;

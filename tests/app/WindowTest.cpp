@@ -62,19 +62,25 @@ TEST_F(Window, filter_narrowsAndTheCommandsFollowTheRow) {
   EXPECT_TRUE(enabled("propiedades-partida"));
 }
 
-TEST_F(Window, annulling_asksAndKeepsTheRowChosen) {
+TEST_F(Window, annulling_asksAndOneKeyLeadsThereAndBack) {
   const auto id = static_cast<std::int32_t>(
       count("SELECT MAX(IDBautismo) FROM Bautismo WHERE CodLibro<>0 AND Anulada=false"));
   ASSERT_TRUE(window->chooseRow(id));
   user.expectMessage(
       "La partida quedará anulada: conservará su folio y su número. ¿Desea anularla?",
       forms::Answer::Yes);
-  window->action("anular")->trigger();
+  const auto key = [&] {
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    QTest::keyClick(window->windowHandle(), Qt::Key_U, Qt::ControlModifier);
+  };
+  key();
   EXPECT_EQ(window->choice().id, id);
   EXPECT_TRUE(window->choice().annulled);
   EXPECT_FALSE(visible("anular"));
-  window->action("validar")->trigger();
+  EXPECT_TRUE(visible("validar") && enabled("validar"));
+  key();
   EXPECT_FALSE(window->choice().annulled);
+  EXPECT_TRUE(visible("anular") && !visible("validar"));
   EXPECT_THAT(user.problems(), ::testing::IsEmpty());
 }
 
@@ -127,6 +133,31 @@ TEST_F(Window, whatIsAddedIsChosen) {
   EXPECT_EQ(shown(), before + 1);
   EXPECT_EQ(window->choice().id, count("SELECT MAX(IDMunicipio) FROM Municipio"));
   EXPECT_THAT(user.problems(), ::testing::IsEmpty());
+}
+
+TEST_F(Window, changedByAnotherDesk_theListFollowsAndStaysWhereItWas) {
+  window->showNode("Provincias");
+  window->resize(900, 400);
+  const auto top = [&] { return window->table().indexAt({0, 0}).data(RowsModel::KeyRole).toInt(); };
+  const int before = shown();
+  const auto last = window->table().model()->index(before - 1, 0);
+  ASSERT_TRUE(window->chooseRow(last.data(RowsModel::KeyRole).toInt()));
+  const std::int32_t chosen = window->choice().id;
+  const std::int32_t highest = top();
+  ASSERT_NE(highest, window->table().model()->index(0, 0).data(RowsModel::KeyRole).toInt());
+  const auto write = [](Desk& at, const char* name) {
+    at.parish().Execute(std::string("INSERT INTO Provincia (Nombre) VALUES (\"") + name + "\")");
+  };
+  write(*desk, "Aaa");
+  window->renewIfChanged();
+  EXPECT_EQ(shown(), before) << "what is written here is shown when the command ends";
+  forms::ScriptedUser colleague;
+  Desk other(files(), "Archivo", colleague, settings, clock);
+  write(other, "Aab");
+  window->renewIfChanged();
+  EXPECT_EQ(shown(), before + 2);
+  EXPECT_EQ(window->choice().id, chosen);
+  EXPECT_EQ(top(), highest);
 }
 
 TEST_F(Window, entriesOfABook_areItsOwnUntilTheLimitIsTakenAway) {

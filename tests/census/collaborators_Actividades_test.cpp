@@ -184,6 +184,35 @@ TEST(ActividadesColaborador, TableOrRowInUseElsewhere_StopsTheAction) {
   EXPECT_SCRIPT_DONE(w.user);
 }
 
+TEST(ActividadesColaborador, TakenAwayElsewhere_LeavesTheOpenCard) {
+  MembresiasWorld w;
+  const std::int32_t id = w.colaborador();
+  std::vector<std::int32_t> todas;
+  for (int i = 0; i < 4; ++i) todas.push_back(w.miembro(id, w.lunes, w.catequista));
+  const auto quitar = [&](std::int32_t cual) {
+    w.con().Execute("DELETE * FROM Padron_Actividad WHERE IDActividadesPadron=" +
+                    std::to_string(cual));
+  };
+  w.enActividades(id, [&](FormDriver& u) {
+    u.tab("mstColaborador", C::TAB_DATOS);
+    quitar(todas[0]);
+    u.tab("mstColaborador", C::TAB_ACTIVIDADES);
+    EXPECT_EQ(w.rejilla(u).rowCount(), 3);
+    w.user.answerAnything(Answer::Ok);
+    int quedan = 3;
+    for (const char* boton : {MODIFICAR, QUITAR}) {
+      quitar(todas[static_cast<std::size_t>(4 - quedan)]);
+      u.row("msgActividades", 1);
+      u.click(boton);
+      EXPECT_EQ(w.rejilla(u).rowCount(), --quedan) << boton;
+    }
+    u.click(ACEPTAR);
+  });
+  EXPECT_EQ(w.user.messages().size(), 2u);
+  EXPECT_EQ(w.count("Padron_Actividad"), 1);
+  EXPECT_SCRIPT_DONE(w.user);
+}
+
 TEST(ActividadesColaborador, ButtonsHidden_TheGridCanOnlyBeRead) {
   MembresiasWorld w;
   w.nuevo(

@@ -17,11 +17,13 @@ void BloqueosDeLista::unaMenos() {
   if (--lngContador_ == 1) liberar(tabla_);
 }
 
-bool BloqueosDeLista::tomarRegistro(std::int32_t id) {
+BloqueosDeLista::Registro BloqueosDeLista::tomarRegistro(std::int32_t id) {
   sesion_.registroPorClave(tabla_, clave_, id);
-  if (!sesion_.efectuar()) return false;
+  const long error = sesion_.intentar();
+  if (error == FDAPI::BloqueoRegistroNoExiste) return Registro::NO_EXISTE;
+  if (error != FDAPI::BloqueoNinguno) return Registro::OCUPADO;
   registros_.insert(id);
-  return true;
+  return Registro::TOMADO;
 }
 
 void BloqueosDeLista::soltarRegistro(std::int32_t id) {

@@ -20,8 +20,9 @@ class BloqueosDeLista {
   bool tomarTabla();
   /// A row that was added is not to be after all. The table is given back with the last.
   void unaMenos();
-  /// Before a stored row is marked as gone. False: another has it or it is gone already.
-  bool tomarRegistro(std::int32_t id);
+  enum class Registro { TOMADO, OCUPADO, NO_EXISTE };
+  /// Before a stored row is changed or marked as gone. The user knows why it is not taken.
+  Registro tomarRegistro(std::int32_t id);
   void soltarRegistro(std::int32_t id);
 
  private:

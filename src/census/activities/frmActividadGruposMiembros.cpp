@@ -50,9 +50,16 @@ bool frmActividadGrupos::CargarDatosGrupoColaborador(const cPadronActGrupos& gru
   });
 }
 
-/// A member whose person is gone stays out; one who is no collaborator any more is shown.
+/// A member whose person is gone, or who was taken out of the group elsewhere, stays out; one who
+/// is no collaborator any more is shown.
 void frmActividadGrupos::cargarMiembro(const cPadronActividad& miembro,
                                        ListaDoble::Claves& elegidas) {
+  if (miembro.Estado && conBaseDatos
+                            ->Execute("SELECT CodPadron FROM Padron_Actividad WHERE CodPadron=" +
+                                      std::to_string(miembro.IDPadron) +
+                                      " AND CodGrupo=" + std::to_string(miembro.IDGrupo))
+                            .EOF_())
+    return;
   const store::Recordset fila = conBaseDatos->Execute(
       "SELECT Nombre,IDPadron,PrimerApellido,SegundoApellido FROM Padron WHERE IDPadron=" +
       std::to_string(miembro.IDPadron));

@@ -50,13 +50,15 @@ void frmActividad::quitar() {
   cPadronActGrupos* grupo = elegido();
   if (!grupo) return;
   const std::int32_t id = grupo->IDGrupo;
-  if (!grupo->Estado) {
-    std::erase_if(colGrupos_, [&](const cPadronActGrupos& g) { return g.IDGrupo == id; });
-    bloqueos_->unaMenos();
-  } else {
-    if (!bloqueos_->tomarRegistro(id)) return;
+  const bool guardado = grupo->Estado;
+  const auto tomado =
+      guardado ? bloqueos_->tomarRegistro(id) : BloqueosDeLista::Registro::NO_EXISTE;
+  if (tomado == BloqueosDeLista::Registro::OCUPADO) return;
+  if (tomado == BloqueosDeLista::Registro::TOMADO)
     grupo->Operacion = cCOperacion::Borrar;
-  }
+  else  // never stored, or removed from another workstation
+    std::erase_if(colGrupos_, [&](const cPadronActGrupos& g) { return g.IDGrupo == id; });
+  if (!guardado) bloqueos_->unaMenos();
   CargaGridGrupos();
 }
 

@@ -111,9 +111,36 @@ void frmColaborador::agregarActividad() {
 void frmColaborador::modificarActividad() {
   const std::optional<std::size_t> posicion = elegida();
   if (!posicion) return ui().beep();
-  const cPadronActividad& actividad = actividades_[*posicion];
-  if (actividad.Estado && !bloqueos().tomarRegistro(actividad.IDActividadesPadron)) return;
-  mostrarActividad(cCOperacion::EDITAR, *posicion);
+  if (tomar(*posicion)) mostrarActividad(cCOperacion::EDITAR, *posicion);
+}
+
+bool frmColaborador::tomar(std::size_t posicion) {
+  const cPadronActividad& actividad = actividades_[posicion];
+  if (!actividad.Estado) return true;
+  const auto tomado = bloqueos().tomarRegistro(actividad.IDActividadesPadron);
+  if (tomado == BloqueosDeLista::Registro::NO_EXISTE) olvidar(posicion);
+  return tomado == BloqueosDeLista::Registro::TOMADO;
+}
+
+void frmColaborador::olvidar(std::size_t posicion) {
+  actividades_.erase(actividades_.begin() + static_cast<std::ptrdiff_t>(posicion));
+  volverACargarActividades();
+}
+
+void frmColaborador::volverACargarActividades() {
+  const int fila = msgActividades.row();
+  CargaGridActividadColaborador();
+  msgActividades.setRow(std::min(fila, msgActividades.rowCount()));
+}
+
+// Those that have been changed here are stored anew, whoever took them away.
+void frmColaborador::olvidarQuitadasFuera() {
+  const auto fuera = [this](const cPadronActividad& a) {
+    return a.Estado && a.Operacion == cCOperacion{} &&
+           !hay("SELECT IDActividadesPadron FROM Padron_Actividad WHERE IDActividadesPadron=" +
+                std::to_string(a.IDActividadesPadron));
+  };
+  if (std::erase_if(actividades_, fuera) > 0) volverACargarActividades();
 }
 
 bool frmColaborador::mostrarActividad(cCOperacion operacion, std::size_t posicion) {
@@ -141,17 +168,13 @@ bool frmColaborador::mostrarActividad(cCOperacion operacion, std::size_t posicio
 void frmColaborador::quitarActividad() {
   const std::optional<std::size_t> posicion = elegida();
   if (!posicion) return ui().beep();
-  cPadronActividad& actividad = actividades_[*posicion];
-  if (actividad.Estado) {
-    if (!bloqueos().tomarRegistro(actividad.IDActividadesPadron)) return;
-    actividad.Operacion = cCOperacion::Borrar;
-  } else {
-    actividades_.erase(actividades_.begin() + static_cast<std::ptrdiff_t>(*posicion));
+  if (!tomar(*posicion)) return;
+  if (!actividades_[*posicion].Estado) {
     bloqueos().unaMenos();
+    return olvidar(*posicion);
   }
-  const int fila = msgActividades.row();
-  CargaGridActividadColaborador();
-  msgActividades.setRow(std::min(fila, msgActividades.rowCount()));
+  actividades_[*posicion].Operacion = cCOperacion::Borrar;
+  volverACargarActividades();
 }
 
 bool frmColaborador::hay(const std::string& sentencia) {

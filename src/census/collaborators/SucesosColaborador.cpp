@@ -24,6 +24,10 @@ void frmColaborador::crearSucesos() {
   boton(cmdActividad[AGREGAR], &frmColaborador::agregarActividad);
   boton(cmdActividad[MODIFICAR], &frmColaborador::modificarActividad);
   boton(cmdActividad[QUITAR], &frmColaborador::quitarActividad);
+  mstColaborador.onClick = [this](int) {
+    if (mstColaborador.tab() == TAB_ACTIVIDADES)
+      procedimiento("mstColaborador_Click", [this] { olvidarQuitadasFuera(); });
+  };
   cmdColaborador[CANCELAR].onClick = [this] { Unload(); };
   msgActividades.onDblClick = [this] { userClick(cmdActividad[MODIFICAR]); };
 }

@@ -39,9 +39,6 @@ class frmColaborador : public Dialogo {
   /// IDPadron of a person found while a new one was being typed, to be opened instead; else 0.
   std::int32_t lngSeleccionado = 0;
 
-  /// Leaves the cancel button as the only one: for a person whom another user holds. Load() first.
-  void soloLectura();
-
   enum Texto {
     Nombre,
     PrimerApellido,
@@ -140,6 +137,10 @@ class frmColaborador : public Dialogo {
   void agregarActividad();
   void modificarActividad();
   void quitarActividad();
+  bool tomar(std::size_t posicion);
+  void olvidar(std::size_t posicion);
+  void olvidarQuitadasFuera();
+  void volverACargarActividades();
   /// False when it was cancelled.
   bool mostrarActividad(FDAPI::cCOperacion operacion, std::size_t posicion);
   BloqueosDeLista& bloqueos();
