@@ -213,6 +213,11 @@ TEST(FrmColaborador, BirthDate_FollowsBirthdayAndYear) {
   };
   EXPECT_EQ(cambiar("0305", "1971"), "19710503");
   EXPECT_EQ(cambiar("0405", "1971"), "19710504");
+  // Put right in the census meanwhile: nobody has touched it here.
+  w.con().Execute("UPDATE Padron_Nacimiento SET FechaNacimiento='19710604'");
+  EXPECT_EQ(cambiar("0405", "1971"), "19710604");
+  EXPECT_EQ(cambiar("0405", ""), "19710604");
+  EXPECT_EQ(cambiar("0405", "1971"), "19710504");
   EXPECT_EQ(cambiar("0405", ""), "");
   EXPECT_SCRIPT_DONE(w.user);
 }
@@ -311,10 +316,9 @@ TEST(FrmColaborador, EditFails_LeavesTheStoredPersonAndTheTypedTexts) {
 
 /// Notes whether the store is still held while a message waits for its answer.
 struct Vigilante : forms::ScriptedUser {
-  forms::Answer msgBox(const std::string& text, forms::MsgButtons botones, forms::MsgIcon icono,
-                       const std::string& titulo) override {
+  forms::Answer showMessage(const forms::Message& mensaje) override {
     retenido = conexion->inTransaction();
-    return ScriptedUser::msgBox(text, botones, icono, titulo);
+    return ScriptedUser::showMessage(mensaje);
   }
   store::Connection* conexion = nullptr;
   bool retenido = true;

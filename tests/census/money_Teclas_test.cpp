@@ -146,6 +146,7 @@ TEST_F(TeclasImporte, Comma_SplitsTheDigitsAndKeepsTwoBehind) {
       {"12|34567", letra(','), "12,34|"},
       {"1|.234", letra(','), "1,23|"},
       {"1.2|34", letra(','), "1.2,34|"},
+      {"12|.", letra(','), "12,|"},
       {"123|4", letra(','), "123,4|"},
       {"12|,3", letra(','), "12|,3"},
       {"12,3|", letra(','), "12,3|"},

@@ -1,3 +1,5 @@
+#include <array>
+
 #include "census/persons_PadronWorld.h"
 
 namespace fidaleon::tests {
@@ -36,16 +38,29 @@ TEST(EditaEmpadronado, Opened_ShowsWhatIsStored) {
   }
 }
 
-TEST(EditaEmpadronado, DNIAndSexOfAnotherForm_AreShownAsFarAsTheyCanBe) {
-  PadronWorld w;
-  const std::int32_t id = w.persona("Rosa", "Gil", "Mas", "-A");
-  w.con().Execute("UPDATE Padron SET Sexo='mujer'");
-  w.editar(id, [&](FormDriver& u) {
-    EXPECT_EQ(u.text(txt(Padron::NIF)), "");
-    EXPECT_EQ(u.text(txt(Padron::LetraNIF)), "");
-    EXPECT_EQ(u.text(cbo(Padron::Sexo)), "");
-    u.escape();
-  });
+TEST(EditaEmpadronado, DNIAndSexOfAnotherForm_StayUntilTheyAreChanged) {
+  const std::array<const char*, 3> FORMAS[] = {
+      {"-A", "", ""}, {"12345678Z", "1234567", "Z"}, {"X1234567-L", "X1234567", "L"}};
+  for (const auto& [guardado, cifras, letra] : FORMAS) {
+    PadronWorld w;
+    const std::int32_t id = w.persona("Rosa", "Gil", "Mas", guardado);
+    w.con().Execute("UPDATE Padron SET Sexo='V'");
+    w.editar(id, [&, esperadas = cifras, suya = letra](FormDriver& u) {
+      EXPECT_EQ(u.text(txt(Padron::NIF)), esperadas);
+      EXPECT_EQ(u.text(txt(Padron::LetraNIF)), suya);
+      EXPECT_EQ(u.text(cbo(Padron::Sexo)), "");
+      for (const Padron::Texto campo : {Padron::NIF, Padron::LetraNIF}) u.focus(txt(campo));
+      u.click(boton(Padron::ACEPTAR));
+    });
+    EXPECT_EQ(w.fila("SELECT DNI,Sexo FROM Padron"), std::string(guardado) + "|V");
+    w.editar(id, [](FormDriver& u) {
+      u.type(txt(Padron::NIF), "12345678");
+      u.type(txt(Padron::LetraNIF), "Z");
+      u.choose(cbo(Padron::Sexo), "Mujer");
+      u.click(boton(Padron::ACEPTAR));
+    });
+    EXPECT_EQ(w.fila("SELECT DNI,Sexo FROM Padron"), "12345678-Z|Mujer");
+  }
 }
 
 TEST(EditaEmpadronado, StoredTextThatIsNoDate_StaysUntilADateIsTyped) {
@@ -131,6 +146,11 @@ TEST(EditaEmpadronado, DNIOfAnother_IsToldButNotTheirOwn) {
     w.user.expectMessage("¡Ya existe una persona con este DNI!");
     u.focus(txt(Padron::Direccion));
     EXPECT_EQ(w.user.beeps(), 1);
+    u.type(txt(Padron::NIF), "1");
+    u.type(txt(Padron::LetraNIF), "Z");
+    u.type(txt(Padron::NIF), "12345678");
+    w.user.expectMessage("¡Ya existe una persona con este DNI!");
+    u.focus(txt(Padron::Direccion));
     u.escape();
   });
   EXPECT_EQ(w.value("SELECT DNI FROM Padron WHERE IDPadron=2"), "01234567-L");

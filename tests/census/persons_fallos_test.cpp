@@ -72,43 +72,44 @@ TEST(NuevoEmpadronado, FailureInsideTheTransaction_LeavesNothingAndCanBeRepeated
   }
 }
 
-TEST(NuevoEmpadronado, FailureBehindTheTransaction_IsCompletedWithoutASecondPerson) {
-  for (const char* parte : {"INSERT INTO Padron_Nacimiento", "INSERT INTO Padron_Bautismo",
-                            "INSERT INTO Padron_Comunion", "INSERT INTO Padron_Confirmacion",
-                            "INSERT INTO Padron_Matrimonio", "INSERT INTO Padron_Defuncion",
-                            "INSERT INTO Padron_NotasPersonales", "SELECT * FROM Tipo_Persona",
-                            "INSERT INTO Padron_TipoPersona"}) {
-    PadronWorld w;
-    w.alta([&](FormDriver& u) {
-      rellenarMinimo(u);
-      u.type(txt(Padron::NIF), "12345678");
-      u.type(txt(Padron::LetraNIF), "Z");
-      u.tab(MST, Padron::TAB_NOTAS);
-      for (const char* titulo : {"Primera", "Segunda"}) {
-        w.user.expectForm("frmPadronNotas", [&](FormDriver& n) {
-          n.type("txtTitulo", titulo);
-          n.enter();
-        });
-        u.click(botonNota(Padron::AGREGAR));
-      }
-      // Of the notes the second one fails.
-      const bool notas = std::string(parte).ends_with("Personales");
-      w.fallos().failOn(parte, store::ErrorKind::DiskFull, notas ? 2 : 1);
-      w.user.answerAnything(Answer::Ok);
-      u.click(boton(Padron::ACEPTAR));
-      EXPECT_FALSE(u.closed()) << parte;
-      EXPECT_EQ(w.fallos().pending(), 0u) << parte;
-      EXPECT_EQ(u.caption(), "Propiedades del empadronado Elena Sanz Mora");
-      EXPECT_EQ(w.user.messages().size(), 1u) << parte;
-      u.click(boton(Padron::ACEPTAR));
-      EXPECT_TRUE(u.closed()) << parte;
-    });
-    for (const char* tabla :
-         {"Padron", "Padron_Nacimiento", "Padron_Bautismo", "Padron_Comunion",
-          "Padron_Confirmacion", "Padron_Matrimonio", "Padron_Defuncion", "Padron_TipoPersona"})
-      EXPECT_EQ(w.count(tabla), 1) << parte << ": " << tabla;
-    EXPECT_EQ(w.count("Padron_NotasPersonales"), 2) << parte;
-  }
+TEST(NuevoEmpadronado, FailureBehindTheTransaction_IsCompletedOrTakenBack) {
+  for (const Padron::Boton ultimo : {Padron::ACEPTAR, Padron::CANCELAR})
+    for (const char* parte : {"INSERT INTO Padron_Nacimiento", "INSERT INTO Padron_Bautismo",
+                              "INSERT INTO Padron_Comunion", "INSERT INTO Padron_Confirmacion",
+                              "INSERT INTO Padron_Matrimonio", "INSERT INTO Padron_Defuncion",
+                              "INSERT INTO Padron_NotasPersonales", "SELECT * FROM Tipo_Persona",
+                              "INSERT INTO Padron_TipoPersona"}) {
+      PadronWorld w;
+      w.alta([&](FormDriver& u) {
+        rellenarMinimo(u);
+        u.type(txt(Padron::NIF), "12345678");
+        u.type(txt(Padron::LetraNIF), "Z");
+        u.tab(MST, Padron::TAB_NOTAS);
+        for (const char* titulo : {"Primera", "Segunda"}) {
+          w.user.expectForm("frmPadronNotas", [&](FormDriver& n) {
+            n.type("txtTitulo", titulo);
+            n.enter();
+          });
+          u.click(botonNota(Padron::AGREGAR));
+        }
+        // Of the notes the second one fails.
+        const bool notas = std::string(parte).ends_with("Personales");
+        w.fallos().failOn(parte, store::ErrorKind::DiskFull, notas ? 2 : 1);
+        w.user.answerAnything(Answer::Ok);
+        u.click(boton(Padron::ACEPTAR));
+        EXPECT_FALSE(u.closed()) << parte;
+        EXPECT_EQ(w.fallos().pending(), 0u) << parte;
+        EXPECT_EQ(u.caption(), "Propiedades del empadronado Elena Sanz Mora");
+        EXPECT_EQ(w.user.messages().size(), 1u) << parte;
+        u.click(boton(ultimo));
+        EXPECT_TRUE(u.closed()) << parte;
+      });
+      for (const char* tabla :
+           {"Padron", "Padron_Nacimiento", "Padron_Bautismo", "Padron_Comunion",
+            "Padron_Confirmacion", "Padron_Matrimonio", "Padron_Defuncion", "Padron_TipoPersona"})
+        EXPECT_EQ(w.count(tabla), ultimo == Padron::ACEPTAR) << parte << ": " << tabla;
+      EXPECT_EQ(w.count("Padron_NotasPersonales"), ultimo == Padron::ACEPTAR ? 2 : 0) << parte;
+    }
 }
 
 }  // namespace

@@ -81,8 +81,11 @@ Persona frmColaborador::leerCampos() const {
 // A birth date that comes from the census, and not from a birthday and a year, is not for this
 // dialog to take away.
 std::string frmColaborador::fechaNacimiento() const {
-  const std::string compuesta =
-      fechaDe(txtColaborador[Cumpleaños].text(), txtColaborador[AñoNacimiento].text());
+  const std::string& cumpleaños = txtColaborador[Cumpleaños].text();
+  const std::string& año = txtColaborador[AñoNacimiento].text();
+  const bool cambiados = cumpleaños != persona_.Cumpleaños || año != persona_.AñoNacimiento;
+  if (!cambiados && !persona_.FechaNacimiento.empty()) return persona_.FechaNacimiento;
+  const std::string compuesta = fechaDe(cumpleaños, año);
   if (!compuesta.empty()) return compuesta;
   const bool propia =
       persona_.FechaNacimiento == fechaDe(persona_.Cumpleaños, persona_.AñoNacimiento);

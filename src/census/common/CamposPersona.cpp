@@ -33,6 +33,12 @@ void enMinusculas(forms::TextBox& campo) {
   };
 }
 
+std::string conCerosNIF(const std::string& cifras) {
+  constexpr std::size_t CIFRAS_NIF = 8;
+  const std::size_t largo = text::length(cifras);
+  return largo == 0 || largo >= CIFRAS_NIF ? cifras : std::string(CIFRAS_NIF - largo, '0') + cifras;
+}
+
 std::string fechaEnLugarDe(const std::string& anterior, const forms::DateField& campo) {
   const bool seMostraba = text::parseStored(anterior).has_value();
   return seMostraba || !campo.text().empty() ? campo.stored() : anterior;

@@ -15,6 +15,9 @@ void soloDigitos(Contexto& contexto, forms::TextBox& campo);
 /// Takes the field's onKeyPress and onLostFocus.
 void enMinusculas(forms::TextBox& campo);
 
+/// The digits of a NIF as they are stored, with zeros in front; none of none.
+std::string conCerosNIF(const std::string& cifras);
+
 /// What a date field stores in the place of `anterior`, "yyyymmdd" or empty. A text that is no
 /// date cannot be shown; it stays unless a date is put in its place.
 std::string fechaEnLugarDe(const std::string& anterior, const forms::DateField& campo);

@@ -100,8 +100,9 @@ void verificarCifra(const TextBox& campo, KeyPress& tecla, int enteros, int deci
 void verificarComa(TextBox& campo, KeyPress& tecla) {
   const Alrededor caret(campo);
   if (caret.tieneComa() || caret.anteElSigno()) return tecla.swallow();
+  if (caret.detras.empty()) return;
+  // A thousands sign that is left over must not stand behind the comma: that is no number.
   const std::string cifrasDetras = quitar(caret.detras, "+-.");
-  if (cifrasDetras.empty()) return;
   const std::string texto = caret.antes + "," + text::left(cifrasDetras, DECIMALES_TRAS_PARTIR);
   poner(campo, tecla, texto, text::length(texto));
 }

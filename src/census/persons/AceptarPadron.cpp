@@ -65,12 +65,18 @@ bool frmPadron::comprobarComunion() {
 bool frmPadron::comprobarNIF() {
   const std::string& cifras = txtPadron[NIF].text();
   const std::string& letra = txtPadron[LetraNIF].text();
-  if (cifras.empty() && letra.empty()) return true;
+  if (dniIntacto() || (cifras.empty() && letra.empty())) return true;
   if (cifras.empty()) return rechazar("¡Debe introducir un número de NIF!", txtPadron[NIF]);
   if (letra.empty())
     return rechazar("¡Debe introducir una letra para el NIF!", txtPadron[LetraNIF]);
-  if (letra == contexto_.fidaleon()->ObtenerLetraNIF(cifras)) return true;
+  if (letraCorrecta()) return true;
   return rechazar("¡La letra del NIF no está bien calculada!", txtPadron[LetraNIF]);
+}
+
+bool frmPadron::letraCorrecta() const {
+  const std::string& cifras = txtPadron[NIF].text();
+  return !cifras.empty() &&
+         txtPadron[LetraNIF].text() == contexto_.fidaleon()->ObtenerLetraNIF(cifras);
 }
 
 bool frmPadron::comprobarFechas() {
@@ -89,7 +95,15 @@ bool frmPadron::comprobarDNIRepetido() {
   return rechazar("¡El DNI introducido coincide con el de un empadronado!", txtPadron[NIF]);
 }
 
+bool frmPadron::dniIntacto() const {
+  const auto& [cifras, letra] = dniMostrado_;
+  const bool ninguno = cifras.empty() && letra.empty();
+  return dniGuardado_ != (ninguno ? std::string() : cifras + "-" + letra) &&
+         txtPadron[NIF].text() == cifras && txtPadron[LetraNIF].text() == letra;
+}
+
 std::string frmPadron::dni() const {
+  if (dniIntacto()) return dniGuardado_;
   const std::string completo = txtPadron[NIF].text() + "-" + txtPadron[LetraNIF].text();
   return completo == "-" ? std::string() : completo;
 }
@@ -100,7 +114,8 @@ void frmPadron::leerCampos() {
   for (const auto& [campo, miembro] : fechas_) p.*miembro = fechaEnLugarDe(p.*miembro, *campo);
   for (const auto& [par, miembro] : municipios_) p.*miembro = par->valor();
   p.DNI = dni();
-  p.Sexo = cboPadron[Sexo].text();
+  // A word that the list does not have is not shown; it stays unless another is chosen.
+  if (cboPadron[Sexo].listIndex() >= 0 || sexoMostrado_) p.Sexo = cboPadron[Sexo].text();
   p.CodInstitucionEmpadronado = static_cast<std::int32_t>(cboPadron[Institucion].data());
   leerDefuncion();
 }

@@ -2,7 +2,6 @@
 
 #include <stdexcept>
 
-#include "census/common/SoloLectura.h"
 #include "census/persons/frmPadron.h"
 #include "core/lists/cIListas.h"
 
@@ -67,7 +66,7 @@ void frmPadron::mostrarPersona() {
   for (const auto& [par, miembro] : municipios_) par->poner(p.*miembro);
   comprobarPoblaciones();
   cboPadron[Sexo].setListIndex(-1);
-  cboPadron[Sexo].selectText(p.Sexo);
+  sexoMostrado_ = cboPadron[Sexo].selectText(p.Sexo) || p.Sexo.empty();
   cboPadron[Institucion].setListIndex(-1);
   cboPadron[Institucion].selectData(p.CodInstitucionEmpadronado);
   mostrarDNI();
@@ -86,11 +85,13 @@ void frmPadron::comprobarPoblaciones() const {
 }
 
 void frmPadron::mostrarDNI() {
-  const std::string& guardado = ficha_.persona.DNI;
+  const std::string& guardado = dniGuardado_ = ficha_.persona.DNI;
   const std::size_t largo = text::length(guardado);
   const bool completo = largo > 2;
-  txtPadron[NIF].setText(completo ? text::left(guardado, largo - 2) : "");
-  txtPadron[LetraNIF].setText(completo ? text::right(guardado, 1) : "");
+  dniMostrado_ = {completo ? text::left(guardado, largo - 2) : "",
+                  completo ? text::right(guardado, 1) : ""};
+  txtPadron[NIF].setText(dniMostrado_.first);
+  txtPadron[LetraNIF].setText(dniMostrado_.second);
 }
 
 void frmPadron::mostrarDefuncion() {
@@ -113,12 +114,8 @@ void frmPadron::mostrarTitulo(const std::string& nombre, const std::string& prim
              segundoApellido);
 }
 
-void frmPadron::soloLectura() {
-  soloLectura_ = true;
-  ponerSoloLectura(*this, cmdPadron[CANCELAR]);
-}
-
 void frmPadron::Form_Unload() {
+  procedimiento("Form_Unload", [this] { ficha_.retirar(*conBaseDatos); });
   procedimiento("Form_Unload", [this] { guardarAnchos(); });
 }
 

@@ -65,11 +65,13 @@ void FichaEmpadronado::agregar(Conexion& conexion) {
   transaccion.commit();
   persona.IDPadron = persona.CodPadron = id;
 
+  aMedias_ = true;
   guardarSatelites(conexion);
   guardarNotas(conexion);
   const store::Recordset tipo =
       conexion.Execute("SELECT * FROM Tipo_Persona WHERE Nombre='Empadronado'");
   insertarTipo(conexion, id, tipo.EOF_() ? TIPO_EMPADRONADO : tipo.integer("IDTipoPersona"));
+  aMedias_ = false;
 }
 
 void FichaEmpadronado::editar(Conexion& conexion) {
@@ -82,6 +84,19 @@ void FichaEmpadronado::editar(Conexion& conexion) {
                    " And CodTipoPersona=2")
           .EOF_())
     insertarTipo(conexion, persona.IDPadron, TIPO_EMPADRONADO);
+  aMedias_ = false;
+}
+
+void FichaEmpadronado::retirar(Conexion& conexion) {
+  const std::string id = std::to_string(persona.IDPadron);
+  if (!aMedias_ ||
+      !conexion.Execute("SELECT * FROM Padron_TipoPersona WHERE CodPadron=" + id).EOF_())
+    return;
+  store::Transaction transaccion(conexion);
+  for (const std::string& sentencia : sqlBorrarPersona(persona.IDPadron))
+    conexion.Execute(sentencia);
+  transaccion.commit();
+  aMedias_ = false;
 }
 
 // Writing over a row that is missing would lose what was typed for it.

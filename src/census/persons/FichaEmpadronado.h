@@ -27,6 +27,9 @@ class FichaEmpadronado {
   void agregar(FDAPI::Conexion& conexion);
   /// Makes a person reached in another way a census person too.
   void editar(FDAPI::Conexion& conexion);
+  /// Takes back a person whom agregar() left without any role, and who would show in no list.
+  /// Nothing else.
+  void retirar(FDAPI::Conexion& conexion);
 
  private:
   void leerNotas(FDAPI::Conexion& conexion);
@@ -36,6 +39,7 @@ class FichaEmpadronado {
   void leerClave(FDAPI::Conexion& conexion, cPadronNotas& nota);
 
   std::array<bool, SATELITES.size()> guardado_{};
+  bool aMedias_ = false;  // the first row of a new person is there, and not yet the last
 };
 
 }  // namespace fidaleon

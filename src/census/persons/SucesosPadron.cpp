@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "census/common/CamposPersona.h"
 #include "census/money/cCurrency.h"
 #include "census/persons/frmPadron.h"
 #include "census/search/frmMensaje.h"
@@ -12,12 +13,6 @@ namespace fidaleon {
 
 using FDAPI::cCOperacion;
 using FDAPI::cCOrigen;
-
-namespace {
-
-constexpr std::size_t CIFRAS_NIF = 8;
-
-}  // namespace
 
 void frmPadron::crearSucesos() {
   mstPadron.onMouseDown = [this](int pestana) { return mstPadron_MouseDown(pestana); };
@@ -45,7 +40,9 @@ void frmPadron::sucesosDeNombreYNIF() {
   }
   for (const Texto parte : {NIF, LetraNIF})
     txtPadron[parte].onChange = [this] { dniCambiado_ = true; };
-  txtPadron[NIF].onLostFocus = [this](forms::Control*) { NIF_LostFocus(); };
+  txtPadron[NIF].onLostFocus = [this](forms::Control* siguiente) {
+    procedimiento("txtPadron_LostFocus", [&] { NIF_LostFocus(siguiente); });
+  };
   txtPadron[LetraNIF].onKeyPress = [this](forms::KeyPress& tecla) { letraNIF_KeyPress(tecla); };
   txtPadron[LetraNIF].onLostFocus = [this](forms::Control* siguiente) {
     procedimiento("txtPadron_LostFocus", [&] { letraNIF_LostFocus(siguiente); });
@@ -72,7 +69,7 @@ void frmPadron::sucesosDeBotones() {
 // Who only looks could not choose the institution that may be missing.
 bool frmPadron::mstPadron_MouseDown(int pestana) {
   const bool elegida = !text::trim(cboPadron[Institucion].text()).empty();
-  if (pestana == TAB_DATOS || elegida || soloLectura_) return true;
+  if (pestana == TAB_DATOS || elegida || isReadOnly()) return true;
   forms::warn(ui(), "¡Debe seleccionar una Institución!");
   return false;
 }
@@ -100,14 +97,13 @@ void frmPadron::buscar() {
   cerrarCon(busqueda.lngSeleccionado);
 }
 
-void frmPadron::NIF_LostFocus() {
+void frmPadron::NIF_LostFocus(const forms::Control* siguiente) {
   forms::TextBox& nif = txtPadron[NIF];
-  if (nif.locked()) return;
-  const std::size_t largo = text::length(nif.text());
-  if (largo == 0)
-    txtPadron[LetraNIF].setText("");
-  else if (largo < CIFRAS_NIF)
-    nif.setText(std::string(CIFRAS_NIF - largo, '0') + nif.text());
+  if (nif.locked() || dniIntacto()) return;
+  if (nif.text().empty()) txtPadron[LetraNIF].setText("");
+  nif.setText(conCerosNIF(nif.text()));
+  // With the letter still to be mended there is no number yet to be looked for.
+  if (letraCorrecta()) DNI_LostFocus(siguiente);
 }
 
 void frmPadron::letraNIF_KeyPress(forms::KeyPress& tecla) {
@@ -122,7 +118,11 @@ void frmPadron::letraNIF_LostFocus(const forms::Control* siguiente) {
   forms::TextBox& letra = txtPadron[LetraNIF];
   if (letra.locked()) return;
   letra.setText(text::upper(letra.text()));
-  const bool ambos = !txtPadron[NIF].text().empty() && !letra.text().empty();
+  DNI_LostFocus(siguiente);
+}
+
+void frmPadron::DNI_LostFocus(const forms::Control* siguiente) {
+  const bool ambos = !txtPadron[NIF].text().empty() && !txtPadron[LetraNIF].text().empty();
   if (!dniCambiado_ || !ambos || vaACancelar(siguiente)) return;
   dniCambiado_ = false;
   comprobarDNI();

@@ -151,4 +151,19 @@ std::string sqlActualizarSatelite(Satelite satelite, const Persona& persona) {
   return sqlActualizar(sinClave, persona) + donde;
 }
 
+std::vector<std::string> sqlBorrarPersona(std::int32_t id) {
+  std::vector<std::string> sentencias;
+  for (const char* tabla :
+       {"Padron_TipoPersona", "Padron_Nacimiento", "Padron_Bautismo", "Padron_Comunion",
+        "Padron_Confirmacion", "Padron_Matrimonio", "Padron_Defuncion"})
+    sentencias.push_back(sqlBorrarDe(tabla, id));
+  sentencias.push_back("DELETE * FROM Padron WHERE IDPadron=" + std::to_string(id));
+  sentencias.push_back(sqlBorrarDe("Padron_NotasPersonales", id));
+  return sentencias;
+}
+
+std::string sqlBorrarDe(const char* tabla, std::int32_t id) {
+  return std::string("DELETE * FROM ") + tabla + " WHERE CodPadron=" + std::to_string(id);
+}
+
 }  // namespace fidaleon

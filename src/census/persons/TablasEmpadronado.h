@@ -4,6 +4,7 @@
 #include <array>
 #include <cstdint>
 #include <string>
+#include <vector>
 
 #include "census/persons/Persona.h"
 #include "core/contract/Columnas.h"
@@ -26,5 +27,8 @@ void copiarSatelite(Satelite satelite, const store::Recordset& fila, Persona& pe
 /// The row of persona.CodPadron.
 std::string sqlInsertarSatelite(Satelite satelite, const Persona& persona);
 std::string sqlActualizarSatelite(Satelite satelite, const Persona& persona);
+std::string sqlBorrarDe(const char* tabla, std::int32_t codPadron);
+/// Everything of a person, in the order in which it goes.
+std::vector<std::string> sqlBorrarPersona(std::int32_t id);
 
 }  // namespace fidaleon

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <deque>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "census/persons/FichaEmpadronado.h"
@@ -29,9 +30,6 @@ class frmPadron : public Dialogo {
 
   /// Somebody found by the search, to be opened instead of adding a new person; 0 when none was.
   std::int32_t lngSeleccionado = 0;
-
-  /// For a person who is in use elsewhere: all can be looked at and nothing changed.
-  void soloLectura();
 
   enum Texto {
     Nombre,
@@ -152,7 +150,8 @@ class frmPadron : public Dialogo {
   void sucesosDeBotones();
   bool mstPadron_MouseDown(int pestana);
   void nombre_LostFocus(const forms::Control* siguiente);
-  void NIF_LostFocus();
+  void NIF_LostFocus(const forms::Control* siguiente);
+  void DNI_LostFocus(const forms::Control* siguiente);
   void letraNIF_KeyPress(forms::KeyPress& tecla);
   void letraNIF_LostFocus(const forms::Control* siguiente);
   void comprobarDNI();
@@ -181,6 +180,7 @@ class frmPadron : public Dialogo {
   bool comprobarNombre();
   bool comprobarComunion();
   bool comprobarNIF();
+  bool letraCorrecta() const;
   bool comprobarFechas();
   bool comprobarDNIRepetido();
   bool rechazar(const std::string& mensaje, forms::Control& campo);
@@ -189,6 +189,8 @@ class frmPadron : public Dialogo {
   void leerCampos();
   void leerDefuncion();
   std::string dni() const;
+  /// What was stored is none that the two fields make, and they stand as they were shown.
+  bool dniIntacto() const;
   bool conPesetas() const { return contexto_.config().TrabajarConPesetas; }
   const char* importeCero() const { return conPesetas() ? "0" : "0,00"; }
 
@@ -199,7 +201,9 @@ class frmPadron : public Dialogo {
   BuscaCoincidencias coincidencias_;
   FichaEmpadronado ficha_;
   bool dniCambiado_ = false;
-  bool soloLectura_ = false;
+  bool sexoMostrado_ = false;
+  std::string dniGuardado_;
+  std::pair<std::string, std::string> dniMostrado_;
 };
 
 }  // namespace fidaleon

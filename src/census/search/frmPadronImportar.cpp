@@ -1,5 +1,6 @@
 #include "census/search/frmPadronImportar.h"
 
+#include "census/common/CamposPersona.h"
 #include "census/search/frmPadronBusqueda.h"
 #include "core/contract/Citas.h"
 #include "core/contract/Guard.h"
@@ -75,7 +76,7 @@ std::string frmPadronImportar::condiciones() const {
   if (!txtNombre.text().empty()) agregar("Nombre=", txtNombre.text());
   if (!txtPrimerApellido.text().empty()) agregar(" PrimerApellido=", txtPrimerApellido.text());
   if (!txtSegundoApellido.text().empty()) agregar(" SegundoApellido=", txtSegundoApellido.text());
-  const std::string numero = txtDNI.text();
+  const std::string numero = conCerosNIF(txtDNI.text());
   if (!numero.empty())
     agregar(" DNI=", numero + "-" + contexto_.fidaleon()->ObtenerLetraNIF(numero));
   if (!clausulas.empty()) clausulas.erase(clausulas.size() - std::string_view(Y).size());
