@@ -22,6 +22,13 @@ using FDAPI::cCOperacion;
 using FDAPI::cCOrigen;
 using forms::FormDriver;
 
+forms::ReadOnly inUse() {
+  return {
+      "Solo se puede consultar: lo tiene Luis, en el equipo SACRISTIA, desde el 22/11/2026 a "
+      "las 10:30.",
+      [] { return std::nullopt; }};
+}
+
 std::string at(const char* name, int index) {
   return std::string(name) + "(" + std::to_string(index) + ")";
 }
@@ -55,7 +62,7 @@ class People {
       d.Operacion = cCOperacion::EDITAR;
       d.IDPadron = withNotes();
       d.Load();
-      d.soloLectura();
+      d.setReadOnly(inUse());
     });
   }
 
@@ -125,7 +132,7 @@ class People {
       d.Operacion = cCOperacion::EDITAR;
       d.IDPadron = busiest();
       d.Load();
-      d.soloLectura();
+      d.setReadOnly(inUse());
     });
   }
 

@@ -26,7 +26,7 @@ void Control::setVisible(bool on) {
 }
 
 bool Control::usable() const {
-  return enabled_ && visible_ && (!frame_ || frame_->usable());
+  return enabled() && visible_ && (!frame_ || frame_->usable());
 }
 
 bool Control::reachable() const {

@@ -41,8 +41,9 @@ class Control {
   const std::string& name() const { return name_; }
   Form& form() const { return form_; }
 
-  /// As set; a disabled frame around it also keeps the user out, see usable().
-  bool enabled() const { return enabled_; }
+  /// As set, and as a form that can only be read leaves it; a disabled frame around it also keeps
+  /// the user out, see usable().
+  virtual bool enabled() const { return enabled_; }
   void setEnabled(bool on);
   /// Also shows or hides the label in front of the control.
   bool visible() const { return visible_; }
@@ -72,7 +73,7 @@ class Control {
   std::function<void(KeyPress&)> onKeyPress;
 
   // For the form and its layout.
-  void enteredByFocus();
+  virtual void enteredByFocus();
   virtual void leftByFocus(Control* next);
   void placeIn(Frame* frame, TabStrip* strip, int page);
   Frame* frame() const { return frame_; }

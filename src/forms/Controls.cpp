@@ -23,6 +23,10 @@ void Frame::setCaption(std::string caption) {
 CheckBox::CheckBox(Form& form, std::string name, std::string caption)
     : Control(form, std::move(name)), caption_(std::move(caption)) {}
 
+bool CheckBox::enabled() const {
+  return Control::enabled() && !form().isReadOnly();
+}
+
 void CheckBox::setValue(bool on) {
   if (value_ == on) return;
   value_ = on;
@@ -32,6 +36,10 @@ void CheckBox::setValue(bool on) {
 
 OptionButton::OptionButton(Form& form, std::string name, std::string caption, std::string group)
     : Control(form, std::move(name)), caption_(std::move(caption)), group_(std::move(group)) {}
+
+bool OptionButton::enabled() const {
+  return Control::enabled() && !form().isReadOnly();
+}
 
 void OptionButton::setValue(bool on) {
   if (on) {
@@ -47,6 +55,10 @@ void OptionButton::setValue(bool on) {
 
 Button::Button(Form& form, std::string name, std::string caption)
     : Control(form, std::move(name)), caption_(std::move(caption)) {}
+
+bool Button::enabled() const {
+  return Control::enabled() && (!form().isReadOnly() || form().servesReading(*this));
+}
 
 void Button::setCaption(std::string caption) {
   caption_ = std::move(caption);

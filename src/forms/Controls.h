@@ -58,8 +58,10 @@ class TextBox : public Control {
   /// The same from the user's side: keeps to maxLength and to one line, refused when locked.
   void enterText(const std::string& text);
 
-  /// Shown and selectable, but not to be changed by the user.
-  bool locked() const { return locked_; }
+  /// Shown and selectable, but not to be changed by the user. In a form that can only be read all
+  /// are, also those that are otherwise disabled.
+  bool locked() const;
+  bool enabled() const override;
   void setLocked(bool on);
   int maxLength() const { return maxLength_; }  // 0: no limit
   void setMaxLength(int n);
@@ -91,6 +93,9 @@ class TextBox : public Control {
   std::function<bool(const std::string& text)> fits;
 
   bool canTakeFocus() const override { return true; }
+  /// One line is selected whole, so that what is typed takes its place; a text of several lines is
+  /// not, lest one key wipe it out.
+  void enteredByFocus() override;
   void leftByFocus(Control* next) override;
   /// Runs onKeyPress and the quote rule over a key, then types it. Without a window only.
   void press(KeyPress key);
@@ -170,7 +175,7 @@ class ListControl : public Control {
   /// Chooses from the user's side: refused when locked or disabled.
   bool userSelect(int index);
 
-  bool locked() const { return locked_; }
+  bool locked() const;
   void setLocked(bool on);
 
   std::function<void()> onClick;
@@ -218,6 +223,7 @@ class CheckBox : public Control {
   const std::string& caption() const { return caption_; }
   bool value() const { return value_; }
   void setValue(bool on);
+  bool enabled() const override;
   std::function<void()> onClick;
   bool canTakeFocus() const override { return true; }
 
@@ -235,6 +241,7 @@ class OptionButton : public Control {
   bool value() const { return value_; }
   /// Choosing fires onClick, from code too; taking back fires nothing.
   void setValue(bool on);
+  bool enabled() const override;
   std::function<void()> onClick;
   bool canTakeFocus() const override { return true; }
 
@@ -255,6 +262,7 @@ class Button : public Control {
   /// Pressed by Escape and by closing the window.
   bool isCancel() const { return cancel_; }
   void setCancel(bool on) { cancel_ = on; }
+  bool enabled() const override;
   /// From code: fires whether enabled or not. A user's click goes through Form::userClick.
   void click();
   std::function<void()> onClick;

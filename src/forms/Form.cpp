@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "forms/ReadOnlyBar.h"
+
 namespace fidaleon::forms {
 
 namespace {
@@ -26,6 +28,7 @@ Form::Form(UserInterface& ui, std::string name) : ui_(ui), name_(std::move(name)
 Form::~Form() {
   active_ = nullptr;
   observer_ = nullptr;
+  readOnly_.reset();
   ownLabels_.clear();
 }
 
@@ -116,6 +119,8 @@ std::vector<Control*> Form::tabOrder() const {
     for (const LayoutNode& child : node.children) walk(child);
   };
   walk(layout_);
+  // What is read comes before the way to get further.
+  if (readOnly_) std::rotate(order.begin(), order.begin() + 1, order.end());
   return order;
 }
 
@@ -125,6 +130,13 @@ void Form::focusFirst() {
     moveFocus(*control);
     return;
   }
+}
+
+bool Form::focusFirstOn(const TabStrip& strip) {
+  for (Control* control : tabOrder())
+    if (control->strip() == &strip && control->page() == strip.tab() && control->reachable())
+      return moveFocus(*control);
+  return false;
 }
 
 void Form::focusNext(bool backwards) {

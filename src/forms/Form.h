@@ -3,6 +3,7 @@
 #include <deque>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -21,6 +22,14 @@ class FormObserver {
   virtual void focusChanged(Control* active) = 0;
   virtual void captionChanged() = 0;
   virtual void unloaded() = 0;
+};
+
+/// Why a form can only be read, and how to get further.
+struct ReadOnly {
+  std::string why;  // for the user: who has it, since when
+  /// Tries to get what was missing: nothing when it is there now, otherwise why not. Unset when
+  /// there is nothing to be tried.
+  std::function<std::optional<std::string>()> retry;
 };
 
 /// A dialog without a toolkit: named controls, a layout, the focus, and one handler per event.
@@ -43,6 +52,16 @@ class Form {
   /// Loads if need be and stays until the form is unloaded. A form that unloads itself while
   /// loading is not shown.
   void Show();
+  /// Loads and shows the form, to be read only where there is a notice. True when another try has
+  /// got what was missing: the form was closed to be opened anew with what is stored now.
+  bool open(const std::optional<ReadOnly>& notice);
+  /// Nothing in it can be changed from now on: fields and lists can be read and copied, every
+  /// button is off but the one that cancels, and a bar at the top says why and tries again. Once,
+  /// when the layout is there and before the form is shown.
+  void setReadOnly(ReadOnly notice);
+  bool isReadOnly() const { return readOnly_ != nullptr; }
+  /// The buttons that stay on in a form that can only be read.
+  bool servesReading(const Button& button) const;
   /// Closes the form without asking; Form_Unload runs once.
   void Unload();
   bool isLoaded() const { return loaded_; }
@@ -57,6 +76,8 @@ class Form {
   /// From code. Inside a handler it is queued and wins over where the user was going.
   void setFocus(Control& control);
   void focusFirst();
+  /// The first that can be reached on the tab in front; false when there is none.
+  bool focusFirstOn(const TabStrip& strip);
   /// Next or previous control in tab order that can be reached.
   void focusNext(bool backwards = false);
   /// Leaves the current field, then clicks if the focus could come and the button is usable.
@@ -87,6 +108,8 @@ class Form {
   void setLayout(LayoutNode layout);
 
  private:
+  class ReadOnlyBar;
+  void tryAgain();
   void place(LayoutNode& node, Frame* frame, TabStrip* strip, int page);
   void settleFocus(Control* target);
   void rescueFocus(Control& lost);
@@ -98,6 +121,8 @@ class Form {
   std::vector<Control*> controls_;
   std::vector<std::unique_ptr<Label>> ownLabels_;
   LayoutNode layout_;
+  std::unique_ptr<ReadOnlyBar> readOnly_;
+  bool reopens_ = false;
   Control* active_ = nullptr;
   Control* pending_ = nullptr;
   bool moving_ = false;

@@ -65,6 +65,12 @@ LayoutNode buttons(std::vector<Control*> controls) {
   return node;
 }
 
+LayoutNode bar(Control& notice, std::vector<Control*> buttons) {
+  LayoutNode node = item(notice, std::move(buttons));
+  node.kind = LayoutNode::Kind::Bar;
+  return node;
+}
+
 LayoutNode stretch() {
   return container(LayoutNode::Kind::Stretch, {});
 }

@@ -22,6 +22,7 @@ struct LayoutNode {
     Page,     // one tab, children under each other
     Buttons,  // buttons at the right end of a row
     Stretch,  // takes what room is left
+    Bar,      // a notice across the top, its label with buttons behind it
   };
   Kind kind = Kind::Column;
   Control* control = nullptr;
@@ -45,5 +46,6 @@ LayoutNode page(Nodes children);
 LayoutNode tabs(TabStrip& strip, Nodes pages);
 LayoutNode buttons(std::vector<Control*> controls);
 LayoutNode stretch();
+LayoutNode bar(Control& notice, std::vector<Control*> buttons);
 
 }  // namespace fidaleon::forms

@@ -60,9 +60,13 @@ std::int64_t ListControl::data() const {
 }
 
 bool ListControl::userSelect(int index) {
-  if (locked_ || !usable()) return false;
+  if (locked() || !usable()) return false;
   setListIndex(index);
   return true;
+}
+
+bool ListControl::locked() const {
+  return locked_ || form().isReadOnly();
 }
 
 void ListControl::setLocked(bool on) {

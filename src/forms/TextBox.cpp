@@ -59,7 +59,7 @@ std::string TextBox::accepted(const std::string& text) const {
 }
 
 void TextBox::enterText(const std::string& text) {
-  if (locked_ || !usable()) return;
+  if (locked() || !usable()) return;
   const std::string next = accepted(text);
   if (refuses(next)) return form().ui().beep();
   setText(next);
@@ -90,6 +90,14 @@ std::string TextBox::withTyped(const KeyPress& key) const {
   return text::left(text_, from) + typed + text::mid(text_, to);
 }
 
+bool TextBox::locked() const {
+  return locked_ || form().isReadOnly();
+}
+
+bool TextBox::enabled() const {
+  return Control::enabled() || form().isReadOnly();
+}
+
 void TextBox::setLocked(bool on) {
   if (locked_ == on) return;
   locked_ = on;
@@ -112,15 +120,20 @@ void TextBox::selectAll() {
   setSelection(0, static_cast<int>(text::length(text_)));
 }
 
+void TextBox::enteredByFocus() {
+  if (!multiline()) selectAll();
+  Control::enteredByFocus();
+}
+
 void TextBox::leftByFocus(Control* next) {
-  if (!locked_ && text_.find('"') != std::string::npos && quoteRule_ != QuoteRule::Keep)
+  if (!locked() && text_.find('"') != std::string::npos && quoteRule_ != QuoteRule::Keep)
     setText(text::replaceAll(text_, "\"", quoteRule_ == QuoteRule::Replace ? "''" : ""));
   Control::leftByFocus(next);
 }
 
 void TextBox::filterKey(KeyPress& key) {
   if (onKeyPress) onKeyPress(key);
-  if (key.changed() || locked_ || key.ctrl || key.alt) return;
+  if (key.changed() || locked() || key.ctrl || key.alt) return;
   if (key.character == U'"' && quoteRule_ != QuoteRule::Keep) key.replaceWith("''");
   const bool digit = key.character >= U'0' && key.character <= U'9';
   if (digitsOnly_ && key.character >= U' ' && !digit) key.swallow();
@@ -130,7 +143,7 @@ void TextBox::filterKey(KeyPress& key) {
 }
 
 void TextBox::insertAtCaret(const std::string& text) {
-  if (locked_) return;
+  if (locked()) return;
   const std::string before = text::left(text_, selStart_);
   const std::string after = text::mid(text_, selStart_ + selLength_);
   std::string piece = text;

@@ -77,6 +77,11 @@ void LayoutBuilder::build(const LayoutNode& root, QWidget* window) {
   auto* outer = new QVBoxLayout(window);
   forms::Nodes nodes = root.kind == Kind::Column ? root.children : forms::Nodes{root};
   forms::Nodes foot;
+  // A notice stays in sight above what scrolls.
+  while (!nodes.empty() && nodes.front().kind == Kind::Bar) {
+    addBar(nodes.front(), *outer, window);
+    nodes.erase(nodes.begin());
+  }
   while (!nodes.empty() && nodes.back().kind == Kind::Buttons) {
     foot.insert(foot.begin(), nodes.back());
     nodes.pop_back();
@@ -121,6 +126,8 @@ void LayoutBuilder::add(const LayoutNode& node, QBoxLayout& box, QWidget* parent
       return addButtons(node, box, parent);
     case Kind::Stretch:
       return box.addStretch(1);
+    case Kind::Bar:
+      return addBar(node, box, parent);
   }
 }
 
@@ -155,6 +162,23 @@ void LayoutBuilder::addButtons(const LayoutNode& node, QBoxLayout& box, QWidget*
   for (const LayoutNode& child : node.children)
     if (child.control) row->addWidget(control(*child.control, parent));
   box.addLayout(row);
+}
+
+void LayoutBuilder::addBar(const LayoutNode& node, QBoxLayout& box, QWidget* parent) {
+  auto* frame = new QFrame(parent);
+  frame->setFrameShape(QFrame::StyledPanel);
+  frame->setAutoFillBackground(true);
+  QPalette colours = parent->palette();
+  colours.setColor(QPalette::Window, colours.color(QPalette::ToolTipBase));
+  colours.setColor(QPalette::WindowText, colours.color(QPalette::ToolTipText));
+  frame->setPalette(colours);
+  auto* row = new QHBoxLayout(frame);
+  auto* text = qobject_cast<QLabel*>(control(*node.control, frame));
+  text->setWordWrap(true);
+  text->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  row->addWidget(text, 1);
+  for (forms::Control* button : node.beside) row->addWidget(control(*button, frame));
+  box.addWidget(frame);
 }
 
 void LayoutBuilder::addGroup(const LayoutNode& node, QBoxLayout& box, QWidget* parent) {

@@ -24,6 +24,7 @@ class LayoutBuilder {
   void addAll(const forms::Nodes& nodes, QBoxLayout& box, QWidget* parent);
   void addRow(const forms::LayoutNode& node, QBoxLayout& box, QWidget* parent);
   void addButtons(const forms::LayoutNode& node, QBoxLayout& box, QWidget* parent);
+  void addBar(const forms::LayoutNode& node, QBoxLayout& box, QWidget* parent);
   void addGroup(const forms::LayoutNode& node, QBoxLayout& box, QWidget* parent);
   void addTabs(const forms::LayoutNode& node, QBoxLayout& box, QWidget* parent);
   void addItem(const forms::LayoutNode& node, QBoxLayout& box, QWidget* parent);

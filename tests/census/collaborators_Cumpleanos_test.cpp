@@ -28,6 +28,7 @@ struct CampoWorld {
   void teclear(const std::string& cifras) { u.type("campo", cifras); }
   /// The key with so much of the text selected, in front of the caret.
   void pulsar(Key tecla, char32_t caracter, int desde, int cuantos = 0) {
+    u.focus("campo");
     formulario.campo.setSelection(desde, cuantos);
     KeyPress pulsada;
     pulsada.key = tecla;

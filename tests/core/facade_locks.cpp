@@ -177,7 +177,8 @@ TEST(FacadeLocks, HeldByAnother_OpensWithTheCancelButtonOnly) {
     const auto soloCancelar = [](forms::FormDriver& u) {
       for (forms::Control* control : u.form().controls()) {
         if (!dynamic_cast<forms::Button*>(control)) continue;
-        EXPECT_EQ(control->enabled(), control->name() == "cmdBautismo(1)") << control->name();
+        const bool on = control->name() == "cmdBautismo(1)" || control->name() == "cmdReintentar";
+        EXPECT_EQ(control->enabled(), on) << control->name();
       }
       cancelar(u);
     };
@@ -189,6 +190,38 @@ TEST(FacadeLocks, HeldByAnother_OpensWithTheCancelButtonOnly) {
     EXPECT_EQ(w.bloqueos().back(), "liberar");
     EXPECT_SCRIPT_DONE(w.user);
   }
+}
+
+TEST(FacadeLocks, HeldByAnother_CanBeTriedAgainAndOpensAsItIsNow) {
+  FacadeWorld w;
+  auto otra = w.ocupar("Bautismo", "1");
+  w.user.answerAnything(forms::Answer::Ok);
+  w.user.expectForm("frmPartidaBautismo", [&](forms::FormDriver& u) {
+    EXPECT_EQ(u.text("lblSoloLectura"),
+              "Solo se puede consultar: lo tiene luis, en el equipo SACRISTIA, desde el 22/11/2026 "
+              "a las 10:30.");
+    u.tab("mstBautismo", 1);
+    EXPECT_TRUE(u.locked("txtBautismo(7)") && u.enabled("txtBautismo(7)"));
+    EXPECT_TRUE(u.locked("cboBautismo(22)"));
+    u.click("cmdReintentar");
+    EXPECT_FALSE(u.closed());
+    w.run("UPDATE bautismo_hijo SET Nombre='Rosario'");
+    otra.reset();
+    u.click("cmdReintentar");
+    EXPECT_TRUE(u.closed());
+  });
+  w.user.expectForm("frmPartidaBautismo", [&](forms::FormDriver& u) {
+    EXPECT_EQ(u.text("txtBautismo(7)"), "Rosario");
+    EXPECT_EQ(u.form().find("cmdReintentar"), nullptr);
+    u.tab("mstBautismo", 1);
+    u.type("txtBautismo(7)", "Rosa");
+    u.click("cmdBautismo(0)");
+  });
+  w.nucleo.PropiedadesPartida(w.con(), 1, w.config, "PartidasBautismo");
+  EXPECT_EQ(w.user.messages().size(), 2u) << "once on opening, once on the try in vain";
+  EXPECT_EQ(w.value("SELECT Nombre FROM bautismo_hijo"), "Rosa");
+  w.esperarLibre();
+  EXPECT_SCRIPT_DONE(w.user);
 }
 
 TEST(FacadeLocks, UnknownNode_NoDialogNoLock) {

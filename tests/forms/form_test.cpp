@@ -166,6 +166,17 @@ TEST_F(FormTest, tabs_mouseDownRefuses_staysAndFiresNothing) {
   EXPECT_EQ(clicks, 1);
 }
 
+TEST_F(FormTest, arriving_selectsOneLineAndLeavesATextOfSeveral) {
+  form.txtCode.setText("12345");
+  form.moveFocus(form.txtCode);
+  EXPECT_EQ(form.txtCode.selLength(), 5);
+  form.mst.setTab(1);
+  form.txtNotes.setLines(4);
+  form.txtNotes.setText("Casado en 1990.");
+  form.moveFocus(form.txtNotes);
+  EXPECT_EQ(form.txtNotes.selLength(), 0);
+}
+
 TEST_F(FormTest, hiddenFocusedControl_handsTheFocusOnWithoutLeaving) {
   int left = 0;
   form.txtName.onLostFocus = [&](Control*) { ++left; };

@@ -351,6 +351,7 @@ TEST_F(FormDialogTest, ControlTabInAnyControl_SwitchesTheTab) {
     go(*field);
     QTest::keyClick(dialog->fieldOf(*field), Qt::Key_Tab, Qt::ControlModifier);
     EXPECT_EQ(form.strip.tab(), (tab + 1) % pages) << field->name();
+    EXPECT_TRUE(form.activeControl()->page() == form.strip.tab() || form.strip.tab() == 3);
     form.strip.setTab(tab);
     go(*field);
     QTest::keyClick(dialog->fieldOf(*field), Qt::Key_Backtab,
@@ -360,6 +361,34 @@ TEST_F(FormDialogTest, ControlTabInAnyControl_SwitchesTheTab) {
 }
 
 // Lists.
+
+TEST_F(FormDialogTest, FullFieldReachedInAnyWay_TakesWhatIsTyped) {
+  const auto typed = [&](const TextBox& box) {
+    QTest::keyClicks(QApplication::focusWidget(), "01021998");
+    const std::string text = box.text();
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Z, Qt::ControlModifier);
+    return text;
+  };
+  form.born.setText("22/11/2026");
+  go(form.surname1);
+  clickOn(form.born);
+  focusIs(form.born);
+  EXPECT_EQ(typed(form.born), "01021998");
+  go(form.sex);
+  QTest::keyClick(dialog->fieldOf(form.sex), Qt::Key_Tab);
+  focusIs(form.born);
+  EXPECT_EQ(typed(form.born), "01021998");
+  form.name.setMaxLength(8);
+  form.name.setText("Eleonora");
+  form.strip.setTab(3);
+  go(form.folio);
+  QTest::keyClick(&line(form.folio), Qt::Key_Tab, Qt::ControlModifier);
+  focusIs(form.name);
+  EXPECT_EQ(typed(form.name), "01021998");
+  // A second click puts the caret among the letters.
+  clickOn(form.name);
+  EXPECT_EQ(line(form.name).selectedText(), "");
+}
 
 TEST_F(FormDialogTest, LettersInCombo_FindWithoutAccentsAndWalkOnRepeat) {
   auto& combo = field<QComboBox>(form.province);
@@ -395,6 +424,9 @@ TEST_F(FormDialogTest, LockedComboAndWheel_ChangeNothing) {
   QTest::keyClick(&combo, Qt::Key_Space);
   QTest::mouseClick(&combo, Qt::LeftButton);
   EXPECT_FALSE(QApplication::activePopupWidget());
+  QTest::keyClick(&combo, Qt::Key_C, Qt::ControlModifier);
+  EXPECT_EQ(QApplication::clipboard()->text(), combo.currentText());
+  EXPECT_FALSE(combo.currentText().isEmpty());
   go(form.institution);
   QWheelEvent wheel({5, 5}, {5, 5}, {}, {0, -120}, Qt::NoButton, {}, Qt::NoScrollPhase, false);
   QApplication::sendEvent(&field<QComboBox>(form.institution), &wheel);

@@ -87,7 +87,7 @@ class BaptismWorld : public ::testing::Test {
         operation == cCOperacion::ANADIRSOLICITUD || operation == cCOperacion::EDITARSOLICITUD;
     if (!request) dialog.Origen = cCOrigen::PRINCIPAL;
     dialog.Load();
-    if (readOnly) dialog.soloLectura();
+    if (readOnly) dialog.setReadOnly({"Solo se puede consultar.", {}});
     dialog.Show();
   }
 

@@ -228,34 +228,39 @@ TEST_F(BookData, BookThatCannotBeStored_StaysOpenWithItsEntriesSaved) {
 TEST_F(BookData, HeldByAnother_OnlyWhatIsFreeCanBeChanged) {
   const std::int32_t nuevo = book("Libro 1", true, 3);
   fill(nuevo, {"Luis"});
-  const auto open = [&](void (frmPropiedadesLibro::*limit)(), forms::ScriptedUser::Act act) {
+  const auto open = [&](const auto& limit, forms::ScriptedUser::Act act) {
     w.user.expectForm(PROPERTIES, std::move(act));
     frmPropiedadesLibroBautismo dialog(w.contexto);
     dialog.conBaseDatos = &w.con();
     dialog.lngLibro = nuevo;
     dialog.Load();
-    (dialog.*limit)();
+    limit(dialog);
     dialog.Show();
   };
-  open(&frmPropiedadesLibro::sinNombre, [&](FormDriver& d) {
-    EXPECT_FALSE(d.enabled("txtNombreLibro"));
-    EXPECT_FALSE(d.enabled("cboTipoNombre"));
-    toEntries(d);
-    rename(d, 1, "Luis", "Lucas");
-    acceptBook(d);
-  });
-  open(&frmPropiedadesLibro::soloLectura, [&](FormDriver& d) {
-    EXPECT_TRUE(d.enabled("txtNombreLibro"));
-    d.tab("mstLibro", 1);
-    EXPECT_EQ(d.focused(), "msgPartidas");
-    for (int i = 0; i < 4; ++i)
-      EXPECT_FALSE(d.enabled("cmdPartidas(" + std::to_string(i) + ")")) << i;
-    d.doubleClick("msgPartidas", 1);
-    d.row("msgPartidas", 1);
-    d.enter();
-    EXPECT_FALSE(d.closed());
-    d.escape();
-  });
+  open([](frmPropiedadesLibro& d) { d.sinNombre(); },
+       [&](FormDriver& d) {
+         EXPECT_FALSE(d.enabled("txtNombreLibro"));
+         EXPECT_FALSE(d.enabled("cboTipoNombre"));
+         toEntries(d);
+         rename(d, 1, "Luis", "Lucas");
+         acceptBook(d);
+       });
+  open(
+      [](frmPropiedadesLibro& d) {
+        d.setReadOnly({"Lo tiene luis.", {}});
+      },
+      [&](FormDriver& d) {
+        EXPECT_TRUE(d.locked("txtNombreLibro"));
+        d.tab("mstLibro", 1);
+        EXPECT_EQ(d.focused(), "msgPartidas");
+        for (int i = 0; i < 4; ++i)
+          EXPECT_FALSE(d.enabled("cmdPartidas(" + std::to_string(i) + ")")) << i;
+        d.doubleClick("msgPartidas", 1);
+        d.row("msgPartidas", 1);
+        d.enter();
+        EXPECT_FALSE(d.closed());
+        d.escape();
+      });
   EXPECT_EQ(w.value("SELECT Nombre FROM bautismo_hijo"), "Lucas");
   EXPECT_SCRIPT_DONE(w.user);
 }

@@ -238,20 +238,22 @@ TEST_F(BookEntries, EntryHeldElsewhere_IsReadOnlyUntilItIsFree) {
   w.user.answerAnything(Answer::Ok);  // the lock service says who has it
   openBook(nuevo, [&](FormDriver& d) {
     toEntries(d);
-    {
-      const auto other = heldElsewhere(idOf("Eva"));
-      w.user.expectForm(DIALOG, [](FormDriver& e) {
-        EXPECT_FALSE(e.enabled("cmdBautismo(0)"));
-        e.escape();
-      });
-      d.doubleClick("msgPartidas", 2);
-      d.click("cmdPartidas(2)");
-      remove(d, 2);
-      EXPECT_THAT(shown(d), ElementsAre("1/1 Luis", "2/2 Eva"));
-      EXPECT_EQ(grid(d).cell(2, 6), "NO");
-      EXPECT_EQ(w.user.messages().size(), 3u);
+    auto other = heldElsewhere(idOf("Eva"));
+    w.user.expectForm(DIALOG, [](FormDriver& e) {
+      EXPECT_FALSE(e.enabled("cmdBautismo(0)"));
+      e.escape();
+    });
+    d.doubleClick("msgPartidas", 2);
+    d.click("cmdPartidas(2)");
+    remove(d, 2);
+    EXPECT_THAT(shown(d), ElementsAre("1/1 Luis", "2/2 Eva"));
+    EXPECT_EQ(grid(d).cell(2, 6), "NO");
+    EXPECT_EQ(w.user.messages().size(), 3u);
+    w.user.expectForm(DIALOG, [&](FormDriver& e) {
       w.con().Execute("UPDATE bautismo_hijo SET nombre=\"Elena\" WHERE nombre=\"Eva\"");
-    }
+      other.reset();
+      e.click("cmdReintentar");
+    });
     rename(d, 2, "Elena", "Esther");  // as the other has left it
     acceptBook(d);
   });

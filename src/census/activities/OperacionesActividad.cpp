@@ -3,7 +3,6 @@
 #include "census/Operaciones.h"
 #include "census/activities/frmActividad.h"
 #include "census/common/Eliminacion.h"
-#include "census/common/SoloLectura.h"
 #include "core/contract/SesionBloqueos.h"
 
 namespace fidaleon::censo {
@@ -47,19 +46,17 @@ void EditaActividad(Contexto& contexto, FDAPI::Conexion& conexion, std::int32_t 
   SesionBloqueos sesion(contexto, conexion);
   sesion.registroPorClave("Actividad", "IdActividad", id);
   sesion.tablasCompartidas({"Institucion"});
-  const auto apertura = sesion.efectuarParaFicha();
-  if (apertura == SesionBloqueos::Apertura::NINGUNA) return;
-  frmActividad dialogo(contexto);
-  prepararActividad(dialogo, conexion, cCOperacion::EDITAR, blnOcultar, origen);
-  dialogo.IDActividad = id;
-  dialogo.Load();
-  if (apertura == SesionBloqueos::Apertura::SOLO_LECTURA)
-    ponerSoloLectura(dialogo, dialogo.cmdActividad[frmActividad::CANCELAR]);
-  dialogo.Show();
+  sesion.mostrar(sesion.efectuarParaFicha(), [&](const auto& aviso) {
+    frmActividad dialogo(contexto);
+    prepararActividad(dialogo, conexion, cCOperacion::EDITAR, blnOcultar, origen);
+    dialogo.IDActividad = id;
+    return dialogo.open(aviso);
+  });
 }
 
 void EliminaActividad(Contexto& contexto, FDAPI::Conexion& conexion, std::int32_t id) {
-  if (!preguntarEliminacion(contexto, "una", "Actividad")) return;
+  if (!preguntarEliminacion(contexto, "una", "Actividad", nombreDe(conexion, "Actividad", id)))
+    return;
   SesionBloqueos sesion(contexto, conexion);
   sesion.registroPorClave("Actividad", "IdActividad", id);
   if (!sesion.efectuar()) return;

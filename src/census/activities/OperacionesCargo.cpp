@@ -1,7 +1,6 @@
 #include "census/Operaciones.h"
 #include "census/activities/frmCargo.h"
 #include "census/common/Eliminacion.h"
-#include "census/common/SoloLectura.h"
 #include "core/contract/SesionBloqueos.h"
 
 namespace fidaleon::censo {
@@ -22,20 +21,17 @@ void NuevoCargo(Contexto& contexto, FDAPI::Conexion& conexion, bool) {
 void EditaCargo(Contexto& contexto, FDAPI::Conexion& conexion, std::int32_t id) {
   SesionBloqueos sesion(contexto, conexion);
   sesion.registroPorClave("Cargo", "IdCargo", id);
-  const auto apertura = sesion.efectuarParaFicha();
-  if (apertura == SesionBloqueos::Apertura::NINGUNA) return;
-  frmCargo dialogo(contexto);
-  dialogo.conBaseDatos = &conexion;
-  dialogo.Operacion = cCOperacion::EDITAR;
-  dialogo.IDCargo = id;
-  dialogo.Load();
-  if (apertura == SesionBloqueos::Apertura::SOLO_LECTURA)
-    ponerSoloLectura(dialogo, dialogo.cmdCargo[frmCargo::CANCELAR]);
-  dialogo.Show();
+  sesion.mostrar(sesion.efectuarParaFicha(), [&](const auto& aviso) {
+    frmCargo dialogo(contexto);
+    dialogo.conBaseDatos = &conexion;
+    dialogo.Operacion = cCOperacion::EDITAR;
+    dialogo.IDCargo = id;
+    return dialogo.open(aviso);
+  });
 }
 
 void EliminaCargo(Contexto& contexto, FDAPI::Conexion& conexion, std::int32_t id) {
-  if (!preguntarEliminacion(contexto, "un", "Cargo")) return;
+  if (!preguntarEliminacion(contexto, "un", "Cargo", nombreDe(conexion, "Cargo", id))) return;
   SesionBloqueos sesion(contexto, conexion);
   sesion.registroPorClave("Cargo", "IdCargo", id);
   if (!sesion.efectuar()) return;

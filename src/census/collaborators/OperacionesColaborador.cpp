@@ -55,20 +55,18 @@ void EditaColaborador(Contexto& contexto, FDAPI::Conexion& conexion, std::int32_
   SesionBloqueos bloqueos(contexto, conexion);
   bloqueos.registroPorClave("Padron", "IdPadron", id);
   bloqueos.tablasCompartidas({"Provincia", "Municipio"});
-  const SesionBloqueos::Apertura apertura = bloqueos.efectuarParaFicha();
-  if (apertura == SesionBloqueos::Apertura::NINGUNA) return;
-  frmColaborador dialogo(contexto);
-  dialogo.conBaseDatos = &conexion;
-  dialogo.Operacion = cCOperacion::EDITAR;
-  dialogo.Origen = origen;
-  dialogo.IDPadron = id;
-  dialogo.Load();
-  if (apertura == SesionBloqueos::Apertura::SOLO_LECTURA) dialogo.soloLectura();
-  dialogo.Show();
+  bloqueos.mostrar(bloqueos.efectuarParaFicha(), [&](const auto& aviso) {
+    frmColaborador dialogo(contexto);
+    dialogo.conBaseDatos = &conexion;
+    dialogo.Operacion = cCOperacion::EDITAR;
+    dialogo.Origen = origen;
+    dialogo.IDPadron = id;
+    return dialogo.open(aviso);
+  });
 }
 
 void EliminaColaborador(Contexto& contexto, FDAPI::Conexion& conexion, std::int32_t id) {
-  if (!preguntarEliminacion(contexto, "un", "Colaborador")) return;
+  if (!preguntarEliminacion(contexto, "un", "Colaborador", nombrePersona(conexion, id))) return;
   SesionBloqueos bloqueos(contexto, conexion);
   bloqueos.registroPorClave("Padron", "IdPadron", id);
   if (!bloqueos.efectuar()) return;

@@ -6,7 +6,6 @@
 
 #include "census/collaborators/TablasColaborador.h"
 #include "census/common/CamposPersona.h"
-#include "census/common/SoloLectura.h"
 #include "core/contract/Guard.h"
 #include "core/lists/Rejilla.h"
 #include "core/lists/cIListas.h"
@@ -221,10 +220,6 @@ void frmColaborador::comprobarPoblaciones() const {
   for (const Lista lista : {ProvinciaDomicilio, ProvinciaBautismo})
     if (cboColaborador[lista].listIndex() >= 0 && cboColaborador[lista + 1].listIndex() < 0)
       throw std::runtime_error("No se han podido leer las poblaciones de esta persona.");
-}
-
-void frmColaborador::soloLectura() {
-  ponerSoloLectura(*this, cmdColaborador[CANCELAR]);
 }
 
 }  // namespace fidaleon

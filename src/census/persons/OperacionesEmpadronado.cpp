@@ -11,23 +11,14 @@ using FDAPI::cCOperacion;
 
 namespace {
 
-std::string borrar(const char* tabla, std::int32_t id) {
-  return std::string("DELETE * FROM ") + tabla + " WHERE CodPadron=" + std::to_string(id);
-}
-
 void eliminarDelTodo(Eliminacion& eliminacion, std::int32_t id) {
-  for (const char* tabla :
-       {"Padron_TipoPersona", "Padron_Nacimiento", "Padron_Bautismo", "Padron_Comunion",
-        "Padron_Confirmacion", "Padron_Matrimonio", "Padron_Defuncion"})
-    eliminacion.paso(borrar(tabla, id));
-  eliminacion.paso("DELETE * FROM Padron WHERE IDPadron=" + std::to_string(id));
-  eliminacion.paso(borrar("Padron_NotasPersonales", id));
+  for (const std::string& sentencia : sqlBorrarPersona(id)) eliminacion.paso(sentencia);
 }
 
 // The person stays for another role. The changes without a condition reach every person, as they
 // always have.
 void dejarDeEmpadronar(Eliminacion& eliminacion, FDAPI::Conexion& conexion, std::int32_t id) {
-  eliminacion.paso(borrar("Padron_TipoPersona", id) + " AND CodTipoPersona=2");
+  eliminacion.paso(sqlBorrarDe("Padron_TipoPersona", id) + " AND CodTipoPersona=2");
   if (conexion
           .Execute("SELECT * FROM Padron_TipoPersona WHERE CodPadron=" + std::to_string(id) +
                    " AND CodTipoPersona=3")
@@ -45,7 +36,7 @@ void dejarDeEmpadronar(Eliminacion& eliminacion, FDAPI::Conexion& conexion, std:
       "UPDATE Padron_Matrimonio SET "
       "FechaMatrimonio='',ParroquiaMatr='',DireccionParrMatr='',CodMunicipioParrMatr=0;");
   eliminacion.paso("UPDATE Padron_Defuncion SET FechaDefuncion='',Nicho='',Importe=0;");
-  eliminacion.paso(borrar("Padron_NotasPersonales", id));
+  eliminacion.paso(sqlBorrarDe("Padron_NotasPersonales", id));
 }
 
 /// The key that the dialog hands back, 0 when there is none.
@@ -71,19 +62,17 @@ void EditaEmpadronado(Contexto& contexto, FDAPI::Conexion& conexion, std::int32_
   SesionBloqueos sesion(contexto, conexion);
   sesion.registroPorClave("Padron", "IdPadron", id);
   sesion.tablasCompartidas({"Institucion", "Provincia", "Municipio"});
-  const SesionBloqueos::Apertura apertura = sesion.efectuarParaFicha();
-  if (apertura == SesionBloqueos::Apertura::NINGUNA) return;
-  frmPadron dialogo(contexto);
-  dialogo.conBaseDatos = &conexion;
-  dialogo.Operacion = cCOperacion::EDITAR;
-  dialogo.IDPadron = id;
-  dialogo.Load();
-  if (apertura == SesionBloqueos::Apertura::SOLO_LECTURA) dialogo.soloLectura();
-  dialogo.Show();
+  sesion.mostrar(sesion.efectuarParaFicha(), [&](const auto& aviso) {
+    frmPadron dialogo(contexto);
+    dialogo.conBaseDatos = &conexion;
+    dialogo.Operacion = cCOperacion::EDITAR;
+    dialogo.IDPadron = id;
+    return dialogo.open(aviso);
+  });
 }
 
 void EliminaEmpadronado(Contexto& contexto, FDAPI::Conexion& conexion, std::int32_t id) {
-  if (!preguntarEliminacion(contexto, "un", "Empadronado")) return;
+  if (!preguntarEliminacion(contexto, "un", "Empadronado", nombrePersona(conexion, id))) return;
   SesionBloqueos sesion(contexto, conexion);
   sesion.registroPorClave("Padron", "IdPadron", id);
   if (!sesion.efectuar()) return;

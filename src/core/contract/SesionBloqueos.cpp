@@ -77,6 +77,23 @@ long SesionBloqueos::intentarParaAbrir(const char* sinLoCompartido) {
   return intentar();
 }
 
+std::string SesionBloqueos::motivo() const {
+  const std::string quien = poseedor();
+  return SOLO_CONSULTA + std::string(": ") +
+         (quien.empty() ? "los datos no se han podido reservar." : "lo tiene " + quien + ".");
+}
+
+forms::ReadOnly SesionBloqueos::aviso() {
+  return {motivo(), [this]() -> std::optional<std::string> {
+            try {
+              if (efectuar()) return std::nullopt;
+            } catch (const std::exception&) {
+              // The bar says that it could not be had.
+            }
+            return motivo();
+          }};
+}
+
 SesionBloqueos::Apertura SesionBloqueos::efectuarParaAbrir() {
   const long error = intentarParaAbrir();
   if (rehusado_) return Apertura::NINGUNA;

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <initializer_list>
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "core/contract/Contexto.h"
@@ -48,6 +49,10 @@ class SesionBloqueos {
   /// Who has what was refused last, and since when, in words; empty when nobody has.
   std::string poseedor() const { return sesion_->strPoseedor(); }
 
+  /// What a form says that is shown without what could not be had. Its button tries again as long
+  /// as this session lives.
+  forms::ReadOnly aviso();
+
   enum class Apertura { NINGUNA, SOLO_LECTURA, NORMAL };
   /// For an entry that may also be looked at while another works on it.
   Apertura efectuarParaAbrir();
@@ -55,11 +60,24 @@ class SesionBloqueos {
   /// and where nothing can be locked at all; nothing opens when it is gone.
   Apertura efectuarParaFicha();
 
+  /// Opens a dialog as far as `apertura` allows, and anew each time that a user who could only read
+  /// has got the rest. `abrir` makes the dialog and gives back what its Form::open says.
+  template <class Abrir>
+  void mostrar(Apertura apertura, Abrir&& abrir) {
+    while (apertura != Apertura::NINGUNA) {
+      std::optional<forms::ReadOnly> solo;
+      if (apertura == Apertura::SOLO_LECTURA) solo = aviso();
+      apertura = abrir(solo) ? Apertura::NORMAL : Apertura::NINGUNA;
+    }
+  }
+
   /// Gives back the locks of a table, or of table and counter or record ("Grupo3"). A name that is
   /// not held is ignored.
   void liberar(const std::string& nombre) { sesion_->LiberarBloqueo(nombre); }
 
  private:
+  std::string motivo() const;
+
   FDAPI::Conexion& conexion_;
   std::unique_ptr<FDAPI::cProcesarBloqueos> sesion_;
   bool rehusado_ = false;

@@ -20,7 +20,6 @@ class De final : public DialogoPartida {
   }
   forms::Form& formulario() override { return dialogo_; }
   std::string& portapapeles() override { return dialogo_.strPortapapeles; }
-  void soloLectura() override { dialogo_.soloLectura(); }
 
  private:
   Dialogo dialogo_;

@@ -24,7 +24,6 @@ class DialogoPartida {
   virtual forms::Form& formulario() = 0;
   /// The dialog's field for the text of the clipboard.
   virtual std::string& portapapeles() = 0;
-  virtual void soloLectura() = 0;
 };
 
 using CrearDialogoPartida = std::unique_ptr<DialogoPartida> (*)(Contexto&);

@@ -2,16 +2,16 @@
 
 namespace fidaleon {
 
-void mostrarPartida(Contexto& contexto, DialogoPartida& dialogo, FDAPI::Conexion& conBaseDatos,
-                    const DialogoPartida::Apertura& apertura, SesionBloqueos::Apertura modo) {
+bool mostrarPartida(Contexto& contexto, DialogoPartida& dialogo, FDAPI::Conexion& conBaseDatos,
+                    const DialogoPartida::Apertura& apertura,
+                    const std::optional<forms::ReadOnly>& aviso) {
   dialogo.preparar(conBaseDatos, apertura);
   const std::string portapapeles = contexto.ui().clipboardText();
   if (!portapapeles.empty()) dialogo.portapapeles() = portapapeles;
   dialogo.formulario().Load();
   if (contexto.ui().clipboardText().empty() && !dialogo.portapapeles().empty())
     contexto.ui().setClipboardText(dialogo.portapapeles());
-  if (modo == SesionBloqueos::Apertura::SOLO_LECTURA) dialogo.soloLectura();
-  dialogo.formulario().Show();
+  return dialogo.formulario().open(aviso);
 }
 
 std::string existePartida(const Sacramento& sacramento, std::int32_t id) {

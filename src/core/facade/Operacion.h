@@ -16,11 +16,12 @@ void operacion(Contexto& contexto, const char* nombre, Body&& body) {
   guarded(contexto, "cNucleo", nombre, std::forward<Body>(body));
 }
 
-/// Fills the dialog's public fields, loads it and shows it until the user is done. The dialogs
-/// empty the clipboard on loading; what it held is back in it when the user sees the dialog.
-void mostrarPartida(Contexto& contexto, DialogoPartida& dialogo, FDAPI::Conexion& conBaseDatos,
+/// Fills the dialog's public fields, loads it and shows it until the user is done, to be read only
+/// where there is a notice. The dialogs empty the clipboard on loading; what it held is back in it
+/// when the user sees the dialog. The answer is that of Form::open.
+bool mostrarPartida(Contexto& contexto, DialogoPartida& dialogo, FDAPI::Conexion& conBaseDatos,
                     const DialogoPartida::Apertura& apertura,
-                    SesionBloqueos::Apertura modo = SesionBloqueos::Apertura::NORMAL);
+                    const std::optional<forms::ReadOnly>& aviso = std::nullopt);
 
 /// "SELECT IDBautismo FROM Bautismo WHERE IDBautismo=" and the key, for any sacrament.
 std::string existePartida(const Sacramento& sacramento, std::int32_t id);

@@ -10,9 +10,8 @@ namespace {
 
 /// What the user gets to see of a book that is open elsewhere, in part or whole.
 struct AperturaDeLibro {
-  bool abrir = true;
+  SesionBloqueos::Apertura modo = SesionBloqueos::Apertura::NORMAL;
   bool sinNombre = false;
-  bool soloLectura = false;
 };
 
 /// Name and name type rest on what others may hold; all else on the book's own record alone.
@@ -33,8 +32,10 @@ AperturaDeLibro bloquearLibro(SesionBloqueos& sesion, const Sacramento& s, std::
     definirLibro();
     error = sesion.intentarParaAbrir();
   }
-  como.abrir = error != FDAPI::BloqueoRegistroNoExiste && error != FDAPI::BloqueoSesion;
-  como.soloLectura = error != FDAPI::BloqueoNinguno;
+  if (error == FDAPI::BloqueoRegistroNoExiste || error == FDAPI::BloqueoSesion)
+    como.modo = SesionBloqueos::Apertura::NINGUNA;
+  else if (error != FDAPI::BloqueoNinguno)
+    como.modo = SesionBloqueos::Apertura::SOLO_LECTURA;
   return como;
 }
 
@@ -60,18 +61,19 @@ void cNucleo::PropiedadesLibro(FDAPI::Conexion& conBaseDatos, std::int32_t lngLi
                                const FDAPI::cConfig& objConfig, const std::string& strNodoPadre) {
   operacion(contexto_, "PropiedadesLibro", [&] {
     const Sacramento* s = sacramentoDeNodo(strNodoPadre, "Libros");
-    const auto dialogo = s ? crearPropiedadesLibro(contexto_, *s) : nullptr;
+    auto dialogo = s ? crearPropiedadesLibro(contexto_, *s) : nullptr;
     if (!dialogo) return;
     SesionBloqueos sesion(contexto_, conBaseDatos);
     const AperturaDeLibro como = bloquearLibro(sesion, *s, lngLibro);
-    if (!como.abrir) return;
-    contexto_.gobjConfig = &objConfig;
-    dialogo->conBaseDatos = &conBaseDatos;
-    dialogo->lngLibro = lngLibro;
-    dialogo->Load();
-    if (como.sinNombre) dialogo->sinNombre();
-    if (como.soloLectura) dialogo->soloLectura();
-    dialogo->Show();
+    sesion.mostrar(como.modo, [&](const auto& aviso) {
+      contexto_.gobjConfig = &objConfig;
+      if (dialogo->isUnloaded()) dialogo = crearPropiedadesLibro(contexto_, *s);
+      dialogo->conBaseDatos = &conBaseDatos;
+      dialogo->lngLibro = lngLibro;
+      dialogo->Load();
+      if (como.sinNombre) dialogo->sinNombre();
+      return dialogo->open(aviso);
+    });
   });
 }
 

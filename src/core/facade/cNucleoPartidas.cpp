@@ -56,12 +56,11 @@ void cNucleo::PropiedadesPartida(FDAPI::Conexion& conBaseDatos, std::int32_t lng
                                                    " IN (" + libro + ")");
     sesion.registrosCompartidos(s->tablaLibros, libro);
     sesion.registro(s->tablaPartidas, lngID, existePartida(*s, lngID));
-    const SesionBloqueos::Apertura modo = sesion.efectuarParaAbrir();
-    if (modo == SesionBloqueos::Apertura::NINGUNA) return;
-    contexto_.gobjConfig = &objConfig;
-    const auto dialogo = crear(contexto_);
-    mostrarPartida(contexto_, *dialogo, conBaseDatos,
-                   {lngID, cCOperacion::EDITAR, cCOrigen::PRINCIPAL}, modo);
+    sesion.mostrar(sesion.efectuarParaAbrir(), [&](const auto& aviso) {
+      contexto_.gobjConfig = &objConfig;
+      return mostrarPartida(contexto_, *crear(contexto_), conBaseDatos,
+                            {lngID, cCOperacion::EDITAR, cCOrigen::PRINCIPAL}, aviso);
+    });
   });
 }
 

@@ -33,12 +33,11 @@ void cNucleo::PropiedadesSolicitudes(FDAPI::Conexion& conBaseDatos, std::int32_t
     SesionBloqueos sesion(contexto_, conBaseDatos);
     sesion.tablasCompartidas({"Institucion", "Provincia", "Municipio"});
     bloquearSolicitud(sesion, *s, lngID);
-    const SesionBloqueos::Apertura modo = sesion.efectuarParaAbrir();
-    if (modo == SesionBloqueos::Apertura::NINGUNA) return;
-    contexto_.gobjConfig = &objConfig;
-    const auto dialogo = crear(contexto_);
-    mostrarPartida(contexto_, *dialogo, conBaseDatos, {lngID, cCOperacion::EDITARSOLICITUD, {}},
-                   modo);
+    sesion.mostrar(sesion.efectuarParaAbrir(), [&](const auto& aviso) {
+      contexto_.gobjConfig = &objConfig;
+      return mostrarPartida(contexto_, *crear(contexto_), conBaseDatos,
+                            {lngID, cCOperacion::EDITARSOLICITUD, {}}, aviso);
+    });
   });
 }
 

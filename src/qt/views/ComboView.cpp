@@ -1,6 +1,8 @@
 #include "qt/views/ComboView.h"
 
+#include <QClipboard>
 #include <QComboBox>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QListView>
 #include <QProxyStyle>
@@ -88,6 +90,10 @@ bool ComboView::eventFilter(QObject* watched, QEvent* event) {
 }
 
 bool ComboView::keyPressed(QKeyEvent& event) {
+  if (event.matches(QKeySequence::Copy)) {
+    QGuiApplication::clipboard()->setText(combo_->currentText());
+    return true;
+  }
   if (ListView::keyPressed(event)) return true;
   return locked() && event.key() == Qt::Key_Space;
 }

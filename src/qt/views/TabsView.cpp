@@ -24,7 +24,7 @@ void AskingTabBar::keyPressEvent(QKeyEvent* event) {
   const bool back = event->key() == Qt::Key_Left;
   if (!back && event->key() != Qt::Key_Right) return event->ignore();
   for (int tab = currentIndex() + (back ? -1 : 1); tab >= 0 && tab < count(); tab += back ? -1 : 1)
-    if (isTabVisible(tab)) return ask(tab);
+    if (isTabVisible(tab)) return step(tab);
 }
 
 void AskingTabBar::wheelEvent(QWheelEvent* event) {
@@ -45,7 +45,8 @@ TabsView::TabsView(forms::TabStrip& strip, QWidget* parent)
   bar_->setFocusPolicy(Qt::TabFocus);
   bar_->setElideMode(Qt::ElideNone);
   bar_->setUsesScrollButtons(true);
-  bar_->ask = [this](int tab) { strip_.userSelect(tab); };
+  bar_->step = [this](int tab) { strip_.userSelect(tab); };
+  bar_->ask = [this](int tab) { choose(tab); };
   watch();
 }
 
@@ -79,9 +80,13 @@ void TabsView::askNext(bool backwards) {
   for (int step = 1; step < count; ++step) {
     const int tab = (strip_.tab() + (backwards ? count - step : step)) % count;
     if (!strip_.tabVisible(tab)) continue;
-    strip_.userSelect(tab);
-    return;
+    return choose(tab);
   }
+}
+
+void TabsView::choose(int tab) {
+  if (!strip_.userSelect(tab) || strip_.form().activeControl() != &strip_) return;
+  strip_.form().focusFirstOn(strip_);
 }
 
 }  // namespace fidaleon::qt

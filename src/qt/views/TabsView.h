@@ -12,6 +12,9 @@ namespace fidaleon::qt {
 class AskingTabBar : public QTabBar {
  public:
   using QTabBar::QTabBar;
+  /// By the arrow keys, which stay on the row of tabs.
+  std::function<void(int tab)> step;
+  /// In any other way.
   std::function<void(int tab)> ask;
 
  protected:
@@ -30,6 +33,9 @@ class TabsView : public ControlView {
   void addPage(QWidget* page);
   /// The next tab that can be seen, around the end.
   void askNext(bool backwards);
+  /// Brings the tab to the front and the focus to its first field, unless the form has sent it
+  /// somewhere else.
+  void choose(int tab);
 
  private:
   class Pages;

@@ -65,7 +65,27 @@ bool TextView::keyPressed(QKeyEvent& event) {
 bool TextView::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::InputMethod && watched == focusWidget())
     return inputMethod(static_cast<QInputMethodEvent&>(*event));
-  return ControlView::eventFilter(watched, event);
+  if (ControlView::eventFilter(watched, event)) return true;
+  if (watched == focusWidget() && !box_.multiline()) selectAfterFirstClick(*event);
+  return false;
+}
+
+// The press that brings the focus puts the caret under the pointer; unless it was drawn over a part
+// of the text, the whole is selected when the button comes up.
+void TextView::selectAfterFirstClick(const QEvent& event) {
+  switch (event.type()) {
+    case QEvent::FocusIn:
+      clickedInto_ = static_cast<const QFocusEvent&>(event).reason() == Qt::MouseFocusReason;
+      return;
+    case QEvent::FocusOut:
+      clickedInto_ = false;
+      return;
+    case QEvent::MouseButtonRelease:
+      if (std::exchange(clickedInto_, false) && shownSelection().second == 0) box_.selectAll();
+      return;
+    default:
+      return;
+  }
 }
 
 bool TextView::inputMethod(QInputMethodEvent& event) {

@@ -35,12 +35,14 @@ class TextView : public ControlView {
 
  private:
   bool inputMethod(QInputMethodEvent& event);
+  void selectAfterFirstClick(const QEvent& event);
   void insertFiltered(const std::string& text);
   int room() const;
 
   forms::TextBox& box_;
-  bool editing_ = false;  // the user is at it, undo is to be kept
-  bool showing_ = false;  // the widget's signals are our own doing
+  bool editing_ = false;      // the user is at it, undo is to be kept
+  bool showing_ = false;      // the widget's signals are our own doing
+  bool clickedInto_ = false;  // the button that brought the focus is still down
 };
 
 }  // namespace fidaleon::qt

@@ -55,7 +55,8 @@ void frmPartidaBautismo::cargar() {
   if (Operacion == cCOperacion::ANADIR || Operacion == cCOperacion::ANTIGUA) prepararAlta();
   if (Operacion == cCOperacion::EDITAR) prepararEdicion();
   refrescarTitulo();
-  if (incompleta_) soloLectura();
+  if (incompleta_)
+    setReadOnly({"Solo se puede consultar: faltan datos de esta partida en la base de datos.", {}});
 }
 
 void frmPartidaBautismo::vigilarElecciones() {

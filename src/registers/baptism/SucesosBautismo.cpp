@@ -56,12 +56,6 @@ void frmPartidaBautismo::crearSucesos() {
   };
 }
 
-void frmPartidaBautismo::soloLectura() {
-  for (forms::Control* control : controls())
-    if (auto* boton = dynamic_cast<forms::Button*>(control)) boton->setEnabled(false);
-  cmdBautismo[CANCELAR].setEnabled(true);
-}
-
 void frmPartidaBautismo::cmdAltaInstitucion_Click() {
   procedimiento("cmdAltaInstitucion_Click", [this] { listas_->agregarInstitucion(); });
 }

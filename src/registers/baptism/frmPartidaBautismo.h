@@ -42,9 +42,6 @@ class frmPartidaBautismo : public Dialogo {
   /// The institution of a new request, 0 to let the user choose.
   std::int32_t InstitucionSolicitud = 0;
 
-  /// Leaves the cancel button as the only one: for an entry that another user holds.
-  void soloLectura();
-
   enum Texto {
     NombreHijo = 7,
     PrimerApellidoHijo = 8,

@@ -26,7 +26,7 @@ struct AperturaDeLista {
   std::int32_t lngLibro;
   /// Place of the entry in the working copy; none for a new one.
   std::optional<std::size_t> posicion;
-  bool soloLectura = false;
+  std::optional<forms::ReadOnly> aviso;  // of one that another has, which can only be read
 };
 
 /// The entries of one book as a working copy: nothing reaches the tables before guardar(). Places
@@ -82,19 +82,23 @@ class PartidasDe final : public PartidasDeLibro {
            Lista::completar(contexto_, conBaseDatos, coleccion_, posicion);
   }
   bool abrir(const AperturaDeLista& apertura) override {
-    if (!apertura.soloLectura) return mostrar(apertura);
+    bool otraVez = false;
+    if (!apertura.aviso) return mostrar(apertura, otraVez);
     // What is read without the lock may be out of date when the entry is opened to be changed.
     typename Lista::Registro antes = coleccion_.at(*apertura.posicion);
-    const bool leida = mostrar(apertura);
+    const bool leida = mostrar(apertura, otraVez);
     coleccion_.at(*apertura.posicion) = std::move(antes);
-    return leida;
+    if (!otraVez) return leida;
+    AperturaDeLista entera = apertura;
+    entera.aviso.reset();
+    return mostrar(entera, otraVez);
   }
   bool guardar(FDAPI::Conexion& conBaseDatos) override {
     return Lista::guardar(contexto_, conBaseDatos, coleccion_);
   }
 
  private:
-  bool mostrar(const AperturaDeLista& apertura) {
+  bool mostrar(const AperturaDeLista& apertura, bool& otraVez) {
     if (apertura.posicion && !completar(apertura.conBaseDatos, *apertura.posicion)) return false;
     typename Lista::Dialogo dialogo(contexto_);
     dialogo.conBaseDatos = &apertura.conBaseDatos;
@@ -104,9 +108,7 @@ class PartidasDe final : public PartidasDeLibro {
     dialogo.lngPosicion = apertura.posicion.value_or(0);
     dialogo.Operacion = apertura.posicion ? FDAPI::cCOperacion::EDITAR : FDAPI::cCOperacion::ANADIR;
     dialogo.Origen = Lista::ORIGEN;
-    dialogo.Load();
-    if (apertura.soloLectura) dialogo.soloLectura();
-    dialogo.Show();
+    otraVez = dialogo.open(apertura.aviso);
     return true;
   }
 

@@ -170,11 +170,6 @@ void frmPropiedadesLibro::sinNombre() {
   cboTipoNombre.setEnabled(false);
 }
 
-void frmPropiedadesLibro::soloLectura() {
-  cmdBoton[ACEPTAR].setEnabled(false);
-  for (const auto& [indice, boton] : cmdPartidas.all()) boton->setEnabled(false);
-}
-
 void frmPropiedadesLibro::mstLibro_Click() {
   procedimiento("mstLibro_Click()", [this] {
     const bool enPartidas = mstLibro.tab() == TAB_PARTIDAS;

@@ -28,8 +28,6 @@ class frmPropiedadesLibro : public Dialogo {
   /// For a loaded dialog: name and name type stay as they are, since another uses what they rest
   /// on.
   void sinNombre();
-  /// For a loaded dialog: nothing can be changed, since another works on the book.
-  void soloLectura();
 
   forms::TabStrip mstLibro;
   forms::TextBox txtInstitucion;

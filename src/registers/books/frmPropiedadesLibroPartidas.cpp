@@ -123,7 +123,7 @@ void frmPropiedadesLibro::propiedades() {
   const long error = bloquearParaAbrir(partidas_->partida(posicion));
   if (error == FDAPI::BloqueoRegistroNoExiste || error == FDAPI::BloqueoSesion) return;
   AperturaDeLista como = apertura(posicion);
-  como.soloLectura = error != FDAPI::BloqueoNinguno;
+  if (error != FDAPI::BloqueoNinguno) como.aviso = sesion_->aviso();
   if (!partidas_->abrir(como)) avisarIlegible();
   CargarGridPartidasDColeccion();
 }
