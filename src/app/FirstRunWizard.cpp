@@ -59,7 +59,7 @@ FirstRunWizard::FirstRunWizard(const NewParish& proposal, QWidget* parent) : QWi
   setButtonText(QWizard::CancelButton, tr("Cancelar"));
   addPage(parishPage(proposal));
   addPage(contentPage(proposal));
-  setMinimumWidth(560);
+  setMinimumSize(560, accounts_->count() > 1 ? 480 : 0);
 }
 
 QWizardPage* FirstRunWizard::parishPage(const NewParish& proposal) {

@@ -162,6 +162,14 @@ void MainWindow::buildCommands() {
 void MainWindow::buildStatusBar() {
   count_ = new QLabel(this);
   statusBar()->addWidget(count_, 1);
+  if (locks::reachOf(desk_.files().directory) == locks::Reach::OneMachine) {
+    auto* alone = new QLabel("  " + tr("Un solo equipo a la vez") + "  ", this);
+    alone->setToolTip(tr(
+        "Los datos están en una unidad en la que un equipo no ve lo que otro tiene abierto. Para "
+        "trabajar varios a la vez, tienen que estar en una carpeta de un servidor que guarde los "
+        "bloqueos."));
+    statusBar()->addPermanentWidget(alone);
+  }
   parishName_ = new QLabel(this);
   statusBar()->addPermanentWidget(parishName_);
   const QString user = QString::fromStdString(desk_.config().Usuario);

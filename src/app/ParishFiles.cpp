@@ -8,6 +8,8 @@
 #include "app/Insert.h"
 #include "core/contract/FDAPI.h"
 #include "files/Durable.h"
+#include "files/PrivateFile.h"
+#include "locks/SharedDirectory.h"
 #include "store/Open.h"
 #include "store/Transaction.h"
 #include "text/SystemErrors.h"
@@ -43,6 +45,16 @@ void removeKeptReports(const std::filesystem::path& directory) {
   for (; !failed && at != std::filesystem::directory_iterator(); at.increment(failed))
     if (at->path().filename().string().starts_with(ours)) kept.push_back(at->path());
   for (const std::filesystem::path& file : kept) std::filesystem::remove(file, failed);
+}
+
+/// Earlier versions left it to the account's mask who may read what lies beside the parish.
+void narrowKept(const ParishFiles& files) {
+  files::narrow(files.note());
+  files::narrow(files.directory / locks::SharedDirectory::GUARD_FILE);
+  std::error_code failed;
+  std::filesystem::directory_iterator at(files.directory / "copias", failed);
+  for (; !failed && at != std::filesystem::directory_iterator(); at.increment(failed))
+    files::narrow(at->path());
 }
 
 std::string keptEdition(store::Connection& parish) {
@@ -130,6 +142,7 @@ OpenParish openParish(const ParishFiles& files) {
   settleEdition(files, open);
   open.reports = store::passingDatabase(store::reportsSchema());
   removeKeptReports(files.directory);
+  narrowKept(files);
   return open;
 }
 

@@ -93,11 +93,14 @@ Maker thisProgram() {
   return self;
 }
 
-bool hasCertainlyEnded(const Maker& program, const Maker& here) {
-  if (program.run == UNKNOWN) return false;
-  if (program.run != here.run)  // the machine has been started again since
-    return program.machine == here.machine && program.machine != UNKNOWN;
-  return program.space == here.space && startOf(program.process) != program.started;
+Life lifeOf(const Maker& program, const Maker& here) {
+  if (program.run == UNKNOWN) return Life::Unknown;
+  if (program.run != here.run) {  // has the machine been started again since?
+    const bool sameMachine = program.machine == here.machine && program.machine != UNKNOWN;
+    return sameMachine ? Life::Ended : Life::Unknown;
+  }
+  if (program.space != here.space) return Life::Unknown;
+  return startOf(program.process) == program.started ? Life::Lives : Life::Ended;
 }
 
 }  // namespace fidaleon::locks

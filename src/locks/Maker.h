@@ -22,8 +22,8 @@ struct Maker {
 
 Maker thisProgram();
 
-/// Whether the program has ended, as far as that can be known without its lock: of a program on
-/// another machine it cannot.
-bool hasCertainlyEnded(const Maker& program, const Maker& here);
+enum class Life { Lives, Ended, Unknown };
+/// What can be known of the program without its lock: nothing when it is on another machine.
+Life lifeOf(const Maker& program, const Maker& here);
 
 }  // namespace fidaleon::locks

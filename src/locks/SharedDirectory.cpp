@@ -100,9 +100,11 @@ SharedDirectory::Guard SharedDirectory::enter() const {
 
 SharedDirectory::State SharedDirectory::stateOf(const fs::path& path, const File& file) const {
   if (vantage_.seesLock(file)) return State::Lives;
-  if (vantage_.reach(directory_) == Reach::Everywhere) return State::Ended;
   const auto maker = makerOf(path);
-  return maker && hasCertainlyEnded(*maker, vantage_.self) ? State::Ended : State::Unseen;
+  const Life life = maker ? lifeOf(*maker, vantage_.self) : Life::Unknown;
+  // One that lives and whose lock is not seen proves that this disk hides locks, whatever its kind.
+  if (life != Life::Unknown) return life == Life::Ended ? State::Ended : State::Unseen;
+  return vantage_.reach(directory_) == Reach::Everywhere ? State::Ended : State::Unseen;
 }
 
 void SharedDirectory::forEachOther(

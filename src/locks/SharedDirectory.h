@@ -45,8 +45,8 @@ struct Vantage {
 /// whoever has it locked may look and write. Each session that holds locks has a hidden file of
 /// its own that lists them and that it keeps locked for as long as it lives. A session file that
 /// nobody has locked belongs to a session that is dead, and is swept by the next one that looks;
-/// but where locks may not be seen from another machine only if that session was of this machine
-/// and its program is gone.
+/// but not when its program is seen to live, nor, where locks may not be seen from another machine,
+/// when it was of another one.
 class SharedDirectory {
  public:
   static constexpr std::chrono::milliseconds PATIENCE{5000};

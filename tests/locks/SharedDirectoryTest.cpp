@@ -115,6 +115,17 @@ TEST_F(Meeting, whatIsNotSeen_isSweptOnlyWhenItHasCertainlyEnded) {
   }
 }
 
+TEST_F(Meeting, aLivingProgramWhoseLockIsNotSeen_provesThatLocksAreHidden) {
+  SharedDirectory first = here();
+  first.publish(first.enter(), {work("SACRISTIA")});
+  Vantage trusting = from("DESPACHO", thisProgram());
+  trusting.reach = [](const fs::path&) { return Reach::Everywhere; };
+  const SharedDirectory second = at(trusting);
+  EXPECT_THROW(second.others(second.enter()), UnseenOther);
+  first.withdraw();
+  EXPECT_TRUE(second.others(second.enter()).empty());
+}
+
 TEST_F(Meeting, whereNoLockIsSeenAtAll_nobodyCanCome) {
   Vantage blind;
   blind.seesLock = [](const File&) { return false; };

@@ -435,6 +435,29 @@ TEST_F(Files, localDisk_usesTheWriteAheadLogAndNetworksAreTold) {
   EXPECT_FALSE(usesWriteAheadLog(folder / "nada"));
 }
 
+TEST_F(Files, lookedAtWhileItIsOpen_keepsItsLocks) {
+  const auto connection = createDatabase(file, parishSchema());
+  const auto seenByAnother = [&] {
+    return WEXITSTATUS(inChild([&] {
+      struct flock bytes {};  // those that the engine locks
+      bytes.l_type = F_WRLCK;
+      bytes.l_start = 0x40000000;
+      bytes.l_len = 512;
+      const int fd = ::open(file.c_str(), O_RDWR);
+      _exit(::fcntl(fd, F_GETLK, &bytes) == 0 && bytes.l_type != F_UNLCK ? 1 : 0);
+    }));
+  };
+  for (const char* journal : {"WAL", "DELETE"}) {
+    connection->engine().run(std::string("PRAGMA journal_mode = ") + journal);
+    connection->BeginTrans();
+    EXPECT_TRUE(seenByAnother()) << journal;
+    usesWriteAheadLog(file);
+    openDatabase(file, parishSchema());
+    EXPECT_TRUE(seenByAnother()) << journal;
+    connection->RollbackTrans();
+  }
+}
+
 TEST_F(Files, pathWithBlanksAndAccents_works) {
   const fs::path odd = folder / "Parroquia de Ñuño 100%? #1.fid";
   createDatabase(odd, parishSchema())->Execute(kInsert);

@@ -1,11 +1,11 @@
 #include "store/sqlite/NetworkDisk.h"
 
+#include <sqlite3.h>
 #include <sys/vfs.h>
 
 #include <algorithm>
 #include <array>
 #include <cstdint>
-#include <fstream>
 
 namespace fidaleon::store {
 
@@ -37,9 +37,15 @@ bool isNetworkDisk(const std::filesystem::path& file) {
 bool usesWriteAheadLog(const std::filesystem::path& file) {
   // Bytes 18 and 19: the versions of the format that writing and reading ask for.
   std::array<char, 20> head{};
-  std::ifstream in(file, std::ios::binary);
-  in.read(head.data(), head.size());
-  return in.gcount() == static_cast<std::streamsize>(head.size()) && head[18] == 2;
+  sqlite3* db = nullptr;
+  sqlite3_file* opened = nullptr;
+  const bool read =
+      sqlite3_open_v2(file.c_str(), &db, SQLITE_OPEN_READONLY | SQLITE_OPEN_NOMUTEX, nullptr) ==
+          SQLITE_OK &&
+      sqlite3_file_control(db, "main", SQLITE_FCNTL_FILE_POINTER, &opened) == SQLITE_OK &&
+      opened->pMethods->xRead(opened, head.data(), head.size(), 0) == SQLITE_OK;
+  sqlite3_close(db);
+  return read && head[18] == 2;
 }
 
 }  // namespace fidaleon::store

@@ -8,7 +8,8 @@ namespace fidaleon::store {
 /// disk whose locks and shared memory cannot be relied on.
 bool isNetworkDisk(const std::filesystem::path& file);
 
-/// Read from the head of the file, without opening it as a database.
+/// Whether its head says so. Read through the engine: were the file opened and closed here, the
+/// system would take from it all the locks that connections of this program hold.
 bool usesWriteAheadLog(const std::filesystem::path& file);
 
 }  // namespace fidaleon::store
