@@ -116,7 +116,10 @@ TEST(Grupo, MembersThatAreOddInTheStore_AreShownOnceAndKept) {
   const std::int32_t eva = w.persona("Eva", "Moya", "Gil");
   w.miembro(eva, w.primero, 77);        // no collaborator, an office that is gone
   w.miembro(99, w.primero, w.monitor);  // nobody
+  w.miembro(w.carmen, w.primero, w.monitor);
   w.editar([&](FormDriver& d) {
+    // Another desk takes her out while the card is open.
+    w.con().Execute("DELETE * FROM Padron_Actividad WHERE CodPadron=" + std::to_string(w.carmen));
     w.abrirGrupo(d, 1, [&](FormDriver& g) {
       EXPECT_THAT(w.lineas(g, w.SELECCIONADAS),
                   ElementsAre("Ana García Ruiz (Catequista)", "Blas Pérez Ruiz (Catequista)",
