@@ -94,7 +94,7 @@ struct Parish {
 /// A copy of a database, worked on with the bare library.
 class ByHand : public store::SqliteEngine {
  public:
-  explicit ByHand(store::Connection& original) {
+  explicit ByHand(store::Connection& original) : SqliteEngine(Unnamed::Memory) {
     copyFrom(dynamic_cast<store::SqliteEngine&>(original.engine()));
   }
   sqlite3_stmt* prepared(const std::string& sql) {

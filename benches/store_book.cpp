@@ -68,7 +68,9 @@ void measureList() {
   const auto connection = registers(60000, 20000);
   class ByHand : public store::SqliteEngine {
    public:
-    explicit ByHand(store::Engine& from) { copyFrom(dynamic_cast<store::SqliteEngine&>(from)); }
+    explicit ByHand(store::Engine& from) : SqliteEngine(Unnamed::Memory) {
+      copyFrom(dynamic_cast<store::SqliteEngine&>(from));
+    }
   } db(connection->engine());
   std::size_t found = 0;
   const auto ours = [&] {

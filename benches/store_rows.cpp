@@ -26,7 +26,7 @@ void must(bool ok) {
 /// checks and collations.
 class ByHand : public store::SqliteEngine {
  public:
-  explicit ByHand(store::Connection& original) {
+  explicit ByHand(store::Connection& original) : SqliteEngine(Unnamed::Memory) {
     copyFrom(dynamic_cast<store::SqliteEngine&>(original.engine()));
   }
   sqlite3_stmt* prepared(const char* sql) {

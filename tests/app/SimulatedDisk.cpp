@@ -204,9 +204,9 @@ void SimulatedDisk::apply(const DiskCall& call) {
   unsafeNames_.emplace_back(call, file);
 }
 
-std::string SimulatedDisk::contentOf(const File& file, std::mt19937& chance) const {
+std::string SimulatedDisk::contentOf(const File& file, bool whole, std::mt19937& chance) const {
   std::string content = file.safe;
-  const auto way = chance() % 4;  // none, all, as many as come first, any
+  const auto way = whole ? 1 : chance() % 4;  // none, all, as many as come first, any
   const std::size_t first = chance() % (file.unsafe.size() + 1);
   for (std::size_t i = 0; i < file.unsafe.size(); ++i) {
     const bool there = way == 1 || (way == 2 && i < first) || (way == 3 && chance() % 2 == 0);
@@ -220,7 +220,8 @@ std::string SimulatedDisk::contentOf(const File& file, std::mt19937& chance) con
 
 void SimulatedDisk::cutPower(const fs::path& into, std::mt19937& chance) const {
   Names names = safeNames_;
-  const std::size_t first = chance() % (unsafeNames_.size() + 1);
+  const bool whole = chance() % 4 == 0;  // the program is killed, and the disk goes on
+  const std::size_t first = whole ? unsafeNames_.size() : chance() % (unsafeNames_.size() + 1);
   for (std::size_t i = 0; i < first; ++i)
     name(unsafeNames_[i].first, names, unsafeNames_[i].second);
   for (const auto& [path, file] : names) {  // folders come before what is in them
@@ -229,7 +230,7 @@ void SimulatedDisk::cutPower(const fs::path& into, std::mt19937& chance) const {
       fs::create_directory(into / path, lost);
     } else {
       std::ofstream(into / path, std::ios::binary)
-          << contentOf(files_[static_cast<std::size_t>(file)], chance);
+          << contentOf(files_[static_cast<std::size_t>(file)], whole, chance);
     }
   }
 }

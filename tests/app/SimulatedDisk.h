@@ -58,7 +58,8 @@ class SimulatedDisk {
 
   void apply(const DiskCall& call);
   /// Writes into the empty folder what a power cut at this moment leaves: all that was synced, and
-  /// by chance some of the rest, sectors of it, in whatever order.
+  /// by chance some of the rest, sectors of it, in whatever order; now and then all of it, which is
+  /// what a killed program leaves.
   void cutPower(const std::filesystem::path& into, std::mt19937& chance) const;
 
  private:
@@ -68,7 +69,7 @@ class SimulatedDisk {
     std::vector<DiskCall> unsafe;
   };
   void name(const DiskCall& call, Names& names, int file) const;
-  std::string contentOf(const File& file, std::mt19937& chance) const;
+  std::string contentOf(const File& file, bool whole, std::mt19937& chance) const;
 
   static constexpr int FOLDER = -1;
   std::vector<File> files_;
