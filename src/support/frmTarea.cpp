@@ -1,5 +1,6 @@
 #include "support/frmTarea.h"
 
+#include "store/Transaction.h"
 #include "text/Utf8.h"
 
 namespace fidaleon::support {
@@ -72,11 +73,15 @@ void frmTarea::guardar() {
                       " WHERE IDTarea=" + std::to_string(id_));
     return;
   }
+  // Accepting again after a failure must not find the task there.
+  store::Transaction transaction(conexion_);
   conexion_.Execute(
       "INSERT INTO Tareas (Fecha, HoraInicio, HoraFin, Nombre, Descripcion) VALUES (" + date +
       ", " + from + ", " + to + ", " + name + ", " + text + ")");
-  id_ = static_cast<std::int32_t>(
+  const auto id = static_cast<std::int32_t>(
       conexion_.Execute("SELECT MAX(IDTarea) AS ID FROM Tareas").integer("ID"));
+  transaction.commit();
+  id_ = id;
 }
 
 }  // namespace fidaleon::support

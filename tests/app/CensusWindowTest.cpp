@@ -301,11 +301,19 @@ TEST_F(CensusWindow, tasksOpenAtTheNextOne) {
                    "FROM Tareas WHERE IDTarea=" +
                    chosen + ")"),
             0);
-  desk->parish().Execute("DELETE * FROM Tareas WHERE Fecha>=\"20260520\"");
-  window->action("actualizar")->trigger();
-  window->showNode("Cargos");
-  window->showNode("Tareas");
-  EXPECT_EQ(window->table().currentIndex().row(), 0);
+  const auto openAgainAfter = [&](const std::string& statement) {
+    desk->parish().Execute(statement);
+    window->action("actualizar")->trigger();
+    window->showNode("Cargos");
+    window->showNode("Tareas");
+    return window->table().currentIndex().row();
+  };
+  const std::string following = "DELETE * FROM Tareas WHERE Fecha>=\"20260520\"";
+  EXPECT_EQ(openAgainAfter(following), 0);
+  EXPECT_GT(openAgainAfter("INSERT INTO Tareas (Fecha, HoraInicio, HoraFin, Nombre) VALUES "
+                           "(\"20260520\", \"1000\", \"1100\", \"De hoy\")"),
+            0)
+      << "one of today is still to come";
 }
 
 }  // namespace

@@ -1,5 +1,5 @@
 #pragma once
-// A parish with people: helpers that put persons, activities, groups and offices into the store.
+// A parish with people, groups and offices.
 
 #include <cstdint>
 #include <memory>
@@ -9,6 +9,10 @@
 #include "support/TestWorld.h"
 
 namespace fidaleon::tests {
+
+inline std::string texto(std::int64_t n) {
+  return std::to_string(n);
+}
 
 /// Roles of a person, as Tipo_Persona numbers them.
 enum Tipo : std::int32_t { EMPADRONADO = 2, COLABORADOR = 3 };
@@ -21,112 +25,135 @@ struct CensoWorld : TestWorld {
   std::int32_t persona(const std::string& nombre, const std::string& primerApellido,
                        const std::string& segundoApellido, const std::string& dni = {},
                        const std::vector<Tipo>& tipos = {EMPADRONADO}) {
-    con().Execute(
-        "INSERT INTO Padron (Nombre,PrimerApellido,SegundoApellido,DNI,Direccion,CodMunicipio,"
-        "CPostal,Telefono,Telefono2,CorreoElectronico,EstadoCivil,Sexo,[Profesion/Colegio],"
-        "PosicionFamiliar,Comentarios,Observaciones,CodInstitucionEmpadronado,Nif_Responsable,"
-        "Cumpleaños,AñoNacimiento) VALUES (" +
-        texto(nombre) + "," + texto(primerApellido) + "," + texto(segundoApellido) + "," +
-        texto(dni) +
-        ",\"Calle Mayor, 3\",0,\"28013\",\"915550101\",\"\",\"\",\"\",\"\",\"\",\"\",\"\",\"\"," +
-        std::to_string(parroquia) + ",'','','')");
-    const std::int32_t id = ultimo("Padron", "IDPadron");
-    satelites(id);
-    for (const Tipo tipo : tipos) darTipo(id, tipo);
+    const std::int32_t id = insertar(
+        "Padron", "IDPadron",
+        "Nombre,PrimerApellido,SegundoApellido,DNI,Direccion,CodMunicipio,CPostal,Telefono,"
+        "Telefono2,CorreoElectronico,EstadoCivil,Sexo,[Profesion/Colegio],PosicionFamiliar,"
+        "Comentarios,Observaciones,CodInstitucionEmpadronado,Nif_Responsable,Cumpleaños,"
+        "AñoNacimiento",
+        citar({nombre, primerApellido, segundoApellido, dni, "Calle Mayor, 3"}) +
+            ",0,\"28013\",\"915550101\",'','','','','','','',''," + texto(parroquia) + ",'','',''");
+    const auto fila = [&](const char* tabla, const std::string& valores) {
+      con().Execute(std::string("INSERT INTO Padron_") + tabla + " VALUES (" + texto(id) + "," +
+                    valores + ")");
+    };
+    fila("Nacimiento (CodPadron,FechaNacimiento,CodMunicipioNac,NombrePadre,NombreMadre)",
+         "'19700315',0,'Luis','Carmen'");
+    fila("Bautismo (CodPadron,FechaBautizo,CodMunicipioParrBaut,ParroquiaBaut,DireccionParrBaut)",
+         "'19700410',0,'San Ginés','Arenal, 13'");
+    fila("Comunion (CodPadron,AñoComunion,ParroquiaCom)", "'1979','San Ginés'");
+    fila(
+        "Confirmacion (CodPadron,FechaConfirmacion,CodMunicipioParrConf,ParroquiaConf,"
+        "DireccionParrConf)",
+        "'',0,'',''");
+    fila(
+        "Matrimonio (CodPadron,FechaMatrimonio,CodMunicipioParrMatr,ParroquiaMatr,"
+        "DireccionParrMatr)",
+        "'',0,'',''");
+    fila("Defuncion (CodPadron,FechaDefuncion,Nicho,ImporteEur,Importe,Pagado)",
+         "'','','6,01','1.000',FALSE");
+    for (const Tipo tipo : tipos) fila("TipoPersona (CodPadron,CodTipoPersona)", texto(tipo));
     return id;
   }
-  void satelites(std::int32_t id) {
-    const auto fila = [&](const std::string& tabla, const std::string& columnas,
-                          const std::string& valores) {
-      con().Execute("INSERT INTO " + tabla + " (CodPadron," + columnas + ") VALUES (" +
-                    std::to_string(id) + "," + valores + ")");
-    };
-    fila("Padron_Nacimiento", "FechaNacimiento,CodMunicipioNac,NombrePadre,NombreMadre",
-         "'19700315',0,'Luis','Carmen'");
-    fila("Padron_Bautismo", "FechaBautizo,CodMunicipioParrBaut,ParroquiaBaut,DireccionParrBaut",
-         "'19700410',0,'San Ginés','Arenal, 13'");
-    fila("Padron_Comunion", "AñoComunion,ParroquiaCom", "'1979','San Ginés'");
-    fila("Padron_Confirmacion",
-         "FechaConfirmacion,CodMunicipioParrConf,ParroquiaConf,DireccionParrConf", "'',0,'',''");
-    fila("Padron_Matrimonio",
-         "FechaMatrimonio,CodMunicipioParrMatr,ParroquiaMatr,DireccionParrMatr", "'',0,'',''");
-    fila("Padron_Defuncion", "FechaDefuncion,Nicho,ImporteEur,Importe,Pagado",
-         "'','','6,01','1.000',FALSE");
-  }
-  void darTipo(std::int32_t idPadron, Tipo tipo) {
-    con().Execute("INSERT INTO Padron_TipoPersona (CodPadron,CodTipoPersona) VALUES (" +
-                  std::to_string(idPadron) + "," + std::to_string(tipo) + ")");
+  std::int32_t colaborador(const std::string& nombre, const std::string& apellido) {
+    return persona(nombre, apellido, "Ruiz", {}, {COLABORADOR});
   }
   std::int32_t nota(std::int32_t idPadron, const std::string& nombre,
                     const std::string& descripcion = "Descripción") {
-    con().Execute("INSERT INTO Padron_NotasPersonales (CodPadron,Nombre,Descripcion) VALUES (" +
-                  std::to_string(idPadron) + "," + texto(nombre) + "," + texto(descripcion) + ")");
-    return ultimo("Padron_NotasPersonales", "IDNota");
+    return insertar("Padron_NotasPersonales", "IDNota", "CodPadron,Nombre,Descripcion",
+                    texto(idPadron) + "," + citar({nombre, descripcion}));
   }
-
   /// Of the parish unless another institution is named.
   std::int32_t actividad(const std::string& nombre, std::int32_t codInstitucion = 0) {
-    con().Execute("INSERT INTO Actividad (Nombre,Descripcion,CodInstitucion) VALUES (" +
-                  texto(nombre) + ",\"\"," +
-                  std::to_string(codInstitucion ? codInstitucion : parroquia) + ")");
-    return ultimo("Actividad", "IDActividad");
+    return insertar("Actividad", "IDActividad", "Nombre,Descripcion,CodInstitucion",
+                    citar({nombre, ""}) + "," + texto(codInstitucion ? codInstitucion : parroquia));
   }
   std::int32_t grupo(std::int32_t codActividad, const std::string& nombre,
                      const std::string& sala = "Aula 1") {
-    con().Execute("INSERT INTO Grupo (CodActividad,Nombre,Año,Dia,Hora,Sala,Comentarios) VALUES (" +
-                  std::to_string(codActividad) + "," + texto(nombre) +
-                  ",\"2026\",\"Lunes\",\"18:00\"," + texto(sala) + ",\"\")");
-    return ultimo("Grupo", "IDGrupo");
+    return insertar(
+        "Grupo", "IDGrupo", "CodActividad,Nombre,Año,Dia,Hora,Sala,Comentarios",
+        texto(codActividad) + "," + citar({nombre, "2026", "Lunes", "18:00", sala, ""}));
   }
-  std::int32_t cargo(const std::string& nombre, const std::string& descripcion = {}) {
-    con().Execute("INSERT INTO Cargo (Nombre,Descripcion) VALUES (" + texto(nombre) + "," +
-                  texto(descripcion) + ")");
-    return ultimo("Cargo", "IDCargo");
+  std::int32_t cargo(const std::string& nombre) {
+    return insertar("Cargo", "IDCargo", "Nombre,Descripcion", citar({nombre, ""}));
   }
   /// A membership: the person has the office in the group.
   std::int32_t miembro(std::int32_t codPadron, std::int32_t codGrupo, std::int32_t codCargo) {
-    con().Execute("INSERT INTO Padron_Actividad (CodPadron,CodGrupo,CodCargo) VALUES (" +
-                  std::to_string(codPadron) + "," + std::to_string(codGrupo) + "," +
-                  std::to_string(codCargo) + ")");
-    return ultimo("Padron_Actividad", "IDActividadesPadron");
+    return insertar("Padron_Actividad", "IDActividadesPadron", "CodPadron,CodGrupo,CodCargo",
+                    texto(codPadron) + "," + texto(codGrupo) + "," + texto(codCargo));
+  }
+  std::int32_t tarea(const std::string& nombre) {
+    return insertar("Tareas", "IDTarea", "Fecha,HoraInicio,HoraFin,Nombre,Descripcion",
+                    citar({"20260301", "0700", "2359", nombre, ""}));
+  }
+  void ejecutar(const std::string& sentencia) { con().Execute(sentencia); }
+  void quitar(const std::string& tabla) { ejecutar("DELETE * FROM " + tabla); }
+
+  /// Each row with "|" between its fields, and rows with "/" between them.
+  std::string filas(const std::string& sql) {
+    std::string todo;
+    for (store::Recordset rs = con().Execute(sql); !rs.EOF_(); rs.MoveNext()) {
+      if (!todo.empty()) todo += "/";
+      for (int i = 0; i < rs.FieldCount(); ++i)
+        todo += (i ? "|" : "") + rs.Fields(i).Value().text();
+    }
+    return todo;
+  }
+  std::string satelite(const std::string& tabla, std::int32_t id) {
+    return filas("SELECT * FROM Padron_" + tabla + " WHERE CodPadron=" + texto(id));
+  }
+  /// "Primero|Ana|Catequista" of every membership whose person, group and office are there.
+  std::string membresias(const std::string& ademas = {}) {
+    return filas(
+        "SELECT Grupo.Nombre AS G, Padron.Nombre AS P, Cargo.Nombre AS C FROM Padron_Actividad, "
+        "Padron, Grupo, Cargo WHERE CodPadron=IDPadron AND CodGrupo=IDGrupo AND CodCargo=IDCargo" +
+        ademas + " ORDER BY IDActividadesPadron");
+  }
+  /// Every row of the census, to see that nothing has changed or that the same has come about.
+  std::string censo() {
+    std::string todo;
+    for (const char* tabla :
+         {"Padron", "Padron_Nacimiento", "Padron_Bautismo", "Padron_Comunion",
+          "Padron_Confirmacion", "Padron_Matrimonio", "Padron_Defuncion", "Padron_TipoPersona",
+          "Padron_NotasPersonales", "Padron_Actividad", "Actividad", "Grupo", "Cargo", "Tareas"})
+      todo += std::string(tabla) + ": " + filas(std::string("SELECT * FROM ") + tabla) + "\n";
+    return todo;
   }
 
-  /// Locks of another workstation, held for as long as the result lives.
-  std::unique_ptr<FDAPI::cProcesarBloqueos> otroUsaTabla(const char* tabla) {
-    FDAPI::DefinicionBloqueo entera;
-    entera.strTabla = tabla;
-    return otroToma(entera);
+  /// Locks of another workstation, of a table or of one record, held while the result lives.
+  std::unique_ptr<FDAPI::cProcesarBloqueos> otroUsa(const char* tabla, std::int32_t id = 0) {
+    auto sesion = otherSession();
+    sesion->DefinirBloqueo(bloqueo(tabla, id));
+    EXPECT_EQ(sesion->lngEfectuarBloqueos(), 0);
+    return sesion;
   }
-  std::unique_ptr<FDAPI::cProcesarBloqueos> otroUsaRegistro(const char* tabla, std::int32_t id) {
-    FDAPI::DefinicionBloqueo uno;
-    uno.strTabla = tabla;
-    uno.strRegistro = std::to_string(id);
-    uno.conBd = &con();
-    return otroToma(uno);
-  }
-  /// Whether the table could be taken whole elsewhere at this moment.
-  bool libre(const char* tabla) {
+  /// Whether the table, or the record, could be taken elsewhere at this moment.
+  bool libre(const char* tabla, std::int32_t id = 0) {
     const auto sesion = otherSession();
-    FDAPI::DefinicionBloqueo entera;
-    entera.strTabla = tabla;
-    sesion->DefinirBloqueo(entera);
+    sesion->DefinirBloqueo(bloqueo(tabla, id));
     otherUser.answerAnything(forms::Answer::Ok);
     return sesion->lngEfectuarBloqueos(true) == 0;
   }
-
   std::int32_t parroquia = 0;
 
  private:
-  static std::string texto(const std::string& s) { return "\"" + s + "\""; }
-  std::int32_t ultimo(const char* tabla, const char* clave) {
-    return static_cast<std::int32_t>(
-        std::stol(value(std::string("SELECT MAX(") + clave + ") AS ID FROM " + tabla)));
+  static std::string citar(const std::vector<std::string>& valores) {
+    std::string lista;
+    for (const std::string& v : valores) lista += (lista.empty() ? "\"" : ",\"") + v + "\"";
+    return lista;
   }
-  std::unique_ptr<FDAPI::cProcesarBloqueos> otroToma(const FDAPI::DefinicionBloqueo& bloqueo) {
-    auto sesion = otherSession();
-    sesion->DefinirBloqueo(bloqueo);
-    EXPECT_EQ(sesion->lngEfectuarBloqueos(), 0);
-    return sesion;
+  std::int32_t insertar(const std::string& tabla, const std::string& clave,
+                        const std::string& columnas, const std::string& valores) {
+    con().Execute("INSERT INTO " + tabla + " (" + columnas + ") VALUES (" + valores + ")");
+    return std::stoi(value("SELECT MAX(" + clave + ") AS ID FROM " + tabla));
+  }
+  FDAPI::DefinicionBloqueo bloqueo(const char* tabla, std::int32_t id) {
+    FDAPI::DefinicionBloqueo uno;
+    uno.strTabla = tabla;
+    if (id == 0) return uno;
+    uno.strRegistro = texto(id);
+    uno.conBd = &con();
+    return uno;
   }
 };
 

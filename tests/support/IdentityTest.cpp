@@ -26,8 +26,12 @@ TEST(Identity, NumbersOfEntities) {
   for (const char* good : {"A58818501", "G28029643", "Q2826000H", "R0800010A", "a-58818501"})
     EXPECT_TRUE(cifValido(good)) << good;
   for (const char* bad :
-       {"", "A58818502", "A5881850A", "Q28260008", "I58818501", "A5881850", "AB8818501"})
+       {"", "A58818502", "A5881850A", "Q28260008", "A5881850", "AB8818501", "58818501A"})
     EXPECT_FALSE(cifValido(bad)) << bad;
+  // Whatever stands behind a letter that no organisation has.
+  for (const char letter : std::string("IKLMOTXYZ9"))
+    for (const char* rest : {"58818501", "2826000H"})
+      EXPECT_FALSE(cifValido(letter + std::string(rest))) << letter << rest;
 }
 
 }  // namespace
