@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "app/Insert.h"
+#include "core/contract/Citas.h"
 
 namespace fidaleon::app {
 namespace {
@@ -49,7 +50,7 @@ bool Annulled::isShared(store::Connection& parish, const store::Recordset& entry
   return !parish
               .Execute("SELECT IDBautismo FROM Bautismo WHERE Anulada=false AND CodLibro=" +
                        entry.text("CodLibro") + " AND Folio=" + entry.text("Folio") +
-                       " AND Numero=" + quoted(entry.text("Numero")))
+                       " AND Numero=" + entreComillas(entry.text("Numero")))
               .EOF_();
 }
 

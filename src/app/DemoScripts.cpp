@@ -191,6 +191,8 @@ void chooseKeeper(FormDriver& d) {
 
 void enterListed(FormDriver& d, const Child& child) {
   fillNames(d, child);
+  d.tab(TABS, P::TAB_MATRIMONIO);
+  d.type(date(P::FechaMatr), "");
   fillBaptism(d, child.baptism);
   d.click(button(P::ACEPTAR));
 }

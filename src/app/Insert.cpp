@@ -1,12 +1,8 @@
 #include "app/Insert.h"
 
-#include "text/Utf8.h"
+#include "core/contract/Citas.h"
 
 namespace fidaleon::app {
-
-std::string quoted(const std::string& text) {
-  return "\"" + text::replaceAll(text, "\"", "''") + "\"";
-}
 
 Insert& Insert::add(const std::string& column, const std::string& value) {
   if (!columns_.empty()) {
@@ -19,7 +15,7 @@ Insert& Insert::add(const std::string& column, const std::string& value) {
 }
 
 Insert& Insert::text(const std::string& column, const std::string& value) {
-  return add(column, quoted(value));
+  return add(column, entreComillas(value));
 }
 
 Insert& Insert::number(const std::string& column, std::int64_t value) {

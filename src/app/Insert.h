@@ -8,9 +8,6 @@
 
 namespace fidaleon::app {
 
-/// Text as a statement takes it: between double quotes, a double quote inside as two apostrophes.
-std::string quoted(const std::string& text);
-
 /// Builds "INSERT INTO table (columns) VALUES (values)" column by column.
 class Insert {
  public:

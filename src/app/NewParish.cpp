@@ -9,10 +9,12 @@
 #include "app/Insert.h"
 #include "app/ParishFiles.h"
 #include "app/SampleParish.h"
+#include "core/contract/Citas.h"
 #include "files/Durable.h"
 #include "files/PrivateFile.h"
 #include "locks/SharedDirectory.h"
 #include "store/Open.h"
+#include "text/Names.h"
 #include "text/Utf8.h"
 
 namespace fidaleon::app {
@@ -24,7 +26,7 @@ void fill(store::Connection& connection, const NewParish& parish, const text::Da
   if (parish.content == Content::Sample)
     fillSampleParish(connection, parish, today);
   else
-    addInstitution(connection, text::trim(parish.name),
+    addInstitution(connection, text::withoutQuotes(text::trim(parish.name)),
                    townKey(connection, parish.town, parish.province));
   connection.CommitTrans();
 }
@@ -93,9 +95,9 @@ std::int32_t townKey(store::Connection& connection, const std::string& town,
   const auto found = connection.Execute("SELECT IDProvincia FROM Provincia WHERE Codigo_Oficial=" +
                                         std::to_string(province));
   const std::int64_t key = found.EOF_() ? 0 : found.integer("IDProvincia");
-  const std::string name = text::trim(town);
+  const std::string name = text::withoutQuotes(text::trim(town));
   const auto rows =
-      connection.Execute("SELECT IDMunicipio FROM Municipio WHERE Nombre=" + quoted(name) +
+      connection.Execute("SELECT IDMunicipio FROM Municipio WHERE Nombre=" + entreComillas(name) +
                          " AND CodProvincia=" + std::to_string(key));
   if (!rows.EOF_()) return static_cast<std::int32_t>(rows.integer("IDMunicipio"));
   return Insert("Municipio")

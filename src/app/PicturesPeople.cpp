@@ -68,12 +68,11 @@ class People {
 
   void searches() {
     store::Recordset family = parish().Execute(
-        "SELECT * FROM Padron WHERE PrimerApellido=\"" +
-        parish()
-            .Execute("SELECT PrimerApellido, COUNT(IDPadron) AS N FROM Padron GROUP BY "
-                     "PrimerApellido ORDER BY COUNT(IDPadron) DESC")
-            .text("PrimerApellido") +
-        "\"");
+        "SELECT * FROM Padron WHERE PrimerApellido=" +
+        entreComillas(parish()
+                          .Execute("SELECT PrimerApellido, COUNT(IDPadron) AS N FROM Padron GROUP "
+                                   "BY PrimerApellido ORDER BY COUNT(IDPadron) DESC")
+                          .text("PrimerApellido")));
     show<frmPadronBusqueda>("coincidencias", [&](frmPadronBusqueda& d) {
       d.conBaseDatos = &parish();
       d.registros = &family;

@@ -6,6 +6,7 @@
 #include "app/SampleCensus.h"
 #include "app/SampleNames.h"
 #include "app/SamplePopulation.h"
+#include "core/contract/Citas.h"
 
 namespace fidaleon::app {
 namespace {
@@ -71,11 +72,12 @@ class Writer {
   std::int32_t institution(const std::string& name, std::int32_t where, const std::string& priest,
                            const std::vector<std::string>& keepers) {
     const std::int32_t id = addInstitution(con_, name, where);
-    con_.Execute("UPDATE Institucion SET Parroco=" + quoted(priest) + ", EncargadoArchivo=" +
-                 quoted(keepers.front()) + ", Diocesis=" + quoted(std::string(home_.diocese)) +
-                 ", Vicaria=" + quoted(std::string(home_.vicariate)) +
-                 ", Arciprestazgo=" + quoted(std::string(home_.deanery)) +
-                 ", Domicilio=\"Plaza de la Iglesia, 1\", CP=" + quoted(postcode()) +
+    con_.Execute("UPDATE Institucion SET Parroco=" + entreComillas(priest) +
+                 ", EncargadoArchivo=" + entreComillas(keepers.front()) +
+                 ", Diocesis=" + entreComillas(std::string(home_.diocese)) +
+                 ", Vicaria=" + entreComillas(std::string(home_.vicariate)) +
+                 ", Arciprestazgo=" + entreComillas(std::string(home_.deanery)) +
+                 ", Domicilio=\"Plaza de la Iglesia, 1\", CP=" + entreComillas(postcode()) +
                  ", Telefono=\"910 000 0" + std::to_string(10 + id) +
                  "\", ResponsableCargo=\"Párroco\" WHERE IDInstitucion=" + std::to_string(id));
     for (const std::string& keeper : keepers)
@@ -83,7 +85,7 @@ class Writer {
           .number("CodInstitucion", id)
           .text("Nombre", keeper)
           .into(con_);
-    con_.Execute("UPDATE Ultimos SET Encargado=" + quoted(keepers.front()) +
+    con_.Execute("UPDATE Ultimos SET Encargado=" + entreComillas(keepers.front()) +
                  " WHERE IDInstitucion=" + std::to_string(id));
     return id;
   }

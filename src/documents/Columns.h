@@ -34,8 +34,7 @@ enum class Source {
   InstitutionProvince,
 };
 
-/// Which quotes stand around the value in the statement. Single ones take any text; a double quote
-/// in a value between double ones breaks the statement, and the document with it.
+/// Which quotes stand around the value in the statement.
 enum class Quoting { Double, Single };
 
 struct Column {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core/contract/Citas.h"
 #include "text/Utf8.h"
 
 namespace fidaleon::documents {
@@ -29,13 +30,7 @@ bool isFixed(Source source) {
 }
 
 void appendQuoted(std::string& statement, const std::string& value, Quoting quoting) {
-  if (quoting == Quoting::Single) {
-    statement += singleQuoted(value);
-    return;
-  }
-  statement += '"';
-  statement += value;
-  statement += '"';
+  citarEn(statement, value, quoting == Quoting::Single ? '\'' : '"');
 }
 
 }  // namespace

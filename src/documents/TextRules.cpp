@@ -28,10 +28,6 @@ std::string initial(const std::string& surname) {
   return text::upper(text::left(text::trim(surname), 1));
 }
 
-std::string singleQuoted(std::string_view value) {
-  return "'" + text::replaceAll(value, "'", "''") + "'";
-}
-
 bool GenderWords::isBoy(std::string_view sexo) const {
   return sexo == "Hombre" || (blankIsBoy && sexo == BLANK);
 }

@@ -19,9 +19,6 @@ std::string ValorImprimible(const std::string& value);
 /// that nothing can be added by hand behind it.
 std::string paddedNotes(const std::string& notes);
 
-/// A text between single quotes, its apostrophes doubled.
-std::string singleQuoted(std::string_view value);
-
 /// The letter under which an index lists a surname: the first one, in capitals, accents kept.
 std::string initial(const std::string& surname);
 

@@ -2,6 +2,7 @@
 
 #include "forms/Form.h"
 #include "text/Dates.h"
+#include "text/Names.h"
 #include "text/Utf8.h"
 
 namespace fidaleon::forms {
@@ -127,7 +128,9 @@ void TextBox::enteredByFocus() {
 
 void TextBox::leftByFocus(Control* next) {
   if (!locked() && text_.find('"') != std::string::npos && quoteRule_ != QuoteRule::Keep)
-    setText(text::replaceAll(text_, "\"", quoteRule_ == QuoteRule::Replace ? "''" : ""));
+    setText(quoteRule_ == QuoteRule::Replace
+                ? text::withoutQuotes(text_, static_cast<std::size_t>(maxLength_))
+                : text::replaceAll(text_, "\"", ""));
   Control::leftByFocus(next);
 }
 

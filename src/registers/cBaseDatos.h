@@ -19,11 +19,13 @@ class cBaseDatos {
   /// The entries of a book in the order of their positions, each with its first columns only.
   bool GrabarBasedatosColeccion(FDAPI::Conexion& conBaseDatos, std::int32_t lngLibro,
                                 ColeccionBautismo& result);
-  /// Does to the tables what each item says. An item that went through is marked as done, so that
-  /// a second call after a failure stores nothing twice. `blnSalto`: an old book's next free
-  /// position is not the one after its last.
+  /// Does to the tables what each item says, each in one transaction. An item that went through is
+  /// marked as done, so that a second call after a failure stores nothing twice. `blnSalto`: an old
+  /// book's next free position is not the one after its last.
   bool GrabarColeccionBasesDatos(FDAPI::Conexion& conBaseDatos, ColeccionBautismo& colPartidas,
                                  bool& blnSalto);
+  /// Deletes the items that reached the tables without their child and were not stored since.
+  bool RetirarAMedias(FDAPI::Conexion& conBaseDatos, ColeccionBautismo& colPartidas);
   /// Inserts father, mother, marriage, entry and child; the record takes the new keys. A record
   /// that has its key already, since a former try got as far as that, gets its rows updated and its
   /// child inserted: tried again, nothing is stored twice.

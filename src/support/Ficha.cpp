@@ -1,5 +1,6 @@
 #include "support/Ficha.h"
 
+#include "core/contract/Citas.h"
 #include "text/Utf8.h"
 
 namespace fidaleon::support {
@@ -56,7 +57,7 @@ std::string sinBlancos(const forms::TextBox& campo) {
 }
 
 std::string entreComillas(const std::string& texto) {
-  return "\"" + text::replaceAll(text::trim(text::sanitized(texto)), "\"", "''") + "\"";
+  return fidaleon::entreComillas(text::trim(text::sanitized(texto)));
 }
 
 }  // namespace fidaleon::support

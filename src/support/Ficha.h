@@ -61,7 +61,7 @@ class Ficha : public forms::Form {
 };
 
 /// The text of a field for a statement: trimmed, without control characters, between double
-/// quotes, with any double quote in it as two apostrophes.
+/// quotes.
 std::string entreComillas(const std::string& texto);
 std::string sinBlancos(const forms::TextBox& campo);
 

@@ -6,6 +6,7 @@
 #include "support/frmInstitucion.h"
 #include "support/frmMunicipio.h"
 #include "support/frmProvincia.h"
+#include "text/Names.h"
 #include "text/Utf8.h"
 
 namespace fidaleon::support {
@@ -27,11 +28,12 @@ bool isUnit(const std::string& caption) {
 }  // namespace
 
 void Fidaleon::ComprobarComilla(forms::TextBox& campo) {
-  const std::string safe = text::replaceAll(campo.text(), "\"", "''");
+  const std::string safe =
+      text::withoutQuotes(campo.text(), static_cast<std::size_t>(campo.maxLength()));
   if (safe == campo.text()) return;
   const std::string before = text::left(campo.text(), static_cast<std::size_t>(campo.selStart()));
   campo.setText(safe);
-  campo.setSelection(static_cast<int>(text::length(text::replaceAll(before, "\"", "''"))), 0);
+  campo.setSelection(static_cast<int>(text::length(text::withoutQuotes(before))), 0);
 }
 
 void Fidaleon::Comprobar_borrarcombo(forms::KeyPress& tecla, forms::ListControl& lista) {

@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "core/contract/NombreRepetido.h"
 #include "support/Identidad.h"
 #include "support/Listas.h"
 #include "support/frmMunicipio.h"
@@ -138,11 +139,9 @@ void frmInstitucion::cmdAltaPoblacion_Click() {
 
 bool frmInstitucion::comprobar() {
   if (sinBlancos(txtInstitucion[Nombre]).empty()) return falta(txtInstitucion[Nombre]);
-  if (!conexion_
-           .Execute("SELECT IDInstitucion FROM Institucion WHERE Nombre=" +
-                    entreComillas(txtInstitucion[Nombre].text()) + " AND IDInstitucion<>" +
-                    std::to_string(id_))
-           .EOF_())
+  if (hayMismoNombre(conexion_,
+                     "SELECT Nombre FROM Institucion WHERE IDInstitucion<>" + std::to_string(id_),
+                     txtInstitucion[Nombre].text()))
     return rechazar(txtInstitucion[Nombre], "¡Ya existe una institución con ese nombre!");
   const std::string cif = sinBlancos(txtInstitucion[CIF]);
   if (!cif.empty() && !fidaleon_.CIF_NIF_Valido(cif))

@@ -1,5 +1,6 @@
 #include "support/frmMunicipio.h"
 
+#include "core/contract/NombreRepetido.h"
 #include "support/Listas.h"
 #include "support/frmProvincia.h"
 
@@ -41,11 +42,11 @@ void frmMunicipio::cmdAltaProvincia_Click() {
 bool frmMunicipio::comprobar() {
   if (cboProvincia.listIndex() < 0) return falta(cboProvincia);
   if (sinBlancos(txtNombre).empty()) return falta(txtNombre);
-  if (!conexion_
-           .Execute("SELECT IDMunicipio FROM Municipio WHERE CodProvincia=" +
-                    std::to_string(cboProvincia.data()) + " AND Nombre=" +
-                    entreComillas(txtNombre.text()) + " AND IDMunicipio<>" + std::to_string(id_))
-           .EOF_())
+  if (hayMismoNombre(
+          conexion_,
+          "SELECT Nombre FROM Municipio WHERE CodProvincia=" + std::to_string(cboProvincia.data()) +
+              " AND IDMunicipio<>" + std::to_string(id_),
+          txtNombre.text()))
     return rechazar(txtNombre, "¡Ya existe un municipio con ese nombre en la provincia!");
   return true;
 }

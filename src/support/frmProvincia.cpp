@@ -1,5 +1,6 @@
 #include "support/frmProvincia.h"
 
+#include "core/contract/NombreRepetido.h"
 #include "text/Numbers.h"
 
 namespace fidaleon::support {
@@ -31,10 +32,9 @@ void frmProvincia::cargar() {
 bool frmProvincia::comprobar() {
   if (sinBlancos(txtNombre).empty()) return falta(txtNombre);
   const std::string others = " AND IDProvincia<>" + std::to_string(id_);
-  if (!conexion_
-           .Execute("SELECT IDProvincia FROM Provincia WHERE Nombre=" +
-                    entreComillas(txtNombre.text()) + others)
-           .EOF_())
+  if (hayMismoNombre(conexion_,
+                     "SELECT Nombre FROM Provincia WHERE IDProvincia<>" + std::to_string(id_),
+                     txtNombre.text()))
     return rechazar(txtNombre, "¡Ya existe una provincia con ese nombre!");
   const std::int32_t code = text::toInteger(txtCodigoOficial.text()).value_or(0);
   if (code != 0 && !conexion_

@@ -295,8 +295,8 @@ TEST_F(Busqueda, SameNameAsTyped_IsShownOncePerChange) {
   form.busca.nombreCambiado();
   lista({ana, otraAna});
   EXPECT_EQ(alSalir(), ana);
-  ejecutar("UPDATE Padron SET Nombre=\"Ana ''la Nena''\" WHERE IDPadron=" + texto(ana));
-  form.nombre.setText("Ana \"la Nena\"");  // old data, as it is stored now
+  ejecutar("UPDATE Padron SET Nombre='Ana \"la Nena\"' WHERE IDPadron=" + texto(ana));
+  form.nombre.setText("Ana \"la Nena\"");  // old data, as it is stored
   lista({ana}, CANCELAR);
   EXPECT_EQ(alSalir(), 0);
   form.busca.nombreCambiado();

@@ -216,16 +216,14 @@ TEST_F(Encargados, KeeperAdded_IsStoredChosenAndTheTableGivenBack) {
   EXPECT_EQ(count(TABLA), 3);
 }
 
-TEST_F(Encargados, ApostropheInName_IsReportedAndTheDialogGoesOn) {
-  user.answerAnything(Answer::Ok);
+TEST_F(Encargados, QuotesInName_AreNoHindrance) {
   EXPECT_EQ(abrir([&](FormDriver& u) {
-              agregar(u, "Ana O'Hara");
-              EXPECT_THAT(user.messages().at(0).text, HasSubstr("FidaleonNucleo / frmEncargado"));
-              EXPECT_EQ(u.text(KEEPER), "Rosa Gil");
-              agregar(u, "Ana Ohara");
+              agregar(u, " José \"Pepe\" D'Ors ");
+              EXPECT_EQ(u.text(KEEPER), "José ''Pepe'' D'Ors");
+              agregar(u, "josé  ''pepe'' d'ors", true);
               u.click(ACEPTAR);
             }),
-            "Ana Ohara|20261122|1");
+            "José ''Pepe'' D'Ors|20261122|1");
 }
 
 TEST_F(Encargados, InstitutionOrKeepersInUse_CanBeChosenButNotAdded) {

@@ -33,6 +33,30 @@ TEST_F(EditedBaptism, Correction_ReachesTheRowsItBelongsTo) {
   EXPECT_SCRIPT_DONE(w.user);
 }
 
+TEST_F(EditedBaptism, QuotesOfOldData_AreNoHindrance) {
+  w.con().Execute("UPDATE Libro_Bautismo SET Nombre='El \"Viejo\"'");
+  w.con().Execute("UPDATE bautismo SET parroquia='\"La Luz\"'");
+  w.con().Execute("UPDATE bautismo_padres SET abuela='Ana \"la\" d''Ors'");
+  open(
+      cCOperacion::EDITAR,
+      [&](FormDriver& d) {
+        d.tab("mstBautismo", frmPartidaBautismo::TAB_PADRE);
+        d.type("txtBautismo(33)", "600");
+        accept(d);
+        EXPECT_TRUE(d.closed());
+      },
+      id);
+  EXPECT_EQ(w.value("SELECT Abuela FROM bautismo_padres WHERE TelefonoPadre=\"600\""),
+            "Ana \"la\" d'Ors");
+  EXPECT_EQ(w.value("SELECT Parroquia FROM bautismo"), "\"La Luz\"");
+  open(cCOperacion::ANADIR, [&](FormDriver& d) {
+    chooseBook(d, "El \"Viejo\"");
+    EXPECT_EQ(d.text("txtLibro(1)"), "2");
+    cancel(d);
+  });
+  EXPECT_SCRIPT_DONE(w.user);
+}
+
 TEST_F(EditedBaptism, RowOfTheFamilyGone_MayBeReadButNotChanged) {
   w.con().Execute("DELETE * FROM bautismo_madres");
   w.user.expectMessage(
@@ -231,6 +255,30 @@ TEST_F(Family, SecondChild_TakesTheParentsOverIntoRowsOfItsOwn) {
   EXPECT_SCRIPT_DONE(w.user);
 }
 
+TEST_F(Family, OneSurnameTypedWithBlanks_IsFoundAgain) {
+  const auto enter = [&](const char* name, bool hasFamily) {
+    open(cCOperacion::ANADIR, [&](FormDriver& d) {
+      chooseBook(d, "Libro 1");
+      if (hasFamily) {
+        w.user.expectForm("frmBuscaPadres", [](FormDriver& hits) {
+          EXPECT_EQ(hits.caption(), "Búsqueda de padres por Smith");
+          hits.click("cmdBoton(1)");
+        });
+      }
+      typeChild(d, name, " Smith ", " ");
+      w.user.expectMessage(EMPTY_FIELDS, Answer::Yes);
+      w.user.expectMessage(FURTHER, Answer::No);
+      accept(d);
+    });
+  };
+  enter(" Ann ", false);
+  EXPECT_EQ(w.count("bautismo_hijo WHERE Nombre=\"Ann\" AND PrimerApellido=\"Smith\" AND "
+                    "SegundoApellido=\"---\""),
+            1);
+  enter("Tom", true);
+  EXPECT_SCRIPT_DONE(w.user);
+}
+
 TEST_F(Family, CancelledOrNotFound_CopiesNothing) {
   open(cCOperacion::ANADIR, [&](FormDriver& d) {
     chooseBook(d, "Libro 1");
@@ -351,7 +399,7 @@ TEST_F(SantiagoBaptism, ParishesOfBaptismAndAgeOfSponsors_AreShownAndStored) {
   EXPECT_EQ(w.value("SELECT PadreCodMunicipioParrBaut FROM bautismo_padres"), std::to_string(town));
   EXPECT_EQ(w.value("SELECT AbuelaPatParroquiaBaut FROM bautismo_padres"), "Santa Ana");
   EXPECT_EQ(w.value("SELECT EdadPadrino FROM bautismo"), "42");
-  EXPECT_EQ(w.value("SELECT EdadMadrina FROM bautismo"), "0");
+  EXPECT_EQ(w.value("SELECT EdadMadrina FROM bautismo"), "---");
   EXPECT_SCRIPT_DONE(w.user);
 }
 

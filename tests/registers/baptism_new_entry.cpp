@@ -17,7 +17,7 @@ TEST_F(NewBaptism, UsualEntry_IsStoredAndFollowedByTheNext) {
     EXPECT_TRUE(d.locked("txtLibro(1)"));
     typeChild(d, "Luis");
     EXPECT_EQ(d.caption(), "Agregar partida de bautismo nueva. Folio:1 número:1");
-    EXPECT_EQ(d.text("adtpBautismo(0)"), "22/11/2026");
+    EXPECT_EQ(d.text("adtpBautismo(2)"), "22/11/2026");
     d.choose("cboBautismo(20)", "Hombre");
     d.type("txtHoraNac", "9:05");
     d.choose("cboBautismo(0)", "Madrid");
@@ -55,6 +55,16 @@ TEST_F(NewBaptism, RequiredFields_AreAskedForOneByOne) {
     accept(d);
     EXPECT_EQ(d.focused(), "txtBautismo(8)");
     d.type("txtBautismo(8)", "García");
+    w.user.expectMessage(
+        "La fecha de nacimiento y la fecha de la boda de los padres siguen siendo la de hoy "
+        "(22/11/2026). ¿Es correcto?");
+    d.enter();
+    EXPECT_EQ(w.user.messages().back().byEnter, Answer::No);
+    EXPECT_EQ(d.focused(), "adtpBautismo(0)");
+    d.type("adtpBautismo(0)", "22/11/2026");  // today indeed
+    w.user.expectMessage(
+        "La fecha de la boda de los padres sigue siendo la de hoy (22/11/2026). ¿Es correcto?",
+        Answer::Yes);
     w.user.expectMessage(EMPTY_FIELDS, Answer::No);
     accept(d);
     EXPECT_EQ(d.text("txtBautismo(9)"), "");
@@ -136,15 +146,16 @@ TEST_F(NewBaptism, PageLimitPassed_IsRefusedUntilComputedAnew) {
   EXPECT_SCRIPT_DONE(w.user);
 }
 
-TEST_F(NewBaptism, AnyText_IsKeptWithoutBreakingTheStatement) {
+TEST_F(NewBaptism, AnyText_IsKeptWithoutBreakingTheStatementOrTheField) {
   book("Libro 1", true, 3);
+  const std::string full = "\"" + std::string(253, 'x') + "\"";
   open(cCOperacion::ANADIR, [&](FormDriver& d) {
     chooseBook(d, "Libro 1");
     typeChild(d, "Jo\"sé");
     d.paste("txtBautismo(7)", "José \"Pepe\" 👶");
     d.tab("mstBautismo", frmPartidaBautismo::TAB_BAUTISMO);
     d.paste("txtBautismo(31)", "Ermita \"La Luz\"\x01; DELETE * FROM bautismo");
-    d.type("txtBautismo(32)", "a\"b");
+    d.paste("txtBautismo(32)", full);
     d.tab("mstBautismo", frmPartidaBautismo::TAB_NOTAS);
     d.paste("txtBautismo(23)", "Línea 1\nΔοκιμή \"dos\"");
     w.user.expectMessage(EMPTY_FIELDS, Answer::Yes);
@@ -153,7 +164,7 @@ TEST_F(NewBaptism, AnyText_IsKeptWithoutBreakingTheStatement) {
   });
   EXPECT_EQ(w.value("SELECT Nombre FROM bautismo_hijo"), "José Pepe 👶");
   EXPECT_EQ(w.value("SELECT Parroquia FROM bautismo"), "Ermita ''La Luz''; DELETE * FROM bautismo");
-  EXPECT_EQ(w.value("SELECT Diocesis FROM bautismo"), "a''b");
+  EXPECT_EQ(w.value("SELECT Diocesis FROM bautismo"), "'" + full.substr(1, 253) + "'");
   EXPECT_EQ(w.value("SELECT NotasMarginales FROM bautismo"), "Línea 1\r\nΔοκιμή ''dos''");
   EXPECT_SCRIPT_DONE(w.user);
 }
@@ -206,6 +217,44 @@ TEST_F(NewBaptism, EntryWithoutItsChild_IsGoneOnWithWhenAcceptedAgain) {
   EXPECT_EQ(w.count("bautismo_hijo WHERE Nombre=\"Eva María\""), 1);
   EXPECT_EQ(w.count("bautismo_padres WHERE Nombre=\"Pablo\""), 1);
   EXPECT_EQ(w.value("SELECT Nombre FROM bautismo_padres WHERE IDPadres=" + brothersFather), "Juan");
+}
+
+TEST_F(NewBaptism, EntryWithoutItsChild_IsTakenBackWhenTheDialogCloses) {
+  book("Libro 1", true, 3);
+  auto* faults = store::FailingEngine::wrap(w.con());
+  w.user.answerAnything(Answer::Yes);
+  open(cCOperacion::ANADIR, [&](FormDriver& d) {
+    chooseBook(d, "Libro 1");
+    typeChild(d, "Eva");
+    faults->failOn("INSERT INTO bautismo_hijo", store::ErrorKind::DiskFull);
+    accept(d);
+    EXPECT_EQ(w.count("bautismo"), 1);
+    EXPECT_FALSE(w.con().inTransaction());
+    cancel(d);
+  });
+  for (const char* table : {"bautismo", "bautismo_padres", "bautismo_madres"})
+    EXPECT_EQ(w.count(table), 0) << table;
+}
+
+TEST_F(NewBaptism, StoreThatCannotCommit_KeepsNothingAndStoresOnceWhenTriedAgain) {
+  book("Libro 1", true, 3);
+  w.user.answerAnything(Answer::Yes);
+  for (const int step : {1, 2, 3}) {  // the parents' rows, the entry, all of it
+    auto* faults = store::FailingEngine::wrap(w.con());
+    w.con().Execute("DELETE * FROM bautismo");
+    open(cCOperacion::ANADIR, [&](FormDriver& d) {
+      chooseBook(d, "Libro 1");
+      typeChild(d, "Eva");
+      faults->failOn("COMMIT", store::ErrorKind::DiskFull, step);
+      accept(d);
+      EXPECT_FALSE(d.closed());
+      EXPECT_EQ(w.count("bautismo"), 0) << step;
+      accept(d);
+      EXPECT_EQ(w.count("bautismo"), 1) << step;
+      cancel(d);
+    });
+    EXPECT_EQ(w.count("bautismo"), 1) << step;
+  }
 }
 
 TEST_F(NewBaptism, BookAndTownDeletedMeanwhile_AreNamedAndOthersCanBeChosen) {
@@ -458,6 +507,38 @@ TEST_F(OldBaptism, LaterDate_MovesTheBookForwardAndAnnulmentIsStored) {
   EXPECT_SCRIPT_DONE(w.user);
 }
 
+TEST_F(OldBaptism, DatesThatCannotBe_AreNamedOnceAndNotRefused) {
+  book("Antiguo", false, 3);
+  const char* odd = "Hay fechas que no pueden ser. ¿Desea guardarlas así?";
+  open(cCOperacion::ANTIGUA, [&](FormDriver& d) {
+    chooseBook(d, "Antiguo");
+    typeChild(d, "Eva");
+    d.type("adtpBautismo(0)", "6/7/1961");
+    d.tab("mstBautismo", frmPartidaBautismo::TAB_MATRIMONIO);
+    d.type("adtpBautismo(1)", "1/1/1499");
+    d.tab("mstBautismo", frmPartidaBautismo::TAB_BAUTISMO);
+    d.type("adtpBautismo(2)", "23/11/2026");
+    w.user.expectMessage(odd);
+    accept(d);
+    EXPECT_EQ(w.user.messages().back().below,
+              "La fecha de la boda de los padres (01/01/1499) es anterior al año 1500.\n"
+              "La fecha de bautismo (23/11/2026) es posterior a hoy.");
+    EXPECT_EQ(d.focused(), "adtpBautismo(1)");
+    d.type("adtpBautismo(1)", "");
+    d.tab("mstBautismo", frmPartidaBautismo::TAB_BAUTISMO);
+    d.type("adtpBautismo(2)", "5/7/1961");
+    w.user.expectMessage(odd);
+    accept(d);
+    EXPECT_EQ(w.user.messages().back().below,
+              "La fecha de nacimiento (06/07/1961) es posterior a la fecha de bautismo "
+              "(05/07/1961).");
+    w.user.expectMessage(FURTHER, Answer::No);
+    accept(d);
+  });
+  EXPECT_EQ(w.value("SELECT FechaNac FROM bautismo_hijo"), "19610706");
+  EXPECT_SCRIPT_DONE(w.user);
+}
+
 TEST_F(OldBaptism, EmptyPositionWithoutABook_DoesNotBarTheWayToTheLists) {
   book("Antiguo", false, 3);
   open(cCOperacion::ANTIGUA, [&](FormDriver& d) {
@@ -490,6 +571,8 @@ TEST_F(OldBaptism, JumpToTheNextHole_IsTold) {
     EXPECT_EQ(d.text("txtLibro(1)"), "4");
     cancel(d);
   });
+  EXPECT_EQ(w.count("bautismo WHERE FechaBautismo=\"---\" AND EdadPadrino=\"---\""), 1);
+  EXPECT_EQ(w.value("SELECT FechaCreacion FROM Libro_Bautismo"), "19900101");
   EXPECT_SCRIPT_DONE(w.user);
 }
 

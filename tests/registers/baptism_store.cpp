@@ -17,14 +17,14 @@ TEST_F(BaptismStore, Statements_AreWordedAsTheTablesSay) {
   EXPECT_EQ(sqlInsertar(TABLA_MATRIMONIO, b),
             "INSERT INTO bautismo_matrimonio (parroquia,fechamatr,codmunicipiomatr,"
             "direccionpadres,codmunicipiopadres,DiocesisMatrimonio ,TelefonoPadres) VALUES "
-            "(\"San Juan\", \"---\", 0, \"Calle ''Sol''\", 0, \"Madrid\", \"---\")");
+            "(\"San Juan\", \"---\", 0, \"Calle \"\"Sol\"\"\", 0, \"Madrid\", \"---\")");
   EXPECT_EQ(sqlInsertar(TABLA_HIJO, b),
             "INSERT INTO bautismo_hijo (codbautismo,nombre,primerapellido,segundoapellido,sexo,"
             "fechanac,horanac,direccionnac,codmunicipionac) VALUES (9, \"Luis\", \"García\", "
             "\"Pérez\", \"Hombre\", \"---\", \"---\", \"\", 0)");
   EXPECT_EQ(sqlActualizar(TABLA_MATRIMONIO_AL_ACTUALIZAR, b),
             "UPDATE bautismo_matrimonio SET parroquia=\"San Juan\", fechamatr=\"---\", "
-            "codmunicipiomatr=0, direccionpadres=\"Calle ''Sol''\", codmunicipiopadres=0, "
+            "codmunicipiomatr=0, direccionpadres=\"Calle \"\"Sol\"\"\", codmunicipiopadres=0, "
             "TelefonoPadres=\"---\", DiocesisMatrimonio=\"Madrid\"");
   EXPECT_THAT(
       sqlInsertar(TABLA_BAUTISMO, b),

@@ -110,8 +110,17 @@ class BaptismWorld : public ::testing::Test {
     d.choose("cboBautismo(22)", "San Pedro");
     d.choose("cboBautismo(23)", name);
   }
+  /// A new entry begins with today in all dates: a birth, and no wedding.
+  static void typeDates(FormDriver& d) {
+    if (d.text("adtpBautismo(1)") != "22/11/2026") return;
+    d.tab("mstBautismo", frmPartidaBautismo::TAB_BAUTIZADO);
+    d.type("adtpBautismo(0)", "01/11/2026");
+    d.tab("mstBautismo", frmPartidaBautismo::TAB_MATRIMONIO);
+    d.type("adtpBautismo(1)", "");
+  }
   static void typeChild(FormDriver& d, const std::string& name, const std::string& first = "García",
                         const std::string& second = "Pérez") {
+    typeDates(d);
     d.tab("mstBautismo", frmPartidaBautismo::TAB_BAUTIZADO);
     d.type("txtBautismo(7)", name);
     d.type("txtBautismo(8)", first);

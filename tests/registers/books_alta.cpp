@@ -134,7 +134,7 @@ TEST_P(AltaLibro, secondOpenNewBookOfAnInstitution_isRefusedAtAcceptance) {
 }
 
 TEST_P(AltaLibro, nameThatExists_isRefusedWithinTheInstitution) {
-  crear("libro 12", sanJuan, false);
+  crear("libro  12 ", sanJuan, false);
   espera("¡El nombre del libro introducido ya existe!");
   abrir([&](FormDriver& f) {
     rellenarAntiguo(f);

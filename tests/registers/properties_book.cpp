@@ -104,7 +104,7 @@ TEST_F(BookData, RefusedAcceptance_KeepsEverythingInTheDialog) {
     toEntries(d);
     add(d, "Ana", true);
     d.tab("mstLibro", 0);
-    d.type("txtNombreLibro", "otro");
+    d.type("txtNombreLibro", "o tro");
     w.user.expectMessage("¡El nombre del libro introducido ya existe!");
     acceptBook(d);
     for (const char* nombre : {"", "   "}) {
@@ -173,7 +173,7 @@ TEST_F(BookData, DateMovedByALaterEntry_IsNotPutBack) {
   const std::int32_t antiguo = book("Antiguo", false, 1, "19000101");
   openBook(antiguo, [&](FormDriver& d) {
     toEntries(d);
-    add(d, "Ana", true);  // baptised today, as the dialog proposes
+    add(d, "Ana", true, "22/11/2026");
     EXPECT_EQ(d.text("dtpFecha"), "22/11/2026");
     acceptBook(d);
   });

@@ -343,22 +343,24 @@ TEST_F(BookEntries, StoreFailingInTheMiddle_KeepsTheDialogAndStoresTheRestLater)
   EXPECT_SCRIPT_DONE(w.user);
 }
 
-TEST_F(BookEntries, EntryStoredByHalfAndThenRemoved_LeavesNothingBehind) {
+TEST_F(BookEntries, EntryStoredByHalfAndNotGoneOnWith_LeavesNothingBehind) {
   fill(nuevo, {"Luis"});
   auto* faults = store::FailingEngine::wrap(w.con());
-  w.user.answerAnything(Answer::Ok);
-  openBook(nuevo, [&](FormDriver& d) {
-    toEntries(d);
-    add(d, "Ana");
-    faults->failOn("INSERT INTO bautismo_hijo", store::ErrorKind::DiskFull);
-    acceptBook(d);
-    EXPECT_FALSE(d.closed());
-    remove(d, 2);
-    acceptBook(d);
-    EXPECT_TRUE(d.closed());
-  });
-  EXPECT_EQ(w.count("bautismo"), 1);
-  EXPECT_THAT(stored(nuevo), ElementsAre("1/1 Luis"));
+  for (const bool removed : {true, false}) {
+    w.user.answerAnything(Answer::Yes);
+    openBook(nuevo, [&](FormDriver& d) {
+      toEntries(d);
+      add(d, "Ana");
+      faults->failOn("INSERT INTO bautismo_hijo", store::ErrorKind::DiskFull);
+      acceptBook(d);
+      EXPECT_FALSE(d.closed());
+      if (removed) remove(d, 2);
+      removed ? acceptBook(d) : cancelBook(d);
+      EXPECT_TRUE(d.closed());
+    });
+    EXPECT_EQ(w.count("bautismo"), 1);
+    EXPECT_THAT(stored(nuevo), ElementsAre("1/1 Luis"));
+  }
   EXPECT_SCRIPT_DONE(w.user);
 }
 

@@ -53,9 +53,12 @@ class PropertiesWorld : public BaptismWorld {
 
   static void toEntries(FormDriver& d) { d.tab("mstLibro", frmPropiedadesLibro::TAB_PARTIDAS); }
   /// Adds one entry that has no family yet.
-  void add(FormDriver& d, const std::string& name, bool old = false) {
-    w.user.expectForm(DIALOG, [this, name, old](FormDriver& e) {
+  void add(FormDriver& d, const std::string& name, bool old = false,
+           const std::string& baptised = {}) {
+    w.user.expectForm(DIALOG, [this, name, old, baptised](FormDriver& e) {
       typeChild(e, name, "Nuevo", name);
+      e.tab("mstBautismo", frmPartidaBautismo::TAB_BAUTISMO);
+      if (!baptised.empty()) e.type("adtpBautismo(2)", baptised);
       if (!old) w.user.expectMessage(EMPTY_FIELDS, Answer::Yes);
       w.user.expectMessage(FURTHER, Answer::No);
       accept(e);

@@ -25,6 +25,7 @@ TEST_F(BaptismRequest, New_IsStoredOutsideAnyBook) {
   enter("Luis");
   EXPECT_EQ(w.count("bautismo WHERE codlibro=0 AND folio=0 AND numero=\"---\""), 1);
   EXPECT_EQ(w.value("SELECT InstitucionSolicitud FROM bautismo"), std::to_string(parish));
+  EXPECT_EQ(w.value("SELECT FechaMatr FROM bautismo_matrimonio"), "---");
   EXPECT_SCRIPT_DONE(w.user);
 }
 

@@ -7,6 +7,9 @@
 // A part is looked for, without regard to case, in the statement as it was issued, with "?" in
 // the place of each value. Transactions are "BEGIN", "COMMIT" and "ROLLBACK".
 
+#include <signal.h>
+#include <unistd.h>
+
 #include <string>
 #include <vector>
 
@@ -39,6 +42,8 @@ class FailingEngine : public ForwardingEngine {
   void failAlwaysOn(const std::string& part, ErrorKind kind = ErrorKind::Other) {
     faults_.push_back({text::foldCase(part), kind, 1, true});
   }
+  /// The process is killed at change number `nth`, commits included, before it is made.
+  void dieAt(int nth) { dieAt_ = nth; }
   void clear() { faults_.clear(); }
   /// Faults that have not come about.
   std::size_t pending() const { return faults_.size(); }
@@ -94,6 +99,8 @@ class FailingEngine : public ForwardingEngine {
   void meet(const std::string& source) {
     executed_.push_back(source);
     const std::string folded = text::foldCase(source);
+    const bool reads = folded.starts_with("select") || folded.starts_with("begin");
+    if (!reads && --dieAt_ == 0) ::kill(::getpid(), SIGKILL);
     for (auto fault = faults_.begin(); fault != faults_.end(); ++fault) {
       if (folded.find(fault->part) == std::string::npos || --fault->left > 0) continue;
       const ErrorKind kind = fault->kind;
@@ -102,6 +109,7 @@ class FailingEngine : public ForwardingEngine {
     }
   }
 
+  int dieAt_ = 0;
   std::vector<Fault> faults_;
   std::vector<std::string> executed_;
 };

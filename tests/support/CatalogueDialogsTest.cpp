@@ -116,7 +116,7 @@ TEST_F(Catalogues, TownTwice_IsRefusedInOneProvinceOnly) {
   w.municipio("Villanueva", "Madrid");
   w.user.expectForm("frmMunicipio", [this](FormDriver& u) {
     u.choose("cboProvincia", "Madrid");
-    u.type("txtNombre", "villanueva");
+    u.type("txtNombre", "villa nueva");
     w.user.expectMessage("¡Ya existe un municipio con ese nombre en la provincia!");
     u.click("cmdBoton(0)");
     u.choose("cboProvincia", "Toledo");
@@ -157,7 +157,7 @@ TEST_F(Catalogues, InstitutionWithBadData_IsRefusedFieldByField) {
   w.user.expectForm("frmInstitucion", [this](FormDriver& u) {
     w.user.expectMessage("Falta rellenar el campo «NOMBRE».");
     u.click("cmdBoton(0)");
-    u.type("txtInstitucion(0)", "san pedro");
+    u.type("txtInstitucion(0)", "san  pedro");
     w.user.expectMessage("¡Ya existe una institución con ese nombre!");
     u.click("cmdBoton(0)");
     u.type("txtInstitucion(0)", "San Pablo");

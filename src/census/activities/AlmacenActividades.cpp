@@ -45,8 +45,9 @@ void insertarMiembro(Conexion& conexion, const cPadronActGrupos& g, std::int32_t
 void insertarGrupo(Conexion& conexion, std::int32_t actividad, const cPadronActGrupos& g) {
   conexion.Execute(
       "INSERT INTO Grupo (CodActividad,Nombre,Año,Dia,Hora,Sala,Comentarios ) VALUES (" +
-      numero(actividad) + "," + citar(g.Nombre) + "," + citar(g.Año) + "," + citar(g.Dia) + "," +
-      citar(g.Hora) + "," + citar(g.Sala) + "," + citar(g.Comentarios) + ")");
+      numero(actividad) + "," + entreComillas(g.Nombre) + "," + entreComillas(g.Año) + "," +
+      entreComillas(g.Dia) + "," + entreComillas(g.Hora) + "," + entreComillas(g.Sala) + "," +
+      entreComillas(g.Comentarios) + ")");
   const std::int32_t id =
       clave(conexion.Execute("SELECT MAX(IDGrupo) as IDGrupo FROM Grupo"), "IDGrupo");
   for (const cPadronActividad& miembro : g.miembros)
@@ -78,9 +79,11 @@ void exigirGrupo(Conexion& conexion, const cPadronActGrupos& g) {
 
 void actualizarGrupo(Conexion& conexion, const cPadronActGrupos& g) {
   exigirGrupo(conexion, g);
-  conexion.Execute("UPDATE Grupo SET Nombre=" + citar(g.Nombre) + ", Año=" + citar(g.Año) +
-                   ",Dia=" + citar(g.Dia) + ",Hora=" + citar(g.Hora) + ",Sala=" + citar(g.Sala) +
-                   ",Comentarios=" + citar(g.Comentarios) + " WHERE IDGrupo=" + numero(g.IDGrupo));
+  conexion.Execute("UPDATE Grupo SET Nombre=" + entreComillas(g.Nombre) +
+                   ", Año=" + entreComillas(g.Año) + ",Dia=" + entreComillas(g.Dia) +
+                   ",Hora=" + entreComillas(g.Hora) + ",Sala=" + entreComillas(g.Sala) +
+                   ",Comentarios=" + entreComillas(g.Comentarios) +
+                   " WHERE IDGrupo=" + numero(g.IDGrupo));
   guardarMiembros(conexion, g);
 }
 
@@ -136,8 +139,8 @@ void agregarActividad(Conexion& conexion, const Actividad& actividad,
                       const ColeccionGrupos& grupos) {
   store::Transaction transaccion(conexion);
   conexion.Execute("INSERT INTO Actividad (Nombre,Descripcion,CodInstitucion ) VALUES (" +
-                   citar(actividad.Nombre) + "," + citar(actividad.Descripcion) + "," +
-                   numero(actividad.CodInstitucion) + ")");
+                   entreComillas(actividad.Nombre) + "," + entreComillas(actividad.Descripcion) +
+                   "," + numero(actividad.CodInstitucion) + ")");
   const std::int32_t id = clave(
       conexion.Execute("SELECT MAX(IDActividad) as IDActividad FROM Actividad"), "IDActividad");
   for (const cPadronActGrupos& grupo : grupos)
@@ -150,8 +153,8 @@ void editarActividad(Conexion& conexion, const Actividad& actividad,
   store::Transaction transaccion(conexion);
   if (!leerActividad(conexion, actividad.IDActividad))
     throw std::runtime_error("La actividad ya no existe.");
-  conexion.Execute("UPDATE Actividad SET Nombre=" + citar(actividad.Nombre) +
-                   ",Descripcion=" + citar(actividad.Descripcion) +
+  conexion.Execute("UPDATE Actividad SET Nombre=" + entreComillas(actividad.Nombre) +
+                   ",Descripcion=" + entreComillas(actividad.Descripcion) +
                    ",CodInstitucion=" + numero(actividad.CodInstitucion) +
                    " WHERE IDActividad=" + numero(actividad.IDActividad));
   for (const cPadronActGrupos& grupo : grupos) {

@@ -5,8 +5,10 @@
 #include <stdexcept>
 
 #include "core/contract/Citas.h"
+#include "core/contract/NombreRepetido.h"
 #include "core/lists/Rejilla.h"
 #include "core/lists/cIListas.h"
+#include "text/Utf8.h"
 
 namespace fidaleon {
 
@@ -152,10 +154,12 @@ bool frmActividad::repetida() {
   const std::string otra = Operacion == cCOperacion::EDITAR
                                ? " AND IDActividad<>" + std::to_string(IDActividad)
                                : std::string();
+  const std::string vecinas = " CodInstitucion=" + std::to_string(a.CodInstitucion) + otra;
   return !conBaseDatos
-              ->Execute("SELECT Nombre FROM Actividad WHERE Nombre=" + citar(a.Nombre) +
-                        " AND CodInstitucion=" + std::to_string(a.CodInstitucion) + otra)
-              .EOF_();
+              ->Execute("SELECT Nombre FROM Actividad WHERE Nombre=" + entreComillas(a.Nombre) +
+                        " AND" + vecinas)
+              .EOF_() ||
+         hayMismoNombre(*conBaseDatos, "SELECT Nombre FROM Actividad WHERE" + vecinas, a.Nombre);
 }
 
 Actividad frmActividad::datos() const {

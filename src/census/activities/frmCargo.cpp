@@ -6,6 +6,7 @@
 #include "census/Operaciones.h"
 #include "core/contract/Citas.h"
 #include "core/contract/Guard.h"
+#include "text/Utf8.h"
 
 namespace fidaleon {
 
@@ -113,17 +114,18 @@ bool frmCargo::repetido(const std::string& nombre) {
   const std::string otro = Operacion == cCOperacion::EDITAR
                                ? " AND IDCargo<> " + std::to_string(IDCargo)
                                : std::string();
-  return !conBaseDatos->Execute("SELECT * FROM Cargo WHERE Nombre=" + citar(nombre) + otro).EOF_();
+  return !conBaseDatos->Execute("SELECT * FROM Cargo WHERE Nombre=" + entreComillas(nombre) + otro)
+              .EOF_();
 }
 
 void frmCargo::guardar(const std::string& nombre) {
-  const std::string descripcion = citar(txtCargo[DESCRIPCION].text());
+  const std::string descripcion = entreComillas(txtCargo[DESCRIPCION].text());
   if (Operacion == cCOperacion::EDITAR)
-    conBaseDatos->Execute("UPDATE Cargo SET Nombre=" + citar(nombre) + ",Descripcion=" +
+    conBaseDatos->Execute("UPDATE Cargo SET Nombre=" + entreComillas(nombre) + ",Descripcion=" +
                           descripcion + " WHERE IDCargo=" + std::to_string(IDCargo));
   else
-    conBaseDatos->Execute("INSERT INTO Cargo (Nombre,Descripcion) VALUES (" + citar(nombre) + "," +
-                          descripcion + ");");
+    conBaseDatos->Execute("INSERT INTO Cargo (Nombre,Descripcion) VALUES (" +
+                          entreComillas(nombre) + "," + descripcion + ");");
 }
 
 }  // namespace fidaleon

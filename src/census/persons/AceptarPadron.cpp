@@ -110,7 +110,8 @@ std::string frmPadron::dni() const {
 
 void frmPadron::leerCampos() {
   Persona& p = ficha_.persona;
-  for (const auto& [campo, miembro] : textos_) p.*miembro = campo->text();
+  for (const auto& [campo, miembro] : textos_)
+    p.*miembro = campo->multiline() ? campo->text() : text::trim(campo->text());
   for (const auto& [campo, miembro] : fechas_) p.*miembro = fechaEnLugarDe(p.*miembro, *campo);
   for (const auto& [par, miembro] : municipios_) p.*miembro = par->valor();
   p.DNI = dni();

@@ -38,9 +38,9 @@ bool BuscaCoincidencias::completo() const {
 }
 
 std::string BuscaCoincidencias::sentencia(std::int32_t otra) const {
-  const std::string iguales = "SELECT * FROM Padron WHERE Nombre=" + citar(nombre_.text()) +
-                              " AND PrimerApellido=" + citar(primerApellido_.text()) +
-                              " AND SegundoApellido=" + citar(segundoApellido_.text());
+  const std::string iguales = "SELECT * FROM Padron WHERE Nombre=" + entreComillas(nombre_.text()) +
+                              " AND PrimerApellido=" + entreComillas(primerApellido_.text()) +
+                              " AND SegundoApellido=" + entreComillas(segundoApellido_.text());
   return otra == 0 ? iguales : iguales + " AND IDPadron <> " + std::to_string(otra);
 }
 

@@ -71,7 +71,7 @@ void frmPadronImportar::buscar() {
 std::string frmPadronImportar::condiciones() const {
   std::string clausulas;
   const auto agregar = [&](const char* columna, const std::string& valor) {
-    clausulas += columna + citar(valor) + Y;
+    clausulas += columna + entreComillas(valor) + Y;
   };
   if (!txtNombre.text().empty()) agregar("Nombre=", txtNombre.text());
   if (!txtPrimerApellido.text().empty()) agregar(" PrimerApellido=", txtPrimerApellido.text());

@@ -93,7 +93,7 @@ void frmDatosSetup::recogerCampos() {
   if (mostrada_ < 0) return;
   FDAPI::cInstitucion& institucion = colInstituciones_[static_cast<std::size_t>(mostrada_)];
   for (int dato = PARROCO; dato <= VICARIA; ++dato)
-    institucion.*CAMPOS[static_cast<std::size_t>(dato)].miembro = txtDatos[dato].text();
+    institucion.*CAMPOS[static_cast<std::size_t>(dato)].miembro = text::trim(txtDatos[dato].text());
 }
 
 void frmDatosSetup::mostrarInstitucion() {

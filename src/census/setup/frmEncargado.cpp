@@ -1,6 +1,9 @@
 #include "census/setup/frmEncargado.h"
 
+#include "core/contract/Citas.h"
 #include "core/contract/Guard.h"
+#include "core/contract/NombreRepetido.h"
+#include "text/Names.h"
 #include "text/Utf8.h"
 
 namespace fidaleon {
@@ -122,8 +125,9 @@ void frmEncargado::agregarEncargado() {
       "Especifique el nombre de la persona encargada del archivo parroquial.\n"
       "Advertencia: Longitud máxima 120 caracteres.",
       "Agregar encargado");
-  const std::string nombre = text::left(tecleado.value_or(""), MAXIMO_ENCARGADO);
-  if (!text::trim(nombre).empty())
+  const std::string nombre = text::trim(text::left(
+      text::withoutQuotes(text::trim(text::sanitized(tecleado.value_or("")))), MAXIMO_ENCARGADO));
+  if (!nombre.empty())
     procedimiento("cmdAgregarEncargado_Click()", [&] { guardarEncargado(nombre); });
   // The whole table was needed for the moment only; the shared use of the institution goes on.
   bloqueos_->LiberarBloqueos();
@@ -134,11 +138,13 @@ void frmEncargado::guardarEncargado(const std::string& nombre) {
   const std::string id = std::to_string(lngInstitucion);
   if (!conBaseDatos
            ->Execute("SELECT * FROM Institucion_Encargado WHERE CodInstitucion=" + id +
-                     " AND Nombre ='" + nombre + "'")
-           .EOF_())
+                     " AND Nombre =" + entreApostrofos(nombre))
+           .EOF_() ||
+      hayMismoNombre(*conBaseDatos,
+                     "SELECT Nombre FROM Institucion_Encargado WHERE CodInstitucion=" + id, nombre))
     return forms::warn(ui(), "¡El encargado ya existe en la base de datos!");
   conBaseDatos->Execute("INSERT INTO Institucion_Encargado (CodInstitucion, Nombre) VALUES (" + id +
-                        ", '" + nombre + "')");
+                        ", " + entreApostrofos(nombre) + ")");
   CargarComboEncargados();
   cboEncargado.selectText(nombre);
 }

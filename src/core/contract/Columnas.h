@@ -56,9 +56,6 @@ inline std::string texto(std::uint8_t v) {
 inline std::string texto(bool v) {
   return v ? "True" : "False";
 }
-inline std::string citadoSimple(const std::string& v) {
-  return "'" + text::replaceAll(v, "'", "''") + "'";
-}
 inline std::string numero(const std::string& v) {
   return comoNumero(v);
 }
@@ -87,7 +84,7 @@ std::string valorSQL(const Registro& r, const Columna<Registro>& c) {
       [&](auto miembro) {
         if (c.cita == Cita::Numero) return columnas_detalle::numero(r.*miembro);
         const std::string valor = columnas_detalle::texto(r.*miembro);
-        return c.cita == Cita::Texto ? citar(valor) : columnas_detalle::citadoSimple(valor);
+        return c.cita == Cita::Texto ? entreComillas(valor) : entreApostrofos(valor);
       },
       c.miembro);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "core/contract/Entorno.h"
 #include "core/contract/cConstante.h"
@@ -8,6 +9,8 @@
 namespace fidaleon {
 
 inline constexpr const char* MODULO = "FidaleonNucleo";
+
+class TransaccionSinVuelta;
 
 /// What the operations and dialogs of the library share: the environment, and the one slot that
 /// keeps the host's configuration from call to call. Owned by cNucleo; dialogs hold a reference.
@@ -19,6 +22,8 @@ struct Contexto {
   const FDAPI::cConfig* gobjConfig = nullptr;
   std::string tituloAplicacion;
   std::string ficheroAyuda;
+  /// Those that stand open, the innermost last; kept by themselves.
+  mutable std::vector<TransaccionSinVuelta*> transacciones;
 
   forms::UserInterface& ui() const { return entorno.ui; }
   std::unique_ptr<FDAPI::cFidaleon> fidaleon() const { return entorno.support.create_cFidaleon(); }

@@ -21,8 +21,4 @@ std::string enSacramento(const Sacramento& sacramento, std::string_view enBautis
   return conPalabra(std::move(sql), BAUTISMO.palabra, sacramento.palabra);
 }
 
-std::string entreComillas(std::string_view texto) {
-  return '"' + std::string(texto) + '"';
-}
-
 }  // namespace fidaleon

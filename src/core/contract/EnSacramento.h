@@ -3,6 +3,7 @@
 #include <string>
 #include <string_view>
 
+#include "core/contract/Citas.h"
 #include "core/contract/Sacramento.h"
 
 namespace fidaleon {
@@ -11,9 +12,5 @@ namespace fidaleon {
 /// sacrament: "Libro_Bautismo", "idlibrobautismo", "IDBautismo" and their like, each in the case
 /// in which it stands. Never to be run over values that people typed.
 std::string enSacramento(const Sacramento& sacramento, std::string_view enBautismo);
-
-/// `texto` between double quotes, as statements carry text. Those who call it have kept double
-/// quotes out of the text.
-std::string entreComillas(std::string_view texto);
 
 }  // namespace fidaleon

@@ -2,6 +2,7 @@
 
 #include <stdexcept>
 
+#include "core/contract/Citas.h"
 #include "core/contract/Guard.h"
 #include "core/contract/Sacramento.h"
 #include "core/lists/cConversor.h"
@@ -117,8 +118,8 @@ std::string cIListas::primerNombreLibre(FDAPI::Conexion& conexion, std::int64_t 
     const std::string nombre = candidato(tipo, n, ano);
     if (conexion
             .Execute(std::string("SELECT Nombre FROM ") + SACRAMENTOS.at(libro).tablaLibros +
-                     " WHERE CodInstitucion = " + std::to_string(institucion) + " AND Nombre = '" +
-                     nombre + "'")
+                     " WHERE CodInstitucion = " + std::to_string(institucion) +
+                     " AND Nombre = " + entreApostrofos(nombre))
             .EOF_())
       return nombre;
   }

@@ -7,6 +7,7 @@
 #include "registers/allocation/LimiteFolios.h"
 #include "registers/baptism/frmPartidaBautismo.h"
 #include "registers/cBaseDatos.h"
+#include "registers/common/Guiones.h"
 #include "text/Dates.h"
 #include "text/Utf8.h"
 
@@ -16,12 +17,6 @@ using FDAPI::cCOperacion;
 using FDAPI::cCOrigen;
 
 namespace {
-
-constexpr const char* GUIONES = "---";
-
-std::string oGuiones(const std::string& valor) {
-  return text::trim(valor).empty() ? GUIONES : valor;
-}
 
 /// What an untouched field stands for: a stored text that the field cannot show stays as it is.
 std::string valorDe(const forms::TextBox& campo, const std::string& legible,
@@ -72,6 +67,7 @@ bool frmPartidaBautismo::ComprobarCampos() {
     setFocus(campo);
     return false;
   }
+  if (!fechasRevisadas_.aceptar()) return false;
   if (Operacion == cCOperacion::ANADIR && hayCamposVacios() &&
       !forms::ask(ui(),
                   "Tiene campos sin rellenar. Estos campos se rellenarán con guiones. "
@@ -93,16 +89,16 @@ bool frmPartidaBautismo::hayCamposVacios() const {
 
 void frmPartidaBautismo::rellenarGuiones() {
   cargando_ = true;
-  for (const auto& e : textos_) {
-    const bool edad = e.campo == &txtSC[EdadPadrino] || e.campo == &txtSC[EdadMadrina];
-    if (text::trim(e.campo->text()).empty()) e.campo->setText(edad ? "0" : GUIONES);
-  }
+  for (const auto& e : textos_)
+    if (text::trim(e.campo->text()).empty()) e.campo->setText(GUIONES);
   cargando_ = false;
 }
 
 cBautismo frmPartidaBautismo::leerCampos() const {
   cBautismo partida = registro_;
-  for (const auto& e : textos_) partida.*e.miembro = oGuiones(e.campo->text());
+  for (const auto& e : textos_)
+    partida.*e.miembro =
+        e.campo->multiline() ? oGuiones(e.campo->text()) : nombreGuardado(e.campo->text());
   for (const auto& e : fechas_) {
     const std::string& guardada = registro_.*e.miembro;
     partida.*e.miembro =
@@ -162,34 +158,39 @@ void frmPartidaBautismo::adelantarFechaDelLibro(const cBautismo& partida) {
 
 bool frmPartidaBautismo::guardarAlta() {
   cBautismo partida = GrabarDatosColeccion();
-  adelantarFechaDelLibro(partida);
-  if (!desdeLista()) return almacenar(std::move(partida));
-  colPartidas->push_back(std::move(partida));
-  return true;
+  if (desdeLista()) {
+    adelantarFechaDelLibro(partida);
+    colPartidas->push_back(std::move(partida));
+    return true;
+  }
+  ColeccionBautismo coleccion{std::move(partida)};
+  const cBautismo& intentada = coleccion.front();
+  // The entry and the date of the book, which it may move, come together or not at all.
+  TransaccionSinVuelta transaccion(contexto_, *conBaseDatos);
+  adelantarFechaDelLibro(intentada);
+  almacenar(coleccion);
+  transaccion.terminar();
+  // An entry that reached the table must not be stored a second time, and one that got there
+  // without its child is gone on with, or taken back when the dialog closes.
+  registro_.IDBautismo = intentada.Estado ? 0 : intentada.IDBautismo;
+  registro_.CodPadres = intentada.CodPadres;
+  registro_.CodMadres = intentada.CodMadres;
+  registro_.CodMatrimonio = intentada.CodMatrimonio;
+  return intentada.Estado;
 }
 
 bool frmPartidaBautismo::guardarEdicion() {
   cBautismo partida = GrabarDatosColeccion();
   if (!ComprobarCambios(partida)) return true;
-  if (!desdeLista()) return almacenar(std::move(partida));
-  colPartidas->at(lngPosicion) = std::move(partida);
+  ColeccionBautismo coleccion{std::move(partida)};
+  if (!desdeLista()) return almacenar(coleccion);
+  colPartidas->at(lngPosicion) = std::move(coleccion.front());
   return true;
 }
 
-bool frmPartidaBautismo::almacenar(cBautismo partida) {
-  ColeccionBautismo coleccion{std::move(partida)};
+bool frmPartidaBautismo::almacenar(ColeccionBautismo& coleccion) {
   bool blnSalto = false;
-  const bool guardada =
-      cBaseDatos(contexto_).GrabarColeccionBasesDatos(*conBaseDatos, coleccion, blnSalto);
-  if (guardada || !esAlta()) return guardada;
-  // A new entry that reached the table must not be stored a second time, and one that got there
-  // without its child is gone on with.
-  const cBautismo& intentada = coleccion.front();
-  registro_.IDBautismo = intentada.IDBautismo;
-  registro_.CodPadres = intentada.CodPadres;
-  registro_.CodMadres = intentada.CodMadres;
-  registro_.CodMatrimonio = intentada.CodMatrimonio;
-  return intentada.Estado;
+  return cBaseDatos(contexto_).GrabarColeccionBasesDatos(*conBaseDatos, coleccion, blnSalto);
 }
 
 void frmPartidaBautismo::otraPartida() {

@@ -1,8 +1,8 @@
 // Inserting a baptism, and walking a collection that does.
 
-#include "core/contract/Guard.h"
 #include "registers/baptism/TablasBautismo.h"
 #include "registers/cBaseDatos.h"
+#include "registers/common/GuardarEntera.h"
 
 namespace fidaleon {
 
@@ -11,45 +11,21 @@ using FDAPI::Conexion;
 
 namespace {
 
-/// Ends the transaction that a failure left open. There is no roll-back: what had been inserted
-/// stays, but nothing written later may hang on a transaction that nobody ends.
-void cerrarTransaccion(Conexion& conexion) {
-  try {
-    conexion.CommitTrans();
-  } catch (const std::exception&) {
-    conexion.RollbackTrans();
-  }
+bool pendiente(const cBautismo& item) {
+  const bool seBorra = item.Operacion == cCOperacion::Borrar;
+  if (!item.Estado) return !seBorra || item.IDBautismo != 0;
+  return seBorra || item.Operacion == cCOperacion::EDITAR ||
+         item.Operacion == cCOperacion::EDITARSOLICITUD;
 }
 
-class TransaccionSinVuelta {
- public:
-  explicit TransaccionSinVuelta(Conexion& conexion) : conexion_(conexion) {
-    conexion_.BeginTrans();
-  }
-  ~TransaccionSinVuelta() {
-    try {
-      if (abierta_) cerrarTransaccion(conexion_);
-    } catch (const std::exception&) {  // the connection itself is lost
-    }
-  }
-  void terminar() {
-    conexion_.CommitTrans();
-    abierta_ = false;
-  }
-
- private:
-  Conexion& conexion_;
-  bool abierta_ = true;
-};
-
 std::int32_t claveNueva(Conexion& conexion, const std::string& sql, const std::string& texto) {
-  return static_cast<std::int32_t>(conexion.Execute(sql + citar(texto)).integer("ID"));
+  return static_cast<std::int32_t>(conexion.Execute(sql + entreComillas(texto)).integer("ID"));
 }
 
 }  // namespace
 
 void cBaseDatos::insertarPadres(Conexion& conBaseDatos, cBautismo& record) {
-  TransaccionSinVuelta transaccion(conBaseDatos);
+  TransaccionSinVuelta transaccion(contexto_, conBaseDatos);
   conBaseDatos.Execute(sqlInsertar(TABLA_PADRES, record));
   conBaseDatos.Execute(sqlInsertar(TABLA_MADRES, record));
   conBaseDatos.Execute(sqlInsertar(TABLA_MATRIMONIO, record));
@@ -104,14 +80,27 @@ bool cBaseDatos::AltaPartidaBautismo(Conexion& conBaseDatos, cBautismo& record) 
 bool cBaseDatos::GrabarColeccionBasesDatos(Conexion& conBaseDatos, ColeccionBautismo& colPartidas,
                                            bool& blnSalto) {
   const forms::Hourglass reloj(contexto_.ui());
-  for (cBautismo& partida : colPartidas) {
+  for (cBautismo& item : colPartidas) {
+    if (!pendiente(item)) continue;
     lngIDPadres_ = lngIDMadres_ = lngIDMatrimonio_ = 0;
-    bool guardada = false;
-    guarded(contexto_, "cBaseDatos", "GrabarColeccionBasesDatos",
-            [&] { guardada = guardar(conBaseDatos, partida, blnSalto); });
-    if (!guardada) return false;
+    if (!guardarEntera(contexto_, conBaseDatos, "GrabarColeccionBasesDatos", item,
+                       [&](cBautismo& b) { return guardar(conBaseDatos, b, blnSalto); }))
+      return false;
   }
   return true;
+}
+
+bool cBaseDatos::RetirarAMedias(Conexion& conBaseDatos, ColeccionBautismo& colPartidas) {
+  bool retiradas = true;
+  for (cBautismo& item : colPartidas) {
+    if (item.Estado || item.IDBautismo == 0) continue;
+    item.Operacion = cCOperacion::Borrar;
+    bool blnSalto = false;
+    retiradas = guardarEntera(contexto_, conBaseDatos, "RetirarAMedias", item,
+                              [&](cBautismo& b) { return guardar(conBaseDatos, b, blnSalto); }) &&
+                retiradas;
+  }
+  return retiradas;
 }
 
 bool cBaseDatos::guardar(Conexion& conBaseDatos, cBautismo& partida, bool& blnSalto) {
@@ -134,8 +123,11 @@ bool cBaseDatos::guardar(Conexion& conBaseDatos, cBautismo& partida, bool& blnSa
     }
   }
   // It has a key when a former try stored it without its child.
-  if (partida.Operacion == cCOperacion::Borrar)
-    return partida.IDBautismo == 0 || BorrarPartidaBautismo(conBaseDatos, partida.IDBautismo);
+  if (partida.Operacion == cCOperacion::Borrar) {
+    if (!BorrarPartidaBautismo(conBaseDatos, partida.IDBautismo)) return false;
+    partida.IDBautismo = 0;
+    return true;
+  }
   const bool antiguo = partida.Operacion == cCOperacion::ANTIGUA ||
                        (partida.CodLibroBautismo != 0 &&
                         !conBaseDatos

@@ -5,6 +5,7 @@
 #include "core/lists/cIListas.h"
 #include "registers/baptism/TablasBautismo.h"
 #include "registers/baptism/frmPartidaBautismo.h"
+#include "registers/cBaseDatos.h"
 
 namespace fidaleon {
 
@@ -16,6 +17,9 @@ namespace {
 constexpr const char* MENSAJE_CARGA_INCOMPLETA =
     "¡A esta partida le falta alguna de sus fichas (bautizado, padre, madre o matrimonio)! Se "
     "puede consultar, pero no modificar.";
+constexpr const char* MENSAJE_QUEDA_A_MEDIAS =
+    "La partida ha quedado guardada a medias y no se ha podido retirar. La encontrará en Registro, "
+    "«Partidas incompletas».";
 
 bool enBlanco(const std::string& valor) {
   return valor.empty() || valor == "---";
@@ -37,6 +41,14 @@ void frmPartidaBautismo::Form_Load() {
   if (!procedimiento("Form_Load", [this] { cargar(); })) return Unload();
   cargando_ = false;
   procedimiento("Form_Load", [this] { avisarNumeroRepetido(); });
+}
+
+/// What a failure left in the tables without its child stands in no list.
+void frmPartidaBautismo::Form_Unload() {
+  if (!esAlta() || desdeLista()) return;
+  ColeccionBautismo aMedias{registro_};
+  if (!cBaseDatos(contexto_).RetirarAMedias(*conBaseDatos, aMedias))
+    forms::warn(ui(), MENSAJE_QUEDA_A_MEDIAS);
 }
 
 void frmPartidaBautismo::cargar() {
@@ -84,7 +96,7 @@ void frmPartidaBautismo::limpiarCampos() {
   for (const auto& e : municipios_) e.campo->poner(0);
   cboBautismo[Sexo].setListIndex(-1);
   txtHoraNac.setText("");
-  for (const auto& e : fechas_) e.campo->setStored(esAlta() ? contexto_.hoy() : "");
+  fechasRevisadas_.empezar(Operacion == cCOperacion::ANADIR);
   anulada_ = false;
   mostrarAnulada();
 }
@@ -103,6 +115,7 @@ void frmPartidaBautismo::prepararAlta() {
     if (!fila.flag("nuevo")) {
       Operacion = cCOperacion::ANTIGUA;
       cmdBautismo[ANULAR].setVisible(true);
+      fechasRevisadas_.empezar(false);
       abrirPosicion(true);
     }
     cboBautismo[Libro].setLocked(true);
@@ -118,6 +131,7 @@ void frmPartidaBautismo::prepararSolicitud() {
   cboBautismo[Libro].setVisible(false);
   fraLibro.setVisible(false);
   cmdAltaLibro.setVisible(false);
+  fechasRevisadas_.permitirFuturo(adtpBautismo[FechaBautismo]);  // it is still to be held
   const bool edicion = Operacion == cCOperacion::EDITARSOLICITUD;
   if (edicion) {
     leerPartida();

@@ -96,6 +96,7 @@ void borrarPartidaBautismo(Contexto& contexto, Conexion& conBaseDatos, std::int3
     // Another desk may have added an entry or closed the book while the question stood.
     if (!bloqueos.efectuar() || (permiso && !permiso())) return;
     const forms::Hourglass reloj(contexto.ui());
+    TransaccionSinVuelta transaccion(contexto, conBaseDatos);
     const store::Recordset fila =
         conBaseDatos.Execute("SELECT * FROM bautismo WHERE idbautismo=" + id);
     conBaseDatos.Execute(
@@ -103,6 +104,7 @@ void borrarPartidaBautismo(Contexto& contexto, Conexion& conBaseDatos, std::int3
         "IDLibroBautismo = " +
         fila.text("CodLibro"));
     borrarFilasBautismo(conBaseDatos, fila);
+    transaccion.terminar();
   });
 }
 

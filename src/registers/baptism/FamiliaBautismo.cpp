@@ -5,14 +5,15 @@
 
 #include "core/contract/Citas.h"
 #include "registers/baptism/frmPartidaBautismo.h"
+#include "registers/common/Guiones.h"
 #include "registers/lookup/frmBuscaPadres.h"
 #include "text/Utf8.h"
 
 namespace fidaleon {
 
 std::pair<std::string, std::string> frmPartidaBautismo::parDeApellidos() const {
-  return {text::trim(txtBautismo[PrimerApellidoHijo].text()),
-          text::trim(txtBautismo[SegundoApellidoHijo].text())};
+  return {nombreGuardado(txtBautismo[PrimerApellidoHijo].text()),
+          nombreGuardado(txtBautismo[SegundoApellidoHijo].text())};
 }
 
 void frmPartidaBautismo::apellidos_LostFocus(const forms::Control* siguiente) {
@@ -23,14 +24,13 @@ void frmPartidaBautismo::apellidos_LostFocus(const forms::Control* siguiente) {
 
 void frmPartidaBautismo::BuscarPadres() {
   const auto par = parDeApellidos();
-  if (par.first.empty() || !apellidosBuscados_.insert(par).second) return;
+  if (par.first == GUIONES || !apellidosBuscados_.insert(par).second) return;
   frmBuscaPadres busqueda(contexto_);
   procedimiento("BuscarPadres", [&] {
-    const auto entre = [this](Texto campo) { return citar(text::trim(txtBautismo[campo].text())); };
     store::Recordset filas = conBaseDatos->Execute(
         "SELECT DISTINCT IDBautismo, PrimerApellido, SegundoApellido, CodPadres, CodMadres, "
         "CodMatrimonio FROM Bautismo, Bautismo_Hijo WHERE PrimerApellido = " +
-        entre(PrimerApellidoHijo) + " AND SegundoApellido = " + entre(SegundoApellidoHijo) +
+        entreComillas(par.first) + " AND SegundoApellido = " + entreComillas(par.second) +
         " AND CodBautismo = IDBautismo" + librosHastaEste());
     for (; !filas.EOF_(); filas.MoveNext()) {
       const auto clave = [&](const char* columna) {
@@ -46,7 +46,7 @@ void frmPartidaBautismo::BuscarPadres() {
   if (busqueda.filas.empty()) return;
   busqueda.conBaseDatos = conBaseDatos;
   busqueda.Origen = FDAPI::cCOrigen::LISTAPARTIDASBAUTISMO;
-  busqueda.strApellidos = text::trim(par.first + " " + par.second);
+  busqueda.strApellidos = par.second == GUIONES ? par.first : par.first + " " + par.second;
   busqueda.Show();
   if (busqueda.blnAceptado) CargarColeccionDatosImportar(busqueda.importado);
 }

@@ -13,6 +13,11 @@ void frmPartidaBautismo::crearSucesos() {
                                    txtLibro[NUMERO], mstBautismo, lblNumeroRepetido,
                                    [this] { return posicionesDeColeccion(); }});
   limiteNotas_.emplace(ui(), txtBautismo[NotasMarginales]);
+  using Hoy = RevisionFechas::Hoy;
+  fechasRevisadas_.vigilar(adtpBautismo[FechaNac], "fecha de nacimiento", Hoy::DUDOSO);
+  fechasRevisadas_.vigilar(adtpBautismo[FechaMatr], "fecha de la boda de los padres", Hoy::DUDOSO);
+  fechasRevisadas_.vigilar(adtpBautismo[FechaBautismo], "fecha de bautismo", Hoy::NORMAL);
+  fechasRevisadas_.enEsteOrden(adtpBautismo[FechaNac], adtpBautismo[FechaBautismo]);
   txtBautismo[NotasMarginales].onChange = [this] {
     if (!cargando_) limiteNotas_->comprobar();
   };

@@ -15,6 +15,7 @@
 #include "registers/baptism/cBautismo.h"
 #include "registers/common/LimiteNotas.h"
 #include "registers/common/ListasDeLibro.h"
+#include "registers/common/RevisionFechas.h"
 
 namespace fidaleon {
 
@@ -155,6 +156,7 @@ class frmPartidaBautismo : public Dialogo {
 
  protected:
   void Form_Load() override;
+  void Form_Unload() override;
 
  private:
   template <class T, class Campo>
@@ -237,7 +239,7 @@ class frmPartidaBautismo : public Dialogo {
   void adelantarFechaDelLibro(const cBautismo& partida);
   bool guardarAlta();
   bool guardarEdicion();
-  bool almacenar(cBautismo partida);
+  bool almacenar(ColeccionBautismo& coleccion);
   void otraPartida();
   void anular();
 
@@ -259,6 +261,7 @@ class frmPartidaBautismo : public Dialogo {
   std::optional<ListasDeLibro> listas_;
   std::optional<PosicionPartida> posicion_;
   std::optional<LimiteNotas> limiteNotas_;
+  RevisionFechas fechasRevisadas_{contexto_};
   /// The entry as it was read; for a new one, what the family look-up brought.
   cBautismo registro_;
   bool anulada_ = false;

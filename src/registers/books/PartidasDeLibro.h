@@ -48,6 +48,8 @@ class PartidasDeLibro {
   virtual bool abrir(const AperturaDeLista& apertura) = 0;
   /// False when something could not be stored; a second call stores the rest.
   virtual bool guardar(FDAPI::Conexion& conBaseDatos) = 0;
+  /// Takes back what a failed guardar() left in the tables without all its rows.
+  virtual bool retirarAMedias(FDAPI::Conexion& conBaseDatos) = 0;
 };
 
 /// The working copy of a sacrament. What it needs to know of it is said by `Lista`:
@@ -61,6 +63,7 @@ class PartidasDeLibro {
 ///   static bool cargar(Contexto&, FDAPI::Conexion&, std::int32_t lngLibro, Coleccion&);
 ///   static bool completar(Contexto&, FDAPI::Conexion&, Coleccion&, std::size_t posicion);
 ///   static bool guardar(Contexto&, FDAPI::Conexion&, Coleccion&);
+///   static bool retirarAMedias(Contexto&, FDAPI::Conexion&, Coleccion&);
 template <class Lista>
 class PartidasDe final : public PartidasDeLibro {
  public:
@@ -95,6 +98,9 @@ class PartidasDe final : public PartidasDeLibro {
   }
   bool guardar(FDAPI::Conexion& conBaseDatos) override {
     return Lista::guardar(contexto_, conBaseDatos, coleccion_);
+  }
+  bool retirarAMedias(FDAPI::Conexion& conBaseDatos) override {
+    return Lista::retirarAMedias(contexto_, conBaseDatos, coleccion_);
   }
 
  private:

@@ -4,6 +4,7 @@
 
 #include "core/contract/EnSacramento.h"
 #include "core/contract/Guard.h"
+#include "core/contract/NombreRepetido.h"
 #include "core/lists/cIListas.h"
 #include "registers/common/NuevaInstitucion.h"
 #include "text/Utf8.h"
@@ -236,7 +237,7 @@ void frmAltaLibro::avisarFalta() {
 bool frmAltaLibro::GuardarDatos() {
   bool guardado = false;
   procedimiento("GuardarDatos()", [&] {
-    const std::string nombre = entreComillas(txtNombreLibro.text());
+    const std::string nombre = entreComillas(text::trim(txtNombreLibro.text()));
     if (hayFilas(sentencia("Select * from libro_bautismo where codinstitucion=") + institucion() +
                  " and nuevo=true and cerrado=false") &&
         optNuevo.value()) {
@@ -245,7 +246,11 @@ bool frmAltaLibro::GuardarDatos() {
       return;
     }
     if (hayFilas(sentencia("Select * from libro_bautismo where Nombre =") + nombre +
-                 " and codinstitucion=" + institucion())) {
+                 " and codinstitucion=" + institucion()) ||
+        hayMismoNombre(
+            *conBaseDatos,
+            sentencia("Select Nombre from libro_bautismo where codinstitucion=") + institucion(),
+            txtNombreLibro.text())) {
       rechazar("¡El nombre del libro introducido ya existe!");
       return;
     }

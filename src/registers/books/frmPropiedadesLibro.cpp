@@ -25,6 +25,10 @@ constexpr std::array<VariantePropiedadesLibro, 4> VARIANTES{{
      cIListas::RUTA_PROPIEDADES_LIBRO},
 }};
 
+constexpr const char* MENSAJE_QUEDAN_A_MEDIAS =
+    "Hay partidas que han quedado guardadas a medias y no se han podido retirar. Las encontrará en "
+    "Registro, «Partidas incompletas».";
+
 }  // namespace
 
 frmPropiedadesLibro::frmPropiedadesLibro(Contexto& contexto, const Sacramento& sacramento,
@@ -157,6 +161,7 @@ void frmPropiedadesLibro::configurarRejilla() {
 }
 
 void frmPropiedadesLibro::Form_Unload() {
+  if (!partidas_->retirarAMedias(*conBaseDatos)) forms::warn(ui(), MENSAJE_QUEDAN_A_MEDIAS);
   sesion_.reset();
   if (!cargado_) return;
   procedimiento("Form_Unload()", [this] {

@@ -1,6 +1,7 @@
 // Accepting and cancelling the dialog of a book.
 
 #include "core/contract/EnSacramento.h"
+#include "core/contract/NombreRepetido.h"
 #include "core/lists/Elecciones.h"
 #include "registers/books/VariantePropiedadesLibro.h"
 #include "text/Utf8.h"
@@ -24,9 +25,13 @@ void frmPropiedadesLibro::cmdBoton_Click(Boton boton) {
 void frmPropiedadesLibro::aceptar() {
   if (hayFilas(sentencia("select * from libro_bautismo where Cerrado=0 and Nuevo=1")))
     return forms::warn(ui(), "¡No puede haber dos libros nuevos y abiertos a la vez!");
+  const std::string otros =
+      std::to_string(institucion_) + sentencia(" AND IDLibroBautismo<>") + libro();
   if (hayFilas(sentencia("select * from libro_Bautismo where Nombre=") +
-               entreComillas(txtNombreLibro.text()) + " and codInstitucion=" +
-               std::to_string(institucion_) + sentencia(" AND IDLibroBautismo<>") + libro()))
+               entreComillas(text::trim(txtNombreLibro.text())) + " and codInstitucion=" + otros) ||
+      hayMismoNombre(*conBaseDatos,
+                     sentencia("select Nombre from libro_Bautismo where codInstitucion=") + otros,
+                     txtNombreLibro.text()))
     return forms::warn(ui(), "¡El nombre del libro introducido ya existe!");
   if (!ValidarDatos()) {
     forms::Control& campo = *campoQueFalta();
@@ -65,10 +70,11 @@ bool frmPropiedadesLibro::GuardarDatos() {
         sentencia("Select * from Libro_Bautismo where IdLibroBautismo=") + libro());
     if (fila.flag("nuevo") && fila.flag("cerrado")) return;
     const std::string fecha = dtpFecha.stored().empty() ? fechaEnTabla_ : dtpFecha.stored();
-    conBaseDatos->Execute(
-        sentencia("Update Libro_Bautismo Set codTipoNombre= ") +
-        std::to_string(cboTipoNombre.data()) + ", Nombre= " + entreComillas(txtNombreLibro.text()) +
-        ", FechaCreacion=" + entreComillas(fecha) + sentencia(" where IdLibroBautismo=") + libro());
+    conBaseDatos->Execute(sentencia("Update Libro_Bautismo Set codTipoNombre= ") +
+                          std::to_string(cboTipoNombre.data()) +
+                          ", Nombre= " + entreComillas(text::trim(txtNombreLibro.text())) +
+                          ", FechaCreacion=" + entreComillas(fecha) +
+                          sentencia(" where IdLibroBautismo=") + libro());
   });
 }
 

@@ -37,6 +37,10 @@ struct ListaBautismo {
     bool blnSalto = false;
     return cBaseDatos(contexto).GrabarColeccionBasesDatos(conBaseDatos, coleccion, blnSalto);
   }
+  static bool retirarAMedias(Contexto& contexto, FDAPI::Conexion& conBaseDatos,
+                             ColeccionBautismo& coleccion) {
+    return cBaseDatos(contexto).RetirarAMedias(conBaseDatos, coleccion);
+  }
 };
 
 }  // namespace

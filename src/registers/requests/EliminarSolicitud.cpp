@@ -15,7 +15,9 @@ void eliminarSolicitudBautismo(Contexto& contexto, FDAPI::Conexion& conBaseDatos
     const forms::Hourglass reloj(contexto.ui());
     const store::Recordset fila =
         conBaseDatos.Execute("SELECT * FROM bautismo WHERE idbautismo=" + std::to_string(lngID));
+    TransaccionSinVuelta transaccion(contexto, conBaseDatos);
     if (!fila.EOF_()) borrarFilasBautismo(conBaseDatos, fila);
+    transaccion.terminar();
   });
 }
 
