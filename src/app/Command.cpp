@@ -162,6 +162,13 @@ void addBookCommands(std::vector<Command>& all) {
            BOOKS, Needs::Row, [](Workplace& w, const Choice& c) { w.showEntriesOf(c.id); }))));
 }
 
+void addRepairCommands(std::vector<Command>& all) {
+  all.push_back(line(
+      "partidas-incompletas", "Partidas &incompletas…", "",
+      "Muestra las partidas a las que les falta alguna de sus fichas", 0, Needs::Nothing,
+      [](Workplace& w, const Choice&) { w.nucleo().PartidasIncompletas(w.parish(), w.config()); }));
+}
+
 void addCatalogueCommands(std::vector<Command>& all) {
   all.push_back(inToolbar(
       "new", line("nueva-institucion", "&Nueva institución…", "Ins", "Da de alta una institución",
@@ -236,6 +243,7 @@ std::vector<Command> makeCommands() {
   addEntryCommands(all);
   addRequestCommands(all);
   addBookCommands(all);
+  addRepairCommands(all);
   addCensusCommands(all);
   addCatalogueCommands(all);
   addDocumentCommands(all);

@@ -4,6 +4,7 @@
 #include <QFileDialog>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QTimer>
 #include <fstream>
 #include <map>
 
@@ -187,6 +188,7 @@ Departure Desktop::work(Desk& desk) {
   if (!settleEdition(desk) || !desk.setUp()) return {};
   MainWindow window(desk);
   window.show();
+  QTimer::singleShot(0, &window, &MainWindow::tellOfIncompleteEntries);
   QApplication::exec();
   return window.departure();
 }

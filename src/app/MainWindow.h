@@ -55,6 +55,8 @@ class MainWindow : public QMainWindow, private Workplace {
   QAction* action(const std::string& command) const;
   QTableView& table() { return *table_; }
   QLineEdit& filter() { return *filter_; }
+  /// Tells of entries that lack a row, and shows them to whoever wants to see them.
+  void tellOfIncompleteEntries();
   /// Chooses the row of that key; false when the list does not show it.
   bool chooseRow(std::int32_t key);
   /// Where the user goes from here.

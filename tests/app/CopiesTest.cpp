@@ -424,6 +424,25 @@ TEST_F(CopiesBook, withoutSomeOfItsEntries_hasACopyWithThem) {
   EXPECT_EQ(entries(), all - 2);
 }
 
+TEST_F(CopiesWindow, incompleteEntries_areToldOfAndRemovedBehindACopy) {
+  window->tellOfIncompleteEntries();
+  const std::int64_t all = count("SELECT COUNT(*) FROM Bautismo");
+  desk->parish().Execute("DELETE * FROM Bautismo_Hijo WHERE CodBautismo=1");
+  user.expectMessage(
+      "Hay una partida a la que le falta alguna de sus fichas: no aparece en ninguna lista. ¿Desea "
+      "verla ahora?",
+      forms::Answer::Yes);
+  user.expectForm("frmPartidasIncompletas", [&](forms::FormDriver& d) {
+    user.expectMessage("¿Está seguro que desea eliminar la partida?", forms::Answer::Yes);
+    d.click("cmdBoton(1)");
+  });
+  window->tellOfIncompleteEntries();
+  EXPECT_EQ(count("SELECT COUNT(*) FROM Bautismo"), all - 1);
+  ASSERT_EQ(copies.list().size(), 1U);
+  EXPECT_EQ(copies.list()[0].before, "Partidas incompletas");
+  EXPECT_THAT(user.problems(), IsEmpty());
+}
+
 TEST_F(CopiesBook, withoutACopy_keepsItsEntriesUntilToldToGoOn) {
   const std::int64_t all = entries();
   std::ofstream(folder()) << "x";

@@ -43,6 +43,11 @@ class cNucleo {
   /// resets the counters of its book.
   void BorrarPartidaBautismo(FDAPI::Conexion& conBaseDatos, std::int32_t lngID);
 
+  /// Entries and requests that lack one of their rows, to be completed or removed.
+  void PartidasIncompletas(FDAPI::Conexion& conBaseDatos, const FDAPI::cConfig& objConfig);
+  /// How many there are; 0 when that could not be found out, and the user knows.
+  std::int64_t CuentaPartidasIncompletas(FDAPI::Conexion& conBaseDatos);
+
   // Requests
   void NuevaSolicitud(FDAPI::Conexion& conBaseDatos, const FDAPI::cConfig& objConfig,
                       const std::string& strNodo);

@@ -1,0 +1,131 @@
+#include "registers/repair/PartidasIncompletas.h"
+
+#include "core/contract/Citas.h"
+#include "core/contract/NombreYApellidos.h"
+#include "registers/common/Guiones.h"
+#include "store/Transaction.h"
+#include "store/schema/Schema.h"
+
+namespace fidaleon {
+
+using FDAPI::Conexion;
+
+namespace {
+
+bool esPropia(const PartidaPorFichas& clase, const FichaDePartida& ficha) {
+  return text::equalsNoCase(ficha.enlace, clase.sacramento.clavePartida);
+}
+
+/// "FROM Bautismo WHERE (IDBautismo NOT IN (SELECT CodBautismo FROM Bautismo_Hijo) OR ...)"
+std::string sqlIncompletas(const PartidaPorFichas& clase) {
+  std::string condicion;
+  for (const FichaDePartida& f : clase.fichas) {
+    const std::string enlace = f.enlace;
+    condicion += (condicion.empty() ? "" : " OR ") + enlace + " NOT IN (SELECT " + f.clave +
+                 " FROM " + f.tabla + ")";
+    if (!esPropia(clase, f)) condicion += " OR " + enlace + " IS NULL";
+  }
+  return std::string(" FROM ") + clase.sacramento.tablaPartidas + " WHERE (" + condicion + ")";
+}
+
+std::string nombreDelLibro(Conexion& conexion, const Sacramento& s, std::int32_t libro) {
+  if (libro == 0) return "(solicitud)";
+  const store::Recordset fila =
+      conexion.Execute(std::string("SELECT Nombre FROM ") + s.tablaLibros + " WHERE " +
+                       s.claveLibro + "=" + std::to_string(libro));
+  return fila.EOF_() ? "(ya no existe)" : fila.text("Nombre");
+}
+
+/// Looks for each of its rows: which are missing, and whom the others name.
+void mirarFichas(Conexion& conexion, const store::Recordset& fila, PartidaIncompleta& p) {
+  for (const FichaDePartida& f : p.clase->fichas) {
+    const store::Recordset ficha =
+        conexion.Execute(std::string("SELECT * FROM ") + f.tabla + " WHERE " + f.clave + "=" +
+                         std::to_string(fila.integer(f.enlace)));
+    if (ficha.EOF_()) {
+      p.faltan.push_back(&f);
+    } else if (conexion.schema().find(f.tabla)->find("PrimerApellido")) {
+      const std::string quien = nombreYApellidos(ficha);
+      if (!quien.empty()) p.queda += (p.queda.empty() ? "" : "; ") + (f.nombre + (": " + quien));
+    }
+  }
+}
+
+PartidaIncompleta leida(Conexion& conexion, const PartidaPorFichas& clase,
+                        const store::Recordset& fila) {
+  PartidaIncompleta p;
+  p.clase = &clase;
+  p.id = static_cast<std::int32_t>(fila.integer(clase.sacramento.clavePartida));
+  p.codLibro = static_cast<std::int32_t>(fila.integer("CodLibro"));
+  p.libro = nombreDelLibro(conexion, clase.sacramento, p.codLibro);
+  p.folio = p.codLibro == 0 ? "" : fila.text("Folio");
+  p.numero = p.codLibro == 0 ? "" : fila.text("Numero");
+  p.fecha = fila.text(clase.fecha);
+  mirarFichas(conexion, fila, p);
+  return p;
+}
+
+/// A row that says nothing, as the registers write it.
+std::string sqlFichaEnBlanco(const store::Table& tabla, const FichaDePartida& ficha,
+                             const std::string& clave) {
+  std::string columnas, valores;
+  const auto agregar = [&](const std::string& columna, const std::string& valor) {
+    columnas += (columnas.empty() ? "" : ", ") + columna;
+    valores += (valores.empty() ? "" : ", ") + valor;
+  };
+  for (const store::Column& c : tabla.columns()) {
+    if (c.type == store::Type::Counter) continue;
+    if (text::equalsNoCase(c.name, ficha.clave))
+      agregar(c.name, clave);
+    else
+      agregar(c.name, store::isText(c.type) ? entreComillas(GUIONES) : "0");
+  }
+  return std::string("INSERT INTO ") + ficha.tabla + " (" + columnas + ") VALUES (" + valores + ")";
+}
+
+}  // namespace
+
+std::int64_t cuentaPartidasIncompletas(Conexion& conexion) {
+  std::int64_t cuantas = 0;
+  for (const PartidaPorFichas& clase : partidasPorFichas())
+    cuantas += conexion
+                   .Execute(std::string("SELECT COUNT(") + clase.sacramento.clavePartida +
+                            ") AS N" + sqlIncompletas(clase))
+                   .integer("N");
+  return cuantas;
+}
+
+std::vector<PartidaIncompleta> partidasIncompletas(Conexion& conexion) {
+  std::vector<PartidaIncompleta> todas;
+  for (const PartidaPorFichas& clase : partidasPorFichas())
+    for (store::Recordset filas = conexion.Execute("SELECT *" + sqlIncompletas(clase));
+         !filas.EOF_(); filas.MoveNext())
+      todas.push_back(leida(conexion, clase, filas));
+  return todas;
+}
+
+PartidaIncompleta releida(Conexion& conexion, const PartidaIncompleta& partida) {
+  const Sacramento& s = partida.clase->sacramento;
+  const store::Recordset fila =
+      conexion.Execute("SELECT *" + sqlIncompletas(*partida.clase) + " AND " + s.clavePartida +
+                       "=" + std::to_string(partida.id));
+  return fila.EOF_() ? PartidaIncompleta{} : leida(conexion, *partida.clase, fila);
+}
+
+void completarPartida(Conexion& conexion, const PartidaIncompleta& partida) {
+  const Sacramento& s = partida.clase->sacramento;
+  const std::string id = std::to_string(partida.id);
+  store::Transaction transaccion(conexion);
+  for (const FichaDePartida* f : partida.faltan) {
+    conexion.Execute(sqlFichaEnBlanco(*conexion.schema().find(f->tabla), *f, id));
+    if (esPropia(*partida.clase, *f)) continue;
+    const std::string clave =
+        conexion.Execute(std::string("SELECT MAX(") + f->clave + ") AS ID FROM " + f->tabla)
+            .text("ID");
+    conexion.Execute(std::string("UPDATE ") + s.tablaPartidas + " SET " + f->enlace + "=" + clave +
+                     " WHERE " + s.clavePartida + "=" + id);
+  }
+  transaccion.commit();
+}
+
+}  // namespace fidaleon

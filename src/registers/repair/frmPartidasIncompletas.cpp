@@ -1,0 +1,145 @@
+#include "registers/repair/frmPartidasIncompletas.h"
+
+#include <algorithm>
+
+#include "core/contract/EnSacramento.h"
+#include "core/contract/SesionBloqueos.h"
+#include "core/contract/TransaccionSinVuelta.h"
+#include "core/lists/Rejilla.h"
+#include "core/lists/cIListas.h"
+
+namespace fidaleon {
+
+namespace {
+
+const Rejilla REJILLA{"Grids\\PartidasIncompletas\\PartidasIncompletas",
+                      {{"Registro", 1100},
+                       {"Libro", 1300},
+                       {"Folio", 700},
+                       {"Número", 900},
+                       {"Fecha", 1200},
+                       {"Le falta", 1900},
+                       {"Lo que queda", 5500}}};
+
+std::string loQueFalta(const PartidaIncompleta& p) {
+  std::string nombres;
+  for (const FichaDePartida* f : p.faltan)
+    nombres += (nombres.empty() ? "" : ", ") + std::string(f->nombre);
+  return nombres;
+}
+
+std::string descripcion(const PartidaIncompleta& p) {
+  std::string texto = p.codLibro == 0
+                          ? "Solicitud"
+                          : "Libro " + p.libro + ", folio " + p.folio + ", número " + p.numero;
+  texto += ". Le falta: " + loQueFalta(p) + ".";
+  return p.queda.empty() ? texto : texto + "\nSe perderá lo que queda de ella: " + p.queda + ".";
+}
+
+}  // namespace
+
+frmPartidasIncompletas::frmPartidasIncompletas(Contexto& contexto)
+    : Dialogo(contexto, "frmPartidasIncompletas"),
+      lblExplicacion(
+          *this, "lblExplicacion",
+          "A estas partidas les falta alguna de sus fichas: ocupan su folio y su número, "
+          "pero no aparecen en ninguna lista.\n"
+          "«Completar» les da las que faltan, en blanco, y abre la partida para "
+          "rellenarlas. «Eliminar» la quita del libro."),
+      msgPartidas(*this, "msgPartidas"),
+      cmdBoton(*this, "cmdBoton") {
+  setCaption("Partidas incompletas");
+  cmdBoton.add(COMPLETAR, "C&ompletar").setDefault(true);
+  cmdBoton.add(ELIMINAR, "&Eliminar");
+  cmdBoton.add(CERRAR, "&Cerrar").setCancel(true);
+  cmdBoton[COMPLETAR].onClick = [this] { completar(); };
+  cmdBoton[ELIMINAR].onClick = [this] { eliminar(); };
+  cmdBoton[CERRAR].onClick = [this] { Unload(); };
+  msgPartidas.onDblClick = [this] { completar(); };
+  setLayout(forms::column(
+      {forms::item(lblExplicacion), forms::item(msgPartidas),
+       forms::buttons({&cmdBoton[COMPLETAR], &cmdBoton[ELIMINAR], &cmdBoton[CERRAR]})}));
+}
+
+void frmPartidasIncompletas::Form_Load() {
+  cIListas(contexto_).ConfigGrid(msgPartidas, REJILLA, "Form_Load()", name().c_str());
+  if (!procedimiento("Form_Load()", [this] { CargarGrid(); })) return Unload();
+  if (partidas_.empty())
+    ui().msgBox("No hay partidas incompletas.", forms::MsgButtons::Ok, forms::MsgIcon::Information);
+  if (partidas_.empty()) Unload();
+}
+
+void frmPartidasIncompletas::Form_Unload() {
+  procedimiento("Form_Unload()", [this] { cIListas(contexto_).SaveGrid(msgPartidas, REJILLA); });
+}
+
+void frmPartidasIncompletas::CargarGrid() {
+  const forms::Hourglass reloj(ui());
+  partidas_ = partidasIncompletas(*conBaseDatos);
+  const auto fidaleon = contexto_.fidaleon();
+  const int fila = msgPartidas.row();
+  msgPartidas.beginUpdate();
+  msgPartidas.clearRows();
+  for (const PartidaIncompleta& p : partidas_)
+    msgPartidas.addRow({p.clase->registro, p.libro, p.folio, p.numero,
+                        fidaleon->stringdate(p.fecha), loQueFalta(p), p.queda},
+                       p.id);
+  msgPartidas.endUpdate();
+  if (!partidas_.empty())
+    msgPartidas.setRow(std::clamp(fila, 1, static_cast<int>(partidas_.size())));
+}
+
+bool frmPartidasIncompletas::sigueIncompleta(const PartidaIncompleta& elegida,
+                                             PartidaIncompleta& ahora) {
+  ahora = releida(*conBaseDatos, elegida);
+  if (ahora.clase) return true;
+  ui().msgBox("Esta partida ya no está incompleta: alguien la ha completado o eliminado.",
+              forms::MsgButtons::Ok, forms::MsgIcon::Information);
+  return false;
+}
+
+void frmPartidasIncompletas::conElegida(const char* nombre,
+                                        const std::function<void(const PartidaIncompleta&)>& acto) {
+  if (msgPartidas.row() == 0) return;
+  const PartidaIncompleta elegida = partidas_.at(static_cast<std::size_t>(msgPartidas.row()) - 1);
+  procedimiento(nombre, [&] { acto(elegida); });
+  procedimiento("CargarGrid", [this] { CargarGrid(); });
+  if (partidas_.empty()) return Unload();
+  setFocus(msgPartidas);
+}
+
+void frmPartidasIncompletas::completar() {
+  conElegida("Completar", [this](const PartidaIncompleta& elegida) {
+    PartidaIncompleta ahora;
+    {
+      SesionBloqueos bloqueos(contexto_, *conBaseDatos);
+      bloqueos.tabla(elegida.clase->sacramento.tablaPartidas);
+      if (!bloqueos.efectuar() || !sigueIncompleta(elegida, ahora)) return;
+      completarPartida(*conBaseDatos, ahora);
+    }
+    if (abrir) abrir(ahora);
+  });
+}
+
+void frmPartidasIncompletas::eliminar() {
+  conElegida("Eliminar", [this](const PartidaIncompleta& elegida) {
+    if (!forms::ask(ui(), "¿Está seguro que desea eliminar la partida?", {}, forms::Stake::Loss,
+                    descripcion(elegida)))
+      return;
+    const Sacramento& s = elegida.clase->sacramento;
+    SesionBloqueos bloqueos(contexto_, *conBaseDatos);
+    bloqueos.tabla(s.tablaPartidas);
+    if (elegida.codLibro != 0)
+      bloqueos.registros(s.tablaLibros,
+                         enSacramento(s, "SELECT codLibro FROM Bautismo WHERE IDBautismo=") +
+                             std::to_string(elegida.id));
+    PartidaIncompleta ahora;
+    if (!bloqueos.efectuar() || !sigueIncompleta(elegida, ahora)) return;
+    TransaccionSinVuelta transaccion(contexto_, *conBaseDatos);
+    cBaseDatos almacen(contexto_);
+    (almacen.*ahora.clase->borrar)(*conBaseDatos, ahora.id);
+    transaccion.terminar();
+  });
+}
+
+}  // namespace fidaleon

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <functional>
+#include <vector>
+
+#include "core/contract/Dialogo.h"
+#include "registers/repair/PartidasIncompletas.h"
+
+namespace fidaleon {
+
+/// The entries that lack a row, to be completed or removed one by one. Does not show itself when
+/// there is none, and closes with the last one. Takes its locks for each act.
+class frmPartidasIncompletas : public Dialogo {
+ public:
+  explicit frmPartidasIncompletas(Contexto& contexto);
+
+  /// Not owned; must be set before the dialog loads.
+  FDAPI::Conexion* conBaseDatos = nullptr;
+  /// Opens an entry that has all its rows again, so that they can be filled in.
+  std::function<void(const PartidaIncompleta&)> abrir;
+
+  enum Boton { COMPLETAR, ELIMINAR, CERRAR };
+
+  forms::Label lblExplicacion;
+  forms::Grid msgPartidas;
+  forms::ControlArray<forms::Button> cmdBoton;
+
+ protected:
+  void Form_Load() override;
+  void Form_Unload() override;
+
+ private:
+  void CargarGrid();
+  void completar();
+  void eliminar();
+  /// Runs `acto` on the chosen entry as it is under the lock.
+  void conElegida(const char* procedimiento,
+                  const std::function<void(const PartidaIncompleta&)>& acto);
+  bool sigueIncompleta(const PartidaIncompleta& elegida, PartidaIncompleta& ahora);
+
+  std::vector<PartidaIncompleta> partidas_;
+};
+
+}  // namespace fidaleon
