@@ -164,24 +164,6 @@ TEST_F(EditedBaptism, Annulling_TogglesAndOpensOrLocksThePositionOfAnOldBook) {
   EXPECT_SCRIPT_DONE(w.user);
 }
 
-TEST_F(EditedBaptism, ReadOnly_LeavesTheCancelButtonAlone) {
-  open(
-      cCOperacion::EDITAR,
-      [](FormDriver& d) {
-        for (forms::Control* control : d.form().controls()) {
-          auto* button = dynamic_cast<forms::Button*>(control);
-          if (button) {
-            EXPECT_EQ(button->enabled(), button->name() == "cmdBautismo(1)") << button->name();
-          }
-        }
-        d.enter();
-        EXPECT_FALSE(d.closed());
-        d.escape();
-      },
-      id, true);
-  EXPECT_SCRIPT_DONE(w.user);
-}
-
 TEST_F(EditedBaptism, StoredTextThatNoFieldCanShow_SurvivesAnEdit) {
   w.con().Execute("UPDATE bautismo_hijo SET horanac=\"al alba\", fechanac=\"1890\"");
   open(

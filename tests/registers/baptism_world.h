@@ -76,8 +76,7 @@ class BaptismWorld : public ::testing::Test {
   }
 
   /// Shows the dialog as the tree does; `act` works on it.
-  void open(cCOperacion operation, forms::ScriptedUser::Act act, std::int32_t id = 0,
-            bool readOnly = false) {
+  void open(cCOperacion operation, forms::ScriptedUser::Act act, std::int32_t id = 0) {
     w.user.expectForm(DIALOG, std::move(act));
     frmPartidaBautismo dialog(w.contexto);
     dialog.conBaseDatos = &w.con();
@@ -86,8 +85,6 @@ class BaptismWorld : public ::testing::Test {
     const bool request =
         operation == cCOperacion::ANADIRSOLICITUD || operation == cCOperacion::EDITARSOLICITUD;
     if (!request) dialog.Origen = cCOrigen::PRINCIPAL;
-    dialog.Load();
-    if (readOnly) dialog.setReadOnly({"Solo se puede consultar.", {}});
     dialog.Show();
   }
 
