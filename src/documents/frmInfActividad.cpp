@@ -83,6 +83,7 @@ void frmInfActividad::prepararControles() {
   cmdBoton.add(CANCELAR, "CANCELAR").setCancel(true);
   cmdBoton[ACEPTAR].onClick = [this] { procedimiento("cmdBoton_Click()", [this] { aceptar(); }); };
   cmdBoton[CANCELAR].onClick = [this] { Unload(); };
+  setDisposable();
   setLayout(
       forms::column({forms::fields(1, {forms::item(cboInstitucion), forms::item(cboActividad)}),
                      forms::group(fraListas, {listas_.disposicion(), forms::item(lblTodosGrupos)}),

@@ -22,6 +22,7 @@ frmInfAgenda::frmInfAgenda(Contexto& contexto)
   cmdBoton.add(CANCELAR, "CANCELAR").setCancel(true);
   cmdBoton[ACEPTAR].onClick = [this] { procedimiento("cmdBoton_Click()", [this] { aceptar(); }); };
   cmdBoton[CANCELAR].onClick = [this] { Unload(); };
+  setDisposable();
   setLayout(
       forms::column({forms::fields(1, {forms::item(desde), forms::item(hasta)}), forms::stretch(),
                      forms::buttons({&cmdBoton[ACEPTAR], &cmdBoton[CANCELAR]})}));

@@ -32,6 +32,7 @@ frmInfDuplicadas::frmInfDuplicadas(Contexto& contexto)
   cmdBoton[CANCELAR].onClick = [this] {
     procedimiento("cmdBoton_Click()", [this] { cancelar(); });
   };
+  setDisposable();
   setLayout(
       forms::column({forms::fields(1, {forms::item(cboInstitucion), forms::item(adtpAno),
                                        forms::item(cboOrden), forms::item(abpProgreso)}),

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "forms/ReadOnlyBar.h"
+#include "text/Utf8.h"
 
 namespace fidaleon::forms {
 
@@ -41,11 +42,14 @@ void Form::Load() {
   if (loaded_) return;
   loaded_ = true;
   Form_Load();
+  markSaved();
 }
 
 void Form::Show() {
   Load();
-  if (!unloaded_) ui_.showModal(*this);
+  if (unloaded_) return;
+  markSaved();
+  ui_.showModal(*this);
 }
 
 void Form::Unload() {
@@ -55,8 +59,27 @@ void Form::Unload() {
   if (observer_) observer_->unloaded();
 }
 
+void Form::Abandon() {
+  abandoned_ = !unloaded_;
+  Unload();
+}
+
+bool Form::hasUnsaved() const {
+  return loaded_ && !unloaded_ && !disposable_ && !(Contents::of(*this) == saved_);
+}
+
+bool Form::mayBeThrownAway() {
+  if (asksOnCancel() || !hasUnsaved()) return true;
+  const std::string typed = namesOf(changes(saved_, Contents::of(*this)));
+  return ask(ui_,
+             "Lo que ha escrito en esta ventana no se ha guardado y se perderá.\n"
+             "¿Desea cerrarla de todos modos?",
+             text::replaceAll(caption_, "&", ""), Stake::Loss,
+             typed.empty() ? typed : "Ha cambiado: " + typed + ".");
+}
+
 void Form::requestClose() {
-  if (unloaded_) return;
+  if (unloaded_ || !mayBeThrownAway()) return;
   for (Control* control : controls_) {
     auto* button = dynamic_cast<Button*>(control);
     if (!button || !button->isCancel() || !button->usable()) continue;

@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include "forms/Contents.h"
 #include "forms/Controls.h"
 #include "forms/Layout.h"
 #include "forms/UserInterface.h"
@@ -66,8 +67,25 @@ class Form {
   void Unload();
   bool isLoaded() const { return loaded_; }
   bool isUnloaded() const { return unloaded_; }
-  /// Escape and the window's own close: presses the cancel button if there is one.
+  /// Escape and the window's own close: asks before what was typed is thrown away, then presses
+  /// the cancel button if there is one.
   void requestClose();
+  /// Closes the form because the program ends: what stood in it is not given up.
+  void Abandon();
+  bool isAbandoned() const { return abandoned_; }
+  bool isDisposable() const { return disposable_; }
+
+  /// Something would be lost if the form closed now.
+  bool hasUnsaved() const;
+  /// What stood in it when it was shown or last stored.
+  const Contents& saved() const { return saved_; }
+  /// What stands in it now is stored: only what comes after it can be lost.
+  void markSaved() { saved_ = Contents::of(*this); }
+  /// Work that stands in no control, as in a list that is kept until the form is accepted: lines
+  /// that a user can read, and that putBackOwnWork() understands. Empty when there is none.
+  virtual std::string ownWork() const { return {}; }
+  /// On a loaded form. Gives what of it could not be put back.
+  virtual std::string putBackOwnWork(const std::string& work) { return work; }
 
   Control* activeControl() const { return active_; }
   /// The user's way to another control. The current field is left first, and its handler may keep
@@ -105,6 +123,10 @@ class Form {
  protected:
   virtual void Form_Load() {}
   virtual void Form_Unload() {}
+  /// The cancel button asks by itself before the present state is thrown away.
+  virtual bool asksOnCancel() const { return false; }
+  /// For a form that searches, chooses or shows: nobody misses what stands in it.
+  void setDisposable() { disposable_ = true; }
   void setLayout(LayoutNode layout);
 
  private:
@@ -114,6 +136,7 @@ class Form {
   void settleFocus(Control* target);
   void rescueFocus(Control& lost);
   void assignMnemonics() const;
+  bool mayBeThrownAway();
 
   UserInterface& ui_;
   std::string name_;
@@ -128,6 +151,9 @@ class Form {
   bool moving_ = false;
   bool loaded_ = false;
   bool unloaded_ = false;
+  bool abandoned_ = false;
+  bool disposable_ = false;
+  Contents saved_;
   FormObserver* observer_ = nullptr;
   mutable std::vector<std::pair<const Control*, char32_t>> mnemonics_;
   mutable bool mnemonicsKnown_ = false;

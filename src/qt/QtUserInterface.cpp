@@ -104,7 +104,7 @@ void QtUserInterface::showModal(forms::Form& form) {
   const HourglassPause pause(hourglass_);
   FormDialog dialog(form, windowAtWork());
   if (!form.isUnloaded()) dialog.exec();
-  form.Unload();  // when the program ends with the dialog open
+  form.Abandon();  // when the program ends with the dialog open
 }
 
 Answer QtUserInterface::showMessage(const forms::Message& message) {

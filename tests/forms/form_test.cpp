@@ -145,9 +145,62 @@ TEST_F(FormTest, dates_typedShort_takeFullForm_andNonsenseStays) {
   user.expectMessage("«29/02/1999» no es una fecha. Escríbala como día/mes/año: 03/05/1998.");
   driver.focus("txtName");
   EXPECT_EQ(driver.focused(), "txtDate");
-  driver.escape();
-  EXPECT_TRUE(form.isUnloaded());
   EXPECT_TRUE(user.problems().empty());
+}
+
+TEST_F(FormTest, closing_asksOnlyWhenSomethingWouldBeLost) {
+  const char* const question =
+      "Lo que ha escrito en esta ventana no se ha guardado y se perderá.\n"
+      "¿Desea cerrarla de todos modos?";
+  const auto closes = [&](const std::function<void(FormDriver&)>& work) {
+    SampleForm sheet(user);
+    sheet.Load();
+    sheet.focusFirst();
+    FormDriver d(sheet, problems);
+    work(d);
+    if (sheet.isUnloaded()) return true;
+    d.escape();
+    return sheet.isUnloaded();
+  };
+  EXPECT_TRUE(closes([](FormDriver&) {}));
+  EXPECT_TRUE(closes([](FormDriver& d) {
+    d.type("txtName", "Ana");
+    d.type("txtName", "");
+  }));
+  EXPECT_TRUE(closes([](FormDriver& d) {
+    d.type("txtName", "Ana");
+    d.form().markSaved();
+  }));
+  EXPECT_TRUE(closes([](FormDriver& d) {
+    d.type("txtName", "Ana");
+    d.click("cmd(1)");
+  })) << "the button does not ask";
+  EXPECT_TRUE(user.problems().empty());
+  user.expectMessage(question, Answer::No);
+  EXPECT_FALSE(closes([](FormDriver& d) { d.type("txtName", "Ana"); }));
+  user.expectMessage(question, Answer::Yes);
+  EXPECT_TRUE(closes([](FormDriver& d) { d.type("txtDate", "1/2/1998"); }));
+  EXPECT_TRUE(user.problems().empty());
+}
+
+TEST_F(FormTest, whatIsPutBack_runsTheHandlersAndNamesWhatCouldNotBe) {
+  form.cbo.addItem("Álava", 1);
+  form.cbo.addItem("Soria", 42);
+  form.cbo.onClick = [&] { form.txtNotes.setText("de " + form.cbo.text()); };
+  const Contents empty = Contents::of(form);
+  form.cbo.selectText("Soria");
+  form.txtName.setText("Ana");
+  form.txtNotes.setText("propia");
+  const std::vector<Field> typed = changes(empty, Contents::of(form));
+  EXPECT_EQ(readable(typed), "NOMBRE: Ana\nPROVINCIA: Soria\nNOTAS: propia\n");
+  form.cbo.setListIndex(0);
+  form.cbo.removeItem(1);
+  form.cbo.addItem("Soria, de nombre nuevo", 42);
+  form.txtName.setText("");
+  form.txtName.setLocked(true);
+  EXPECT_EQ(readable(putBack(form, typed)), "NOMBRE: Ana\n");
+  EXPECT_EQ(form.cbo.data(), 42);
+  EXPECT_EQ(form.txtNotes.text(), "propia");
 }
 
 TEST_F(FormTest, tabs_mouseDownRefuses_staysAndFiresNothing) {

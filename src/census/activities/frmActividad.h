@@ -27,6 +27,9 @@ class frmActividad : public Dialogo {
   /// The groups can be looked at and no more.
   bool blnOcultar = false;
 
+  /// The changed groups; they cannot be put back, only read.
+  std::string ownWork() const override;
+
   forms::TabStrip mstActividad;
   forms::ControlArray<forms::TextBox> txtActividad;
   enum Campo { NOMBRE, DESCRIPCION };

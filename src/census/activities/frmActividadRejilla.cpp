@@ -4,6 +4,7 @@
 
 #include "census/activities/frmActividad.h"
 #include "census/activities/frmActividadGrupos.h"
+#include "core/contract/Apunte.h"
 
 namespace fidaleon {
 
@@ -22,6 +23,25 @@ void frmActividad::llenarRejilla() {
       msgGrupos.addRow({g.Nombre, g.Año, g.Dia, g.Hora, g.Sala}, g.IDGrupo);
   msgGrupos.endUpdate();
   msgGrupos.setRow(std::min(std::max(antes, 1), msgGrupos.rowCount()));
+}
+
+std::string frmActividad::ownWork() const {
+  std::string texto;
+  for (const cPadronActGrupos& g : colGrupos_) {
+    if (g.Operacion == cCOperacion{}) continue;
+    Apunte apunte;
+    const bool quitado = g.Operacion == cCOperacion::Borrar;
+    apunte.poner("Grupo", std::string(quitado ? "quitado" : g.Estado ? "cambiado" : "nuevo"));
+    apunte.poner("Nombre", g.Nombre);
+    apunte.poner("Año", g.Año);
+    apunte.poner("Día", g.Dia);
+    apunte.poner("Hora", g.Hora);
+    apunte.poner("Sala", g.Sala);
+    apunte.poner("Comentarios", g.Comentarios);
+    apunte.poner("Miembros", static_cast<std::int64_t>(g.miembros.size()));
+    texto += apunte.texto();
+  }
+  return texto;
 }
 
 cPadronActGrupos* frmActividad::elegido() {

@@ -4,6 +4,7 @@
 
 #include "census/collaborators/frmColaborador.h"
 #include "census/collaborators/frmColaboradorActividad.h"
+#include "core/contract/Apunte.h"
 #include "core/lists/Rejilla.h"
 #include "core/lists/cIListas.h"
 
@@ -89,6 +90,23 @@ std::vector<std::string> frmColaborador::celdas(const cPadronActividad& activida
   if (grupo.EOF_()) return {"---", nombreCargo};
   return {grupo.text("Grupo.Nombre"), nombreCargo,       grupo.text("Actividad.Nombre"),
           grupo.text("Sala"),         grupo.text("Dia"), grupo.text("Hora")};
+}
+
+std::string frmColaborador::ownWork() const {
+  std::string texto;
+  int fila = 0;
+  for (const cPadronActividad& a : actividades_) {
+    if (!quitada(a)) ++fila;
+    if (a.Operacion == cCOperacion{}) continue;
+    Apunte apunte;
+    apunte.poner("Grupo", std::string(quitada(a) ? "quitado" : a.Estado ? "cambiado" : "nuevo"));
+    for (int c = 0;
+         !quitada(a) && fila <= msgActividades.rowCount() && c < msgActividades.columns(); ++c)
+      apunte.poner(msgActividades.header(c), msgActividades.cell(fila, c));
+    if (quitada(a)) apunte.poner("Clave", a.IDGrupo);
+    texto += apunte.texto();
+  }
+  return texto;
 }
 
 std::optional<std::size_t> frmColaborador::elegida() const {

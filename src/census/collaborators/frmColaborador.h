@@ -39,6 +39,9 @@ class frmColaborador : public Dialogo {
   /// IDPadron of a person found while a new one was being typed, to be opened instead; else 0.
   std::int32_t lngSeleccionado = 0;
 
+  /// The changed memberships; they cannot be put back, only read.
+  std::string ownWork() const override;
+
   enum Texto {
     Nombre,
     PrimerApellido,

@@ -4,6 +4,7 @@
 
 #include "census/persons/frmPadron.h"
 #include "census/search/frmPadronNotas.h"
+#include "core/contract/Apunte.h"
 #include "core/lists/Rejilla.h"
 #include "core/lists/cIListas.h"
 
@@ -42,6 +43,38 @@ void frmPadron::CargaGridNotasPersonales() {
     msgNotas.endUpdate();
     msgNotas.setRow(std::min(fila, msgNotas.rowCount()));
   });
+}
+
+std::string frmPadron::ownWork() const {
+  std::string texto;
+  for (const cPadronNotas& nota : ficha_.notas) {
+    if (nota.Operacion == cCOperacion{}) continue;
+    Apunte apunte;
+    const bool quitada = nota.Operacion == cCOperacion::Borrar;
+    apunte.poner("Nota", std::string(quitada ? "quitada" : nota.Estado ? "cambiada" : "nueva"));
+    apunte.poner("Nombre", nota.Nombre);
+    apunte.poner("Descripción", nota.Descripcion);
+    texto += apunte.texto();
+  }
+  return texto;
+}
+
+// A stored note may have been changed since, or taken away: only new ones come back by themselves.
+std::string frmPadron::putBackOwnWork(const std::string& work) {
+  std::string resto;
+  for (const Apunte& apunte : Apunte::todos(work)) {
+    if (apunte.valor("Nota") != "nueva") {
+      resto += apunte.texto();
+      continue;
+    }
+    cPadronNotas nota;
+    nota.Operacion = cCOperacion::ANADIR;
+    nota.Nombre = apunte.valor("Nombre");
+    nota.Descripcion = apunte.valor("Descripción");
+    ficha_.notas.push_back(std::move(nota));
+  }
+  CargaGridNotasPersonales();
+  return resto;
 }
 
 void frmPadron::cmdNotas_Click(BotonNota boton) {

@@ -31,6 +31,9 @@ class frmPadron : public Dialogo {
   /// Somebody found by the search, to be opened instead of adding a new person; 0 when none was.
   std::int32_t lngSeleccionado = 0;
 
+  std::string ownWork() const override;
+  std::string putBackOwnWork(const std::string& work) override;
+
   enum Texto {
     Nombre,
     PrimerApellido,

@@ -24,6 +24,7 @@ frmMensaje::frmMensaje(Contexto& contexto)
   cmdMensaje.add(CANCELAR, "CANCELAR").setCancel(true);
   for (const auto& [indice, boton] : cmdMensaje.all())
     boton->onClick = [this, indice = indice] { cmdMensaje_Click(Boton(indice)); };
+  setDisposable();
   setLayout(forms::column(
       {forms::item(lblMensaje), forms::stretch(),
        forms::buttons({&cmdMensaje[DETALLES], &cmdMensaje[IMPORTAR], &cmdMensaje[CANCELAR]})}));

@@ -42,6 +42,7 @@ frmPadronBusqueda::frmPadronBusqueda(Contexto& contexto)
   msgBusquedaPadron.onDblClick = [this] {
     procedimiento("msgBusquedaPadron_DblClick()", [this] { detalles(); });
   };
+  setDisposable();
   setLayout(forms::column(
       {forms::fields(1, {forms::item(lblBuscado)}), forms::item(msgBusquedaPadron),
        forms::buttons({&cmdBotones[DETALLES], &cmdBotones[SELECCIONAR], &cmdBotones[CANCELAR]})}));

@@ -56,6 +56,7 @@ frmPadronDetalles::frmPadronDetalles(Contexto& contexto)
   cmdAceptar.setDefault(true);
   cmdAceptar.setCancel(true);
   cmdAceptar.onClick = [this] { Unload(); };
+  setDisposable();
   setLayout(forms::column({forms::fields(1, std::move(lineas)), forms::buttons({&cmdAceptar})}));
 }
 

@@ -42,6 +42,7 @@ frmPadronImportar::frmPadronImportar(Contexto& contexto)
   cmdPadronImportar.add(CANCELAR, "CANCELAR").setCancel(true);
   cmdPadronImportar[ACEPTAR].onClick = [this] { cmdPadronImportar_Click(); };
   cmdPadronImportar[CANCELAR].onClick = [this] { Unload(); };
+  setDisposable();
   setLayout(forms::column(
       {forms::fields(1, {forms::item(txtNombre)}), forms::item(lblApellidos),
        forms::row({forms::item(txtPrimerApellido), forms::item(txtSegundoApellido)}),

@@ -27,6 +27,7 @@ class frmDatosSetup : public Dialogo {
 
  protected:
   void Form_Load() override;
+  bool asksOnCancel() const override { return true; }
 
  private:
   void cargarInstituciones();

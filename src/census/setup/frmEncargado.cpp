@@ -45,6 +45,7 @@ frmEncargado::frmEncargado(Contexto& contexto)
   cmdBoton[CANCELAR].onClick = [this] {
     procedimiento("cmdBoton_Click()", [this] { cancelar(); });
   };
+  setDisposable();
   setLayout(
       forms::column({forms::fields(1, {forms::item(lblInstitucion),
                                        forms::item(cboEncargado, {&cmdAgregarEncargado}),

@@ -194,6 +194,7 @@ bool frmPartidaBautismo::almacenar(ColeccionBautismo& coleccion) {
 }
 
 void frmPartidaBautismo::otraPartida() {
+  markSaved();
   if (!desdeLista())
     procedimiento("cmdBautismo_Click", [this] { listas_->guardarUltimaInstitucion(); });
   if (!forms::ask(ui(), esSolicitud() ? "¿Desea dar de alta nuevas solicitudes?"
@@ -206,12 +207,23 @@ void frmPartidaBautismo::otraPartida() {
   mstBautismo.setTab(TAB_GENERAL);
   if (proponerPosicion() && !esSolicitud()) posicion_->avisarSalto(anterior);
   refrescarTitulo();
+  markSaved();
   focusFirst();
 }
 
 void frmPartidaBautismo::anular() {
   anulada_ = !anulada_;
   mostrarAnulada();
+}
+
+std::string frmPartidaBautismo::ownWork() const {
+  if (anulada_ == registro_.AnuladaBautismo) return {};
+  return std::string("Anulada: ") + (anulada_ ? "sí" : "no") + "\n";
+}
+
+std::string frmPartidaBautismo::putBackOwnWork(const std::string& work) {
+  if (ownWork() != work) anular();
+  return ownWork() == work ? std::string() : work;
 }
 
 }  // namespace fidaleon

@@ -43,6 +43,9 @@ class frmPartidaBautismo : public Dialogo {
   /// The institution of a new request, 0 to let the user choose.
   std::int32_t InstitucionSolicitud = 0;
 
+  std::string ownWork() const override;
+  std::string putBackOwnWork(const std::string& work) override;
+
   enum Texto {
     NombreHijo = 7,
     PrimerApellidoHijo = 8,

@@ -1,12 +1,16 @@
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <functional>
+#include <map>
 #include <optional>
 #include <string>
 #include <utility>
 #include <vector>
 
+#include "core/contract/Apunte.h"
 #include "core/contract/Contexto.h"
 
 namespace fidaleon {
@@ -50,6 +54,14 @@ class PartidasDeLibro {
   virtual bool guardar(FDAPI::Conexion& conBaseDatos) = 0;
   /// Takes back what a failed guardar() left in the tables without all its rows.
   virtual bool retirarAMedias(FDAPI::Conexion& conBaseDatos) = 0;
+
+  /// What is still to be stored, as text.
+  virtual std::string pendiente() const = 0;
+  /// Puts into the working copy what an earlier one had to store; `tomar` takes the lock of an
+  /// entry, stored or new. What cannot be put back is answered: an entry that has changed since, a
+  /// place that is taken, a deletion, which nobody wants to see done by itself.
+  virtual std::string reponer(FDAPI::Conexion& conBaseDatos, const std::string& texto,
+                              const std::function<bool(const PartidaEnLista&)>& tomar) = 0;
 };
 
 /// The working copy of a sacrament. What it needs to know of it is said by `Lista`:
@@ -64,6 +76,9 @@ class PartidasDeLibro {
 ///   static bool completar(Contexto&, FDAPI::Conexion&, Coleccion&, std::size_t posicion);
 ///   static bool guardar(Contexto&, FDAPI::Conexion&, Coleccion&);
 ///   static bool retirarAMedias(Contexto&, FDAPI::Conexion&, Coleccion&);
+///   static bool mismoLugar(const Registro&, const Registro&);   in the book
+///   static void apuntar(const Registro&, Apunte&);
+///   static void leer(const Apunte&, Registro&);
 template <class Lista>
 class PartidasDe final : public PartidasDeLibro {
  public:
@@ -81,8 +96,11 @@ class PartidasDe final : public PartidasDeLibro {
     return Lista::celdas(coleccion_.at(posicion), fidaleon);
   }
   bool completar(FDAPI::Conexion& conBaseDatos, std::size_t posicion) override {
-    return Lista::completa(coleccion_.at(posicion)) ||
-           Lista::completar(contexto_, conBaseDatos, coleccion_, posicion);
+    const bool leida = Lista::completa(coleccion_.at(posicion)) ||
+                       Lista::completar(contexto_, conBaseDatos, coleccion_, posicion);
+    const typename Lista::Registro& r = coleccion_.at(posicion);
+    if (leida && r.Operacion == FDAPI::cCOperacion{}) leidas_[posicion] = huella(r);
+    return leida;
   }
   bool abrir(const AperturaDeLista& apertura) override {
     bool otraVez = false;
@@ -103,7 +121,59 @@ class PartidasDe final : public PartidasDeLibro {
     return Lista::retirarAMedias(contexto_, conBaseDatos, coleccion_);
   }
 
+  std::string pendiente() const override {
+    std::string texto;
+    for (std::size_t i = 0; i < coleccion_.size(); ++i) {
+      const typename Lista::Registro& r = coleccion_[i];
+      if (r.Estado && r.Operacion == FDAPI::cCOperacion{}) continue;
+      Apunte apunte;
+      const bool borrar = r.Operacion == FDAPI::cCOperacion::Borrar;
+      apunte.poner("Partida", std::string(borrar ? "eliminada" : r.Estado ? "cambiada" : "nueva"));
+      Lista::apuntar(r, apunte);
+      apunte.poner("Operacion", static_cast<std::int64_t>(r.Operacion));
+      if (const auto leida = leidas_.find(i); leida != leidas_.end())
+        apunte.poner("Leida", leida->second);
+      texto += apunte.texto();
+    }
+    return texto;
+  }
+  std::string reponer(FDAPI::Conexion& conBaseDatos, const std::string& texto,
+                      const std::function<bool(const PartidaEnLista&)>& tomar) override {
+    std::string resto;
+    for (const Apunte& apunte : Apunte::todos(texto))
+      if (!reponer(conBaseDatos, apunte, tomar)) resto += apunte.texto();
+    return resto;
+  }
+
  private:
+  bool reponer(FDAPI::Conexion& conBaseDatos, const Apunte& apunte,
+               const std::function<bool(const PartidaEnLista&)>& tomar) {
+    typename Lista::Registro r;
+    Lista::leer(apunte, r);
+    r.Operacion = static_cast<FDAPI::cCOperacion>(apunte.numero("Operacion"));
+    if (r.Operacion == FDAPI::cCOperacion::Borrar) return false;
+    if (!tomar({Lista::id(r), r.Estado, r.Operacion, Lista::anulada(r)})) return false;
+    const auto otra = std::find_if(coleccion_.begin(), coleccion_.end(), [&](const auto& c) {
+      return r.Estado ? Lista::id(c) == Lista::id(r) : Lista::mismoLugar(c, r);
+    });
+    const bool esta = otra != coleccion_.end();
+    if (esta != r.Estado) return false;
+    if (!esta) {
+      coleccion_.push_back(std::move(r));
+      return true;
+    }
+    const auto posicion = static_cast<std::size_t>(otra - coleccion_.begin());
+    if (!completar(conBaseDatos, posicion) || leidas_[posicion] != apunte.valor("Leida"))
+      return false;
+    coleccion_[posicion] = std::move(r);
+    return true;
+  }
+  /// Tells whether a stored entry is still as it was read.
+  static std::string huella(const typename Lista::Registro& r) {
+    Apunte apunte;
+    Lista::apuntar(r, apunte);
+    return std::to_string(std::hash<std::string>()(apunte.texto()));
+  }
   bool mostrar(const AperturaDeLista& apertura, bool& otraVez) {
     if (apertura.posicion && !completar(apertura.conBaseDatos, *apertura.posicion)) return false;
     typename Lista::Dialogo dialogo(contexto_);
@@ -120,6 +190,7 @@ class PartidasDe final : public PartidasDeLibro {
 
   Contexto& contexto_;
   typename Lista::Coleccion coleccion_;
+  std::map<std::size_t, std::string> leidas_;  // by place, of those read whole
 };
 
 }  // namespace fidaleon

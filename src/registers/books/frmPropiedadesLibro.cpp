@@ -103,6 +103,7 @@ void frmPropiedadesLibro::cargar() {
       sentencia("SELECT * FROM Libro_Bautismo WHERE IdLibroBautismo=") + libro());
   if (fila.EOF_()) throw std::runtime_error("El libro ya no existe.");
   mostrarLibro(fila);
+  cerrado_ = nuevo_ && fila.flag("cerrado");
   if (fila.flag("cerrado")) cerrarDatos();
   txtFolios.setText(std::to_string(ContarFolios()));
   configurarRejilla();

@@ -28,6 +28,8 @@ class frmPropiedadesLibro : public Dialogo {
   /// For a loaded dialog: name and name type stay as they are, since another uses what they rest
   /// on.
   void sinNombre();
+  std::string ownWork() const override { return partidas_->pendiente(); }
+  std::string putBackOwnWork(const std::string& work) override;
 
   forms::TabStrip mstLibro;
   forms::TextBox txtInstitucion;
@@ -48,6 +50,7 @@ class frmPropiedadesLibro : public Dialogo {
                       std::unique_ptr<PartidasDeLibro> partidas);
   void Form_Load() override;
   void Form_Unload() override;
+  bool asksOnCancel() const override { return hayCambios(); }
 
  private:
   // Loading
@@ -83,6 +86,7 @@ class frmPropiedadesLibro : public Dialogo {
   bool bloquear(const PartidaEnLista& partida);
   /// The same for one that may also be looked at; what the session then says.
   long bloquearParaAbrir(const PartidaEnLista& partida);
+  bool bloquearAlta();
   AperturaDeLista apertura(std::optional<std::size_t> posicion) const;
   void avisarIlegible();
   void refrescarFecha();

@@ -1,3 +1,6 @@
+#include <array>
+
+#include "registers/baptism/TablasBautismo.h"
 #include "registers/baptism/frmPartidaBautismo.h"
 #include "registers/books/frmPropiedadesLibro.h"
 #include "registers/cBaseDatos.h"
@@ -41,6 +44,35 @@ struct ListaBautismo {
                              ColeccionBautismo& coleccion) {
     return cBaseDatos(contexto).RetirarAMedias(conBaseDatos, coleccion);
   }
+  static bool mismoLugar(const cBautismo& a, const cBautismo& b) {
+    return a.FolioBautismo == b.FolioBautismo && a.NumeroBautismo == b.NumeroBautismo;
+  }
+  static void apuntar(const cBautismo& b, Apunte& apunte) {
+    for (const Tabla<cBautismo>* tabla : TABLAS) apunte.poner(*tabla, b);
+    for (const auto& [nombre, miembro] : CLAVES) apunte.poner(nombre, b.*miembro);
+    for (const auto& [nombre, miembro] : SIGNOS) apunte.poner(nombre, b.*miembro);
+  }
+  static void leer(const Apunte& apunte, cBautismo& b) {
+    for (const Tabla<cBautismo>* tabla : TABLAS) apunte.leer(*tabla, b);
+    for (const auto& [nombre, miembro] : CLAVES)
+      b.*miembro = static_cast<std::int32_t>(apunte.numero(nombre));
+    for (const auto& [nombre, miembro] : SIGNOS) b.*miembro = apunte.numero(nombre) != 0;
+  }
+
+  static constexpr std::array TABLAS{&TABLA_BAUTISMO, &TABLA_HIJO, &TABLA_PADRES, &TABLA_MADRES,
+                                     &TABLA_MATRIMONIO};
+  static constexpr std::array<std::pair<const char*, std::int32_t cBautismo::*>, 6> CLAVES{
+      {{"IDBautismo", &cBautismo::IDBautismo},
+       {"IDLibroBautismo", &cBautismo::IDLibroBautismo},
+       {"IDPadres", &cBautismo::IDPadres},
+       {"IDMadres", &cBautismo::IDMadres},
+       {"IDMatrimonio", &cBautismo::IDMatrimonio},
+       {"CodBautismo", &cBautismo::CodBautismo}}};
+  static constexpr std::array<std::pair<const char*, bool cBautismo::*>, 4> SIGNOS{
+      {{"Guardada", &cBautismo::Estado},
+       {"CambioPadre", &cBautismo::CambioPadre},
+       {"CambioMadre", &cBautismo::CambioMadre},
+       {"CambioMatrimonio", &cBautismo::CambioMatrimonio}}};
 };
 
 }  // namespace

@@ -74,14 +74,29 @@ void frmPropiedadesLibro::cmdPartidas_Click(Entrada boton) {
 
 void frmPropiedadesLibro::agregar() {
   if (cerrado_) return forms::warn(ui(), "¡No se pueden añadir partidas a un libro nuevo cerrado!");
-  sesion_->tablasCompartidas({"Provincia", "Municipio"});
-  sesion_->tabla(sacramento_.tablaPartidas);
-  if (!sesion_->efectuar()) return;
+  if (!bloquearAlta()) return;
   const std::size_t antes = partidas_->cuenta();
   partidas_->abrir(apertura(std::nullopt));
   refrescarFecha();
   CargarGridPartidasDColeccion();
   if (partidas_->cuenta() != antes) msgPartidas.setRow(msgPartidas.rowCount());
+}
+
+bool frmPropiedadesLibro::bloquearAlta() {
+  sesion_->tablasCompartidas({"Provincia", "Municipio"});
+  sesion_->tabla(sacramento_.tablaPartidas);
+  return sesion_->efectuar();
+}
+
+std::string frmPropiedadesLibro::putBackOwnWork(const std::string& work) {
+  std::string resto = work;
+  procedimiento("putBackOwnWork()", [&] {
+    resto = partidas_->reponer(*conBaseDatos, work, [this](const PartidaEnLista& partida) {
+      return partida.guardada ? bloquear(partida) : !cerrado_ && bloquearAlta();
+    });
+    CargarGridPartidasDColeccion();
+  });
+  return resto;
 }
 
 AperturaDeLista frmPropiedadesLibro::apertura(std::optional<std::size_t> posicion) const {

@@ -19,6 +19,7 @@ frmBuscaPadres::frmBuscaPadres(Contexto& contexto)
   cmdBoton[DETALLES].onClick = [this] { detalles(); };
   for (forms::Grid* grid : {&msgBusquedaPadres, &msgBusquedaBautizado})
     grid->onDblClick = [this] { aceptar(); };
+  setDisposable();
   setLayout(forms::column(
       {forms::item(msgBusquedaPadres), forms::item(msgBusquedaBautizado),
        forms::buttons({&cmdBoton[DETALLES], &cmdBoton[ACEPTAR], &cmdBoton[CANCELAR]})}));

@@ -54,6 +54,7 @@ frmDetallePadres::frmDetallePadres(Contexto& contexto)
   cmdCerrar.setCancel(true);
   cmdCerrar.setDefault(true);
   cmdCerrar.onClick = [this] { Unload(); };
+  setDisposable();
   setLayout(forms::column({forms::fields(1, std::move(lineas)), forms::buttons({&cmdCerrar})}));
 }
 
