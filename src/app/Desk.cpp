@@ -41,6 +41,10 @@ void Desk::setEdition(const std::string& code) {
   entorno_.installation.INF_TipoAplicacion = editionName(code);
 }
 
+std::string Desk::parishTitle() {
+  return parishName() + (keptAsSample(parish()) ? " (MUESTRA)" : "");
+}
+
 bool Desk::setUp() {
   bool complete = false;
   nucleo_.DatosSetup(parish(), complete);

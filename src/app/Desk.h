@@ -29,6 +29,8 @@ class Desk {
   Presence& presence() { return *presence_; }
   /// Short name of the first institution.
   std::string parishName();
+  /// The same, and that it is a sample where it is one.
+  std::string parishTitle();
   std::string edition() const { return editionName(entorno_.installation.Aplicacion); }
 
   /// Anything but None is for the user to hear, and all but NoteRestored to settle.

@@ -75,9 +75,10 @@ QString withoutKeeper(const std::string& date) {
 }
 
 // Nothing when there are no rows.
-std::optional<paper::Report> layOut(FDAPI::Conexion& reports, const paper::Document& paper,
+std::optional<paper::Report> layOut(Desk& desk, const paper::Document& paper,
                                     paper::ReportOptions options) {
-  paper::Report report(reports, templateDirectory(), paper.templateName, paper.title,
+  if (keptAsSample(desk.parish())) options.stamp = QStringLiteral("MUESTRA");
+  paper::Report report(desk.reports(), templateDirectory(), paper.templateName, paper.title,
                        std::move(options));
   if (report.rowCount() == 0) return {};
   return report;
@@ -147,7 +148,7 @@ std::optional<paper::Report> makeReport(Desk& desk, const Document& document, st
   } else if (isAnnulled(run.parish, id)) {
     options.mark = [word](const paper::Row&) { return word; };
   }
-  return layOut(run.reports, paper, std::move(options));
+  return layOut(desk, paper, std::move(options));
 }
 
 std::optional<paper::Report> makeDuplicate(Desk& desk, const std::string& node,
@@ -158,7 +159,7 @@ std::optional<paper::Report> makeDuplicate(Desk& desk, const std::string& node,
   takeBackUnfinished(desk.reports());
   if (options.order.empty()) return {};
   markAnnulled(options, Annulled(desk.parish()));
-  return layOut(desk.reports(), paper, std::move(options));
+  return layOut(desk, paper, std::move(options));
 }
 
 const std::vector<ListReport>& listReports() {
@@ -195,7 +196,7 @@ std::optional<paper::Report> makeListReport(Desk& desk, const ListReport& report
     told = progress.began();
   }
   takeBackUnfinished(desk.reports());
-  std::optional<paper::Report> made = layOut(desk.reports(), paper, std::move(options));
+  std::optional<paper::Report> made = layOut(desk, paper, std::move(options));
   if (!made && !told) forms::warn(desk.entorno().ui, "¡No se ha encontrado ningún registro!");
   return made;
 }

@@ -23,11 +23,13 @@ namespace {
 void fill(store::Connection& connection, const NewParish& parish, const text::Date& today) {
   connection.BeginTrans();
   keepEdition(connection, parish.edition);
-  if (parish.content == Content::Sample)
+  if (parish.content == Content::Sample) {
+    keepAsSample(connection);
     fillSampleParish(connection, parish, today);
-  else
+  } else {
     addInstitution(connection, text::withoutQuotes(text::trim(parish.name)),
                    townKey(connection, parish.town, parish.province));
+  }
   connection.CommitTrans();
 }
 

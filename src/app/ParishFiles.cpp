@@ -129,9 +129,19 @@ void writeEdition(const ParishFiles& files, const std::string& edition) {
 
 void keepEdition(store::Connection& parish, const std::string& edition) {
   store::Transaction transaction(parish);
+  const bool isSample = keptAsSample(parish);
   parish.Execute("DELETE * FROM Instalacion");
-  Insert("Instalacion").text("Edicion", edition).into(parish);
+  Insert("Instalacion").text("Edicion", edition).number("Muestra", isSample).into(parish);
   transaction.commit();
+}
+
+void keepAsSample(store::Connection& parish) {
+  parish.Execute("UPDATE Instalacion SET Muestra=true");
+}
+
+bool keptAsSample(store::Connection& parish) {
+  const auto row = parish.Execute("SELECT Muestra FROM Instalacion");
+  return !row.EOF_() && row.flag("Muestra");
 }
 
 OpenParish openParish(const ParishFiles& files) {

@@ -37,6 +37,9 @@ std::string readEdition(const ParishFiles& files);
 void writeEdition(const ParishFiles& files, const std::string& edition);
 /// The parish keeps its edition itself too, since a note gets lost.
 void keepEdition(store::Connection& parish, const std::string& edition);
+/// Of a parish that keeps its edition: its people are invented, and it is only there to learn on.
+void keepAsSample(store::Connection& parish);
+bool keptAsSample(store::Connection& parish);
 
 /// Name people know an edition by ("Madrid"); its code for one that is unknown.
 std::string editionName(const std::string& code);

@@ -74,6 +74,18 @@ class BookReports : public ParishTest {
   }
 };
 
+TEST_F(BookReports, ofASampleParish_areMarkedOnEveryPage_alsoWhenItIsOpenedAgain) {
+  keepEdition(desk->parish(), FDAPI::cCAplicacion::APP_FIDALEON_MADRID);
+  open();
+  EXPECT_EQ(desk->parishTitle(), "San Blas (MUESTRA)");
+  const auto marked = make("libro");
+  desk->parish().Execute("UPDATE Instalacion SET Muestra=false");
+  EXPECT_EQ(desk->parishTitle(), "San Blas");
+  const auto plain = make("libro");
+  ASSERT_TRUE(marked && plain);
+  for (const int page : {0, 1}) EXPECT_NE(marked->pageImage(page, 40), plain->pageImage(page, 40));
+}
+
 TEST_F(BookReports, bookAndIndex_haveEachEntryOnce) {
   for (int i = 0; i < 2; ++i)
     for (const char* command : {"libro", "indice"}) {

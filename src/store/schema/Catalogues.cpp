@@ -86,8 +86,9 @@ void addCatalogues(std::vector<Table>& tables) {
                        .refers("Provincia", {"CodProvincia"})
                        .index({"CodProvincia", "Nombre"})
                        .index({"Nombre"}));
-  // Also in a note beside the database, which gets lost: one row, once it is known.
-  tables.push_back(Table("Instalacion", 2).texts({"Edicion"}));
+  // One row. The edition is also in a note beside the database, which gets lost. A sample is only
+  // there to learn on: its people are invented.
+  tables.push_back(Table("Instalacion", 2).texts({"Edicion"}).from(3).yesNos({"Muestra"}));
 }
 
 }  // namespace fidaleon::store
