@@ -223,6 +223,16 @@ void addWindowCommands(std::vector<Command>& all) {
   add(Menu::View,
       still(line("filtrar", "&Filtrar", "Ctrl+F", "Busca en la lista según se escribe", 0,
                  Needs::Nothing, [](Workplace& w, const Choice&) { w.focusFilter(); })));
+  add(Menu::File, still(line("nueva-parroquia", "&Nueva parroquia…", "",
+                             "Crea una parroquia en otra carpeta y pasa a trabajar en ella", 0,
+                             Needs::Nothing, [](Workplace& w, const Choice&) { w.newParish(); })));
+  add(Menu::File, still(line("abrir-parroquia", "&Abrir parroquia…", "Ctrl+O",
+                             "Pasa a trabajar en la parroquia de otra carpeta", 0, Needs::Nothing,
+                             [](Workplace& w, const Choice&) { w.openParish(); })));
+  add(Menu::File,
+      still(line("cerrar-parroquia", "C&errar parroquia", "",
+                 "Deja de trabajar en esta parroquia y vuelve al comienzo", 0, Needs::Nothing,
+                 [](Workplace& w, const Choice&) { w.closeParish(); })));
   add(Menu::File, still(line("guardar-lista", "&Guardar la lista…", "Ctrl+S",
                              "Guarda la lista tal como se ve, para una hoja de cálculo", 0,
                              Needs::List, [](Workplace& w, const Choice&) { w.saveList(); })));

@@ -1,35 +1,23 @@
 #include "app/Desktop.h"
 
 #include <QApplication>
-#include <QFileDialog>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTimer>
+#include <chrono>
 #include <fstream>
 #include <map>
 
 #include "app/CarefulQuestion.h"
 #include "app/CopyReturn.h"
 #include "app/EditionQuestion.h"
-#include "app/FirstRunWizard.h"
 #include "app/LastWords.h"
-#include "store/Open.h"
+#include "app/StartDialog.h"
 
 namespace fidaleon::app {
 namespace {
 
-/// The first start on two workstations at once: one has made the parish, the other works on it too.
-bool wantsToJoin(const NewParish& wanted) {
-  QMessageBox box(QMessageBox::Question, QObject::tr("Ya hay una parroquia"),
-                  QObject::tr("Mientras tanto, en otro puesto se ha creado una parroquia en la "
-                              "carpeta «%1». No se ha cambiado nada en ella.")
-                      .arg(QString::fromStdString(wanted.directory.string())));
-  box.setInformativeText(QObject::tr("¿Quiere trabajar con esa parroquia?"));
-  const auto* join = box.addButton(QObject::tr("&Abrir esa parroquia"), QMessageBox::AcceptRole);
-  box.addButton(QObject::tr("&Elegir otra carpeta"), QMessageBox::RejectRole);
-  box.exec();
-  return box.clickedButton() == join;
-}
+constexpr std::chrono::seconds DRAFT_EVERY{3};
 
 /// What stands in the way is told when the parish is opened again.
 void takeOver(const ParishFiles& files) {
@@ -51,57 +39,50 @@ bool knowsThatNobodyIsThere() {
 }  // namespace
 
 Desktop::Desktop()
-    : settings_(support::FileSettings::defaultFile(),
-                [](const std::string& message) {
-                  QMessageBox::warning(nullptr, "Fidaleon", QString::fromStdString(message));
-                }),
-      preferences_(readPreferences(settings_)) {}
+    : settings_(support::FileSettings::defaultFile(), [](const std::string& message) {
+        QMessageBox::warning(nullptr, "Fidaleon", QString::fromStdString(message));
+      }) {}
 
 int Desktop::run(const std::filesystem::path& asked) {
-  ParishFiles files(std::filesystem::absolute(asked.empty() ? usualDirectory() : asked));
-  if (!files.exists() && isFirstRun(files) && !createFirst(files)) return 0;
-  while (const std::unique_ptr<Desk> desk = open(files)) {
+  std::optional<ParishFiles> files = first(asked);
+  while (files) {
+    std::unique_ptr<Desk> desk = open(*files);
+    if (!desk) break;
     const Departure departure = work(*desk);
+    desk.reset();
     if (departure.to == Departure::To::End) break;
-    files = ParishFiles(departure.directory);
+    if (departure.to == Departure::To::Start)
+      files = start();
+    else
+      files = ParishFiles(departure.directory);
     returning_ = departure.to == Departure::To::Copy;
   }
   return 0;
 }
 
 std::filesystem::path Desktop::usualDirectory() const {
-  return preferences_.directory.empty() ? defaultDirectory() : preferences_.directory;
+  const Preferences preferences = readPreferences(settings_);
+  return preferences.directory.empty() ? defaultDirectory() : preferences.directory;
 }
 
 // A folder that once held a parish and holds none now is a fault, not a first run.
 bool Desktop::isFirstRun(const ParishFiles& files) const {
-  return preferences_.directory != std::filesystem::absolute(files.directory) &&
+  return readPreferences(settings_).directory != std::filesystem::absolute(files.directory) &&
          !std::ifstream(files.note());
 }
 
-bool Desktop::createFirst(ParishFiles& files) {
-  NewParish proposal;
-  proposal.directory = files.directory;
-  proposal.user = user();
-  FirstRunWizard wizard(proposal);
-  while (wizard.exec() == QDialog::Accepted) {
-    const NewParish parish = wizard.parish();
-    try {
-      createParish(parish, clock_.today());
-      files = ParishFiles(parish.directory);
-      preferences_.user = parish.user;
-      return true;
-    } catch (const store::NameTaken&) {
-      if (!wantsToJoin(parish)) continue;
-      files = ParishFiles(parish.directory);
-      preferences_.user = parish.user;
-      return true;
-    } catch (const std::exception& e) {
-      QMessageBox::critical(nullptr, QObject::tr("No se puede crear la parroquia"),
-                            QString::fromUtf8(e.what()));
-    }
-  }
-  return false;
+std::optional<ParishFiles> Desktop::first(const std::filesystem::path& asked) {
+  const ParishFiles files(std::filesystem::absolute(asked.empty() ? usualDirectory() : asked));
+  if (files.exists() || !isFirstRun(files)) return files;
+  if (asked.empty()) return start();
+  const auto made = door_.create(nullptr, files.directory);
+  return made ? std::optional(ParishFiles(*made)) : std::nullopt;
+}
+
+std::optional<ParishFiles> Desktop::start() {
+  StartDialog dialog(door_);
+  if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+  return ParishFiles(dialog.chosen());
 }
 
 std::unique_ptr<Desk> Desktop::open(ParishFiles& files) {
@@ -109,7 +90,7 @@ std::unique_ptr<Desk> Desktop::open(ParishFiles& files) {
   while (true) {
     try {
       auto desk = std::make_unique<Desk>(files, user(), watch_, settings_, clock_);
-      remember(files);
+      remember(*desk);
       return desk;
     } catch (const std::exception& e) {
       if (!tryRemedy(describeFault(e, files), files)) return nullptr;
@@ -118,14 +99,21 @@ std::unique_ptr<Desk> Desktop::open(ParishFiles& files) {
 }
 
 std::string Desktop::user() const {
-  return preferences_.user.empty() ? accountName() : preferences_.user;
+  const std::string kept = readPreferences(settings_).user;
+  return kept.empty() ? accountName() : kept;
 }
 
-void Desktop::remember(const ParishFiles& files) {
-  preferences_.directory = std::filesystem::absolute(files.directory);
-  preferences_.user = user();
+void Desktop::remember(Desk& desk) {
+  const auto directory = std::filesystem::absolute(desk.files().directory);
+  std::string title;
   try {
-    writePreferences(settings_, preferences_);
+    title = desk.parishTitle();
+  } catch (const store::Error&) {
+    // Told by whoever needs it next.
+  }
+  try {
+    writePreferences(settings_, {user(), directory});
+    door_.remember({title, directory});
   } catch (const std::runtime_error& e) {
     QMessageBox::warning(nullptr, "Fidaleon", QString::fromUtf8(e.what()));
   }
@@ -165,10 +153,10 @@ bool Desktop::tryRemedy(const OpeningFault& fault, ParishFiles& files) {
       returnToCopy(files);
       return true;
     case Remedy::NewParish:
-      createFirst(files);
+      if (const auto made = door_.create(nullptr, files.directory)) files = ParishFiles(*made);
       return true;
     case Remedy::OtherFolder:
-      chooseFolder(files);
+      if (const auto other = door_.choose(nullptr)) files = ParishFiles(*other);
       return true;
     case Remedy::Exit:
       return false;
@@ -176,19 +164,19 @@ bool Desktop::tryRemedy(const OpeningFault& fault, ParishFiles& files) {
   return false;
 }
 
-void Desktop::chooseFolder(ParishFiles& files) const {
-  const QString chosen =
-      QFileDialog::getExistingDirectory(nullptr, QObject::tr("Carpeta de la parroquia"),
-                                        QString::fromStdString(files.directory.string()));
-  if (!chosen.isEmpty()) files = ParishFiles(chosen.toStdString());
-}
-
 Departure Desktop::work(Desk& desk) {
-  const LastWords lastWords(watch_, desk.files().directory);
+  watch_.workOn(desk.files().parish());
+  const LastWords lastWords(watch_);
+  QTimer often;
+  QObject::connect(&often, &QTimer::timeout, [this] { watch_.keep(); });
+  often.start(DRAFT_EVERY);
   if (!settleEdition(desk) || !desk.setUp()) return {};
-  MainWindow window(desk);
+  MainWindow window(desk, &watch_);
   window.show();
-  QTimer::singleShot(0, &window, &MainWindow::tellOfIncompleteEntries);
+  QTimer::singleShot(0, &window, [&window] {
+    window.offerDrafts();
+    window.tellOfIncompleteEntries();
+  });
   QApplication::exec();
   return window.departure();
 }

@@ -7,6 +7,7 @@
 #include "app/FormWatch.h"
 #include "app/MainWindow.h"
 #include "app/OpeningFault.h"
+#include "app/ParishDoor.h"
 #include "app/Preferences.h"
 #include "qt/QtUserInterface.h"
 #include "support/Clocks.h"
@@ -15,7 +16,8 @@
 namespace fidaleon::app {
 
 /// The program with a window: finds the parish, or makes one with its user, and works on it until
-/// the window is closed. Needs a running QApplication.
+/// the window is closed or the user goes over to another. Of a parish that is left nothing stays
+/// open. Needs a running QApplication.
 class Desktop {
  public:
   Desktop();
@@ -26,20 +28,21 @@ class Desktop {
  private:
   std::filesystem::path usualDirectory() const;
   bool isFirstRun(const ParishFiles& files) const;
-  bool createFirst(ParishFiles& files);
+  std::optional<ParishFiles> first(const std::filesystem::path& asked);
+  std::optional<ParishFiles> start();
   std::unique_ptr<Desk> open(ParishFiles& files);
   std::string user() const;
-  void remember(const ParishFiles& files);
+  void remember(Desk& desk);
   void returnToCopy(const ParishFiles& files);
   bool tryRemedy(const OpeningFault& fault, ParishFiles& files);
-  void chooseFolder(ParishFiles& files) const;
   Departure work(Desk& desk);
 
   support::FileSettings settings_;
   support::SystemClock clock_;
-  Preferences preferences_;
+  ParishDoor door_{settings_, clock_};
   qt::QtUserInterface person_;
-  FormWatch watch_{person_};
+  DraftFolder drafts_{draftDirectory()};
+  FormWatch watch_{person_, drafts_, clock_};
   bool returning_ = false;  // to a copy, before the parish is opened again
 };
 

@@ -14,6 +14,7 @@
 #include <algorithm>
 #include <vector>
 
+#include "app/CarefulQuestion.h"
 #include "app/ParishFiles.h"
 #include "app/SampleNames.h"
 #include "core/contract/FDAPI.h"
@@ -106,7 +107,7 @@ QWizardPage* FirstRunWizard::contentPage(const NewParish& proposal) {
   layout->addWidget(explanation(
       tr("Con dos libros y más de un centenar de bautismos, un padrón con sus colaboradores y sus "
          "grupos, y una agenda. Todas las personas son inventadas: sirve para aprender y probar "
-         "sin miedo, no para trabajar de verdad."),
+         "sin miedo, no para trabajar de verdad. Sus documentos llevan la palabra MUESTRA."),
       page));
   content_->addButton(empty, static_cast<int>(Content::Empty));
   content_->addButton(sample, static_cast<int>(Content::Sample));
@@ -166,10 +167,26 @@ bool FirstRunWizard::validateCurrentPage() {
   NewParish entered = parish();
   const bool lastPage = nextId() == -1;
   if (!lastPage) entered.directory = "/nonexistent/fidaleon";  // asked for on the next page
+  opensWhatIsThere_ = lastPage && ParishFiles(entered.directory).exists();
+  if (opensWhatIsThere_)
+    return QMessageBox::question(
+               this, windowTitle(),
+               tr("En esa carpeta ya hay una parroquia. ¿Desea abrirla?\n\nSe abrirá tal como "
+                  "está, con su nombre y sus datos.")) == QMessageBox::Yes;
   const std::string missing = whatIsMissing(entered);
   if (missing.empty()) return true;
   QMessageBox::warning(this, windowTitle(), QString::fromStdString(missing));
   return false;
+}
+
+void FirstRunWizard::reject() {
+  const bool written = name_->isModified() || town_->isModified() || user_->isModified();
+  if (written &&
+      !askCarefully(this, windowTitle(), tr("¿Desea cerrar esta ventana?"),
+                    tr("Se perderá lo que ha escrito. No se ha creado ninguna parroquia."),
+                    tr("C&errar")))
+    return;
+  QWizard::reject();
 }
 
 }  // namespace fidaleon::app

@@ -20,13 +20,17 @@ class FirstRunWizard : public QWizard {
   explicit FirstRunWizard(const NewParish& proposal, QWidget* parent = nullptr);
 
   NewParish parish() const;
+  /// The folder holds a parish already, and the user wants to work on that one.
+  bool opensWhatIsThere() const { return opensWhatIsThere_; }
   bool validateCurrentPage() override;
+  void reject() override;
 
  private:
   QWizardPage* parishPage(const NewParish& proposal);
   QWizardPage* contentPage(const NewParish& proposal);
   void chooseDirectory();
 
+  bool opensWhatIsThere_ = false;
   QLineEdit* name_ = nullptr;
   QComboBox* province_ = nullptr;
   QLineEdit* town_ = nullptr;

@@ -1,19 +1,50 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
+#include "app/Draft.h"
+#include "app/DraftFolder.h"
+#include "core/contract/Entorno.h"
 #include "forms/Form.h"
-#include "forms/UserInterface.h"
 
 namespace fidaleon::app {
 
-/// A user interface in front of another that remembers which forms are open, so that what stands
-/// in their fields can be saved if the program has to end.
+/// A user interface in front of another that knows which forms are open and keeps what is being
+/// typed in them as a draft. It offers a draft that an ended program has left when its form is
+/// opened again. A draft goes when its form has stored or closed; one that cannot be put back is
+/// shown as a text.
 class FormWatch : public forms::UserInterface {
  public:
-  explicit FormWatch(forms::UserInterface& behind) : behind_(behind) {}
+  /// All must outlive it.
+  FormWatch(forms::UserInterface& behind, DraftFolder& folder, const Clock& clock)
+      : behind_(behind), folder_(folder), clock_(clock) {}
+
+  /// From now on drafts are those of this parish.
+  void workOn(const std::filesystem::path& database);
+
+  /// The forms opened while it lives are opened by that task. `watch` may be null.
+  class During {
+   public:
+    During(FormWatch* watch, Task task);
+    ~During();
+    During(const During&) = delete;
+    During& operator=(const During&) = delete;
+
+   private:
+    FormWatch* watch_;
+  };
+
+  /// Keeps what has changed in the open forms since the last time; to be called every few seconds,
+  /// and when the program has to end. True when there is anything to keep.
+  bool keep();
+
+  /// Asks about each draft of this parish whether to go on with it; `run` does the task again and
+  /// says whether it could be done.
+  void offerLeft(const std::function<bool(const Task&)>& run);
 
   void showModal(forms::Form& form) override;
   forms::Answer showMessage(const forms::Message& message) override;
@@ -29,18 +60,42 @@ class FormWatch : public forms::UserInterface {
   void progressMove(std::int64_t position) override { behind_.progressMove(position); }
   void progressClose() override { behind_.progressClose(); }
 
-  /// What stands in the fields of the open forms, one line each; empty when no form is open or
-  /// nothing has been written.
-  std::string draft() const;
-
  private:
-  forms::UserInterface& behind_;
-  std::vector<const forms::Form*> open_;
-};
+  struct Open {
+    const forms::Form* form;
+    std::string caption;
+  };
+  class Opened;
+  struct Found {
+    DraftFolder::Left left;
+    Draft draft;
+    bool taken = false;
+  };
+  Draft present() const;
+  std::vector<Found> found() const;
+  std::optional<Found> foundFor(const forms::Form& form) const;
+  forms::Answer ask(const Draft& draft);
+  void offer(forms::Form& form);
+  void offerWaiting(forms::Form& form);
+  void resume(forms::Form& form, Found found);
+  bool isStale(const forms::Form& form, const Draft::Level& level) const;
+  void fill(forms::Form& form, const Draft::Level& level);
+  bool write(const std::function<void()>& writing);
+  void showLeft(const char* why, const Found& found);
+  void showRest(const char* why, std::vector<Draft::Level> levels);
 
-/// Writes the draft into the directory, under a name that no earlier draft has. Empty when there
-/// was nothing to save or it could not be written.
-std::filesystem::path saveDraft(const FormWatch& watch, const std::filesystem::path& directory,
-                                const std::string& moment);
+  forms::UserInterface& behind_;
+  DraftFolder& folder_;
+  const Clock& clock_;
+  std::string parish_;
+  Task task_;
+  std::vector<Open> open_;
+  std::vector<Draft::Level> kept_;     // as the draft on the disk has them
+  std::vector<Draft::Level> waiting_;  // put back when their forms are opened over this one
+  std::optional<Found> agreed_;        // the user wants it back
+  bool filling_ = false;
+  bool ending_ = false;
+  bool failed_ = false;
+};
 
 }  // namespace fidaleon::app

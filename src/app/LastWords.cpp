@@ -1,7 +1,6 @@
 #include "app/LastWords.h"
 
 #include <QApplication>
-#include <QDateTime>
 #include <QMessageBox>
 #include <cstdlib>
 #include <exception>
@@ -10,7 +9,7 @@
 namespace fidaleon::app {
 namespace {
 
-const LastWords* current = nullptr;
+LastWords* current = nullptr;
 
 std::string whatHappened() {
   const std::exception_ptr error = std::current_exception();
@@ -26,8 +25,7 @@ std::string whatHappened() {
 
 }  // namespace
 
-LastWords::LastWords(const FormWatch& watch, std::filesystem::path directory)
-    : watch_(watch), directory_(std::move(directory)) {
+LastWords::LastWords(FormWatch& watch) : watch_(watch) {
   current = this;
 }
 
@@ -41,10 +39,10 @@ std::string LastWords::prepare() {
       "Las partidas ya guardadas están a salvo.\n\n" +
       whatHappened();
   if (!current) return words;
-  const std::string moment = QDateTime::currentDateTime().toString("yyyyMMdd-HHmmss").toStdString();
-  const std::filesystem::path draft = saveDraft(current->watch_, current->directory_, moment);
-  if (!draft.empty())
-    words += "\n\nLo que estaba escribiendo se ha guardado en «" + draft.string() + "».";
+  if (current->watch_.keep())
+    words +=
+        "\n\nLo que estaba escribiendo se ha guardado como borrador: se le ofrecerá cuando vuelva "
+        "a abrir la parroquia.";
   return words;
 }
 

@@ -42,9 +42,11 @@ const char* hintOf(NodeKind kind) {
 
 }  // namespace
 
-MainWindow::MainWindow(Desk& desk, QWidget* parent)
+MainWindow::MainWindow(Desk& desk, FormWatch* watch, QWidget* parent)
     : QMainWindow(parent),
       desk_(desk),
+      watch_(watch),
+      door_(desk.entorno().settings, desk.entorno().clock),
       copies_(desk.files().directory),
       removals_(desk.parish()),
       daily_(desk, [this] { sayDamaged(); }),

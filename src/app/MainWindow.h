@@ -11,6 +11,8 @@
 #include "app/Command.h"
 #include "app/DailyCheck.h"
 #include "app/Desk.h"
+#include "app/FormWatch.h"
+#include "app/ParishDoor.h"
 #include "app/Precaution.h"
 #include "app/RowsFilter.h"
 #include "app/RowsModel.h"
@@ -34,7 +36,7 @@ namespace fidaleon::app {
 
 /// What is to come when the window has closed.
 struct Departure {
-  enum class To { End, Parish, Copy };  // Copy: back to one, since the parish is damaged
+  enum class To { End, Start, Parish, Copy };  // Copy: back to one, since the parish is damaged
   To to = To::End;
   std::filesystem::path directory;  // of the parish
 };
@@ -45,7 +47,8 @@ class MainWindow : public QMainWindow, private Workplace {
   Q_OBJECT
 
  public:
-  explicit MainWindow(Desk& desk, QWidget* parent = nullptr);
+  /// `watch` keeps the drafts of the forms; null keeps none.
+  explicit MainWindow(Desk& desk, FormWatch* watch = nullptr, QWidget* parent = nullptr);
   ~MainWindow() override;
 
   void showNode(const std::string& name) override;
@@ -65,6 +68,8 @@ class MainWindow : public QMainWindow, private Workplace {
   /// Shows the list anew when another desk has changed the parish, with the row that was chosen and
   /// the part that was in sight; not while a dialog or menu is open. Runs by itself now and then.
   void renewIfChanged();
+  /// Asks whether to go on with what was being typed when a program ended.
+  void offerDrafts();
 
  protected:
   void closeEvent(QCloseEvent* event) override;
@@ -84,14 +89,19 @@ class MainWindow : public QMainWindow, private Workplace {
   void backUp() override;
   void returnToCopy() override;
   void about() override;
+  void newParish() override;
+  void openParish() override;
+  void closeParish() override { depart({Departure::To::Start, {}}); }
   /// When the command that asked for it has ended: until then the window refuses to close.
   void leave() override { depart({}); }
   void depart(Departure departure);
+  bool resume(const Task& task);
 
   void buildTree();
   void buildList();
   void buildCommands();
   void buildStatusBar();
+  void fillRecent();
   void nodeChosen();
   void setScope(std::int32_t group, const QString& name);
   void selectFirst();
@@ -125,6 +135,8 @@ class MainWindow : public QMainWindow, private Workplace {
   void restoreWindow();
 
   Desk& desk_;
+  FormWatch* watch_;
+  ParishDoor door_;
   Departure departure_;
   SafetyCopies copies_;
   store::RemovalWatch removals_;
@@ -145,6 +157,7 @@ class MainWindow : public QMainWindow, private Workplace {
   QLabel* count_ = nullptr;
   QLabel* parishName_ = nullptr;
   QToolBar* bar_ = nullptr;
+  QMenu* recent_ = nullptr;
   RowsModel rows_;
   RowsFilter shown_;
   std::map<std::string, QAction*> actions_;

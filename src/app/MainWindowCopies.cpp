@@ -57,6 +57,9 @@ void MainWindow::carryOut(const Command& command, const Choice& chosen) {
                          "No se ha eliminado nada, porque no se ha podido guardar antes una copia "
                          "de la parroquia.");
   });
+  const bool ofARow = command.needs != Needs::Nothing && command.needs != Needs::List;
+  const FormWatch::During during(
+      watch_, {command.id, chosen.node ? chosen.node->node.Nombre : "", ofARow ? chosen.id : 0});
   command.run(*this, chosen);
 }
 
@@ -162,7 +165,7 @@ bool MainWindow::isInPlace() {
 }
 
 void MainWindow::showParishName() {
-  const QString name = QString::fromStdString(desk_.parishName());
+  const QString name = QString::fromStdString(desk_.parishTitle());
   setWindowTitle(tr("%1 — Fidaleon").arg(name));
   parishName_->setText("  " + tr("Parroquia: %1").arg(name) + "  ");
 }

@@ -157,6 +157,10 @@ void MainWindow::buildCommands() {
     if (command.toolbar) bar_->addAction(action);
     actions_[command.id] = action;
   }
+  recent_ = new QMenu(tr("Parroquias &recientes"), this);
+  menus.at(Menu::File)->insertMenu(actions_.at("cerrar-parroquia"), recent_);
+  menus.at(Menu::File)->insertSeparator(actions_.at("guardar-lista"));
+  connect(menus.at(Menu::File), &QMenu::aboutToShow, this, [this] { fillRecent(); });
 }
 
 void MainWindow::buildStatusBar() {

@@ -46,6 +46,12 @@ class Workplace {
   /// Lets the user return the parish to a copy saved earlier.
   virtual void returnToCopy() = 0;
   virtual void about() = 0;
+  /// Lets the user make a parish, and works on that one from then on.
+  virtual void newParish() = 0;
+  /// Lets the user choose a parish, and works on that one from then on.
+  virtual void openParish() = 0;
+  /// Works on no parish until the user has chosen one.
+  virtual void closeParish() = 0;
   virtual void leave() = 0;
 };
 

@@ -4,8 +4,6 @@
 
 #include <fstream>
 
-#include "app/FormWatch.h"
-#include "app/LastWords.h"
 #include "app/OpeningFault.h"
 #include "app/Parish.h"
 #include "app/Preferences.h"
@@ -254,31 +252,6 @@ TEST_F(Opening, edition_isTheParishs) {
   desk->parish().Execute("DELETE * FROM Instalacion");
   std::filesystem::remove(files().note());
   EXPECT_EQ(opened("Madrid"), EditionDoubt::Unknown);
-}
-
-TEST_F(Opening, draft_holdsWhatStandsInTheOpenForms) {
-  class Sheet : public forms::Form {
-   public:
-    explicit Sheet(forms::UserInterface& ui) : Form(ui, "frmHoja") { setCaption("Hoja"); }
-    forms::TextBox name{*this, "txtNombre", "NOMBRE:"};
-    forms::TextBox empty{*this, "txtVacio", "VACIO:"};
-  };
-  FormWatch watch(user);
-  Sheet sheet(watch);
-  std::filesystem::path draft;
-  user.expectForm("frmHoja", [&](forms::FormDriver& d) {
-    d.get<forms::TextBox>("txtNombre").setText("Íñigo");
-    EXPECT_EQ(watch.draft(), "Hoja\n\nNOMBRE: Íñigo\n\n");
-    draft = saveDraft(watch, directory(), "20260520");
-    EXPECT_NE(saveDraft(watch, directory(), "20260520"), draft);
-    const LastWords words(watch, directory());
-    EXPECT_THAT(LastWords::prepare(), ::testing::HasSubstr("borrador-"));
-    d.form().Unload();
-  });
-  sheet.Show();
-  EXPECT_TRUE(std::filesystem::exists(draft));
-  EXPECT_EQ(watch.draft(), "");
-  EXPECT_TRUE(saveDraft(watch, directory(), "20260520").empty());
 }
 
 }  // namespace

@@ -67,7 +67,7 @@ TEST_F(SampleParish, aNewEntryGetsTheNextPositionAndFindsItsFamily) {
     d.type("txtBautismo(8)", family.text("PrimerApellido"));
     d.type("txtBautismo(9)", family.text("SegundoApellido"));
     d.focus("txtBautismo(10)");
-    d.close();
+    d.click("cmdBautismo(1)");
   });
   user.expectForm("frmBuscaPadres", [](forms::FormDriver& d) {
     EXPECT_GE(d.get<forms::Grid>("msgBusquedaPadres").rowCount(), 1);

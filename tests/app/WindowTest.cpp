@@ -1,8 +1,12 @@
 #include <QAction>
 #include <QLineEdit>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QPushButton>
 #include <QStatusBar>
 #include <QTableView>
 #include <QTest>
+#include <QTimer>
 #include <QToolButton>
 #include <QTreeView>
 #include <QWindow>
@@ -229,6 +233,52 @@ TEST_F(Window, widthsAndPlaceComeBack) {
   window = std::make_unique<MainWindow>(*desk);
   EXPECT_EQ(window->table().columnWidth(3), 321);
   EXPECT_EQ(window->height(), 555);
+}
+
+TEST_F(Window, closingTheParish_leavesNothingOpenForTheNext) {
+  window->action("cerrar-parroquia")->trigger();
+  QCoreApplication::processEvents();
+  EXPECT_FALSE(window->isVisible());
+  EXPECT_EQ(window->departure().to, Departure::To::Start);
+}
+
+TEST_F(Window, recentParishes_areInTheMenuWithoutTheOpenOne) {
+  ParishDoor door(settings, clock);
+  for (int i = 0; i < 10; ++i)
+    door.remember({"Parroquia " + std::to_string(i), directory() / std::to_string(i)});
+  door.remember({"San Blas", directory()});
+  door.remember({"Parroquia 5 y 6", directory() / "5"});
+  const std::vector<KnownParish> known = door.recent();
+  ASSERT_EQ(known.size(), ParishDoor::MOST);
+  EXPECT_EQ(known[0], (KnownParish{"Parroquia 5 y 6", directory() / "5"}));
+  EXPECT_EQ(known[2].name, "Parroquia 9");
+  QMenu* file = window->menuBar()->actions().at(0)->menu();
+  emit file->aboutToShow();
+  QMenu* recent = nullptr;
+  for (QAction* line : file->actions())
+    if (line->text() == "Parroquias &recientes") recent = line->menu();
+  ASSERT_TRUE(recent);
+  ASSERT_EQ(recent->actions().size(), 7);
+  recent->actions().at(1)->trigger();
+  QCoreApplication::processEvents();
+  EXPECT_FALSE(window->isVisible());
+  EXPECT_EQ(window->departure().directory, directory() / "9");
+}
+
+TEST_F(ParishTest, wizard_opensAParishThatIsThere) {
+  createParish(described(Content::Empty), clock.today());
+  FirstRunWizard wizard(described());
+  wizard.restart();
+  wizard.next();
+  ASSERT_EQ(wizard.nextId(), -1);
+  QTimer::singleShot(0, [] {
+    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    ASSERT_TRUE(box);
+    EXPECT_TRUE(box->text().contains("¿Desea abrirla?"));
+    box->button(QMessageBox::Yes)->click();
+  });
+  EXPECT_TRUE(wizard.validateCurrentPage());
+  EXPECT_TRUE(wizard.opensWhatIsThere());
 }
 
 TEST_F(ParishTest, wizardGivesBackWhatItWasOffered) {

@@ -154,7 +154,7 @@ TEST_F(Actividades, GroupOrActivityGoneMeanwhile_IsToldAndNothingIsHungOnIt) {
       EXPECT_THAT(user.messages().back().text, HasSubstr("ya no existe"));
       EXPECT_EQ(count("Padron_Actividad"), 2) << tabla;
       EXPECT_EQ(count("Actividad WHERE Descripcion='Los niños'"), 0) << tabla;
-      d.escape();
+      d.click("cmdActividad(1)");
     });
 }
 
@@ -246,7 +246,7 @@ TEST_F(Actividades, GroupsUsedElsewhere_AreNeitherAddedToNorTakenAway) {
     grupoNuevo(d, "Tercero");
     quitarFila(d, 2);
     EXPECT_TRUE(libre("Grupo")) << "the refused one was not counted";
-    d.escape();
+    d.click("cmdActividad(1)");
   });
 }
 
@@ -353,7 +353,7 @@ TEST_F(Actividades, CollaboratorAdded_IsMarkedAmongTheAvailableAndTheSelectedSta
       EXPECT_FALSE(g.visible("cmdGrupo(2)"));
       g.escape();
     });
-    d.escape();
+    d.click("cmdActividad(1)");
   };
   editar(desdeColaborador, false, cCOrigen::COLABORADOR);
 }

@@ -166,7 +166,7 @@ TEST_F(Colaboradores, FailureIsTold_WhenOthersCanWriteAgain) {
     u.click(ACEPTAR);
     EXPECT_EQ(usuario.messages().size(), 1u);
     EXPECT_FALSE(usuario.retenido);
-    u.close();
+    u.click("cmdColaborador(1)");
   });
   censo::NuevoColaborador(suContexto, con());
   EXPECT_SCRIPT_DONE(usuario);
@@ -200,7 +200,7 @@ TEST_F(Colaboradores, SameName_IsOpenedInsteadOfANewOneButOnlyShownToOneWhoEdits
     });
     poner(u, t(C::Nombre), "Ana", t(C::Direccion), "", t(C::Nombre), "Eva", t(C::Direccion), "");
     EXPECT_FALSE(u.closed());
-    u.close();
+    u.click("cmdColaborador(1)");
   });
 }
 
@@ -238,7 +238,7 @@ TEST_F(Colaboradores, ProvinceOrTownAdded_CanBeChosenAndTheChoiceStays) {
     u.click("cmdAgregarMunicipio(0)");
     EXPECT_EQ(u.text("cboColaborador(1)"), "Illescas");
     poner(u, "cboColaborador(2)", "Andorra", "cboColaborador(3)", "Canillo");
-    u.close();
+    u.click("cmdColaborador(1)");
   });
 }
 

@@ -14,6 +14,9 @@ enum Clase { EMPADRONADO_, COLABORADOR_, ACTIVIDAD_, CARGO_, TAREA_ };
 
 /// What the bar of a card that can only be looked at offers.
 constexpr const char* REINTENTAR = "cmdReintentar";
+constexpr const char* SE_PERDERA =
+    "Lo que ha escrito en esta ventana no se ha guardado y se perderá.\n¿Desea cerrarla de todos "
+    "modos?";
 
 struct Ficha {
   Clase clase;
@@ -225,6 +228,12 @@ TEST_P(Fichas, Edited_ChangesThatRecordAloneAndOnlyOnAccepting) {
       for (const char* tabla : f.compartidas) EXPECT_FALSE(libre(tabla)) << tabla;
       retocar(u);
       poner(u, f.nombre, "Eva \"la Nena\"");
+      if (!aceptar) {
+        user.expectMessage(SE_PERDERA, Answer::No);
+        u.escape();
+        EXPECT_FALSE(u.closed());
+        user.expectMessage(SE_PERDERA, Answer::Yes);
+      }
       aceptar ? u.click(f.aceptar()) : u.escape();
       EXPECT_TRUE(u.closed());
     });

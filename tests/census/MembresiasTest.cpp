@@ -116,7 +116,7 @@ TEST_F(Membresias, SameGroupTwice_IsRefusedUnlessTheOtherIsToGo) {
       user.expectMessage("¡El colaborador ya existe en este grupo!");
       a.click(SI);
       EXPECT_FALSE(a.closed());
-      a.close();
+      a.click("cmdColaboraAct(1)");
     });
     quitarFila(u, 1);
     elegir(u, AGREGAR, "Primero", "Monitor");
@@ -207,7 +207,7 @@ TEST_F(Membresias, GroupGone_LeavesARowThatCanOnlyBeTakenAwayOrGivenAnother) {
         e.click("cmdActividad(0)");
       });
       a.click(ALTA_GRUPO);
-      a.close();
+      a.click("cmdColaboraAct(1)");
     });
     EXPECT_EQ(columna(u, REJILLA), "---");
     u.tab("mstColaborador", frmColaborador::TAB_DATOS);
@@ -279,7 +279,7 @@ TEST_F(Membresias, SameNameInTwoInstitutions_SaysWhoseItIs) {
       EXPECT_EQ(a.caption(), "Propiedades colaborador - actividad");
       EXPECT_EQ(lineas(a, ACTIVIDAD), "Catequesis (San Ginés)|Catequesis (San Juan)|Coro");
       comprobar(a, ACTIVIDAD, "Catequesis (San Juan)", GRUPO, "Sábado", CARGO, "Monitor");
-      a.close();
+      a.click("cmdColaboraAct(1)");
     });
     u.click(ACEPTAR);
   });

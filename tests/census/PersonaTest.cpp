@@ -188,7 +188,7 @@ TEST_F(Personas, KeysThatDoNotFitAField_BeepOrAreChanged) {
     u.paste(t(P::CorreoElectronico), "EVA@X.ES");
     u.focus(t(P::Direccion));
     EXPECT_EQ(u.text(t(P::CorreoElectronico)), "eva@x.es");
-    u.escape();
+    u.click("cmdPadron(1)");
   });
 }
 
@@ -231,7 +231,7 @@ TEST_F(Personas, CatalogueGrowsFromTheCard_ListsShowItAndKeepWhatWasChosen) {
       EXPECT_EQ(u.text(l(1)), "Ocaña") << "stays, though the lists cannot be read";
     }
     EXPECT_EQ(user.messages().size(), 2u);
-    u.escape();
+    u.click("cmdPadron(1)");
   });
 }
 
@@ -269,7 +269,7 @@ TEST_F(Personas, DNIOfAnother_IsToldOnLeavingAndRefusedAtTheEnd) {
     u.tab(MST, P::TAB_NOTAS);
     EXPECT_EQ(u.text(t(P::Nombre)), "Elena");
     rehusa(u, ACEPTAR, "¡El DNI introducido coincide con el de un empadronado!", t(P::NIF));
-    u.escape();
+    u.click("cmdPadron(1)");
   });
   editaPersona(rosa("01234567-L"), [&](FormDriver& u) {
     poner(u, t(P::NIF), "01234567", t(P::LetraNIF), "L", t(P::Direccion), "Su DNI");
@@ -279,7 +279,7 @@ TEST_F(Personas, DNIOfAnother_IsToldOnLeavingAndRefusedAtTheEnd) {
     poner(u, t(P::NIF), "1", t(P::LetraNIF), "Z", t(P::NIF), "12345678");
     user.expectMessage("¡Ya existe una persona con este DNI!");
     u.focus(t(P::Direccion));
-    u.escape();
+    u.click("cmdPadron(1)");
   });
   EXPECT_EQ(filas("SELECT DNI FROM Padron"), "12345678-Z/01234567-L");
 }
@@ -328,7 +328,7 @@ TEST_F(Personas, ImportFailsAnywhere_NeverMixesTwoPersons) {
       if (u.closed()) return;
       EXPECT_EQ(u.text(t(P::Nombre)), fallado ? "Elena" : "Rosa") << n;
       EXPECT_EQ(u.caption() == "Agregar empadronado", fallado) << n;
-      u.escape();
+      u.click("cmdPadron(1)");
     });
   EXPECT_GT(user.messages().size(), 10u);
   EXPECT_EQ(censo(), antes);

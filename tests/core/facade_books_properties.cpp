@@ -228,7 +228,7 @@ TEST(FacadeRequests, MoveThatFails_GivesTheBookAndItsEntriesBack) {
     EXPECT_THAT(w.bloqueos(), ElementsAre("Libro_Bautismo [1] existe [SELECT IDLibroBautismo FROM "
                                           "Libro_Bautismo WHERE IDLibroBautismo=1]",
                                           "Bautismo", "efectuar", "liberar"));
-    u.escape();
+    u.click("cmdBoton(1)");
   });
   w.nucleo.ImportarSolicitudes(w.con(), w.config, "SolicitudesBautismo");
   EXPECT_SCRIPT_DONE(w.user);

@@ -229,7 +229,7 @@ TEST_P(AltaLibroBautismo, addingAnInstitution_choosesItAloneAndCancellingLeavesT
     f.click("cmdAgregarInstitucion");
     EXPECT_EQ(f.get<forms::ComboBox>("cboInstituciones").listCount(), 1);
     EXPECT_EQ(f.text("cboInstituciones"), "San Blas");
-    f.escape();
+    f.click("cmdBoton(1)");
   });
   frmAltaLibroBautismo alta(mundo.contexto);
   alta.conBaseDatos = mundo.parish.get();
@@ -249,7 +249,7 @@ TEST_P(AltaLibroBautismo, institutionDeletedMeanwhile_isNamedAndAnotherCanBeChos
     EXPECT_EQ(f.focused(), "cboInstituciones");
     EXPECT_EQ(f.get<forms::ComboBox>("cboInstituciones").listCount(), 1);
     EXPECT_EQ(f.text("txtNombreLibro"), "Libro 12");
-    f.escape();
+    f.click("cmdBoton(1)");
   });
   EXPECT_EQ(libros(), 0);
   EXPECT_SCRIPT_DONE(mundo.user);
@@ -281,7 +281,7 @@ TEST_P(AltaLibroBautismo, yearWith99Books_fallsBackToAFreeName) {
     EXPECT_EQ(f.text("cboTipoNombre"), "Abierto");
     EXPECT_EQ(f.text("txtNombreLibro"), "");
     f.type("txtNombreLibro", "Cien");
-    f.escape();
+    f.click("cmdBoton(1)");
   });
   EXPECT_EQ(libros(), 99) << "cancelling stores nothing";
   EXPECT_SCRIPT_DONE(mundo.user);
@@ -294,7 +294,7 @@ TEST_P(AltaLibroBautismo, menorca_offersTwoEntriesPerFolioToNewBooks) {
     f.click("optNuevo");
     f.chooseData("cboFormato", 2);
     f.chooseData("cboFormato", 3);
-    f.escape();
+    f.click("cmdBoton(1)");
   });
   EXPECT_SCRIPT_DONE(mundo.user);
 }
@@ -335,7 +335,7 @@ TEST_P(AltaLibroBautismo, anotherInstitution_startsTheChoicesAnew) {
     f.click("optAntiguo");
     EXPECT_EQ(f.text("adtpAltaLibro"), "");
     EXPECT_FALSE(f.locked("adtpAltaLibro"));
-    f.escape();
+    f.click("cmdBoton(1)");
   });
   EXPECT_SCRIPT_DONE(mundo.user);
 }

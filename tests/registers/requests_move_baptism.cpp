@@ -169,7 +169,7 @@ TEST_F(MovedRequests, Details_ShowTheFamilyOfTheMarkedRequest) {
     mark(d, "lstSolicitudes(1)", {0});
     w.user.expectForm("frmDetallePadres", look);
     d.click("cmdDetalles");
-    d.escape();
+    d.click("cmdBoton(1)");
   });
   EXPECT_SCRIPT_DONE(w.user);
 }
@@ -227,7 +227,7 @@ TEST_F(MovedRequests, BookOpenElsewhere_NothingIsMoved) {
     moveAll(d);
     EXPECT_EQ(w.user.messages().size(), 1u);
     EXPECT_FALSE(d.closed());
-    d.escape();
+    d.click("cmdBoton(1)");
   });
   EXPECT_THAT(inBook(libro), IsEmpty());
   EXPECT_SCRIPT_DONE(w.user);

@@ -62,7 +62,7 @@ TEST_F(Catalogues, ProvinceWithoutNameOrTwice_IsRefusedAndStaysToBeMended) {
     u.type("txtCodigoOficial", "28");
     w.user.expectMessage("¡Ya existe una provincia con ese código oficial!");
     u.click("cmdBoton(0)");
-    u.escape();
+    u.click("cmdBoton(1)");
   });
   EXPECT_FALSE(addProvince());
   EXPECT_EQ(w.count("Provincia"), 52);
@@ -204,7 +204,7 @@ TEST_F(Catalogues, InstitutionThatCannotBeStored_IsToldAndNothingIsLost) {
     u.click("cmdBoton(0)");
     EXPECT_FALSE(u.closed());
     EXPECT_EQ(u.text("txtInstitucion(0)"), longName);
-    u.escape();
+    u.click("cmdBoton(1)");
   });
   w.contexto.fidaleon()->NuevaInstitucion(w.con(), w.config);
   ASSERT_EQ(w.user.messages().size(), 1u);

@@ -55,7 +55,7 @@ TEST_F(Tasks, BeginningTyped_ProposesTheEndUnlessThereIsOne) {
     u.type("txtHoraInicio", "17:00");
     u.focus("txtNombre");
     EXPECT_EQ(u.text("txtHoraFin"), "19:30");
-    u.escape();
+    u.click("cmdBoton(1)");
   });
   EXPECT_FALSE(commands.agregar(Catalogo::Tarea));
   EXPECT_EQ(w.count("Tareas"), 0);
