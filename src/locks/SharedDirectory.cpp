@@ -205,9 +205,13 @@ bool SharedDirectory::join(const Guard& guard, const std::vector<HeldEntry>& ent
 }
 
 void SharedDirectory::requireVisible() const {
-  const std::optional<File> again = File::openToRead(ownPath_);
-  if (!again || !vantage_.seesLock(*again))
-    throw Unusable(unusable(directory_, "la unidad no guarda los bloqueos. Elija otra carpeta."));
+  try {
+    const std::optional<File> again = File::openToRead(ownPath_);
+    if (again && vantage_.seesLock(*again)) return;
+  } catch (const std::system_error& e) {
+    throw Unusable(unusable(directory_, text::systemReason(e.code())));
+  }
+  throw Unusable(unusable(directory_, "la unidad no guarda los bloqueos. Elija otra carpeta."));
 }
 
 void SharedDirectory::withdraw() noexcept {

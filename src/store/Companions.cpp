@@ -32,6 +32,13 @@ fs::path freeName(const fs::path& database, const std::string& ending) {
   }
 }
 
+void moveCompanions(const fs::path& database, const fs::path& aside) {
+  for (const char* const companion : ENDINGS) {
+    const fs::path file = with(database, companion);
+    if (files::isThere(file)) files::moveTo(file, with(aside, companion));
+  }
+}
+
 }  // namespace
 
 std::vector<fs::path> companionsOf(const fs::path& database) {
@@ -61,14 +68,19 @@ fs::path putAside(const fs::path& database, const std::string& ending) {
   const fs::path aside = freeName(database, ending);
   try {
     if (files::isThere(database)) files::moveTo(database, aside);
-    for (const char* const companion : ENDINGS) {
-      const fs::path file = with(database, companion);
-      if (files::isThere(file)) files::moveTo(file, with(aside, companion));
-    }
+    moveCompanions(database, aside);
   } catch (const fs::filesystem_error& e) {
     refuse(e);
   }
   return aside;
+}
+
+void putCompanionsAside(const fs::path& database, const std::string& ending) {
+  try {
+    moveCompanions(database, freeName(database, ending));
+  } catch (const fs::filesystem_error& e) {
+    refuse(e);
+  }
 }
 
 }  // namespace fidaleon::store

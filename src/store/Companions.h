@@ -19,4 +19,7 @@ void removeCompanions(const std::filesystem::path& database);
 /// Connection.
 std::filesystem::path putAside(const std::filesystem::path& database, const std::string& ending);
 
+/// Only what is beside it: a database that has come to the name meanwhile stays there.
+void putCompanionsAside(const std::filesystem::path& database, const std::string& ending);
+
 }  // namespace fidaleon::store

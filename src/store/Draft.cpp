@@ -31,14 +31,24 @@ bool isOlderByADay(const fs::path& file, const fs::path& justMade) {
   return !failed && now - then > std::chrono::hours(24);
 }
 
+/// What follows the name of a draft: "-1f09c2d4", "-1f09c2d4-wal". Other files may begin alike.
+bool isEnding(std::string ending) {
+  for (const std::string companion : {"-wal", "-journal", "-shm"})
+    if (ending.ends_with(companion)) ending.resize(ending.size() - companion.size());
+  return ending.empty() || (ending.front() == '-' &&
+                            ending.find_first_not_of("0123456789abcdef", 1) == std::string::npos);
+}
+
 void removeRests(const std::string& beginning, const fs::path& justMade) {
   std::vector<fs::path> rests;
   std::error_code failed;
   fs::directory_iterator at(justMade.has_parent_path() ? justMade.parent_path() : ".", failed);
-  for (; !failed && at != fs::directory_iterator(); at.increment(failed))
-    if (at->path().filename().string().starts_with(beginning) &&
+  for (; !failed && at != fs::directory_iterator(); at.increment(failed)) {
+    const std::string name = at->path().filename().string();
+    if (name.starts_with(beginning) && isEnding(name.substr(beginning.size())) &&
         isOlderByADay(at->path(), justMade))
       rests.push_back(at->path());
+  }
   for (const fs::path& rest : rests) fs::remove(rest, failed);
 }
 

@@ -74,9 +74,11 @@ void requireClosed(const fs::path& file) {
   try {
     SqliteEngine(file, SqliteEngine::Access::Existing).leaveWriteAheadLog();
   } catch (const Error& error) {
-    if (error.kind() != ErrorKind::Busy) return;  // nothing that anybody could have open
-    throw Error(ErrorKind::Busy, "No se puede guardar la copia encima de «" + file.string() +
-                                     "»: un programa lo tiene abierto.");
+    if (error.kind() == ErrorKind::NotADatabase) return;  // nothing that anybody could have open
+    const bool known = error.kind() == ErrorKind::Busy;
+    throw Error(error.kind(), "No se puede guardar la copia encima de «" + file.string() + "»: " +
+                                  (known ? "un programa lo tiene abierto."
+                                         : "no puede saberse si un programa lo tiene abierto."));
   }
 }
 
@@ -141,7 +143,7 @@ std::unique_ptr<Connection> createDatabase(const fs::path& file, const Schema& s
     Draft draft(file, ".nueva");
     makeDraft(draft.path(), schema, fill);
     if (files::isThere(file)) throw NameTaken(file);
-    if (!companionsOf(file).empty()) putAside(file, ".apartada");
+    if (!companionsOf(file).empty()) putCompanionsAside(file, ".apartada");
     if (!draft.acceptIfFree()) throw NameTaken(file);
   }
   return openDatabase(file, schema);
@@ -182,6 +184,7 @@ void backupDatabase(Connection& from, const fs::path& to) {
     throw Error(ErrorKind::NotADatabase, "La copia que se acaba de hacer en «" + to.string() +
                                              "» no se puede leer bien, y no se ha guardado.");
   }
+  requireClosed(to);  // somebody may have come meanwhile
   draft.accept();
   requireCopied(to, from.schema(), counts, false);
 }

@@ -4,6 +4,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <chrono>
 #include <cstdlib>
 #include <fstream>
@@ -12,6 +13,7 @@
 #include <thread>
 
 #include "files/Durable.h"
+#include "files/PrivateFile.h"
 #include "locks/OfdLock.h"
 #include "text/SystemErrors.h"
 
@@ -50,9 +52,14 @@ fs::path FileSettings::defaultFile() {
   return base / "fidaleon" / "ajustes.ini";
 }
 
+/// Throws std::system_error when it cannot be told whether there is one: to take that for none
+/// would lose all that it holds with the next write.
 FileSettings::Stamp FileSettings::stamp() const {
   struct stat file {};
-  if (::stat(file_.c_str(), &file) != 0) return {};
+  if (::stat(file_.c_str(), &file) != 0) {
+    if (errno == ENOENT || errno == ENOTDIR) return {};
+    throw std::system_error(errno, std::generic_category());
+  }
   return {file.st_ino, file.st_mtim.tv_sec, file.st_mtim.tv_nsec, file.st_size};
 }
 
@@ -88,6 +95,7 @@ void FileSettings::mend() const {
   if (!damaged_) return;
   const fs::path kept = with(file_, ".danado");
   fs::copy_file(file_, kept, fs::copy_options::overwrite_existing);
+  files::narrow(kept);
   files::syncFile(kept);
   save(values_);
   damaged_ = false;

@@ -7,6 +7,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <system_error>
 
 #include "locks/SharedDirectory.h"
 #include "support/TestWorld.h"
@@ -129,10 +130,17 @@ TEST_F(Meeting, aLivingProgramWhoseLockIsNotSeen_provesThatLocksAreHidden) {
 TEST_F(Meeting, whereNoLockIsSeenAtAll_nobodyCanCome) {
   Vantage blind;
   blind.seesLock = [](const File&) { return false; };
-  SharedDirectory directory = at(blind);
-  EXPECT_THAT(whyNot([&] { directory.join(directory.enter(), {work("DESPACHO")}); }),
-              HasSubstr("la unidad no guarda los bloqueos"));
-  EXPECT_EQ(files(), 0);
+  Vantage mute;
+  mute.seesLock = [](const File&) -> bool {
+    throw std::system_error(EIO, std::generic_category());
+  };
+  for (const auto& [view, why] :
+       {std::pair(blind, "la unidad no guarda los bloqueos"), std::pair(mute, "el disco falla")}) {
+    SharedDirectory directory = at(view);
+    EXPECT_THAT(whyNot([&] { directory.join(directory.enter(), {work("DESPACHO")}); }),
+                HasSubstr(why));
+    EXPECT_EQ(files(), 0);
+  }
 }
 
 TEST_F(Meeting, comingWithAFullDisk_isKnownThoughNotByName) {

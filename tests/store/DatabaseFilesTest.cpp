@@ -15,6 +15,7 @@
 
 #include "store/Engine.h"
 #include "store/Error.h"
+#include "store/ForwardingEngine.h"
 #include "store/Open.h"
 #include "store/schema/Schema.h"
 #include "store/sqlite/NetworkDisk.h"
@@ -68,6 +69,20 @@ class Files : public testing::Test {
   fs::path folder;
   fs::path file;
   std::string message;
+};
+
+/// Lets something happen between a copy and what is done with it.
+class AfterBackup : public ForwardingEngine {
+ public:
+  AfterBackup(std::unique_ptr<Engine> inner, std::function<void()> then)
+      : ForwardingEngine(std::move(inner)), then_(std::move(then)) {}
+  void backup(const fs::path& to) override {
+    ForwardingEngine::backup(to);
+    then_();
+  }
+
+ private:
+  std::function<void()> then_;
 };
 
 constexpr const char* kInsert = "INSERT INTO Cargo (Nombre) VALUES (\"Sacristán\")";
@@ -400,6 +415,27 @@ TEST_F(Files, backupOverADatabaseThatIsOpen_isRefused) {
   other->Execute(kInsert);
   EXPECT_EQ(kindOf([&] { backupDatabase(*connection, folder / "otra"); }), ErrorKind::Busy);
   EXPECT_EQ(count(*other), 1);
+
+  createDatabase(folder / "tercera", parishSchema());
+  std::unique_ptr<Connection> late;
+  connection->wrapEngine([&](std::unique_ptr<Engine> inner) {
+    return std::make_unique<AfterBackup>(
+        std::move(inner), [&] { late = openDatabase(folder / "tercera", parishSchema()); });
+  });
+  EXPECT_EQ(kindOf([&] { backupDatabase(*connection, folder / "tercera"); }), ErrorKind::Busy);
+  late->Execute(kInsert);
+  EXPECT_EQ(count(*openDatabase(folder / "tercera", parishSchema())), 1);
+}
+
+TEST_F(Files, backupOverWhatCannotBeLookedAt_isRefused) {
+  const auto connection = createDatabase(file, parishSchema());
+  const fs::path copy = folder / "copia";
+  createDatabase(copy, parishSchema());
+  fs::create_directory(copy.string() + "-wal");
+  kindOf([&] { backupDatabase(*connection, copy); });
+  EXPECT_NE(message.find("no puede saberse si un programa lo tiene abierto"), std::string::npos)
+      << message;
+  EXPECT_TRUE(fs::exists(copy.string() + "-wal"));
 }
 
 TEST_F(Files, createdAndFilled_standsUnderItsNameOnlyWhenComplete) {
@@ -417,7 +453,11 @@ TEST_F(Files, backup_isACompleteDatabaseAndReplacesOnlyWhenWhole) {
   const fs::path copy = folder / "copia.copia";
   const auto connection = createDatabase(file, parishSchema());
   connection->Execute(kInsert);
+  const fs::path begunAlike = copy.string() + ".partes.txt";
+  std::ofstream(begunAlike) << "de otro";
+  fs::last_write_time(begunAlike, fs::file_time_type::clock::now() - std::chrono::days(2));
   backupDatabase(*connection, copy);
+  EXPECT_TRUE(fs::remove(begunAlike)) << "only drafts are swept";
   connection->Execute(kInsert);
   EXPECT_EQ(count(*openDatabase(copy, parishSchema())), 1);
   backupDatabase(*connection, copy);

@@ -81,6 +81,7 @@ TEST_F(SettingsFile, Damaged_IsKeptAsideReportedOnceAndWhatIsReadableKept) {
        {std::string("\xff\xfe\0\1", 4), std::string("sin igual"), std::string("[sin cierre\n"),
         std::string("clave2=%Z1\n"), std::string("clave2=cortad")}) {
     std::ofstream(file) << good << damage;
+    fs::permissions(file, fs::perms(0644));  // as an earlier version left it
     int reports = 0;
     std::string said;
     FileSettings settings(file, [&](const std::string& message) {
@@ -91,7 +92,7 @@ TEST_F(SettingsFile, Damaged_IsKeptAsideReportedOnceAndWhatIsReadableKept) {
     EXPECT_EQ(settings.read("F", "s", "clave2", "nada"), "nada");
     EXPECT_EQ(reports, 1) << damage;
     EXPECT_THAT(said, ::testing::HasSubstr("ajustes.ini.danado"));
-    EXPECT_TRUE(fs::exists(file.string() + ".danado"));
+    EXPECT_EQ(fs::status(file.string() + ".danado").permissions(), fs::perms(0600));
     EXPECT_EQ(content(), good);
     fs::remove(file.string() + ".danado");
   }
@@ -138,6 +139,11 @@ TEST_F(SettingsFile, CannotBeRead_IsNotOverwritten) {
   EXPECT_EQ(settings.read("F", "s", "k", "x"), "x");
   EXPECT_THROW(settings.write("F", "s", "k", "v"), std::runtime_error);
   EXPECT_TRUE(fs::is_directory(file));
+  fs::remove(file);
+  fs::create_symlink(file, file);  // leads nowhere: not even what it is can be told
+  EXPECT_EQ(settings.read("F", "s", "k", "x"), "x");
+  EXPECT_THROW(settings.write("F", "s", "k", "v"), std::runtime_error);
+  EXPECT_TRUE(fs::is_symlink(file));
 }
 
 TEST_F(SettingsFile, DefaultPlace_FollowsTheConfigurationFolder) {
