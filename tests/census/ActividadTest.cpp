@@ -86,7 +86,7 @@ TEST_F(Actividades, NameThatIsTaken_IsRefusedInItsInstitutionAndForOthersOnly) {
   actividad("Teatro", institucion("Santa Ana"));
   for (const char* suyo : {"Teatro", "CATEQUESIS"})
     editar([&](FormDriver& d) {
-      poner(d, NOMBRE, "coro");
+      poner(d, NOMBRE, "co ro ");
       d.tab("mstActividad", 1);
       rehusa(d, ACEPTAR, "¡Ya existe una actividad en la Institución con este nombre!", NOMBRE);
       poner(d, NOMBRE, suyo);
