@@ -18,6 +18,15 @@ bool pendiente(const cBautismo& item) {
          item.Operacion == cCOperacion::EDITARSOLICITUD;
 }
 
+/// Whether the entry with this key is what a failed storing left: there, and without a child. It
+/// may have been completed or removed since, when a draft brought the key back.
+bool quedoAMedias(Conexion& conexion, std::int32_t clave) {
+  const std::string id = std::to_string(clave);
+  return clave != 0 &&
+         !conexion.Execute("SELECT IDBautismo FROM Bautismo WHERE IDBautismo=" + id).EOF_() &&
+         conexion.Execute("SELECT CodBautismo FROM Bautismo_Hijo WHERE CodBautismo=" + id).EOF_();
+}
+
 std::int32_t claveNueva(Conexion& conexion, const std::string& sql, const std::string& texto) {
   return static_cast<std::int32_t>(conexion.Execute(sql + entreComillas(texto)).integer("ID"));
 }
@@ -58,7 +67,7 @@ void cBaseDatos::insertarPartida(Conexion& conBaseDatos, cBautismo& record) {
 }
 
 bool cBaseDatos::AltaPartidaBautismo(Conexion& conBaseDatos, cBautismo& record) {
-  const bool empezada = record.IDBautismo != 0;
+  const bool empezada = quedoAMedias(conBaseDatos, record.IDBautismo);
   const auto tomarClaves = [&record] {
     record.CodBautismo = record.IDBautismo;
     record.IDPadres = record.CodPadres;
@@ -124,7 +133,9 @@ bool cBaseDatos::guardar(Conexion& conBaseDatos, cBautismo& partida, bool& blnSa
   }
   // It has a key when a former try stored it without its child.
   if (partida.Operacion == cCOperacion::Borrar) {
-    if (!BorrarPartidaBautismo(conBaseDatos, partida.IDBautismo)) return false;
+    if (quedoAMedias(conBaseDatos, partida.IDBautismo) &&
+        !BorrarPartidaBautismo(conBaseDatos, partida.IDBautismo))
+      return false;
     partida.IDBautismo = 0;
     return true;
   }
