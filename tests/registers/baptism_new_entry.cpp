@@ -321,7 +321,7 @@ TEST_F(NewBaptism, BookAndTownAddedFromInside_CanBeChosenAtOnce) {
     w.user.expectForm("frmAltaLibroBautismo", [](FormDriver& alta) {
       alta.click("optAntiguo");
       alta.choose("cboTipoNombre", "Abierto");
-      alta.type("txtNombreLibro", "Libro viejo");
+      alta.type("txtNombreLibro", "Libro viejo ");
       alta.choose("cboFormato", "Una partida por folio");
       alta.type("adtpAltaLibro", "01/01/1900");
       alta.click("cmdBoton(0)");

@@ -98,7 +98,7 @@ TEST_F(BookData, NameThatCannotBeBuilt_FallsBackToAFreeOne) {
 }
 
 TEST_F(BookData, RefusedAcceptance_KeepsEverythingInTheDialog) {
-  book("Otro", false, 1);
+  for (const char* otro : {"Otro", "Libroviejo"}) book(otro, false, 1);
   const std::int32_t antiguo = book("Libro viejo", false, 1);
   openBook(antiguo, [&](FormDriver& d) {
     toEntries(d);

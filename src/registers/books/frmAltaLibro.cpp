@@ -261,7 +261,7 @@ bool frmAltaLibro::GuardarDatos() {
         std::to_string(cboTipoNombre.data()) + ", " + nombre + ", " +
         entreComillas(adtpAltaLibro.stored()) + ", " + (optNuevo.value() ? "1" : "0") +
         ", 0, 1, 1)");
-    strAgregado = txtNombreLibro.text();
+    strAgregado = text::trim(txtNombreLibro.text());
     guardado = true;
   });
   return guardado;

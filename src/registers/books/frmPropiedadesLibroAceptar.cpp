@@ -29,9 +29,11 @@ void frmPropiedadesLibro::aceptar() {
       std::to_string(institucion_) + sentencia(" AND IDLibroBautismo<>") + libro();
   if (hayFilas(sentencia("select * from libro_Bautismo where Nombre=") +
                entreComillas(text::trim(txtNombreLibro.text())) + " and codInstitucion=" + otros) ||
-      hayMismoNombre(*conBaseDatos,
-                     sentencia("select Nombre from libro_Bautismo where codInstitucion=") + otros,
-                     txtNombreLibro.text()))
+      // Two old books may be told apart by blanks alone: what nobody renames stays acceptable.
+      (txtNombreLibro.text() != nombreViejo_ &&
+       hayMismoNombre(*conBaseDatos,
+                      sentencia("select Nombre from libro_Bautismo where codInstitucion=") + otros,
+                      txtNombreLibro.text())))
     return forms::warn(ui(), "¡El nombre del libro introducido ya existe!");
   if (!ValidarDatos()) {
     forms::Control& campo = *campoQueFalta();
