@@ -12,6 +12,7 @@ class IncompleteEntries : public BaptismWorld {
     request.Operacion = cCOperacion::ANADIRSOLICITUD;
     asked = store(request);
     w.con().Execute("DELETE * FROM bautismo_hijo WHERE codbautismo=" + std::to_string(childless));
+    w.con().Execute("INSERT INTO bautismo_hijo (nombre) VALUES (\"Sin partida\")");
     w.con().Execute("DELETE * FROM bautismo_madres WHERE idmadres=" + column(asked, "codmadres"));
   }
   void show(forms::ScriptedUser::Act act) {

@@ -22,7 +22,7 @@ std::string sqlIncompletas(const PartidaPorFichas& clase) {
   for (const FichaDePartida& f : clase.fichas) {
     const std::string enlace = f.enlace;
     condicion += (condicion.empty() ? "" : " OR ") + enlace + " NOT IN (SELECT " + f.clave +
-                 " FROM " + f.tabla + ")";
+                 " FROM " + f.tabla + " WHERE " + f.clave + " IS NOT NULL)";
     if (!esPropia(clase, f)) condicion += " OR " + enlace + " IS NULL";
   }
   return std::string(" FROM ") + clase.sacramento.tablaPartidas + " WHERE (" + condicion + ")";
