@@ -180,8 +180,11 @@ TEST_F(MovedRequests, FailureInTheMiddle_KeepsWhatWasMovedAndOffersTheRest) {
   auto* faults = store::FailingEngine::wrap(w.con());
   w.user.answerAnything(Answer::Ok);
   open([&](FormDriver& d) {
-    faults->failOn("UPDATE Bautismo SET InstitucionSolicitud", store::ErrorKind::Busy, 2);
+    faults->failOn("SELECT IDLibroBautismo, CodFormato", store::ErrorKind::Busy, 2);
     moveAll(d);
+    EXPECT_THAT(inBook(libro), IsEmpty()) << "whether it is open is asked again under the lock";
+    faults->failOn("UPDATE Bautismo SET InstitucionSolicitud", store::ErrorKind::Busy, 2);
+    d.click("cmdBoton(0)");
     EXPECT_THAT(w.user.messages().back().text, HasSubstr("cmdBoton_Click"));
     EXPECT_THAT(inBook(libro), ElementsAre("1/1 Luis"));
     EXPECT_THAT(lines(d, "lstSolicitudes(1)"), ElementsAre("Eva García Pérez", "Ana García Pérez"));

@@ -19,12 +19,17 @@ void frmSolicitudes::aceptar() {
     return forms::warn(ui(), "¡Debe seleccionar una Institución!");
   if (lstSolicitudes[SELECCIONADOS].listCount() == 0)
     return forms::warn(ui(), "¡Debe seleccionar al menos una solicitud!");
-  const Recordset fila = conBaseDatos->Execute(
-      sentencia("SELECT IDLibroBautismo, CodFormato FROM Libro_Bautismo WHERE Nuevo = True AND "
-                "Cerrado=False AND CodInstitucion = ") +
-      institucion());
-  if (fila.EOF_())
-    return forms::warn(ui(), "¡No tiene ningún libro nuevo abierto!", forms::MsgIcon::Information);
+  const auto libroAbierto = [this] {
+    return conBaseDatos->Execute(
+        sentencia("SELECT IDLibroBautismo, CodFormato FROM Libro_Bautismo WHERE Nuevo = True AND "
+                  "Cerrado=False AND CodInstitucion = ") +
+        institucion());
+  };
+  const auto avisarSinLibro = [this] {
+    forms::warn(ui(), "¡No tiene ningún libro nuevo abierto!", forms::MsgIcon::Information);
+  };
+  const Recordset fila = libroAbierto();
+  if (fila.EOF_()) return avisarSinLibro();
   const Sacramento& s = origen_->sacramento;
   const Libro libro{static_cast<std::int32_t>(fila.integer(s.claveLibro)), fila.text("CodFormato")};
   // A list of the book that is open elsewhere has its own idea of the next position, and a request
@@ -32,7 +37,11 @@ void frmSolicitudes::aceptar() {
   SesionBloqueos sesion(contexto_, *conBaseDatos);
   sesion.registroPorClave(s.tablaLibros, s.claveLibro, libro.id);
   sesion.tabla(s.tablaPartidas);
-  if (sesion.efectuar()) moverAlLibro(libro);
+  if (!sesion.efectuar()) return;
+  // Another workstation may have closed it before the lock was had.
+  const Recordset ahora = libroAbierto();
+  if (ahora.EOF_() || ahora.integer(s.claveLibro) != libro.id) return avisarSinLibro();
+  moverAlLibro(libro);
 }
 
 /// What has been moved leaves the list, so that after a failure the rest can be tried again.
