@@ -207,13 +207,16 @@ TEST_F(Encargados, KeeperAdded_IsStoredChosenAndTheTableGivenBack) {
       agregar(u, otra, true);
       EXPECT_EQ(u.text(KEEPER), largo);
     }
+    agregar(u, std::string(118, 'o') + "\"z");
+    EXPECT_EQ(u.text(KEEPER), std::string(118, 'o') + "'z") << "no letter gives way to a quote";
+    u.choose(KEEPER, largo);
     const auto otra = otherSession();
     otra->DefinirBloqueo(compartida());
     EXPECT_EQ(otra->lngEfectuarBloqueos(true), 0);
     u.click(ACEPTAR);
   });
   EXPECT_EQ(salida, largo + "|20261122|1");
-  EXPECT_EQ(count(TABLA), 3);
+  EXPECT_EQ(count(TABLA), 4);
 }
 
 TEST_F(Encargados, QuotesInName_AreNoHindrance) {

@@ -126,8 +126,9 @@ void frmEncargado::agregarEncargado() {
       "Especifique el nombre de la persona encargada del archivo parroquial.\n"
       "Advertencia: Longitud máxima 120 caracteres.",
       "Agregar encargado");
-  const std::string nombre = text::trim(text::left(
-      text::withoutQuotes(text::trim(text::sanitized(tecleado.value_or("")))), MAXIMO_ENCARGADO));
+  const std::string nombre = text::withoutQuotes(
+      text::trim(text::left(text::trim(text::sanitized(tecleado.value_or(""))), MAXIMO_ENCARGADO)),
+      MAXIMO_ENCARGADO);
   if (!nombre.empty())
     procedimiento("cmdAgregarEncargado_Click()", [&] { guardarEncargado(nombre); });
   // The whole table was needed for the moment only; the shared use of the institution goes on.
