@@ -49,7 +49,7 @@ std::string beginning(const std::string& text) {
 class FormWatch::Opened {
  public:
   Opened(std::vector<Open>& stack, const forms::Form& form) : stack_(stack) {
-    stack_.push_back({&form, form.caption()});
+    stack_.push_back({&form, form.caption(), form.saved()});
   }
   ~Opened() { stack_.pop_back(); }
   Opened(const Opened&) = delete;
@@ -75,10 +75,14 @@ void FormWatch::workOn(const std::filesystem::path& database) {
 
 Draft FormWatch::present() const {
   Draft draft{parish_, task_, text::toStored(clock_.today()), clock_.now(), {}};
-  for (const Open& open : open_)
-    if (!open.form->isDisposable() && (!open.form->isUnloaded() || open.form->isAbandoned()))
-      draft.levels.push_back(
-          {open.form->name(), open.caption, open.form->saved(), forms::Contents::of(*open.form)});
+  for (const Open& open : open_) {
+    const forms::Form& form = *open.form;
+    if (form.isDisposable() || (form.isUnloaded() && !form.isAbandoned())) continue;
+    forms::Contents now = forms::Contents::of(form);
+    // A further entry begins with what the one before it has left: that has to be put back too.
+    const forms::Contents& before = now == form.saved() ? form.saved() : open.before;
+    draft.levels.push_back({form.name(), open.caption, before, std::move(now)});
+  }
   return draft;
 }
 
@@ -208,7 +212,7 @@ void FormWatch::resume(forms::Form& form, Found found) {
   waiting_.assign(found.draft.levels.begin() + 1, found.draft.levels.end());
   std::erase_if(waiting_, [](const Draft::Level& level) { return !level.changed(); });
   fill(form, found.draft.levels.front());
-  kept_.clear();
+  kept_.reset();
   keep();
   if (!waiting_.empty())
     behind_.msgBox("También se estaba escribiendo en «" + waiting_.front().caption +

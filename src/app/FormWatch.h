@@ -64,6 +64,7 @@ class FormWatch : public forms::UserInterface {
   struct Open {
     const forms::Form* form;
     std::string caption;
+    forms::Contents before;  // as it was opened, whatever it has stored since
   };
   class Opened;
   struct Found {
@@ -90,7 +91,8 @@ class FormWatch : public forms::UserInterface {
   std::string parish_;
   Task task_;
   std::vector<Open> open_;
-  std::vector<Draft::Level> kept_;     // as the draft on the disk has them
+  // As the draft on the disk has them; nothing when that has to be written anew.
+  std::optional<std::vector<Draft::Level>> kept_{std::in_place};
   std::vector<Draft::Level> waiting_;  // put back when their forms are opened over this one
   std::optional<Found> agreed_;        // the user wants it back
   bool filling_ = false;

@@ -83,6 +83,15 @@ class Drafts : public ParishTest {
     d.choose("cboBautismo(20)", "Hombre");
     d.type("adtpBautismo(0)", "01/02/2026");
   }
+  static void accept(FormDriver& d) {
+    d.tab("mstBautismo", 4);
+    d.type("adtpBautismo(1)", "");  // the wedding is not of today
+    d.click("cmdBautismo(0)");
+  }
+  static void expectAccepted(Program& p, Answer further) {
+    p.user.expectMessage(BLANKS, Answer::Yes);
+    p.user.expectMessage("¿Desea dar de alta nuevas partidas?", further);
+  }
   /// The question is about the title that the form had when it opened.
   static std::string question(const std::string& caption) {
     return "Se ha recuperado lo que se estaba escribiendo el 20/05/2026 a las 10:30 en «" +
@@ -92,12 +101,22 @@ class Drafts : public ParishTest {
   }
 };
 
-TEST_F(Drafts, killed_theEntryIsOfferedAndStandsThereAgain) {
-  killWhile([](Program& p) {
+class DraftsOfAnEntry : public Drafts, public testing::WithParamInterface<bool> {};
+
+INSTANTIATE_TEST_SUITE_P(FirstAndFurther, DraftsOfAnEntry, testing::Bool());
+
+TEST_P(DraftsOfAnEntry, killed_theEntryIsOfferedAndStandsThereAgain) {
+  killWhile([further = GetParam()](Program& p) {
     p.user.expectForm(NEW_ENTRY, [&](FormDriver& d) {
       typeEntry(d);
+      if (further) {
+        d.type("txtBautismo(8)", "Otxoa");
+        accept(d);
+        typeEntry(d);
+      }
       die(p);
     });
+    if (further) expectAccepted(p, Answer::Yes);
     p.give("nueva-partida");
   });
   ASSERT_EQ(left(), 1);
@@ -110,12 +129,9 @@ TEST_F(Drafts, killed_theEntryIsOfferedAndStandsThereAgain) {
     EXPECT_EQ(d.text("cboBautismo(23)"), "2014/01");
     EXPECT_EQ(d.text("adtpBautismo(0)"), "01/02/2026");
     EXPECT_NE(d.text("txtLibro(1)"), "");  // proposed anew
-    d.tab("mstBautismo", 4);
-    d.type("adtpBautismo(1)", "");  // the wedding is not of today
-    d.click("cmdBautismo(0)");
+    accept(d);
   });
-  next->user.expectMessage(BLANKS, Answer::Yes);
-  next->user.expectMessage("¿Desea dar de alta nuevas partidas?", Answer::No);
+  expectAccepted(*next, Answer::No);
   next->window.offerDrafts();
   EXPECT_THAT(next->user.problems(), IsEmpty());
   EXPECT_EQ(left(), 0);
