@@ -4,6 +4,17 @@
 
 namespace fidaleon {
 
+namespace {
+
+/// What is refused can still be looked at, and the message says so. Asked for before each attempt.
+void soloConsultaAlRehusar(FDAPI::cProcesarBloqueos& sesion) {
+  for (const auto error :
+       {FDAPI::BloqueoRegistro, FDAPI::BloqueoRegistroConPadres, FDAPI::BloqueoTabla})
+    sesion.AlRehusar(error, SesionBloqueos::SOLO_CONSULTA);
+}
+
+}  // namespace
+
 SesionBloqueos::~SesionBloqueos() {
   try {
     if (!rehusado_) sesion_->LiberarBloqueos();
@@ -70,9 +81,7 @@ long SesionBloqueos::intentar() {
 }
 
 long SesionBloqueos::intentarParaAbrir(const char* sinLoCompartido) {
-  for (const auto error :
-       {FDAPI::BloqueoRegistro, FDAPI::BloqueoRegistroConPadres, FDAPI::BloqueoTabla})
-    sesion_->AlRehusar(error, SOLO_CONSULTA);
+  soloConsultaAlRehusar(*sesion_);
   sesion_->AlRehusar(FDAPI::BloqueoCompartido, sinLoCompartido);
   return intentar();
 }
@@ -86,6 +95,7 @@ std::string SesionBloqueos::motivo() const {
 forms::ReadOnly SesionBloqueos::aviso() {
   return {motivo(), [this]() -> std::optional<std::string> {
             try {
+              soloConsultaAlRehusar(*sesion_);
               if (efectuar()) return std::nullopt;
             } catch (const std::exception&) {
               // The bar says that it could not be had.
