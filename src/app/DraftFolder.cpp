@@ -10,6 +10,9 @@
 #include <random>
 #include <set>
 #include <system_error>
+#include <utility>
+
+#include "files/Durable.h"
 
 namespace fidaleon::app {
 
@@ -26,26 +29,13 @@ constexpr const char* NEXT = ".nuevo";
   throw std::system_error(errno, std::generic_category());
 }
 
-class Descriptor {
- public:
-  explicit Descriptor(int fd) : fd_(fd) {}
-  ~Descriptor() {
-    if (fd_ >= 0) ::close(fd_);
-  }
-  Descriptor(const Descriptor&) = delete;
-  Descriptor& operator=(const Descriptor&) = delete;
-  int get() const { return fd_; }
-  bool open() const { return fd_ >= 0; }
-
- private:
-  int fd_;
-};
-
-int createPrivate(const fs::path& file) {
+files::Descriptor createAnew(const fs::path& file) {
   ::unlink(file.c_str());
-  const int fd = ::open(file.c_str(), O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0600);
-  if (fd < 0) fail();
-  return fd;
+  return files::create(file);
+}
+
+files::Descriptor openOwn(const fs::path& file, int flags) {
+  return files::Descriptor(::open(file.c_str(), flags | O_RDONLY | O_NOFOLLOW | O_CLOEXEC));
 }
 
 void writeWhole(int fd, const std::string& content) {
@@ -60,13 +50,13 @@ void writeWhole(int fd, const std::string& content) {
 
 /// Empty for what is no file of this account.
 std::string readOwn(const fs::path& file) {
-  const Descriptor in(::open(file.c_str(), O_RDONLY | O_NOFOLLOW | O_CLOEXEC));
+  const files::Descriptor in = openOwn(file, 0);
   struct stat is {};
-  if (!in.open() || ::fstat(in.get(), &is) != 0) return {};
+  if (in.number() < 0 || ::fstat(in.number(), &is) != 0) return {};
   if (!S_ISREG(is.st_mode) || is.st_uid != ::getuid()) return {};
   std::string content;
   char block[16384];
-  for (ssize_t n = 0; (n = ::read(in.get(), block, sizeof block)) > 0;)
+  for (ssize_t n = 0; (n = ::read(in.number(), block, sizeof block)) > 0;)
     content.append(block, static_cast<std::size_t>(n));
   return content;
 }
@@ -83,9 +73,7 @@ std::string newSession() {
 DraftFolder::DraftFolder(fs::path folder) : folder_(std::move(folder)), session_(newSession()) {}
 
 DraftFolder::~DraftFolder() {
-  if (alive_ < 0) return;
-  ::unlink(named(session_, ALIVE).c_str());
-  ::close(alive_);
+  if (alive_.number() >= 0) ::unlink(named(session_, ALIVE).c_str());
 }
 
 fs::path DraftFolder::named(const std::string& session, const char* ending) const {
@@ -94,29 +82,22 @@ fs::path DraftFolder::named(const std::string& session, const char* ending) cons
 
 // The sign of life takes its name when it is held already: nobody sees one that seems dead.
 void DraftFolder::prepare() {
-  if (alive_ >= 0) return;
-  fs::create_directories(folder_.parent_path());
-  if (::mkdir(folder_.c_str(), 0700) != 0 && errno != EEXIST) fail();
-  const Descriptor own(::open(folder_.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
-  if (!own.open() || ::fchmod(own.get(), 0700) != 0) fail();
+  if (alive_.number() >= 0) return;
+  files::makeFolders(folder_);
+  const files::Descriptor own = openOwn(folder_, O_DIRECTORY);
+  if (own.number() < 0 || ::fchmod(own.number(), S_IRWXU) != 0) fail();
   const fs::path next = named(session_, NEXT);
-  const int fd = createPrivate(next);
-  if (::flock(fd, LOCK_EX | LOCK_NB) != 0 ||
-      ::rename(next.c_str(), named(session_, ALIVE).c_str()) != 0) {
-    const int error = errno;
-    ::close(fd);
-    errno = error;
+  files::Descriptor sign = createAnew(next);
+  if (::flock(sign.number(), LOCK_EX | LOCK_NB) != 0 ||
+      ::rename(next.c_str(), named(session_, ALIVE).c_str()) != 0)
     fail();
-  }
-  alive_ = fd;
+  alive_ = std::move(sign);
 }
 
 void DraftFolder::write(const std::string& content, const std::string& session) const {
   const fs::path next = named(session, NEXT);
-  writeWhole(Descriptor(createPrivate(next)).get(), content);
-  if (::rename(next.c_str(), named(session, DRAFT).c_str()) != 0) fail();
-  const Descriptor folder(::open(folder_.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-  if (!folder.open() || ::fsync(folder.get()) != 0) fail();
+  writeWhole(createAnew(next).number(), content);
+  files::moveTo(next, named(session, DRAFT));
 }
 
 void DraftFolder::keep(const std::string& content) {
@@ -136,9 +117,9 @@ void DraftFolder::drop() {
 }
 
 bool DraftFolder::hasEnded(const std::string& session) const {
-  const Descriptor sign(::open(named(session, ALIVE).c_str(), O_RDONLY | O_NOFOLLOW | O_CLOEXEC));
-  if (!sign.open()) return errno == ENOENT;
-  return ::flock(sign.get(), LOCK_SH | LOCK_NB) == 0;
+  const files::Descriptor sign = openOwn(named(session, ALIVE), 0);
+  if (sign.number() < 0) return errno == ENOENT;
+  return ::flock(sign.number(), LOCK_SH | LOCK_NB) == 0;
 }
 
 std::vector<DraftFolder::Left> DraftFolder::left() const {

@@ -4,6 +4,8 @@
 #include <string>
 #include <vector>
 
+#include "files/PrivateFile.h"
+
 namespace fidaleon::app {
 
 /// The folder in which the programs of one account keep what is being typed, one file for each
@@ -42,7 +44,7 @@ class DraftFolder {
 
   std::filesystem::path folder_;
   std::string session_;
-  int alive_ = -1;  // holds the sign of life
+  files::Descriptor alive_;  // holds the sign of life
 };
 
 /// "fidaleon/borradores" where the account keeps the state of its programs ($XDG_STATE_HOME or
