@@ -1,6 +1,6 @@
 #include "documents/CensoStatements.h"
 
-#include "core/contract/EnSacramento.h"
+#include "core/contract/Citas.h"
 
 namespace fidaleon::documents {
 

@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "core/contract/EnSacramento.h"
+#include "core/contract/Citas.h"
 #include "core/contract/Guard.h"
 #include "text/Utf8.h"
 

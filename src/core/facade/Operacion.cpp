@@ -1,5 +1,7 @@
 #include "core/facade/Operacion.h"
 
+#include "core/contract/Sentencia.h"
+
 namespace fidaleon {
 
 bool mostrarPartida(Contexto& contexto, DialogoPartida& dialogo, FDAPI::Conexion& conBaseDatos,
@@ -15,8 +17,8 @@ bool mostrarPartida(Contexto& contexto, DialogoPartida& dialogo, FDAPI::Conexion
 }
 
 std::string existePartida(const Sacramento& sacramento, std::int32_t id) {
-  return std::string("SELECT ") + sacramento.clavePartida + " FROM " + sacramento.tablaPartidas +
-         " WHERE " + sacramento.clavePartida + "=" + std::to_string(id);
+  return sentencia(sacramento, "SELECT {IDPartida} FROM {Partidas} WHERE {IDPartida}=") +
+         std::to_string(id);
 }
 
 }  // namespace fidaleon

@@ -2,7 +2,7 @@
 
 #include "census/setup/frmDatosSetup.h"
 #include "census/setup/frmEncargado.h"
-#include "core/contract/EnSacramento.h"
+#include "core/contract/Citas.h"
 #include "core/facade/Operacion.h"
 
 namespace fidaleon {

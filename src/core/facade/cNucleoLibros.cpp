@@ -1,3 +1,4 @@
+#include "core/contract/Sentencia.h"
 #include "core/facade/Operacion.h"
 #include "core/facade/cNucleo.h"
 #include "registers/books/OperacionesLibro.h"
@@ -16,10 +17,10 @@ struct AperturaDeLibro {
 
 /// Name and name type rest on what others may hold; all else on the book's own record alone.
 AperturaDeLibro bloquearLibro(SesionBloqueos& sesion, const Sacramento& s, std::int32_t lngLibro) {
-  const std::string delLibro = std::string(" FROM ") + s.tablaLibros + " WHERE " + s.claveLibro +
-                               "=" + std::to_string(lngLibro);
+  const std::string delLibro =
+      sentencia(s, " FROM {Libros} WHERE {IDLibro}=") + std::to_string(lngLibro);
   const auto definirLibro = [&] {
-    sesion.registro(s.tablaLibros, lngLibro, std::string("SELECT ") + s.claveLibro + delLibro);
+    sesion.registro(s.tablaLibros, lngLibro, sentencia(s, "SELECT {IDLibro}") + delLibro);
   };
   sesion.tablasCompartidas({"Libros_TipoNombre"});
   sesion.registrosCompartidos("Libros_Formato", "SELECT CodFormato" + delLibro);

@@ -1,3 +1,4 @@
+#include "core/contract/Sentencia.h"
 #include "core/facade/Operacion.h"
 #include "core/facade/cNucleo.h"
 #include "registers/baptism/EliminarPartida.h"
@@ -32,8 +33,7 @@ void cNucleo::altaPartida(FDAPI::Conexion& conBaseDatos, const FDAPI::cConfig& o
   if (!crear) return;
   SesionBloqueos sesion(contexto_, conBaseDatos);
   sesion.tablasCompartidas({"Institucion", "Provincia", "Municipio"});
-  sesion.registros(s->tablaLibros, std::string("SELECT ") + s->claveLibro + " FROM " +
-                                       s->tablaLibros + " WHERE " + cuales);
+  sesion.registros(s->tablaLibros, sentencia(*s, "SELECT {IDLibro} FROM {Libros} WHERE ") + cuales);
   sesion.tabla(s->tablaPartidas);
   if (!sesion.efectuar()) return;
   contexto_.gobjConfig = &objConfig;
@@ -47,13 +47,13 @@ void cNucleo::PropiedadesPartida(FDAPI::Conexion& conBaseDatos, std::int32_t lng
     const Sacramento* s = sacramentoDeNodo(strNodo, "Partidas");
     const CrearDialogoPartida crear = dialogoDePartida(s);
     if (!crear) return;
-    const std::string libro = std::string("SELECT CodLibro FROM ") + s->tablaPartidas + " WHERE " +
-                              s->clavePartida + "=" + std::to_string(lngID);
+    const std::string libro =
+        sentencia(*s, "SELECT CodLibro FROM {Partidas} WHERE {IDPartida}=") + std::to_string(lngID);
     SesionBloqueos sesion(contexto_, conBaseDatos);
     sesion.tablasCompartidas({"Provincia", "Municipio"});
-    sesion.registrosCompartidos("Institucion", std::string("SELECT CodInstitucion FROM ") +
-                                                   s->tablaLibros + " WHERE " + s->claveLibro +
-                                                   " IN (" + libro + ")");
+    sesion.registrosCompartidos(
+        "Institucion",
+        sentencia(*s, "SELECT CodInstitucion FROM {Libros} WHERE {IDLibro} IN (") + libro + ")");
     sesion.registrosCompartidos(s->tablaLibros, libro);
     sesion.registro(s->tablaPartidas, lngID, existePartida(*s, lngID));
     sesion.mostrar(sesion.efectuarParaAbrir(), [&](const auto& aviso) {

@@ -3,7 +3,7 @@
 #include <optional>
 #include <string>
 
-#include "core/contract/EnSacramento.h"
+#include "core/contract/Sentencia.h"
 #include "registers/allocation/FormatoLibro.h"
 #include "registers/allocation/Posicion.h"
 #include "text/Numbers.h"
@@ -25,14 +25,13 @@ class Recalculo {
       : conexion_(conexion), sacramento_(sacramento), libro_(std::to_string(libro)) {}
 
   std::int64_t formato() {
-    return ejecutar("SELECT codformato FROM Libro_Bautismo WHERE idlibrobautismo=")
-        .integer("codformato");
+    return ejecutar("SELECT codformato FROM {Libros} WHERE {idlibro}=").integer("codformato");
   }
 
   /// The first folio with room, or the one behind the last: for 2 and 4 entries per folio.
   std::optional<Posicion> porGrupos(int p) {
-    Recordset grupo =
-        ejecutar(p == 4 ? GRUPOS_DE_CUATRO : GRUPOS_DE_DOS, " GROUP BY bautismo.folio");
+    Recordset grupo = ejecutar(p == 4 ? GRUPOS_DE_CUATRO : GRUPOS_DE_DOS,
+                               sentencia(sacramento_, " GROUP BY {partidas}.folio"));
     if (grupo.EOF_()) return std::nullopt;
     std::int64_t k = 1;
     std::string anterior = "0";
@@ -47,7 +46,7 @@ class Recalculo {
   /// Behind the last folio of the unbroken run that the book begins with: for one entry per folio.
   std::optional<Posicion> porFilas() {
     Recordset fila =
-        ejecutar("SELECT * FROM bautismo WHERE codlibro=", " ORDER BY Folio, Val(Numero)");
+        ejecutar("SELECT * FROM {partidas} WHERE codlibro=", " ORDER BY Folio, Val(Numero)");
     if (fila.EOF_()) return std::nullopt;
     std::int64_t k = fila.integer("folio");
     std::string ultimo = fila.text("numero");
@@ -60,16 +59,15 @@ class Recalculo {
 
   bool saltaPorGrupos(const Posicion& siguiente, int p) {
     const std::int64_t folio =
-        ejecutar("SELECT * FROM libro_bautismo WHERE idlibrobautismo=").integer("FolioSiguiente");
+        ejecutar("SELECT * FROM {libros} WHERE {idlibro}=").integer("FolioSiguiente");
     const bool lleno =
-        ejecutar("SELECT * FROM bautismo WHERE codlibro=", " AND folio=" + std::to_string(folio))
+        ejecutar("SELECT * FROM {partidas} WHERE codlibro=", " AND folio=" + std::to_string(folio))
             .RecordCount() == p;
     return siguiente.folio != (lleno ? folio + 1 : folio);
   }
 
   bool saltaPorFilas(const Posicion& siguiente) {
-    return ejecutar(
-               "SELECT foliosiguiente,numerosiguiente FROM libro_bautismo WHERE idlibrobautismo=")
+    return ejecutar("SELECT foliosiguiente,numerosiguiente FROM {libros} WHERE {idlibro}=")
                    .integer("foliosiguiente") +
                1 <
            siguiente.folio;
@@ -77,23 +75,24 @@ class Recalculo {
 
   void guardar(const Posicion& siguiente) {
     if (!text::isNumeric(siguiente.numero)) return;
-    conexion_.Execute(enSacramento(sacramento_, "UPDATE Libro_Bautismo SET foliosiguiente=") +
+    conexion_.Execute(sentencia(sacramento_, "UPDATE {Libros} SET foliosiguiente=") +
                       std::to_string(siguiente.folio) +
                       ",numerosiguiente=" + entreComillas(siguiente.numero) +
-                      enSacramento(sacramento_, " WHERE idlibrobautismo=") + libro_);
+                      sentencia(sacramento_, " WHERE {idlibro}=") + libro_);
   }
 
  private:
-  static constexpr const char* GRUPOS_DE_CUATRO =
-      "SELECT bautismo.folio, COUNT(bautismo.folio) AS totalpartidas, MAX(bautismo.numero) AS "
-      "numeromayor,MIN(bautismo.numero) AS numeromenor FROM bautismo WHERE codlibro=";
-  static constexpr const char* GRUPOS_DE_DOS =
-      "SELECT bautismo.folio, COUNT(bautismo.folio) AS totalpartidas, MAX(bautismo.numero) AS "
-      "numeromayor FROM bautismo WHERE codlibro=";
+  static constexpr PlantillaSql GRUPOS_DE_CUATRO =
+      "SELECT {partidas}.folio, COUNT({partidas}.folio) AS totalpartidas, MAX({partidas}.numero) "
+      "AS "
+      "numeromayor,MIN({partidas}.numero) AS numeromenor FROM {partidas} WHERE codlibro=";
+  static constexpr PlantillaSql GRUPOS_DE_DOS =
+      "SELECT {partidas}.folio, COUNT({partidas}.folio) AS totalpartidas, MAX({partidas}.numero) "
+      "AS "
+      "numeromayor FROM {partidas} WHERE codlibro=";
 
-  Recordset ejecutar(const char* antes, const std::string& despues = {}) {
-    return conexion_.Execute(enSacramento(sacramento_, antes) + libro_ +
-                             enSacramento(sacramento_, despues));
+  Recordset ejecutar(const PlantillaSql& antes, const std::string& despues = {}) {
+    return conexion_.Execute(sentencia(sacramento_, antes) + libro_ + despues);
   }
 
   static Posicion en(std::int64_t folio, std::int64_t numero) {
@@ -110,7 +109,7 @@ class Recalculo {
   bool hay(std::int64_t numero, std::int64_t folio) {
     return !conexion_
                 .Execute(
-                    enSacramento(sacramento_, "SELECT idbautismo FROM bautismo WHERE numero=") +
+                    sentencia(sacramento_, "SELECT {idpartida} FROM {partidas} WHERE numero=") +
                     entreComillas(std::to_string(numero)) + " AND folio=" + std::to_string(folio) +
                     " AND codlibro=" + libro_)
                 .EOF_();

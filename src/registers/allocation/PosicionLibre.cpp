@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "core/contract/EnSacramento.h"
+#include "core/contract/Sentencia.h"
 #include "registers/allocation/FormatoLibro.h"
 #include "text/Numbers.h"
 
@@ -23,9 +23,9 @@ class Subida {
 
   PosicionLibre contadores() {
     const Recordset libro = conexion_.Execute(
-        enSacramento(sacramento_,
-                     "SELECT FolioSiguiente,NumeroSiguiente,IDLibrobautismo,CodFormato FROM "
-                     "Libro_Bautismo WHERE Nombre=") +
+        sentencia(sacramento_,
+                  "SELECT FolioSiguiente,NumeroSiguiente,IDLibro{palabra},CodFormato FROM "
+                  "{Libros} WHERE Nombre=") +
         entreComillas(nombre_) + " AND CodInstitucion=" + institucion_);
     formato_ = libro.integer("CodFormato");
     libro_ = std::to_string(libro.integer(sacramento_.claveLibro));
@@ -37,7 +37,7 @@ class Subida {
   bool ocupada(const Posicion& p) {
     return !conexion_
                 .Execute(
-                    enSacramento(sacramento_, "SELECT folio,numero FROM Bautismo WHERE folio=") +
+                    sentencia(sacramento_, "SELECT folio,numero FROM {Partidas} WHERE folio=") +
                     std::to_string(p.folio) + " AND numero=" + entreComillas(p.numero) +
                     " AND codlibro=" + libro_)
                 .EOF_();
@@ -51,9 +51,9 @@ class Subida {
   }
 
   void guardar(const Posicion& p) {
-    conexion_.Execute(enSacramento(sacramento_, "UPDATE Libro_Bautismo SET FolioSiguiente=") +
+    conexion_.Execute(sentencia(sacramento_, "UPDATE {Libros} SET FolioSiguiente=") +
                       std::to_string(p.folio) + ",NumeroSiguiente=" + entreComillas(p.numero) +
-                      enSacramento(sacramento_, " WHERE IDLibroBautismo=") + libro_);
+                      sentencia(sacramento_, " WHERE {IDLibro}=") + libro_);
   }
 
  private:
@@ -63,7 +63,7 @@ class Subida {
 
   Posicion trasElFolio(const Posicion& p, int porFolio) {
     Recordset fila = conexion_.Execute(
-        enSacramento(sacramento_, "SELECT IDBautismo,Numero FROM Bautismo WHERE Folio=") +
+        sentencia(sacramento_, "SELECT {IDPartida},Numero FROM {Partidas} WHERE Folio=") +
         std::to_string(p.folio) + " AND CodLibro=" + libro_ + " ORDER BY Val(Numero)");
     const std::int32_t folio = fila.RecordCount() == porFolio ? p.folio + 1 : p.folio;
     std::int64_t mayor = 0;

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 
-#include "core/contract/EnSacramento.h"
+#include "core/contract/Sentencia.h"
 #include "forms/Form.h"
 #include "registers/allocation/FormatoLibro.h"
 #include "registers/allocation/LimiteFolios.h"
@@ -38,7 +38,7 @@ void PosicionPartida::RellenarFolioyNumero() {
   limiteSuperado_ = false;
   const Libro libro = libroNuevoElegido();
   Recordset fila = conexion_->Execute(
-      enSacramento(sacramento_, "SELECT folio,numero FROM bautismo WHERE codlibro=") +
+      sentencia(sacramento_, "SELECT folio,numero FROM {partidas} WHERE codlibro=") +
       std::to_string(libro.id) + " ORDER BY Folio, Val(Numero)");
   if (fila.EOF_()) {
     ponerFolio(1);
@@ -60,7 +60,7 @@ void PosicionPartida::seguirA(const Libro& libro, std::int64_t folio, const std:
 
 std::int64_t PosicionPartida::cuentaDelFolio(const Libro& libro, std::int64_t folio) {
   return conexion_
-      ->Execute(enSacramento(sacramento_, "SELECT IDBautismo,numero FROM bautismo WHERE folio=") +
+      ->Execute(sentencia(sacramento_, "SELECT {IDPartida},numero FROM {partidas} WHERE folio=") +
                 std::to_string(folio) + " AND codlibro=" + std::to_string(libro.id) +
                 " ORDER BY Val(Numero)")
       .RecordCount();
@@ -86,8 +86,7 @@ void PosicionPartida::CalcularColeccionFolioyNumero(std::int32_t libro) {
     return;
   }
   const Recordset fila = conexion_->Execute(
-      enSacramento(sacramento_,
-                   "SELECT CodFormato, Nuevo FROM Libro_Bautismo WHERE IDLibroBautismo = ") +
+      sentencia(sacramento_, "SELECT CodFormato, Nuevo FROM {Libros} WHERE {IDLibro} = ") +
       std::to_string(libro));
   const bool soloAdelante =
       fila.flag("Nuevo") && !contexto_.edicion(FDAPI::cCAplicacion::APP_FIDALEON_MENORCA);
@@ -120,14 +119,14 @@ std::int64_t PosicionPartida::partidasDelFolio(const Libro& libro, std::int64_t 
     return std::ranges::count(campos_.coleccion(), folio,
                               [](const Posicion& p) { return std::int64_t{p.folio}; });
   return conexion_
-      ->Execute(enSacramento(sacramento_, "SELECT folio FROM Bautismo WHERE folio=") +
+      ->Execute(sentencia(sacramento_, "SELECT folio FROM {Partidas} WHERE folio=") +
                 std::to_string(folio) + " AND codlibro=" + std::to_string(libro.id))
       .RecordCount();
 }
 
 bool PosicionPartida::ofrecerLetra(const Libro& libro) {
   Recordset fila = conexion_->Execute(
-      enSacramento(sacramento_, "SELECT numero FROM Bautismo WHERE folio=") + campos_.folio.text() +
+      sentencia(sacramento_, "SELECT numero FROM {Partidas} WHERE folio=") + campos_.folio.text() +
       " AND numero=" + entreComillas(campos_.numero.text()) +
       " AND codlibro=" + std::to_string(libro.id));
   const std::string nuevo =
@@ -145,7 +144,7 @@ bool PosicionPartida::ocupado(const Libro& libro, const std::string& numero) con
       return p.folio == enCampos().folio && text::equalsNoCase(p.numero, numero);
     });
   return !conexion_
-              ->Execute(enSacramento(sacramento_, "SELECT IDBautismo FROM Bautismo WHERE folio=") +
+              ->Execute(sentencia(sacramento_, "SELECT {IDPartida} FROM {Partidas} WHERE folio=") +
                         campos_.folio.text() + " AND numero=" + entreComillas(numero) +
                         " AND codlibro=" + std::to_string(libro.id))
               .EOF_();
@@ -181,9 +180,9 @@ std::set<std::int64_t> PosicionPartida::foliosCon(const std::string& numero,
     return folios;
   }
   Recordset fila = conexion_->Execute(
-      enSacramento(sacramento_, "SELECT Folio FROM Bautismo WHERE CodLibro=") +
+      sentencia(sacramento_, "SELECT Folio FROM {Partidas} WHERE CodLibro=") +
       std::to_string(campos_.libro.data()) + " AND Numero=" + entreComillas(numero) +
-      enSacramento(sacramento_, " AND IDBautismo<>") + std::to_string(propia));
+      sentencia(sacramento_, " AND {IDPartida}<>") + std::to_string(propia));
   for (; !fila.EOF_(); fila.MoveNext()) folios.insert(fila.integer("Folio"));
   return folios;
 }
@@ -214,17 +213,16 @@ std::int64_t PosicionPartida::institucionElegida() const {
 PosicionPartida::Libro PosicionPartida::libroNuevoElegido() const {
   const std::int64_t institucion = institucionElegida();
   return leerLibro(conexion_->Execute(
-      enSacramento(sacramento_,
-                   "SELECT idlibrobautismo,codformato FROM libro_bautismo WHERE codinstitucion=") +
+      sentencia(sacramento_, "SELECT {idlibro},codformato FROM {libros} WHERE codinstitucion=") +
       std::to_string(institucion) + " AND nombre=" + entreComillas(campos_.libro.text())));
 }
 
 PosicionPartida::Libro PosicionPartida::libroAntiguoElegido() const {
   const std::int64_t institucion = institucionElegida();
   return leerLibro(conexion_->Execute(
-      enSacramento(sacramento_,
-                   "SELECT foliosiguiente,numerosiguiente,idlibrobautismo,codformato FROM "
-                   "Libro_Bautismo WHERE nombre=") +
+      sentencia(sacramento_,
+                "SELECT foliosiguiente,numerosiguiente,{idlibro},codformato FROM "
+                "{Libros} WHERE nombre=") +
       entreComillas(campos_.libro.text()) + " AND codinstitucion=" + std::to_string(institucion)));
 }
 

@@ -1,8 +1,8 @@
 #include "registers/baptism/EliminarPartida.h"
 
-#include "core/contract/EnSacramento.h"
 #include "core/contract/Guard.h"
 #include "core/contract/NombreYApellidos.h"
+#include "core/contract/Sentencia.h"
 #include "core/contract/SesionBloqueos.h"
 #include "registers/baptism/FilasBautismo.h"
 
@@ -21,7 +21,7 @@ std::string motivoParaNoEliminar(Conexion& conexion, std::int32_t lngID,
   if (libro.flag("Cerrado"))
     return "El libro está cerrado: de un libro cerrado no se elimina ninguna partida.";
   store::Recordset partidas = conexion.Execute(
-      enSacramento(sacramento, "SELECT IDBautismo FROM Bautismo WHERE CodLibro = ") + codLibro +
+      sentencia(sacramento, "SELECT {IDPartida} FROM {Partidas} WHERE CodLibro = ") + codLibro +
       " ORDER BY Folio, Val(Numero)");
   if (!partidas.EOF_()) partidas.MoveLast();
   if (!partidas.EOF_() && partidas.integer(sacramento.clavePartida) == lngID) return {};
@@ -32,13 +32,12 @@ std::string motivoParaNoEliminar(Conexion& conexion, std::int32_t lngID,
 bool sePuedeEliminar(Contexto& contexto, Conexion& conBaseDatos, std::int32_t lngID,
                      const Sacramento& sacramento) {
   const store::Recordset partida = conBaseDatos.Execute(
-      enSacramento(sacramento, "SELECT codlibro FROM bautismo WHERE idbautismo=") +
+      sentencia(sacramento, "SELECT codlibro FROM {partidas} WHERE {idpartida}=") +
       std::to_string(lngID));
   if (partida.EOF_()) return false;
   const std::string codLibro = partida.text("codlibro");
   const store::Recordset libro = conBaseDatos.Execute(
-      enSacramento(sacramento, "SELECT Nuevo, Cerrado FROM Libro_Bautismo WHERE idlibrobautismo=") +
-      codLibro);
+      sentencia(sacramento, "SELECT Nuevo, Cerrado FROM {Libros} WHERE {idlibro}=") + codLibro);
   if (libro.EOF_()) return false;
   if (!libro.flag("Nuevo")) return true;
   const std::string motivo = motivoParaNoEliminar(conBaseDatos, lngID, sacramento, codLibro, libro);

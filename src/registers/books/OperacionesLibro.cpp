@@ -3,8 +3,8 @@
 #include <array>
 #include <string>
 
-#include "core/contract/EnSacramento.h"
 #include "core/contract/Guard.h"
+#include "core/contract/Sentencia.h"
 #include "core/contract/SesionBloqueos.h"
 
 namespace fidaleon {
@@ -37,7 +37,7 @@ class OperacionLibro {
     if (!bloquear()) return;
     // Another workstation may have closed it while the question stood.
     if (const char* motivo = motivoParaNoCerrar()) return forms::warn(contexto_.ui(), motivo);
-    ejecutar("UPDATE libro_bautismo SET cerrado=true WHERE idlibrobautismo=");
+    ejecutar("UPDATE {libros} SET cerrado=true WHERE {idlibro}=");
   }
 
   void eliminar() {
@@ -48,16 +48,16 @@ class OperacionLibro {
     if (!bloquear()) return;
     // Another workstation may have entered one while the question stood.
     if (tienePartidas()) return avisarPartidas();
-    ejecutar("DELETE * FROM libro_bautismo WHERE idlibrobautismo=");
+    ejecutar("DELETE * FROM {libros} WHERE {idlibro}=");
   }
 
  private:
-  store::Recordset ejecutar(const char* enBautismo) {
-    return conexion_.Execute(enSacramento(s_, enBautismo) + id_);
+  store::Recordset ejecutar(const PlantillaSql& plantilla) {
+    return conexion_.Execute(sentencia(s_, plantilla) + id_);
   }
 
   const char* motivoParaNoCerrar() {
-    const store::Recordset libro = ejecutar("SELECT * FROM libro_bautismo WHERE idlibrobautismo=");
+    const store::Recordset libro = ejecutar("SELECT * FROM {libros} WHERE {idlibro}=");
     if (libro.EOF_()) return nullptr;  // the lock session tells that the book is gone
     if (!libro.flag("nuevo")) return "¡No se puede cerrar un libro antiguo!";
     if (libro.flag("cerrado")) return "¡No se puede cerrar un libro que ya está cerrado!";
@@ -65,14 +65,14 @@ class OperacionLibro {
   }
 
   std::string nombre() {
-    const store::Recordset libro = ejecutar("SELECT * FROM libro_bautismo WHERE idlibrobautismo=");
+    const store::Recordset libro = ejecutar("SELECT * FROM {libros} WHERE {idlibro}=");
     return libro.EOF_() ? std::string() : libro.text("Nombre");
   }
 
-  bool tienePartidas() { return !ejecutar("SELECT * FROM bautismo WHERE codlibro=").EOF_(); }
+  bool tienePartidas() { return !ejecutar("SELECT * FROM {partidas} WHERE codlibro=").EOF_(); }
 
   void avisarPartidas() {
-    const auto cuantas = ejecutar("SELECT * FROM bautismo WHERE codlibro=").RecordCount();
+    const auto cuantas = ejecutar("SELECT * FROM {partidas} WHERE codlibro=").RecordCount();
     forms::warn(
         contexto_.ui(), "¡Este libro no se puede eliminar, tiene partidas asociadas!",
         forms::MsgIcon::Exclamation,

@@ -2,9 +2,9 @@
 
 #include <array>
 
-#include "core/contract/EnSacramento.h"
 #include "core/contract/Guard.h"
 #include "core/contract/NombreRepetido.h"
+#include "core/contract/Sentencia.h"
 #include "core/lists/cIListas.h"
 #include "registers/common/NuevaInstitucion.h"
 #include "text/Utf8.h"
@@ -14,8 +14,6 @@ namespace fidaleon {
 using FDAPI::cCRegistry;
 struct VarianteAltaLibro {
   const char* titulo;
-  /// Book table as the statements spell it; null: as they stand.
-  const char* tabla;
   const char* tras;  // between "Institución" and the name of the institution
   const char* errorDeCarga;
   const char* errorDeBoton;
@@ -24,11 +22,10 @@ struct VarianteAltaLibro {
 namespace {
 
 constexpr std::array<VarianteAltaLibro, 4> VARIANTES{{
-    {"Agregar libro de bautismo", nullptr, "", "Form_Load()", "cmdBoton_Click()"},
-    {"Agregar libro de confirmación", "Libro_Confirmacion", "", "From_Load()", "cmdBoton_Click()"},
-    {"Agregar libro de matrimonio", "libro_Matrimonio", "", "From_Load()",
-     "cmdBoton_Click(Index As Integer)"},
-    {"Agregar libro de defunción", "libro_Defuncion", " ", "Form_Load()", "cmdBoton_Click()"},
+    {"Agregar libro de bautismo", "", "Form_Load()", "cmdBoton_Click()"},
+    {"Agregar libro de confirmación", "", "From_Load()", "cmdBoton_Click()"},
+    {"Agregar libro de matrimonio", "", "From_Load()", "cmdBoton_Click(Index As Integer)"},
+    {"Agregar libro de defunción", " ", "Form_Load()", "cmdBoton_Click()"},
 }};
 
 constexpr std::int64_t NOMBRE_ABIERTO = 4;  // of Libros_TipoNombre: typed freely
@@ -139,7 +136,7 @@ void frmAltaLibro::cmdAgregarInstitucion_Click() {
 
 void frmAltaLibro::optNuevo_Click() {
   procedimiento("optNuevo_Click()", [&] {
-    if (hayFilas(sentencia("Select * from Libro_Bautismo where codinstitucion=") + institucion() +
+    if (hayFilas(sentencia("Select * from {Libros} where codinstitucion=") + institucion() +
                  " and nuevo=1")) {
       rechazar(std::string("¡Ya existe un libro abierto para la Institución") + variante_.tras +
                cboInstituciones.text() + "!");
@@ -189,7 +186,7 @@ void frmAltaLibro::cmdBoton_Click(Boton boton) {
 }
 
 void frmAltaLibro::aceptar() {
-  if (hayFilas(sentencia("select * from libro_bautismo where Cerrado=0 and Nuevo=1")) &&
+  if (hayFilas(sentencia("select * from {libros} where Cerrado=0 and Nuevo=1")) &&
       optNuevo.value()) {
     rechazar("¡No puede haber dos libros nuevos y abiertos a la vez!");
     return;
@@ -238,24 +235,24 @@ bool frmAltaLibro::GuardarDatos() {
   bool guardado = false;
   procedimiento("GuardarDatos()", [&] {
     const std::string nombre = entreComillas(text::trim(txtNombreLibro.text()));
-    if (hayFilas(sentencia("Select * from libro_bautismo where codinstitucion=") + institucion() +
+    if (hayFilas(sentencia("Select * from {libros} where codinstitucion=") + institucion() +
                  " and nuevo=true and cerrado=false") &&
         optNuevo.value()) {
       rechazar("¡Para la Institución " + cboInstituciones.text() +
                " ya existe un libro nuevo abierto!");
       return;
     }
-    if (hayFilas(sentencia("Select * from libro_bautismo where Nombre =") + nombre +
+    if (hayFilas(sentencia("Select * from {libros} where Nombre =") + nombre +
                  " and codinstitucion=" + institucion()) ||
         hayMismoNombre(
             *conBaseDatos,
-            sentencia("Select Nombre from libro_bautismo where codinstitucion=") + institucion(),
+            sentencia("Select Nombre from {libros} where codinstitucion=") + institucion(),
             txtNombreLibro.text())) {
       rechazar("¡El nombre del libro introducido ya existe!");
       return;
     }
     conBaseDatos->Execute(
-        sentencia("INSERT into Libro_Bautismo (codinstitucion, codFormato, codTipoNombre, nombre, "
+        sentencia("INSERT into {Libros} (codinstitucion, codFormato, codTipoNombre, nombre, "
                   "fechacreacion, Nuevo, Cerrado, NumeroSiguiente, FolioSiguiente) values (") +
         institucion() + ", " + std::to_string(cboFormato.data()) + ", " +
         std::to_string(cboTipoNombre.data()) + ", " + nombre + ", " +
@@ -279,10 +276,8 @@ std::string frmAltaLibro::institucion() const {
   return std::to_string(cboInstituciones.data());
 }
 
-std::string frmAltaLibro::sentencia(const char* enBautismo) const {
-  if (!variante_.tabla) return enBautismo;
-  std::string sql = text::replaceAll(enBautismo, "Libro_Bautismo", variante_.tabla);
-  return text::replaceAll(sql, "libro_bautismo", variante_.tabla);
+std::string frmAltaLibro::sentencia(const PlantillaSql& plantilla) const {
+  return fidaleon::sentencia(sacramento_, plantilla);
 }
 
 std::unique_ptr<frmAltaLibro> crearAltaLibro(Contexto& contexto, const Sacramento& sacramento) {

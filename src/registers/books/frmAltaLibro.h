@@ -7,6 +7,7 @@
 
 #include "core/contract/Dialogo.h"
 #include "core/contract/Sacramento.h"
+#include "core/contract/Sentencia.h"
 #include "core/lists/Elecciones.h"
 
 namespace fidaleon {
@@ -59,8 +60,7 @@ class frmAltaLibro : public Dialogo {
   void rechazar(const std::string& mensaje);
   bool hayFilas(const std::string& sql);
   std::string institucion() const;
-  /// The statement, written for baptism, with the book table as this dialog spells it.
-  std::string sentencia(const char* enBautismo) const;
+  std::string sentencia(const PlantillaSql& plantilla) const;
 
   const Sacramento& sacramento_;
   const VarianteAltaLibro& variante_;

@@ -5,7 +5,7 @@
 #include <array>
 #include <stdexcept>
 
-#include "core/contract/EnSacramento.h"
+#include "core/contract/Sentencia.h"
 #include "registers/books/VariantePropiedadesLibro.h"
 
 namespace fidaleon {
@@ -81,8 +81,8 @@ void frmPropiedadesLibro::prepararControles() {
     boton->onClick = [this, indice = indice] { cmdBoton_Click(Boton(indice)); };
 }
 
-std::string frmPropiedadesLibro::sentencia(const char* enBautismo) const {
-  return enSacramento(sacramento_, enBautismo);
+std::string frmPropiedadesLibro::sentencia(const PlantillaSql& plantilla) const {
+  return fidaleon::sentencia(sacramento_, plantilla);
 }
 
 bool frmPropiedadesLibro::hayFilas(const std::string& sql) {
@@ -99,8 +99,8 @@ void frmPropiedadesLibro::Form_Load() {
 
 void frmPropiedadesLibro::cargar() {
   sesion_.emplace(contexto_, *conBaseDatos);
-  const Recordset fila = conBaseDatos->Execute(
-      sentencia("SELECT * FROM Libro_Bautismo WHERE IdLibroBautismo=") + libro());
+  const Recordset fila =
+      conBaseDatos->Execute(sentencia("SELECT * FROM {Libros} WHERE IdLibro{Palabra}=") + libro());
   if (fila.EOF_()) throw std::runtime_error("El libro ya no existe.");
   mostrarLibro(fila);
   cerrado_ = nuevo_ && fila.flag("cerrado");
@@ -149,7 +149,7 @@ std::int64_t frmPropiedadesLibro::ContarFolios() {
   std::int64_t folios = 0;
   procedimiento("ContarFolios()", [&] {
     folios = conBaseDatos
-                 ->Execute(sentencia("SELECT DISTINCT Folio FROM Bautismo WHERE codLibro = ") +
+                 ->Execute(sentencia("SELECT DISTINCT Folio FROM {Partidas} WHERE codLibro = ") +
                            libro() + " ORDER BY Folio")
                  .RecordCount();
   });

@@ -7,6 +7,7 @@
 
 #include "core/contract/Dialogo.h"
 #include "core/contract/Sacramento.h"
+#include "core/contract/Sentencia.h"
 #include "core/contract/SesionBloqueos.h"
 #include "registers/books/PartidasDeLibro.h"
 
@@ -102,8 +103,7 @@ class frmPropiedadesLibro : public Dialogo {
   bool GuardarDatos();
 
   bool hayFilas(const std::string& sql);
-  /// The statement, written for baptism, in the tables of this sacrament.
-  std::string sentencia(const char* enBautismo) const;
+  std::string sentencia(const PlantillaSql& plantilla) const;
   std::string libro() const { return std::to_string(lngLibro); }
 
   const Sacramento& sacramento_;

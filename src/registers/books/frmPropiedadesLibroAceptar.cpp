@@ -1,7 +1,7 @@
 // Accepting and cancelling the dialog of a book.
 
-#include "core/contract/EnSacramento.h"
 #include "core/contract/NombreRepetido.h"
+#include "core/contract/Sentencia.h"
 #include "core/lists/Elecciones.h"
 #include "registers/books/VariantePropiedadesLibro.h"
 #include "text/Utf8.h"
@@ -23,16 +23,15 @@ void frmPropiedadesLibro::cmdBoton_Click(Boton boton) {
 }
 
 void frmPropiedadesLibro::aceptar() {
-  if (hayFilas(sentencia("select * from libro_bautismo where Cerrado=0 and Nuevo=1")))
+  if (hayFilas(sentencia("select * from {libros} where Cerrado=0 and Nuevo=1")))
     return forms::warn(ui(), "¡No puede haber dos libros nuevos y abiertos a la vez!");
-  const std::string otros =
-      std::to_string(institucion_) + sentencia(" AND IDLibroBautismo<>") + libro();
-  if (hayFilas(sentencia("select * from libro_Bautismo where Nombre=") +
+  const std::string otros = std::to_string(institucion_) + sentencia(" AND {IDLibro}<>") + libro();
+  if (hayFilas(sentencia("select * from libro_{Palabra} where Nombre=") +
                entreComillas(text::trim(txtNombreLibro.text())) + " and codInstitucion=" + otros) ||
       // Two old books may be told apart by blanks alone: what nobody renames stays acceptable.
       (txtNombreLibro.text() != nombreViejo_ &&
        hayMismoNombre(*conBaseDatos,
-                      sentencia("select Nombre from libro_Bautismo where codInstitucion=") + otros,
+                      sentencia("select Nombre from libro_{Palabra} where codInstitucion=") + otros,
                       txtNombreLibro.text())))
     return forms::warn(ui(), "¡El nombre del libro introducido ya existe!");
   if (!ValidarDatos()) {
@@ -41,7 +40,7 @@ void frmPropiedadesLibro::aceptar() {
     mstLibro.setTab(TAB_LIBRO);
     return setFocus(campo);
   }
-  if (!hayFilas(sentencia("Select * from Libro_Bautismo where IdLibroBautismo=") + libro()))
+  if (!hayFilas(sentencia("Select * from {Libros} where IdLibro{Palabra}=") + libro()))
     return avisarEliminados(ui(), {"el libro «" + nombreViejo_ + "»"}, false);
   const forms::Hourglass reloj(ui());
   if (partidas_->guardar(*conBaseDatos) && GuardarDatos()) Unload();
@@ -69,14 +68,14 @@ bool frmPropiedadesLibro::faltaFecha() const {
 bool frmPropiedadesLibro::GuardarDatos() {
   return procedimiento("GuardarDatos()", [this] {
     const store::Recordset fila = conBaseDatos->Execute(
-        sentencia("Select * from Libro_Bautismo where IdLibroBautismo=") + libro());
+        sentencia("Select * from {Libros} where IdLibro{Palabra}=") + libro());
     if (fila.flag("nuevo") && fila.flag("cerrado")) return;
     const std::string fecha = dtpFecha.stored().empty() ? fechaEnTabla_ : dtpFecha.stored();
-    conBaseDatos->Execute(sentencia("Update Libro_Bautismo Set codTipoNombre= ") +
+    conBaseDatos->Execute(sentencia("Update {Libros} Set codTipoNombre= ") +
                           std::to_string(cboTipoNombre.data()) +
                           ", Nombre= " + entreComillas(text::trim(txtNombreLibro.text())) +
                           ", FechaCreacion=" + entreComillas(fecha) +
-                          sentencia(" where IdLibroBautismo=") + libro());
+                          sentencia(" where IdLibro{Palabra}=") + libro());
   });
 }
 

@@ -1,6 +1,6 @@
 // The entries of the book: the grid and its four buttons.
 
-#include "core/contract/EnSacramento.h"
+#include "core/contract/Sentencia.h"
 #include "registers/books/VariantePropiedadesLibro.h"
 #include "registers/common/Anulacion.h"
 
@@ -60,10 +60,9 @@ void frmPropiedadesLibro::msgPartidas_DblClick() {
 
 void frmPropiedadesLibro::cmdPartidas_Click(Entrada boton) {
   procedimiento("cmdPartidas_Click()", [&] {
-    cerrado_ =
-        hayFilas(sentencia("SELECT * FROM Libro_Bautismo WHERE Cerrado = True AND Nuevo = True "
-                           "AND IDLibroBautismo = ") +
-                 libro());
+    cerrado_ = hayFilas(sentencia("SELECT * FROM {Libros} WHERE Cerrado = True AND Nuevo = True "
+                                  "AND {IDLibro} = ") +
+                        libro());
     if (boton == AGREGAR) return agregar();
     if (!elegida()) return;
     if (boton == PROPIEDADES) return propiedades();
@@ -109,7 +108,7 @@ void frmPropiedadesLibro::refrescarFecha() {
   if (dtpFecha.stored() != fechaLeida_ || !dtpFecha.valid()) return;
   fechaEnTabla_ =
       conBaseDatos
-          ->Execute(sentencia("SELECT Fechacreacion FROM Libro_Bautismo WHERE IdLibroBautismo=") +
+          ->Execute(sentencia("SELECT Fechacreacion FROM {Libros} WHERE IdLibro{Palabra}=") +
                     libro())
           .text("Fechacreacion");
   dtpFecha.setStored(fechaEnTabla_);

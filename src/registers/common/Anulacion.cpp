@@ -3,6 +3,7 @@
 #include <optional>
 #include <string>
 
+#include "core/contract/Sentencia.h"
 #include "core/contract/SesionBloqueos.h"
 
 namespace fidaleon {
@@ -11,9 +12,8 @@ namespace {
 
 std::optional<bool> estaAnulada(FDAPI::Conexion& conexion, const Sacramento& s,
                                 std::int32_t lngID) {
-  const store::Recordset fila =
-      conexion.Execute(std::string("SELECT Anulada FROM ") + s.tablaPartidas + " WHERE " +
-                       s.clavePartida + "=" + std::to_string(lngID));
+  const store::Recordset fila = conexion.Execute(
+      sentencia(s, "SELECT Anulada FROM {Partidas} WHERE {IDPartida}=") + std::to_string(lngID));
   if (fila.EOF_()) return std::nullopt;
   return fila.flag("Anulada");
 }

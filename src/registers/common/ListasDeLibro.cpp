@@ -2,7 +2,7 @@
 
 #include <set>
 
-#include "core/contract/EnSacramento.h"
+#include "core/contract/Sentencia.h"
 #include "registers/common/NuevaInstitucion.h"
 #include "text/Utf8.h"
 
@@ -23,9 +23,9 @@ void ListasDeLibro::CargarComboLibrosNuevos() {
   // A closed book takes no more entries, and who adds them holds the open ones only.
   std::set<std::int64_t> abiertos;
   store::Recordset filas = conexion_->Execute(
-      enSacramento(sacramento_,
-                   "SELECT IDLibroBautismo FROM Libro_Bautismo WHERE  Nuevo = True AND Cerrado = "
-                   "False"));
+      sentencia(sacramento_,
+                "SELECT {IDLibro} FROM {Libros} WHERE  Nuevo = True AND Cerrado = "
+                "False"));
   for (; !filas.EOF_(); filas.MoveNext()) abiertos.insert(filas.integer(sacramento_.claveLibro));
   for (int i = libro_.listCount() - 1; i >= 0; --i)
     if (!abiertos.contains(libro_.itemData(i))) libro_.removeItem(i);

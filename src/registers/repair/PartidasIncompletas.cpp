@@ -2,6 +2,7 @@
 
 #include "core/contract/Citas.h"
 #include "core/contract/NombreYApellidos.h"
+#include "core/contract/Sentencia.h"
 #include "registers/common/Guiones.h"
 #include "store/Transaction.h"
 #include "store/schema/Schema.h"
@@ -25,14 +26,13 @@ std::string sqlIncompletas(const PartidaPorFichas& clase) {
                  " FROM " + f.tabla + " WHERE " + f.clave + " IS NOT NULL)";
     if (!esPropia(clase, f)) condicion += " OR " + enlace + " IS NULL";
   }
-  return std::string(" FROM ") + clase.sacramento.tablaPartidas + " WHERE (" + condicion + ")";
+  return sentencia(clase.sacramento, " FROM {Partidas} WHERE (") + condicion + ")";
 }
 
 std::string nombreDelLibro(Conexion& conexion, const Sacramento& s, std::int32_t libro) {
   if (libro == 0) return "(solicitud)";
-  const store::Recordset fila =
-      conexion.Execute(std::string("SELECT Nombre FROM ") + s.tablaLibros + " WHERE " +
-                       s.claveLibro + "=" + std::to_string(libro));
+  const store::Recordset fila = conexion.Execute(
+      sentencia(s, "SELECT Nombre FROM {Libros} WHERE {IDLibro}=") + std::to_string(libro));
   return fila.EOF_() ? "(ya no existe)" : fila.text("Nombre");
 }
 
@@ -89,8 +89,8 @@ std::int64_t cuentaPartidasIncompletas(Conexion& conexion) {
   std::int64_t cuantas = 0;
   for (const PartidaPorFichas& clase : partidasPorFichas())
     cuantas += conexion
-                   .Execute(std::string("SELECT COUNT(") + clase.sacramento.clavePartida +
-                            ") AS N" + sqlIncompletas(clase))
+                   .Execute(sentencia(clase.sacramento, "SELECT COUNT({IDPartida}) AS N") +
+                            sqlIncompletas(clase))
                    .integer("N");
   return cuantas;
 }
@@ -107,8 +107,8 @@ std::vector<PartidaIncompleta> partidasIncompletas(Conexion& conexion) {
 PartidaIncompleta releida(Conexion& conexion, const PartidaIncompleta& partida) {
   const Sacramento& s = partida.clase->sacramento;
   const store::Recordset fila =
-      conexion.Execute("SELECT *" + sqlIncompletas(*partida.clase) + " AND " + s.clavePartida +
-                       "=" + std::to_string(partida.id));
+      conexion.Execute("SELECT *" + sqlIncompletas(*partida.clase) +
+                       sentencia(s, " AND {IDPartida}=") + std::to_string(partida.id));
   return fila.EOF_() ? PartidaIncompleta{} : leida(conexion, *partida.clase, fila);
 }
 
@@ -122,8 +122,8 @@ void completarPartida(Conexion& conexion, const PartidaIncompleta& partida) {
     const std::string clave =
         conexion.Execute(std::string("SELECT MAX(") + f->clave + ") AS ID FROM " + f->tabla)
             .text("ID");
-    conexion.Execute(std::string("UPDATE ") + s.tablaPartidas + " SET " + f->enlace + "=" + clave +
-                     " WHERE " + s.clavePartida + "=" + id);
+    conexion.Execute(sentencia(s, "UPDATE {Partidas} SET ") + f->enlace + "=" + clave +
+                     sentencia(s, " WHERE {IDPartida}=") + id);
   }
   transaccion.commit();
 }

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "core/contract/EnSacramento.h"
+#include "core/contract/Sentencia.h"
 #include "core/contract/SesionBloqueos.h"
 #include "core/contract/TransaccionSinVuelta.h"
 #include "core/lists/Rejilla.h"
@@ -131,7 +131,7 @@ void frmPartidasIncompletas::eliminar() {
     bloqueos.tabla(s.tablaPartidas);
     if (elegida.codLibro != 0)
       bloqueos.registros(s.tablaLibros,
-                         enSacramento(s, "SELECT codLibro FROM Bautismo WHERE IDBautismo=") +
+                         sentencia(s, "SELECT codLibro FROM {Partidas} WHERE {IDPartida}=") +
                              std::to_string(elegida.id));
     PartidaIncompleta ahora;
     if (!bloqueos.efectuar() || !sigueIncompleta(elegida, ahora)) return;

@@ -2,12 +2,13 @@
 
 #include <string>
 
+#include "core/contract/Sentencia.h"
+
 namespace fidaleon {
 
 void bloquearSolicitud(SesionBloqueos& sesion, const Sacramento& sacramento, std::int32_t lngID) {
   sesion.registro(sacramento.tablaPartidas, lngID,
-                  std::string("SELECT ") + sacramento.clavePartida + " FROM " +
-                      sacramento.tablaPartidas + " WHERE " + sacramento.clavePartida + "=" +
+                  sentencia(sacramento, "SELECT {IDPartida} FROM {Partidas} WHERE {IDPartida}=") +
                       std::to_string(lngID) + " AND CodLibro=0",
                   "Esta solicitud ya no está: otro puesto la ha pasado a un libro o la ha "
                   "eliminado. Actualice la lista.");

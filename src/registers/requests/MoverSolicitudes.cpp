@@ -1,6 +1,6 @@
 // Moving the chosen requests into the book, each on the next position.
 
-#include "core/contract/EnSacramento.h"
+#include "core/contract/Sentencia.h"
 #include "core/contract/SesionBloqueos.h"
 #include "registers/requests/frmSolicitudes.h"
 #include "text/Numbers.h"
@@ -21,7 +21,7 @@ void frmSolicitudes::aceptar() {
     return forms::warn(ui(), "¡Debe seleccionar al menos una solicitud!");
   const auto libroAbierto = [this] {
     return conBaseDatos->Execute(
-        sentencia("SELECT IDLibroBautismo, CodFormato FROM Libro_Bautismo WHERE Nuevo = True AND "
+        sentencia("SELECT {IDLibro}, CodFormato FROM {Libros} WHERE Nuevo = True AND "
                   "Cerrado=False AND CodInstitucion = ") +
         institucion());
   };
@@ -59,8 +59,8 @@ bool frmSolicitudes::pasar(std::int64_t solicitud, const Libro& libro) {
   const std::string clave = std::to_string(solicitud);
   const std::string id = std::to_string(libro.id);
   if (conBaseDatos
-          ->Execute(sentencia("SELECT IDBautismo FROM Bautismo WHERE CodLibro = 0 AND "
-                              "IDBautismo = ") +
+          ->Execute(sentencia("SELECT {IDPartida} FROM {Partidas} WHERE CodLibro = 0 AND "
+                              "{IDPartida} = ") +
                     clave)
           .EOF_()) {
     forms::warn(ui(), "¡La solicitud de " + lstSolicitudes[SELECCIONADOS].list(0) +
@@ -68,7 +68,7 @@ bool frmSolicitudes::pasar(std::int64_t solicitud, const Libro& libro) {
     return true;
   }
   Recordset partidas = conBaseDatos->Execute(
-      sentencia("SELECT IDBautismo, Folio, Numero FROM Bautismo WHERE CodLibro = ") + id +
+      sentencia("SELECT {IDPartida}, Folio, Numero FROM {Partidas} WHERE CodLibro = ") + id +
       " ORDER BY Folio");
   if (partidas.EOF_()) {
     lngFolio_ = 1;
@@ -77,9 +77,9 @@ bool frmSolicitudes::pasar(std::int64_t solicitud, const Libro& libro) {
     partidas.MoveLast();
     if (!CalcularFolioyNumero(libro, partidas.integer("Folio"))) return false;
   }
-  conBaseDatos->Execute(sentencia("UPDATE Bautismo SET InstitucionSolicitud = 0, CodLibro = ") +
+  conBaseDatos->Execute(sentencia("UPDATE {Partidas} SET InstitucionSolicitud = 0, CodLibro = ") +
                         id + ", Folio = " + std::to_string(lngFolio_) + ", Numero = " +
-                        entreComillas(strNumero_) + sentencia(" WHERE IDBautismo = ") + clave);
+                        entreComillas(strNumero_) + sentencia(" WHERE {IDPartida} = ") + clave);
   return true;
 }
 
@@ -94,14 +94,14 @@ bool frmSolicitudes::CalcularFolioyNumero(const Libro& libro, std::int64_t ultim
     const bool cabeOtra =
         porFolio != 1 &&
         conBaseDatos
-                ->Execute(sentencia("SELECT IDBautismo FROM Bautismo WHERE Folio = ") +
+                ->Execute(sentencia("SELECT {IDPartida} FROM {Partidas} WHERE Folio = ") +
                           std::to_string(ultimoFolio) + " AND CodLibro = " + id +
                           " ORDER BY Val(Numero)")
                 .RecordCount() == 1;
     lngFolio_ = cabeOtra ? ultimoFolio : ultimoFolio + 1;
     if (pasaLimiteDeFolios()) return;
     const Recordset mayor = conBaseDatos->Execute(
-        sentencia("SELECT MAX(CInt(Numero)) FROM Bautismo WHERE CodLibro = ") + id);
+        sentencia("SELECT MAX(CInt(Numero)) FROM {Partidas} WHERE CodLibro = ") + id);
     strNumero_ = std::to_string(mayor.Fields(0).Value().integer() + 1);
   });
 }

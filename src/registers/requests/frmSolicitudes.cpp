@@ -2,7 +2,7 @@
 
 #include "registers/requests/frmSolicitudes.h"
 
-#include "core/contract/EnSacramento.h"
+#include "core/contract/Sentencia.h"
 #include "registers/lookup/frmDetallePadres.h"
 
 namespace fidaleon {
@@ -48,8 +48,8 @@ void frmSolicitudes::prepararControles() {
     b->onClick = [this, indice = indice] { cmdBoton_Click(Boton(indice)); };
 }
 
-std::string frmSolicitudes::sentencia(const char* enBautismo) const {
-  return enSacramento(origen_->sacramento, enBautismo);
+std::string frmSolicitudes::sentencia(const PlantillaSql& plantilla) const {
+  return fidaleon::sentencia(origen_->sacramento, plantilla);
 }
 
 void frmSolicitudes::Form_Load() {
@@ -71,8 +71,8 @@ void frmSolicitudes::cboInstitucion_Click() {
 
 void frmSolicitudes::listarSolicitudes() {
   if (conBaseDatos
-          ->Execute(sentencia("SELECT * FROM Libro_Bautismo WHERE CodInstitucion = ") +
-                    institucion() + " AND Nuevo = true")
+          ->Execute(sentencia("SELECT * FROM {Libros} WHERE CodInstitucion = ") + institucion() +
+                    " AND Nuevo = true")
           .EOF_())
     return rechazarInstitucion("¡Esta Institución no tiene un libro nuevo abierto. Elija otra!");
   store::Recordset solicitudes = conBaseDatos->Execute(origen_->sqlSolicitudes + institucion());

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "core/contract/Dialogo.h"
+#include "core/contract/Sentencia.h"
 #include "core/lists/ListaDoble.h"
 #include "registers/requests/OrigenSolicitudes.h"
 
@@ -53,8 +54,7 @@ class frmSolicitudes : public Dialogo {
   bool CalcularFolioyNumero(const Libro& libro, std::int64_t ultimoFolio);
   bool pasaLimiteDeFolios();
   std::string institucion() const { return std::to_string(cboInstitucion.data()); }
-  /// The statement, written for baptism, in the tables of this sacrament.
-  std::string sentencia(const char* enBautismo) const;
+  std::string sentencia(const PlantillaSql& plantilla) const;
 
   ListaDoble listas_;
   const OrigenSolicitudes* origen_ = nullptr;
