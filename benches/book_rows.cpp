@@ -112,7 +112,7 @@ class HandWrittenBook {
         reports_(*parish.reports),
         fidaleon_(parish.contexto.fidaleon()),
         dates_(parish.host.create_cInformes()) {
-    std::string sql = documents::bookStatements(1).rows;
+    std::string sql = documents::bookStatement(1);
     read_ = parish_.prepared(sql);
     place_ = parish_.prepared(
         "SELECT Provincia.Nombre, Municipio.Nombre FROM Municipio, Provincia WHERE IDMunicipio=? "

@@ -83,10 +83,6 @@ std::string request(std::int32_t idBautismo, const char* institution, const char
          " AND Institucion.IDInstitucion = Bautismo.InstitucionSolicitud";
 }
 
-std::string entriesOfBook(const std::string& key) {
-  return "SELECT CodLibro FROM bautismo WHERE CodLibro=" + key;
-}
-
 }  // namespace
 
 std::string certificateStatement(std::int32_t idBautismo) {
@@ -129,27 +125,29 @@ std::string requestSantiagoStatement(std::int32_t idBautismo) {
       "Bautismo_Madres.AbuelaMatCodMunicipioParrBaut, Bautismo_Matrimonio.TelefonoPadres");
 }
 
-BookStatements bookStatements(std::int32_t idLibro) {
-  const std::string key = std::to_string(idLibro);
-  return {entriesOfBook(key),
-          bookEntries("bautismo.codlibro=" + key, "") + " ORDER BY Val(CStr(Folio)) , Val(Numero)"};
+std::string bookCheck(std::int32_t idLibro) {
+  return "SELECT CodLibro FROM bautismo WHERE CodLibro=" + std::to_string(idLibro);
 }
 
-BookStatements indexStatements(std::int32_t idLibro) {
+std::string bookStatement(std::int32_t idLibro) {
+  return bookEntries("bautismo.codlibro=" + std::to_string(idLibro), "") +
+         " ORDER BY Val(CStr(Folio)) , Val(Numero)";
+}
+
+std::string indexStatement(std::int32_t idLibro) {
   const std::string key = std::to_string(idLibro);
-  return {entriesOfBook(key),
-          "SELECT InstitucionNombre, InstitucionTipo, Libro_Bautismo.Nombre AS NombreLibro, "
-          "Libro_Bautismo.FechaCreacion, Bautismo.Folio, Bautismo.Numero, "
-          "Bautismo_Hijo.Nombre AS NombreHijo, Bautismo_Hijo.PrimerApellido AS PrimerApellidoHijo, "
-          "Bautismo_Hijo.SegundoApellido AS SegundoApellidoHijo "
-          "FROM Bautismo, Bautismo_Hijo, Libro_Bautismo, Institucion WHERE Bautismo.Codlibro=" +
-              key +
-              " AND Bautismo_Hijo.CodBautismo=Bautismo.IDBautismo AND "
-              "Libro_Bautismo.IDLibroBautismo=" +
-              key +
-              " AND Institucion.IDInstitucion=Libro_Bautismo.CodInstitucion "
-              "ORDER BY Bautismo_Hijo.PrimerApellido, Bautismo_Hijo.SegundoApellido, "
-              "Bautismo_Hijo.Nombre"};
+  return "SELECT InstitucionNombre, InstitucionTipo, Libro_Bautismo.Nombre AS NombreLibro, "
+         "Libro_Bautismo.FechaCreacion, Bautismo.Folio, Bautismo.Numero, "
+         "Bautismo_Hijo.Nombre AS NombreHijo, Bautismo_Hijo.PrimerApellido AS PrimerApellidoHijo, "
+         "Bautismo_Hijo.SegundoApellido AS SegundoApellidoHijo "
+         "FROM Bautismo, Bautismo_Hijo, Libro_Bautismo, Institucion WHERE Bautismo.Codlibro=" +
+         key +
+         " AND Bautismo_Hijo.CodBautismo=Bautismo.IDBautismo AND "
+         "Libro_Bautismo.IDLibroBautismo=" +
+         key +
+         " AND Institucion.IDInstitucion=Libro_Bautismo.CodInstitucion "
+         "ORDER BY Bautismo_Hijo.PrimerApellido, Bautismo_Hijo.SegundoApellido, "
+         "Bautismo_Hijo.Nombre";
 }
 
 std::string duplicateStatement(std::int32_t ano, std::int32_t idInstitucion) {

@@ -16,16 +16,11 @@ std::string volanteStatement(std::int32_t idBautismo);
 std::string requestStatement(std::int32_t idBautismo);
 std::string requestSantiagoStatement(std::int32_t idBautismo);
 
-/// How a whole book is read: `check` gives a row as long as it has entries, `rows` all of them,
-/// annulled ones too.
-struct BookStatements {
-  std::string check;
-  std::string rows;
-};
-/// In the order of the pages.
-BookStatements bookStatements(std::int32_t idLibro);
-/// In the order of the names.
-BookStatements indexStatements(std::int32_t idLibro);
+/// A row as long as the book has entries.
+std::string bookCheck(std::int32_t idLibro);
+/// All entries of a book, annulled ones too, in the order of the pages, and of the names.
+std::string bookStatement(std::int32_t idLibro);
+std::string indexStatement(std::int32_t idLibro);
 /// All entries of a calendar year in the books of an institution, without an order.
 std::string duplicateStatement(std::int32_t ano, std::int32_t idInstitucion);
 

@@ -17,15 +17,19 @@ enum class Source {
   ShortDate,        // the date in the field, "dd/mm/yyyy"
   LongDate,         // in words, in the wording of the document
   LongDateMenorca,  // in words, in Catalan whatever the document's wording
-  Town,             // name of the municipality whose key is in the field
-  Province,         // name of its province
-  ChildWord,        // "al niño", "a la niña" and their like
-  BornWord,         // "nacido", "nacida" and their like
-  FormOfAddress,    // "D.", "Dª."
-  Year,             // first four characters of the date in the field
-  Initial,          // first letter of the field in capitals, leading blanks aside
-  Keeper,           // who signs
-  IssueShort,       // date of issue
+  LongDateSpanish,  // in words, in Spanish whatever the document's wording
+  LongDateAndYear,  // in Spanish, the year in words too
+  AgeAt,            // whole years from the date in the field to the one in `until`
+  AgeToday,
+  Town,           // name of the municipality whose key is in the field
+  Province,       // name of its province
+  ChildWord,      // "al niño", "a la niña" and their like
+  BornWord,       // "nacido", "nacida" and their like
+  FormOfAddress,  // "D.", "Dª."
+  Year,           // first four characters of the date in the field
+  Initial,        // first letter of the field in capitals, leading blanks aside
+  Keeper,         // who signs
+  IssueShort,     // date of issue
   IssueLong,
   IssueMenorca,
   // The same of the institution that issues the document, where it is read by itself.
@@ -42,6 +46,7 @@ struct Column {
   Source source;
   const char* field = "";
   Quoting quoting = Quoting::Double;
+  const char* until = "";  // AgeAt: the later date's field
 };
 
 using Columns = std::vector<Column>;

@@ -42,11 +42,13 @@ RowStatements::RowStatements(const DocumentKind& kind, const Signature& signatur
   columns_.reserve(kind.columns.size());
   fields_.reserve(kind.columns.size());
   for (const Column& column : kind.columns) {
-    columns_.push_back({&column, NO_FIELD, {}});
-    if (isFixed(column.source))
-      appendQuoted(columns_.back().fixed, fixedValue(column), column.quoting);
-    else
-      columns_.back().field = fieldOf(column);
+    Filled& filled = columns_.emplace_back(Filled{&column, NO_FIELD, NO_FIELD, {}});
+    if (isFixed(column.source)) {
+      appendQuoted(filled.fixed, fixedValue(column), column.quoting);
+      continue;
+    }
+    filled.field = fieldOf(column.field, isTown(column.source));
+    filled.until = *column.until ? fieldOf(column.until, false) : filled.field;
   }
   orderFields();
 }
@@ -63,12 +65,11 @@ void RowStatements::writeHead() {
   head_ = statement_.size();
 }
 
-std::size_t RowStatements::fieldOf(const Column& column) {
-  const bool isKey = isTown(column.source);
+std::size_t RowStatements::fieldOf(const char* name, bool isKey) {
   // Columns that share a field mostly follow each other.
   for (std::size_t i = fields_.size(); i-- > 0;)
-    if (fields_[i].isKey == isKey && fields_[i].name == column.field) return i;
-  fields_.push_back({column.field, 0, isKey, {}, 0});
+    if (fields_[i].isKey == isKey && fields_[i].name == name) return i;
+  fields_.push_back({name, 0, isKey, {}, 0});
   return fields_.size() - 1;
 }
 
@@ -110,7 +111,8 @@ const std::string& RowStatements::current() {
     if (filled.field == NO_FIELD)
       statement_ += filled.fixed;
     else
-      appendQuoted(statement_, rowValue(*filled.column, fields_[filled.field]),
+      appendQuoted(statement_,
+                   rowValue(*filled.column, fields_[filled.field], fields_[filled.until]),
                    filled.column->quoting);
   }
   statement_ += ')';
@@ -141,7 +143,7 @@ std::string RowStatements::fixedValue(const Column& column) {
   }
 }
 
-std::string RowStatements::rowValue(const Column& column, const Field& field) {
+std::string RowStatements::rowValue(const Column& column, const Field& field, const Field& until) {
   switch (column.source) {
     case Source::Stored:
       return field.text;
@@ -159,6 +161,14 @@ std::string RowStatements::rowValue(const Column& column, const Field& field) {
       return lookups_.longDate(field.text, kind_.wording);
     case Source::LongDateMenorca:
       return lookups_.longDate(field.text, Wording::Menorca);
+    case Source::LongDateSpanish:
+      return lookups_.longDate(field.text, Wording::AlwaysSpanish);
+    case Source::LongDateAndYear:
+      return lookups_.longDate(field.text, Wording::YearInWords);
+    case Source::AgeAt:
+      return lookups_.age(field.text, until.text);
+    case Source::AgeToday:
+      return lookups_.ageToday(field.text);
     case Source::Town:
       return ValorImprimible(lookups_.town(field.key));
     case Source::Province:

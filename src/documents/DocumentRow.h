@@ -53,12 +53,12 @@ class RowStatements {
     std::int32_t key = 0;
   };
   void writeHead();
-  /// The number of the field that the column takes.
-  std::size_t fieldOf(const Column& column);
+  /// The number of a field that a column takes.
+  std::size_t fieldOf(const char* name, bool isKey);
   void orderFields();
   void readFields();
   std::string fixedValue(const Column& column);
-  std::string rowValue(const Column& column, const Field& field);
+  std::string rowValue(const Column& column, const Field& field, const Field& until);
 
   const DocumentKind& kind_;
   const Signature& signature_;
@@ -68,6 +68,7 @@ class RowStatements {
   struct Filled {
     const Column* column;
     std::size_t field;  // none for what is the same in every row
+    std::size_t until;
     std::string fixed;  // that, with its quotes
   };
   std::vector<Field> fields_;

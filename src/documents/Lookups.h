@@ -9,8 +9,8 @@
 
 namespace fidaleon::documents {
 
-/// Language of the dates in words.
-enum class Wording { Castellano, Menorca };
+/// Language of the dates in words. The last two are forms that single columns ask for.
+enum class Wording { Castellano, Menorca, AlwaysSpanish, YearInWords };
 
 /// What one run of a document asks of the support library: dates in words and names of places.
 /// Places are asked for once and remembered for the length of the run, during which the entry or
@@ -23,6 +23,10 @@ class Lookups {
   /// All dates are given as stored, "yyyymmdd" or "---".
   std::string shortDate(const std::string& fecha);
   std::string longDate(const std::string& fecha, Wording wording);
+  /// Whole years from a birth to a later day, and to today. "---" where a date is not known: the
+  /// support library would call that 0.
+  std::string age(const std::string& nacimiento, const std::string& fecha);
+  std::string ageToday(const std::string& nacimiento);
   /// Names behind a key of Municipio, as they are; empty where there is none.
   const std::string& town(std::int32_t municipio) { return place(municipio).town; }
   const std::string& province(std::int32_t municipio) { return place(municipio).province; }

@@ -1,46 +1,61 @@
 #include "documents/cInformes.h"
 
+#include <optional>
+
+#include "census/setup/SelecEncargado.h"
 #include "core/contract/Guard.h"
 #include "documents/EscribirFilas.h"
+#include "documents/Miembros.h"
 #include "documents/ProgresoImpresion.h"
 #include "store/Transaction.h"
 
 namespace fidaleon {
 
-void cInformes::escribirDocumento(const documents::DocumentKind& kind, FDAPI::Conexion& conFidaleon,
-                                  FDAPI::Conexion& conInformes, const std::string& statement,
-                                  const documents::Signature& signature, const char* readBack) {
-  guarded(contexto_, "cInformes", kind.member, [&] {
+namespace {
+
+bool hayPartidas(FDAPI::Conexion& conFidaleon, const std::string& check) {
+  const store::Recordset rs = conFidaleon.Execute(check);
+  return !rs.EOF_() && rs.Fields(0).Value().integer() != 0;
+}
+
+}  // namespace
+
+void cInformes::escribir(const char* miembro, FDAPI::Conexion& conFidaleon,
+                         FDAPI::Conexion& conInformes, std::int32_t lngID,
+                         const documents::Signature& signature) {
+  guarded(contexto_, "cInformes", miembro, [&] {
+    const documents::Miembro& escrito = documents::miembro(miembro);
     store::Transaction transaction(conInformes);
     documents::Lookups lookups(contexto_, conFidaleon);
     const forms::Hourglass hourglass(contexto_.ui());
-    const store::Recordset entry = conFidaleon.Execute(statement);
-    if (!entry.EOF_()) {
-      conInformes.Execute(documents::insertStatement(kind, entry, signature, lookups));
-      if (readBack) conInformes.Execute(readBack).Close();
+    if (!escrito.check || hayPartidas(conFidaleon, escrito.check(lngID))) {
+      store::Recordset entries = conFidaleon.Execute(escrito.rows(lngID));
+      documents::RowStatements rows(escrito.kind, signature, lookups, entries);
+      const auto fidaleon = contexto_.fidaleon();
+      std::optional<documents::ProgresoImpresion> progreso;
+      if (escrito.check) progreso.emplace(*fidaleon, entries.RecordCount());
+      documents::escribirFilas(rows, entries, conInformes, [&](std::int32_t fila) {
+        if (escrito.readBack) conInformes.Execute(escrito.readBack).Close();
+        if (progreso) progreso->avanzar(fila);
+      });
     }
     transaction.commit();
   });
 }
 
-void cInformes::escribirLibro(const documents::DocumentKind& kind, FDAPI::Conexion& conFidaleon,
-                              FDAPI::Conexion& conInformes, const std::string& check,
-                              const std::string& statement) {
-  guarded(contexto_, "cInformes", kind.member, [&] {
-    store::Transaction transaction(conInformes);
-    documents::Lookups lookups(contexto_, conFidaleon);
-    const forms::Hourglass hourglass(contexto_.ui());
-    if (!conFidaleon.Execute(check).EOF_()) {
-      store::Recordset entries = conFidaleon.Execute(statement);
-      const documents::Signature signature{"", contexto_.hoy()};
-      documents::RowStatements rows(kind, signature, lookups, entries);
-      const auto fidaleon = contexto_.fidaleon();
-      documents::ProgresoImpresion progreso(*fidaleon, entries.RecordCount());
-      documents::escribirFilas(rows, entries, conInformes,
-                               [&](std::int32_t fila) { progreso.avanzar(fila); });
-    }
-    transaction.commit();
-  });
+void cInformes::escribir(const char* miembro, FDAPI::Conexion& conFidaleon,
+                         FDAPI::Conexion& conInformes, std::int32_t lngID) {
+  escribir(miembro, conFidaleon, conInformes, lngID, {"", contexto_.hoy()});
+}
+
+void cInformes::escribirConFecha(const char* miembro, const char* sacramento,
+                                 FDAPI::Conexion& conFidaleon, FDAPI::Conexion& conInformes,
+                                 std::int32_t lngID) {
+  std::string encargado;
+  std::string fecha = contexto_.hoy();
+  guarded(contexto_, "cInformes", miembro,
+          [&] { SelecEncargado(contexto_, conFidaleon, sacramento, lngID, fecha, encargado); });
+  escribir(miembro, conFidaleon, conInformes, lngID, {"", fecha});
 }
 
 }  // namespace fidaleon

@@ -64,6 +64,63 @@ class cInformes {
   void ImprimirIndiceLibroBautismo(FDAPI::Conexion& conFidaleon, FDAPI::Conexion& conInformes,
                                    std::int32_t lngID);
 
+  // Confirmation: Documentos_Confirmacion. Those without a date of issue bear today's.
+  void ImprimirCertificadoPartidaConfirmacion(FDAPI::Conexion& conFidaleon,
+                                              FDAPI::Conexion& conInformes, std::int32_t lngID,
+                                              const std::string& strEncargado,
+                                              const std::string& strFecha);
+  void ImprimirCertificadoPartidaConfirmacionMenorca(FDAPI::Conexion& conFidaleon,
+                                                     FDAPI::Conexion& conInformes,
+                                                     std::int32_t lngID,
+                                                     const std::string& strEncargado,
+                                                     const std::string& strFecha);
+  void ImprimirCertificadoLiteralPartidaConfirmacion(FDAPI::Conexion& conFidaleon,
+                                                     FDAPI::Conexion& conInformes,
+                                                     std::int32_t lngID,
+                                                     const std::string& strEncargado,
+                                                     const std::string& strFecha);
+  void ImprimirCertificadoLiteralPartidaConfirmacionMenorca(FDAPI::Conexion& conFidaleon,
+                                                            FDAPI::Conexion& conInformes,
+                                                            std::int32_t lngID,
+                                                            const std::string& strEncargado,
+                                                            const std::string& strFecha);
+  void ImprimirPartidaConfirmacion(FDAPI::Conexion& conFidaleon, FDAPI::Conexion& conInformes,
+                                   std::int32_t lngID);
+  void ImprimirPartidaConfirmacionMenorca(FDAPI::Conexion& conFidaleon,
+                                          FDAPI::Conexion& conInformes, std::int32_t lngID);
+  /// To the parish of baptism.
+  void ImprimirNotificacionConfirmacion(FDAPI::Conexion& conFidaleon, FDAPI::Conexion& conInformes,
+                                        std::int32_t lngID);
+  void ImprimirNotificacionConfirmacionMenorca(FDAPI::Conexion& conFidaleon,
+                                               FDAPI::Conexion& conInformes, std::int32_t lngID);
+  /// For all editions. The institution is the first of the store, whichever the request names.
+  void ImprimirSolicitudConfirmacion(FDAPI::Conexion& conFidaleon, FDAPI::Conexion& conInformes,
+                                     std::int32_t lngID);
+
+  // Death: Documentos_Defuncion
+  void ImprimirCertificadoPartidaDefuncion(FDAPI::Conexion& conFidaleon,
+                                           FDAPI::Conexion& conInformes, std::int32_t lngID,
+                                           const std::string& strEncargado,
+                                           const std::string& strFecha);
+  void ImprimirCertificadoPartidaDefuncionMenorca(FDAPI::Conexion& conFidaleon,
+                                                  FDAPI::Conexion& conInformes, std::int32_t lngID,
+                                                  const std::string& strEncargado,
+                                                  const std::string& strFecha);
+  void ImprimirCertificadoLiteralPartidaDefuncion(FDAPI::Conexion& conFidaleon,
+                                                  FDAPI::Conexion& conInformes, std::int32_t lngID,
+                                                  const std::string& strEncargado,
+                                                  const std::string& strFecha);
+  void ImprimirCertificadoLiteralPartidaDefuncionMenorca(FDAPI::Conexion& conFidaleon,
+                                                         FDAPI::Conexion& conInformes,
+                                                         std::int32_t lngID,
+                                                         const std::string& strEncargado,
+                                                         const std::string& strFecha);
+  /// Asks for keeper and date first and prints the date alone; today's when the user gave up.
+  void ImprimirPartidaDefuncion(FDAPI::Conexion& conFidaleon, FDAPI::Conexion& conInformes,
+                                std::int32_t lngID);
+  void ImprimirPartidaDefuncionMenorca(FDAPI::Conexion& conFidaleon, FDAPI::Conexion& conInformes,
+                                       std::int32_t lngID);
+
   // People and groups of the parish: Informe_Colaboradores. SelInf... asks what to print and writes
   // it; it says so when the table stays empty. Informe... writes all there is. An error, or a user
   // who stops the work, takes back the rows of the call.
@@ -99,15 +156,15 @@ class cInformes {
                      FDAPI::cProgreso& abpProgreso);
 
  private:
-  /// The life of one document. `readBack`, if any, is run behind the row and its answer dropped.
-  void escribirDocumento(const documents::DocumentKind& kind, FDAPI::Conexion& conFidaleon,
-                         FDAPI::Conexion& conInformes, const std::string& statement,
-                         const documents::Signature& signature, const char* readBack = nullptr);
-  /// The life of one book or index: nothing unless `check` gives a row, otherwise one row for each
-  /// record of `statement`.
-  void escribirLibro(const documents::DocumentKind& kind, FDAPI::Conexion& conFidaleon,
-                     FDAPI::Conexion& conInformes, const std::string& check,
-                     const std::string& statement);
+  /// The life of one document: one row for each record that the member's line in
+  /// documents::miembros reads. Unsigned ones bear today's date.
+  void escribir(const char* miembro, FDAPI::Conexion& conFidaleon, FDAPI::Conexion& conInformes,
+                std::int32_t lngID, const documents::Signature& signature);
+  void escribir(const char* miembro, FDAPI::Conexion& conFidaleon, FDAPI::Conexion& conInformes,
+                std::int32_t lngID);
+  /// With the date that the user chooses with the keeper of the entry's institution.
+  void escribirConFecha(const char* miembro, const char* sacramento, FDAPI::Conexion& conFidaleon,
+                        FDAPI::Conexion& conInformes, std::int32_t lngID);
   /// Asks what to print.
   void elegirInforme(const char* miembro, FDAPI::Conexion& conFidaleon,
                      FDAPI::Conexion& conInformes, FDAPI::cCOrigen modo);

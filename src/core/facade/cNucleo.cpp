@@ -1,8 +1,7 @@
 #include "core/facade/cNucleo.h"
 
+#include "census/setup/SelecEncargado.h"
 #include "census/setup/frmDatosSetup.h"
-#include "census/setup/frmEncargado.h"
-#include "core/contract/Citas.h"
 #include "core/facade/Operacion.h"
 
 namespace fidaleon {
@@ -35,17 +34,7 @@ void cNucleo::SelecEncargado(FDAPI::Conexion& conBaseDatos, const std::string& S
   result.clear();
   strFechaInf = contexto_.hoy();
   operacion(contexto_, "SelecEncargado", [&] {
-    frmEncargado dialogo(contexto_);
-    dialogo.conBaseDatos = &conBaseDatos;
-    dialogo.Sacramento = Sacramento;
-    dialogo.IDPartida = IDPartida;
-    dialogo.Show();
-    result = dialogo.strEncargado;
-    strFechaInf = dialogo.strFecha;
-    if (result.empty()) return;
-    const std::string institucion = std::to_string(dialogo.lngInstitucion);
-    conBaseDatos.Execute("UPDATE Ultimos SET IDInstitucion = " + institucion + " , Encargado = " +
-                         entreComillas(result) + " WHERE IDInstitucion = " + institucion);
+    fidaleon::SelecEncargado(contexto_, conBaseDatos, Sacramento, IDPartida, strFechaInf, result);
   });
 }
 
