@@ -3,12 +3,12 @@
 
 #include <QApplication>
 
-#include "app/NodeView.h"
-#include "app/RowsFilter.h"
-#include "app/RowsModel.h"
 #include "benches/Bench.h"
 #include "benches/PeopleWorld.h"
+#include "catalogue/NodeView.h"
 #include "core/contract/CcNodos.h"
+#include "window/RowsFilter.h"
+#include "window/RowsModel.h"
 
 namespace {
 

@@ -25,22 +25,26 @@ function(fid_room folder)
   endif()
 endfunction()
 
-# One test program per folder of tests/; it links the rooms it names and the shared fixtures.
+# One test program per folder of tests/, which mirrors src/; it links the rooms it names and the shared
+# fixtures. SCREENLESS gives it one application of the toolkit without a display.
 function(fid_test folder)
-  cmake_parse_arguments(T "QT" "" "DEPENDS" ${ARGN})
+  cmake_parse_arguments(T "SCREENLESS" "" "DEPENDS" ${ARGN})
   string(REPLACE "/" "_" name ${folder})
-  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp)
+  file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp)
+  list(FILTER sources EXCLUDE REGEX "/tools/")
   if(NOT sources)
     return()
+  endif()
+  if(T_SCREENLESS)
+    list(APPEND sources ${CMAKE_SOURCE_DIR}/tests/qt/Offscreen.cpp)
+    list(REMOVE_DUPLICATES sources)
+    list(APPEND T_DEPENDS fid_qt Qt6::Test)
   endif()
   add_executable(test_${name} ${sources})
   target_include_directories(test_${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
   target_link_libraries(test_${name} PRIVATE ${T_DEPENDS} fid_options GTest::gmock GTest::gtest_main)
   # Most of a first build goes into the tests; optimising them only makes it longer.
   target_compile_options(test_${name} PRIVATE -O0)
-  if(T_QT)
-    set_target_properties(test_${name} PROPERTIES AUTOMOC ON)
-  endif()
   gtest_discover_tests(test_${name} DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 300
                        ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
 endfunction()

@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "app/ParishFiles.h"
+#include "parish/ParishFiles.h"
 
 namespace fidaleon::app {
 namespace {

@@ -4,11 +4,11 @@
 #include <iostream>
 
 #include "app/CommandLine.h"
-#include "app/Demo.h"
-#include "app/Desktop.h"
-#include "app/LastWords.h"
-#include "app/Pictures.h"
 #include "qt/Spanish.h"
+#include "showroom/Demo.h"
+#include "showroom/Pictures.h"
+#include "window/Desktop.h"
+#include "window/LastWords.h"
 
 namespace fidaleon::app {
 namespace {

@@ -1,6 +1,6 @@
 #include "documents/BautismoStatements.h"
 
-#include "core/contract/Citas.h"
+#include "core/statements/Citas.h"
 
 namespace fidaleon::documents {
 

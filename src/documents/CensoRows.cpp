@@ -3,7 +3,7 @@
 #include <utility>
 #include <vector>
 
-#include "core/contract/Citas.h"
+#include "core/statements/Citas.h"
 #include "documents/TextRules.h"
 #include "text/Utf8.h"
 

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "core/contract/Citas.h"
+#include "core/statements/Citas.h"
 #include "text/Utf8.h"
 
 namespace fidaleon::documents {

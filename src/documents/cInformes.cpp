@@ -2,11 +2,11 @@
 
 #include <optional>
 
-#include "census/setup/SelecEncargado.h"
-#include "core/contract/Guard.h"
+#include "core/dialogs/Guard.h"
 #include "documents/EscribirFilas.h"
 #include "documents/Miembros.h"
 #include "documents/ProgresoImpresion.h"
+#include "setup/SelecEncargado.h"
 #include "store/Transaction.h"
 
 namespace fidaleon {

@@ -1,6 +1,6 @@
 #include <vector>
 
-#include "core/contract/Guard.h"
+#include "core/dialogs/Guard.h"
 #include "documents/CensoRows.h"
 #include "documents/CensoStatements.h"
 #include "documents/ProgresoInforme.h"

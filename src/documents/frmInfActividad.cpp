@@ -1,6 +1,6 @@
 #include "documents/frmInfActividad.h"
 
-#include "core/contract/Guard.h"
+#include "core/dialogs/Guard.h"
 #include "documents/CensoStatements.h"
 #include "documents/cInformes.h"
 

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "core/contract/Dialogo.h"
+#include "core/dialogs/Dialogo.h"
 #include "core/lists/ListaDoble.h"
 
 namespace fidaleon {

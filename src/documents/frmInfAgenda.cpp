@@ -1,6 +1,6 @@
 #include "documents/frmInfAgenda.h"
 
-#include "core/contract/Guard.h"
+#include "core/dialogs/Guard.h"
 #include "documents/CensoRows.h"
 #include "documents/CensoStatements.h"
 #include "store/Transaction.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/contract/Dialogo.h"
+#include "core/dialogs/Dialogo.h"
 
 namespace fidaleon {
 

@@ -1,6 +1,6 @@
 #include "documents/frmInfDuplicadas.h"
 
-#include "core/contract/Guard.h"
+#include "core/dialogs/Guard.h"
 #include "documents/EscribirFilas.h"
 #include "documents/ProgresoImpresion.h"
 #include "text/Numbers.h"

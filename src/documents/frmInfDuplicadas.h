@@ -4,7 +4,7 @@
 #include <optional>
 #include <string>
 
-#include "core/contract/Dialogo.h"
+#include "core/dialogs/Dialogo.h"
 #include "documents/Duplicada.h"
 
 namespace fidaleon {

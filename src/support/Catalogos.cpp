@@ -2,7 +2,7 @@
 
 #include <set>
 
-#include "core/contract/Citas.h"
+#include "core/statements/Citas.h"
 #include "store/schema/Schema.h"
 #include "text/Utf8.h"
 

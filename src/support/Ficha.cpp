@@ -1,6 +1,6 @@
 #include "support/Ficha.h"
 
-#include "core/contract/Citas.h"
+#include "core/statements/Citas.h"
 #include "text/Utf8.h"
 
 namespace fidaleon::support {

@@ -3,8 +3,8 @@
 #include <array>
 #include <vector>
 
-#include "core/contract/Guard.h"
 #include "core/contract/SesionBloqueos.h"
+#include "core/dialogs/Guard.h"
 #include "support/Catalogos.h"
 #include "support/frmInstitucion.h"
 #include "support/frmMunicipio.h"

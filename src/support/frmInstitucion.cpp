@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "core/contract/NombreRepetido.h"
+#include "core/statements/NombreRepetido.h"
 #include "support/Identidad.h"
 #include "support/Listas.h"
 #include "support/frmMunicipio.h"

@@ -1,6 +1,6 @@
 #include "support/frmMunicipio.h"
 
-#include "core/contract/NombreRepetido.h"
+#include "core/statements/NombreRepetido.h"
 #include "support/Listas.h"
 #include "support/frmProvincia.h"
 

@@ -1,6 +1,6 @@
 #include "support/frmProvincia.h"
 
-#include "core/contract/NombreRepetido.h"
+#include "core/statements/NombreRepetido.h"
 #include "text/Numbers.h"
 
 namespace fidaleon::support {

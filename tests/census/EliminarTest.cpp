@@ -1,6 +1,6 @@
 // Removing people, collaborators, activities and offices.
 
-#include "Manos.h"
+#include "census/Manos.h"
 #include "text/Utf8.h"
 
 namespace fidaleon::tests {

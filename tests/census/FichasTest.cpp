@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "Manos.h"
+#include "census/Manos.h"
 #include "support/Mantenimiento.h"
 
 namespace fidaleon::tests {

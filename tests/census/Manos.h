@@ -5,7 +5,7 @@
 #include <sstream>
 #include <utility>
 
-#include "CensoWorld.h"
+#include "census/CensoWorld.h"
 #include "census/Operaciones.h"
 #include "store/FailingEngine.h"
 

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "core/contract/Sentencia.h"
+#include "core/statements/Sentencia.h"
 
 namespace fidaleon {
 namespace {

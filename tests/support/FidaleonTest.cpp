@@ -1,7 +1,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "core/contract/Guard.h"
+#include "core/dialogs/Guard.h"
 #include "support/Fidaleon.h"
 #include "support/Listas.h"
 #include "support/TestWorld.h"

@@ -3,7 +3,7 @@
 #include <set>
 #include <stdexcept>
 
-#include "core/contract/Citas.h"
+#include "core/statements/Citas.h"
 #include "store/Transaction.h"
 
 namespace fidaleon {

@@ -4,10 +4,10 @@
 
 #include <stdexcept>
 
-#include "core/contract/Citas.h"
-#include "core/contract/NombreRepetido.h"
 #include "core/lists/Rejilla.h"
 #include "core/lists/cIListas.h"
+#include "core/statements/Citas.h"
+#include "core/statements/NombreRepetido.h"
 #include "text/Utf8.h"
 
 namespace fidaleon {

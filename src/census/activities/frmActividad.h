@@ -6,7 +6,7 @@
 
 #include "census/activities/AlmacenActividades.h"
 #include "census/activities/BloqueosDeLista.h"
-#include "core/contract/Dialogo.h"
+#include "core/dialogs/Dialogo.h"
 
 namespace fidaleon {
 

@@ -6,7 +6,7 @@
 #include <array>
 #include <stdexcept>
 
-#include "core/contract/Guard.h"
+#include "core/dialogs/Guard.h"
 #include "text/Utf8.h"
 
 namespace fidaleon {

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "census/activities/cPadronActGrupos.h"
-#include "core/contract/Dialogo.h"
+#include "core/dialogs/Dialogo.h"
 #include "core/lists/ListaDoble.h"
 
 namespace fidaleon {

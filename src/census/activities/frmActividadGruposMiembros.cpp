@@ -6,7 +6,7 @@
 #include "census/Operaciones.h"
 #include "census/activities/frmActividadGrupos.h"
 #include "census/activities/frmCargo.h"
-#include "core/contract/Guard.h"
+#include "core/dialogs/Guard.h"
 #include "text/Utf8.h"
 
 namespace fidaleon {

@@ -4,7 +4,7 @@
 
 #include "census/activities/frmActividad.h"
 #include "census/activities/frmActividadGrupos.h"
-#include "core/contract/Apunte.h"
+#include "core/statements/Apunte.h"
 
 namespace fidaleon {
 

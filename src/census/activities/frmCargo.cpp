@@ -4,8 +4,8 @@
 #include <stdexcept>
 
 #include "census/Operaciones.h"
-#include "core/contract/Citas.h"
-#include "core/contract/Guard.h"
+#include "core/dialogs/Guard.h"
+#include "core/statements/Citas.h"
 #include "text/Utf8.h"
 
 namespace fidaleon {

@@ -4,9 +4,9 @@
 
 #include "census/collaborators/frmColaborador.h"
 #include "census/collaborators/frmColaboradorActividad.h"
-#include "core/contract/Apunte.h"
 #include "core/lists/Rejilla.h"
 #include "core/lists/cIListas.h"
+#include "core/statements/Apunte.h"
 
 namespace fidaleon {
 

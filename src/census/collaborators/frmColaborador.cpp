@@ -6,7 +6,7 @@
 
 #include "census/collaborators/TablasColaborador.h"
 #include "census/common/CamposPersona.h"
-#include "core/contract/Guard.h"
+#include "core/dialogs/Guard.h"
 #include "core/lists/Rejilla.h"
 #include "core/lists/cIListas.h"
 

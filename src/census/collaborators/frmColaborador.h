@@ -11,9 +11,9 @@
 #include "census/collaborators/CampoCumpleanos.h"
 #include "census/persons/Persona.h"
 #include "census/search/BuscaCoincidencias.h"
-#include "core/contract/Columnas.h"
-#include "core/contract/Dialogo.h"
+#include "core/dialogs/Dialogo.h"
 #include "core/lists/ParProvinciaPoblacion.h"
+#include "core/statements/Columnas.h"
 
 namespace fidaleon {
 

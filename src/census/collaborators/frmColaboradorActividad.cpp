@@ -4,7 +4,7 @@
 #include <iterator>
 
 #include "census/Operaciones.h"
-#include "core/contract/Guard.h"
+#include "core/dialogs/Guard.h"
 #include "text/Utf8.h"
 
 namespace fidaleon {

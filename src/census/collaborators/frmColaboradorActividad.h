@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "census/activities/cPadronActividad.h"
-#include "core/contract/Dialogo.h"
+#include "core/dialogs/Dialogo.h"
 
 namespace fidaleon {
 

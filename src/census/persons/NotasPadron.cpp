@@ -4,9 +4,9 @@
 
 #include "census/persons/frmPadron.h"
 #include "census/search/frmPadronNotas.h"
-#include "core/contract/Apunte.h"
 #include "core/lists/Rejilla.h"
 #include "core/lists/cIListas.h"
+#include "core/statements/Apunte.h"
 
 namespace fidaleon {
 

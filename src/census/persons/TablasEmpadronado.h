@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "census/persons/Persona.h"
-#include "core/contract/Columnas.h"
+#include "core/statements/Columnas.h"
 
 namespace fidaleon {
 

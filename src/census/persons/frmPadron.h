@@ -8,7 +8,7 @@
 
 #include "census/persons/FichaEmpadronado.h"
 #include "census/search/BuscaCoincidencias.h"
-#include "core/contract/Dialogo.h"
+#include "core/dialogs/Dialogo.h"
 #include "core/lists/ParProvinciaPoblacion.h"
 
 namespace fidaleon {

@@ -1,7 +1,7 @@
 #include "census/search/BuscaCoincidencias.h"
 
 #include "census/search/frmPadronBusqueda.h"
-#include "core/contract/Citas.h"
+#include "core/statements/Citas.h"
 
 namespace fidaleon {
 

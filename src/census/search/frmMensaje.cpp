@@ -1,7 +1,7 @@
 #include "census/search/frmMensaje.h"
 
 #include "census/search/frmPadronDetalles.h"
-#include "core/contract/Guard.h"
+#include "core/dialogs/Guard.h"
 
 namespace fidaleon {
 

@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-#include "core/contract/Dialogo.h"
+#include "core/dialogs/Dialogo.h"
 
 namespace fidaleon {
 

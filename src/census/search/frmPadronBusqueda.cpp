@@ -1,7 +1,7 @@
 #include "census/search/frmPadronBusqueda.h"
 
 #include "census/search/frmPadronDetalles.h"
-#include "core/contract/Guard.h"
+#include "core/dialogs/Guard.h"
 #include "core/lists/Rejilla.h"
 #include "core/lists/cIListas.h"
 

@@ -2,7 +2,7 @@
 
 #include <stdexcept>
 
-#include "core/contract/Guard.h"
+#include "core/dialogs/Guard.h"
 #include "text/Dates.h"
 
 namespace fidaleon {

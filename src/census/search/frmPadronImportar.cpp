@@ -2,8 +2,8 @@
 
 #include "census/common/CamposPersona.h"
 #include "census/search/frmPadronBusqueda.h"
-#include "core/contract/Citas.h"
-#include "core/contract/Guard.h"
+#include "core/dialogs/Guard.h"
+#include "core/statements/Citas.h"
 #include "text/Utf8.h"
 
 namespace fidaleon {

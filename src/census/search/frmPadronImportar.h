@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <string>
 
-#include "core/contract/Dialogo.h"
+#include "core/dialogs/Dialogo.h"
 
 namespace fidaleon {
 

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "core/contract/Guard.h"
+#include "core/dialogs/Guard.h"
 #include "text/Utf8.h"
 
 namespace fidaleon {

@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "census/search/cPadronNotas.h"
-#include "core/contract/Dialogo.h"
+#include "core/dialogs/Dialogo.h"
 
 namespace fidaleon {
 

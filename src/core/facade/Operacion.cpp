@@ -1,6 +1,6 @@
 #include "core/facade/Operacion.h"
 
-#include "core/contract/Sentencia.h"
+#include "core/statements/Sentencia.h"
 
 namespace fidaleon {
 

@@ -3,9 +3,9 @@
 #include <string>
 #include <utility>
 
-#include "core/contract/Guard.h"
 #include "core/contract/Sacramento.h"
 #include "core/contract/SesionBloqueos.h"
+#include "core/dialogs/Guard.h"
 #include "core/facade/DialogoPartida.h"
 
 namespace fidaleon {

@@ -1,8 +1,8 @@
 #include "core/facade/cNucleo.h"
 
-#include "census/setup/SelecEncargado.h"
-#include "census/setup/frmDatosSetup.h"
 #include "core/facade/Operacion.h"
+#include "setup/SelecEncargado.h"
+#include "setup/frmDatosSetup.h"
 
 namespace fidaleon {
 

@@ -1,6 +1,6 @@
-#include "core/contract/Sentencia.h"
 #include "core/facade/Operacion.h"
 #include "core/facade/cNucleo.h"
+#include "core/statements/Sentencia.h"
 #include "registers/books/OperacionesLibro.h"
 #include "registers/books/frmAltaLibro.h"
 #include "registers/books/frmPropiedadesLibro.h"

@@ -1,6 +1,6 @@
-#include "core/contract/Sentencia.h"
 #include "core/facade/Operacion.h"
 #include "core/facade/cNucleo.h"
+#include "core/statements/Sentencia.h"
 #include "registers/baptism/EliminarPartida.h"
 #include "registers/cBaseDatos.h"
 

@@ -1,5 +1,5 @@
 #include "core/contract/CcNodos.h"
-#include "core/contract/Guard.h"
+#include "core/dialogs/Guard.h"
 #include "core/lists/Rejilla.h"
 #include "core/lists/cIListas.h"
 

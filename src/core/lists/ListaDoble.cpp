@@ -5,7 +5,7 @@
 #include <numeric>
 #include <unordered_set>
 
-#include "core/contract/Guard.h"
+#include "core/dialogs/Guard.h"
 
 namespace fidaleon {
 

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "core/contract/Guard.h"
+#include "core/dialogs/Guard.h"
 
 namespace fidaleon {
 

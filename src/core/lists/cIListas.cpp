@@ -2,10 +2,10 @@
 
 #include <stdexcept>
 
-#include "core/contract/Citas.h"
-#include "core/contract/Guard.h"
 #include "core/contract/Sacramento.h"
+#include "core/dialogs/Guard.h"
 #include "core/lists/cConversor.h"
+#include "core/statements/Citas.h"
 #include "forms/Form.h"
 
 namespace fidaleon {

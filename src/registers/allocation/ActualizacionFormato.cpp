@@ -3,7 +3,7 @@
 #include <optional>
 #include <string>
 
-#include "core/contract/Sentencia.h"
+#include "core/statements/Sentencia.h"
 #include "registers/allocation/FormatoLibro.h"
 #include "registers/allocation/Posicion.h"
 #include "text/Numbers.h"

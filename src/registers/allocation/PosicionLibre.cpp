@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "core/contract/Sentencia.h"
+#include "core/statements/Sentencia.h"
 #include "registers/allocation/FormatoLibro.h"
 #include "text/Numbers.h"
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 
-#include "core/contract/Sentencia.h"
+#include "core/statements/Sentencia.h"
 #include "forms/Form.h"
 #include "registers/allocation/FormatoLibro.h"
 #include "registers/allocation/LimiteFolios.h"

@@ -3,7 +3,7 @@
 #include <limits>
 #include <stdexcept>
 
-#include "core/contract/Citas.h"
+#include "core/statements/Citas.h"
 #include "registers/allocation/LimiteFolios.h"
 #include "registers/baptism/frmPartidaBautismo.h"
 #include "registers/cBaseDatos.h"

@@ -1,9 +1,9 @@
 #include "registers/baptism/EliminarPartida.h"
 
-#include "core/contract/Guard.h"
 #include "core/contract/NombreYApellidos.h"
-#include "core/contract/Sentencia.h"
 #include "core/contract/SesionBloqueos.h"
+#include "core/dialogs/Guard.h"
+#include "core/statements/Sentencia.h"
 #include "registers/baptism/FilasBautismo.h"
 
 namespace fidaleon {

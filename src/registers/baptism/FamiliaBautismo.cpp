@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
-#include "core/contract/Citas.h"
+#include "core/statements/Citas.h"
 #include "registers/baptism/frmPartidaBautismo.h"
 #include "registers/common/Guiones.h"
 #include "registers/lookup/frmBuscaPadres.h"

@@ -1,6 +1,6 @@
 // The other operations of the store on baptisms: list, fill, update, delete, annul.
 
-#include "core/contract/Guard.h"
+#include "core/dialogs/Guard.h"
 #include "registers/allocation/ActualizacionFormato.h"
 #include "registers/baptism/TablasBautismo.h"
 #include "registers/cBaseDatos.h"

@@ -1,6 +1,6 @@
 // Is the entry being accepted already in a book, and has it changed at all?
 
-#include "core/contract/Citas.h"
+#include "core/statements/Citas.h"
 #include "registers/baptism/TablasBautismo.h"
 #include "registers/baptism/frmPartidaBautismo.h"
 #include "text/Utf8.h"

@@ -1,6 +1,6 @@
 // What the controls of the baptism dialog set off.
 
-#include "core/contract/Guard.h"
+#include "core/dialogs/Guard.h"
 #include "registers/baptism/frmPartidaBautismo.h"
 #include "registers/books/frmAltaLibro.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/contract/Columnas.h"
+#include "core/statements/Columnas.h"
 #include "registers/baptism/cBautismo.h"
 
 namespace fidaleon {

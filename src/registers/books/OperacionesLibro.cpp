@@ -3,9 +3,9 @@
 #include <array>
 #include <string>
 
-#include "core/contract/Guard.h"
-#include "core/contract/Sentencia.h"
 #include "core/contract/SesionBloqueos.h"
+#include "core/dialogs/Guard.h"
+#include "core/statements/Sentencia.h"
 
 namespace fidaleon {
 

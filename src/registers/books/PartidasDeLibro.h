@@ -10,8 +10,8 @@
 #include <utility>
 #include <vector>
 
-#include "core/contract/Apunte.h"
 #include "core/contract/Contexto.h"
+#include "core/statements/Apunte.h"
 
 namespace fidaleon {
 

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "core/contract/Guard.h"
+#include "core/dialogs/Guard.h"
 #include "core/lists/cIListas.h"
 #include "registers/books/frmPropiedadesLibro.h"
 

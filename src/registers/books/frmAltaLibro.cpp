@@ -2,10 +2,10 @@
 
 #include <array>
 
-#include "core/contract/Guard.h"
-#include "core/contract/NombreRepetido.h"
-#include "core/contract/Sentencia.h"
+#include "core/dialogs/Guard.h"
 #include "core/lists/cIListas.h"
+#include "core/statements/NombreRepetido.h"
+#include "core/statements/Sentencia.h"
 #include "registers/common/NuevaInstitucion.h"
 #include "text/Utf8.h"
 

@@ -5,7 +5,7 @@
 #include <array>
 #include <stdexcept>
 
-#include "core/contract/Sentencia.h"
+#include "core/statements/Sentencia.h"
 #include "registers/books/VariantePropiedadesLibro.h"
 
 namespace fidaleon {

@@ -5,10 +5,10 @@
 #include <optional>
 #include <string>
 
-#include "core/contract/Dialogo.h"
 #include "core/contract/Sacramento.h"
-#include "core/contract/Sentencia.h"
 #include "core/contract/SesionBloqueos.h"
+#include "core/dialogs/Dialogo.h"
+#include "core/statements/Sentencia.h"
 #include "registers/books/PartidasDeLibro.h"
 
 namespace fidaleon {

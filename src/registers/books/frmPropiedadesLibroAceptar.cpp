@@ -1,8 +1,8 @@
 // Accepting and cancelling the dialog of a book.
 
-#include "core/contract/NombreRepetido.h"
-#include "core/contract/Sentencia.h"
 #include "core/lists/Elecciones.h"
+#include "core/statements/NombreRepetido.h"
+#include "core/statements/Sentencia.h"
 #include "registers/books/VariantePropiedadesLibro.h"
 #include "text/Utf8.h"
 

@@ -1,6 +1,6 @@
 // The entries of the book: the grid and its four buttons.
 
-#include "core/contract/Sentencia.h"
+#include "core/statements/Sentencia.h"
 #include "registers/books/VariantePropiedadesLibro.h"
 #include "registers/common/Anulacion.h"
 

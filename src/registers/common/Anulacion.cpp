@@ -3,8 +3,8 @@
 #include <optional>
 #include <string>
 
-#include "core/contract/Sentencia.h"
 #include "core/contract/SesionBloqueos.h"
+#include "core/statements/Sentencia.h"
 
 namespace fidaleon {
 

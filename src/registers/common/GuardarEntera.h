@@ -4,7 +4,7 @@
 #include <string>
 #include <utility>
 
-#include "core/contract/Guard.h"
+#include "core/dialogs/Guard.h"
 
 namespace fidaleon {
 

@@ -2,7 +2,7 @@
 
 #include <set>
 
-#include "core/contract/Sentencia.h"
+#include "core/statements/Sentencia.h"
 #include "registers/common/NuevaInstitucion.h"
 #include "text/Utf8.h"
 

@@ -1,6 +1,6 @@
 #include "registers/lookup/frmBuscaPadres.h"
 
-#include "core/contract/Guard.h"
+#include "core/dialogs/Guard.h"
 #include "registers/lookup/OrigenBusqueda.h"
 #include "registers/lookup/frmDetallePadres.h"
 

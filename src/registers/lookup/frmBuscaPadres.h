@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "core/contract/Dialogo.h"
+#include "core/dialogs/Dialogo.h"
 #include "registers/baptism/cBautismo.h"
 
 namespace fidaleon {

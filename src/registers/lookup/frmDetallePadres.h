@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <string>
 
-#include "core/contract/Dialogo.h"
+#include "core/dialogs/Dialogo.h"
 
 namespace fidaleon {
 

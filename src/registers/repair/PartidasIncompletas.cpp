@@ -1,8 +1,8 @@
 #include "registers/repair/PartidasIncompletas.h"
 
-#include "core/contract/Citas.h"
 #include "core/contract/NombreYApellidos.h"
-#include "core/contract/Sentencia.h"
+#include "core/statements/Citas.h"
+#include "core/statements/Sentencia.h"
 #include "registers/common/Guiones.h"
 #include "store/Transaction.h"
 #include "store/schema/Schema.h"

@@ -2,11 +2,11 @@
 
 #include <algorithm>
 
-#include "core/contract/Sentencia.h"
 #include "core/contract/SesionBloqueos.h"
-#include "core/contract/TransaccionSinVuelta.h"
 #include "core/lists/Rejilla.h"
 #include "core/lists/cIListas.h"
+#include "core/statements/Sentencia.h"
+#include "core/statements/TransaccionSinVuelta.h"
 
 namespace fidaleon {
 

@@ -3,7 +3,7 @@
 #include <functional>
 #include <vector>
 
-#include "core/contract/Dialogo.h"
+#include "core/dialogs/Dialogo.h"
 #include "registers/repair/PartidasIncompletas.h"
 
 namespace fidaleon {

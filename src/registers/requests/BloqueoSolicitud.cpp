@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "core/contract/Sentencia.h"
+#include "core/statements/Sentencia.h"
 
 namespace fidaleon {
 

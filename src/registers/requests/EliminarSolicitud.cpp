@@ -1,6 +1,6 @@
 #include "registers/requests/EliminarSolicitud.h"
 
-#include "core/contract/Guard.h"
+#include "core/dialogs/Guard.h"
 #include "registers/baptism/FilasBautismo.h"
 #include "registers/requests/BloqueoSolicitud.h"
 

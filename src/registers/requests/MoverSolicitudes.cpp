@@ -1,7 +1,7 @@
 // Moving the chosen requests into the book, each on the next position.
 
-#include "core/contract/Sentencia.h"
 #include "core/contract/SesionBloqueos.h"
+#include "core/statements/Sentencia.h"
 #include "registers/requests/frmSolicitudes.h"
 #include "text/Numbers.h"
 

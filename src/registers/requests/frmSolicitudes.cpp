@@ -2,7 +2,7 @@
 
 #include "registers/requests/frmSolicitudes.h"
 
-#include "core/contract/Sentencia.h"
+#include "core/statements/Sentencia.h"
 #include "registers/lookup/frmDetallePadres.h"
 
 namespace fidaleon {

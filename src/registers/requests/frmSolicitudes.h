@@ -3,9 +3,9 @@
 #include <cstdint>
 #include <string>
 
-#include "core/contract/Dialogo.h"
-#include "core/contract/Sentencia.h"
+#include "core/dialogs/Dialogo.h"
 #include "core/lists/ListaDoble.h"
+#include "core/statements/Sentencia.h"
 #include "registers/requests/OrigenSolicitudes.h"
 
 namespace fidaleon {

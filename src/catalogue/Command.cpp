@@ -1,0 +1,295 @@
+#include "catalogue/Command.h"
+
+#include "catalogue/Catalogue.h"
+#include "catalogue/CensusCommands.h"
+#include "catalogue/CommandParts.h"
+#include "catalogue/Documents.h"
+#include "registers/baptism/EliminarPartida.h"
+
+namespace fidaleon::app {
+namespace {
+
+constexpr unsigned BOOKS = bit(NodeKind::Books);
+constexpr unsigned ENTRIES = bit(NodeKind::Entries);
+constexpr unsigned REQUESTS = bit(NodeKind::Requests);
+constexpr unsigned INSTITUTIONS = bit(NodeKind::Institutions);
+constexpr unsigned PROVINCES = bit(NodeKind::Provinces);
+constexpr unsigned TOWNS = bit(NodeKind::Towns);
+constexpr unsigned REPORTS = bit(NodeKind::Reports);
+constexpr unsigned TASKS = bit(NodeKind::Tasks);
+constexpr unsigned CATALOGUES = INSTITUTIONS | PROVINCES | TOWNS | TASKS;
+
+const std::string& nodeName(const Choice& c) {
+  return c.node->node.Nombre;
+}
+
+void newEntry(Workplace& w, const Choice& c) {
+  w.nucleo().NuevaPartida(w.parish(), w.config(), nodeName(c));
+}
+void oldEntry(Workplace& w, const Choice& c) {
+  w.nucleo().AntiguaPartida(w.parish(), w.config(), nodeName(c));
+}
+void openEntry(Workplace& w, const Choice& c) {
+  w.nucleo().PropiedadesPartida(w.parish(), c.id, w.config(), nodeName(c));
+}
+// The list may have been read before another desk changed the entry.
+void toggleAnnulled(Workplace& w, const Choice& c) {
+  w.nucleo().AnularPartidas(w.parish(), c.id, w.config(), nodeName(c), [&](bool annulled) {
+    if (annulled != c.annulled) {
+      avisarYaEsta(w.entorno().ui, annulled);
+      return false;
+    }
+    return annulled || forms::ask(w.entorno().ui,
+                                  "La partida quedará anulada: conservará su folio y su número. "
+                                  "¿Desea anularla?");
+  });
+}
+void deleteEntry(Workplace& w, const Choice& c) {
+  w.nucleo().EliminarPartida(w.parish(), c.id, w.config(), nodeName(c));
+}
+
+void newRequest(Workplace& w, const Choice& c) {
+  w.nucleo().NuevaSolicitud(w.parish(), w.config(), nodeName(c));
+}
+void openRequest(Workplace& w, const Choice& c) {
+  w.nucleo().PropiedadesSolicitudes(w.parish(), c.id, w.config(), nodeName(c));
+}
+// The operation itself does not ask, and what it deletes cannot be brought back.
+void deleteRequest(Workplace& w, const Choice& c) {
+  if (forms::ask(w.entorno().ui, "¿Está seguro que desea eliminar la solicitud?", {},
+                 forms::Stake::Loss, nombrePartidaBautismo(w.parish(), c.id)))
+    w.nucleo().EliminarSolicitud(w.parish(), c.id, w.config(), nodeName(c));
+}
+void moveRequests(Workplace& w, const Choice& c) {
+  w.nucleo().ImportarSolicitudes(w.parish(), w.config(), nodeName(c));
+}
+
+void openBook(Workplace& w, const Choice& c) {
+  w.nucleo().PropiedadesLibro(w.parish(), c.id, w.config(), nodeName(c));
+}
+void newBook(Workplace& w, const Choice& c) {
+  w.nucleo().NuevoLibro(w.parish(), w.config(), nodeName(c));
+}
+void closeBook(Workplace& w, const Choice& c) {
+  using Operation = void (cNucleo::*)(FDAPI::Conexion&, std::int32_t, const FDAPI::cConfig&);
+  static constexpr Operation BY_SACRAMENT[] = {
+      &cNucleo::cerrarLiBautismo, &cNucleo::cerrarLiconfirmacion, &cNucleo::cerrarLiMatrimonio,
+      &cNucleo::cerrarLiDefuncion};
+  (w.nucleo().*BY_SACRAMENT[c.node->sacrament->byte])(w.parish(), c.id, w.config());
+}
+void deleteBook(Workplace& w, const Choice& c) {
+  w.nucleo().EliminarLibro(w.parish(), c.id, w.config(), nodeName(c));
+}
+
+void newCatalogueRow(Workplace& w, const Choice& c) {
+  openCatalogueRow(w, c.node->kind, 0);
+}
+void editCatalogueRow(Workplace& w, const Choice& c) {
+  openCatalogueRow(w, c.node->kind, c.id);
+}
+void removeCatalogueRow(Workplace& w, const Choice& c) {
+  deleteCatalogueRow(w, c.node->kind, c.id);
+}
+
+constexpr const char* CERTIFICATE = "certificado";
+constexpr const char* LITERAL = "literal";
+constexpr const char* ENTRY_COPY = "partida";
+constexpr const char* SLIP = "volante";
+constexpr const char* REQUEST_DATA = "datos";
+constexpr const char* BOOK = "libro";
+constexpr const char* INDEX = "indice";
+
+template <const char* const& ID>
+void document(Workplace& w, const Choice& c) {
+  if (const Document* d = findDocument(ID, w.entorno().installation.Aplicacion))
+    w.showDocument(*d, c.id);
+}
+
+void addEntryCommands(std::vector<Command>& all) {
+  all.push_back(inToolbar("new", line("nueva-partida", "&Nueva partida…", "Ins",
+                                      "Inscribe una partida en el libro nuevo abierto", ENTRIES,
+                                      Needs::Nothing, newEntry)));
+  all.push_back(inToolbar("old", line("antigua-partida", "Partida an&tigua…", "Shift+Ins",
+                                      "Transcribe una partida de un libro antiguo", ENTRIES,
+                                      Needs::Nothing, oldEntry)));
+  all.push_back(
+      opening(inToolbar("edit", line("propiedades-partida", "&Propiedades…", "Return",
+                                     "Abre la partida elegida para consultarla o corregirla",
+                                     ENTRIES, Needs::Row, openEntry))));
+  all.push_back(inToolbar("annul", line("anular", "&Anular", "Ctrl+U",
+                                        "Anula la partida: conserva su folio y su número", ENTRIES,
+                                        Needs::ValidRow, toggleAnnulled)));
+  all.push_back(inToolbar(
+      "valid", line("validar", "&Validar", "Ctrl+U", "Devuelve su validez a la partida anulada",
+                    ENTRIES, Needs::AnnulledRow, toggleAnnulled)));
+  all.push_back(
+      destructive(line("eliminar-partida", "&Eliminar", "Del",
+                       "Elimina la partida: cualquiera de un libro antiguo, la última de uno nuevo",
+                       ENTRIES, Needs::Row, deleteEntry)));
+}
+
+void addRequestCommands(std::vector<Command>& all) {
+  all.push_back(inToolbar("new", line("nueva-solicitud", "&Nueva solicitud…", "Ins",
+                                      "Recoge los datos de un bautismo que aún no está en un libro",
+                                      REQUESTS, Needs::Nothing, newRequest)));
+  all.push_back(opening(
+      inToolbar("edit", line("propiedades-solicitud", "&Propiedades…", "Return",
+                             "Abre la solicitud elegida", REQUESTS, Needs::Row, openRequest))));
+  all.push_back(
+      destructive(line("eliminar-solicitud", "&Eliminar", "Del", "Elimina la solicitud elegida",
+                       REQUESTS, Needs::Row, deleteRequest)));
+  all.push_back(inToolbar("book", line("pasar-al-libro", "Pasar al li&bro…", "Ctrl+B",
+                                       "Inscribe solicitudes en el libro nuevo abierto", REQUESTS,
+                                       Needs::Nothing, moveRequests)));
+}
+
+void addBookCommands(std::vector<Command>& all) {
+  all.push_back(inToolbar(
+      "new", line("nuevo-libro", "&Nuevo libro…", "Ins",
+                  "Abre un libro nuevo o da de alta uno antiguo", BOOKS, Needs::Nothing, newBook)));
+  all.push_back(inToolbar("lock", line("cerrar-libro", "&Cerrar libro…", "",
+                                       "Cierra el libro nuevo: no admitirá más partidas", BOOKS,
+                                       Needs::Row, closeBook)));
+  all.push_back(
+      destructive(line("eliminar-libro", "&Eliminar libro…", "Del",
+                       "Elimina un libro que no tenga partidas", BOOKS, Needs::Row, deleteBook)));
+  all.push_back(opening(ofBaptism(inToolbar(
+      "edit", line("propiedades-libro", "&Propiedades…", "Return",
+                   "Abre el libro con todas sus partidas", BOOKS, Needs::Row, openBook)))));
+  all.push_back(ofBaptism(inToolbar(
+      "list",
+      line("ver-partidas", "&Ver sus partidas", "Ctrl+Return", "Muestra las partidas de este libro",
+           BOOKS, Needs::Row, [](Workplace& w, const Choice& c) { w.showEntriesOf(c.id); }))));
+}
+
+void addRepairCommands(std::vector<Command>& all) {
+  all.push_back(line(
+      "partidas-incompletas", "Partidas &incompletas…", "",
+      "Muestra las partidas a las que les falta alguna de sus fichas", 0, Needs::Nothing,
+      [](Workplace& w, const Choice&) { w.nucleo().PartidasIncompletas(w.parish(), w.config()); }));
+}
+
+void addCatalogueCommands(std::vector<Command>& all) {
+  all.push_back(inToolbar(
+      "new", line("nueva-institucion", "&Nueva institución…", "Ins", "Da de alta una institución",
+                  INSTITUTIONS, Needs::Nothing, newCatalogueRow)));
+  all.push_back(inToolbar(
+      "new", line("nueva-provincia", "&Nueva provincia…", "Ins", "Da de alta una provincia",
+                  PROVINCES, Needs::Nothing, newCatalogueRow)));
+  all.push_back(
+      inToolbar("new", line("nuevo-municipio", "&Nuevo municipio…", "Ins",
+                            "Da de alta un municipio", TOWNS, Needs::Nothing, newCatalogueRow)));
+  all.push_back(inToolbar("new", line("nueva-tarea", "&Nueva tarea…", "Ins",
+                                      "Apunta una tarea en la agenda de la parroquia", TASKS,
+                                      Needs::Nothing, newCatalogueRow)));
+  all.push_back(opening(
+      inToolbar("edit", line("propiedades", "&Propiedades…", "Return", "Abre la ficha elegida",
+                             CATALOGUES, Needs::Row, editCatalogueRow))));
+  all.push_back(
+      destructive(line("eliminar", "&Eliminar", "Del", "Elimina la ficha elegida, si nadie la usa",
+                       CATALOGUES, Needs::Row, removeCatalogueRow)));
+}
+
+void addDocumentCommands(std::vector<Command>& all) {
+  const auto add = [&](Command c) { all.push_back(inMenu(Menu::Documents, std::move(c))); };
+  add(inToolbar("print", line("certificado", "&Certificado…", "Ctrl+P",
+                              "Certificado de la partida, firmado por el encargado del archivo",
+                              ENTRIES, Needs::Row, document<CERTIFICATE>)));
+  add(line("literal", "Certificado &literal…", "Ctrl+L", "Copia literal de la partida, firmada",
+           ENTRIES, Needs::Row, document<LITERAL>));
+  add(line("partida", "&Partida…", "Ctrl+E", "La partida tal como está en el libro", ENTRIES,
+           Needs::Row, document<ENTRY_COPY>));
+  add(line("volante", "&Volante…", "Ctrl+T", "Volante con las señas de la parroquia", ENTRIES,
+           Needs::Row, document<SLIP>));
+  add(inToolbar("print", line("datos", "&Datos de la solicitud…", "Ctrl+P",
+                              "Hoja con los datos de la solicitud", REQUESTS, Needs::Row,
+                              document<REQUEST_DATA>)));
+  add(ofBaptism(inToolbar("print", line("libro", "&Libro entero…", "Ctrl+P",
+                                        "Todas las partidas del libro, una tras otra", BOOKS,
+                                        Needs::Row, document<BOOK>))));
+  add(ofBaptism(inToolbar("print", line("indice", "Índi&ce del libro…", "Ctrl+I",
+                                        "Las partidas del libro por apellidos, con folio y número",
+                                        BOOKS, Needs::Row, document<INDEX>))));
+  add(opening(ofBaptism(inToolbar(
+      "print", line("duplicadas", "&Duplicadas de bautismo…", "Ctrl+P",
+                    "Las partidas de un año, para enviarlas a la diócesis", REPORTS, Needs::Nothing,
+                    [](Workplace& w, const Choice& c) { w.showDuplicate(nodeName(c)); })))));
+}
+
+void addWindowCommands(std::vector<Command>& all) {
+  const auto add = [&](Menu menu, Command c) { all.push_back(inMenu(menu, std::move(c))); };
+  add(Menu::View, line("actualizar", "&Actualizar", "F5", "Vuelve a leer la lista", 0,
+                       Needs::Nothing, [](Workplace&, const Choice&) {}));
+  add(Menu::View,
+      still(line("filtrar", "&Filtrar", "Ctrl+F", "Busca en la lista según se escribe", 0,
+                 Needs::Nothing, [](Workplace& w, const Choice&) { w.focusFilter(); })));
+  add(Menu::File, still(line("nueva-parroquia", "&Nueva parroquia…", "",
+                             "Crea una parroquia en otra carpeta y pasa a trabajar en ella", 0,
+                             Needs::Nothing, [](Workplace& w, const Choice&) { w.newParish(); })));
+  add(Menu::File, still(line("abrir-parroquia", "&Abrir parroquia…", "Ctrl+O",
+                             "Pasa a trabajar en la parroquia de otra carpeta", 0, Needs::Nothing,
+                             [](Workplace& w, const Choice&) { w.openParish(); })));
+  add(Menu::File,
+      still(line("cerrar-parroquia", "C&errar parroquia", "",
+                 "Deja de trabajar en esta parroquia y vuelve al comienzo", 0, Needs::Nothing,
+                 [](Workplace& w, const Choice&) { w.closeParish(); })));
+  add(Menu::File, still(line("guardar-lista", "&Guardar la lista…", "Ctrl+S",
+                             "Guarda la lista tal como se ve, para una hoja de cálculo", 0,
+                             Needs::List, [](Workplace& w, const Choice&) { w.saveList(); })));
+  add(Menu::File, still(line("copia", "&Copia de seguridad…", "",
+                             "Guarda una copia de la parroquia en otro sitio", 0, Needs::Nothing,
+                             [](Workplace& w, const Choice&) { w.backUp(); })));
+  add(Menu::File, line("volver-a-una-copia", "&Volver a una copia…", "",
+                       "Deja la parroquia como estaba cuando se hizo una copia", 0, Needs::Nothing,
+                       [](Workplace& w, const Choice&) { w.returnToCopy(); }));
+  add(Menu::File, still(line("salir", "&Salir", "Ctrl+Q", "Cierra el programa", 0, Needs::Nothing,
+                             [](Workplace& w, const Choice&) { w.leave(); })));
+  add(Menu::Help, still(line("acerca-de", "&Acerca de Fidaleon…", "", "", 0, Needs::Nothing,
+                             [](Workplace& w, const Choice&) { w.about(); })));
+}
+
+std::vector<Command> makeCommands() {
+  std::vector<Command> all;
+  addEntryCommands(all);
+  addRequestCommands(all);
+  addBookCommands(all);
+  addRepairCommands(all);
+  addCensusCommands(all);
+  addCatalogueCommands(all);
+  addDocumentCommands(all);
+  addListReportCommands(all);
+  addWindowCommands(all);
+  return all;
+}
+
+}  // namespace
+
+const std::vector<Command>& commands() {
+  static const std::vector<Command> all = makeCommands();
+  return all;
+}
+
+bool belongs(const Command& command, const Choice& choice) {
+  if (command.kinds == 0) return true;
+  if (!choice.node || !(command.kinds & bit(choice.node->kind))) return false;
+  return !command.onlyBaptism || choice.node->sacrament == &BAUTISMO;
+}
+
+bool applies(const Command& command, const Choice& choice) {
+  if (!belongs(command, choice)) return false;
+  switch (command.needs) {
+    case Needs::Nothing:
+      return true;
+    case Needs::List:
+      return choice.node && hasRows(choice.node->kind);
+    case Needs::Row:
+      return choice.id != 0;
+    case Needs::ValidRow:
+      return choice.id != 0 && !choice.annulled;
+    case Needs::AnnulledRow:
+      return choice.id != 0 && choice.annulled;
+  }
+  return false;
+}
+
+}  // namespace fidaleon::app

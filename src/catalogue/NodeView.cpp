@@ -1,0 +1,204 @@
+#include "catalogue/NodeView.h"
+
+#include "catalogue/CensusLists.h"
+#include "core/contract/CcNodos.h"
+
+namespace fidaleon::app {
+namespace {
+
+constexpr const char* SPOKEN[] = {"Bautismo", "Confirmación", "Matrimonio", "Defunción"};
+
+class Tree {
+ public:
+  NodeView& folder(const std::string& name, const NodeView* parent = nullptr) {
+    return add(name, name, NodeKind::Folder, parent);
+  }
+
+  NodeView& add(const std::string& name, const std::string& description, NodeKind kind,
+                const NodeView* parent) {
+    NodeView v;
+    v.kind = kind;
+    v.node.Nombre = name;
+    v.node.Descripcion = description;
+    v.node.IDNodo = static_cast<std::int32_t>(nodes_.size()) + 1;
+    v.node.Visible = true;
+    v.node.Expandido = true;
+    v.node.Path = description;
+    if (parent) {
+      v.node.CodPadre = parent->node.IDNodo;
+      v.node.Nivel = static_cast<std::int16_t>(parent->node.Nivel + 1);
+      v.node.Path = parent->node.Path + "\\" + description;
+      v.node.PadreDeNivel2 = v.node.Nivel > 2 ? parent->node.PadreDeNivel2 : v.node.Nombre;
+    }
+    nodes_.push_back(v);
+    return nodes_.back();
+  }
+
+  std::vector<NodeView> take() { return std::move(nodes_); }
+
+ private:
+  std::vector<NodeView> nodes_;
+};
+
+void describeBooks(NodeView& v, const Sacramento& s) {
+  const std::string table = s.tablaLibros;
+  v.sacrament = &s;
+  v.key = s.claveLibro;
+  v.thing = "libro";
+  v.things = "libros";
+  v.node.SQLSelect = "SELECT " + table + "." + v.key + ", " + table + ".Nombre, " +
+                     "Institucion.Nombre AS Institucion, Libros_Formato.Descripcion, " + table +
+                     ".FechaCreacion, " + table + ".Nuevo, " + table + ".Cerrado FROM " + table +
+                     ", Institucion, Libros_Formato WHERE Institucion.IDInstitucion=" + table +
+                     ".CodInstitucion AND Libros_Formato.IDFormato=" + table +
+                     ".CodFormato ORDER BY " + table + ".FechaCreacion, " + table + "." + v.key;
+  v.columns = {{"Nombre", "Libro", ColumnKind::Text, 22, {}},
+               {"Institucion", "Institución", ColumnKind::Text, 28, {}},
+               {"Descripcion", "Formato", ColumnKind::Text, 26, {}},
+               {"FechaCreacion", "Fecha", ColumnKind::Date, 11, {}},
+               {"Nuevo", "Tipo", ColumnKind::Flag, 9, "Nuevo|Antiguo"},
+               {"Cerrado", "Estado", ColumnKind::Flag, 9, "Cerrado|Abierto"}};
+}
+
+void describeEntries(NodeView& v) {
+  v.sacrament = &BAUTISMO;
+  v.key = "IDBautismo";
+  v.thing = "partida";
+  v.things = "partidas";
+  v.annulled = "Anulada";
+  v.group = "CodLibro";
+  v.node.SQLSelect =
+      "SELECT Bautismo.IDBautismo, Bautismo.CodLibro, Libro_Bautismo.Nombre AS Libro, "
+      "Bautismo.Folio, Bautismo.Numero, Bautismo_Hijo.Nombre, Bautismo_Hijo.PrimerApellido, "
+      "Bautismo_Hijo.SegundoApellido, Bautismo.FechaBautismo, Bautismo_Hijo.FechaNac, "
+      "Institucion.Nombre AS Institucion, Bautismo.Anulada FROM Bautismo, Bautismo_Hijo, "
+      "Libro_Bautismo, Institucion WHERE Bautismo_Hijo.CodBautismo=Bautismo.IDBautismo AND "
+      "Libro_Bautismo.IDLibroBautismo=Bautismo.CodLibro AND "
+      "Institucion.IDInstitucion=Libro_Bautismo.CodInstitucion ORDER BY "
+      "Libro_Bautismo.FechaCreacion, Bautismo.CodLibro, Bautismo.Folio, Val(Bautismo.Numero), "
+      "Bautismo.IDBautismo";
+  v.columns = {{"Libro", "Libro", ColumnKind::Text, 10, {}},
+               {"Folio", "Folio", ColumnKind::Number, 6, {}},
+               {"Numero", "Número", ColumnKind::Number, 8, {}},
+               {"Nombre", "Nombre", ColumnKind::Text, 18, {}},
+               {"PrimerApellido", "Primer apellido", ColumnKind::Text, 15, {}},
+               {"SegundoApellido", "Segundo apellido", ColumnKind::Text, 15, {}},
+               {"FechaBautismo", "Bautismo", ColumnKind::Date, 11, {}},
+               {"FechaNac", "Nacimiento", ColumnKind::Date, 11, {}},
+               {"Anulada", "Anulada", ColumnKind::Flag, 9, "Anulada|"},
+               {"Institucion", "Institución", ColumnKind::Text, 22, {}}};
+}
+
+void describeRequests(NodeView& v) {
+  v.sacrament = &BAUTISMO;
+  v.key = "IDBautismo";
+  v.thing = "solicitud";
+  v.things = "solicitudes";
+  v.node.SQLSelect =
+      "SELECT Bautismo.IDBautismo, Bautismo_Hijo.Nombre, Bautismo_Hijo.PrimerApellido, "
+      "Bautismo_Hijo.SegundoApellido, Bautismo.FechaBautismo, Bautismo_Hijo.FechaNac, "
+      "Institucion.Nombre AS Institucion FROM Bautismo, Bautismo_Hijo, Institucion WHERE "
+      "Bautismo.CodLibro=0 AND Bautismo_Hijo.CodBautismo=Bautismo.IDBautismo AND "
+      "Institucion.IDInstitucion=Bautismo.InstitucionSolicitud ORDER BY Bautismo.IDBautismo";
+  v.columns = {{"Nombre", "Nombre", ColumnKind::Text, 18, {}},
+               {"PrimerApellido", "Primer apellido", ColumnKind::Text, 15, {}},
+               {"SegundoApellido", "Segundo apellido", ColumnKind::Text, 15, {}},
+               {"FechaNac", "Nacimiento", ColumnKind::Date, 11, {}},
+               {"FechaBautismo", "Bautismo", ColumnKind::Date, 11, {}},
+               {"Institucion", "Institución", ColumnKind::Text, 28, {}}};
+}
+
+void describeInstitutions(NodeView& v) {
+  v.key = "IDInstitucion";
+  v.thing = "institución";
+  v.things = "instituciones";
+  v.node.SQLSelect =
+      "SELECT IDInstitucion, Nombre, InstitucionNombre, Domicilio, CP, Telefono, Parroco, Diocesis "
+      "FROM Institucion ORDER BY IDInstitucion";
+  v.columns = {{"Nombre", "Nombre", ColumnKind::Text, 24, {}},
+               {"InstitucionNombre", "Nombre en los documentos", ColumnKind::Text, 26, {}},
+               {"Domicilio", "Domicilio", ColumnKind::Text, 24, {}},
+               {"CP", "C. P.", ColumnKind::Text, 7, {}},
+               {"Telefono", "Teléfono", ColumnKind::Text, 13, {}},
+               {"Parroco", "Párroco", ColumnKind::Text, 26, {}},
+               {"Diocesis", "Diócesis", ColumnKind::Text, 18, {}}};
+}
+
+void describeProvinces(NodeView& v) {
+  v.key = "IDProvincia";
+  v.thing = "provincia";
+  v.things = "provincias";
+  v.node.SQLSelect = "SELECT IDProvincia, Nombre, Codigo_Oficial FROM Provincia ORDER BY Nombre";
+  v.columns = {{"Nombre", "Provincia", ColumnKind::Text, 30, {}},
+               {"Codigo_Oficial", "Código oficial", ColumnKind::Number, 14, {}}};
+}
+
+void describeTowns(NodeView& v) {
+  v.key = "IDMunicipio";
+  v.thing = "municipio";
+  v.things = "municipios";
+  v.node.SQLSelect =
+      "SELECT Municipio.IDMunicipio, Municipio.Nombre, Provincia.Nombre AS Provincia FROM "
+      "Municipio, Provincia WHERE Provincia.IDProvincia=Municipio.CodProvincia ORDER BY "
+      "Municipio.Nombre, Municipio.IDMunicipio";
+  v.columns = {{"Nombre", "Municipio", ColumnKind::Text, 34, {}},
+               {"Provincia", "Provincia", ColumnKind::Text, 26, {}}};
+}
+
+void addCensus(Tree& tree, const NodeView& parish) {
+  const auto add = [&](const char* name, NodeKind kind) -> NodeView& {
+    return tree.add(name, name, kind, &parish);
+  };
+  describePeople(add(CcNodos::PADRON, NodeKind::People));
+  describeCollaborators(add(CcNodos::COLABORADOR, NodeKind::Collaborators));
+  describeActivities(add(CcNodos::ACTIVIDAD, NodeKind::Activities));
+  describeOffices(add(CcNodos::CARGO, NodeKind::Offices));
+  describeTasks(add("Tareas", NodeKind::Tasks));
+}
+
+// Some of these read like the lists they print.
+void addListReports(Tree& tree, const NodeView& reports) {
+  for (const char* title : {CcNodos::INFACTIVIDADES, CcNodos::INFCOLABORADORES,
+                            CcNodos::INFCOLABORADORESEXTENDIDO, CcNodos::INFAGENDA})
+    tree.add(CcNodos::INFORMES + std::string(title), title, NodeKind::ListReports, &reports);
+}
+
+std::vector<NodeView> makeNodes() {
+  Tree tree;
+  const NodeView parish = tree.folder(CcNodos::GESTIONPARROQUIAL);
+  const NodeView books = tree.folder(CcNodos::LIBROS, &parish);
+  for (const Sacramento& s : SACRAMENTOS)
+    describeBooks(
+        tree.add(CcNodos::LIBROS + std::string(s.palabra), SPOKEN[s.byte], NodeKind::Books, &books),
+        s);
+  const NodeView entries = tree.folder(CcNodos::PARTIDAS, &parish);
+  describeEntries(tree.add("PartidasBautismo", SPOKEN[0], NodeKind::Entries, &entries));
+  const NodeView requests = tree.folder(CcNodos::SOLICITUDES, &parish);
+  describeRequests(tree.add("SolicitudesBautismo", SPOKEN[0], NodeKind::Requests, &requests));
+  addCensus(tree, parish);
+  const NodeView reports = tree.folder(CcNodos::INFORMESYDOCUMENTOS);
+  tree.add(CcNodos::INFDUPLICADASBAUTISMO, CcNodos::INFDUPLICADASBAUTISMO, NodeKind::Reports,
+           &reports)
+      .sacrament = &BAUTISMO;
+  addListReports(tree, reports);
+  describeInstitutions(
+      tree.add(CcNodos::INSTITUCION, CcNodos::INSTITUCION, NodeKind::Institutions, nullptr));
+  describeProvinces(tree.add(CcNodos::PROVINCIA, CcNodos::PROVINCIA, NodeKind::Provinces, nullptr));
+  describeTowns(tree.add(CcNodos::MUNICIPIO, CcNodos::MUNICIPIO, NodeKind::Towns, nullptr));
+  return tree.take();
+}
+
+}  // namespace
+
+const std::vector<NodeView>& nodeViews() {
+  static const std::vector<NodeView> nodes = makeNodes();
+  return nodes;
+}
+
+const NodeView* findNode(std::string_view name) {
+  for (const NodeView& v : nodeViews())
+    if (v.node.Nombre == name) return &v;
+  return nullptr;
+}
+
+}  // namespace fidaleon::app

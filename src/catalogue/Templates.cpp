@@ -1,0 +1,14 @@
+#include "catalogue/Templates.h"
+
+#include <QCoreApplication>
+
+namespace fidaleon::app {
+
+std::filesystem::path templateDirectory() {
+  const std::filesystem::path program = QCoreApplication::applicationDirPath().toStdString();
+  for (const char* place : {"templates", "../share/fidaleon/templates"})
+    if (std::filesystem::is_directory(program / place)) return program / place;
+  return FIDALEON_TEMPLATES;
+}
+
+}  // namespace fidaleon::app

@@ -1,0 +1,137 @@
+#include "parish/copies/SafetyCopies.h"
+
+#include <sys/stat.h>
+
+#include <algorithm>
+#include <system_error>
+#include <tuple>
+
+#include "files/Durable.h"
+#include "files/PrivateFile.h"
+#include "parish/copies/CopyRetention.h"
+#include "store/FileFault.h"
+#include "store/Open.h"
+
+namespace fidaleon::app {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr const char* BY_HAND = ".copia";
+constexpr const char* UNFINISHED = ".parte";
+
+[[noreturn]] void refuse(const fs::path& where, const std::error_code& why) {
+  throw store::fileFault("No se puede escribir en", where, why);
+}
+
+Moment lastWritten(const fs::path& file) {
+  struct stat facts = {};
+  return ::stat(file.c_str(), &facts) == 0 ? momentOf(facts.st_mtime) : Moment();
+}
+
+bool newerFirst(const SafetyCopy& a, const SafetyCopy& b) {
+  return std::tie(b.moment, b.ordinal, b.file) < std::tie(a.moment, a.ordinal, a.file);
+}
+
+/// False for what is no copy. An empty file is the name of one that is being made.
+bool describe(const fs::directory_entry& entry, SafetyCopy& copy) {
+  std::error_code failed;
+  if (!entry.is_regular_file(failed)) return false;
+  copy.file = entry.path();
+  copy.bytes = entry.file_size(failed);
+  if (failed || copy.bytes == 0) return false;
+  if (const auto name = CopyName::parse(copy.file.filename().string())) {
+    copy.moment = name->moment;
+    copy.ordinal = name->ordinal;
+    copy.before = name->before;
+    return true;
+  }
+  copy.moment = lastWritten(copy.file);
+  return copy.file.extension() == BY_HAND;
+}
+
+template <class Each>
+void forEachFile(const fs::path& directory, const Each& each) {
+  std::error_code failed;
+  fs::directory_iterator at(directory, failed);
+  for (; !failed && at != fs::directory_iterator(); at.increment(failed)) each(*at);
+}
+
+}  // namespace
+
+// Names of one second sort as they are taken. An empty file takes a name, so that two workstations
+// never write the same copy.
+fs::path SafetyCopies::reserve(CopyName name) const {
+  forEachFile(directory_, [&](const fs::directory_entry& entry) {
+    const auto other = CopyName::parse(entry.path().filename().string());
+    if (other && other->moment == name.moment)
+      name.ordinal = std::max(name.ordinal, other->ordinal + 1);
+  });
+  for (;; ++name.ordinal) {
+    const fs::path file = directory_ / name.file();
+    try {
+      files::create(file);
+      return file;
+    } catch (const std::system_error& e) {
+      if (e.code() != std::errc::file_exists) refuse(directory_, e.code());
+    }
+  }
+}
+
+fs::path SafetyCopies::make(store::Connection& parish, const std::string& before,
+                            const Moment& now) const {
+  try {
+    files::makeFolders(directory_);
+  } catch (const std::system_error& e) {
+    refuse(directory_.parent_path(), e.code());
+  }
+  const fs::path file = reserve({now, 1, before});
+  try {
+    store::backupDatabase(parish, file);
+  } catch (...) {
+    remove(file);
+    throw;
+  }
+  return file;
+}
+
+std::vector<SafetyCopy> SafetyCopies::list() const {
+  std::vector<SafetyCopy> all;
+  forEachFile(directory_, [&](const fs::directory_entry& entry) {
+    SafetyCopy copy;
+    if (describe(entry, copy)) all.push_back(std::move(copy));
+  });
+  std::sort(all.begin(), all.end(), newerFirst);
+  return all;
+}
+
+void SafetyCopies::prune(const Moment& now) const {
+  std::vector<SafetyCopy> ours = list();
+  std::erase_if(ours, [&](const SafetyCopy& copy) { return copy.byHand() || copy.moment > now; });
+  std::vector<text::Date> days;
+  for (const SafetyCopy& copy : ours) days.push_back(copy.moment.day);
+  for (const std::size_t place : superfluous(days)) remove(ours[place].file);
+  removeRests(now.day);
+}
+
+void SafetyCopies::removeRests(const text::Date& today) const {
+  std::vector<fs::path> rests;
+  forEachFile(directory_, [&](const fs::directory_entry& entry) {
+    std::error_code failed;
+    fs::path name = entry.path().filename();
+    const bool unfinished = name.extension().string().starts_with(UNFINISHED);
+    if (unfinished) name = name.stem();
+    const auto said = CopyName::parse(name.string());
+    const bool empty = entry.is_regular_file(failed) && entry.file_size(failed) == 0;
+    if (said && said->moment.day < today && (unfinished || empty)) rests.push_back(entry.path());
+  });
+  for (const fs::path& rest : rests) remove(rest);
+}
+
+void SafetyCopies::remove(const fs::path& copy) noexcept {
+  std::error_code ignored;
+  fs::remove(copy, ignored);
+}
+
+}  // namespace fidaleon::app

@@ -1,0 +1,219 @@
+#include "sample/SamplePopulation.h"
+
+#include <algorithm>
+#include <deque>
+#include <random>
+
+#include "sample/SampleNames.h"
+
+namespace fidaleon::app::sample {
+namespace {
+
+constexpr int FIRST_YEAR = 1924;
+constexpr int FOUNDERS = 12;
+constexpr int YEARS_BETWEEN_FOUNDERS = 2;
+constexpr int NEW_NAMES_FROM = 1988;
+
+constexpr std::array<std::string_view, 7> MINISTERS{
+    {"Anselmo Carrascosa Ruipérez", "Hilario Zorita Manzano", "Cosme Peñalba Ortún",
+     "Evaristo Montalvo Rincón", "Jacinto Olivares Bermejo", "Abilio Santacana Prieto",
+     "Rogelio Villamor Escribano"}};
+
+/// Numbers that are the same on every machine: the distributions of the library are not.
+class Dice {
+ public:
+  explicit Dice(std::uint32_t seed) : engine_(seed) {}
+  int upTo(int n) { return static_cast<int>(engine_() % static_cast<std::uint32_t>(n)); }
+  int between(int low, int high) { return low + upTo(high - low + 1); }
+  bool oneIn(int n) { return upTo(n) == 0; }
+  template <class List>
+  std::string pick(const List& list) {
+    return std::string(list[static_cast<std::size_t>(upTo(static_cast<int>(list.size())))]);
+  }
+
+ private:
+  std::mt19937 engine_;
+};
+
+text::Date daysAfter(text::Date d, int days) {
+  static constexpr int LENGTH[] = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
+  d.day += days;
+  while (d.day > LENGTH[d.month - 1]) {
+    d.day -= LENGTH[d.month - 1];
+    if (++d.month > 12) d.month = 1, ++d.year;
+  }
+  return d;
+}
+
+class Builder {
+ public:
+  Builder(std::uint32_t seed, int home, const std::string& parish, const text::Date& last)
+      : dice_(seed), home_(home), parish_(parish), last_(last) {}
+
+  Population run() {
+    for (int i = 0; i < FOUNDERS; ++i) found(i);
+    while (!waiting_.empty()) {
+      const int couple = waiting_.front();
+      waiting_.pop_front();
+      haveChildren(couple);
+    }
+    std::stable_sort(made_.baptisms.begin(), made_.baptisms.end(),
+                     [](const Baptism& a, const Baptism& b) { return a.day < b.day; });
+    return std::move(made_);
+  }
+
+ private:
+  Person stranger(bool woman, int year) {
+    Person p;
+    p.woman = woman;
+    p.name = givenName(woman, year);
+    p.first = dice_.pick(SURNAMES);
+    do p.second = dice_.pick(SURNAMES);
+    while (p.second == p.first);
+    p.town = dice_.oneIn(2) ? home_ : dice_.upTo(static_cast<int>(TOWNS.size()));
+    return p;
+  }
+
+  std::string givenName(bool woman, int year) {
+    if (year >= NEW_NAMES_FROM) return woman ? dice_.pick(GIRLS_NEW) : dice_.pick(BOYS_NEW);
+    std::string name = woman ? dice_.pick(GIRLS_OLD) : dice_.pick(BOYS_OLD);
+    if (woman && dice_.oneIn(3) && name != "María") name = "María " + name;
+    return name;
+  }
+
+  std::string ancestor(bool woman, const std::string& first) {
+    return givenName(woman, 1900) + " " + first + " " + dice_.pick(SURNAMES);
+  }
+
+  void found(int position) {
+    const text::Date wedding{FIRST_YEAR - 1 + position * YEARS_BETWEEN_FOUNDERS, 1 + dice_.upTo(12),
+                             1 + dice_.upTo(28)};
+    Person father = stranger(false, 1900);
+    Person mother = stranger(true, 1900);
+    // The first founders carry the names that the whole valley descends from.
+    father.first = std::string(SURNAMES[static_cast<std::size_t>(position)]);
+    if (father.second == father.first) father.second = "Arribas";
+    marry(father, mother, nullptr, nullptr, wedding);
+  }
+
+  void grandparents(Couple& c, const Couple* his, const Couple* hers) {
+    c.fathersFather = his ? his->father.full() : ancestor(false, c.father.first);
+    c.fathersMother = his ? his->mother.full() : ancestor(true, c.father.second);
+    c.fathersTown = his ? his->father.town : c.father.town;
+    c.mothersFather = hers ? hers->father.full() : ancestor(false, c.mother.first);
+    c.mothersMother = hers ? hers->mother.full() : ancestor(true, c.mother.second);
+    c.mothersTown = hers ? hers->father.town : c.mother.town;
+  }
+
+  void marry(const Person& father, const Person& mother, const Couple* his, const Couple* hers,
+             const text::Date& wedding) {
+    Couple c;
+    c.father = father;
+    c.mother = mother;
+    grandparents(c, his, hers);
+    c.trade = dice_.pick(TRADES);
+    c.street = dice_.pick(STREETS) + ", " + std::to_string(dice_.between(1, 48));
+    c.wedding = wedding;
+    const bool here = !dice_.oneIn(4);
+    c.weddingParish = here ? parish_ : dice_.pick(PARISHES);
+    c.weddingTown = here ? home_ : mother.town;
+    made_.couples.push_back(c);
+    waiting_.push_back(static_cast<int>(made_.couples.size()) - 1);
+  }
+
+  void haveChildren(int couple) {
+    text::Date birth = made_.couples[static_cast<std::size_t>(couple)].wedding;
+    const int most = birth.year < 1955 ? 4 : birth.year < 1985 ? 3 : 2;
+    const int count = dice_.between(1, most);
+    std::vector<std::string> names;
+    for (int i = 0; i < count; ++i) {
+      birth = daysAfter(birth, dice_.between(400, 1100));
+      const text::Date day =
+          daysAfter(birth, birth.year < 1975 ? dice_.between(2, 12) : dice_.between(30, 180));
+      if (day > last_) return;
+      baptise(couple, birth, day, names);
+    }
+  }
+
+  void baptise(int couple, const text::Date& birth, const text::Date& day,
+               std::vector<std::string>& names) {
+    const Couple parents = made_.couples[static_cast<std::size_t>(couple)];
+    Baptism b;
+    b.girl = dice_.oneIn(2);
+    do b.name = givenName(b.girl, birth.year);
+    while (std::find(names.begin(), names.end(), b.name) != names.end());
+    names.push_back(b.name);
+    b.birth = birth;
+    b.day = day;
+    b.couple = couple;
+    if (!dice_.oneIn(3)) {
+      const std::string hour = std::to_string(dice_.between(10, 23));
+      b.hour = hour + (dice_.oneIn(2) ? ":30" : ":00");
+    }
+    sponsors(b, parents);
+    const int era = (day.year - FIRST_YEAR) * static_cast<int>(MINISTERS.size()) /
+                    (last_.year - FIRST_YEAR + 1);
+    b.minister = std::string(MINISTERS[static_cast<std::size_t>(era)]);
+    grow(b, parents);
+    made_.baptisms.push_back(b);
+  }
+
+  void sponsors(Baptism& b, const Couple& parents) {
+    b.godfather = givenName(false, b.birth.year - 35) + " " +
+                  (dice_.oneIn(2) ? parents.father.first : parents.mother.first) + " " +
+                  dice_.pick(SURNAMES);
+    b.godmother = givenName(true, b.birth.year - 35) + " " +
+                  (dice_.oneIn(2) ? parents.mother.first : parents.father.first) + " " +
+                  dice_.pick(SURNAMES);
+  }
+
+  // What the register learns later: confirmation, marriage, and whether the entry was a mistake.
+  void grow(Baptism& b, const Couple& parents) {
+    if (dice_.oneIn(37)) {
+      b.annulled = true;
+      b.remarks = "Partida anulada por haberse inscrito dos veces.";
+      return;
+    }
+    const text::Date confirmed{b.day.year + dice_.between(12, 16), dice_.between(4, 6),
+                               dice_.between(1, 28)};
+    if (confirmed <= last_ && !dice_.oneIn(4))
+      b.marginalNotes =
+          "Recibió la Confirmación en esta parroquia el día " + text::toShort(confirmed) + ".";
+    const text::Date wedding{b.day.year + dice_.between(23, 32), 1 + dice_.upTo(12),
+                             dice_.between(1, 28)};
+    if (wedding > last_ || dice_.oneIn(3)) return;
+    settle(b, parents, wedding);
+  }
+
+  void settle(Baptism& b, const Couple& parents, const text::Date& wedding) {
+    Person own{b.name, parents.father.first, parents.mother.first, home_, b.girl};
+    Person spouse = stranger(!b.girl, wedding.year - 26);
+    if (spouse.first == own.first) spouse.first = "Carrasco";
+    if (b.girl)
+      marry(spouse, own, nullptr, &parents, wedding);
+    else
+      marry(own, spouse, &parents, nullptr, wedding);
+    const Couple& c = made_.couples.back();
+    if (!b.marginalNotes.empty()) b.marginalNotes += "\r\n";
+    b.marginalNotes += "Contrajo matrimonio con " + spouse.full() + " en la parroquia " +
+                       c.weddingParish + " de " +
+                       std::string(TOWNS[static_cast<std::size_t>(c.weddingTown)].name) +
+                       " el día " + text::toShort(wedding) + ".";
+  }
+
+  Dice dice_;
+  int home_;
+  std::string parish_;
+  text::Date last_;
+  Population made_;
+  std::deque<int> waiting_;
+};
+
+}  // namespace
+
+Population makePopulation(std::uint32_t seed, int home, const std::string& parish,
+                          const text::Date& last) {
+  return Builder(seed, home, parish, last).run();
+}
+
+}  // namespace fidaleon::app::sample

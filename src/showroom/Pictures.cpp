@@ -1,0 +1,319 @@
+#include "showroom/Pictures.h"
+
+#include <QLineEdit>
+#include <QTableWidget>
+#include <QTemporaryDir>
+#include <array>
+
+#include "catalogue/Documents.h"
+#include "core/contract/CcNodos.h"
+#include "parish/Desk.h"
+#include "parish/NewParish.h"
+#include "registers/lookup/frmBuscaPadres.h"
+#include "registers/lookup/frmDetallePadres.h"
+#include "sample/SampleParish.h"
+#include "showroom/DemoScripts.h"
+#include "showroom/PictureAlbum.h"
+#include "showroom/PicturesPeople.h"
+#include "store/Open.h"
+#include "support/Clocks.h"
+#include "support/MemorySettings.h"
+#include "support/frmInstitucion.h"
+#include "support/frmMunicipio.h"
+#include "support/frmProvincia.h"
+#include "window/CopiesDialog.h"
+#include "window/FirstRunWizard.h"
+#include "window/MainWindow.h"
+#include "window/PreviewDialog.h"
+
+namespace fidaleon::app {
+namespace {
+
+constexpr const char* USER = "Secretaría";
+
+struct Edition {
+  const char* code;
+  const char* name;
+};
+constexpr std::array<Edition, 4> EDITIONS{{
+    {FDAPI::cCAplicacion::APP_FIDALEON_MADRID, "madrid"},
+    {FDAPI::cCAplicacion::APP_FIDALEON_SANTIAGO, "santiago"},
+    {FDAPI::cCAplicacion::APP_FIDALEON_ZARAGOZA, "zaragoza"},
+    {FDAPI::cCAplicacion::APP_FIDALEON_MENORCA, "menorca"},
+}};
+
+/// The pictures of one edition, taken on a sample parish of its own.
+class EditionSitting {
+ public:
+  EditionSitting(PictureAlbum& album, const Edition& edition,
+                 const std::filesystem::path& directory)
+      : album_(album),
+        edition_(edition),
+        user_(album, std::string("dialogo-") + edition.name + "-") {
+    NewParish parish;
+    parish.name = "San Esteban Protomártir";
+    parish.edition = edition.code;
+    parish.user = USER;
+    parish.content = Content::Sample;
+    parish.directory = directory / edition.name;
+    createParish(parish, clock_.today(), fillSampleParish);
+    desk_ = std::make_unique<Desk>(ParishFiles(parish.directory), USER, user_, settings_, clock_);
+  }
+
+  void entryDialogs() {
+    cNucleo& n = desk_->nucleo();
+    auto& con = desk_->parish();
+    const auto& config = desk_->config();
+    user_.take("partida-nueva", [&] { n.NuevaPartida(con, config, ENTRIES); });
+    user_.take("partida-antigua", [&] { n.AntiguaPartida(con, config, ENTRIES); });
+    user_.take("partida-propiedades-libro-nuevo",
+               [&] { n.PropiedadesPartida(con, newest(), config, ENTRIES); });
+    user_.take("partida-propiedades-libro-antiguo",
+               [&] { n.PropiedadesPartida(con, 1, config, ENTRIES); });
+    if (const std::int32_t id = one("SELECT IDBautismo FROM Bautismo WHERE Anulada=true"))
+      user_.take("partida-anulada", [&] { n.PropiedadesPartida(con, id, config, ENTRIES); });
+    user_.take("solicitud-nueva", [&] { n.NuevaSolicitud(con, config, REQUESTS); });
+    user_.take("solicitud-propiedades",
+               [&] { n.PropiedadesSolicitudes(con, request(), config, REQUESTS); });
+  }
+
+  void bookDialogs() {
+    for (const Sacramento& s : SACRAMENTOS) {
+      user_.pose = [](forms::FormDriver& d) {
+        auto& list = d.get<forms::ComboBox>("cboInstituciones");
+        if (list.listCount() > 0) d.choose("cboInstituciones", list.list(0));
+        d.click("optAntiguo");
+      };
+      user_.take(plainName(std::string("libro-nuevo-") + s.palabra), [&] {
+        desk_->nucleo().NuevoLibro(desk_->parish(), desk_->config(),
+                                   std::string("Libros") + s.palabra);
+      });
+    }
+  }
+
+  void bookProperties() {
+    const auto open = [this](const char* name, std::int32_t id) {
+      user_.take(name, [&] {
+        desk_->nucleo().PropiedadesLibro(desk_->parish(), id, desk_->config(), "LibrosBautismo");
+      });
+    };
+    const std::int32_t current = one("SELECT IDLibroBautismo FROM Libro_Bautismo WHERE Nuevo=true");
+    open("libro-nuevo-abierto", current);
+    open("libro-antiguo", one("SELECT IDLibroBautismo FROM Libro_Bautismo WHERE Nuevo=false"));
+    takeRequests();
+    user_.take("duplicadas", [&] {
+      std::string order;
+      desk_->nucleo().ImprimirDuplicadas(desk_->parish(), desk_->reports(), DUPLICATE, order);
+    });
+    desk_->parish().Execute("UPDATE Libro_Bautismo SET Cerrado=true WHERE IDLibroBautismo=" +
+                            std::to_string(current));
+    open("libro-nuevo-cerrado", current);
+    desk_->parish().Execute("UPDATE Libro_Bautismo SET Cerrado=false WHERE IDLibroBautismo=" +
+                            std::to_string(current));
+  }
+
+  void takeRequests() {
+    user_.pose = [](forms::FormDriver& d) {
+      d.chooseData("cboInstitucion", OWN);
+      d.tab("mstSolicitudes", 1);
+      auto& requests = d.get<forms::ListBox>("lstSolicitudes(0)");
+      if (requests.listCount() > 1) requests.setSelected(1, true);
+      d.click("cmdMover(0)");
+    };
+    user_.take("pasar-solicitudes", [&] {
+      desk_->nucleo().ImportarSolicitudes(desk_->parish(), desk_->config(), REQUESTS);
+    });
+  }
+
+  void otherDialogs() {
+    user_.take("encargado", [&] {
+      std::string date, keeper;
+      desk_->nucleo().SelecEncargado(desk_->parish(), "Bautismo", 1, date, keeper);
+    });
+    Entorno& e = desk_->entorno();
+    auto& con = desk_->parish();
+    const auto& config = desk_->config();
+    show<support::frmInstitucion>("institucion", e.ui, e.settings, e.clock, con, config, 1);
+    show<support::frmProvincia>("provincia", e.ui, e.settings, e.clock, con, config, 28);
+    show<support::frmMunicipio>("municipio", e.ui, e.settings, e.clock, con, config, 1);
+    familyDialogs();
+    con.Execute("UPDATE Institucion SET Parroco=\"\", Diocesis=\"\", Vicaria=\"\"");
+    user_.take("datos-necesarios", [&] { desk_->setUp(); });
+  }
+
+  void people() { photographPeople(album_, user_, *desk_); }
+
+  void copies() {
+    const SafetyCopies kept(desk_->files().directory);
+    CopiesDialog none(kept.list(), kept.directory());
+    album_.add("copias-ninguna", none);
+    Moment moment{clock_.today(), 9, 15, 40};
+    for (const char* before :
+         {"Eliminar en Partidas, Bautismo", "Eliminar en Colaboradores", "Eliminar en Padrón"}) {
+      kept.make(desk_->parish(), before, moment);
+      ++moment.hour;
+    }
+    store::backupDatabase(desk_->parish(), kept.directory() / "parroquia.copia");
+    CopiesDialog some(kept.list(), kept.directory());
+    album_.add("copias", some);
+  }
+
+  void documents() {
+    for (const Document& d : app::documents()) {
+      if (findDocument(d.command, edition_.code) != &d) continue;
+      const std::int32_t id = d.kind == NodeKind::Requests ? request()
+                              : d.kind == NodeKind::Books  ? LAST_BOOK
+                                                           : 1;
+      user_.pose = acceptKeeper;
+      const auto report = makeReport(*desk_, d, id);
+      user_.pose = {};
+      album_.add(documentName(d.command), report);
+    }
+    user_.pose = [year = lastYear()](forms::FormDriver& d) {
+      d.chooseData("cboInstitucion", OWN);
+      d.type("adtpAno", year);
+      d.choose("cboOrden", "Fecha de Bautismo");
+      d.click("cmdBoton(0)");
+    };
+    const auto duplicate = makeDuplicate(*desk_, DUPLICATE);
+    user_.pose = {};
+    album_.add(documentName("duplicado"), duplicate);
+  }
+
+  void windows() {
+    MainWindow window(*desk_);
+    window.resize(1200, 700);
+    for (const char* node :
+         {"PartidasBautismo", "SolicitudesBautismo", "LibrosBautismo", "Duplicadas de bautismo",
+          "Instituciones", "Municipios", CcNodos::PADRON, CcNodos::COLABORADOR, CcNodos::ACTIVIDAD,
+          CcNodos::CARGO, "Tareas"}) {
+      window.showNode(node);
+      album_.add("ventana-" + plainName(node), window);
+    }
+    window.showNode("PartidasBautismo");
+    window.filter().setText("garcia");
+    album_.add("ventana-filtrada", window);
+    window.showEntriesOf(LAST_BOOK);
+    album_.add("ventana-partidas-de-un-libro", window);
+    const Document* d = findDocument("certificado", edition_.code);
+    user_.pose = acceptKeeper;
+    if (auto report = makeReport(*desk_, *d, 1)) {
+      PreviewDialog preview(std::move(*report));
+      preview.resize(900, 900);
+      album_.add("vista-previa", preview);
+    }
+  }
+
+ private:
+  template <class Dialog>
+  void show(const std::string& name, forms::UserInterface& ui, Settings& settings, Clock& clock,
+            store::Connection& con, const FDAPI::cConfig& config, std::int32_t id) {
+    Dialog dialog(ui, settings, clock, con, config, id);
+    user_.take(name, [&] { dialog.Show(); });
+  }
+
+  void familyDialogs() {
+    Contexto context(desk_->entorno());
+    context.gobjConfig = &desk_->config();
+    frmBuscaPadres search(context);
+    search.conBaseDatos = &desk_->parish();
+    search.Origen = FDAPI::cCOrigen::LISTAPARTIDASBAUTISMO;
+    auto set = desk_->parish().Execute(
+        "SELECT IDBautismo, PrimerApellido, SegundoApellido, CodPadres, CodMadres, CodMatrimonio "
+        "FROM Bautismo, Bautismo_Hijo WHERE CodBautismo=IDBautismo AND IDBautismo<4");
+    for (; !set.EOF_(); set.MoveNext()) {
+      FilaBusqueda row;
+      row.IDBautismo = static_cast<std::int32_t>(set.integer("IDBautismo"));
+      row.PrimerApellido = set.text("PrimerApellido");
+      row.SegundoApellido = set.text("SegundoApellido");
+      row.CodPadres = static_cast<std::int32_t>(set.integer("CodPadres"));
+      row.CodMadres = static_cast<std::int32_t>(set.integer("CodMadres"));
+      row.CodMatrimonio = static_cast<std::int32_t>(set.integer("CodMatrimonio"));
+      search.strApellidos = row.PrimerApellido + " " + row.SegundoApellido;
+      search.filas.push_back(row);
+    }
+    user_.take("busca-padres", [&] { search.Show(); });
+    frmDetallePadres details(context);
+    details.conBaseDatos = &desk_->parish();
+    details.Origen = FDAPI::cCOrigen::LISTAPARTIDASBAUTISMO;
+    details.lngID = 1;
+    user_.take("detalle-padres", [&] { details.Show(); });
+  }
+
+  std::string documentName(const std::string& command) const {
+    return "documento-" + std::string(edition_.name) + "-" + command;
+  }
+
+  std::int32_t one(const std::string& sql) {
+    const auto rows = desk_->parish().Execute(sql);
+    return rows.EOF_() ? 0 : static_cast<std::int32_t>(rows.Fields(0).Value().integer());
+  }
+  std::int32_t newest() {
+    return one("SELECT MAX(IDBautismo) AS ID FROM Bautismo WHERE CodLibro<>0");
+  }
+  std::string lastYear() {
+    return desk_->parish()
+        .Execute("SELECT FechaBautismo FROM Bautismo WHERE IDBautismo=" + std::to_string(newest()))
+        .text("FechaBautismo")
+        .substr(0, 4);
+  }
+  std::int32_t request() {
+    return one("SELECT MAX(IDBautismo) AS ID FROM Bautismo WHERE CodLibro=0");
+  }
+
+  static void acceptKeeper(forms::FormDriver& d) { d.click("cmdBoton(0)"); }
+
+  static constexpr const char* ENTRIES = "PartidasBautismo";
+  static constexpr const char* REQUESTS = "SolicitudesBautismo";
+  static constexpr const char* DUPLICATE = CcNodos::INFDUPLICADASBAUTISMO;
+  static constexpr std::int32_t LAST_BOOK = 2;
+  static constexpr std::int32_t OWN = 1;  // of the two institutions
+  PictureAlbum& album_;
+  Edition edition_;
+  Photographer user_;
+  support::MemorySettings settings_;
+  support::SystemClock clock_;
+  std::unique_ptr<Desk> desk_;
+};
+
+void firstRunPages(PictureAlbum& album) {
+  NewParish proposal;
+  proposal.user = USER;
+  proposal.province = 28;
+  proposal.name = "San Esteban Protomártir";
+  proposal.town = demo::TOWN;
+  proposal.directory = "/home/parroquia/fidaleon";
+  FirstRunWizard wizard(proposal);
+  wizard.show();
+  album.add("primera-vez-1", wizard);
+  wizard.next();
+  album.add("primera-vez-2", wizard);
+}
+
+}  // namespace
+
+bool renderPictures(const std::filesystem::path& directory, std::ostream& out) {
+  std::filesystem::create_directories(directory);
+  PictureAlbum album(directory, out);
+  const QTemporaryDir parishes;
+  try {
+    firstRunPages(album);
+    for (const Edition& edition : EDITIONS) {
+      EditionSitting sitting(album, edition, parishes.path().toStdString());
+      sitting.entryDialogs();
+      sitting.documents();
+      if (&edition != &EDITIONS.front()) continue;
+      sitting.windows();
+      sitting.bookDialogs();
+      sitting.bookProperties();
+      sitting.people();
+      sitting.copies();
+      sitting.otherDialogs();
+    }
+  } catch (const std::exception& e) {
+    album.miss("imágenes", e.what());
+  }
+  return album.complete();
+}
+
+}  // namespace fidaleon::app

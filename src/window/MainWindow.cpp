@@ -1,0 +1,383 @@
+#include "window/MainWindow.h"
+
+#include <QAction>
+#include <QCloseEvent>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QSplitter>
+#include <QStackedWidget>
+#include <QStatusBar>
+#include <QTableView>
+#include <QTimer>
+#include <QToolBar>
+#include <QToolButton>
+#include <QTreeView>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <chrono>
+
+#include "catalogue/Documents.h"
+#include "parish/WindowSettings.h"
+#include "qt/Appearance.h"
+#include "window/PreviewDialog.h"
+#include "window/TreeModel.h"
+
+namespace fidaleon::app {
+namespace {
+
+const char* hintOf(NodeKind kind) {
+  switch (kind) {
+    case NodeKind::Reports:
+      return "Pulse Intro en el árbol, o Ctrl+P, para imprimir.";
+    case NodeKind::ListReports:
+      return "Pulse Intro en el árbol, o Ctrl+P, para elegir qué se imprime.\n"
+             "Con Ctrl+Mayús+P se imprime todo.";
+    default:
+      return "Elija un apartado del árbol.";
+  }
+}
+
+}  // namespace
+
+MainWindow::MainWindow(Desk& desk, FormWatch* watch, QWidget* parent)
+    : QMainWindow(parent),
+      desk_(desk),
+      watch_(watch),
+      door_(desk.entorno().settings, desk.entorno().clock),
+      copies_(desk.files().directory),
+      removals_(desk.parish()),
+      daily_(desk, [this] { sayDamaged(); }),
+      identity_(files::identityOf(desk.files().parish())),
+      others_(desk.parish()) {
+  takeUpLog();
+  setObjectName("MainWindow");
+  setPalette(qt::legible(palette()));
+  splitter_ = new QSplitter(this);
+  setCentralWidget(splitter_);
+  buildTree();
+  buildList();
+  buildCommands();
+  buildStatusBar();
+  showParishName();
+  splitter_->setStretchFactor(1, 1);
+  restoreWindow();
+  showNode("PartidasBautismo");
+  table_->setFocus();
+  const auto every = [this](std::chrono::seconds pause, auto work) {
+    auto* timer = new QTimer(this);
+    connect(timer, &QTimer::timeout, this, work);
+    timer->start(pause);
+  };
+  every(std::chrono::seconds(30), [this] { desk_.presence().tellAgain(); });
+  every(std::chrono::seconds(3), [this] { renewIfChanged(); });
+}
+
+MainWindow::~MainWindow() = default;
+
+QAction* MainWindow::action(const std::string& command) const {
+  return actions_.at(command);
+}
+
+void MainWindow::showNode(const std::string& name) {
+  const QModelIndex index = treeIndexOf(*tree_->model(), name);
+  if (index.isValid()) tree_->setCurrentIndex(index);
+}
+
+void MainWindow::nodeChosen() {
+  const QModelIndex index = tree_->currentIndex();
+  const NodeView* chosen = findNode(index.data(NodeNameRole).toString().toStdString());
+  if (!chosen || chosen == node_) return;
+  rememberColumns();
+  node_ = chosen;
+  filter_->clear();
+  setScope(0, {});
+  right_->setCurrentIndex(hasRows(node_->kind) ? 1 : 0);
+  folder_->setText(tr(hintOf(node_->kind)));
+  loadRows();
+  applyColumns();
+  selectFirst();
+  updateCommands();
+}
+
+// The first row, or the next that is to come.
+void MainWindow::selectFirst() {
+  if (shown_.rowCount() == 0) return;
+  const int coming = rows_.nextFrom(text::toStored(desk_.entorno().clock.today()));
+  const QModelIndex index = shown_.mapFromSource(rows_.index(coming, 0));
+  table_->selectRow(index.isValid() ? index.row() : 0);
+  if (index.isValid()) table_->scrollTo(index, QAbstractItemView::PositionAtTop);
+}
+
+void MainWindow::showEntriesOf(std::int32_t book) {
+  const auto row = parish().Execute("SELECT Nombre FROM Libro_Bautismo WHERE IDLibroBautismo=" +
+                                    std::to_string(book));
+  if (row.EOF_()) return;
+  showNode("PartidasBautismo");
+  table_->setFocus();
+  filter_->clear();
+  setScope(book, QString::fromStdString(row.text("Nombre")));
+  selectFirst();
+  updateCommands();
+  table_->setFocus(Qt::OtherFocusReason);
+}
+
+void MainWindow::setScope(std::int32_t group, const QString& name) {
+  shown_.setGroup(group);
+  scope_->setText(tr("Libro: %1").arg(name));
+  scope_->setVisible(group != 0);
+}
+
+Choice MainWindow::choice() const {
+  Choice c;
+  c.node = node_;
+  const QModelIndex index = shown_.mapToSource(table_->currentIndex());
+  if (!index.isValid() || !table_->selectionModel()->hasSelection()) return c;
+  c.id = rows_.key(index.row());
+  c.annulled = rows_.annulled(index.row());
+  return c;
+}
+
+void MainWindow::run(const Command& command) {
+  const Choice chosen = choice();
+  if (busy_ || !applies(command, chosen)) return;
+  if (command.kinds != 0 && !isInPlace()) return;
+  daily_.giveUp();
+  busy_ = true;
+  try {
+    carryOut(command, chosen);
+  } catch (const store::Error& e) {
+    if (e.kind() == store::ErrorKind::NotADatabase) metDamage_ = isDamaged();
+    if (!metDamage_)
+      desk_.entorno().ui.msgBox(e.what(), forms::MsgButtons::Ok, forms::MsgIcon::Critical);
+  } catch (const paper::Error& e) {
+    desk_.entorno().ui.msgBox(e.what(), forms::MsgButtons::Ok, forms::MsgIcon::Critical);
+  }
+  busy_ = false;
+  if (std::exchange(metDamage_, false)) sayDamaged();
+  if (command.refreshes && node_ == chosen.node) refresh(command, chosen.id);
+  activateWindow();
+}
+
+void MainWindow::loadRows() {
+  try {
+    others_.since();  // what is read now is what they have left
+    rows_.load(desk_.parish(), *node_);
+  } catch (const store::Error& e) {
+    desk_.entorno().ui.msgBox(e.what(), forms::MsgButtons::Ok, forms::MsgIcon::Critical);
+  }
+}
+
+// A row that came to be is chosen after a command that may add one; otherwise the one that was, or
+// the one that took its place.
+void MainWindow::refresh(const Command& after, std::int32_t keep) {
+  const bool mayAdd = after.kinds != 0 && after.needs == Needs::Nothing;
+  std::vector<std::int32_t> before = rows_.keys();
+  std::sort(before.begin(), before.end());
+  const int place = table_->currentIndex().row();
+  loadRows();
+  std::int32_t added = 0;
+  for (const std::int32_t key : rows_.keys())
+    if (!std::binary_search(before.begin(), before.end(), key)) added = std::max(added, key);
+  const bool chosen = (mayAdd && added != 0 && chooseRow(added)) || chooseRow(keep);
+  if (!chosen && shown_.rowCount() > 0)
+    table_->selectRow(std::clamp(place, 0, shown_.rowCount() - 1));
+  updateCommands();
+}
+
+bool MainWindow::chooseRow(std::int32_t key) {
+  const QModelIndex index = shown_.mapFromSource(rows_.index(rows_.rowOf(key), 0));
+  if (!index.isValid()) return false;
+  table_->selectRow(index.row());
+  table_->scrollTo(index);
+  return true;
+}
+
+void MainWindow::updateCommands() {
+  const Choice chosen = choice();
+  for (const Command& command : commands()) {
+    QAction* action = actions_.at(command.id);
+    const bool given = applies(command, chosen);
+    const bool other = command.needs == Needs::AnnulledRow || command.needs == Needs::ValidRow;
+    // A hidden action never calls itself enabled, so it is shown first.
+    action->setVisible(belongs(command, chosen) &&
+                       (!other || given || (command.needs == Needs::ValidRow && !chosen.annulled)));
+    action->setEnabled(given);
+  }
+  for (QAction* title : menuBar()->actions()) {
+    const QList<QAction*> lines = title->menu()->actions();
+    title->setEnabled(std::any_of(lines.begin(), lines.end(),
+                                  [](const QAction* line) { return line->isVisible(); }));
+  }
+  updateCount();
+}
+
+void MainWindow::updateCount() {
+  if (!node_ || !hasRows(node_->kind)) return count_->clear();
+  const int shown = shown_.rowCount();
+  const int all = rows_.rowCount();
+  const QString things = QString::fromStdString(node_->things);
+  count_->setText(shown == all ? tr("%L1 %2").arg(all).arg(
+                                     all == 1 ? QString::fromStdString(node_->thing) : things)
+                               : tr("%L1 de %L2 %3").arg(shown).arg(all).arg(things));
+  empty_->setText(
+      all == 0 ? tr("Todavía no hay %1.\nPulse la tecla Insert para añadir.").arg(things)
+      : filter_->text().isEmpty() ? tr("Este libro todavía no tiene %1.").arg(things)
+                                  : tr("Ninguna fila contiene «%1».").arg(filter_->text()));
+  empty_->setVisible(shown == 0);
+}
+
+void MainWindow::filterChanged() {
+  const std::int32_t keep = choice().id;
+  shown_.setText(filter_->text());
+  if (!chooseRow(keep) && shown_.rowCount() > 0) table_->selectRow(0);
+  updateCommands();
+}
+
+void MainWindow::showContextMenu(const QPoint& at) {
+  QMenu menu(this);
+  Menu last = Menu::Record;
+  const Choice chosen = choice();
+  for (const Command& command : commands()) {
+    if (command.kinds == 0 || !belongs(command, chosen)) continue;
+    if (!actions_.at(command.id)->isVisible()) continue;
+    if (command.menu != last) menu.addSeparator();
+    last = command.menu;
+    menu.addAction(actions_.at(command.id));
+    if (command.opens) menu.setDefaultAction(actions_.at(command.id));
+  }
+  if (!menu.isEmpty()) menu.exec(table_->viewport()->mapToGlobal(at));
+}
+
+void MainWindow::openChosen() {
+  for (const Command& command : commands())
+    if (command.opens && applies(command, choice())) return run(command);
+}
+
+void MainWindow::showDocument(const Document& document, std::int32_t id) {
+  preview([&](paper::ReportOptions options) {
+    return makeReport(desk_, document, id, std::move(options));
+  });
+}
+
+void MainWindow::showDuplicate(const std::string& node) {
+  preview(
+      [&](paper::ReportOptions options) { return makeDuplicate(desk_, node, std::move(options)); });
+}
+
+void MainWindow::showListReport(const ListReport& report, Extent extent) {
+  preview([&](paper::ReportOptions options) {
+    return makeListReport(desk_, report, extent, std::move(options));
+  });
+}
+
+void MainWindow::preview(const Maker& make) {
+  const auto run = std::make_shared<LongRun>();
+  paper::ReportOptions options;
+  options.composition = paper::ReportOptions::Composition::AsNeeded;
+  options.progress = [run](std::size_t done, std::size_t total) { return run->tell(done, total); };
+  std::optional<paper::Report> report = make(std::move(options));
+  if (!report) return;
+  PreviewDialog preview(std::move(*report), this, run);
+  preview.exec();
+}
+
+void MainWindow::tellOfIncompleteEntries() {
+  const std::int64_t count = nucleo().CuentaPartidasIncompletas(parish());
+  if (count == 0) return;
+  const std::string text =
+      count == 1 ? "Hay una partida a la que le falta alguna de sus fichas: no aparece en ninguna "
+                   "lista. ¿Desea verla ahora?"
+                 : "Hay " + std::to_string(count) +
+                       " partidas a las que les falta alguna de sus fichas: no aparecen en "
+                       "ninguna lista. ¿Desea verlas ahora?";
+  if (forms::ask(desk_.entorno().ui, text)) action("partidas-incompletas")->trigger();
+}
+
+void MainWindow::focusFilter() {
+  filter_->setFocus(Qt::ShortcutFocusReason);
+  filter_->selectAll();
+}
+
+void MainWindow::about() {
+  QMessageBox::about(
+      this, tr("Acerca de Fidaleon"),
+      tr("<b>Fidaleon</b><br>Registros sacramentales de la parroquia.<br><br>"
+         "Parroquia: %1<br>Edición: %2<br>Datos: %3")
+          .arg(QString::fromStdString(desk_.parishName()).toHtmlEscaped(),
+               QString::fromStdString(desk_.edition()).toHtmlEscaped(),
+               QString::fromStdString(desk_.files().parish().string()).toHtmlEscaped()));
+}
+
+bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == table_->viewport() && event->type() == QEvent::Resize)
+    empty_->setGeometry(table_->viewport()->rect());
+  if (event->type() != QEvent::KeyPress) return QMainWindow::eventFilter(watched, event);
+  auto* key = static_cast<QKeyEvent*>(event);
+  if (watched == filter_) {
+    if (key->key() == Qt::Key_Down || key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter) {
+      table_->setFocus(Qt::TabFocusReason);
+      return true;
+    }
+    if (key->key() == Qt::Key_Escape) {
+      filter_->clear();
+      table_->setFocus(Qt::TabFocusReason);
+      return true;
+    }
+  } else if (watched == table_ && !key->text().isEmpty() && key->text().at(0).isLetterOrNumber() &&
+             !(key->modifiers() & (Qt::ControlModifier | Qt::AltModifier))) {
+    // Writing over the list filters it.
+    filter_->setFocus(Qt::OtherFocusReason);
+    filter_->setText(filter_->text() + key->text());
+    return true;
+  }
+  return QMainWindow::eventFilter(watched, event);
+}
+
+void MainWindow::applyColumns() {
+  if (node_->columns.empty()) return;
+  QHeaderView* header = table_->horizontalHeader();
+  const std::string state = read("columnas." + node_->node.Nombre);
+  if (state.empty() || !header->restoreState(QByteArray::fromBase64(state.c_str()))) {
+    header->setSortIndicator(-1, Qt::AscendingOrder);
+    const int letter = table_->fontMetrics().averageCharWidth();
+    for (std::size_t c = 0; c < node_->columns.size(); ++c)
+      table_->setColumnWidth(static_cast<int>(c), node_->columns[c].chars * letter + 24);
+  }
+  shown_.sort(header->sortIndicatorSection(), header->sortIndicatorOrder());
+}
+
+void MainWindow::rememberColumns() {
+  if (!node_ || node_->columns.empty()) return;
+  write("columnas." + node_->node.Nombre,
+        table_->horizontalHeader()->saveState().toBase64().toStdString());
+}
+
+std::string MainWindow::read(const std::string& key) const {
+  return readWindowSetting(desk_, key);
+}
+
+void MainWindow::write(const std::string& key, const std::string& value) {
+  writeWindowSetting(desk_, key, value);
+}
+
+void MainWindow::restoreWindow() {
+  const std::string geometry = read("geometria");
+  if (geometry.empty() || !restoreGeometry(QByteArray::fromBase64(geometry.c_str())))
+    resize(1180, 680);
+  const std::string splitter = read("division");
+  if (splitter.empty() || !splitter_->restoreState(QByteArray::fromBase64(splitter.c_str())))
+    splitter_->setSizes({230, 950});
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+  if (busy_) return event->ignore();
+  rememberColumns();
+  write("geometria", saveGeometry().toBase64().toStdString());
+  write("division", splitter_->saveState().toBase64().toStdString());
+  QMainWindow::closeEvent(event);
+}
+
+}  // namespace fidaleon::app

@@ -1,0 +1,54 @@
+// The ways from this parish to another, and back to what was being typed.
+
+#include <QAction>
+#include <QLineEdit>
+#include <QMenu>
+#include <algorithm>
+
+#include "window/MainWindow.h"
+
+namespace fidaleon::app {
+
+void MainWindow::newParish() {
+  if (const auto directory = door_.create(this, ParishDoor::freeDirectory()))
+    depart({Departure::To::Parish, *directory});
+}
+
+void MainWindow::openParish() {
+  if (const auto directory = door_.choose(this)) depart({Departure::To::Parish, *directory});
+}
+
+// Without the one that is open.
+void MainWindow::fillRecent() {
+  recent_->clear();
+  const auto here = std::filesystem::absolute(desk_.files().directory);
+  for (const KnownParish& parish : door_.recent()) {
+    if (parish.directory == here) continue;
+    QString text = QString::fromStdString(parish.name);
+    QAction* line = recent_->addAction(text.replace("&", "&&"));
+    line->setStatusTip(QString::fromStdString(parish.directory.string()));
+    connect(line, &QAction::triggered, this, [this, directory = parish.directory] {
+      if (!busy_) depart({Departure::To::Parish, directory});
+    });
+  }
+  recent_->setEnabled(!recent_->isEmpty());
+}
+
+void MainWindow::offerDrafts() {
+  if (watch_) watch_->offerLeft([this](const Task& task) { return resume(task); });
+}
+
+bool MainWindow::resume(const Task& task) {
+  const auto command = std::find_if(commands().begin(), commands().end(),
+                                    [&](const Command& c) { return c.id == task.command; });
+  if (command == commands().end()) return false;
+  showNode(task.node);
+  filter_->clear();
+  setScope(0, {});
+  if (task.record != 0 && !chooseRow(task.record)) return false;
+  if (!applies(*command, choice())) return false;
+  run(*command);
+  return true;
+}
+
+}  // namespace fidaleon::app

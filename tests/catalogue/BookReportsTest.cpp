@@ -1,0 +1,262 @@
+// The book, its index and the duplicate as the main program asks for them, and their preview.
+
+#include <QAction>
+#include <QApplication>
+#include <QLabel>
+#include <QProgressDialog>
+#include <QTest>
+
+#include "catalogue/Annulled.h"
+#include "catalogue/BookHeader.h"
+#include "catalogue/Documents.h"
+#include "core/contract/CcNodos.h"
+#include "paper/ScratchTables.h"
+#include "parish/Insert.h"
+#include "parish/Parish.h"
+#include "showroom/DemoScripts.h"
+#include "store/Engine.h"
+#include "window/LongRun.h"
+#include "window/PreviewDialog.h"
+
+namespace fidaleon::app {
+namespace {
+
+constexpr std::int32_t BOOK = 2;
+
+class BookReports : public ParishTest {
+ protected:
+  void SetUp() override { create(); }
+
+  std::optional<paper::Report> make(const char* command, paper::ReportOptions options = {}) {
+    return makeReport(*desk, *findDocument(command, FDAPI::cCAplicacion::APP_FIDALEON_MADRID), BOOK,
+                      std::move(options));
+  }
+  static void ask(forms::FormDriver& d, const std::string& year) {
+    d.chooseData("cboInstitucion", 1);
+    d.type("adtpAno", year);
+    d.choose("cboOrden", "Fecha de Bautismo");
+    d.click("cmdBoton(0)");
+  }
+  std::optional<paper::Report> duplicate(const std::string& year) {
+    user.expectForm("frmInfDuplicadas", [year](forms::FormDriver& d) { ask(d, year); });
+    return makeDuplicate(*desk, CcNodos::INFDUPLICADASBAUTISMO);
+  }
+  std::int64_t entriesOfBook() {
+    return count("SELECT COUNT(IDBautismo) FROM Bautismo WHERE CodLibro=2");
+  }
+  /// The rows of the scratch table that the marks fall on.
+  int marked(const Annulled& annulled) {
+    QStringList columns{"Libro",
+                        "Folio",
+                        "Numero",
+                        "InstitucionNombre",
+                        "NombreHijo",
+                        "PrimerApellidoHijo",
+                        "SegundoApellidoHijo"};
+    paper::Printable printable({});
+    const paper::Rows rows(desk->reports(), "Documentos_Bautismo", columns, printable);
+    int n = 0;
+    for (std::size_t i = 0; i < rows.size(); ++i)
+      n += annulled.mark(paper::Row(rows, i)).isEmpty() ? 0 : 1;
+    return n;
+  }
+  void annul(const std::string& which) {
+    desk->parish().Execute("UPDATE Bautismo SET Anulada=true WHERE " + which);
+  }
+  void failAtTheSecondRow() {
+    desk->reports().engine().run(
+        "CREATE TRIGGER falla BEFORE INSERT ON Documentos_Bautismo WHEN (SELECT COUNT(*) FROM "
+        "Documentos_Bautismo)>0 BEGIN SELECT RAISE(ABORT, 'no'); END");
+  }
+  void onlyAnnulled(const std::string& which) {
+    desk->parish().Execute("UPDATE Bautismo SET Anulada=false");
+    annul(which);
+  }
+};
+
+TEST_F(BookReports, ofASampleParish_areMarkedOnEveryPage_alsoWhenItIsOpenedAgain) {
+  keepEdition(desk->parish(), FDAPI::cCAplicacion::APP_FIDALEON_MADRID);
+  open();
+  EXPECT_EQ(desk->parishTitle(), "San Blas (MUESTRA)");
+  const auto marked = make("libro");
+  desk->parish().Execute("UPDATE Instalacion SET Muestra=false");
+  EXPECT_EQ(desk->parishTitle(), "San Blas");
+  const auto plain = make("libro");
+  ASSERT_TRUE(marked && plain);
+  for (const int page : {0, 1}) EXPECT_NE(marked->pageImage(page, 40), plain->pageImage(page, 40));
+}
+
+TEST_F(BookReports, bookAndIndex_haveEachEntryOnce) {
+  for (int i = 0; i < 2; ++i)
+    for (const char* command : {"libro", "indice"}) {
+      const auto report = make(command);
+      ASSERT_TRUE(report) << command;
+      EXPECT_EQ(static_cast<std::int64_t>(report->rowCount()), entriesOfBook()) << command;
+    }
+}
+
+TEST_F(BookReports, bookWithoutEntries_isNothing) {
+  desk->parish().Execute("DELETE FROM Bautismo WHERE CodLibro=2");
+  user.answerAnything(forms::Answer::Ok);
+  EXPECT_FALSE(make("libro"));
+}
+
+TEST_F(BookReports, annulledEntries_areMarkedAndNoOthers) {
+  onlyAnnulled("CodLibro=2 AND Folio IN (2, 5)");
+  annul("CodLibro=1 AND Folio=1");
+  ASSERT_TRUE(make("libro"));
+  EXPECT_EQ(marked(Annulled(desk->parish(), BOOK)), 2);
+  ASSERT_TRUE(make("indice"));
+  EXPECT_EQ(marked(Annulled(desk->parish(), BOOK)), 2);
+}
+
+TEST_F(BookReports, onAPlaceHeldTwice_theNameOfTheChildDecides) {
+  onlyAnnulled("CodLibro=2 AND Folio=2");
+  desk->parish().Execute("UPDATE Bautismo SET Folio=2, Numero=\"2\" WHERE CodLibro=2 AND Folio=3");
+  desk->parish().Execute(
+      "UPDATE Bautismo_Hijo SET Nombre=\"Otra\" WHERE CodBautismo IN (SELECT IDBautismo FROM "
+      "Bautismo WHERE CodLibro=2 AND Folio=2 AND Anulada=false)");
+  ASSERT_TRUE(make("libro"));
+  EXPECT_EQ(marked(Annulled(desk->parish(), BOOK)), 1);
+}
+
+TEST_F(BookReports, duplicate_hasTheYearAndMarksItsAnnulledEntries) {
+  const std::string year = desk->parish()
+                               .Execute(
+                                   "SELECT MAX(FechaBautismo) AS Dia FROM Bautismo WHERE "
+                                   "CodLibro=2 AND FechaBautismo<\"3\"")
+                               .text("Dia")
+                               .substr(0, 4);
+  const std::string ofYear =
+      "CodLibro<>0 AND FechaBautismo>=\"" + year + "0101\" AND FechaBautismo<=\"" + year + "1231\"";
+  onlyAnnulled(ofYear);
+  const auto report = duplicate(year);
+  ASSERT_TRUE(report);
+  const std::int64_t entries = count("SELECT COUNT(IDBautismo) FROM Bautismo WHERE " + ofYear);
+  EXPECT_EQ(static_cast<std::int64_t>(report->rowCount()), entries);
+  EXPECT_EQ(marked(Annulled(desk->parish())), entries);
+  EXPECT_THAT(user.problems(), ::testing::IsEmpty());
+}
+
+TEST_F(BookReports, duplicate_ofAYearWithoutEntriesIsNothing) {
+  user.answerAnything(forms::Answer::Ok);
+  EXPECT_FALSE(duplicate("1801"));
+  ASSERT_EQ(user.messages().size(), 1u);
+  EXPECT_EQ(user.messages().front().text, "¡No se ha encontrado ningún registro!");
+}
+
+TEST_F(BookReports, duplicate_thatFailsInTheMiddle_leavesNoTransactionAndNoRow) {
+  failAtTheSecondRow();
+  user.answerAnything(forms::Answer::Ok);
+  user.expectForm("frmInfDuplicadas", [](forms::FormDriver& d) {
+    ask(d, "2015");
+    d.form().Unload();
+  });
+  EXPECT_FALSE(makeDuplicate(*desk, CcNodos::INFDUPLICADASBAUTISMO));
+  EXPECT_FALSE(desk->reports().inTransaction());
+  EXPECT_EQ(desk->reports().Execute("SELECT * FROM Documentos_Bautismo").RecordCount(), 0);
+}
+
+TEST_F(BookReports, stoppedWhileItsRowsAreWritten_isNothingAndCanBeAskedForAgain) {
+  struct Impatient : forms::ScriptedUser {
+    bool stops = true;
+    void progressMove(std::int64_t position) override {
+      if (stops && position > 2) throw forms::Cancelled();
+    }
+  } impatient;
+  impatient.answerAnything(forms::Answer::Ok);
+  desk = std::make_unique<Desk>(files(), "Secretaría", impatient, settings, clock);
+  EXPECT_FALSE(make("libro"));
+  ASSERT_EQ(impatient.messages().size(), 1u);
+  EXPECT_EQ(impatient.messages().front().text, forms::Cancelled().what());
+  EXPECT_FALSE(desk->reports().inTransaction());
+  desk->parish().Execute("UPDATE Bautismo SET FechaBautismo=\"20150101\"");
+  impatient.expectForm("frmInfDuplicadas", [&](forms::FormDriver& d) {
+    ask(d, "2015");
+    EXPECT_FALSE(d.closed());
+    EXPECT_FALSE(desk->reports().inTransaction());
+    EXPECT_EQ(desk->reports().Execute("SELECT * FROM Documentos_Bautismo").RecordCount(), 0);
+    d.form().Unload();
+  });
+  EXPECT_FALSE(makeDuplicate(*desk, CcNodos::INFDUPLICADASBAUTISMO));
+  EXPECT_EQ(impatient.messages().size(), 2u);
+  impatient.stops = false;
+  const auto report = make("libro");
+  ASSERT_TRUE(report);
+  EXPECT_EQ(static_cast<std::int64_t>(report->rowCount()), entriesOfBook());
+  desk.reset();  // before the user it speaks to
+}
+
+TEST_F(BookReports, header_namesInstitutionDioceseAndTown) {
+  desk->parish().Execute(
+      "UPDATE Institucion SET InstitucionNombre=\"San Blas Mártir\", InstitucionTipo=\"Parroquia "
+      "de\", Diocesis=\"Madrid\"");
+  paper::GivenValues values = bookHeader(desk->parish(), BOOK, false);
+  EXPECT_EQ(values["Institucion"], "Parroquia de San Blas Mártir");
+  EXPECT_EQ(values["Diocesis"], "Diócesis de Madrid");
+  EXPECT_EQ(values["Poblacion"], "Buitrago del Lozoya (Madrid)");
+  EXPECT_EQ(bookHeader(desk->parish(), BOOK, true)["Diocesis"], "Diòcesi de Madrid");
+  desk->parish().Execute(
+      "UPDATE Institucion SET InstitucionNombre=\"\", Diocesis=\"Archidiócesis de Toledo\", "
+      "CodMunicipio=0");
+  values = bookHeader(desk->parish(), BOOK, false);
+  EXPECT_EQ(values["Institucion"], "San Blas");
+  EXPECT_EQ(values["Diocesis"], "Archidiócesis de Toledo");
+  EXPECT_EQ(values["Poblacion"], "");
+  EXPECT_TRUE(bookHeader(desk->parish(), 99, false).empty());
+}
+
+TEST_F(BookReports, certificateWithoutKeeper_isSaidAboveItsPage) {
+  user.expectForm("frmEncargado", [](forms::FormDriver& d) { d.escape(); });
+  auto report = make("certificado");
+  ASSERT_TRUE(report);
+  PreviewDialog preview(std::move(*report));
+  preview.show();
+  const auto* notice = preview.findChild<QLabel*>("notices");
+  ASSERT_TRUE(notice && notice->isVisible());
+  EXPECT_THAT(notice->text().toStdString(), ::testing::HasSubstr("no dice quién lo firma"));
+  const auto unsaid = make("partida");
+  EXPECT_TRUE(unsaid->notices().isEmpty());
+}
+
+TEST_F(BookReports, preview_showsItsFirstPageAndCountsTheRest) {
+  paper::ReportOptions options;
+  options.composition = paper::ReportOptions::Composition::AsNeeded;
+  auto report = make("libro", std::move(options));
+  ASSERT_TRUE(report);
+  PreviewDialog preview(std::move(*report));
+  preview.show();
+  EXPECT_GE(preview.report().composedPages(), 1);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return preview.report().isComplete(); }));
+  QTest::keyClick(&preview, Qt::Key_End);
+  EXPECT_EQ(preview.page() + 1, preview.report().pageCount());
+  QTest::keyClick(&preview, Qt::Key_Home);
+  EXPECT_EQ(preview.page(), 0);
+}
+
+TEST_F(BookReports, longRun_stopsWhenTheUserAsksAndCanBeTriedAgain) {
+  LongRun run;
+  paper::ReportOptions options;
+  options.composition = paper::ReportOptions::Composition::AsNeeded;
+  bool stop = true;
+  options.progress = [&](std::size_t done, std::size_t total) {
+    if (stop)
+      for (QWidget* w : QApplication::topLevelWidgets())
+        if (auto* dialog = qobject_cast<QProgressDialog*>(w)) dialog->cancel();
+    return run.tell(done, total);
+  };
+  auto report = make("libro", std::move(options));
+  ASSERT_TRUE(report);
+  EXPECT_FALSE(run.run(nullptr, "Preparando…", [&] { report->pageCount(); }));
+  EXPECT_FALSE(report->isComplete());
+  stop = false;
+  EXPECT_TRUE(run.run(nullptr, "Preparando…", [&] { report->pageCount(); }));
+  EXPECT_GT(report->pageCount(), 1);
+  EXPECT_FALSE(run.isRunning());
+  EXPECT_THROW(run.run(nullptr, "x", [] { throw std::runtime_error("falla"); }),
+               std::runtime_error);
+  EXPECT_FALSE(run.isRunning());
+}
+
+}  // namespace
+}  // namespace fidaleon::app

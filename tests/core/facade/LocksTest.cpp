@@ -1,0 +1,250 @@
+// Which locks each operation defines, in which order, and how it takes a refusal.
+
+#include "core/facade/FacadeWorld.h"
+#include "store/FailingEngine.h"
+
+namespace fidaleon::tests {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+TEST(FacadeLocks, NuevaPartida_SharedTablesThenOpenNewBooksThenEntries) {
+  SpyWorld w;
+  w.user.expectForm("frmPartidaBautismo", [&](forms::FormDriver& u) {
+    EXPECT_EQ(w.spy.log.back(), "efectuar") << "held while the dialog is open";
+    cancelar(u);
+  });
+  w.nucleo.NuevaPartida(w.con(), w.config, "PartidasBautismo");
+  EXPECT_THAT(w.bloqueos(),
+              ElementsAre("Institucion compartida", "Provincia compartida", "Municipio compartida",
+                          "Libro_Bautismo [SELECT IDLibroBautismo FROM Libro_Bautismo WHERE  Nuevo "
+                          "= True AND Cerrado = False]",
+                          "Bautismo", "efectuar", "liberar"));
+  EXPECT_SCRIPT_DONE(w.user);
+}
+
+TEST(FacadeLocks, AntiguaPartida_LocksAllOldBooks) {
+  SpyWorld w;
+  w.user.expectForm("frmPartidaBautismo", cancelar);
+  w.nucleo.AntiguaPartida(w.con(), w.config, "PartidasBautismo");
+  EXPECT_THAT(
+      w.bloqueos(),
+      ElementsAre("Institucion compartida", "Provincia compartida", "Municipio compartida",
+                  "Libro_Bautismo [SELECT IDLibroBautismo FROM Libro_Bautismo WHERE Nuevo = False]",
+                  "Bautismo", "efectuar", "liberar"));
+  EXPECT_SCRIPT_DONE(w.user);
+}
+
+TEST(FacadeLocks, PropiedadesPartida_ParentsThenTheEntry) {
+  SpyWorld w;
+  w.user.expectForm("frmPartidaBautismo", cancelar);
+  w.nucleo.PropiedadesPartida(w.con(), 1, w.config, "PartidasBautismo");
+  EXPECT_THAT(
+      w.bloqueos(),
+      ElementsAre("Provincia compartida", "Municipio compartida",
+                  "Institucion parcial [SELECT CodInstitucion FROM Libro_Bautismo WHERE "
+                  "IDLibroBautismo IN (SELECT CodLibro FROM Bautismo WHERE IDBautismo=1)]",
+                  "Libro_Bautismo parcial [SELECT CodLibro FROM Bautismo WHERE IDBautismo=1]",
+                  "Bautismo [1] existe [SELECT IDBautismo FROM Bautismo WHERE IDBautismo=1]",
+                  "efectuar", "liberar"));
+  EXPECT_SCRIPT_DONE(w.user);
+}
+
+TEST(FacadeLocks, Requests_LockTheTableWhenNewTheRecordWhenEdited) {
+  SpyWorld w;
+  w.hacerSolicitud();
+  w.user.expectForm("frmPartidaBautismo", cancelar);
+  w.nucleo.NuevaSolicitud(w.con(), w.config, "SolicitudesBautismo");
+  EXPECT_THAT(w.bloqueos(), ElementsAre("Institucion compartida", "Provincia compartida",
+                                        "Municipio compartida", "Bautismo", "efectuar", "liberar"));
+  w.spy.log.clear();
+  w.user.expectForm("frmPartidaBautismo", cancelar);
+  w.nucleo.PropiedadesSolicitudes(w.con(), 1, w.config, "SolicitudesBautismo");
+  EXPECT_THAT(
+      w.bloqueos(),
+      ElementsAre("Institucion compartida", "Provincia compartida", "Municipio compartida",
+                  "Bautismo [1] existe [SELECT IDBautismo FROM Bautismo WHERE IDBautismo=1 AND "
+                  "CodLibro=0]",
+                  "efectuar", "liberar"));
+  EXPECT_SCRIPT_DONE(w.user);
+}
+
+TEST(FacadeLocks, NuevoLibro_LocksTheTableOfItsKind) {
+  for (const char* palabra : {"Bautismo", "Confirmacion", "Matrimonio", "Defuncion"}) {
+    SpyWorld w;
+    w.user.expectForm(std::string("frmAltaLibro") + palabra,
+                      [](forms::FormDriver& u) { u.click("cmdBoton(1)"); });
+    w.nucleo.NuevoLibro(w.con(), w.config, std::string("Libros") + palabra);
+    EXPECT_THAT(w.bloqueos(), ElementsAre("Institucion compartida", "Libros_Formato compartida",
+                                          "Libros_TipoNombre compartida",
+                                          std::string("Libro_") + palabra, "efectuar", "liberar"));
+    EXPECT_SCRIPT_DONE(w.user);
+  }
+}
+
+TEST(FacadeLocks, Document_LocksTheEntryForItsLength) {
+  SpyWorld w;
+  w.nucleo.InformePartidaBautismo(w.con(), w.conInformes(), 1);
+  EXPECT_THAT(w.bloqueos(),
+              ElementsAre("Bautismo [1] existe [SELECT IdBautismo FROM Bautismo WHERE "
+                          "IdBautismo=1]",
+                          "efectuar", "liberar"));
+  EXPECT_EQ(w.filas(), 1);
+}
+
+TEST(FacadeLocks, AnularPartidas_LocksTheEntry) {
+  SpyWorld w;
+  w.nucleo.AnularPartidas(w.con(), 1, w.config, "PartidasBautismo");
+  EXPECT_THAT(w.bloqueos(),
+              ElementsAre("Bautismo [1] existe [SELECT IDBautismo FROM Bautismo WHERE "
+                          "IDBautismo=1]",
+                          "efectuar", "liberar"));
+}
+
+TEST(FacadeLocks, Refused_EndsSilentlyAndGivesNothingBack) {
+  SpyWorld w;
+  w.spy.answers = {FDAPI::BloqueoTabla};
+  const std::vector<std::function<void()>> operaciones{
+      [&] { w.nucleo.NuevaPartida(w.con(), w.config, "PartidasBautismo"); },
+      [&] { w.nucleo.AntiguaPartida(w.con(), w.config, "PartidasBautismo"); },
+      [&] { w.nucleo.NuevaSolicitud(w.con(), w.config, "SolicitudesBautismo"); },
+      [&] { w.nucleo.NuevoLibro(w.con(), w.config, "LibrosDefuncion"); },
+      [&] { w.nucleo.AnularPartidas(w.con(), 1, w.config, "PartidasBautismo"); },
+      [&] { w.nucleo.InformeVolanteBautismo(w.con(), w.conInformes(), 1); }};
+  for (const auto& orden : operaciones) {
+    w.spy.log.clear();
+    orden();
+    EXPECT_EQ(w.bloqueos().back(), "efectuar");
+  }
+  EXPECT_EQ(w.filas(), 0);
+  EXPECT_EQ(w.value("SELECT Anulada FROM Bautismo"), "0");
+  EXPECT_THAT(w.user.messages(), IsEmpty());
+  EXPECT_SCRIPT_DONE(w.user);
+}
+
+TEST(FacadeLocks, Books_AreLockedAfterTheQuestionAndGivenBackUnlessRefused) {
+  const auto cerrar = [](SpyWorld& w) { w.nucleo.cerrarLiBautismo(w.con(), 1, w.config); };
+  const auto eliminar = [](SpyWorld& w) {
+    w.run("DELETE * FROM Bautismo");
+    w.nucleo.EliminarLibro(w.con(), 1, w.config, "LibrosBautismo");
+  };
+  const std::string libro =
+      "Libro_Bautismo [1] existe [SELECT IDLibroBautismo FROM Libro_Bautismo WHERE "
+      "IDLibroBautismo=1]";
+  for (const std::function<void(SpyWorld&)>& orden : {std::function(cerrar), {eliminar}}) {
+    SpyWorld hecho;
+    hecho.user.answerAnything(forms::Answer::Yes);
+    orden(hecho);
+    EXPECT_THAT(hecho.bloqueos(), ElementsAre(libro, "efectuar", "liberar"));
+    SpyWorld sinPermiso;
+    sinPermiso.user.answerAnything(forms::Answer::No);
+    orden(sinPermiso);
+    EXPECT_THAT(sinPermiso.bloqueos(), ElementsAre("liberar"));
+    SpyWorld rehusado;
+    rehusado.spy.answers = {FDAPI::BloqueoRegistro};
+    rehusado.user.answerAnything(forms::Answer::Yes);
+    orden(rehusado);
+    EXPECT_THAT(rehusado.bloqueos(), ElementsAre(libro, "efectuar"));
+    EXPECT_EQ(rehusado.count("Libro_Bautismo WHERE Cerrado = false"), 1);
+    SpyWorld roto;
+    auto* fallos = store::FailingEngine::wrap(roto.con());
+    fallos->failOn("update libro", store::ErrorKind::ReadOnly);
+    fallos->failOn("delete * from libro", store::ErrorKind::ReadOnly);
+    roto.user.answerAnything(forms::Answer::Yes);
+    orden(roto);
+    EXPECT_THAT(roto.bloqueos(), ElementsAre(libro, "efectuar", "liberar"));
+  }
+}
+
+TEST(FacadeLocks, RecordGoneOrSessionFailed_OpensNothing) {
+  for (const long error : {FDAPI::BloqueoRegistroNoExiste, FDAPI::BloqueoSesion}) {
+    SpyWorld w;
+    w.spy.answers = {error};
+    w.nucleo.PropiedadesPartida(w.con(), 1, w.config, "PartidasBautismo");
+    EXPECT_EQ(w.bloqueos().back(), "efectuar");
+    w.nucleo.PropiedadesSolicitudes(w.con(), 1, w.config, "SolicitudesBautismo");
+    EXPECT_EQ(w.bloqueos().back(), "efectuar");
+    EXPECT_SCRIPT_DONE(w.user);
+  }
+}
+
+TEST(FacadeLocks, HeldByAnother_OpensWithTheCancelButtonOnly) {
+  for (const long error : {FDAPI::BloqueoRegistro, FDAPI::BloqueoRegistroConPadres,
+                           FDAPI::BloqueoTabla, FDAPI::BloqueoCompartido}) {
+    SpyWorld w;
+    w.spy.answers = {error};
+    const auto soloCancelar = [](forms::FormDriver& u) {
+      for (forms::Control* control : u.form().controls()) {
+        if (!dynamic_cast<forms::Button*>(control)) continue;
+        const bool on = control->name() == "cmdBautismo(1)" || control->name() == "cmdReintentar";
+        EXPECT_EQ(control->enabled(), on) << control->name();
+      }
+      cancelar(u);
+    };
+    w.user.expectForm("frmPartidaBautismo", soloCancelar);
+    w.nucleo.PropiedadesPartida(w.con(), 1, w.config, "PartidasBautismo");
+    w.hacerSolicitud();
+    w.user.expectForm("frmPartidaBautismo", soloCancelar);
+    w.nucleo.PropiedadesSolicitudes(w.con(), 1, w.config, "SolicitudesBautismo");
+    EXPECT_EQ(w.bloqueos().back(), "liberar");
+    EXPECT_SCRIPT_DONE(w.user);
+  }
+}
+
+TEST(FacadeLocks, HeldByAnother_CanBeTriedAgainAndOpensAsItIsNow) {
+  FacadeWorld w;
+  auto otra = w.ocupar("Bautismo", "1");
+  w.user.answerAnything(forms::Answer::Ok);
+  w.user.expectForm("frmPartidaBautismo", [&](forms::FormDriver& u) {
+    EXPECT_EQ(u.text("lblSoloLectura"),
+              "Solo se puede consultar: lo tiene luis, en el equipo SACRISTIA, desde el 22/11/2026 "
+              "a las 10:30.");
+    u.tab("mstBautismo", 1);
+    EXPECT_TRUE(u.locked("txtBautismo(7)") && u.enabled("txtBautismo(7)"));
+    EXPECT_TRUE(u.locked("cboBautismo(22)"));
+    u.click("cmdReintentar");
+    EXPECT_FALSE(u.closed());
+    w.run("UPDATE bautismo_hijo SET Nombre='Rosario'");
+    otra.reset();
+    u.click("cmdReintentar");
+    EXPECT_TRUE(u.closed());
+  });
+  w.user.expectForm("frmPartidaBautismo", [&](forms::FormDriver& u) {
+    EXPECT_EQ(u.text("txtBautismo(7)"), "Rosario");
+    EXPECT_EQ(u.form().find("cmdReintentar"), nullptr);
+    u.tab("mstBautismo", 1);
+    u.type("txtBautismo(7)", "Rosa");
+    u.click("cmdBautismo(0)");
+  });
+  w.nucleo.PropiedadesPartida(w.con(), 1, w.config, "PartidasBautismo");
+  EXPECT_EQ(w.user.messages().size(), 2u) << "once on opening, once on the try in vain";
+  EXPECT_EQ(w.value("SELECT Nombre FROM bautismo_hijo"), "Rosa");
+  w.esperarLibre();
+  EXPECT_SCRIPT_DONE(w.user);
+}
+
+TEST(FacadeLocks, UnknownNode_NoDialogNoLock) {
+  SpyWorld w;
+  for (const char* nodo : {"", "Partidas", "PartidasPadron", "LibrosBautismo", "Instituciones",
+                           "PartidasMatrimonio", "SolicitudesConfirmacion"}) {
+    w.nucleo.NuevaPartida(w.con(), w.config, nodo);
+    w.nucleo.AntiguaPartida(w.con(), w.config, nodo);
+    w.nucleo.PropiedadesPartida(w.con(), 1, w.config, nodo);
+    w.nucleo.AnularPartidas(w.con(), 1, w.config, nodo);
+    w.nucleo.EliminarPartida(w.con(), 1, w.config, nodo);
+    w.nucleo.NuevaSolicitud(w.con(), w.config, nodo);
+    w.nucleo.PropiedadesSolicitudes(w.con(), 1, w.config, nodo);
+    w.nucleo.EliminarSolicitud(w.con(), 1, w.config, nodo);
+  }
+  for (const char* nodo : {"", "Libros", "LibrosSolicitudes", "PartidasBautismo"}) {
+    w.nucleo.NuevoLibro(w.con(), w.config, nodo);
+    w.nucleo.EliminarLibro(w.con(), 1, w.config, nodo);
+  }
+  EXPECT_THAT(w.spy.log, IsEmpty());
+  EXPECT_EQ(w.count("Bautismo"), 1);
+  EXPECT_SCRIPT_DONE(w.user);
+}
+
+}  // namespace
+}  // namespace fidaleon::tests

@@ -1,0 +1,133 @@
+#include "parish/Parish.h"
+#include "sample/SampleNames.h"
+#include "sample/SamplePopulation.h"
+#include "support/Identidad.h"
+
+namespace fidaleon::app {
+namespace {
+
+class SampleParish : public ParishTest {
+ protected:
+  void SetUp() override { create(); }
+};
+
+TEST_F(SampleParish, holdsWhatItPromises) {
+  EXPECT_EQ(count("SELECT COUNT(IDInstitucion) FROM Institucion"), 2);
+  EXPECT_EQ(count("SELECT COUNT(IDInstitucion) FROM Ultimos"), 2);
+  EXPECT_GE(count("SELECT COUNT(IDMunicipio) FROM Municipio"), 60);
+  EXPECT_GE(rowsOf("SELECT DISTINCT CodProvincia FROM Municipio"), 10);
+  EXPECT_EQ(count("SELECT COUNT(IDLibroBautismo) FROM Libro_Bautismo"), 2);
+  EXPECT_EQ(rowsOf("SELECT * FROM Libro_Bautismo WHERE Nuevo=true AND Cerrado=false"), 1);
+  EXPECT_GE(count("SELECT COUNT(IDBautismo) FROM Bautismo WHERE CodLibro<>0"), 100);
+  EXPECT_GE(count("SELECT COUNT(IDBautismo) FROM Bautismo WHERE CodLibro=0"), 3);
+  EXPECT_GE(rowsOf("SELECT IDBautismo FROM Bautismo WHERE Anulada=true"), 1);
+  EXPECT_GE(count("SELECT COUNT(IDEncargado) FROM Institucion_Encargado"), 2);
+}
+
+TEST_F(SampleParish, everyEntryIsWholeForTheReaders) {
+  const auto all = count("SELECT COUNT(IDBautismo) FROM Bautismo");
+  EXPECT_EQ(rowsOf("SELECT IDBautismo FROM Bautismo, Bautismo_Hijo, Bautismo_Padres, "
+                   "Bautismo_Madres, Bautismo_Matrimonio WHERE CodBautismo=IDBautismo AND "
+                   "Bautismo_Padres.IDPadres=CodPadres AND Bautismo_Madres.IDMadres=CodMadres AND "
+                   "Bautismo_Matrimonio.IDMatrimonio=CodMatrimonio"),
+            all);
+  EXPECT_EQ(rowsOf("SELECT CodBautismo FROM Bautismo_Hijo WHERE CodMunicipioNac NOT IN (SELECT "
+                   "IDMunicipio FROM Municipio)"),
+            0);
+}
+
+TEST_F(SampleParish, positionsAreWhatTheBooksWouldHaveGiven) {
+  auto rows = desk->parish().Execute(
+      "SELECT Nuevo, CodLibro, Folio, Numero FROM Bautismo, Libro_Bautismo WHERE "
+      "IDLibroBautismo=CodLibro ORDER BY CodLibro, Folio, Val(Numero)");
+  std::int64_t book = 0;
+  std::int64_t expected = 0;
+  for (; !rows.EOF_(); rows.MoveNext()) {
+    if (rows.integer("CodLibro") != book) expected = 0;
+    book = rows.integer("CodLibro");
+    ++expected;
+    EXPECT_EQ(rows.integer("Numero"), expected);
+    EXPECT_EQ(rows.integer("Folio"), rows.flag("Nuevo") ? expected : (expected - 1) / 4 + 1);
+  }
+}
+
+TEST_F(SampleParish, aNewEntryGetsTheNextPositionAndFindsItsFamily) {
+  const auto family = desk->parish().Execute(
+      "SELECT PrimerApellido, SegundoApellido FROM Bautismo_Hijo WHERE CodBautismo=1");
+  const auto last = count(
+      "SELECT MAX(Folio) FROM Bautismo, Libro_Bautismo WHERE "
+      "IDLibroBautismo=CodLibro AND Nuevo=true");
+  std::string folio;
+  user.expectForm("frmPartidaBautismo", [&](forms::FormDriver& d) {
+    d.choose("cboBautismo(22)", "San Blas");
+    auto& books = d.get<forms::ComboBox>("cboBautismo(23)");
+    if (books.listIndex() < 0) d.choose("cboBautismo(23)", books.list(0));
+    folio = d.text("txtLibro(1)");
+    d.tab("mstBautismo", 1);
+    d.type("txtBautismo(8)", family.text("PrimerApellido"));
+    d.type("txtBautismo(9)", family.text("SegundoApellido"));
+    d.focus("txtBautismo(10)");
+    d.click("cmdBautismo(1)");
+  });
+  user.expectForm("frmBuscaPadres", [](forms::FormDriver& d) {
+    EXPECT_GE(d.get<forms::Grid>("msgBusquedaPadres").rowCount(), 1);
+    d.close();
+  });
+  desk->nucleo().NuevaPartida(desk->parish(), desk->config(), "PartidasBautismo");
+  EXPECT_THAT(user.problems(), ::testing::IsEmpty());
+  EXPECT_EQ(folio, std::to_string(last + 1));
+}
+
+TEST_F(SampleParish, everyPersonOfTheCensusIsWhole) {
+  const auto all = count("SELECT COUNT(IDPadron) FROM Padron");
+  EXPECT_GE(all, 100);
+  for (const char* table : {"Padron_Nacimiento", "Padron_Bautismo", "Padron_Comunion",
+                            "Padron_Confirmacion", "Padron_Matrimonio", "Padron_Defuncion"})
+    EXPECT_EQ(
+        rowsOf("SELECT IDPadron FROM Padron, " + std::string(table) + " WHERE CodPadron=IDPadron"),
+        all)
+        << table;
+  EXPECT_EQ(rowsOf("SELECT DISTINCT DNI FROM Padron WHERE DNI<>\"\""),
+            rowsOf("SELECT DNI FROM Padron WHERE DNI<>\"\""));
+  for (auto rows = desk->parish().Execute("SELECT DNI FROM Padron WHERE DNI<>\"\""); !rows.EOF_();
+       rows.MoveNext())
+    EXPECT_TRUE(support::nifValido(rows.text("DNI"))) << rows.text("DNI");
+}
+
+TEST_F(SampleParish, collaboratorsAreInAGroupOnce_andTheYearHasItsTasks) {
+  EXPECT_GE(rowsOf("SELECT * FROM Padron_TipoPersona WHERE CodTipoPersona=3"), 25);
+  EXPECT_EQ(rowsOf("SELECT DISTINCT CodPadron, CodGrupo FROM Padron_Actividad"),
+            rowsOf("SELECT * FROM Padron_Actividad"));
+  EXPECT_EQ(rowsOf("SELECT * FROM Padron_Actividad, Grupo, Actividad, Cargo WHERE "
+                   "CodGrupo=IDGrupo AND CodActividad=IDActividad AND CodCargo=IDCargo"),
+            rowsOf("SELECT * FROM Padron_Actividad"));
+  EXPECT_GE(rowsOf("SELECT * FROM Tareas"), 120);
+  EXPECT_EQ(rowsOf("SELECT * FROM Tareas WHERE HoraFin<HoraInicio"), 0);
+}
+
+TEST(SamplePopulation, sameSeed_samePeople) {
+  const auto a = sample::makePopulation(7, 1, "San Blas", {2026, 5, 20});
+  const auto b = sample::makePopulation(7, 1, "San Blas", {2026, 5, 20});
+  ASSERT_EQ(a.baptisms.size(), b.baptisms.size());
+  for (std::size_t i = 0; i < a.baptisms.size(); ++i)
+    EXPECT_EQ(a.baptisms[i].name + a.baptisms[i].godmother,
+              b.baptisms[i].name + b.baptisms[i].godmother);
+}
+
+TEST(SamplePopulation, livesFitTogether) {
+  const text::Date last{2026, 5, 20};
+  const auto people = sample::makePopulation(1924, 1, "San Blas", last);
+  text::Date before{};
+  for (const sample::Baptism& b : people.baptisms) {
+    const sample::Couple& parents = people.couples[static_cast<std::size_t>(b.couple)];
+    EXPECT_TRUE(text::isValid(b.birth) && text::isValid(b.day));
+    EXPECT_LT(parents.wedding, b.birth);
+    EXPECT_LT(b.birth, b.day);
+    EXPECT_LE(b.day, last);
+    EXPECT_LE(before, b.day);
+    before = b.day;
+  }
+}
+
+}  // namespace
+}  // namespace fidaleon::app

@@ -1,0 +1,320 @@
+#include <QAction>
+#include <QCoreApplication>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QTableView>
+
+#include "catalogue/Documents.h"
+#include "catalogue/ReportProgress.h"
+#include "census/collaborators/frmColaborador.h"
+#include "census/persons/frmPadron.h"
+#include "parish/Insert.h"
+#include "parish/Parish.h"
+#include "window/MainWindow.h"
+
+namespace fidaleon::app {
+namespace {
+
+using forms::FormDriver;
+
+std::string at(const char* array, int index) {
+  return std::string(array) + "(" + std::to_string(index) + ")";
+}
+
+class CensusWindow : public ParishTest {
+ protected:
+  void open(const char* node, Content content = Content::Sample) {
+    create(content);
+    window = std::make_unique<MainWindow>(*desk);
+    window->show();
+    window->showNode(node);
+  }
+  void TearDown() override { EXPECT_THAT(user.problems(), ::testing::IsEmpty()); }
+  void give(const char* command) { window->action(command)->trigger(); }
+  int shown() const { return window->table().model()->rowCount(); }
+  std::string cell(int column) const {
+    return window->table().currentIndex().siblingAtColumn(column).data().toString().toStdString();
+  }
+  std::int64_t roles(std::int32_t person) {
+    return count("SELECT COUNT(*) FROM Padron_TipoPersona WHERE CodPadron=" +
+                 std::to_string(person));
+  }
+  std::int32_t someoneWith(int rolesHeld) {
+    return static_cast<std::int32_t>(
+        count("SELECT CodPadron FROM Padron_TipoPersona GROUP BY CodPadron HAVING COUNT(*)=" +
+              std::to_string(rolesHeld)));
+  }
+
+  std::unique_ptr<MainWindow> window;
+};
+
+TEST_F(CensusWindow, leaving_closesTheWindowOnceTheCommandHasEnded) {
+  open("Padrón", Content::Empty);
+  give("salir");
+  QCoreApplication::processEvents();
+  EXPECT_FALSE(window->isVisible());
+}
+
+TEST_F(CensusWindow, newPerson_isChosenInTheListOnceAccepted) {
+  open("Padrón");
+  const int before = shown();
+  user.expectForm("frmPadron", [](FormDriver& d) {
+    d.chooseData(at("cboPadron", frmPadron::Institucion), 1);
+    d.type(at("txtPadron", frmPadron::Nombre), "Ñusta \"la Nena\"");
+    d.type(at("txtPadron", frmPadron::PrimerApellido), "D'Ors");
+    d.type(at("txtPadron", frmPadron::SegundoApellido), "Zúñiga");
+    d.click(at("cmdPadron", frmPadron::ACEPTAR));
+  });
+  give("nuevo-empadronado");
+  EXPECT_EQ(shown(), before + 1);
+  EXPECT_EQ(window->choice().id, count("SELECT MAX(IDPadron) FROM Padron"));
+  window->filter().setText("nusta d'ors");
+  EXPECT_EQ(shown(), 1);
+}
+
+TEST_F(CensusWindow, aPersonOpenedAsCollaborator_isInBothListsAndStaysChosen) {
+  open("Padrón");
+  const std::int32_t person = someoneWith(1);
+  ASSERT_TRUE(window->chooseRow(person));
+  const int people = shown();
+  user.expectForm("frmColaborador",
+                  [](FormDriver& d) { d.click(at("cmdColaborador", frmColaborador::ACEPTAR)); });
+  give("abrir-como-colaborador");
+  EXPECT_EQ(shown(), people);
+  EXPECT_EQ(window->choice().id, person);
+  EXPECT_EQ(roles(person), 2);
+  window->showNode("Colaboradores");
+  EXPECT_TRUE(window->chooseRow(person));
+}
+
+// Somebody of the census becomes a collaborator through the dialog for new ones; meanwhile another
+// workstation adds rows too.
+TEST_F(CensusWindow, arrivalsAreChosenAfterANewOneOnly) {
+  open("Colaboradores");
+  const std::int32_t kept = window->choice().id;
+  std::int32_t gained = 0;
+  const auto giveRole = [&](FormDriver& d) {
+    gained = someoneWith(1);
+    Insert("Padron_TipoPersona")
+        .number("CodPadron", gained)
+        .number("CodTipoPersona", 3)
+        .into(desk->parish());
+    d.escape();
+  };
+  user.expectForm("frmColaborador", giveRole);
+  give("propiedades-colaborador");
+  EXPECT_EQ(window->choice().id, kept);
+  user.expectForm("frmColaborador", giveRole);
+  give("nuevo-colaborador");
+  EXPECT_EQ(window->choice().id, gained);
+  EXPECT_LT(gained, count("SELECT MAX(IDPadron) FROM Padron"));
+}
+
+TEST_F(CensusWindow, aCollaboratorDeleted_leavesTheListAndNotTheCensus) {
+  open("Colaboradores");
+  const std::int32_t person = someoneWith(2);
+  ASSERT_TRUE(window->chooseRow(person));
+  const int before = shown();
+  user.answerAnything(forms::Answer::Yes);
+  give("eliminar-colaborador");
+  EXPECT_EQ(shown(), before - 1);
+  EXPECT_NE(window->choice().id, person);
+  EXPECT_NE(window->choice().id, 0);
+  window->showNode("Padrón");
+  EXPECT_TRUE(window->chooseRow(person));
+}
+
+TEST_F(CensusWindow, aCollaboratorTakenFromTheCensus_isAskedForWhatOthersLose) {
+  open("Padrón");
+  const auto communions = [this] {
+    return rowsOf("SELECT * FROM Padron_Comunion WHERE AñoComunion<>\"\"");
+  };
+  const auto before = communions();
+  ASSERT_GT(before, 0);
+  ASSERT_TRUE(window->chooseRow(someoneWith(1)));
+  user.answerAnything(forms::Answer::No);
+  give("eliminar-empadronado");
+  EXPECT_THAT(user.messages().back().text, ::testing::StartsWith("ADVERTENCIA"));
+  ASSERT_TRUE(window->chooseRow(someoneWith(2)));
+  give("eliminar-empadronado");
+  EXPECT_THAT(user.messages().back().text, ::testing::HasSubstr("TODAS"));
+  EXPECT_EQ(communions(), before);
+  user.answerAnything(forms::Answer::Yes);
+  give("eliminar-empadronado");
+  EXPECT_EQ(communions(), 0);
+}
+
+TEST_F(CensusWindow, whatIsDeletedIsNamed_andEnterLeavesIt) {
+  create();
+  window = std::make_unique<MainWindow>(*desk);
+  user.answerAnything(forms::Answer::No);
+  const std::pair<const char*, const char*> commands[] = {
+      {"PartidasBautismo", "eliminar-partida"},
+      {"SolicitudesBautismo", "eliminar-solicitud"},
+      {"LibrosBautismo", "eliminar-libro"},
+      {"LibrosBautismo", "cerrar-libro"},
+      {"Padrón", "eliminar-empadronado"},
+      {"Colaboradores", "eliminar-colaborador"},
+      {"Actividades", "eliminar-actividad"},
+      {"Cargos", "eliminar-cargo"},
+      {"Instituciones", "eliminar"},
+      {"Provincias", "eliminar"},
+      {"Municipios", "eliminar"},
+      {"Tareas", "eliminar"}};
+  for (const auto& [node, command] : commands) {
+    window->showNode(node);
+    window->table().selectRow(window->table().model()->rowCount() - 1);
+    const Choice before = window->choice();
+    give(command);
+    ASSERT_FALSE(user.messages().empty()) << command;
+    const forms::Message& asked = user.messages().back();
+    const bool refused = asked.buttons == forms::MsgButtons::Ok;
+    EXPECT_EQ(asked.byEnter, refused ? forms::Answer::None : forms::Answer::No) << asked.text;
+    EXPECT_EQ(asked.icon, forms::MsgIcon::Exclamation) << asked.text;
+    std::string row;
+    for (int column = 0; column < window->table().model()->columnCount(); ++column)
+      row += cell(column) + "\n";
+    const std::string named = asked.below.substr(0, asked.below.find_first_of(" ,:\n"));
+    EXPECT_FALSE(named.empty()) << asked.text;
+    EXPECT_TRUE(refused || row.find(named) != std::string::npos) << asked.below << "\n" << row;
+    EXPECT_EQ(window->choice().id, before.id) << command;
+  }
+}
+
+TEST_F(CensusWindow, emptyLists_takeTheirFirstRow) {
+  open("Cargos", Content::Empty);
+  EXPECT_EQ(shown(), 0);
+  EXPECT_FALSE(window->action("propiedades-cargo")->isEnabled());
+  user.expectForm("frmCargo", [](FormDriver& d) { d.escape(); });
+  give("nuevo-cargo");
+  window->showNode("Tareas");
+  user.expectForm("frmTarea", [](FormDriver& d) {
+    d.type("txtHoraInicio", "18:00");
+    d.type("txtNombre", "Reunión");
+    d.click("cmdBoton(0)");
+  });
+  give("nueva-tarea");
+  EXPECT_EQ(shown(), 1);
+  EXPECT_EQ(window->choice().id, 1);
+  EXPECT_TRUE(window->action("propiedades")->isEnabled());
+}
+
+TEST_F(CensusWindow, rowOfAnotherUser_isNotOpened) {
+  open("Provincias");
+  const auto id = std::to_string(window->choice().id);
+  auto other = desk->entorno().support.create_cProcesarBloqueos();
+  other->Inicializar(directory().string());
+  FDAPI::DefinicionBloqueo lock;
+  lock.strTabla = "Provincia";
+  lock.strRegistro = id;
+  other->DefinirBloqueo(lock);
+  ASSERT_EQ(other->lngEfectuarBloqueos(), 0);
+  user.answerAnything(forms::Answer::Ok);
+  give("propiedades");
+  ASSERT_EQ(user.messages().size(), 1u);
+  EXPECT_THAT(user.messages()[0].text, ::testing::HasSubstr("Lo está usando"));
+}
+
+TEST_F(CensusWindow, entireReports_holdWhatThereIs) {
+  open("Padrón");
+  for (const ListReport& report : listReports()) {
+    const auto made = makeListReport(*desk, report, Extent::Entire);
+    ASSERT_TRUE(made) << report.operation;
+    EXPECT_GT(made->rowCount(), 3u) << report.operation;
+  }
+  const auto made = makeListReport(*desk, listReports()[0], Extent::Entire);
+  EXPECT_EQ(made->rowCount(), static_cast<std::size_t>(count(
+                                  "SELECT COUNT(*) FROM Grupo WHERE IDGrupo IN (SELECT CodGrupo "
+                                  "FROM Padron_Actividad)")));
+}
+
+TEST(ReportProgress, eachStretchIsShownAndTheLastOneIsClosed) {
+  forms::ScriptedUser user;
+  {
+    ReportProgress progress(user);
+    progress.setValue(1);
+    EXPECT_FALSE(progress.began());
+    progress.Cargar(2, "Uno", 1, 0);
+    progress.setValue(2);
+    progress.Cargar(5, "Dos", 1, 0);
+    EXPECT_TRUE(progress.began());
+  }
+  EXPECT_THAT(user.progressLog,
+              ::testing::ElementsAre("open 2 Uno", "2", "close", "open 5 Dos", "close"));
+}
+
+/// Asks to stop as soon as it is shown how far the work has come.
+class Impatient : public forms::ScriptedUser {
+  void progressMove(std::int64_t) override { throw forms::Cancelled(); }
+};
+
+TEST_F(CensusWindow, reportStopped_leavesNothingAndTheNextIsWhole) {
+  create();
+  Impatient impatient;
+  Desk other(files(), "Secretaría", impatient, settings, clock);
+  impatient.expectMessage("Operación cancelada. No queda nada de ella.");
+  EXPECT_FALSE(makeListReport(other, listReports()[1], Extent::Entire));
+  EXPECT_THAT(impatient.problems(), ::testing::IsEmpty());
+  EXPECT_EQ(impatient.progressLog.back(), "close");
+  EXPECT_TRUE(makeListReport(*desk, listReports()[1], Extent::Entire));
+}
+
+TEST_F(CensusWindow, entireReportWithoutRows_isToldOnce) {
+  open("InformesActividades", Content::Empty);
+  user.expectMessage("¡No se ha encontrado ningún registro!");
+  give("informe-entero");
+}
+
+TEST_F(CensusWindow, choiceGivenUp_showsNothing) {
+  open("InformesTareas de la agenda");
+  user.expectForm("frmInfAgenda", [](FormDriver& d) { d.escape(); });
+  give("informe");
+  window->showNode("InformesColaboradores");
+  user.expectForm("frmInfActividad", [](FormDriver& d) { d.escape(); });
+  give("informe");
+  window->showNode("Colaboradores");
+  user.expectForm("frmInfActividad", [](FormDriver& d) {
+    EXPECT_EQ(d.caption(), "Informe de colaboradores");
+    d.escape();
+  });
+  give("informe-de-la-lista");
+}
+
+TEST_F(CensusWindow, menuWithNothingToOffer_isOff) {
+  open("Cargos");
+  const auto documents = [&] {
+    for (const QAction* title : window->menuBar()->actions())
+      if (title->text() == "&Documentos") return title->isEnabled();
+    return false;
+  };
+  EXPECT_FALSE(documents());
+  window->showNode("Colaboradores");
+  EXPECT_TRUE(documents());
+}
+
+TEST_F(CensusWindow, tasksOpenAtTheNextOne) {
+  open("Tareas");
+  const std::string chosen = std::to_string(window->choice().id);
+  EXPECT_EQ(rowsOf("SELECT IDTarea FROM Tareas WHERE Fecha>=\"20260520\" AND IDTarea=" + chosen),
+            1);
+  EXPECT_EQ(rowsOf("SELECT IDTarea FROM Tareas WHERE Fecha>=\"20260520\" AND Fecha<(SELECT Fecha "
+                   "FROM Tareas WHERE IDTarea=" +
+                   chosen + ")"),
+            0);
+  const auto openAgainAfter = [&](const std::string& statement) {
+    desk->parish().Execute(statement);
+    window->action("actualizar")->trigger();
+    window->showNode("Cargos");
+    window->showNode("Tareas");
+    return window->table().currentIndex().row();
+  };
+  const std::string following = "DELETE * FROM Tareas WHERE Fecha>=\"20260520\"";
+  EXPECT_EQ(openAgainAfter(following), 0);
+  EXPECT_GT(openAgainAfter("INSERT INTO Tareas (Fecha, HoraInicio, HoraFin, Nombre) VALUES "
+                           "(\"20260520\", \"1000\", \"1100\", \"De hoy\")"),
+            0)
+      << "one of today is still to come";
+}
+
+}  // namespace
+}  // namespace fidaleon::app

@@ -1,0 +1,491 @@
+// Copies made before something is taken away: what they are called, what they hold, how long they
+// stay.
+
+#include <QAction>
+#include <QTableView>
+#include <fstream>
+
+#include "parish/WindowSettings.h"
+#include "parish/copies/CopyRetention.h"
+#include "parish/copies/Precaution.h"
+#include "registers/baptism/frmPartidaBautismo.h"
+#include "store/Engine.h"
+#include "store/FailingEngine.h"
+#include "window/CopiesFixture.h"
+#include "window/MainWindow.h"
+
+namespace fidaleon::app {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+
+TEST(CopyName, saysWhenAndBeforeWhat_andSorts) {
+  const CopyName first{NOON, 1, "Eliminar en Partidas, Bautismo"};
+  const CopyName second{NOON, 2, "Anular"};
+  EXPECT_EQ(first.file(), "2020-05-20 12.00.00 Eliminar en Partidas, Bautismo.fidaleon");
+  EXPECT_EQ(second.file(), "2020-05-20 12.00.00-2 Anular.fidaleon");
+  EXPECT_LT(first.file(), second.file());
+  for (const CopyName& name : {first, second}) {
+    const auto read = CopyName::parse(name.file());
+    ASSERT_TRUE(read);
+    EXPECT_EQ(read->moment, name.moment);
+    EXPECT_EQ(read->ordinal, name.ordinal);
+    EXPECT_EQ(read->before, name.before);
+  }
+}
+
+TEST(CopyName, holdsNothingThatAFileSystemRefuses) {
+  EXPECT_EQ((CopyName{NOON, 1, " &Pasar a \"A/B\\C\": <¿qué?>|*\n… "}).file(),
+            "2020-05-20 12.00.00 Pasar a ABC ¿qué.fidaleon");
+  EXPECT_EQ((CopyName{NOON, 1, "..."}).file(), "2020-05-20 12.00.00 Orden.fidaleon");
+  std::string longest;
+  for (int i = 0; i < 100; ++i) longest += "𝓝";
+  EXPECT_LT((CopyName{NOON, 12, longest}).file().size(), 235U);
+}
+
+TEST(CopyName, otherFilesAreNone) {
+  for (const char* name :
+       {"", "parroquia.fidaleon", "2020-05-20 12.00.00.fidaleon", "2026-05-20 12.00.00 X.copia",
+        "2026-02-30 12.00.00 X.fidaleon", "2026-05-20 25.00.00 X.fidaleon",
+        "2026-05-20 12:00:00 X.fidaleon", "2020-05-20 12.00.00-x Y.fidaleon",
+        "2020-05-20 12.00.00-1 Y.fidaleon", "2026-05-20 12.00.00 X.fidaleon.parte",
+        "mi 2020-05-20 12.00.00 X.fidaleon", "2026-05-20 12.00.00 .fidaleon"})
+    EXPECT_FALSE(CopyName::parse(name)) << name;
+}
+
+/// One day for each offset, in days before Wednesday, 20 May 2026.
+std::vector<text::Date> daysBefore(const std::vector<int>& offsets) {
+  std::vector<text::Date> days;
+  for (const int offset : offsets) {
+    const QDate day = QDate(2026, 5, 20).addDays(-offset);
+    days.push_back({day.year(), day.month(), day.day()});
+  }
+  return days;
+}
+
+std::vector<int> weekly(int weeks) {
+  std::vector<int> offsets;
+  for (int week = 1; week <= weeks; ++week) offsets.push_back(7 * week);
+  return offsets;
+}
+
+TEST(CopyRetention, keepsThirtyThenOneAWeekForFiftyTwoWeeks) {
+  struct Case {
+    const char* what;
+    std::vector<int> older;  // behind thirty of today
+    std::vector<std::size_t> gone;
+  };
+  const std::vector<Case> cases{
+      {"thirty are no burden", {}, {}},
+      {"the week of the thirty has its copy", {0, 1, 2}, {30, 31, 32}},
+      {"Sunday is another week", {3}, {}},
+      {"the newest of each week", {3, 4, 9, 10, 11, 16}, {31, 32, 34, 35}},
+      {"fifty-two weeks that have some, and not one more", weekly(53), {82}},
+      {"weeks without copies are no matter", {100, 300}, {}},
+      {"over the turn of the year it is one week", {139, 140}, {31}},
+      {"long ago, or before a clock that is years ahead", {400, 800, 4000}, {}},
+  };
+  for (const Case& c : cases) {
+    std::vector<int> offsets(COPIES_KEPT, 0);
+    offsets.insert(offsets.end(), c.older.begin(), c.older.end());
+    EXPECT_EQ(superfluous(daysBefore(offsets)), c.gone) << c.what;
+  }
+  EXPECT_THAT(superfluous({}), IsEmpty());
+  EXPECT_THAT(superfluous(daysBefore({900, 901})), IsEmpty()) << "the newest stay";
+}
+
+TEST_F(Copies, made_areWholeAndApart) {
+  addOffice("Sacristán");
+  const fs::path first = make();
+  addOffice("Organista");
+  const fs::path second = make("Otra");
+  EXPECT_THAT(namesIn(folder()), ElementsAre("2020-05-20 12.00.00 Eliminar.fidaleon",
+                                             "2020-05-20 12.00.00-2 Otra.fidaleon"));
+  EXPECT_EQ(make().filename(), "2020-05-20 12.00.00-3 Eliminar.fidaleon");
+  EXPECT_EQ(officesIn(first), 1);
+  EXPECT_EQ(officesIn(second), 2);
+}
+
+TEST_F(Copies, whileAColleagueWrites_holdWhatWasStored) {
+  const auto colleague = store::openDatabase(files().parish(), store::parishSchema());
+  colleague->BeginTrans();
+  for (int i = 0; i < 50; ++i) Insert("Cargo").text("Nombre", "x").into(*colleague);
+  const fs::path copy = make();
+  colleague->CommitTrans();
+  EXPECT_EQ(officesIn(copy), 0);
+  EXPECT_EQ(officesIn(make()), 50);
+}
+
+TEST_F(Copies, thatCannotBeMade_sayWhyAndLeaveNothing) {
+  using Kind = store::ErrorKind;
+  const auto failure = [&] {
+    try {
+      make();
+    } catch (const store::Error& e) {
+      EXPECT_THAT(e.what(), HasSubstr("o"));
+      return e.kind();
+    }
+    return Kind::Other;
+  };
+  {
+    const FullDisk full(20000);
+    EXPECT_EQ(failure(), Kind::DiskFull);
+  }
+  EXPECT_THAT(namesIn(folder()), IsEmpty());
+  fs::remove_all(folder());
+  std::ofstream(folder()) << "a file in the place of the folder";
+  EXPECT_EQ(failure(), Kind::ReadOnly);
+}
+
+/// An engine whose copies come out wrong.
+class BadCopier : public store::FailingEngine {
+ public:
+  using FailingEngine::FailingEngine;
+  std::function<void(const fs::path&)> damage;
+  void backup(const fs::path& to) override {
+    FailingEngine::backup(to);
+    damage(to);
+  }
+};
+
+TEST_F(Copies, thatAreNotTheParish_areFoundOut) {
+  addOffice("Sacristán");
+  BadCopier* copier = nullptr;
+  desk->parish().wrapEngine([&](std::unique_ptr<store::Engine> inner) {
+    auto made = std::make_unique<BadCopier>(std::move(inner));
+    copier = made.get();
+    return made;
+  });
+  const std::vector<std::function<void(const fs::path&)>> faults{
+      [](const fs::path& f) { fs::resize_file(f, fs::file_size(f) / 2); },
+      [](const fs::path& f) { fs::resize_file(f, fs::file_size(f) - 4096); },
+      [](const fs::path& f) { fs::resize_file(f, 0); },
+      [](const fs::path& f) {
+        store::openDatabase(f, store::parishSchema())->Execute("DELETE FROM Cargo");
+      },
+      [](const fs::path& f) { fs::remove(f); },
+  };
+  for (const auto& fault : faults) {
+    copier->damage = fault;
+    EXPECT_THROW(make(), store::Error);
+    EXPECT_THAT(namesIn(folder()), IsEmpty());
+  }
+  copier->damage = [](const fs::path&) {};
+  EXPECT_EQ(officesIn(make()), 1);
+}
+
+TEST_F(Copies, ofADamagedParish_areRefused) {
+  fillOffices();
+  desk.reset();
+  damage();
+  open();
+  EXPECT_THROW(make(), store::Error);
+  EXPECT_THAT(namesIn(folder()), IsEmpty());
+}
+
+TEST_F(Copies, listed_areTheWholeOnesNewestFirst) {
+  make("Una", {{2020, 5, 1}, 9, 0, 0});
+  make("Dos", {{2020, 5, 2}, 9, 0, 0});
+  make("Tres", {{2020, 5, 2}, 9, 0, 0});
+  place("2020-05-03 10.00.00 A medias.fidaleon", "");
+  place("2020-05-03 10.00.00 Otra.fidaleon.parte");
+  place("notas.txt");
+  place("a mano.copia");
+  std::vector<std::string> before;
+  for (const SafetyCopy& copy : copies.list()) before.push_back(copy.before);
+  EXPECT_THAT(before, ElementsAre("", "Tres", "Dos", "Una")) << "written by hand just now";
+  EXPECT_THAT(SafetyCopies("/no/hay").list(), IsEmpty());
+}
+
+TEST_F(Copies, pruned_onlyOursGo) {
+  fs::create_directories(folder());
+  for (int day = 1; day <= 31; ++day)
+    place(CopyName{{{2026, 3, day}, 8, 0, 0}, 1, "Eliminar"}.file());
+  for (int day = 2; day <= 4; ++day)  // Monday to Wednesday
+    place(CopyName{{{2026, 2, day}, 8, 0, 0}, 1, "Eliminar"}.file());
+  const std::vector<std::string> foreign{"2020-01-01 copia de Ana.fidaleon", "notas.txt",
+                                         "parroquia.fidaleon", "vieja.copia"};
+  for (const std::string& name : foreign) place(name);
+  place("2026-05-20 09.00.00 De hoy.fidaleon.parte");
+  place("2026-05-19 09.00.00 De ayer.fidaleon.parte-journal");
+  place("2026-05-19 09.00.00 De ayer.fidaleon", "");
+  copies.prune({{2026, 5, 20}, 12, 0, 0});
+  const auto left = namesIn(folder());
+  // Thirty, the first of March as the newest of its week, and that of the first week of February.
+  EXPECT_EQ(left.size(), 30 + 2 + foreign.size() + 1);
+  for (const std::string& name : foreign) EXPECT_THAT(left, ::testing::Contains(name));
+  EXPECT_THAT(left, ::testing::Contains("2026-02-04 08.00.00 Eliminar.fidaleon"));
+  EXPECT_THAT(left, ::testing::Contains("2026-05-20 09.00.00 De hoy.fidaleon.parte"));
+}
+
+// A clock that was wrong for a day makes copies of days to come; they must not push out what is
+// made afterwards.
+TEST_F(Copies, ofDaysToCome_countForNothingAndStay) {
+  fs::create_directories(folder());
+  for (int day = 1; day <= 31; ++day)
+    place(CopyName{{{2031, 3, day}, 8, 0, 0}, 1, "Eliminar"}.file());
+  for (int made = 1; made <= 3; ++made) {
+    {
+      const Precaution copy(copies, desk->parish(), "Eliminar", NOON);
+      addOffice("x");
+    }
+    EXPECT_EQ(namesIn(folder()).size(), 31U + static_cast<std::size_t>(made));
+  }
+}
+
+TEST_F(Copies, beforeACommand_stayOnlyWhenItChangedSomething) {
+  const auto after = [&](const std::function<void()>& command) {
+    {
+      const Precaution copy(copies, desk->parish(), "Eliminar", NOON);
+      command();
+    }
+    return namesIn(folder()).size();
+  };
+  const auto colleague = store::openDatabase(files().parish(), store::parishSchema());
+  EXPECT_EQ(after([] {}), 0U);
+  EXPECT_EQ(after([&] { offices(); }), 0U);
+  EXPECT_EQ(after([&] { Insert("Cargo").text("Nombre", "x").into(*colleague); }), 0U);
+  EXPECT_EQ(after([&] {
+              desk->parish().BeginTrans();
+              addOffice("Sacristán");
+              desk->parish().RollbackTrans();
+            }),
+            0U);
+  EXPECT_EQ(after([&] { addOffice("Sacristán"); }), 1U);
+}
+
+/// A parish that is damaged and opens all the same.
+class DamagedWindow : public Copies {
+ protected:
+  void SetUp() override {
+    Copies::SetUp();
+    fillOffices();
+    make();
+    desk.reset();
+    damage();
+    open();
+    window = std::make_unique<MainWindow>(*desk);
+    window->show();
+    window->showNode("Provincias");
+    answerNext("&Volver a una copia…", &said);
+  }
+  void TearDown() override {
+    EXPECT_TRUE(said.contains("La parroquia está estropeada.")) << said.toStdString();
+    EXPECT_EQ(window->departure().to, Departure::To::Copy);
+    EXPECT_EQ(copies.list().size(), 1U) << "of what was whole";
+  }
+  std::unique_ptr<MainWindow> window;
+  QString said;
+};
+
+TEST_F(DamagedWindow, isNoticedBeforeACopyAndToldWithTheWayBack) {
+  window->action("eliminar")->trigger();
+}
+
+TEST_F(DamagedWindow, isNoticedWhenNobodyIsAtTheKeyboard) {
+  window->dailyCheck().begin(std::chrono::seconds(10));
+  window->dailyCheck().begin(std::chrono::minutes(10));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return !said.isEmpty(); }));
+}
+
+/// A parish with an open window.
+class CopiesWindow : public Copies {
+ protected:
+  void SetUp() override {
+    create();
+    window = std::make_unique<MainWindow>(*desk);
+    window->show();
+    window->showNode("SolicitudesBautismo");
+    before = rows();
+  }
+  int rows() const { return window->table().model()->rowCount(); }
+  void deleteRequest(forms::Answer answer) {
+    user.expectMessage("¿Está seguro que desea eliminar la solicitud?", answer);
+    window->action("eliminar-solicitud")->trigger();
+  }
+  std::unique_ptr<MainWindow> window;
+  int before = 0;
+};
+
+TEST_F(CopiesWindow, deleting_leavesACopyThatNamesTheCommand) {
+  deleteRequest(forms::Answer::No);
+  EXPECT_THAT(namesIn(folder()), IsEmpty());
+  deleteRequest(forms::Answer::Yes);
+  const auto all = copies.list();
+  ASSERT_EQ(all.size(), 1U);
+  EXPECT_EQ(all[0].before, "Eliminar en Solicitudes, Bautismo");
+  EXPECT_THAT(user.problems(), IsEmpty());
+}
+
+TEST_F(CopiesWindow, withoutACopy_goesOnOnlyWhenToldTo) {
+  std::ofstream(folder()) << "x";
+  QString text;
+  answerNext({}, &text);
+  window->action("eliminar-solicitud")->trigger();
+  EXPECT_EQ(rows(), before) << "Enter says no";
+  EXPECT_TRUE(text.contains("No se ha podido guardar una copia")) << text.toStdString();
+  EXPECT_TRUE(text.contains("No se puede escribir en")) << text.toStdString();
+  answerNext("C&ontinuar sin copia");
+  deleteRequest(forms::Answer::Yes);
+  EXPECT_EQ(rows(), before - 1);
+  EXPECT_THAT(user.problems(), IsEmpty());
+}
+
+TEST_F(CopiesWindow, aSoundParish_isLookedThroughOnceADay) {
+  const auto checked = [&] { return readWindowSetting(*desk, "comprobada"); };
+  window->dailyCheck().begin(std::chrono::minutes(10));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return !checked().empty(); }));
+  EXPECT_THAT(checked(), HasSubstr("20260520"));
+}
+
+TEST_F(CopiesWindow, whenTheParishIsGone_nothingIsBegunAndItCanBeOpenedAgain) {
+  const fs::path aside = directory() / "aparte";
+  fs::rename(files().parish(), aside);
+  QString text;
+  answerNext("&Ahora no", &text);
+  window->action("eliminar-solicitud")->trigger();
+  EXPECT_TRUE(text.contains("ya no está en su sitio")) << text.toStdString();
+  EXPECT_EQ(window->departure().to, Departure::To::End);
+  answerNext("A&brir de nuevo");
+  window->action("eliminar-solicitud")->trigger();
+  EXPECT_EQ(window->departure().to, Departure::To::Parish);
+  fs::rename(aside, files().parish());
+  deleteRequest(forms::Answer::Yes);
+  EXPECT_EQ(rows(), before - 1) << "it is back";
+}
+
+TEST_F(CopiesWindow, anEntryAcceptedIntoAParishThatIsGone_staysOpenWithWhatWasTyped) {
+  const fs::path aside = directory() / "aparte";
+  const auto entries = [&] { return count("SELECT COUNT(*) FROM Bautismo_Hijo"); };
+  const std::int64_t all = entries();
+  const std::string name = "txtBautismo(" + std::to_string(frmPartidaBautismo::NombreHijo) + ")";
+  user.answerAnything(forms::Answer::Yes);
+  user.expectForm("frmPartidaBautismo", [&](forms::FormDriver& d) {
+    d.choose("cboBautismo(22)", "San Blas");
+    auto& books = d.get<forms::ComboBox>("cboBautismo(23)");
+    if (books.listIndex() < 0) d.choose("cboBautismo(23)", books.list(0));
+    d.tab("mstBautismo", 1);
+    d.type(name, "Íñigo");
+    d.type("txtBautismo(" + std::to_string(frmPartidaBautismo::PrimerApellidoHijo) + ")", "Vela");
+    fs::rename(files().parish(), aside);
+    d.click("cmdBautismo(0)");
+    EXPECT_EQ(d.text(name), "Íñigo");
+    EXPECT_EQ(entries(), all);
+    EXPECT_THAT(user.messages().back().text, HasSubstr("devuelva el archivo a su sitio"));
+    fs::rename(aside, files().parish());
+    d.click("cmdBautismo(0)");
+    EXPECT_EQ(entries(), all + 1);
+    d.close();
+  });
+  desk->nucleo().NuevaPartida(desk->parish(), desk->config(), "PartidasBautismo");
+}
+
+/// Opens the properties of the old book and takes one of its entries out, or changes nothing but
+/// the date.
+class CopiesBook : public CopiesWindow {
+ protected:
+  void SetUp() override {
+    CopiesWindow::SetUp();
+    desk->parish().Execute("UPDATE Libro_Bautismo SET Cerrado=true WHERE Nuevo=true");
+    window->showNode("LibrosBautismo");
+    ASSERT_TRUE(window->chooseRow(static_cast<std::int32_t>(
+        count("SELECT IDLibroBautismo FROM Libro_Bautismo WHERE Nuevo=false"))));
+  }
+  void acceptBook(bool withoutAnEntry) {
+    user.expectForm("frmPropiedadesLibroBautismo", [=](forms::FormDriver& d) {
+      if (withoutAnEntry) {
+        d.tab("mstLibro", 1);
+        d.row("msgPartidas", 1);
+        d.click("cmdPartidas(3)");
+      }
+      d.click("cmdBoton(0)");
+      if (!d.closed()) d.click("cmdBoton(1)");
+    });
+    window->action("propiedades-libro")->trigger();
+    EXPECT_THAT(user.problems(), IsEmpty());
+  }
+  std::int64_t entries() { return count("SELECT COUNT(*) FROM Bautismo"); }
+};
+
+TEST_F(CopiesBook, withoutSomeOfItsEntries_hasACopyWithThem) {
+  const std::int64_t all = entries();
+  for (const char* journal : {"WAL", "DELETE"}) {
+    SCOPED_TRACE(journal);
+    desk->parish().engine().run(std::string("PRAGMA journal_mode = ") + journal);
+    acceptBook(false);
+    EXPECT_THAT(copies.list(), IsEmpty()) << "nothing was taken away";
+    acceptBook(true);
+    ASSERT_EQ(copies.list().size(), 1U);
+    EXPECT_EQ(copies.list()[0].before, "Propiedades en Libros, Bautismo");
+    SafetyCopies::remove(copies.list()[0].file);
+  }
+  EXPECT_EQ(entries(), all - 2);
+}
+
+TEST_F(CopiesWindow, incompleteEntries_areToldOfAndRemovedBehindACopy) {
+  window->tellOfIncompleteEntries();
+  const std::int64_t all = count("SELECT COUNT(*) FROM Bautismo");
+  desk->parish().Execute("DELETE * FROM Bautismo_Hijo WHERE CodBautismo=1");
+  user.expectMessage(
+      "Hay una partida a la que le falta alguna de sus fichas: no aparece en ninguna lista. ¿Desea "
+      "verla ahora?",
+      forms::Answer::Yes);
+  user.expectForm("frmPartidasIncompletas", [&](forms::FormDriver& d) {
+    user.expectMessage("¿Está seguro que desea eliminar la partida?", forms::Answer::Yes);
+    d.click("cmdBoton(1)");
+  });
+  window->tellOfIncompleteEntries();
+  EXPECT_EQ(count("SELECT COUNT(*) FROM Bautismo"), all - 1);
+  ASSERT_EQ(copies.list().size(), 1U);
+  EXPECT_EQ(copies.list()[0].before, "Partidas incompletas");
+  EXPECT_THAT(user.problems(), IsEmpty());
+}
+
+TEST_F(CopiesBook, withoutACopy_keepsItsEntriesUntilToldToGoOn) {
+  const std::int64_t all = entries();
+  std::ofstream(folder()) << "x";
+  user.answerAnything(forms::Answer::Yes);
+  answerNext({});
+  acceptBook(true);
+  EXPECT_EQ(entries(), all);
+  EXPECT_THAT(user.messages()[0].text, HasSubstr("No se ha eliminado nada"));
+  answerNext("C&ontinuar sin copia");
+  acceptBook(true);
+  EXPECT_EQ(entries(), all - 1);
+}
+
+// The copy is made while the command is in the middle of what it stores.
+TEST_F(CopiesWindow, membersTakenOutOfAGroup_areInTheCopy) {
+  for (const char* journal : {"WAL", "DELETE"}) {
+    SCOPED_TRACE(journal);
+    desk->parish().engine().run(std::string("PRAGMA journal_mode = ") + journal);
+    Insert("Padron_Actividad").number("CodPadron", 1).number("CodCargo", 1).into(desk->parish());
+    const std::int64_t members = count("SELECT COUNT(*) FROM Padron_Actividad");
+    const std::int64_t offices = this->offices();
+    store::RemovalWatch watch(desk->parish());
+    std::unique_ptr<Precaution> copy;
+    const store::RemovalWatch::Listener listener(watch, [&] {
+      if (!copy) copy = std::make_unique<Precaution>(copies, desk->parish(), "Propiedades", NOON);
+    });
+    desk->parish().BeginTrans();
+    addOffice("Sacristán");
+    EXPECT_EQ(copy, nullptr);
+    desk->parish().Execute("DELETE * FROM Padron_Actividad WHERE CodCargo>0");
+    desk->parish().CommitTrans();
+    copy.reset();
+    ASSERT_EQ(copies.list().size(), 1U);
+    const fs::path file = copies.list()[0].file;
+    EXPECT_EQ(officesIn(file), offices);
+    EXPECT_EQ(store::openDatabase(file, store::parishSchema())
+                  ->Execute("SELECT * FROM Padron_Actividad")
+                  .RecordCount(),
+              members);
+    EXPECT_EQ(count("SELECT COUNT(*) FROM Padron_Actividad"), 0);
+    SafetyCopies::remove(file);
+  }
+}
+
+}  // namespace
+}  // namespace fidaleon::app

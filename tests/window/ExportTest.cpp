@@ -1,0 +1,282 @@
+// Lists saved for a spreadsheet.
+
+#include <signal.h>
+#include <sys/resource.h>
+
+#include <QAction>
+#include <QDir>
+#include <QFileDialog>
+#include <QHeaderView>
+#include <QLineEdit>
+#include <QTableView>
+#include <QTest>
+#include <QTimer>
+#include <QXmlStreamReader>
+#include <fstream>
+#include <map>
+
+#include "export/CsvText.h"
+#include "export/OdsDocument.h"
+#include "parish/Insert.h"
+#include "parish/Parish.h"
+#include "window/ListExport.h"
+#include "window/MainWindow.h"
+#include "window/RowsFilter.h"
+
+namespace fidaleon::app {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+using ::testing::StartsWith;
+using Kind = ListCell::Kind;
+
+ListTable sample() {
+  return {"Partidas, Bautismo",
+          {{"Nombre", 4.5}, {"Folio", 2}, {"Fecha", 2.25}, {"Hora", 2}},
+          {{{Kind::Text, "Íñigo; «el \"Rubio\"»"},
+            {Kind::Number, "12"},
+            {Kind::Date, "1999-01-05"},
+            {Kind::Time, "09:30"}},
+           {{Kind::Text, ""}, {Kind::Number, "-3"}, {Kind::Date, ""}, {Kind::Text, "tarde"}}}};
+}
+
+std::string csvOf(const std::string& text) {
+  const std::string all = csvText({"Lista", {{"T", 3}}, {{{Kind::Text, text}}}});
+  return all.substr(6, all.size() - 8);  // without mark, title and line ends
+}
+
+TEST(Csv, isWhatSpanishSpreadsheetsTake) {
+  EXPECT_EQ(csvText(sample()),
+            "\xEF\xBB\xBFNombre;Folio;Fecha;Hora\r\n"
+            "\"Íñigo; «el \"\"Rubio\"\"»\";12;05/01/1999;09:30\r\n"
+            ";-3;;tarde\r\n");
+  EXPECT_EQ(csvText({"Vacía", {{"Nombre", 3}}, {}}), "\xEF\xBB\xBFNombre\r\n");
+}
+
+TEST(Csv, awkwardTexts) {
+  const std::vector<std::pair<std::string, std::string>> cases{
+      {"=1+1", "'=1+1"},
+      {"+34 600 100 200", "'+34 600 100 200"},
+      {"-2+3", "'-2+3"},
+      {"@SUMA(A1)", "'@SUMA(A1)"},
+      {"=HYPERLINK(\"http://x\";\"y\")", "\"'=HYPERLINK(\"\"http://x\"\";\"\"y\"\")\""},
+      {"  =1", "'  =1"},
+      {"\t=1", "\"'\t=1\""},
+      {"\r\n=1", "\"'\n=1\""},
+      {"\x01=1", "'=1"},
+      {"a=1", "a=1"},
+      {"García-Abril", "García-Abril"},
+      {"c/ Mayor, 3", "\"c/ Mayor, 3\""},
+      {"una\r\ndos\rtres", "\"una\ndos\ntres\""},
+      {" blanco ", "\" blanco \""},
+      {std::string("nulo\0fin", 8), "nulofin"},
+  };
+  for (const auto& [text, written] : cases) EXPECT_EQ(csvOf(text), written) << text;
+  EXPECT_THAT(csvText({"L", {{"=T", 3}}, {}}), HasSubstr("'=T")) << "titles too";
+}
+
+TEST(Ods, contentIsTyped) {
+  const std::string content = odsContent(sample());
+  const std::string sheet = content.substr(content.find("<table:table "));
+  EXPECT_EQ(
+      sheet,
+      "<table:table table:name=\"Partidas, Bautismo\">"
+      "<table:table-column table:style-name=\"columna1\"/>"
+      "<table:table-column table:style-name=\"columna2\"/>"
+      "<table:table-column table:style-name=\"columna3\"/>"
+      "<table:table-column table:style-name=\"columna4\"/>"
+      "<table:table-header-rows><table:table-row>"
+      "<table:table-cell table:style-name=\"titulo\" office:value-type=\"string\">"
+      "<text:p>Nombre</text:p></table:table-cell>"
+      "<table:table-cell table:style-name=\"titulo\" office:value-type=\"string\">"
+      "<text:p>Folio</text:p></table:table-cell>"
+      "<table:table-cell table:style-name=\"titulo\" office:value-type=\"string\">"
+      "<text:p>Fecha</text:p></table:table-cell>"
+      "<table:table-cell table:style-name=\"titulo\" office:value-type=\"string\">"
+      "<text:p>Hora</text:p></table:table-cell>"
+      "</table:table-row></table:table-header-rows>"
+      "<table:table-row>"
+      "<table:table-cell office:value-type=\"string\">"
+      "<text:p>Íñigo; «el &quot;Rubio&quot;»</text:p></table:table-cell>"
+      "<table:table-cell office:value-type=\"float\" office:value=\"12\">"
+      "<text:p>12</text:p></table:table-cell>"
+      "<table:table-cell table:style-name=\"fecha\" office:value-type=\"date\" "
+      "office:date-value=\"1999-01-05\"><text:p>05/01/1999</text:p></table:table-cell>"
+      "<table:table-cell table:style-name=\"hora\" office:value-type=\"time\" "
+      "office:time-value=\"PT09H30M00S\"><text:p>09:30</text:p></table:table-cell>"
+      "</table:table-row>"
+      "<table:table-row><table:table-cell/>"
+      "<table:table-cell office:value-type=\"float\" office:value=\"-3\">"
+      "<text:p>-3</text:p></table:table-cell><table:table-cell/>"
+      "<table:table-cell office:value-type=\"string\"><text:p>tarde</text:p></table:table-cell>"
+      "</table:table-row></table:table></office:spreadsheet></office:body>"
+      "</office:document-content>\n");
+  for (const char* part :
+       {"style:column-width=\"4.50cm\"", "style:column-width=\"2.25cm\"",
+        "<style:style style:name=\"titulo\" style:family=\"table-cell\">"
+        "<style:text-properties fo:font-weight=\"bold\"/>",
+        "style:name=\"fecha\" style:family=\"table-cell\" style:data-style-name=\"N-fecha\""})
+    EXPECT_THAT(content, HasSubstr(part));
+}
+
+std::string paragraphOf(const std::string& text) {
+  const std::string content = odsContent({"L", {{"T", 3}}, {{{Kind::Text, text}}}});
+  QXmlStreamReader xml(QByteArray::fromStdString(content));
+  while (!xml.atEnd()) xml.readNext();
+  EXPECT_FALSE(xml.hasError()) << text;
+  const std::size_t end = content.find("</table:table-row></table:table>");
+  const std::string row = content.substr(0, end);
+  const std::size_t cell = row.rfind("\"string\">") + 9;
+  return row.substr(cell, row.rfind("</table:table-cell>") - cell);
+}
+
+TEST(Ods, awkwardTexts_stayTextsAndXmlStaysSound) {
+  const std::vector<std::pair<std::string, std::string>> cases{
+      {"=1+1", "<text:p>=1+1</text:p>"},
+      {"<a> & \"b\"", "<text:p>&lt;a&gt; &amp; &quot;b&quot;</text:p>"},
+      {"una\r\ndos\n\ntres",
+       "<text:p>una</text:p><text:p>dos</text:p><text:p></text:p><text:p>tres</text:p>"},
+      {" a  b\tc ", "<text:p><text:s/>a <text:s/>b c<text:s/></text:p>"},
+      {std::string("\x01\x00 a\x0B\x1F", 6), "<text:p><text:s/>a</text:p>"},
+      {"\xEF\xBF\xBE\xEF\xBF\xBFx", "<text:p>x</text:p>"},
+      {"\xC3(", "<text:p>\xEF\xBF\xBD(</text:p>"},
+      {"]]> 𝓝", "<text:p>]]&gt; 𝓝</text:p>"},
+  };
+  for (const auto& [text, written] : cases) EXPECT_EQ(paragraphOf(text), written) << text;
+  EXPECT_THAT(odsContent({"a/b:[c]\\'?*", {}, {}}), HasSubstr("table:name=\"a b c\""));
+  EXPECT_THAT(odsContent({"", {}, {}}), HasSubstr("table:name=\"Lista\""));
+}
+
+TEST(Ods, file_saysWhatItIsInItsFirstBytes) {
+  const std::string ods = odsDocument(sample());
+  EXPECT_THAT(ods, StartsWith("PK\3\4"));
+  EXPECT_EQ(ods.substr(8, 2), std::string(2, '\0')) << "as it stands, not packed";
+  EXPECT_EQ(ods.substr(28, 2), std::string(2, '\0')) << "nothing between name and content";
+  EXPECT_EQ(ods.substr(30, 54), "mimetypeapplication/vnd.oasis.opendocument.spreadsheet");
+  for (const char* name : {"content.xml", "META-INF/manifest.xml"})
+    EXPECT_THAT(ods, HasSubstr(name));
+  EXPECT_EQ(ods.find("<table:table"), std::string::npos) << "the sheet is packed";
+}
+
+TEST_F(ParishTest, replacedFile_isTheNewOneOrTheOldOne) {
+  const QString file = QString::fromStdString((directory() / "lista.csv").string());
+  const auto content = [&] {
+    std::ifstream in(file.toStdString());
+    return std::string(std::istreambuf_iterator<char>(in), {});
+  };
+  EXPECT_EQ(replaceFile(file, "una"), "");
+  EXPECT_EQ(replaceFile(file, "dos"), "");
+  EXPECT_EQ(content(), "dos");
+  rlimit before{};
+  getrlimit(RLIMIT_FSIZE, &before);
+  const rlimit small{1000, before.rlim_max};
+  const auto handler = signal(SIGXFSZ, SIG_IGN);
+  setrlimit(RLIMIT_FSIZE, &small);
+  const std::string why = replaceFile(file, std::string(100000, 'x'));
+  setrlimit(RLIMIT_FSIZE, &before);
+  signal(SIGXFSZ, handler);
+  EXPECT_THAT(why, HasSubstr("el disco"));
+  EXPECT_EQ(content(), "dos");
+  EXPECT_THAT(replaceFile(file + "/no/hay.csv", "x"), HasSubstr("la carpeta no existe"));
+  EXPECT_EQ(QDir(QString::fromStdString(directory().string())).entryList(QDir::Files),
+            QStringList{"lista.csv"});
+}
+
+TEST(ListFormats, goByTheEnding) {
+  EXPECT_EQ(formatOf("a.CSV", ListFormat::Ods), ListFormat::Csv);
+  EXPECT_EQ(formatOf("a.ods", ListFormat::Csv), ListFormat::Ods);
+  EXPECT_EQ(formatOf("a.txt", ListFormat::Csv), ListFormat::Csv);
+}
+
+class SavedList : public ParishTest {
+ protected:
+  void SetUp() override {
+    create();
+    desk->parish().Execute("DELETE FROM Cargo");
+    addOffice("Sacristán", "Abre y cierra.\r\nToca.");
+    addOffice("Ñandú", "---");
+    addOffice("Organista", "=2+2");
+    window = std::make_unique<MainWindow>(*desk);
+    window->show();
+    window->showNode("Cargos");
+  }
+  void addOffice(const std::string& name, const std::string& description) {
+    Insert("Cargo").text("Nombre", name).text("Descripcion", description).into(desk->parish());
+  }
+  static std::vector<std::string> texts(const ListTable& table) {
+    std::vector<std::string> all;
+    for (const auto& row : table.rows) {
+      std::string line;
+      for (const ListCell& cell : row) line += "[" + cell.value + "]";
+      all.push_back(line);
+    }
+    return all;
+  }
+  /// Writes the name into the dialog that comes, and presses Enter.
+  void saveAs(const QString& name) {
+    QTimer::singleShot(0, [name] {
+      auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+      ASSERT_TRUE(dialog);
+      auto* field = dialog->findChild<QLineEdit*>("fileNameEdit");
+      ASSERT_TRUE(field);
+      field->setText(name);
+      QTest::keyClick(field, Qt::Key_Return);
+      if (dialog->isVisible()) dialog->reject();
+    });
+    window->action("guardar-lista")->trigger();
+  }
+  std::unique_ptr<MainWindow> window;
+};
+
+TEST_F(SavedList, isWhatIsShown) {
+  QTableView& view = window->table();
+  EXPECT_THAT(texts(readList(view)), ElementsAre("[Ñandú][]", "[Organista][=2+2]",
+                                                 "[Sacristán][Abre y cierra.\r\nToca.]"));
+  view.sortByColumn(0, Qt::DescendingOrder);
+  view.horizontalHeader()->moveSection(1, 0);
+  window->filter().setText("an");
+  const ListTable moved = readList(view);
+  EXPECT_EQ(moved.name, "Cargos");
+  EXPECT_EQ(moved.columns[0].title, "Descripción");
+  EXPECT_THAT(texts(moved), ElementsAre("[Abre y cierra.\r\nToca.][Sacristán]", "[=2+2][Organista]",
+                                        "[][Ñandú]"));
+  view.hideColumn(1);
+  window->filter().setText("sac");
+  EXPECT_THAT(texts(readList(view)), ElementsAre("[Sacristán]"));
+  window->showNode("Partidas");
+  EXPECT_FALSE(window->action("guardar-lista")->isEnabled()) << "a folder has no list";
+}
+
+TEST_F(SavedList, numbersAndDates_areWhatTheyAre) {
+  window->showNode("PartidasBautismo");
+  const ListTable table = readList(window->table());
+  std::map<std::string, Kind> kinds;
+  for (std::size_t c = 0; c < table.columns.size(); ++c)
+    kinds[table.columns[c].title] = table.rows[0][c].kind;
+  EXPECT_EQ(table.name, "Partidas\\Bautismo");
+  EXPECT_EQ(kinds["Folio"], Kind::Number);
+  EXPECT_EQ(kinds["Bautismo"], Kind::Date);
+  EXPECT_EQ(kinds["Nombre"], Kind::Text);
+  for (const ListColumn& column : table.columns) EXPECT_GT(column.centimetres, 0.5);
+}
+
+TEST_F(SavedList, byTheWindow_isWrittenAndTheFolderRemembered) {
+  const std::string folder = (directory() / "listas").string();
+  std::filesystem::create_directory(folder);
+  saveAs(QString::fromStdString(folder + "/cargos.csv"));
+  std::ifstream in(folder + "/cargos.csv");
+  EXPECT_THAT(std::string(std::istreambuf_iterator<char>(in), {}),
+              HasSubstr("Organista;'=2+2\r\n"));
+  saveAs("otra");
+  EXPECT_TRUE(std::filesystem::exists(folder + "/otra.csv"));
+  saveAs("hoja.ods");
+  EXPECT_TRUE(std::filesystem::exists(folder + "/hoja.ods"));
+  saveAs("lista 3.5");
+  EXPECT_TRUE(std::filesystem::exists(folder + "/lista 3.5.ods"));
+  EXPECT_THAT(user.problems(), IsEmpty());
+}
+
+}  // namespace
+}  // namespace fidaleon::app

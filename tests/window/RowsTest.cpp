@@ -1,0 +1,210 @@
+#include <QAbstractItemModelTester>
+
+#include "parish/Insert.h"
+#include "parish/Parish.h"
+#include "store/Open.h"
+#include "window/RowsFilter.h"
+
+namespace fidaleon::app {
+namespace {
+
+/// A list of entries whose surnames, numbers and dates are awkward on purpose.
+class Rows : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    con = store::memoryDatabase(store::parishSchema());
+    addInstitution(*con, "San Blas", 0);
+    Insert("Libro_Bautismo")
+        .number("CodInstitucion", 1)
+        .text("Nombre", "Libro I")
+        .text("FechaCreacion", "19000101")
+        .into(*con);
+    add("Íñigo", "Nuñez", "12a", "19990101", false);
+    add("Oscar", "Núñez", "2", "---", false);
+    add("Óscar", "Ñíguez", "10", "20010203", true);
+    add("Ana", "Nadal", "1", "19051231", false);
+    model.load(*con, *findNode("PartidasBautismo"));
+    shown.setSourceModel(&model);
+  }
+
+  void add(const std::string& name, const std::string& surname, const std::string& number,
+           const std::string& day, bool annulled) {
+    const std::int32_t id = Insert("Bautismo")
+                                .number("CodLibro", 1)
+                                .number("Folio", 1)
+                                .text("Numero", number)
+                                .text("FechaBautismo", day)
+                                .number("Anulada", annulled)
+                                .into(*con, "IDBautismo");
+    Insert("Bautismo_Hijo")
+        .number("CodBautismo", id)
+        .text("Nombre", name)
+        .text("PrimerApellido", surname)
+        .text("FechaNac", "---")
+        .into(*con);
+  }
+
+  int column(const std::string& title) const {
+    for (int c = 0; c < model.columnCount(); ++c)
+      if (model.headerData(c, Qt::Horizontal, Qt::DisplayRole).toString().toStdString() == title)
+        return c;
+    return -1;
+  }
+  QString cell(int row, const std::string& title) const {
+    return shown.index(row, column(title)).data().toString();
+  }
+  std::vector<std::string> sorted(const std::string& by, const std::string& shownColumn,
+                                  Qt::SortOrder order = Qt::AscendingOrder) {
+    shown.sort(column(by), order);
+    std::vector<std::string> values;
+    for (int r = 0; r < shown.rowCount(); ++r) values.push_back(cell(r, shownColumn).toStdString());
+    return values;
+  }
+
+  std::unique_ptr<store::Connection> con;
+  RowsModel model;
+  RowsFilter shown;
+};
+
+using ::testing::ElementsAre;
+
+TEST_F(Rows, keepsTheContractOfModels) {
+  QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::Fatal);
+  model.load(*con, *findNode("Provincias"));
+  EXPECT_EQ(model.rowCount(), 52);
+  model.load(*con, *findNode("Libros"));
+  EXPECT_EQ(model.rowCount(), 0);
+}
+
+TEST_F(Rows, textSortsInSpanishOrder) {
+  EXPECT_THAT(sorted("Primer apellido", "Primer apellido"),
+              ElementsAre("Nadal", "Nuñez", "Núñez", "Ñíguez"));
+}
+
+TEST_F(Rows, numbersSortByValue_datesByTheDay) {
+  EXPECT_THAT(sorted("Número", "Número"), ElementsAre("1", "2", "10", "12a"));
+  EXPECT_THAT(sorted("Bautismo", "Bautismo", Qt::DescendingOrder),
+              ElementsAre("03/02/2001", "01/01/1999", "31/12/1905", ""));
+}
+
+TEST_F(Rows, filterFindsWhateverTheAccentsAndTheOrder) {
+  const auto found = [&](const char* text) {
+    shown.setText(QString::fromUtf8(text));
+    return shown.rowCount();
+  };
+  EXPECT_EQ(found("nunez"), 2);
+  EXPECT_EQ(found("NÚÑEZ"), 2);
+  EXPECT_EQ(found("oscar nig"), 1);
+  EXPECT_EQ(found("iñigo"), 1);
+  EXPECT_EQ(found("03/02/2001"), 1);
+  EXPECT_EQ(found("anulada"), 1);
+  EXPECT_EQ(found("nadie"), 0);
+  EXPECT_EQ(found("  "), 4);
+}
+
+TEST_F(Rows, anAnnulledRowIsMarked) {
+  for (int r = 0; r < shown.rowCount(); ++r) {
+    const bool annulled = shown.index(r, 0).data(RowsModel::AnnulledRole).toBool();
+    EXPECT_EQ(cell(r, "Anulada"), annulled ? "Anulada" : "");
+    EXPECT_EQ(shown.index(r, 3).data(Qt::FontRole).value<QFont>().strikeOut(), annulled);
+    EXPECT_EQ(shown.index(r, 3).data(Qt::ToolTipRole).toString().isEmpty(), !annulled);
+  }
+}
+
+TEST_F(Rows, aFailingLoadKeepsWhatWasShown) {
+  NodeView broken = *findNode("PartidasBautismo");
+  broken.node.SQLSelect = "SELECT Nada FROM Bautismo";
+  EXPECT_THROW(model.load(*con, broken), store::Error);
+  EXPECT_EQ(model.rowCount(), 4);
+}
+
+TEST_F(Rows, filteringASortedList_keepsItsOrder) {
+  shown.sort(column("Primer apellido"), Qt::DescendingOrder);
+  shown.setText("n");
+  EXPECT_EQ(shown.rowCount(), 4);
+  EXPECT_EQ(cell(0, "Primer apellido"), "Ñíguez");
+  shown.setText("nunez");
+  EXPECT_EQ(shown.rowCount(), 2);
+  shown.setText("");
+  EXPECT_EQ(cell(3, "Primer apellido"), "Nadal");
+}
+
+TEST_F(Rows, anotherLoad_sortsAndFiltersWhatIsThereNow) {
+  shown.setText("nadal");
+  shown.sort(column("Nombre"));
+  EXPECT_EQ(shown.rowCount(), 1);
+  add("Begoña", "Nadal", "3", "20200101", false);
+  add("Abel", "Nadal", "4", "20200101", false);
+  model.load(*con, *findNode("PartidasBautismo"));
+  ASSERT_EQ(shown.rowCount(), 3);
+  EXPECT_EQ(cell(0, "Nombre"), "Abel");
+  EXPECT_EQ(model.rowOf(model.key(2)), 2);
+  EXPECT_EQ(model.rowOf(999), -1);
+}
+
+TEST_F(Rows, timesAreShownWithAColon_andALongTextInOneLine) {
+  for (const char* times : {"\"0905\", \"\"", "\"\", \"2330\""})
+    con->Execute(std::string("INSERT INTO Tareas (Fecha, HoraInicio, HoraFin, Nombre, Descripcion) "
+                             "VALUES (\"20260524\", ") +
+                 times + ", \"Coro\", \"uno\r\ndos\")");
+  model.load(*con, *findNode("Tareas"));
+  EXPECT_THAT(sorted("Desde", "Desde"), ElementsAre("", "09:05"));
+  EXPECT_EQ(cell(0, "Hasta"), "23:30");
+  EXPECT_EQ(cell(0, "Fecha"), "24/05/2026");
+  EXPECT_EQ(cell(0, "Descripción"), "uno  dos");
+  shown.setText("09:05");
+  EXPECT_EQ(shown.rowCount(), 1);
+}
+
+/// Somebody with these roles, without town or institution.
+void addPerson(store::Connection& con, const char* name, const std::vector<int>& roles) {
+  const std::int32_t id = Insert("Padron")
+                              .text("Nombre", name)
+                              .text("PrimerApellido", "O'Farrill \"el Indiano\"")
+                              .number("CodMunicipio", 0)
+                              .into(con, "IDPadron");
+  for (const int role : roles)
+    Insert("Padron_TipoPersona").number("CodPadron", id).number("CodTipoPersona", role).into(con);
+}
+
+TEST_F(Rows, peopleAreListedOnceInEachOfTheirRoles) {
+  addPerson(*con, "Empadronada", {2});
+  addPerson(*con, "Colaborador", {3});
+  addPerson(*con, "Ambas cosas", {2, 3});
+  addPerson(*con, "Nada", {});
+  Insert("Padron_Nacimiento").number("CodPadron", 3).text("FechaNacimiento", "19801231").into(*con);
+  model.load(*con, *findNode("Padrón"));
+  EXPECT_THAT(sorted("Nombre", "Nombre"), ElementsAre("Ambas cosas", "Empadronada"));
+  EXPECT_EQ(cell(0, "Nacimiento"), "31/12/1980");
+  EXPECT_EQ(cell(1, "Primer apellido"), "O'Farrill \"el Indiano\"");
+  model.load(*con, *findNode("Colaboradores"));
+  EXPECT_THAT(sorted("Nombre", "Nombre"), ElementsAre("Ambas cosas", "Colaborador"));
+}
+
+TEST_F(Rows, activitiesCountTheirOwnGroupsAndMembers) {
+  for (const char* name : {"Coro", "Limpieza", "Cáritas"})
+    Insert("Actividad").text("Nombre", name).number("CodInstitucion", 1).into(*con);
+  for (const int activity : {1, 1, 3}) Insert("Grupo").number("CodActividad", activity).into(*con);
+  for (const int group : {1, 2, 2, 3})
+    Insert("Padron_Actividad").number("CodPadron", 5).number("CodGrupo", group).into(*con);
+  model.load(*con, *findNode("Actividades"));
+  EXPECT_THAT(sorted("Actividad", "Grupos"), ElementsAre("1", "2", "0"));
+  EXPECT_THAT(sorted("Actividad", "Miembros"), ElementsAre("1", "3", "0"));
+  EXPECT_EQ(cell(1, "Institución"), "San Blas");
+}
+
+TEST(Nodes, everyListRunsAndHasItsColumns) {
+  const auto con = store::memoryDatabase(store::parishSchema());
+  for (const NodeView& v : nodeViews()) {
+    if (v.node.SQLSelect.empty()) continue;
+    const auto rows = con->Execute(v.node.SQLSelect);
+    std::vector<std::string> names;
+    for (int f = 0; f < rows.FieldCount(); ++f) names.push_back(rows.FieldName(f));
+    for (const ColumnView& c : v.columns)
+      EXPECT_THAT(names, ::testing::Contains(c.field)) << v.node.Nombre;
+    EXPECT_THAT(names, ::testing::Contains(v.key)) << v.node.Nombre;
+  }
+}
+
+}  // namespace
+}  // namespace fidaleon::app

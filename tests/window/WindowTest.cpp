@@ -1,0 +1,311 @@
+#include <QAction>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QStatusBar>
+#include <QTableView>
+#include <QTest>
+#include <QTimer>
+#include <QToolButton>
+#include <QTreeView>
+#include <QWindow>
+#include <sstream>
+
+#include "catalogue/Documents.h"
+#include "parish/Parish.h"
+#include "showroom/Demo.h"
+#include "showroom/DemoScripts.h"
+#include "window/FirstRunWizard.h"
+#include "window/MainWindow.h"
+
+namespace fidaleon::app {
+namespace {
+
+class Window : public ParishTest {
+ protected:
+  void SetUp() override {
+    create();
+    window = std::make_unique<MainWindow>(*desk);
+    window->show();
+  }
+  bool enabled(const char* command) const { return window->action(command)->isEnabled(); }
+  bool visible(const char* command) const { return window->action(command)->isVisible(); }
+  int shown() const { return window->table().model()->rowCount(); }
+
+  std::unique_ptr<MainWindow> window;
+};
+
+TEST_F(Window, opensOnTheEntriesWithARowChosen) {
+  EXPECT_EQ(window->choice().node->node.Nombre, "PartidasBautismo");
+  EXPECT_NE(window->choice().id, 0);
+  EXPECT_TRUE(enabled("propiedades-partida"));
+  EXPECT_FALSE(visible("nuevo-libro"));
+}
+
+TEST_F(Window, anotherNode_bringsItsRowsAndCommands) {
+  window->showNode("LibrosBautismo");
+  EXPECT_EQ(shown(), 2);
+  EXPECT_TRUE(enabled("cerrar-libro"));
+  EXPECT_FALSE(visible("nueva-partida"));
+  window->showNode("LibrosDefuncion");
+  EXPECT_EQ(shown(), 0);
+  EXPECT_TRUE(enabled("nuevo-libro"));
+  EXPECT_FALSE(enabled("cerrar-libro"));
+  window->showNode("Partidas");
+  EXPECT_FALSE(visible("nueva-partida"));
+}
+
+TEST_F(Window, filter_narrowsAndTheCommandsFollowTheRow) {
+  const int all = shown();
+  window->filter().setText("zzzz");
+  EXPECT_EQ(shown(), 0);
+  EXPECT_FALSE(enabled("propiedades-partida"));
+  window->filter().clear();
+  EXPECT_EQ(shown(), all);
+  EXPECT_TRUE(enabled("propiedades-partida"));
+}
+
+TEST_F(Window, annulling_asksAndOneKeyLeadsThereAndBack) {
+  const auto id = static_cast<std::int32_t>(
+      count("SELECT MAX(IDBautismo) FROM Bautismo WHERE CodLibro<>0 AND Anulada=false"));
+  ASSERT_TRUE(window->chooseRow(id));
+  user.expectMessage(
+      "La partida quedará anulada: conservará su folio y su número. ¿Desea anularla?",
+      forms::Answer::Yes);
+  const auto key = [&] {
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    QTest::keyClick(window->windowHandle(), Qt::Key_U, Qt::ControlModifier);
+  };
+  key();
+  EXPECT_EQ(window->choice().id, id);
+  EXPECT_TRUE(window->choice().annulled);
+  EXPECT_FALSE(visible("anular"));
+  EXPECT_TRUE(visible("validar") && enabled("validar"));
+  key();
+  EXPECT_FALSE(window->choice().annulled);
+  EXPECT_TRUE(visible("anular") && !visible("validar"));
+  EXPECT_THAT(user.problems(), ::testing::IsEmpty());
+}
+
+TEST_F(Window, annulledElsewhere_isToldInsteadOfAskedAndNotValidated) {
+  const std::int32_t id = window->choice().id;
+  ASSERT_FALSE(window->choice().annulled);
+  desk->parish().Execute("UPDATE Bautismo SET Anulada=1 WHERE IDBautismo=" + std::to_string(id));
+  user.expectMessage("Otro puesto ya ha anulado esta partida: no se ha cambiado nada.");
+  window->action("anular")->trigger();
+  EXPECT_EQ(window->choice().id, id);
+  EXPECT_TRUE(window->choice().annulled);
+  EXPECT_THAT(user.problems(), ::testing::IsEmpty());
+}
+
+TEST_F(Window, deletingARequest_asksFirst) {
+  window->showNode("SolicitudesBautismo");
+  const int before = shown();
+  user.expectMessage("¿Está seguro que desea eliminar la solicitud?", forms::Answer::No);
+  window->action("eliminar-solicitud")->trigger();
+  EXPECT_EQ(shown(), before);
+  user.expectMessage("¿Está seguro que desea eliminar la solicitud?", forms::Answer::Yes);
+  window->action("eliminar-solicitud")->trigger();
+  EXPECT_EQ(shown(), before - 1);
+  EXPECT_NE(window->choice().id, 0);
+  EXPECT_THAT(user.problems(), ::testing::IsEmpty());
+}
+
+TEST_F(Window, insertKey_addsFromTheListAndFromTheTree) {
+  window->showNode("Municipios");
+  const std::vector<QWidget*> views{&window->table(), window->findChild<QTreeView*>()};
+  window->activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+  for (QWidget* view : views) {
+    view->setFocus();
+    user.expectForm("frmMunicipio", [](forms::FormDriver& d) { d.click("cmdBoton(1)"); });
+    QTest::keyClick(window->windowHandle(), Qt::Key_Insert);
+  }
+  EXPECT_THAT(user.problems(), ::testing::IsEmpty());
+}
+
+TEST_F(Window, whatIsAddedIsChosen) {
+  window->showNode("Municipios");
+  const int before = shown();
+  user.expectForm("frmMunicipio", [](forms::FormDriver& d) {
+    d.type("txtNombre", "Aldea del Ñandú");
+    d.choose("cboProvincia", "Madrid");
+    d.click("cmdBoton(0)");
+  });
+  window->action("nuevo-municipio")->trigger();
+  EXPECT_EQ(shown(), before + 1);
+  EXPECT_EQ(window->choice().id, count("SELECT MAX(IDMunicipio) FROM Municipio"));
+  EXPECT_THAT(user.problems(), ::testing::IsEmpty());
+}
+
+TEST_F(Window, changedByAnotherDesk_theListFollowsAndStaysWhereItWas) {
+  window->showNode("Provincias");
+  window->resize(900, 400);
+  const auto top = [&] { return window->table().indexAt({0, 0}).data(RowsModel::KeyRole).toInt(); };
+  const int before = shown();
+  const auto last = window->table().model()->index(before - 1, 0);
+  ASSERT_TRUE(window->chooseRow(last.data(RowsModel::KeyRole).toInt()));
+  const std::int32_t chosen = window->choice().id;
+  const std::int32_t highest = top();
+  ASSERT_NE(highest, window->table().model()->index(0, 0).data(RowsModel::KeyRole).toInt());
+  const auto write = [](Desk& at, const char* name) {
+    at.parish().Execute(std::string("INSERT INTO Provincia (Nombre) VALUES (\"") + name + "\")");
+  };
+  write(*desk, "Aaa");
+  window->renewIfChanged();
+  EXPECT_EQ(shown(), before) << "what is written here is shown when the command ends";
+  forms::ScriptedUser colleague;
+  Desk other(files(), "Archivo", colleague, settings, clock);
+  write(other, "Aab");
+  window->renewIfChanged();
+  EXPECT_EQ(shown(), before + 2);
+  EXPECT_EQ(window->choice().id, chosen);
+  EXPECT_EQ(top(), highest);
+}
+
+TEST_F(Window, entriesOfABook_areItsOwnUntilTheLimitIsTakenAway) {
+  const int all = shown();
+  window->showNode("LibrosBautismo");
+  ASSERT_TRUE(window->chooseRow(2));
+  window->action("ver-partidas")->trigger();
+  EXPECT_EQ(window->choice().node->node.Nombre, "PartidasBautismo");
+  EXPECT_EQ(shown(), count("SELECT COUNT(IDBautismo) FROM Bautismo WHERE CodLibro=2"));
+  EXPECT_LT(shown(), all);
+  window->filter().setText("zzzz");
+  EXPECT_EQ(shown(), 0);
+  window->filter().clear();
+  window->action("actualizar")->trigger();
+  EXPECT_LT(shown(), all);
+  auto* scope = window->findChild<QToolButton*>("scope");
+  ASSERT_TRUE(scope);
+  EXPECT_EQ(scope->text(), "Libro: 2014/01");
+  scope->click();
+  EXPECT_EQ(shown(), all);
+  EXPECT_FALSE(scope->isVisible());
+}
+
+TEST_F(Window, enterOnABook_opensIt) {
+  window->showNode("LibrosBautismo");
+  user.expectForm("frmPropiedadesLibroBautismo", [](forms::FormDriver& d) { d.escape(); });
+  window->action("propiedades-libro")->trigger();
+  EXPECT_THAT(user.problems(), ::testing::IsEmpty());
+}
+
+TEST_F(Window, requests_moveIntoTheBookAndLeaveTheList) {
+  window->showNode("SolicitudesBautismo");
+  ASSERT_EQ(shown(), 5);
+  user.expectForm("frmSolicitudes", [](forms::FormDriver& d) {
+    d.chooseData("cboInstitucion", 1);
+    demo::moveAllRequests(d);
+  });
+  window->action("pasar-al-libro")->trigger();
+  EXPECT_EQ(shown(), 0);
+  EXPECT_THAT(user.problems(), ::testing::IsEmpty());
+}
+
+TEST_F(Window, duplicate_cancelledShowsNothing) {
+  window->showNode("Duplicadas de bautismo");
+  user.expectForm("frmInfDuplicadas", [](forms::FormDriver& d) { d.escape(); });
+  window->action("duplicadas")->trigger();
+  EXPECT_THAT(user.problems(), ::testing::IsEmpty());
+}
+
+TEST_F(Window, document_twiceInARowHoldsOneRow) {
+  const Document* slip = findDocument("volante", FDAPI::cCAplicacion::APP_FIDALEON_MADRID);
+  for (int i = 0; i < 2; ++i) {
+    const auto report = makeReport(*desk, *slip, 1);
+    ASSERT_TRUE(report);
+    EXPECT_EQ(report->rowCount(), 1u);
+  }
+}
+
+TEST_F(Window, documentOfAnEntryThatIsGone_isNothing) {
+  const Document* slip = findDocument("volante", FDAPI::cCAplicacion::APP_FIDALEON_MADRID);
+  user.answerAnything(forms::Answer::Ok);
+  EXPECT_FALSE(makeReport(*desk, *slip, 999999));
+}
+
+TEST_F(Window, widthsAndPlaceComeBack) {
+  window->table().setColumnWidth(3, 321);
+  window->resize(1000, 555);
+  window->close();
+  window = std::make_unique<MainWindow>(*desk);
+  EXPECT_EQ(window->table().columnWidth(3), 321);
+  EXPECT_EQ(window->height(), 555);
+}
+
+TEST_F(Window, closingTheParish_leavesNothingOpenForTheNext) {
+  window->action("cerrar-parroquia")->trigger();
+  QCoreApplication::processEvents();
+  EXPECT_FALSE(window->isVisible());
+  EXPECT_EQ(window->departure().to, Departure::To::Start);
+}
+
+TEST_F(Window, recentParishes_areInTheMenuWithoutTheOpenOne) {
+  ParishDoor door(settings, clock);
+  for (int i = 0; i < 10; ++i)
+    door.remember({"Parroquia " + std::to_string(i), directory() / std::to_string(i)});
+  door.remember({"San Blas", directory()});
+  door.remember({"Parroquia 5 y 6", directory() / "5"});
+  const std::vector<KnownParish> known = door.recent();
+  ASSERT_EQ(known.size(), ParishDoor::MOST);
+  EXPECT_EQ(known[0], (KnownParish{"Parroquia 5 y 6", directory() / "5"}));
+  EXPECT_EQ(known[2].name, "Parroquia 9");
+  QMenu* file = window->menuBar()->actions().at(0)->menu();
+  emit file->aboutToShow();
+  QMenu* recent = nullptr;
+  for (QAction* line : file->actions())
+    if (line->text() == "Parroquias &recientes") recent = line->menu();
+  ASSERT_TRUE(recent);
+  ASSERT_EQ(recent->actions().size(), 7);
+  recent->actions().at(1)->trigger();
+  QCoreApplication::processEvents();
+  EXPECT_FALSE(window->isVisible());
+  EXPECT_EQ(window->departure().directory, directory() / "9");
+}
+
+TEST_F(ParishTest, wizard_opensAParishThatIsThere) {
+  createParish(described(Content::Empty), clock.today());
+  FirstRunWizard wizard(described());
+  wizard.restart();
+  wizard.next();
+  ASSERT_EQ(wizard.nextId(), -1);
+  QTimer::singleShot(0, [] {
+    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    ASSERT_TRUE(box);
+    EXPECT_TRUE(box->text().contains("¿Desea abrirla?"));
+    box->button(QMessageBox::Yes)->click();
+  });
+  EXPECT_TRUE(wizard.validateCurrentPage());
+  EXPECT_TRUE(wizard.opensWhatIsThere());
+}
+
+TEST_F(ParishTest, wizardGivesBackWhatItWasOffered) {
+  const FirstRunWizard wizard(described());
+  const NewParish p = wizard.parish();
+  EXPECT_EQ(p.name, "San Blas");
+  EXPECT_EQ(p.province, 28);
+  EXPECT_EQ(p.edition, described().edition);
+  EXPECT_EQ(p.content, Content::Sample);
+  EXPECT_EQ(p.directory, directory());
+}
+
+TEST_F(ParishTest, demo_walksTheWholeRoad) {
+  std::ostringstream out;
+  EXPECT_TRUE(runDemo(directory() / "demo", out)) << out.str();
+  for (const char* file : {"demo.log", "certificado.pdf", "literal.pdf", "volante.pdf", "libro.pdf",
+                           "indice.pdf", "duplicado.pdf"})
+    EXPECT_TRUE(std::filesystem::exists(directory() / "demo" / file)) << file;
+  EXPECT_TRUE(runDemo(directory() / "demo", out)) << "a second time: " << out.str();
+}
+
+TEST_F(ParishTest, demo_leavesAnotherParishAlone) {
+  create(Content::Empty);
+  std::ostringstream out;
+  EXPECT_FALSE(runDemo(directory(), out));
+  EXPECT_EQ(desk->parishName(), "San Blas");
+}
+
+}  // namespace
+}  // namespace fidaleon::app
