@@ -70,7 +70,7 @@ void frmColaborador::rechazar(Pestaña pestaña, Texto campo, const std::string&
 
 Persona frmColaborador::leerCampos() const {
   Persona persona = persona_;
-  for (const Enlace& e : textos_)
+  for (const auto& e : enlaces_.textos)
     persona.*e.miembro = e.campo->multiline() ? e.campo->text() : text::trim(e.campo->text());
   persona.CodMunicipio = lugares_[DOMICILIO].valor();
   persona.CodMunicipioParrBaut = lugares_[BAUTISMO].valor();

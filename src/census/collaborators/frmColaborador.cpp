@@ -81,7 +81,7 @@ void frmColaborador::crearTextos() {
     forms::TextBox& campo = txtColaborador.add(c.indice, c.etiqueta);
     campo.setMaxLength(c.maximo);
     campo.setLines(c.lineas);
-    textos_.push_back({&campo, c.miembro});
+    enlaces_.textos.push_back({&campo, c.miembro});
   }
   for (const Texto cifras : {CPostal, Telefono, Telefono2, AñoNacimiento})
     soloDigitos(contexto_, txtColaborador[cifras]);
@@ -207,7 +207,7 @@ bool frmColaborador::leerTabla(const Tabla<Persona>& tabla, const char* clave) {
 }
 
 void frmColaborador::mostrarPersona() {
-  for (const Enlace& e : textos_) e.campo->setText(persona_.*e.miembro);
+  enlaces_.mostrar(persona_);
   cumpleaños_->poner(persona_.Cumpleaños);
   adtpFechaBautizo.setStored(persona_.FechaBautizo);
   lugares_[DOMICILIO].poner(persona_.CodMunicipio);

@@ -12,7 +12,7 @@
 #include "census/persons/Persona.h"
 #include "census/search/BuscaCoincidencias.h"
 #include "core/dialogs/Dialogo.h"
-#include "core/lists/ParProvinciaPoblacion.h"
+#include "core/lists/Enlaces.h"
 #include "core/statements/Columnas.h"
 
 namespace fidaleon {
@@ -84,11 +84,6 @@ class frmColaborador : public Dialogo {
   void Form_Unload() override;
 
  private:
-  struct Enlace {
-    forms::TextBox* campo;
-    std::string Persona::*miembro;
-  };
-
   // Fields and layout
   void crearTextos();
   void crearLugar(Lugar lugar, Lista provincia);
@@ -154,7 +149,7 @@ class frmColaborador : public Dialogo {
   void guardarActividad(const cPadronActividad& actividad, std::int32_t idPadron);
   void insertarActividad(const cPadronActividad& actividad, std::int32_t idPadron);
 
-  std::vector<Enlace> textos_;
+  Enlaces<Persona> enlaces_;
   std::deque<ParProvinciaPoblacion> lugares_;  // by Lugar
   std::optional<CampoCumpleaños> cumpleaños_;
   std::optional<BuscaCoincidencias> coincidencias_;

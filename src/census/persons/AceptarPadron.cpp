@@ -110,10 +110,11 @@ std::string frmPadron::dni() const {
 
 void frmPadron::leerCampos() {
   Persona& p = ficha_.persona;
-  for (const auto& [campo, miembro] : textos_)
+  for (const auto& [campo, miembro] : enlaces_.textos)
     p.*miembro = campo->multiline() ? campo->text() : text::trim(campo->text());
-  for (const auto& [campo, miembro] : fechas_) p.*miembro = fechaEnLugarDe(p.*miembro, *campo);
-  for (const auto& [par, miembro] : municipios_) p.*miembro = par->valor();
+  for (const auto& [campo, miembro] : enlaces_.fechas)
+    p.*miembro = fechaEnLugarDe(p.*miembro, *campo);
+  for (const auto& [par, miembro] : enlaces_.municipios) p.*miembro = par->valor();
   p.DNI = dni();
   // A word that the list does not have is not shown; it stays unless another is chosen.
   if (cboPadron[Sexo].listIndex() >= 0 || sexoMostrado_) p.Sexo = cboPadron[Sexo].text();

@@ -57,18 +57,19 @@ forms::TextBox& frmPadron::texto(Texto indice, const char* etiqueta,
   forms::TextBox& campo =
       txtPadron.has(indice) ? txtPadron[indice] : txtPadron.add(indice, etiqueta);
   campo.setMaxLength(ANCHO_TEXTO);
-  textos_.push_back({&campo, miembro});
+  enlaces_.textos.push_back({&campo, miembro});
   return campo;
 }
 
 void frmPadron::fecha(Fecha indice, std::string Persona::*miembro) {
-  fechas_.push_back({&adtpPadron.add(indice, "FECHA:"), miembro});
+  enlaces_.fechas.push_back({&adtpPadron.add(indice, "FECHA:"), miembro});
 }
 
 void frmPadron::municipio(Lista provincia, std::int32_t Persona::*miembro) {
   forms::ComboBox& provincias = cboPadron.add(provincia, "PROVINCIA:");
   forms::ComboBox& poblaciones = cboPadron.add(provincia + 1, "POBLACIÓN:");
-  municipios_.push_back({&pares_.emplace_back(contexto_, provincias, poblaciones), miembro});
+  enlaces_.municipios.push_back(
+      {&pares_.emplace_back(contexto_, provincias, poblaciones), miembro});
   cmdAltaProvincia.add(provincia, "Agregar Provincia");
   // The first tab is short of letters; no field shall be the one that goes without.
   cmdAltaPoblacion.add(

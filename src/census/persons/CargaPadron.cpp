@@ -61,9 +61,7 @@ bool frmPadron::leerEmpadronado() {
 
 void frmPadron::mostrarPersona() {
   const Persona& p = ficha_.persona;
-  for (const auto& [campo, miembro] : textos_) campo->setText(p.*miembro);
-  for (const auto& [campo, miembro] : fechas_) campo->setStored(p.*miembro);
-  for (const auto& [par, miembro] : municipios_) par->poner(p.*miembro);
+  enlaces_.mostrar(p);
   comprobarPoblaciones();
   cboPadron[Sexo].setListIndex(-1);
   sexoMostrado_ = cboPadron[Sexo].selectText(p.Sexo) || p.Sexo.empty();

@@ -9,7 +9,7 @@
 #include "census/persons/FichaEmpadronado.h"
 #include "census/search/BuscaCoincidencias.h"
 #include "core/dialogs/Dialogo.h"
-#include "core/lists/ParProvinciaPoblacion.h"
+#include "core/lists/Enlaces.h"
 
 namespace fidaleon {
 
@@ -109,12 +109,6 @@ class frmPadron : public Dialogo {
   void Form_Unload() override;
 
  private:
-  template <class T, class Campo>
-  struct Enlace {
-    Campo* campo;
-    T Persona::*miembro;
-  };
-
   // Fields and layout
   void crearCampos();
   void crearSacramentos();
@@ -197,10 +191,8 @@ class frmPadron : public Dialogo {
   bool conPesetas() const { return contexto_.config().TrabajarConPesetas; }
   const char* importeCero() const { return conPesetas() ? "0" : "0,00"; }
 
-  std::vector<Enlace<std::string, forms::TextBox>> textos_;
-  std::vector<Enlace<std::string, forms::DateField>> fechas_;
+  Enlaces<Persona> enlaces_;
   std::deque<ParProvinciaPoblacion> pares_;
-  std::vector<Enlace<std::int32_t, ParProvinciaPoblacion>> municipios_;
   BuscaCoincidencias coincidencias_;
   FichaEmpadronado ficha_;
   bool dniCambiado_ = false;

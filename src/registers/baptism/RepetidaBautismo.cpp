@@ -7,8 +7,6 @@
 
 namespace fidaleon {
 
-using FDAPI::cCOperacion;
-
 namespace {
 
 std::string igual(const char* columna, const std::string& texto, const char* signo = " = ") {
@@ -66,7 +64,7 @@ bool mismoTexto(const std::string& a, const std::string& b) {
 }
 
 /// What both records must share to be the same baptism, parents aside.
-bool mismosDatos(const cBautismo& a, const cBautismo& b) {
+bool mismoBautismo(const cBautismo& a, const cBautismo& b) {
   for (const auto miembro :
        {&cBautismo::FechaBautismo, &cBautismo::PadrinoBautismo, &cBautismo::MadrinaBautismo,
         &cBautismo::ParroquiaBautismo, &cBautismo::DiocesisBautismo, &cBautismo::MinistroBautismo,
@@ -80,92 +78,41 @@ bool mismosDatos(const cBautismo& a, const cBautismo& b) {
 
 }  // namespace
 
-bool frmPartidaBautismo::ComprobarDatosBaseDatos() {
-  if (esSolicitud()) return true;
-  const cBautismo partida = leerCampos();
-  if (!repetidaEnColeccion(partida) && !repetida(partida)) return true;
-  return forms::ask(ui(), "La partida de " + partida.NombreHijo + " " + partida.PrimerApellidoHijo +
-                              " " + partida.SegundoApellidoHijo +
-                              " ya existe en el libro correspondiente, ¿Quiere continuar?");
-}
-
-bool frmPartidaBautismo::repetida(const cBautismo& b) {
+std::string frmPartidaBautismo::sqlRepetida(const cBautismo& b) {
   const std::string padres = condicionEnlace(*conBaseDatos, "CodPadres", sqlPadres(b));
-  if (padres.empty()) return false;
+  if (padres.empty()) return {};
   const std::string madres = condicionEnlace(*conBaseDatos, "CodMadres", sqlMadres(b));
-  if (madres.empty()) return false;
+  if (madres.empty()) return {};
   const std::string matrimonio = condicionEnlace(*conBaseDatos, "CodMatrimonio", sqlMatrimonio(b));
-  if (matrimonio.empty()) return false;
-  const std::string libros = condicionLibros();
-  if (libros.empty()) return false;
-  store::Recordset filas = conBaseDatos->Execute(
-      "SELECT * FROM Bautismo, Bautismo_Hijo WHERE FechaBautismo = " +
-      entreComillas(b.FechaBautismo) + igual("Padrino", b.PadrinoBautismo) +
-      igual("Madrina", b.MadrinaBautismo) + padres + igual("Parroquia", b.ParroquiaBautismo) +
-      igual("Diocesis", b.DiocesisBautismo) + madres + matrimonio +
-      igual("Ministro", b.MinistroBautismo) + igual("Nombre", b.NombreHijo) +
-      igual("CodMunicipioNac", b.CodPoblacionNacHijo) + igual("Sexo", b.SexoHijo) +
-      igual("PrimerApellido", b.PrimerApellidoHijo) +
-      igual("SegundoApellido", b.SegundoApellidoHijo) + igual("FechaNac", b.FechaNacHijo) +
-      igual("HoraNac", b.HoraNacHijo) + igual("DireccionNac", b.DireccionNacHijo) +
-      igual("CodMunicipio", b.CodPoblacionBautismo) + " AND CodBautismo = IDBautismo AND (" +
-      libros + ")");
-  for (; !filas.EOF_(); filas.MoveNext()) {
-    const std::int64_t id = filas.integer("IDBautismo");
-    if (id != b.IDBautismo && !marcadaParaBorrar(id)) return true;
-  }
-  return false;
+  if (matrimonio.empty()) return {};
+  return "SELECT * FROM Bautismo, Bautismo_Hijo WHERE FechaBautismo = " +
+         entreComillas(b.FechaBautismo) + igual("Padrino", b.PadrinoBautismo) +
+         igual("Madrina", b.MadrinaBautismo) + padres + igual("Parroquia", b.ParroquiaBautismo) +
+         igual("Diocesis", b.DiocesisBautismo) + madres + matrimonio +
+         igual("Ministro", b.MinistroBautismo) + igual("Nombre", b.NombreHijo) +
+         igual("CodMunicipioNac", b.CodPoblacionNacHijo) + igual("Sexo", b.SexoHijo) +
+         igual("PrimerApellido", b.PrimerApellidoHijo) +
+         igual("SegundoApellido", b.SegundoApellidoHijo) + igual("FechaNac", b.FechaNacHijo) +
+         igual("HoraNac", b.HoraNacHijo) + igual("DireccionNac", b.DireccionNacHijo) +
+         igual("CodMunicipio", b.CodPoblacionBautismo) + " AND CodBautismo = IDBautismo";
 }
 
-std::string frmPartidaBautismo::condicionLibros() const {
-  store::Recordset filas = conBaseDatos->Execute(
-      "SELECT idlibrobautismo FROM Libro_Bautismo WHERE (nuevo=true AND cerrado=false) OR "
-      "(nuevo=false AND fechacreacion<=(SELECT fechacreacion FROM Libro_Bautismo WHERE nombre=" +
-      entreComillas(cboBautismo[Libro].text()) +
-      " AND codinstitucion=" + std::to_string(cboBautismo[Institucion].data()) + "))");
-  std::string libros;
-  for (; !filas.EOF_(); filas.MoveNext())
-    libros += (libros.empty() ? "codlibro=" : " OR codlibro=") + filas.text("idlibrobautismo");
-  return libros;
-}
-
-bool frmPartidaBautismo::repetidaEnColeccion(const cBautismo& partida) const {
-  if (!desdeLista()) return false;
-  for (std::size_t i = 0; i < colPartidas->size(); ++i) {
-    const cBautismo& item = (*colPartidas)[i];
-    const bool esElMismo = !esAlta() && i == lngPosicion;
-    if (esElMismo || item.Operacion == cCOperacion::Borrar) continue;
-    if (mismosDatos(item, partida) && mismaFila(TABLA_PADRES, item, partida) &&
-        mismaFila(TABLA_MADRES, item, partida) && mismaFila(TABLA_MATRIMONIO, item, partida))
-      return true;
-  }
-  return false;
-}
-
-bool frmPartidaBautismo::marcadaParaBorrar(std::int64_t id) const {
-  if (!desdeLista()) return false;
-  for (const cBautismo& item : *colPartidas)
-    if (item.Estado && item.IDBautismo == id) return item.Operacion == cCOperacion::Borrar;
-  return false;
+bool frmPartidaBautismo::mismosDatos(const cBautismo& a, const cBautismo& b) const {
+  return mismoBautismo(a, b) && mismaFila(TABLA_PADRES, a, b) && mismaFila(TABLA_MADRES, a, b) &&
+         mismaFila(TABLA_MATRIMONIO, a, b);
 }
 
 bool frmPartidaBautismo::ComprobarCambios(cBautismo& nuevo) const {
-  bool cambios = false;
-  procedimiento("ComprobarCambios", [&] {
-    const bool padre = !mismaFila(TABLA_PADRES, registro_, nuevo) ||
-                       !mismoTexto(registro_.TelefonoMadre, nuevo.TelefonoMadre) ||
-                       !mismoTexto(registro_.TelefonoPadres, nuevo.TelefonoPadres);
-    const bool madre = !mismaFila(TABLA_MADRES, registro_, nuevo);
-    const bool matrimonio = !mismaFila(TABLA_MATRIMONIO, registro_, nuevo);
-    const bool general =
-        !mismaFila(TABLA_BAUTISMO, registro_, nuevo) || !mismaFila(TABLA_HIJO, registro_, nuevo);
-    cambios = padre || madre || matrimonio || general;
-    // An item of a list may have been changed before, in the same sitting.
-    nuevo.CambioPadre = nuevo.CambioPadre || padre;
-    nuevo.CambioMadre = nuevo.CambioMadre || madre;
-    nuevo.CambioMatrimonio = nuevo.CambioMatrimonio || matrimonio;
-  });
-  return cambios;
+  const bool padre = !mismaFila(TABLA_PADRES, registro_, nuevo) ||
+                     !mismoTexto(registro_.TelefonoMadre, nuevo.TelefonoMadre) ||
+                     !mismoTexto(registro_.TelefonoPadres, nuevo.TelefonoPadres);
+  const bool madre = !mismaFila(TABLA_MADRES, registro_, nuevo);
+  const bool matrimonio = !mismaFila(TABLA_MATRIMONIO, registro_, nuevo);
+  // An item of a list may have been changed before, in the same sitting.
+  nuevo.CambioPadre = nuevo.CambioPadre || padre;
+  nuevo.CambioMadre = nuevo.CambioMadre || madre;
+  nuevo.CambioMatrimonio = nuevo.CambioMatrimonio || matrimonio;
+  return padre || frmPartidaDe::ComprobarCambios(nuevo);
 }
 
 }  // namespace fidaleon

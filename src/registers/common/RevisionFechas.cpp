@@ -39,9 +39,10 @@ void RevisionFechas::permitirFuturo(const forms::DateField& campo) {
   de(campo).hoy = Hoy::FUTURO;
 }
 
-void RevisionFechas::empezar(bool conHoy) {
+void RevisionFechas::empezar(bool conHoy, const std::function<bool(const forms::Control&)>& queda) {
   for (Fecha& f : fechas_) {
-    f.campo->setStored(conHoy ? contexto_.hoy() : "");
+    if (!queda || !queda(*f.campo))
+      f.campo->setStored(conHoy && f.hoy != Hoy::NUNCA ? contexto_.hoy() : "");
     f.tocada = false;
   }
   reparosDichos_.clear();

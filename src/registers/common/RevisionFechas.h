@@ -1,6 +1,7 @@
 #pragma once
 
 #include <deque>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -20,6 +21,7 @@ class RevisionFechas {
   enum class Hoy {
     NORMAL,  // the date is often that of today
     DUDOSO,  // it hardly ever is: asked about when it is today's and nobody touched it
+    NUNCA,   // it never is: an entry begins without it
     FUTURO,  // it may also lie ahead
   };
   /// `nombre` as in "fecha de nacimiento". Takes the field's onChange and onKeyPress.
@@ -28,8 +30,9 @@ class RevisionFechas {
   void enEsteOrden(const forms::DateField& primero, const forms::DateField& despues);
   void permitirFuturo(const forms::DateField& campo);
 
-  /// Puts today, or nothing, into all fields, which count as untouched from now on.
-  void empezar(bool conHoy);
+  /// Puts today, or nothing, into all fields but those that stay; they count as untouched from now
+  /// on.
+  void empezar(bool conHoy, const std::function<bool(const forms::Control&)>& queda = {});
   /// Asks. False when the user wants to look at them again; the focus stands on the first one. What
   /// has been asked once is not asked again while it stays.
   bool aceptar();

@@ -1,0 +1,151 @@
+// What the controls of an entry dialog set off.
+
+#include "registers/books/frmAltaLibro.h"
+#include "registers/common/Guiones.h"
+#include "registers/entry/frmPartida.h"
+#include "text/Utf8.h"
+
+namespace fidaleon {
+
+using FDAPI::cCOperacion;
+
+/// "cboBautismo_Click", under which an error in it is reported.
+std::string frmPartida::suceso(const forms::Control& control, const char* cual) const {
+  return control.name().substr(0, control.name().find('(')) + "_" + cual;
+}
+
+void frmPartida::crearSucesos() {
+  listas_.emplace(contexto_, sacramento(), institucion(), libro());
+  posicion_.emplace(
+      contexto_, sacramento(),
+      CamposPosicion{institucion(), libro(), txtLibro[FOLIO], txtLibro[NUMERO], mstPartida,
+                     lblNumeroRepetido, [this] { return posicionesDeColeccion(); }});
+  notas_->onChange = [this] {
+    if (!cargando_) limiteNotas_->comprobar();
+  };
+  mstPartida.onMouseDown = [this](int) { return mst_MouseDown(); };
+  mstPartida.onClick = [this](int) { mst_Click(); };
+  institucion().onClick = [this] { cboInstitucion_Click(); };
+  libro().onClick = [this] {
+    if (esAlta()) proponerPosicion();
+  };
+  for (const CampoLibro campo : {FOLIO, NUMERO}) {
+    txtLibro[campo].onLostFocus = [this, campo](forms::Control* siguiente) {
+      txtLibro_LostFocus(campo, siguiente);
+    };
+    txtLibro[campo].onChange = [this] {
+      procedimiento("txtLibro_Change", [this] {
+        refrescarTitulo();
+        avisarNumeroRepetido();
+      });
+    };
+  }
+  sucesosDeBotones();
+}
+
+void frmPartida::sucesosDeBotones() {
+  cmdAltaInstitucion.onClick = [this] {
+    procedimiento("cmdAltaInstitucion_Click", [this] { listas_->agregarInstitucion(); });
+  };
+  cmdAltaLibro.onClick = [this] { procedimiento("cmdAltaLibro_Click", [this] { altaLibro(); }); };
+  cmdAltaProvincia.onClick = [this] {
+    procedimiento("cmdAltaProvincia_Click",
+                  [this] { altaMunicipio(&FDAPI::cFidaleon::NuevaProvincia); });
+  };
+  cmdAltaPoblacion.onClick = [this] {
+    procedimiento("cmdAltaPoblacion_Click",
+                  [this] { altaMunicipio(&FDAPI::cFidaleon::NuevoMunicipio); });
+  };
+  const auto alPulsar = [this](Boton boton, void (frmPartida::*hacer)()) {
+    cmdPartida[boton].onClick = [this, boton, hacer] {
+      procedimiento(suceso(cmdPartida[boton], "Click").c_str(),
+                    [this, hacer] { (this->*hacer)(); });
+    };
+  };
+  alPulsar(ACEPTAR, &frmPartida::aceptar);
+  alPulsar(ANULAR, &frmPartida::anular);
+  cmdPartida[CANCELAR].onClick = [this] { Unload(); };
+}
+
+void frmPartida::cboInstitucion_Click() {
+  procedimiento(suceso(institucion(), "Click").c_str(), [this] {
+    if (!esAlta()) return;
+    preestablecer();
+    if (esSolicitud() || lngLibro != 0) return;
+    llenarLibros();
+    vaciarPosicion();
+  });
+}
+
+bool frmPartida::mst_MouseDown() {
+  bool adelante = false;
+  procedimiento(suceso(mstPartida, "MouseDown").c_str(), [&] {
+    const bool comprobar = mstPartida.tab() == TAB_GENERAL && Operacion == cCOperacion::ANTIGUA;
+    adelante = !comprobar || (elecciones_->siguen() && posicion_->comprobarPosicionTecleada());
+  });
+  return adelante;
+}
+
+void frmPartida::mst_Click() {
+  procedimiento(suceso(mstPartida, "Click").c_str(), [this] {
+    if (faltaInstitucionOLibro()) return;
+    refrescarTitulo();
+    focusFirstOn(mstPartida);
+  });
+}
+
+void frmPartida::txtLibro_LostFocus(CampoLibro indice, const forms::Control* siguiente) {
+  if (siguiente == &cmdPartida[CANCELAR] || !text::trim(txtLibro[indice].text()).empty()) return;
+  if (txtLibro[indice].locked()) return;
+  forms::warn(ui(), std::string("¡Debe introducir datos en el campo ") +
+                        (indice == FOLIO ? "folio!" : "número!"));
+  // Without a book there is no proposal either: the way back to the lists stays open.
+  if (libro().listIndex() >= 0) setFocus(txtLibro[indice]);
+}
+
+std::pair<std::string, std::string> frmPartida::Persona::apellidos() const {
+  return {nombreGuardado(primero->text()), nombreGuardado(segundo->text())};
+}
+
+void frmPartida::persona(int nombre, int primerApellido, int segundoApellido) {
+  personas_.push_back(
+      {&txtPartida[nombre], &txtPartida[primerApellido], &txtPartida[segundoApellido], {}});
+  const std::size_t cual = personas_.size() - 1;
+  for (const int apellido : {primerApellido, segundoApellido})
+    txtPartida[apellido].onLostFocus = [this, cual](forms::Control* siguiente) {
+      apellidos_LostFocus(cual, siguiente);
+    };
+}
+
+void frmPartida::apellidos_LostFocus(std::size_t cual, const forms::Control* siguiente) {
+  const Persona& p = personas_[cual];
+  if (siguiente == p.primero || siguiente == p.segundo || siguiente == &cmdPartida[CANCELAR])
+    return;
+  buscarPersona(cual);
+}
+
+void frmPartida::buscarPersona(std::size_t cual) {
+  Persona& p = personas_[cual];
+  const auto par = p.apellidos();
+  if (par.first != GUIONES && p.buscados.insert(par).second) buscar(cual, par.first, par.second);
+}
+
+void frmPartida::altaLibro() {
+  const std::int64_t elegido = libro().data();
+  const auto alta = crearAltaLibro(contexto_, sacramento());
+  alta->conBaseDatos = conBaseDatos;
+  alta->lngInstitucion = static_cast<std::int32_t>(institucion().data());
+  alta->Show();
+  if (alta->strAgregado.empty()) return;
+  llenarLibros();
+  listas_->elegirAgregado(alta->strAgregado, elegido);
+}
+
+void frmPartida::altaMunicipio(AltaEnCatalogo alta) {
+  bool agregado = false;
+  (contexto_.fidaleon().get()->*alta)(agregado, *conBaseDatos, contexto_.config());
+  if (!agregado) return;
+  for (ParProvinciaPoblacion& par : pares_) par.refrescar();
+}
+
+}  // namespace fidaleon

@@ -1,0 +1,241 @@
+#pragma once
+
+#include <cstdint>
+#include <deque>
+#include <functional>
+#include <optional>
+#include <set>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "core/contract/Dialogo.h"
+#include "core/lists/Elecciones.h"
+#include "core/lists/ParProvinciaPoblacion.h"
+#include "registers/allocation/PosicionPartida.h"
+#include "registers/common/LimiteNotas.h"
+#include "registers/common/ListasDeLibro.h"
+#include "registers/common/RevisionFechas.h"
+#include "registers/entry/DatosPartida.h"
+#include "registers/entry/VariantePartida.h"
+
+namespace fidaleon {
+
+/// One entry or request of a register: what the dialogs of all sacraments do alike. Set the public
+/// fields, then Show(). Opened from the tree, it stores at once; opened from a book's list, it only
+/// changes the caller's collection. Cancelled, it leaves both as they were. The caller holds the
+/// locks.
+///
+/// A sacrament's dialog derives from frmPartidaDe, which knows the record. Its constructor says
+/// what fields there are (texto, fecha, municipio and their like), whom the entry is about
+/// (persona), which fields mean something to all (ponerNotas, fechaDelSacramento, serie), then
+/// calls disponer() with its tabs.
+class frmPartida : public Dialogo {
+ public:
+  /// Not owned; must be set before the dialog loads.
+  FDAPI::Conexion* conBaseDatos = nullptr;
+  /// The entry, for EDITAR and EDITARSOLICITUD from the tree.
+  std::int32_t lngID = 0;
+  FDAPI::cCOperacion Operacion{};
+  FDAPI::cCOrigen Origen{};
+  /// Not 0: the caller fixes them.
+  std::int32_t lngInstitucion = 0;
+  std::int32_t lngLibro = 0;
+  /// The item of the list to edit, only from a book's list.
+  std::size_t lngPosicion = 0;
+  /// What the clipboard held when the command was given; put back on loading.
+  std::string strPortapapeles;
+  /// The institution of a new request, 0 to let the user choose.
+  std::int32_t InstitucionSolicitud = 0;
+
+  std::string ownWork() const override;
+  std::string putBackOwnWork(const std::string& work) override;
+
+  enum CampoLibro { FOLIO = 1, NUMERO = 2 };
+  enum Boton { ACEPTAR = 0, CANCELAR = 1, ANULAR = 2 };
+  static constexpr int TAB_GENERAL = 0;
+
+  // Those of the sacrament bear its word: "mstBautismo", "txtBautismo(7)".
+  forms::TabStrip mstPartida;
+  forms::ControlArray<forms::TextBox> txtPartida;
+  forms::ControlArray<forms::DateField> adtpPartida;
+  forms::ControlArray<forms::ComboBox> cboPartida;  // a province's town list is the next number
+  forms::ControlArray<forms::Button> cmdPartida;
+  forms::ControlArray<forms::TextBox> txtLibro;
+  forms::Frame fraLibro;
+  forms::Label lblNumeroRepetido;
+  forms::Label lblPartidaAnulada;
+  forms::Button cmdAltaInstitucion;
+  forms::Button cmdAltaLibro;
+  forms::Button cmdAltaProvincia;
+  forms::Button cmdAltaPoblacion;
+
+ protected:
+  /// The description is not owned.
+  frmPartida(Contexto& contexto, const VariantePartida& variante);
+
+  void Form_Load() override;
+  void Form_Unload() override;
+
+  // What fields there are; frmPartidaDe links them to the record.
+  enum class Clase {
+    Texto,
+    Nombre,  // without quotes
+    Cifras,
+    Largo,  // several lines, of any length
+  };
+  forms::TextBox& crearTexto(forms::ControlArray<forms::TextBox>& grupo, int indice,
+                             const char* etiqueta, Clase clase);
+  forms::DateField& crearFecha(int indice, const char* etiqueta, const std::string& nombre,
+                               RevisionFechas::Hoy hoy);
+  void crearHora(forms::TimeField& hora) { horas_.push_back(&hora); }
+  forms::ComboBox& crearLista(int indice, const char* etiqueta);
+  ParProvinciaPoblacion& crearMunicipio(int provincia, const char* etiquetaProvincia,
+                                        const char* etiquetaPoblacion);
+
+  // What the fields mean.
+  /// Somebody whom the entry is about: name and first surname are required, and leaving the
+  /// surnames looks for them in the books.
+  void persona(int nombre, int primerApellido, int segundoApellido);
+  void ponerNotas(int indice);
+  void fechaDelSacramento(int indice) { fechaSacramento_ = &adtpPartida[indice]; }
+  /// Stays as it is from one entry of a series to the next.
+  void serie(const forms::Control& campo) { serie_.insert(&campo); }
+  RevisionFechas& revision() { return fechasRevisadas_; }
+  /// The tabs after that of the book. Connects the events; to be called last.
+  void disponer(forms::Nodes paginas);
+
+  // For the sacrament's own events.
+  const Sacramento& sacramento() const { return variante_.sacramento; }
+  bool esSolicitud() const;
+  bool esAlta() const;
+  bool desdeLista() const { return Origen == origenLista(sacramento()); }
+  /// Looks for a person unless this pair of surnames has been looked for.
+  void buscarPersona(std::size_t persona);
+  /// " AND (codlibro=1 OR codlibro=2)" with the books of baptism that are no newer than the book of
+  /// this entry; without any, all that are no requests.
+  std::string librosDeBautismoHastaEste() const;
+
+  // The record, done by frmPartidaDe.
+  virtual void vaciarRegistro() = 0;
+  /// From the table or from the collection. False when rows of it are missing.
+  virtual bool leerRegistro() = 0;
+  virtual void mostrarRegistro() = 0;
+  virtual DatosPartida datos() const = 0;
+  virtual std::vector<PartidaDeColeccion> coleccion() const = 0;
+  /// The entry as it stands in the fields is in the book already.
+  virtual bool repetida() = 0;
+  /// Stores what stands in the fields, or puts it into the collection. False when that failed.
+  virtual bool GrabarDatosColeccion() = 0;
+  /// Takes back what a failure left in the tables without all its rows.
+  virtual bool retirarAMedias() = 0;
+
+  // The sacrament's own.
+  /// Looks in the books for a person, by its place among those named; surnames as they are stored.
+  virtual void buscar(std::size_t persona, const std::string& primero,
+                      const std::string& segundo) = 0;
+  /// Another institution was chosen for a new entry, or the next one of a series begins.
+  virtual void preestablecer() {}
+
+  // For frmPartidaDe.
+  /// What all entries have, as it stands in the fields; `leidos` as the record has it.
+  DatosPartida datosTecleados(DatosPartida leidos) const;
+  /// Moves the date of an old book where the entry asks for it.
+  void moverFechaDelLibro() const;
+  /// "codlibro=1 OR codlibro=2", the books that the repeated-entry check looks in; empty for none.
+  std::string librosDondeRepetida() const;
+  bool marcadaParaBorrar(std::int64_t id) const;
+
+ private:
+  struct Persona {
+    forms::TextBox* nombre;
+    forms::TextBox* primero;
+    forms::TextBox* segundo;
+    /// Pairs that have been looked for, or that the entry was read with.
+    std::set<std::pair<std::string, std::string>> buscados;
+    std::pair<std::string, std::string> apellidos() const;
+  };
+
+  // Layout and opening
+  void crearCamposDeLibro();
+  forms::LayoutNode paginaGeneral();
+  void cargar();
+  void vigilarElecciones();
+  void prepararAlta();
+  void prepararSolicitud();
+  void prepararEdicion();
+  void limpiarCampos(bool quedaLaSerie);
+  void mostrarModo();
+  void mostrarLeida();
+  void mostrarAnulada();
+  void bloquear(bool anulada);
+
+  // Book and position
+  forms::ComboBox& institucion() const { return cboPartida[variante_.listaInstitucion]; }
+  forms::ComboBox& libro() const { return cboPartida[variante_.listaLibro]; }
+  void llenarLibros();
+  void abrirPosicion(bool abierta);
+  /// False when there is none; the user knows why.
+  bool proponerPosicion();
+  void calcularPosicion();
+  void avisarNumeroRepetido();
+  void vaciarPosicion();
+  std::vector<Posicion> posicionesDeColeccion() const;
+  void refrescarTitulo();
+  const char* titulo() const;
+  bool faltaInstitucionOLibro();
+  bool faltaPosicion();
+
+  // Events
+  void crearSucesos();
+  void sucesosDeBotones();
+  void cboInstitucion_Click();
+  bool mst_MouseDown();
+  void mst_Click();
+  void txtLibro_LostFocus(CampoLibro indice, const forms::Control* siguiente);
+  void apellidos_LostFocus(std::size_t persona, const forms::Control* siguiente);
+  void altaLibro();
+  using AltaEnCatalogo = void (FDAPI::cFidaleon::*)(bool&, FDAPI::Conexion&, const FDAPI::cConfig&);
+  void altaMunicipio(AltaEnCatalogo alta);
+  std::string suceso(const forms::Control& control, const char* cual) const;
+
+  // Acceptance
+  void aceptar();
+  bool ComprobarCampos();
+  bool faltaNombre();
+  bool preguntarPorVacios();
+  bool textosVacios() const;
+  bool otrosVacios() const;
+  void rellenarGuiones();
+  bool ComprobarDatosBaseDatos();
+  std::string quienes() const;
+  std::string fechaDeEsteLibro() const;
+  void otraPartida();
+  void irAlNombre();
+  void anular();
+
+  const VariantePartida& variante_;
+  std::vector<forms::TextBox*> textos_;
+  std::vector<forms::DateField*> fechas_;
+  std::vector<forms::TimeField*> horas_;
+  std::vector<forms::ComboBox*> elegibles_;
+  std::deque<ParProvinciaPoblacion> pares_;
+  std::vector<Persona> personas_;
+  forms::TextBox* notas_ = nullptr;
+  const forms::DateField* fechaSacramento_ = nullptr;
+  std::set<const forms::Control*> serie_;
+  std::vector<std::function<void()>> bloqueados_;  // unlocks what the annulment has locked
+
+  std::optional<Elecciones> elecciones_;
+  std::optional<ListasDeLibro> listas_;
+  std::optional<PosicionPartida> posicion_;
+  std::optional<LimiteNotas> limiteNotas_;
+  RevisionFechas fechasRevisadas_{contexto_};
+  bool anulada_ = false;
+  bool libroNuevo_ = true;
+  bool cargando_ = false;
+  bool incompleta_ = false;
+  bool vaciosConsentidos_ = false;
+};
+
+}  // namespace fidaleon

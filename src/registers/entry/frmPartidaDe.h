@@ -1,0 +1,233 @@
+#pragma once
+
+#include <algorithm>
+#include <limits>
+#include <span>
+#include <stdexcept>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "core/contract/Columnas.h"
+#include "core/lists/Enlaces.h"
+#include "registers/common/Guiones.h"
+#include "registers/common/Operacion.h"
+#include "registers/entry/ValorDeCampo.h"
+#include "registers/entry/frmPartida.h"
+
+namespace fidaleon {
+
+/// The row of an entry in one of its tables.
+template <class Registro>
+struct FilaDePartida {
+  const Tabla<Registro>* tabla;
+  const char* seleccion;  // of a statement that the key follows
+  std::int32_t Registro::*clave;
+};
+
+/// frmPartida on the record of one sacrament, which brings
+///
+///   DatosPartida datosDe(const Registro&);
+///   void ponerDatos(Registro&, const DatosPartida&);
+template <class Registro>
+class frmPartidaDe : public frmPartida {
+ public:
+  using Coleccion = std::vector<Registro>;
+  /// The list of the book; not owned, only with the origin of that list.
+  Coleccion* colPartidas = nullptr;
+
+ protected:
+  using frmPartida::frmPartida;
+
+  // One line of a dialog's fields.
+  struct CampoTexto {
+    int indice;
+    const char* etiqueta;
+    std::string Registro::*miembro;
+    Clase clase = Clase::Texto;
+  };
+  struct CampoFecha {
+    int indice;
+    const char* etiqueta;
+    std::string Registro::*miembro;
+    const char* nombre;  // "fecha de bautismo"
+    RevisionFechas::Hoy hoy;
+  };
+  struct CampoMunicipio {
+    int provincia;
+    const char* etiquetaProvincia;
+    const char* etiquetaPoblacion;
+    std::int32_t Registro::*miembro;
+  };
+  void textos(forms::ControlArray<forms::TextBox>& grupo, std::span<const CampoTexto> campos,
+              bool visibles = true) {
+    for (const CampoTexto& c : campos) {
+      forms::TextBox& campo = crearTexto(grupo, c.indice, c.etiqueta, c.clase);
+      campo.setVisible(visibles);
+      enlaces_.textos.push_back({&campo, c.miembro});
+    }
+  }
+  void numero(int indice, const char* etiqueta, std::int32_t Registro::*miembro) {
+    forms::TextBox& campo = crearTexto(txtPartida, indice, etiqueta, Clase::Cifras);
+    campo.setMaxLength(std::numeric_limits<std::int32_t>::digits10);
+    enlaces_.numeros.push_back({&campo, miembro});
+  }
+  void fechas(std::span<const CampoFecha> campos) {
+    for (const CampoFecha& c : campos)
+      enlaces_.fechas.push_back({&crearFecha(c.indice, c.etiqueta, c.nombre, c.hoy), c.miembro});
+  }
+  void municipios(std::span<const CampoMunicipio> campos, bool visibles = true) {
+    for (const CampoMunicipio& c : campos) {
+      enlaces_.municipios.push_back(
+          {&crearMunicipio(c.provincia, c.etiquetaProvincia, c.etiquetaPoblacion), c.miembro});
+      for (const int lista : {c.provincia, c.provincia + 1}) cboPartida[lista].setVisible(visibles);
+    }
+  }
+  void hora(forms::TimeField& campo, std::string Registro::*miembro) {
+    crearHora(campo);
+    enlaces_.horas.push_back({&campo, miembro});
+  }
+  void lista(int indice, const char* etiqueta, std::string Registro::*miembro) {
+    enlaces_.listas.push_back({&crearLista(indice, etiqueta), miembro});
+  }
+
+  // What the sacrament knows of its record.
+  /// That of the entry first, then those that hang on it, in the order in which they are read.
+  virtual std::span<const FilaDePartida<Registro>> filas() const = 0;
+  /// A SELECT of entries with the data of this one, with the key in it, which goes on with
+  /// " AND (...)"; empty when there can be none.
+  virtual std::string sqlRepetida(const Registro& partida) = 0;
+  virtual bool mismosDatos(const Registro& a, const Registro& b) const = 0;
+  virtual bool almacenar(Coleccion& coleccion) = 0;
+  virtual bool retirar(Coleccion& coleccion) = 0;
+  /// Keys of the other rows of an entry that was read.
+  virtual void tomarClaves(Registro&) const {}
+  /// The same of one that was stored in part and is to be gone on with.
+  virtual void conservarClaves(const Registro&) {}
+  /// Before a correction is compared with what was read.
+  virtual void completarEdicion(Registro&) const {}
+  /// Whether a correction changes anything.
+  virtual bool ComprobarCambios(Registro& nuevo) const {
+    return std::ranges::any_of(filas(), [&](const FilaDePartida<Registro>& fila) {
+      return !mismaFila(*fila.tabla, registro_, nuevo);
+    });
+  }
+
+  /// The entry as it was read; for a new one, what a look-up brought.
+  Registro registro_;
+  Enlaces<Registro> enlaces_;
+
+ private:
+  void vaciarRegistro() final { registro_ = {}; }
+  void mostrarRegistro() final { enlaces_.mostrar(registro_, GUIONES); }
+  DatosPartida datos() const final { return datosDe(registro_); }
+  std::vector<PartidaDeColeccion> coleccion() const final {
+    std::vector<PartidaDeColeccion> partidas;
+    partidas.reserve(colPartidas->size());
+    for (const Registro& r : *colPartidas) partidas.push_back({datosDe(r), r.Estado, borrada(r)});
+    return partidas;
+  }
+  static bool borrada(const Registro& r) { return operacionDe(r) == FDAPI::cCOperacion::Borrar; }
+
+  bool leerRegistro() final {
+    if (desdeLista()) {
+      registro_ = colPartidas->at(lngPosicion);
+      return true;
+    }
+    DatosPartida d;
+    d.id = lngID;
+    ponerDatos(registro_, d);
+    bool completa = true;
+    for (const FilaDePartida<Registro>& de : filas()) {
+      const store::Recordset fila =
+          conBaseDatos->Execute(de.seleccion + std::to_string(registro_.*de.clave));
+      const bool esta = !fila.EOF_();
+      if (!esta && &de == &filas().front()) throw std::runtime_error("La partida ya no existe.");
+      if (esta) copiarFila(*de.tabla, fila, registro_);
+      completa = completa && esta;
+    }
+    registro_.Estado = true;
+    tomarClaves(registro_);
+    return completa;
+  }
+
+  Registro leerCampos() const {
+    Registro partida = registro_;
+    for (const auto& [campo, m] : enlaces_.textos) partida.*m = valorDe(*campo);
+    for (const auto& [campo, m] : enlaces_.numeros)
+      partida.*m = static_cast<std::int32_t>(text::toInteger(campo->text()).value_or(0));
+    for (const auto& [campo, m] : enlaces_.fechas) partida.*m = valorDe(*campo, registro_.*m);
+    for (const auto& [campo, m] : enlaces_.horas) partida.*m = valorDe(*campo, registro_.*m);
+    for (const auto& [par, m] : enlaces_.municipios) partida.*m = par->valor();
+    for (const auto& [lista, m] : enlaces_.listas) partida.*m = valorDe(*lista, registro_.*m);
+    return partida;
+  }
+  bool GrabarDatosColeccion() final {
+    Registro partida = leerCampos();
+    ponerDatos(partida, datosTecleados(datosDe(partida)));
+    // An item that only the list knows is still to be added, however often it is opened.
+    if (esAlta() || partida.Estado) ponerOperacion(partida, Operacion);
+    return esAlta() ? guardarAlta(std::move(partida)) : guardarEdicion(std::move(partida));
+  }
+  bool guardarAlta(Registro partida) {
+    if (desdeLista()) {
+      moverFechaDelLibro();
+      colPartidas->push_back(std::move(partida));
+      return true;
+    }
+    Coleccion nueva{std::move(partida)};
+    const Registro& intentada = nueva.front();
+    // The entry and the date of the book, which it may move, come together or not at all.
+    TransaccionSinVuelta transaccion(contexto_, *conBaseDatos);
+    moverFechaDelLibro();
+    almacenar(nueva);
+    transaccion.terminar();
+    // An entry that reached the table must not be stored a second time, and one that got there
+    // without all its rows is gone on with, or taken back when the dialog closes.
+    DatosPartida d = datosDe(registro_);
+    d.id = intentada.Estado ? 0 : datosDe(intentada).id;
+    ponerDatos(registro_, d);
+    conservarClaves(intentada);
+    return intentada.Estado;
+  }
+  bool guardarEdicion(Registro partida) {
+    completarEdicion(partida);
+    if (!ComprobarCambios(partida)) return true;
+    Coleccion corregida{std::move(partida)};
+    if (!desdeLista()) return almacenar(corregida);
+    colPartidas->at(lngPosicion) = std::move(corregida.front());
+    return true;
+  }
+  bool retirarAMedias() final {
+    Coleccion aMedias{registro_};
+    return retirar(aMedias);
+  }
+
+  bool repetida() final {
+    const Registro partida = leerCampos();
+    return repetidaEnColeccion(partida) || repetidaEnTabla(partida);
+  }
+  bool repetidaEnColeccion(const Registro& partida) const {
+    if (!desdeLista()) return false;
+    for (std::size_t i = 0; i < colPartidas->size(); ++i) {
+      const Registro& item = (*colPartidas)[i];
+      const bool esElMismo = !esAlta() && i == lngPosicion;
+      if (!esElMismo && !borrada(item) && mismosDatos(item, partida)) return true;
+    }
+    return false;
+  }
+  bool repetidaEnTabla(const Registro& partida) {
+    const std::string sql = sqlRepetida(partida);
+    if (sql.empty()) return false;
+    const std::string libros = librosDondeRepetida();
+    if (libros.empty()) return false;
+    store::Recordset filas = conBaseDatos->Execute(sql + " AND (" + libros + ")");
+    for (; !filas.EOF_(); filas.MoveNext()) {
+      const std::int64_t id = filas.integer(sacramento().clavePartida);
+      if (id != datosDe(partida).id && !marcadaParaBorrar(id)) return true;
+    }
+    return false;
+  }
+};
+
+}  // namespace fidaleon
