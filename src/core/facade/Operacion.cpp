@@ -4,16 +4,18 @@
 
 namespace fidaleon {
 
-bool mostrarPartida(Contexto& contexto, DialogoPartida& dialogo, FDAPI::Conexion& conBaseDatos,
-                    const DialogoPartida::Apertura& apertura,
-                    const std::optional<forms::ReadOnly>& aviso) {
-  dialogo.preparar(conBaseDatos, apertura);
+bool mostrarPartida(Contexto& contexto, frmPartida& dialogo, FDAPI::Conexion& conBaseDatos,
+                    const AperturaPartida& apertura, const std::optional<forms::ReadOnly>& aviso) {
+  dialogo.conBaseDatos = &conBaseDatos;
+  dialogo.lngID = apertura.lngID;
+  dialogo.Operacion = apertura.Operacion;
+  dialogo.Origen = apertura.Origen;
   const std::string portapapeles = contexto.ui().clipboardText();
-  if (!portapapeles.empty()) dialogo.portapapeles() = portapapeles;
-  dialogo.formulario().Load();
-  if (contexto.ui().clipboardText().empty() && !dialogo.portapapeles().empty())
-    contexto.ui().setClipboardText(dialogo.portapapeles());
-  return dialogo.formulario().open(aviso);
+  if (!portapapeles.empty()) dialogo.strPortapapeles = portapapeles;
+  dialogo.Load();
+  if (contexto.ui().clipboardText().empty() && !dialogo.strPortapapeles.empty())
+    contexto.ui().setClipboardText(dialogo.strPortapapeles);
+  return dialogo.open(aviso);
 }
 
 std::string existePartida(const Sacramento& sacramento, std::int32_t id) {

@@ -29,7 +29,7 @@ void cNucleo::altaPartida(FDAPI::Conexion& conBaseDatos, const FDAPI::cConfig& o
                           const std::string& strNodo, cCOperacion operacionPartida,
                           const char* cuales) {
   const Sacramento* s = sacramentoDeNodo(strNodo, "Partidas");
-  const CrearDialogoPartida crear = dialogoDePartida(s);
+  const CrearPartida crear = dialogoDePartida(s);
   if (!crear) return;
   SesionBloqueos sesion(contexto_, conBaseDatos);
   sesion.tablasCompartidas({"Institucion", "Provincia", "Municipio"});
@@ -45,7 +45,7 @@ void cNucleo::PropiedadesPartida(FDAPI::Conexion& conBaseDatos, std::int32_t lng
                                  const FDAPI::cConfig& objConfig, const std::string& strNodo) {
   operacion(contexto_, "PropiedadesPartida", [&] {
     const Sacramento* s = sacramentoDeNodo(strNodo, "Partidas");
-    const CrearDialogoPartida crear = dialogoDePartida(s);
+    const CrearPartida crear = dialogoDePartida(s);
     if (!crear) return;
     const std::string libro =
         sentencia(*s, "SELECT CodLibro FROM {Partidas} WHERE {IDPartida}=") + std::to_string(lngID);

@@ -13,7 +13,7 @@ void cNucleo::NuevaSolicitud(FDAPI::Conexion& conBaseDatos, const FDAPI::cConfig
   operacion(contexto_, "NuevaSolicitud", [&] {
     InicializaConfiguracion(objConfig);
     const Sacramento* s = sacramentoDeNodo(strNodo, "Solicitudes");
-    const CrearDialogoPartida crear = dialogoDePartida(s);
+    const CrearPartida crear = dialogoDePartida(s);
     if (!crear) return;
     SesionBloqueos sesion(contexto_, conBaseDatos);
     sesion.tablasCompartidas({"Institucion", "Provincia", "Municipio"});
@@ -28,7 +28,7 @@ void cNucleo::PropiedadesSolicitudes(FDAPI::Conexion& conBaseDatos, std::int32_t
                                      const FDAPI::cConfig& objConfig, const std::string& strNodo) {
   operacion(contexto_, "PropiedadesSolicitudes", [&] {
     const Sacramento* s = sacramentoDeNodo(strNodo, "Solicitudes");
-    const CrearDialogoPartida crear = dialogoDePartida(s);
+    const CrearPartida crear = dialogoDePartida(s);
     if (!crear) return;
     SesionBloqueos sesion(contexto_, conBaseDatos);
     sesion.tablasCompartidas({"Institucion", "Provincia", "Municipio"});

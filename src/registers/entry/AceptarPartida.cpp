@@ -3,7 +3,7 @@
 #include <limits>
 #include <stdexcept>
 
-#include "core/contract/EnSacramento.h"
+#include "core/statements/Sentencia.h"
 #include "registers/allocation/LimiteFolios.h"
 #include "registers/common/Guiones.h"
 #include "registers/entry/frmPartida.h"
@@ -110,7 +110,7 @@ DatosPartida frmPartida::datosTecleados(DatosPartida d) const {
     d.libro = 0;
   } else if (esAlta()) {
     const store::Recordset fila = conBaseDatos->Execute(
-        enSacramento(sacramento(), "SELECT idlibrobautismo FROM libro_bautismo WHERE nombre=") +
+        sentencia(sacramento(), "SELECT {idlibro} FROM {libros} WHERE nombre=") +
         entreComillas(libro().text()) +
         " AND codinstitucion=" + std::to_string(institucion().data()));
     d.institucion = 0;
@@ -127,17 +127,15 @@ void frmPartida::moverFechaDelLibro() const {
       text::trim(txtLibro[FOLIO].text()) == "1" && text::trim(txtLibro[NUMERO].text()) == "1";
   if (variante_.fechaDelLibro != Adelanta && !primera) return;
   const store::Recordset fila = conBaseDatos->Execute(
-      enSacramento(sacramento(),
-                   "SELECT idlibrobautismo,fechacreacion FROM libro_bautismo WHERE nombre=") +
+      sentencia(sacramento(), "SELECT {idlibro},fechacreacion FROM {libros} WHERE nombre=") +
       entreComillas(libro().text()) +
       " AND codinstitucion=" + std::to_string(institucion().data()));
   const std::string creacion = fila.text("fechacreacion");
   const bool mueve =
       variante_.fechaDelLibro == AtrasaLaPrimera ? fecha < creacion : fecha > creacion;
   if (mueve)
-    conBaseDatos->Execute(enSacramento(sacramento(), "UPDATE libro_Bautismo SET FechaCreacion=") +
-                          entreComillas(fecha) +
-                          enSacramento(sacramento(), " WHERE idlibrobautismo=") +
+    conBaseDatos->Execute(sentencia(sacramento(), "UPDATE {Libros} SET FechaCreacion=") +
+                          entreComillas(fecha) + sentencia(sacramento(), " WHERE {idlibro}=") +
                           fila.text(sacramento().claveLibro));
 }
 

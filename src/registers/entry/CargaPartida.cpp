@@ -3,7 +3,7 @@
 #include <stdexcept>
 #include <utility>
 
-#include "core/contract/EnSacramento.h"
+#include "core/statements/Sentencia.h"
 #include "registers/entry/frmPartida.h"
 
 namespace fidaleon {
@@ -112,8 +112,7 @@ void frmPartida::prepararAlta() {
   }
   if (lngLibro != 0) {
     const store::Recordset fila = conBaseDatos->Execute(
-        enSacramento(sacramento(),
-                     "SELECT nuevo,nombre FROM libro_bautismo WHERE idlibrobautismo=") +
+        sentencia(sacramento(), "SELECT nuevo,nombre FROM {libros} WHERE {idlibro}=") +
         std::to_string(lngLibro));
     if (!fila.flag("nuevo")) {
       Operacion = cCOperacion::ANTIGUA;
@@ -154,9 +153,7 @@ void frmPartida::prepararEdicion() {
   incompleta_ = !leerRegistro();
   const DatosPartida leidos = datos();
   const store::Recordset fila = conBaseDatos->Execute(
-      enSacramento(
-          sacramento(),
-          "SELECT nuevo,nombre,codinstitucion FROM libro_bautismo WHERE idlibrobautismo=") +
+      sentencia(sacramento(), "SELECT nuevo,nombre,codinstitucion FROM {libros} WHERE {idlibro}=") +
       std::to_string(leidos.libro));
   if (fila.EOF_()) throw std::runtime_error("El libro de la partida ya no existe.");
   libroNuevo_ = fila.flag("nuevo");

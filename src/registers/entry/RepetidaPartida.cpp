@@ -1,6 +1,6 @@
 // Is the entry being accepted in a book already, and which books are looked in.
 
-#include "core/contract/EnSacramento.h"
+#include "core/statements/Sentencia.h"
 #include "registers/common/Guiones.h"
 #include "registers/entry/frmPartida.h"
 
@@ -40,14 +40,13 @@ std::string frmPartida::quienes() const {
 
 /// The date of the book that is chosen, as a statement.
 std::string frmPartida::fechaDeEsteLibro() const {
-  return enSacramento(sacramento(), "(SELECT fechacreacion FROM Libro_Bautismo WHERE nombre=") +
+  return sentencia(sacramento(), "(SELECT fechacreacion FROM {Libros} WHERE nombre=") +
          entreComillas(libro().text()) +
          " AND codinstitucion=" + std::to_string(institucion().data()) + ")";
 }
 
 std::string frmPartida::librosDondeRepetida() const {
-  const std::string clave =
-      enSacramento(sacramento(), "SELECT idlibrobautismo FROM Libro_Bautismo WHERE ");
+  const std::string clave = sentencia(sacramento(), "SELECT {idlibro} FROM {Libros} WHERE ");
   if (variante_.dondeRepetida == VariantePartida::DondeRepetida::EnTodas)
     return condicionDeLibros(conBaseDatos->Execute(
         clave + "(nuevo=true AND cerrado=false) OR (nuevo=false AND fechacreacion<=" +

@@ -9,7 +9,7 @@
 #include <utility>
 #include <vector>
 
-#include "core/contract/Dialogo.h"
+#include "core/dialogs/Dialogo.h"
 #include "core/lists/Elecciones.h"
 #include "core/lists/ParProvinciaPoblacion.h"
 #include "registers/allocation/PosicionPartida.h"

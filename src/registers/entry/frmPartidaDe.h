@@ -8,8 +8,8 @@
 #include <utility>
 #include <vector>
 
-#include "core/contract/Columnas.h"
 #include "core/lists/Enlaces.h"
+#include "core/statements/Columnas.h"
 #include "registers/common/Guiones.h"
 #include "registers/common/Operacion.h"
 #include "registers/entry/ValorDeCampo.h"
