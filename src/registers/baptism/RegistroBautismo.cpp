@@ -26,9 +26,9 @@ void ponerDatos(cBautismo& b, const DatosPartida& d) {
   b.AnuladaBautismo = d.anulada;
 }
 
-std::span<const FilaDePartida<cBautismo>> frmPartidaBautismo::filas() const {
+std::span<const FilaLeida<cBautismo>> frmPartidaBautismo::filas() const {
   using B = cBautismo;
-  static constexpr std::array<FilaDePartida<B>, 5> FILAS{{
+  static constexpr std::array<FilaLeida<B>, 5> FILAS{{
       {&TABLA_BAUTISMO, "SELECT * FROM bautismo WHERE idbautismo=", &B::IDBautismo},
       {&TABLA_HIJO, "SELECT * FROM bautismo_hijo WHERE codbautismo=", &B::IDBautismo},
       {&TABLA_MADRES, "SELECT * FROM bautismo_madres WHERE idmadres=", &B::CodMadres},

@@ -124,7 +124,7 @@ class frmPartidaBautismo : public frmPartidaDe<cBautismo> {
                             Lista provinciaParroquia);
 
   // The record
-  std::span<const FilaDePartida<cBautismo>> filas() const override;
+  std::span<const FilaLeida<cBautismo>> filas() const override;
   void tomarClaves(cBautismo& b) const override;
   void conservarClaves(const cBautismo& intentada) override;
   void completarEdicion(cBautismo& b) const override;

@@ -19,7 +19,7 @@ namespace fidaleon {
 
 /// The row of an entry in one of its tables.
 template <class Registro>
-struct FilaDePartida {
+struct FilaLeida {
   const Tabla<Registro>* tabla;
   const char* seleccion;  // of a statement that the key follows
   std::int32_t Registro::*clave;
@@ -93,7 +93,7 @@ class frmPartidaDe : public frmPartida {
 
   // What the sacrament knows of its record.
   /// That of the entry first, then those that hang on it, in the order in which they are read.
-  virtual std::span<const FilaDePartida<Registro>> filas() const = 0;
+  virtual std::span<const FilaLeida<Registro>> filas() const = 0;
   /// A SELECT of entries with the data of this one, with the key in it, which goes on with
   /// " AND (...)"; empty when there can be none.
   virtual std::string sqlRepetida(const Registro& partida) = 0;
@@ -108,7 +108,7 @@ class frmPartidaDe : public frmPartida {
   virtual void completarEdicion(Registro&) const {}
   /// Whether a correction changes anything.
   virtual bool ComprobarCambios(Registro& nuevo) const {
-    return std::ranges::any_of(filas(), [&](const FilaDePartida<Registro>& fila) {
+    return std::ranges::any_of(filas(), [&](const FilaLeida<Registro>& fila) {
       return !mismaFila(*fila.tabla, registro_, nuevo);
     });
   }
@@ -138,7 +138,7 @@ class frmPartidaDe : public frmPartida {
     d.id = lngID;
     ponerDatos(registro_, d);
     bool completa = true;
-    for (const FilaDePartida<Registro>& de : filas()) {
+    for (const FilaLeida<Registro>& de : filas()) {
       const store::Recordset fila =
           conBaseDatos->Execute(de.seleccion + std::to_string(registro_.*de.clave));
       const bool esta = !fila.EOF_();
