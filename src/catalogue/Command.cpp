@@ -1,10 +1,10 @@
 #include "catalogue/Command.h"
 
-#include "catalogue/Catalogue.h"
-#include "catalogue/CensusCommands.h"
-#include "catalogue/CommandParts.h"
-#include "catalogue/Documents.h"
-#include "registers/baptism/EliminarPartida.h"
+#include "app/Catalogue.h"
+#include "app/CensusCommands.h"
+#include "app/CommandParts.h"
+#include "app/Documents.h"
+#include "registers/common/NombrePartida.h"
 
 namespace fidaleon::app {
 namespace {
@@ -57,7 +57,7 @@ void openRequest(Workplace& w, const Choice& c) {
 // The operation itself does not ask, and what it deletes cannot be brought back.
 void deleteRequest(Workplace& w, const Choice& c) {
   if (forms::ask(w.entorno().ui, "¿Está seguro que desea eliminar la solicitud?", {},
-                 forms::Stake::Loss, nombrePartidaBautismo(w.parish(), c.id)))
+                 forms::Stake::Loss, nombrePartida(w.parish(), *c.node->sacrament, c.id)))
     w.nucleo().EliminarSolicitud(w.parish(), c.id, w.config(), nodeName(c));
 }
 void moveRequests(Workplace& w, const Choice& c) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <initializer_list>
 #include <string>
 
 #include "core/contract/FDAPI.h"
@@ -7,14 +8,20 @@
 
 namespace fidaleon {
 
-/// Of a row with these columns, with a blank between them; what is not known is left out.
-inline std::string nombreYApellidos(const store::Recordset& fila) {
+/// With a blank between them; what is not known is left out.
+inline std::string nombreYApellidos(std::initializer_list<std::string> partes) {
   std::string todo;
-  for (const char* columna : {"Nombre", "PrimerApellido", "SegundoApellido"}) {
-    const std::string parte = text::trim(fila.text(columna));
+  for (const std::string& escrita : partes) {
+    const std::string parte = text::trim(escrita);
     if (!parte.empty() && parte != "---") todo += (todo.empty() ? "" : " ") + parte;
   }
   return todo;
+}
+
+/// Of a row with these columns.
+inline std::string nombreYApellidos(const store::Recordset& fila) {
+  return nombreYApellidos(
+      {fila.text("Nombre"), fila.text("PrimerApellido"), fila.text("SegundoApellido")});
 }
 
 }  // namespace fidaleon

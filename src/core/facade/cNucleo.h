@@ -39,9 +39,11 @@ class cNucleo {
   /// Any entry of an old book, only the last one of an open new book, none of a closed one. Asks.
   void EliminarPartida(FDAPI::Conexion& conBaseDatos, std::int32_t lngID,
                        const FDAPI::cConfig& objConfig, const std::string& strNodo);
-  /// Asks, then deletes the entry with its parents' and marriage rows, whoever shares them, and
-  /// resets the counters of its book.
+  /// Each asks, then deletes the entry with all its rows, those of a baptism's parents and of their
+  /// marriage whoever shares them, and resets the counters of its book.
   void BorrarPartidaBautismo(FDAPI::Conexion& conBaseDatos, std::int32_t lngID);
+  void BorrarPartidaConfirmacion(FDAPI::Conexion& conBaseDatos, std::int32_t lngID);
+  void BorrarPartidaDefuncion(FDAPI::Conexion& conBaseDatos, std::int32_t lngID);
 
   /// Entries and requests that lack one of their rows, to be completed or removed.
   void PartidasIncompletas(FDAPI::Conexion& conBaseDatos, const FDAPI::cConfig& objConfig);

@@ -1,8 +1,8 @@
+include "core/statements/Sentencia.h"
 #include "core/facade/Operacion.h"
 #include "core/facade/cNucleo.h"
-#include "core/statements/Sentencia.h"
-#include "registers/baptism/EliminarPartida.h"
 #include "registers/cBaseDatos.h"
+#include "registers/common/EliminarPartida.h"
 
 namespace fidaleon {
 
@@ -78,15 +78,21 @@ void cNucleo::AnularPartidas(FDAPI::Conexion& conBaseDatos, std::int32_t lngID,
 void cNucleo::EliminarPartida(FDAPI::Conexion& conBaseDatos, std::int32_t lngID,
                               const FDAPI::cConfig& objConfig, const std::string& strNodo) {
   const Sacramento* s = sacramentoDeNodo(strNodo, "Partidas");
-  if (s != &BAUTISMO) return;
+  if (!dialogoDePartida(s)) return;
   contexto_.gobjConfig = &objConfig;
-  eliminarPartida(contexto_, conBaseDatos, lngID, *s, [&](const PermisoEliminar& permiso) {
-    borrarPartidaBautismo(contexto_, conBaseDatos, lngID, permiso);
-  });
+  eliminarPartida(contexto_, conBaseDatos, lngID, *s);
 }
 
 void cNucleo::BorrarPartidaBautismo(FDAPI::Conexion& conBaseDatos, std::int32_t lngID) {
-  borrarPartidaBautismo(contexto_, conBaseDatos, lngID);
+  borrarPartida(contexto_, conBaseDatos, lngID, BAUTISMO);
+}
+
+void cNucleo::BorrarPartidaConfirmacion(FDAPI::Conexion& conBaseDatos, std::int32_t lngID) {
+  borrarPartida(contexto_, conBaseDatos, lngID, CONFIRMACION);
+}
+
+void cNucleo::BorrarPartidaDefuncion(FDAPI::Conexion& conBaseDatos, std::int32_t lngID) {
+  borrarPartida(contexto_, conBaseDatos, lngID, DEFUNCION);
 }
 
 }  // namespace fidaleon

@@ -1,3 +1,4 @@
+#include "core/contract/Sentencia.h"
 #include "core/facade/Operacion.h"
 #include "core/facade/cNucleo.h"
 #include "registers/requests/BloqueoSolicitud.h"
@@ -8,16 +9,25 @@ namespace fidaleon {
 
 using FDAPI::cCOperacion;
 
+namespace {
+
+/// Null for a node whose sacrament has no requests.
+const OrigenSolicitudes* solicitudesDeNodo(const std::string& strNodo) {
+  return origenSolicitudes(sacramentoDeNodo(strNodo, "Solicitudes"));
+}
+
+}  // namespace
+
 void cNucleo::NuevaSolicitud(FDAPI::Conexion& conBaseDatos, const FDAPI::cConfig& objConfig,
                              const std::string& strNodo) {
   operacion(contexto_, "NuevaSolicitud", [&] {
     InicializaConfiguracion(objConfig);
-    const Sacramento* s = sacramentoDeNodo(strNodo, "Solicitudes");
-    const CrearPartida crear = dialogoDePartida(s);
+    const OrigenSolicitudes* origen = solicitudesDeNodo(strNodo);
+    const auto crear = origen ? dialogoDePartida(&origen->sacramento) : nullptr;
     if (!crear) return;
     SesionBloqueos sesion(contexto_, conBaseDatos);
     sesion.tablasCompartidas({"Institucion", "Provincia", "Municipio"});
-    sesion.tabla(s->tablaPartidas);
+    sesion.tabla(origen->sacramento.tablaPartidas);
     if (!sesion.efectuar()) return;
     const auto dialogo = crear(contexto_);
     mostrarPartida(contexto_, *dialogo, conBaseDatos, {0, cCOperacion::ANADIRSOLICITUD, {}});
@@ -27,12 +37,12 @@ void cNucleo::NuevaSolicitud(FDAPI::Conexion& conBaseDatos, const FDAPI::cConfig
 void cNucleo::PropiedadesSolicitudes(FDAPI::Conexion& conBaseDatos, std::int32_t lngID,
                                      const FDAPI::cConfig& objConfig, const std::string& strNodo) {
   operacion(contexto_, "PropiedadesSolicitudes", [&] {
-    const Sacramento* s = sacramentoDeNodo(strNodo, "Solicitudes");
-    const CrearPartida crear = dialogoDePartida(s);
+    const OrigenSolicitudes* origen = solicitudesDeNodo(strNodo);
+    const auto crear = origen ? dialogoDePartida(&origen->sacramento) : nullptr;
     if (!crear) return;
     SesionBloqueos sesion(contexto_, conBaseDatos);
     sesion.tablasCompartidas({"Institucion", "Provincia", "Municipio"});
-    bloquearSolicitud(sesion, *s, lngID);
+    bloquearSolicitud(sesion, origen->sacramento, lngID);
     sesion.mostrar(sesion.efectuarParaAbrir(), [&](const auto& aviso) {
       contexto_.gobjConfig = &objConfig;
       return mostrarPartida(contexto_, *crear(contexto_), conBaseDatos,
@@ -43,20 +53,23 @@ void cNucleo::PropiedadesSolicitudes(FDAPI::Conexion& conBaseDatos, std::int32_t
 
 void cNucleo::EliminarSolicitud(FDAPI::Conexion& conBaseDatos, std::int32_t lngID,
                                 const FDAPI::cConfig&, const std::string& strNodo) {
-  if (sacramentoDeNodo(strNodo, "Solicitudes") != &BAUTISMO) return;
-  eliminarSolicitudBautismo(contexto_, conBaseDatos, lngID);
+  if (const OrigenSolicitudes* origen = solicitudesDeNodo(strNodo))
+    eliminarSolicitud(contexto_, conBaseDatos, lngID, origen->sacramento);
 }
 
 void cNucleo::ImportarSolicitudes(FDAPI::Conexion& conBaseDatos, const FDAPI::cConfig& objConfig,
                                   const std::string& strNodo) {
   operacion(contexto_, "ImportarSolicitudes", [&] {
     InicializaConfiguracion(objConfig);
-    const OrigenSolicitudes* origen = origenSolicitudes(sacramentoDeNodo(strNodo, "Solicitudes"));
+    const OrigenSolicitudes* origen = solicitudesDeNodo(strNodo);
     if (!origen) return;
     SesionBloqueos sesion(contexto_, conBaseDatos);
     sesion.tablasCompartidas({"Institucion"});
     if (!sesion.efectuar()) return;
-    if (conBaseDatos.Execute(origen->sqlAlguna).RecordCount() == 0)
+    if (conBaseDatos
+            .Execute(sentencia(origen->sacramento,
+                               "SELECT {IDPartida} FROM {Partidas} WHERE CodLibro = 0"))
+            .RecordCount() == 0)
       return forms::warn(contexto_.ui(), "¡No hay solicitudes para importar!");
     frmSolicitudes dialogo(contexto_);
     dialogo.conBaseDatos = &conBaseDatos;

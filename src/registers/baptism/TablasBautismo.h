@@ -1,11 +1,16 @@
 #pragma once
 
-#include "core/statements/Columnas.h"
+#include <cstddef>
+
+#include "core/contract/Columnas.h"
 #include "registers/baptism/cBautismo.h"
 
 namespace fidaleon {
 
-// The five tables of a baptism, columns in the order of their statements.
+// The five tables of a baptism, columns in the order of their statements. Those of the parents and
+// of their marriage begin with what brothers and sisters have alike.
+inline constexpr std::size_t COLUMNAS_COMUNES_DE_PADRES = 8;
+inline constexpr std::size_t COLUMNAS_COMUNES_DE_MATRIMONIO = 5;
 extern const Tabla<cBautismo> TABLA_PADRES;
 extern const Tabla<cBautismo> TABLA_MADRES;
 extern const Tabla<cBautismo> TABLA_MATRIMONIO;

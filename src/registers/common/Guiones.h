@@ -13,6 +13,10 @@ inline std::string oGuiones(const std::string& valor) {
   return text::trim(valor).empty() ? GUIONES : valor;
 }
 
+inline bool enBlanco(const std::string& valor) {
+  return oGuiones(valor) == GUIONES;
+}
+
 /// A typed name as it is stored, and therefore as it is looked for: without blanks around it.
 inline std::string nombreGuardado(const std::string& tecleado) {
   return oGuiones(text::trim(tecleado));

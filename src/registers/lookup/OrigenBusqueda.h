@@ -2,20 +2,18 @@
 
 #include "core/contract/FDAPI.h"
 #include "core/lists/cIListas.h"
-#include "registers/lookup/frmBuscaPadres.h"
 
 namespace fidaleon {
 
 /// What the look-up does for one kind of entry dialog.
 struct OrigenBusqueda {
   FDAPI::cCOrigen origen;
+  /// Baptism alone: parents are shown and taken over, not the baptised person.
+  bool familia;
   const char* titulo;  // the surnames follow
-  const char* ruta;    // where the widths of the grid are kept
-  bool padres;         // the grid of parents instead of that of baptised persons
-  void (*configurar)(cIListas&, forms::Grid&);
-  void (*cargar)(frmBuscaPadres&);
-  const char* nombreCargar;  // of the procedure, for error reports
-  void (*importar)(frmBuscaPadres&, std::int32_t lngIDBautismo);
+  void (cIListas::*configurar)(forms::Grid&);
+  const char* ruta;          // where the widths of the grid are kept
+  const char* nombreCargar;  // of the procedures, for error reports
   const char* nombreImportar;
 };
 

@@ -1,6 +1,7 @@
 #include "registers/lookup/frmBuscaPadres.h"
 
-#include "core/dialogs/Guard.h"
+#include "core/lists/cIListas.h"
+#include "registers/lookup/Importacion.h"
 #include "registers/lookup/OrigenBusqueda.h"
 #include "registers/lookup/frmDetallePadres.h"
 
@@ -26,19 +27,19 @@ frmBuscaPadres::frmBuscaPadres(Contexto& contexto)
 }
 
 forms::Grid& frmBuscaPadres::rejilla() {
-  return origen_->padres ? msgBusquedaPadres : msgBusquedaBautizado;
+  return origen_->familia ? msgBusquedaPadres : msgBusquedaBautizado;
 }
 
 void frmBuscaPadres::Form_Load() {
   origen_ = origenBusqueda(Origen);
   if (!origen_) return Unload();
-  msgBusquedaPadres.setVisible(origen_->padres);
-  msgBusquedaBautizado.setVisible(!origen_->padres);
+  msgBusquedaPadres.setVisible(origen_->familia);
+  msgBusquedaBautizado.setVisible(!origen_->familia);
   setCaption(origen_->titulo + strApellidos);
   const bool cargada = procedimiento(origen_->nombreCargar, [this] {
     cIListas listas(contexto_);
-    origen_->configurar(listas, rejilla());
-    origen_->cargar(*this);
+    (listas.*origen_->configurar)(rejilla());
+    origen_->familia ? cargarPadres() : cargarBautizados();
   });
   if (!cargada) return Unload();
   if (rejilla().rowCount() == 0) return Unload();
@@ -53,7 +54,7 @@ void frmBuscaPadres::Form_Unload() {
   });
 }
 
-void frmBuscaPadres::CargarGridBautismo() {
+void frmBuscaPadres::cargarPadres() {
   const auto nombres = [this](const std::string& sql, std::vector<std::string>& celdas) {
     const store::Recordset fila = conBaseDatos->Execute(sql);
     for (const char* columna : {"Nombre", "PrimerApellido", "SegundoApellido"})
@@ -84,11 +85,26 @@ void frmBuscaPadres::CargarGridBautismo() {
   msgBusquedaPadres.endUpdate();
 }
 
+void frmBuscaPadres::cargarBautizados() {
+  const auto fidaleon = contexto_.fidaleon();
+  msgBusquedaBautizado.beginUpdate();
+  msgBusquedaBautizado.clearRows();
+  for (const FilaBusqueda& f : filas)
+    msgBusquedaBautizado.addRow(
+        {f.Nombre, f.PrimerApellido, f.SegundoApellido, fidaleon->stringdate(f.FechaBautismo)},
+        f.IDBautismo);
+  msgBusquedaBautizado.endUpdate();
+}
+
 void frmBuscaPadres::aceptar() {
   const int elegida = rejilla().row();
   if (elegida == 0) return Unload();
   blnAceptado = procedimiento(origen_->nombreImportar, [&] {
-    origen_->importar(*this, static_cast<std::int32_t>(rejilla().rowKey(elegida)));
+    const auto id = static_cast<std::int32_t>(rejilla().rowKey(elegida));
+    if (origen_->familia)
+      importado = leerFamilia(*conBaseDatos, id);
+    else
+      bautizado = leerBautizado(*conBaseDatos, id);
   });
   Unload();
 }

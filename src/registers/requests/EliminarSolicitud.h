@@ -3,12 +3,13 @@
 #include <cstdint>
 
 #include "core/contract/Contexto.h"
+#include "core/contract/Sacramento.h"
 
 namespace fidaleon {
 
-/// Deletes a request of baptism with all its rows, without asking and without touching any book.
+/// Deletes a request with all its rows, without asking and without touching any book.
 /// Takes and gives back its own locks; refused, it does nothing. Errors are reported.
-void eliminarSolicitudBautismo(Contexto& contexto, FDAPI::Conexion& conBaseDatos,
-                               std::int32_t lngID);
+void eliminarSolicitud(Contexto& contexto, FDAPI::Conexion& conBaseDatos, std::int32_t lngID,
+                       const Sacramento& sacramento);
 
 }  // namespace fidaleon

@@ -4,29 +4,18 @@ namespace fidaleon {
 
 namespace {
 
-std::string nombreDelBautizado(FDAPI::Conexion& conexion, const store::Recordset& solicitud) {
-  const std::string id = solicitud.text("IDBautismo");
-  const store::Recordset hijo = conexion.Execute(
-      "SELECT Nombre, PrimerApellido, SegundoApellido FROM Bautismo_Hijo WHERE CodBautismo = " +
-      id);
-  std::string nombre;
-  for (const char* columna : {"Nombre", "PrimerApellido", "SegundoApellido"}) {
-    const std::string parte = hijo.EOF_() ? std::string() : hijo.text(columna);
-    if (!parte.empty() && parte != "---") nombre += (nombre.empty() ? "" : " ") + parte;
-  }
-  return nombre.empty() ? "Solicitud " + id : nombre;
-}
+using FDAPI::cCOrigen;
 
 const OrigenSolicitudes ORIGENES[] = {
-    {FDAPI::cCOrigen::LISTAPARTIDASBAUTISMO, BAUTISMO, "Solicitudes de bautismo",
-     "SELECT IDBautismo FROM Bautismo WHERE CodLibro = 0",
-     "SELECT IDBautismo FROM Bautismo WHERE CodLibro = 0 AND InstitucionSolicitud = ",
-     nombreDelBautizado, FDAPI::cCOrigen::SOLICITUDBAUTISMO, "CalcularFolioyNumeroBautismo"},
+    {cCOrigen::LISTAPARTIDASBAUTISMO, BAUTISMO, "Solicitudes de bautismo",
+     cCOrigen::SOLICITUDBAUTISMO, "CalcularFolioyNumeroBautismo"},
+    {cCOrigen::LISTAPARTIDASCONFIRMACION, CONFIRMACION, "Solicitudes de confirmación",
+     cCOrigen::SOLICITUDCONFIRMACION, "CalcularFolioyNumeroConfirmacion"},
 };
 
 }  // namespace
 
-const OrigenSolicitudes* origenSolicitudes(FDAPI::cCOrigen origen) {
+const OrigenSolicitudes* origenSolicitudes(cCOrigen origen) {
   for (const OrigenSolicitudes& o : ORIGENES)
     if (o.origen == origen) return &o;
   return nullptr;

@@ -2,7 +2,8 @@
 
 #include "registers/requests/frmSolicitudes.h"
 
-#include "core/statements/Sentencia.h"
+#include "core/contract/Sentencia.h"
+#include "registers/common/NombrePartida.h"
 #include "registers/lookup/frmDetallePadres.h"
 
 namespace fidaleon {
@@ -75,13 +76,19 @@ void frmSolicitudes::listarSolicitudes() {
                     " AND Nuevo = true")
           .EOF_())
     return rechazarInstitucion("¡Esta Institución no tiene un libro nuevo abierto. Elija otra!");
-  store::Recordset solicitudes = conBaseDatos->Execute(origen_->sqlSolicitudes + institucion());
+  store::Recordset solicitudes = conBaseDatos->Execute(
+      sentencia(
+          "SELECT {IDPartida} FROM {Partidas} WHERE CodLibro = 0 AND InstitucionSolicitud = ") +
+      institucion());
   if (solicitudes.EOF_())
     return rechazarInstitucion("¡Esta Institución no tiene solicitudes para importar. Elija otra!");
   std::vector<ListaDoble::Elemento> todas;
-  for (; !solicitudes.EOF_(); solicitudes.MoveNext())
-    todas.push_back({solicitudes.integer(origen_->sacramento.clavePartida),
-                     origen_->nombre(*conBaseDatos, solicitudes)});
+  for (; !solicitudes.EOF_(); solicitudes.MoveNext()) {
+    const auto id =
+        static_cast<std::int32_t>(solicitudes.integer(origen_->sacramento.clavePartida));
+    const std::string quien = quienDePartida(*conBaseDatos, origen_->sacramento, id);
+    todas.push_back({id, quien.empty() ? "Solicitud " + std::to_string(id) : quien});
+  }
   listas_.llenar(std::move(todas));
 }
 

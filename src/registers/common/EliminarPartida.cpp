@@ -1,10 +1,10 @@
-#include "registers/baptism/EliminarPartida.h"
+#include "registers/common/EliminarPartida.h"
 
-#include "core/contract/NombreYApellidos.h"
+#include "core/contract/Guard.h"
+#include "core/contract/Sentencia.h"
 #include "core/contract/SesionBloqueos.h"
-#include "core/dialogs/Guard.h"
-#include "core/statements/Sentencia.h"
-#include "registers/baptism/FilasBautismo.h"
+#include "registers/common/FilasDePartida.h"
+#include "registers/common/NombrePartida.h"
 
 namespace fidaleon {
 
@@ -56,66 +56,42 @@ bool existeYEstaLibre(Contexto& contexto, Conexion& conexion, std::int32_t lngID
 
 }  // namespace
 
-std::string nombrePartidaBautismo(Conexion& conBaseDatos, std::int32_t lngID) {
-  const std::string id = std::to_string(lngID);
-  const store::Recordset hijo = conBaseDatos.Execute(
-      "SELECT Nombre, PrimerApellido, SegundoApellido FROM Bautismo_Hijo WHERE CodBautismo=" + id);
-  const std::string nombre = hijo.EOF_() ? std::string() : nombreYApellidos(hijo);
-  const store::Recordset sitio = conBaseDatos.Execute(
-      "SELECT Libro_Bautismo.Nombre, Bautismo.Folio, Bautismo.Numero FROM Bautismo INNER JOIN "
-      "Libro_Bautismo ON Libro_Bautismo.IDLibroBautismo=Bautismo.CodLibro WHERE IDBautismo=" +
-      id);
-  if (sitio.EOF_()) return nombre;
-  return nombre + "\n" + sitio.text("Nombre") + ", folio " + sitio.text("Folio") + ", número " +
-         sitio.text("Numero");
-}
-
-void borrarFilasBautismo(Conexion& conBaseDatos, const store::Recordset& bautismo) {
-  const std::string id = bautismo.text("idbautismo");
-  const std::string madres = bautismo.text("codmadres");
-  const std::string padres = bautismo.text("codpadres");
-  const std::string matrimonio = bautismo.text("codmatrimonio");
-  conBaseDatos.Execute("DELETE * FROM Bautismo_Madres WHERE idmadres=" + madres);
-  conBaseDatos.Execute("DELETE * FROM bautismo_padres WHERE idpadres=" + padres);
-  conBaseDatos.Execute("DELETE * FROM bautismo_matrimonio WHERE idmatrimonio=" + matrimonio);
-  conBaseDatos.Execute("DELETE * FROM bautismo_hijo WHERE codbautismo=" + id);
-  conBaseDatos.Execute("DELETE * FROM bautismo WHERE idbautismo=" + id);
-}
-
-void borrarPartidaBautismo(Contexto& contexto, Conexion& conBaseDatos, std::int32_t lngID,
-                           const PermisoEliminar& permiso) {
-  guarded(contexto, "cNucleo", "BorrarPartidaBautismo", [&] {
+void borrarPartida(Contexto& contexto, Conexion& conBaseDatos, std::int32_t lngID,
+                   const Sacramento& sacramento, const PermisoEliminar& permiso) {
+  guarded(contexto, "cNucleo", std::string("BorrarPartida") + sacramento.palabra, [&] {
     SesionBloqueos bloqueos(contexto, conBaseDatos);
     if (!forms::ask(contexto.ui(), "¿Está seguro que desea eliminar la partida?", {},
-                    forms::Stake::Loss, nombrePartidaBautismo(conBaseDatos, lngID)))
+                    forms::Stake::Loss, nombrePartida(conBaseDatos, sacramento, lngID)))
       return;
     const std::string id = std::to_string(lngID);
-    bloqueos.registroPorClave("Bautismo", "IdBautismo", lngID);
-    bloqueos.registros("Libro_Bautismo", "SELECT codLibro FROM Bautismo WHERE IDBautismo=" + id);
+    bloqueos.registroPorClave(sacramento.tablaPartidas, sacramento.clavePartida, lngID);
+    bloqueos.registros(
+        sacramento.tablaLibros,
+        sentencia(sacramento, "SELECT codLibro FROM {Partidas} WHERE {IDPartida}=") + id);
     // Another desk may have added an entry or closed the book while the question stood.
     if (!bloqueos.efectuar() || (permiso && !permiso())) return;
     const forms::Hourglass reloj(contexto.ui());
     TransaccionSinVuelta transaccion(contexto, conBaseDatos);
-    const store::Recordset fila =
-        conBaseDatos.Execute("SELECT * FROM bautismo WHERE idbautismo=" + id);
+    const store::Recordset fila = conBaseDatos.Execute(
+        sentencia(sacramento, "SELECT * FROM {partidas} WHERE {idpartida}=") + id);
     conBaseDatos.Execute(
-        "UPDATE Libro_Bautismo SET FolioSiguiente = 1, NumeroSiguiente = 1 WHERE "
-        "IDLibroBautismo = " +
+        sentencia(
+            sacramento,
+            "UPDATE {Libros} SET FolioSiguiente = 1, NumeroSiguiente = 1 WHERE {IDLibro} = ") +
         fila.text("CodLibro"));
-    borrarFilasBautismo(conBaseDatos, fila);
+    borrarFilas(conBaseDatos, sacramento, fila);
     transaccion.terminar();
   });
 }
 
 void eliminarPartida(Contexto& contexto, Conexion& conBaseDatos, std::int32_t lngID,
-                     const Sacramento& sacramento,
-                     const std::function<void(const PermisoEliminar&)>& borrar) {
+                     const Sacramento& sacramento) {
   guarded(contexto, "cNucleo", "EliminarPartida", [&] {
     if (!existeYEstaLibre(contexto, conBaseDatos, lngID, sacramento)) return;
     const PermisoEliminar permiso = [&] {
       return sePuedeEliminar(contexto, conBaseDatos, lngID, sacramento);
     };
-    if (permiso()) borrar(permiso);
+    if (permiso()) borrarPartida(contexto, conBaseDatos, lngID, sacramento, permiso);
   });
 }
 

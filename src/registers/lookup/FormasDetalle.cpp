@@ -1,0 +1,141 @@
+#include "registers/lookup/FormasDetalle.h"
+
+#include <memory>
+#include <stdexcept>
+
+#include "registers/common/Guiones.h"
+#include "registers/lookup/Bautizado.h"
+
+namespace fidaleon {
+
+namespace {
+
+using FDAPI::cCOrigen;
+using Lineas = FormaDetalle::Lineas;
+
+/// Words around values, of which some may not be known.
+class Redaccion {
+ public:
+  Redaccion(Contexto& contexto, FDAPI::Conexion& conexion)
+      : fidaleon_(contexto.fidaleon()), conexion_(conexion) {}
+
+  std::string fecha(const std::string& guardada) const {
+    return enBlanco(guardada) ? guardada : fidaleon_->stringdate(guardada);
+  }
+  /// "town (province)", empty for none.
+  std::string lugar(std::int32_t idMunicipio) const {
+    if (idMunicipio == 0) return {};
+    const std::string poblacion = fidaleon_->Poblacion(conexion_, idMunicipio);
+    if (poblacion.empty()) return {};
+    return poblacion + " (" + fidaleon_->PROVINCIA(conexion_, idMunicipio) + ")";
+  }
+  std::string naturalDe(const std::string& nombre, std::int32_t idMunicipio) const {
+    return con(nombre, ", natural de ", lugar(idMunicipio));
+  }
+  std::string en(const std::string& texto, std::int32_t idMunicipio) const {
+    return con(texto, ", ", lugar(idMunicipio));
+  }
+  static std::string con(const std::string& texto, const char* union_, const std::string& mas) {
+    return mas.empty() ? texto : texto + union_ + mas;
+  }
+  static std::string enLibro(const std::string& libro, const std::string& folio,
+                             const std::string& numero) {
+    return "Libro " + oGuiones(libro) + ", folio " + oGuiones(folio) + ", número " +
+           oGuiones(numero);
+  }
+
+ private:
+  std::unique_ptr<FDAPI::cFidaleon> fidaleon_;
+  FDAPI::Conexion& conexion_;
+};
+
+Lineas deFamilia(Contexto& contexto, FDAPI::Conexion& conexion, std::int32_t id) {
+  const Bautizado b = leerBautizado(conexion, id);
+  const Redaccion r(contexto, conexion);
+  const auto abuelos = [&](const std::string& abuelo, std::int32_t municipioAbuelo,
+                           const std::string& abuela, std::int32_t municipioAbuela) {
+    return r.naturalDe(abuelo, municipioAbuelo) + " y " + r.naturalDe(abuela, municipioAbuela);
+  };
+  return {r.naturalDe(b.PadreEntero, b.CodPoblacionPadres),
+          r.naturalDe(b.MadreEntera, b.CodPoblacionMadres),
+          abuelos(b.AbueloPadres, b.CodPoblacionAbueloPadres, b.AbuelaPadres,
+                  b.CodPoblacionAbuelaPadres),
+          abuelos(b.AbueloMadres, b.CodPoblacionAbueloMadres, b.AbuelaMadres,
+                  b.CodPoblacionAbuelaMadres),
+          "Se casaron el día " + r.fecha(b.FechaMatrMatrimonio) + " en " +
+              r.en(b.ParroquiaMatrimonio, b.CodPoblacionMatrMatrimonio),
+          r.en(b.DireccionPadresMatrimonio, b.CodPoblacionPadresMatrimonio)};
+}
+
+Lineas dePersona(Contexto& contexto, FDAPI::Conexion& conexion, std::int32_t id) {
+  const Bautizado b = leerBautizado(conexion, id);
+  const Redaccion r(contexto, conexion);
+  return {r.naturalDe(b.PadreEntero, b.CodPoblacionPadres),
+          "Nació el día " + r.fecha(b.FechaNacHijo) + " en " +
+              r.en(b.DireccionNacHijo, b.CodPoblacionNacHijo),
+          r.naturalDe(b.MadreEntera, b.CodPoblacionMadres),
+          Redaccion::enLibro(b.NombreLibro, b.FolioBautismo, b.NumeroBautismo),
+          "Se bautizó el día " + r.fecha(b.FechaBautismo) + " en " +
+              r.en(b.ParroquiaBautismo, b.CodPoblacionBautismo),
+          r.en(b.DireccionPadresMatrimonio, b.CodPoblacionPadresMatrimonio)};
+}
+
+Lineas deConfirmacion(Contexto& contexto, FDAPI::Conexion& conexion, std::int32_t id) {
+  const store::Recordset c = conexion.Execute(
+      "SELECT * FROM Confirmacion, Confirmacion_Bautismo, Confirmacion_Datos WHERE "
+      "IDConfirmacion=" +
+      std::to_string(id) +
+      " AND Confirmacion_Bautismo.CodConfirmacion=IDConfirmacion AND "
+      "Confirmacion_Datos.CodConfirmacion=IDConfirmacion");
+  if (c.EOF_()) throw std::runtime_error("Los datos de esta solicitud ya no existen.");
+  const Redaccion r(contexto, conexion);
+  const auto municipio = [&](const char* columna) {
+    return static_cast<std::int32_t>(c.integer(columna));
+  };
+  return {c.text("NombrePadre"),
+          r.en("Nació el día " + r.fecha(c.text("FechaNac")), municipio("CodMunicipioNac")) +
+              "; confirmación: " + r.fecha(c.text("FechaConfirmacion")),
+          c.text("NombreMadre"),
+          "Se bautizó el día " + r.fecha(c.text("FechaBaut")) + " en " +
+              r.en(c.text("ParroquiaBaut"), municipio("CodMunicipioBaut")),
+          Redaccion::enLibro(c.text("LibroBaut"), c.text("FolioBaut"), c.text("NumeroBaut")),
+          r.en(c.text("Domicilio"), municipio("CodMunicipioDomicilio"))};
+}
+
+constexpr FormaDetalle::Etiquetas DE_FAMILIA{"Padre:",
+                                             "Madre:",
+                                             "Abuelos paternos:",
+                                             "Abuelos maternos:",
+                                             "Matrimonio:",
+                                             "Residencia actual:"};
+constexpr FormaDetalle::Etiquetas DE_PERSONA{
+    "Padre:",           "Datos del nacimiento:",  "Madre:",
+    "Datos del libro:", "Datos de la parroquia:", "Residencia actual:"};
+constexpr FormaDetalle::Etiquetas DE_CONFIRMACION{
+    "Padre:",          "Fechas importantes:",          "Madre:",
+    "Bautizado/a en:", "Datos del libro de bautismo:", "Residencia actual:"};
+
+constexpr FormaDetalle FORMAS[] = {
+    {cCOrigen::LISTAPARTIDASBAUTISMO, "Detalles de bautismo de un hermano del bautizado.",
+     DE_FAMILIA, deFamilia, "CargarDetalleBautismo"},
+    {cCOrigen::SOLICITUDBAUTISMO, "Detalles de la solicitud de bautismo.", DE_FAMILIA, deFamilia,
+     "CargarDetalleBautismo"},
+    {cCOrigen::LISTAPARTIDASCONFIRMACION, "Detalles de bautismo del confirmado.", DE_PERSONA,
+     dePersona, "CargarDetalleBautismo"},
+    {cCOrigen::LISTAPARTIDASMatrimonio, "Detalles de bautismo del novio/a.", DE_PERSONA, dePersona,
+     "CargarDetalleBautismo"},
+    {cCOrigen::LISTAPARTIDASDEFUNCION, "Detalles de bautismo del difunto.", DE_PERSONA, dePersona,
+     "CargarDetalleBautismo"},
+    {cCOrigen::SOLICITUDCONFIRMACION, "Detalles de la solicitud de confirmación.", DE_CONFIRMACION,
+     deConfirmacion, "CargarDetalleConfirmacion"},
+};
+
+}  // namespace
+
+const FormaDetalle* formaDetalle(cCOrigen origen) {
+  for (const FormaDetalle& f : FORMAS)
+    if (f.origen == origen) return &f;
+  return nullptr;
+}
+
+}  // namespace fidaleon
