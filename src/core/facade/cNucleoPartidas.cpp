@@ -1,4 +1,4 @@
-include "core/statements/Sentencia.h"
+#include "core/statements/Sentencia.h"
 #include "core/facade/Operacion.h"
 #include "core/facade/cNucleo.h"
 #include "registers/cBaseDatos.h"

@@ -40,8 +40,8 @@ class Redaccion {
   }
   static std::string enLibro(const std::string& libro, const std::string& folio,
                              const std::string& numero) {
-    return "Libro " + oGuiones(libro) + ", folio " + oGuiones(folio) + ", número " +
-           oGuiones(numero);
+    return "Libro " + oGuiones(libro) + ", folio " + (folio == "0" ? GUIONES : oGuiones(folio)) +
+           ", número " + oGuiones(numero);
   }
 
  private:

@@ -207,7 +207,7 @@ TEST_F(Family, SecondChild_TakesTheParentsOverIntoRowsOfItsOwn) {
         EXPECT_EQ(details.caption(), "Detalles de bautismo de un hermano del bautizado.");
         EXPECT_EQ(details.text("lblDetalle(4)"), "Matrimonio:");
         EXPECT_EQ(details.text("txtDetalle(0)"),
-                  "Juan García ---, natural de Alcalá de Henares (Madrid)");
+                  "Juan García, natural de Alcalá de Henares (Madrid)");
         EXPECT_EQ(details.text("txtDetalle(4)"),
                   "Se casaron el día 06/06/1998 en San Juan, Alcalá de Henares (Madrid)");
         EXPECT_EQ(details.text("txtDetalle(5)"), "Calle Mayor, 3");

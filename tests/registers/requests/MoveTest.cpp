@@ -1,27 +1,50 @@
-// Moving requests of baptism into a book.
+// Moving requests into a book, in every register that has any.
 
+<<<<<<<< HEAD:tests/registers/requests/MoveTest.cpp
 #include "registers/BaptismWorld.h"
+========
+#include "core/contract/FDAPI.h"
+#include "registers/requests/EliminarSolicitud.h"
+>>>>>>>> cdb0f6e (Prove moving requests and the look-up in every register that has them):tests/registers/requests_move.cpp
 #include "registers/requests/frmSolicitudes.h"
+#include "registers/Rows.h"
+#include "store/FailingEngine.h"
+#include "store/schema/Schema.h"
 
 namespace fidaleon::tests {
 
+using FDAPI::cCOrigen;
+using forms::Answer;
+using forms::FormDriver;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 
-class MovedRequests : public BaptismWorld {
+struct Requests {
+  const Sacramento& s;
+  cCOrigen origin;
+  const char* caption;
+  const char* detailsCaption;
+  int line;  // of the details, and what stands there
+  const char* label;
+  const char* text;
+};
+
+class MovedRequests : public ::testing::TestWithParam<Requests> {
  protected:
-  std::int32_t request(const std::string& name, std::int32_t institution) {
-    cBautismo b = record(name, 0, 0, "---");
-    b.CodInstitucionBautismo = static_cast<std::uint8_t>(institution);
-    b.Operacion = cCOperacion::ANADIRSOLICITUD;
-    return store(b);
+  std::int32_t book(bool isNew, int format, bool closed = false) {
+    return insertBook(w, s, parish, {"Libro 1", isNew, format, closed});
   }
+  std::int32_t request(const std::string& name, std::int32_t institution) {
+    return insertEntry(w, s, {name, 0, 0, "---", institution, {}});
+  }
+  /// In the tables of the register.
+  std::string sql(const PlantillaSql& text) const { return sentencia(s, text); }
   void open(forms::ScriptedUser::Act act) {
     w.user.expectForm("frmSolicitudes", std::move(act));
     frmSolicitudes dialog(w.contexto);
     dialog.conBaseDatos = &w.con();
-    dialog.Origen = cCOrigen::LISTAPARTIDASBAUTISMO;
+    dialog.Origen = GetParam().origin;
     dialog.Show();
   }
   static void choose(FormDriver& d) {
@@ -45,26 +68,29 @@ class MovedRequests : public BaptismWorld {
     d.click("cmdMover(1)");
     d.click("cmdBoton(0)");
   }
-  /// "folio/number name" of the book, in the order of the keys.
+  /// "folio/number" of the book, in the order of the keys.
   std::vector<std::string> inBook(std::int32_t libro) {
     std::vector<std::string> rows;
-    for (auto rs = w.con().Execute(
-             "SELECT Folio, Numero, Nombre FROM Bautismo, Bautismo_Hijo WHERE CodBautismo = "
-             "IDBautismo AND CodLibro = " +
-             std::to_string(libro) + " ORDER BY IDBautismo");
+    for (auto rs = w.con().Execute(sql("SELECT Folio, Numero FROM {Partidas} WHERE CodLibro = ") +
+                                   std::to_string(libro) + sql(" ORDER BY {IDPartida}"));
          !rs.EOF_(); rs.MoveNext())
-      rows.push_back(rs.text("Folio") + "/" + rs.text("Numero") + " " + rs.text("Nombre"));
+      rows.push_back(rs.text("Folio") + "/" + rs.text("Numero"));
     return rows;
   }
+  std::int64_t outside() { return w.count(sql("{Partidas} WHERE codlibro=0")); }
+
+  const Sacramento& s = GetParam().s;
+  TestWorld w;
+  std::int32_t parish = w.institucion("San Pedro", w.municipio("Alcalá de Henares", "Madrid"));
 };
 
-TEST_F(MovedRequests, ThreeOfFour_TakeTheNextPositionsAndKeepTheirKeys) {
-  const std::int32_t libro = book("Libro 1", true, 3);
+TEST_P(MovedRequests, ThreeOfFour_TakeTheNextPositionsAndKeepTheirKeys) {
+  const std::int32_t libro = book(true, 3);
   const std::int32_t luis = request("Luis", parish);
   for (const char* name : {"Eva", "Ana", "Blas"}) request(name, parish);
-  request("De otra", w.institucion("Santa Ana", town));
+  request("De otra", w.institucion("Santa Ana"));
   open([&](FormDriver& d) {
-    EXPECT_EQ(d.caption(), "Solicitudes de bautismo");
+    EXPECT_EQ(d.caption(), GetParam().caption);
     choose(d);
     EXPECT_THAT(lines(d, "lstSolicitudes(0)"),
                 ElementsAre("Luis García Pérez", "Eva García Pérez", "Ana García Pérez",
@@ -78,37 +104,34 @@ TEST_F(MovedRequests, ThreeOfFour_TakeTheNextPositionsAndKeepTheirKeys) {
     d.click("cmdBoton(0)");
     EXPECT_TRUE(d.closed());
   });
-  EXPECT_THAT(inBook(libro), ElementsAre("1/1 Luis", "2/2 Ana", "3/3 Blas"));
-  EXPECT_EQ(column(luis, "InstitucionSolicitud"), "0");
-  EXPECT_EQ(column(luis, "codlibro"), std::to_string(libro));
-  EXPECT_EQ(w.count("bautismo WHERE codlibro=0"), 2);
-  EXPECT_EQ(w.count("bautismo_padres"), 5) << "no rows are made";
+  EXPECT_THAT(inBook(libro), ElementsAre("1/1", "2/2", "3/3"));
+  EXPECT_EQ(w.count(sql("{Partidas} WHERE InstitucionSolicitud=0 AND {IDPartida}=") +
+                    std::to_string(luis) + " AND codlibro=" + std::to_string(libro)),
+            1);
+  EXPECT_EQ(outside(), 2);
   EXPECT_EQ(w.user.hourglassDepth(), 0);
   EXPECT_SCRIPT_DONE(w.user);
 }
 
-TEST_F(MovedRequests, Positions_FollowTheLastRowOfTheLastFolio) {
+TEST_P(MovedRequests, Positions_FollowTheLastRowOfTheLastFolio) {
   // Capacity four: a folio with one entry takes a second, one with any other count none.
-  const std::int32_t libro = book("Libro 1", true, 1);
-  store(record("Primero", libro, 3, "12"));
-  store(record("Segundo", libro, 2, "40"));
+  const std::int32_t libro = book(true, 1);
+  insertEntry(w, s, {"Primero", libro, 3, "12"});
+  insertEntry(w, s, {"Segundo", libro, 2, "40"});
   for (const char* name : {"Luis", "Eva"}) request(name, parish);
-  w.con().Execute("UPDATE Libro_Bautismo SET FolioSiguiente=9");
+  w.con().Execute(sql("UPDATE {Libros} SET FolioSiguiente=9"));
   w.settings.write("Fidaleon", "ana\\Castellano\\documentos", "DOCUMENTOS_MAXPAGLIBRO", "1");
   open(moveAll);
-  EXPECT_THAT(inBook(libro), ElementsAre("3/12 Primero", "2/40 Segundo", "3/41 Luis", "4/42 Eva"));
-  EXPECT_EQ(column(libro, "FolioSiguiente", "Libro_Bautismo", "IDLibroBautismo"), "9");
+  EXPECT_THAT(inBook(libro), ElementsAre("3/12", "2/40", "3/41", "4/42"));
+  EXPECT_EQ(w.value(sql("SELECT FolioSiguiente FROM {Libros}")), "9");
   EXPECT_SCRIPT_DONE(w.user);
 }
 
-TEST_F(MovedRequests, InstitutionsWithoutBookOrRequests_AreRefused) {
-  book("Viejo", false, 1);
+TEST_P(MovedRequests, InstitutionsWithoutBookOrRequests_AreRefused) {
+  book(false, 1);
   request("Luis", parish);
-  const std::int32_t other = w.institucion("Santa Ana", town);
-  w.con().Execute(
-      "INSERT INTO Libro_Bautismo (codinstitucion, codFormato, codTipoNombre, nombre, "
-      "fechacreacion, Nuevo, Cerrado, NumeroSiguiente, FolioSiguiente) VALUES (" +
-      std::to_string(other) + ", 3, 4, \"L\", \"20200101\", 1, 0, 1, 1)");
+  const std::int32_t other = w.institucion("Santa Ana");
+  insertBook(w, s, other);
   open([&](FormDriver& d) {
     w.user.expectMessage("¡Tiene que elegir una Institución para ver las solicitudes!");
     d.tab("mstSolicitudes", 1);
@@ -125,8 +148,8 @@ TEST_F(MovedRequests, InstitutionsWithoutBookOrRequests_AreRefused) {
   EXPECT_SCRIPT_DONE(w.user);
 }
 
-TEST_F(MovedRequests, NothingChosenOrBookClosed_MovesNothing) {
-  book("Cerrado", true, 3, "19900101", true);
+TEST_P(MovedRequests, NothingChosenOrBookClosed_MovesNothing) {
+  book(true, 3, true);
   request("Luis", parish);
   open([&](FormDriver& d) {
     choose(d);
@@ -142,25 +165,22 @@ TEST_F(MovedRequests, NothingChosenOrBookClosed_MovesNothing) {
     EXPECT_EQ(w.user.messages().back().icon, forms::MsgIcon::Information);
     d.click("cmdBoton(1)");
   });
-  EXPECT_EQ(w.count("bautismo WHERE codlibro=0"), 1);
+  EXPECT_EQ(outside(), 1);
   EXPECT_SCRIPT_DONE(w.user);
 }
 
-TEST_F(MovedRequests, Details_ShowTheFamilyOfTheMarkedRequest) {
-  book("Libro 1", true, 3);
-  cBautismo b = record("Luis", 0, 0, "---");
-  b.CodInstitucionBautismo = static_cast<std::uint8_t>(parish);
-  b.Operacion = cCOperacion::ANADIRSOLICITUD;
-  b.FechaMatrMatrimonio = "19980606";
-  store(b);
+TEST_P(MovedRequests, Details_AreThoseOfTheMarkedRequest) {
+  book(true, 3);
+  request("Luis", parish);
   open([&](FormDriver& d) {
     choose(d);
     d.click("cmdDetalles");  // none marked
     mark(d, "lstSolicitudes(0)", {0});
     const auto look = [](FormDriver& details) {
-      EXPECT_EQ(details.caption(), "Detalles de la solicitud de bautismo.");
-      EXPECT_EQ(details.text("lblDetalle(2)"), "Abuelos paternos:");
-      EXPECT_EQ(details.text("txtDetalle(4)"), "Se casaron el día 06/06/1998 en San Juan");
+      const std::string line = "(" + std::to_string(GetParam().line) + ")";
+      EXPECT_EQ(details.caption(), GetParam().detailsCaption);
+      EXPECT_EQ(details.text("lblDetalle" + line), GetParam().label);
+      EXPECT_EQ(details.text("txtDetalle" + line), GetParam().text);
       details.escape();
     };
     w.user.expectForm("frmDetallePadres", look);
@@ -174,53 +194,53 @@ TEST_F(MovedRequests, Details_ShowTheFamilyOfTheMarkedRequest) {
   EXPECT_SCRIPT_DONE(w.user);
 }
 
-TEST_F(MovedRequests, FailureInTheMiddle_KeepsWhatWasMovedAndOffersTheRest) {
-  const std::int32_t libro = book("Libro 1", true, 3);
+TEST_P(MovedRequests, FailureInTheMiddle_KeepsWhatWasMovedAndOffersTheRest) {
+  const std::int32_t libro = book(true, 3);
   for (const char* name : {"Luis", "Eva", "Ana"}) request(name, parish);
   auto* faults = store::FailingEngine::wrap(w.con());
   w.user.answerAnything(Answer::Ok);
   open([&](FormDriver& d) {
-    faults->failOn("SELECT IDLibroBautismo, CodFormato", store::ErrorKind::Busy, 2);
+    faults->failOn(sql("SELECT {IDLibro}, CodFormato"), store::ErrorKind::Busy, 2);
     moveAll(d);
     EXPECT_THAT(inBook(libro), IsEmpty()) << "whether it is open is asked again under the lock";
-    faults->failOn("UPDATE Bautismo SET InstitucionSolicitud", store::ErrorKind::Busy, 2);
+    faults->failOn(sql("UPDATE {Partidas} SET InstitucionSolicitud"), store::ErrorKind::Busy, 2);
     d.click("cmdBoton(0)");
     EXPECT_THAT(w.user.messages().back().text, HasSubstr("cmdBoton_Click"));
-    EXPECT_THAT(inBook(libro), ElementsAre("1/1 Luis"));
+    EXPECT_THAT(inBook(libro), ElementsAre("1/1"));
     EXPECT_THAT(lines(d, "lstSolicitudes(1)"), ElementsAre("Eva García Pérez", "Ana García Pérez"));
     faults->failOn("MAX(CInt(Numero))");
     d.click("cmdBoton(0)");
-    EXPECT_THAT(w.user.messages().back().text, HasSubstr("CalcularFolioyNumeroBautismo"));
+    EXPECT_THAT(w.user.messages().back().text, HasSubstr(sql("CalcularFolioyNumero{Palabra}")));
     d.click("cmdBoton(0)");
     EXPECT_TRUE(d.closed());
   });
-  EXPECT_THAT(inBook(libro), ElementsAre("1/1 Luis", "2/2 Eva", "3/3 Ana"));
+  EXPECT_THAT(inBook(libro), ElementsAre("1/1", "2/2", "3/3"));
   EXPECT_SCRIPT_DONE(w.user);
 }
 
-TEST_F(MovedRequests, MovedMeanwhileByAnother_KeepsItsPosition) {
-  const std::int32_t libro = book("Libro 1", true, 3);
+TEST_P(MovedRequests, MovedMeanwhileByAnother_KeepsItsPosition) {
+  const std::int32_t libro = book(true, 3);
   const std::int32_t luis = request("Luis", parish);
   request("Eva", parish);
   open([&](FormDriver& d) {
     choose(d);
     d.click("cmdMover(1)");
-    w.con().Execute("UPDATE Bautismo SET CodLibro=" + std::to_string(libro) +
-                    ", Folio=7, Numero=\"7\" WHERE IDBautismo=" + std::to_string(luis));
+    w.con().Execute(sql("UPDATE {Partidas} SET CodLibro=") + std::to_string(libro) +
+                    sql(", Folio=7, Numero=\"7\" WHERE {IDPartida}=") + std::to_string(luis));
     w.user.expectMessage("¡La solicitud de Luis García Pérez ya no existe o ya está en un libro!");
     d.click("cmdBoton(0)");
     EXPECT_TRUE(d.closed());
   });
-  EXPECT_THAT(inBook(libro), ElementsAre("7/7 Luis", "8/8 Eva"));
+  EXPECT_THAT(inBook(libro), ElementsAre("7/7", "8/8"));
   EXPECT_SCRIPT_DONE(w.user);
 }
 
-TEST_F(MovedRequests, BookOpenElsewhere_NothingIsMoved) {
-  const std::int32_t libro = book("Libro 1", true, 3);
+TEST_P(MovedRequests, BookOpenElsewhere_NothingIsMoved) {
+  const std::int32_t libro = book(true, 3);
   request("Luis", parish);
   const auto other = w.otherSession();
   FDAPI::DefinicionBloqueo held;
-  held.strTabla = "Libro_Bautismo";
+  held.strTabla = s.tablaLibros;
   held.strRegistro = std::to_string(libro);
   held.conBd = &w.con();
   other->DefinirBloqueo(held);
@@ -235,5 +255,30 @@ TEST_F(MovedRequests, BookOpenElsewhere_NothingIsMoved) {
   EXPECT_THAT(inBook(libro), IsEmpty());
   EXPECT_SCRIPT_DONE(w.user);
 }
+
+TEST_P(MovedRequests, Deleted_GoesWithAllItsRowsAndTouchesNoBook) {
+  book(true, 3);
+  const std::int32_t luis = request("Luis", parish);
+  request("Eva", parish);
+  w.con().Execute(sql("UPDATE {Libros} SET FolioSiguiente=9"));
+  eliminarSolicitud(w.contexto, w.con(), luis, s);
+  for (const store::Table& t : w.con().schema().tables()) {
+    if (!t.name().starts_with(s.tablaPartidas)) continue;
+    EXPECT_EQ(w.count(t.name()), 1) << t.name();
+  }
+  EXPECT_EQ(w.value(sql("SELECT FolioSiguiente FROM {Libros}")), "9");
+  EXPECT_SCRIPT_DONE(w.user);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Registers, MovedRequests,
+    ::testing::Values(Requests{BAUTISMO, cCOrigen::LISTAPARTIDASBAUTISMO, "Solicitudes de bautismo",
+                               "Detalles de la solicitud de bautismo.", 4,
+                               "Matrimonio:", "Se casaron el día 06/06/1998 en San Juan"},
+                      Requests{CONFIRMACION, cCOrigen::LISTAPARTIDASCONFIRMACION,
+                               "Solicitudes de confirmación",
+                               "Detalles de la solicitud de confirmación.", 4,
+                               "Datos del libro de bautismo:", "Libro ---, folio ---, número ---"}),
+    [](const auto& p) { return std::string(p.param.s.palabra); });
 
 }  // namespace fidaleon::tests

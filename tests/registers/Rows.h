@@ -1,0 +1,107 @@
+#pragma once
+// Books, entries and requests of any register as they stand in the tables, put there without a
+// dialog or the store.
+
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "core/contract/Sentencia.h"
+#include "support/TestWorld.h"
+
+namespace fidaleon::tests {
+
+using Values = std::vector<std::pair<std::string, std::string>>;
+
+inline std::string quoted(const std::string& text) {
+  return entreComillas(text);
+}
+
+/// The highest key of the table behind the new row, or nothing for a table without `key`.
+inline std::int32_t insertRow(TestWorld& w, const std::string& table, const Values& values,
+                              const std::string& key = {}) {
+  std::string names, all;
+  for (const auto& [name, value] : values) {
+    names += (names.empty() ? "" : ", ") + name;
+    all += (all.empty() ? "" : ", ") + value;
+  }
+  w.con().Execute("INSERT INTO " + table + " (" + names + ") VALUES (" + all + ")");
+  return key.empty() ? 0 : std::stoi(w.value("SELECT MAX(" + key + ") AS ID FROM " + table));
+}
+
+struct BookRow {
+  std::string name = "Libro 1";
+  bool isNew = true;
+  int format = 3;
+  bool closed = false;
+  std::string created = "19900101";
+};
+
+inline std::int32_t insertBook(TestWorld& w, const Sacramento& s, std::int32_t institution,
+                               const BookRow& b = {}) {
+  return insertRow(w, s.tablaLibros,
+                   {{"CodInstitucion", std::to_string(institution)},
+                    {"CodFormato", std::to_string(b.format)},
+                    {"CodTipoNombre", "4"},
+                    {"Nombre", quoted(b.name)},
+                    {"FechaCreacion", quoted(b.created)},
+                    {"Nuevo", b.isNew ? "1" : "0"},
+                    {"Cerrado", b.closed ? "1" : "0"},
+                    {"NumeroSiguiente", "1"},
+                    {"FolioSiguiente", "1"}},
+                   s.claveLibro);
+}
+
+/// An entry of a book, or a request of an institution when `book` is 0. `more` are columns of the
+/// entry's own row.
+struct EntryRow {
+  std::string name;
+  std::int32_t book = 0;
+  int folio = 0;
+  std::string number = "---";
+  std::int32_t institution = 0;
+  Values more;
+};
+
+/// García Pérez, with every row that an entry of the register has.
+inline std::int32_t insertEntry(TestWorld& w, const Sacramento& s, const EntryRow& e) {
+  const Values person{{"Nombre", quoted(e.name)},
+                      {"PrimerApellido", quoted("García")},
+                      {"SegundoApellido", quoted("Pérez")}};
+  Values entry{{"CodLibro", std::to_string(e.book)},
+               {"Folio", std::to_string(e.folio)},
+               {"Numero", quoted(e.number)},
+               {"InstitucionSolicitud", std::to_string(e.institution)}};
+  entry.insert(entry.end(), e.more.begin(), e.more.end());
+  if (&s != &BAUTISMO) {
+    entry.insert(entry.end(), person.begin(), person.end());
+    const std::int32_t id = insertRow(w, s.tablaPartidas, entry, s.clavePartida);
+    if (&s == &DEFUNCION) insertRow(w, "Defuncion_Datos", {{"CodDifunto", std::to_string(id)}});
+    if (&s == &CONFIRMACION)
+      for (const char* table : {"Confirmacion_Datos", "Confirmacion_Bautismo"})
+        insertRow(w, table, {{"CodConfirmacion", std::to_string(id)}});
+    return id;
+  }
+  const auto parent = [&](const char* name, const std::string& table) {
+    return std::to_string(insertRow(
+        w, "Bautismo_" + table,
+        {{"Nombre", quoted(name)}, {"PrimerApellido", quoted("García")}, {"Abuelo", "\"---\""}},
+        "ID" + table));
+  };
+  entry.push_back({"CodPadres", parent("Juan", "Padres")});
+  entry.push_back({"CodMadres", parent("Ana", "Madres")});
+  entry.push_back(
+      {"CodMatrimonio", std::to_string(insertRow(w, "Bautismo_Matrimonio",
+                                                 {{"Parroquia", quoted("San Juan")},
+                                                  {"FechaMatr", quoted("19980606")},
+                                                  {"DireccionPadres", quoted("Calle del Pez, 3")}},
+                                                 "IDMatrimonio"))});
+  const std::int32_t id = insertRow(w, s.tablaPartidas, entry, s.clavePartida);
+  Values child = person;
+  child.push_back({"CodBautismo", std::to_string(id)});
+  child.push_back({"FechaNac", quoted("19990501")});
+  insertRow(w, "Bautismo_Hijo", child);
+  return id;
+}
+
+}  // namespace fidaleon::tests
