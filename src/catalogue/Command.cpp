@@ -1,10 +1,10 @@
 #include "catalogue/Command.h"
 
-#include "app/Catalogue.h"
-#include "app/CensusCommands.h"
-#include "app/CommandParts.h"
-#include "app/Documents.h"
-#include "registers/common/NombrePartida.h"
+#include "catalogue/Catalogue.h"
+#include "catalogue/CensusCommands.h"
+#include "catalogue/CommandParts.h"
+#include "catalogue/Documents.h"
+#include "registers/common/FormaPartida.h"
 
 namespace fidaleon::app {
 namespace {

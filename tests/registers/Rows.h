@@ -6,7 +6,7 @@
 #include <utility>
 #include <vector>
 
-#include "core/contract/Sentencia.h"
+#include "core/statements/Sentencia.h"
 #include "support/TestWorld.h"
 
 namespace fidaleon::tests {

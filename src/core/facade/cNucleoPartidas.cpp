@@ -1,6 +1,6 @@
-#include "core/statements/Sentencia.h"
 #include "core/facade/Operacion.h"
 #include "core/facade/cNucleo.h"
+#include "core/statements/Sentencia.h"
 #include "registers/cBaseDatos.h"
 #include "registers/common/EliminarPartida.h"
 
@@ -84,15 +84,15 @@ void cNucleo::EliminarPartida(FDAPI::Conexion& conBaseDatos, std::int32_t lngID,
 }
 
 void cNucleo::BorrarPartidaBautismo(FDAPI::Conexion& conBaseDatos, std::int32_t lngID) {
-  borrarPartida(contexto_, conBaseDatos, lngID, BAUTISMO);
+  borrarPreguntando(contexto_, conBaseDatos, lngID, BAUTISMO);
 }
 
 void cNucleo::BorrarPartidaConfirmacion(FDAPI::Conexion& conBaseDatos, std::int32_t lngID) {
-  borrarPartida(contexto_, conBaseDatos, lngID, CONFIRMACION);
+  borrarPreguntando(contexto_, conBaseDatos, lngID, CONFIRMACION);
 }
 
 void cNucleo::BorrarPartidaDefuncion(FDAPI::Conexion& conBaseDatos, std::int32_t lngID) {
-  borrarPartida(contexto_, conBaseDatos, lngID, DEFUNCION);
+  borrarPreguntando(contexto_, conBaseDatos, lngID, DEFUNCION);
 }
 
 }  // namespace fidaleon

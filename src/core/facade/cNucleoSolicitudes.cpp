@@ -1,6 +1,6 @@
-#include "core/contract/Sentencia.h"
 #include "core/facade/Operacion.h"
 #include "core/facade/cNucleo.h"
+#include "core/statements/Sentencia.h"
 #include "registers/requests/BloqueoSolicitud.h"
 #include "registers/requests/EliminarSolicitud.h"
 #include "registers/requests/frmSolicitudes.h"

@@ -2,7 +2,7 @@
 
 #include <cstddef>
 
-#include "core/contract/Columnas.h"
+#include "core/statements/Columnas.h"
 #include "registers/baptism/cBautismo.h"
 
 namespace fidaleon {

@@ -1,10 +1,9 @@
 #include "registers/common/EliminarPartida.h"
 
-#include "core/contract/Guard.h"
-#include "core/contract/Sentencia.h"
 #include "core/contract/SesionBloqueos.h"
-#include "registers/common/FilasDePartida.h"
-#include "registers/common/NombrePartida.h"
+#include "core/dialogs/Guard.h"
+#include "core/statements/Sentencia.h"
+#include "registers/common/FormaPartida.h"
 
 namespace fidaleon {
 
@@ -56,30 +55,22 @@ bool existeYEstaLibre(Contexto& contexto, Conexion& conexion, std::int32_t lngID
 
 }  // namespace
 
-void borrarPartida(Contexto& contexto, Conexion& conBaseDatos, std::int32_t lngID,
-                   const Sacramento& sacramento, const PermisoEliminar& permiso) {
-  guarded(contexto, "cNucleo", std::string("BorrarPartida") + sacramento.palabra, [&] {
+void borrarPreguntando(Contexto& contexto, Conexion& conBaseDatos, std::int32_t lngID,
+                       const Sacramento& s, const PermisoEliminar& permiso) {
+  guarded(contexto, "cNucleo", std::string("BorrarPartida") + s.palabra, [&] {
     SesionBloqueos bloqueos(contexto, conBaseDatos);
     if (!forms::ask(contexto.ui(), "¿Está seguro que desea eliminar la partida?", {},
-                    forms::Stake::Loss, nombrePartida(conBaseDatos, sacramento, lngID)))
+                    forms::Stake::Loss, nombrePartida(conBaseDatos, s, lngID)))
       return;
-    const std::string id = std::to_string(lngID);
-    bloqueos.registroPorClave(sacramento.tablaPartidas, sacramento.clavePartida, lngID);
+    bloqueos.registroPorClave(s.tablaPartidas, s.clavePartida, lngID);
     bloqueos.registros(
-        sacramento.tablaLibros,
-        sentencia(sacramento, "SELECT codLibro FROM {Partidas} WHERE {IDPartida}=") + id);
+        s.tablaLibros,
+        sentencia(s, "SELECT codLibro FROM {Partidas} WHERE {IDPartida}=") + std::to_string(lngID));
     // Another desk may have added an entry or closed the book while the question stood.
     if (!bloqueos.efectuar() || (permiso && !permiso())) return;
     const forms::Hourglass reloj(contexto.ui());
     TransaccionSinVuelta transaccion(contexto, conBaseDatos);
-    const store::Recordset fila = conBaseDatos.Execute(
-        sentencia(sacramento, "SELECT * FROM {partidas} WHERE {idpartida}=") + id);
-    conBaseDatos.Execute(
-        sentencia(
-            sacramento,
-            "UPDATE {Libros} SET FolioSiguiente = 1, NumeroSiguiente = 1 WHERE {IDLibro} = ") +
-        fila.text("CodLibro"));
-    borrarFilas(conBaseDatos, sacramento, fila);
+    borrarPartida(conBaseDatos, *formaPartida(s), lngID, Compartidas::Borrar);
     transaccion.terminar();
   });
 }
@@ -91,7 +82,7 @@ void eliminarPartida(Contexto& contexto, Conexion& conBaseDatos, std::int32_t ln
     const PermisoEliminar permiso = [&] {
       return sePuedeEliminar(contexto, conBaseDatos, lngID, sacramento);
     };
-    if (permiso()) borrarPartida(contexto, conBaseDatos, lngID, sacramento, permiso);
+    if (permiso()) borrarPreguntando(contexto, conBaseDatos, lngID, sacramento, permiso);
   });
 }
 

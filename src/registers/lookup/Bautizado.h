@@ -8,7 +8,7 @@
 #include <type_traits>
 #include <variant>
 
-#include "core/contract/Columnas.h"
+#include "core/statements/Columnas.h"
 #include "registers/baptism/cBautismo.h"
 
 namespace fidaleon {

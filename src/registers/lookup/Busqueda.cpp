@@ -1,6 +1,6 @@
 #include "registers/lookup/Busqueda.h"
 
-#include "core/contract/Sentencia.h"
+#include "core/statements/Sentencia.h"
 #include "registers/common/Guiones.h"
 
 namespace fidaleon {

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "core/contract/Dialogo.h"
+#include "core/dialogs/Dialogo.h"
 #include "registers/lookup/Bautizado.h"
 #include "registers/lookup/Busqueda.h"
 

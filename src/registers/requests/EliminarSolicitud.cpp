@@ -1,24 +1,21 @@
 #include "registers/requests/EliminarSolicitud.h"
 
-#include "core/contract/Guard.h"
-#include "core/contract/Sentencia.h"
-#include "registers/common/FilasDePartida.h"
+#include "core/dialogs/Guard.h"
+#include "registers/common/FormaPartida.h"
 #include "registers/requests/BloqueoSolicitud.h"
 
 namespace fidaleon {
 
 void eliminarSolicitud(Contexto& contexto, FDAPI::Conexion& conBaseDatos, std::int32_t lngID,
-                       const Sacramento& sacramento) {
+                       const Sacramento& s) {
   guarded(contexto, "cNucleo", "EliminarSolicitud", [&] {
     SesionBloqueos bloqueos(contexto, conBaseDatos);
-    bloquearSolicitud(bloqueos, sacramento, lngID);
+    bloquearSolicitud(bloqueos, s, lngID);
     if (!bloqueos.efectuar()) return;
     const forms::Hourglass reloj(contexto.ui());
-    const store::Recordset fila =
-        conBaseDatos.Execute(sentencia(sacramento, "SELECT * FROM {partidas} WHERE {idpartida}=") +
-                             std::to_string(lngID));
+    const store::Recordset fila = conBaseDatos.Execute(sqlPartida(s, lngID));
     TransaccionSinVuelta transaccion(contexto, conBaseDatos);
-    if (!fila.EOF_()) borrarFilas(conBaseDatos, sacramento, fila);
+    if (!fila.EOF_()) borrarFilas(conBaseDatos, *formaPartida(s), fila, Compartidas::Borrar);
     transaccion.terminar();
   });
 }

@@ -2,8 +2,8 @@
 
 #include "registers/requests/frmSolicitudes.h"
 
-#include "core/contract/Sentencia.h"
-#include "registers/common/NombrePartida.h"
+#include "core/statements/Sentencia.h"
+#include "registers/common/FormaPartida.h"
 #include "registers/lookup/frmDetallePadres.h"
 
 namespace fidaleon {
@@ -86,7 +86,7 @@ void frmSolicitudes::listarSolicitudes() {
   for (; !solicitudes.EOF_(); solicitudes.MoveNext()) {
     const auto id =
         static_cast<std::int32_t>(solicitudes.integer(origen_->sacramento.clavePartida));
-    const std::string quien = quienDePartida(*conBaseDatos, origen_->sacramento, id);
+    const std::string quien = nombrePartida(*conBaseDatos, origen_->sacramento, id);
     todas.push_back({id, quien.empty() ? "Solicitud " + std::to_string(id) : quien});
   }
   listas_.llenar(std::move(todas));

@@ -1,7 +1,7 @@
 // What reaches the five tables of a baptism, and in which words.
 
+#include "registers/BaptismWorld.h"
 #include "registers/baptism/TablasBautismo.h"
-#include "registers/baptism_world.h"
 #include "registers/common/EliminarPartida.h"
 
 namespace fidaleon::tests {
@@ -122,7 +122,7 @@ TEST_F(BaptismStore, Deleting_SparesSharedRowsThroughTheStoreButNotThroughTheFac
   EXPECT_EQ(w.value("SELECT FolioSiguiente FROM Libro_Bautismo"), "1");
 
   w.user.expectMessage("¿Está seguro que desea eliminar la partida?", Answer::Yes);
-  borrarPartida(w.contexto, w.con(), two, BAUTISMO);
+  borrarPreguntando(w.contexto, w.con(), two, BAUTISMO);
   EXPECT_EQ(w.count("bautismo_padres"), fathers - 1);
   ColeccionBautismo items;
   ASSERT_TRUE(cBaseDatos(w.contexto).GrabarBasedatosColeccion(w.con(), libro, items));

@@ -1,9 +1,9 @@
 // Looking a person up among the baptised, for each register that does.
 
+#include "registers/Rows.h"
 #include "registers/lookup/Busqueda.h"
 #include "registers/lookup/Importacion.h"
 #include "registers/lookup/frmBuscaPadres.h"
-#include "registers/Rows.h"
 
 namespace fidaleon::tests {
 

@@ -1,13 +1,9 @@
 // Moving requests into a book, in every register that has any.
 
-<<<<<<<< HEAD:tests/registers/requests/MoveTest.cpp
-#include "registers/BaptismWorld.h"
-========
 #include "core/contract/FDAPI.h"
-#include "registers/requests/EliminarSolicitud.h"
->>>>>>>> cdb0f6e (Prove moving requests and the look-up in every register that has them):tests/registers/requests_move.cpp
-#include "registers/requests/frmSolicitudes.h"
 #include "registers/Rows.h"
+#include "registers/requests/EliminarSolicitud.h"
+#include "registers/requests/frmSolicitudes.h"
 #include "store/FailingEngine.h"
 #include "store/schema/Schema.h"
 
