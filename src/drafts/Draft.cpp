@@ -1,39 +1,43 @@
 #include "drafts/Draft.h"
 
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
+#include <nlohmann/json.hpp>
 
 namespace fidaleon::app {
 namespace {
 
+using nlohmann::json;
+
 constexpr int VERSION = 1;
 
-QString in(const std::string& text) {
-  return QString::fromStdString(text);
-}
-
-std::string out(const QJsonValue& value) {
-  return value.toString().toStdString();
-}
-
-QJsonObject json(const forms::Contents& contents) {
-  QJsonArray fields;
+json written(const forms::Contents& contents) {
+  json fields = json::array();
   for (const forms::Field& f : contents.fields)
-    fields.append(QJsonObject{{"control", in(f.control)},
-                              {"etiqueta", in(f.label)},
-                              {"texto", in(f.text)},
-                              {"clave", QString::number(f.data)}});
-  return {{"campos", fields}, {"propio", in(contents.own)}};
+    fields.push_back({{"control", f.control},
+                      {"etiqueta", f.label},
+                      {"texto", f.text},
+                      {"clave", std::to_string(f.data)}});
+  return {{"campos", fields}, {"propio", contents.own}};
 }
 
-forms::Contents contentsOf(const QJsonObject& json) {
+forms::Contents contentsOf(const json& from) {
   forms::Contents contents;
-  for (const QJsonValue& f : json["campos"].toArray())
-    contents.fields.push_back({out(f["control"]), out(f["etiqueta"]), out(f["texto"]),
-                               f["clave"].toString().toLongLong()});
-  contents.own = out(json["propio"]);
+  for (const json& f : from.at("campos"))
+    contents.fields.push_back({f.at("control"), f.at("etiqueta"), f.at("texto"),
+                               std::stoll(f.at("clave").get<std::string>())});
+  contents.own = from.at("propio");
   return contents;
+}
+
+Draft draftOf(const json& all) {
+  Draft draft;
+  draft.parish = all.at("parroquia");
+  draft.task = {all.at("orden"), all.at("nodo"), all.at("registro"), all.at("lugar")};
+  draft.day = all.at("dia");
+  draft.time = all.at("hora");
+  for (const json& form : all.at("ventanas"))
+    draft.levels.push_back({form.at("ventana"), form.at("titulo"), contentsOf(form.at("antes")),
+                            contentsOf(form.at("ahora"))});
+  return draft;
 }
 
 }  // namespace
@@ -52,32 +56,34 @@ std::string Draft::readable() const {
 }
 
 std::string Draft::text() const {
-  QJsonArray forms;
+  json forms = json::array();
   for (const Level& level : levels)
-    forms.append(QJsonObject{{"ventana", in(level.form)},
-                             {"titulo", in(level.caption)},
-                             {"antes", json(level.before)},
-                             {"ahora", json(level.now)}});
-  const QJsonObject all{
-      {"version", VERSION},    {"parroquia", in(parish)}, {"orden", in(task.command)},
-      {"nodo", in(task.node)}, {"registro", task.record}, {"lugar", task.place},
-      {"dia", in(day)},        {"hora", in(time)},        {"ventanas", forms}};
-  return QJsonDocument(all).toJson(QJsonDocument::Compact).toStdString();
+    forms.push_back({{"ventana", level.form},
+                     {"titulo", level.caption},
+                     {"antes", written(level.before)},
+                     {"ahora", written(level.now)}});
+  const json all{{"version", VERSION},
+                 {"parroquia", parish},
+                 {"orden", task.command},
+                 {"nodo", task.node},
+                 {"registro", task.record},
+                 {"lugar", task.place},
+                 {"dia", day},
+                 {"hora", time},
+                 {"ventanas", forms}};
+  // What is not UTF-8 must not cost the rest.
+  return all.dump(-1, ' ', false, json::error_handler_t::replace);
 }
 
 std::optional<Draft> Draft::parse(const std::string& text) {
-  const QJsonObject all = QJsonDocument::fromJson(QByteArray::fromStdString(text)).object();
-  if (all["version"].toInt() != VERSION) return std::nullopt;
-  Draft draft;
-  draft.parish = out(all["parroquia"]);
-  draft.task = {out(all["orden"]), out(all["nodo"]), all["registro"].toInt(), all["lugar"].toInt()};
-  draft.day = out(all["dia"]);
-  draft.time = out(all["hora"]);
-  for (const QJsonValue& form : all["ventanas"].toArray())
-    draft.levels.push_back({out(form["ventana"]), out(form["titulo"]),
-                            contentsOf(form["antes"].toObject()),
-                            contentsOf(form["ahora"].toObject())});
-  return draft;
+  try {
+    const json all = json::parse(text);
+    if (all.at("version") != VERSION) return std::nullopt;
+    return draftOf(all);
+  } catch (const json::exception&) {
+  } catch (const std::logic_error&) {  // a key that is no number
+  }
+  return std::nullopt;
 }
 
 }  // namespace fidaleon::app

@@ -8,6 +8,8 @@
 #include <fstream>
 #include <vector>
 
+#include "locks/HostName.h"
+
 namespace fidaleon::locks {
 
 namespace {
@@ -33,10 +35,8 @@ std::string digest(const std::string& text) {
 }
 
 std::string machineName() {
-  std::array<char, 256> host{};
-  ::gethostname(host.data(), host.size() - 1);
   const std::string id = firstLine("/etc/machine-id");
-  return id.empty() ? UNKNOWN : digest(id + host.data());
+  return id.empty() ? UNKNOWN : digest(id + hostName());
 }
 
 std::string processSpace() {

@@ -7,6 +7,7 @@
 #include <system_error>
 #include <thread>
 
+#include "locks/HostName.h"
 #include "locks/LockTexts.h"
 #include "text/SystemErrors.h"
 
@@ -22,9 +23,7 @@ std::string unusable(const fs::path& directory, const std::string& why) {
 
 /// "HOST.MAKER.RANDOM"
 std::string newSessionName(const Maker& self) {
-  std::array<char, 256> host{"equipo"};
-  ::gethostname(host.data(), host.size() - 1);
-  return SharedDirectory::SESSION_PREFIX + std::string(host.data()) + "." + self.text() + "." +
+  return SharedDirectory::SESSION_PREFIX + hostName() + "." + self.text() + "." +
          std::to_string(std::random_device{}());
 }
 

@@ -8,6 +8,7 @@
 #include "core/contract/FDAPI.h"
 #include "files/Durable.h"
 #include "files/PrivateFile.h"
+#include "locks/HostName.h"
 #include "locks/SharedDirectory.h"
 #include "parish/Insert.h"
 #include "store/Open.h"
@@ -30,15 +31,10 @@ constexpr std::array<Edition, 4> EDITIONS{{
     {FDAPI::cCAplicacion::APP_FIDALEON_MENORCA, "Menorca"},
 }};
 
-std::string workstation() {
-  char name[256] = {};
-  return gethostname(name, sizeof name - 1) == 0 && name[0] ? name : "local";
-}
-
 /// Earlier versions kept the scratch tables of each account beside the parish, for good.
 void removeKeptReports(const std::filesystem::path& directory) {
   const std::string ours =
-      "informes-" + workstation() + "-" + std::to_string(getuid()) + ".fidaleon";
+      "informes-" + locks::hostName() + "-" + std::to_string(getuid()) + ".fidaleon";
   std::vector<std::filesystem::path> kept;
   std::error_code failed;
   std::filesystem::directory_iterator at(directory, failed);

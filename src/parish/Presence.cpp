@@ -5,13 +5,10 @@
 #include <algorithm>
 #include <array>
 
+#include "locks/HostName.h"
+
 namespace fidaleon::app {
 namespace {
-
-std::string hostName() {
-  std::array<char, 256> name{};
-  return ::gethostname(name.data(), name.size() - 1) == 0 ? name.data() : "desconocido";
-}
 
 bool same(const locks::Holder& a, const locks::Holder& b) {
   return a.user == b.user && a.host == b.host && a.process == b.process;
@@ -26,7 +23,7 @@ locks::HeldEntry present(const locks::Holder& self) {
 
 Presence::Presence(const std::filesystem::path& parishDirectory, const std::string& user,
                    const std::string& since, locks::Vantage vantage)
-    : self_{user, hostName(), ::getpid(), since},
+    : self_{user, locks::hostName(), ::getpid(), since},
       meeting_(parishDirectory, locks::SharedDirectory::PATIENCE, std::move(vantage)) {
   told_ = meeting_.join(meeting_.enter(), {present(self_)});
 }

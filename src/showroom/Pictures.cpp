@@ -21,6 +21,7 @@
 #include "support/frmInstitucion.h"
 #include "support/frmMunicipio.h"
 #include "support/frmProvincia.h"
+#include "text/Utf8.h"
 #include "window/CopiesDialog.h"
 #include "window/FirstRunWizard.h"
 #include "window/MainWindow.h"
@@ -31,25 +32,24 @@ namespace {
 
 constexpr const char* USER = "Secretaría";
 
+/// A code and the word that tells its pictures apart.
 struct Edition {
-  const char* code;
-  const char* name;
+  std::string code;
+  std::string name;
 };
-constexpr std::array<Edition, 4> EDITIONS{{
-    {FDAPI::cCAplicacion::APP_FIDALEON_MADRID, "madrid"},
-    {FDAPI::cCAplicacion::APP_FIDALEON_SANTIAGO, "santiago"},
-    {FDAPI::cCAplicacion::APP_FIDALEON_ZARAGOZA, "zaragoza"},
-    {FDAPI::cCAplicacion::APP_FIDALEON_MENORCA, "menorca"},
-}};
+
+std::vector<Edition> everyEdition() {
+  std::vector<Edition> all;
+  for (const auto& [name, code] : editions()) all.push_back({code, text::lower(name)});
+  return all;
+}
 
 /// The pictures of one edition, taken on a sample parish of its own.
 class EditionSitting {
  public:
   EditionSitting(PictureAlbum& album, const Edition& edition,
                  const std::filesystem::path& directory)
-      : album_(album),
-        edition_(edition),
-        user_(album, std::string("dialogo-") + edition.name + "-") {
+      : album_(album), edition_(edition), user_(album, "dialogo-" + edition.name + "-") {
     NewParish parish;
     parish.name = "San Esteban Protomártir";
     parish.edition = edition.code;
@@ -241,7 +241,7 @@ class EditionSitting {
   }
 
   std::string documentName(const std::string& command) const {
-    return "documento-" + std::string(edition_.name) + "-" + command;
+    return "documento-" + edition_.name + "-" + command;
   }
 
   std::int32_t one(const std::string& sql) {
@@ -298,11 +298,12 @@ bool renderPictures(const std::filesystem::path& directory, std::ostream& out) {
   const QTemporaryDir parishes;
   try {
     firstRunPages(album);
-    for (const Edition& edition : EDITIONS) {
+    const std::vector<Edition> all = everyEdition();
+    for (const Edition& edition : all) {
       EditionSitting sitting(album, edition, parishes.path().toStdString());
       sitting.entryDialogs();
       sitting.documents();
-      if (&edition != &EDITIONS.front()) continue;
+      if (&edition != &all.front()) continue;
       sitting.windows();
       sitting.bookDialogs();
       sitting.bookProperties();

@@ -18,7 +18,7 @@ struct Property {
   std::string Value;
 };
 
-/// An open database. Takes statements in the Jet dialect of SQL with values inline; every literal
+/// An open database. Takes statements in the parish dialect with values inline; every literal
 /// is bound as a parameter, never spliced into what the engine parses. One thread.
 /// Everything throws store::Error. A statement that fails leaves the others standing.
 class Connection {

@@ -4,6 +4,7 @@
 
 #include <array>
 
+#include "locks/HostName.h"
 #include "locks/ProcesarBloqueos.h"
 #include "support/Fidaleon.h"
 #include "support/Informes.h"
@@ -11,22 +12,13 @@
 
 namespace fidaleon::support {
 
-namespace {
-
-std::string hostName() {
-  std::array<char, 256> name{};
-  return ::gethostname(name.data(), name.size() - 1) == 0 ? name.data() : "desconocido";
-}
-
-}  // namespace
-
 HostSupport::HostSupport(forms::UserInterface& ui, Settings& settings, const Clock& clock,
                          const FDAPI::cConfig& config, std::string host)
     : ui_(ui),
       settings_(settings),
       clock_(clock),
       config_(config),
-      host_(host.empty() ? hostName() : std::move(host)) {}
+      host_(host.empty() ? locks::hostName() : std::move(host)) {}
 
 std::unique_ptr<FDAPI::cFidaleon> HostSupport::create_cFidaleon() {
   return std::make_unique<Fidaleon>(ui_, settings_, clock_);

@@ -19,10 +19,10 @@ struct Rewritten {
   bool returnsRows = false;
 };
 
-/// Turns the shape of a Jet statement into the engine's SQL. Follows clauses and resolves names
+/// Turns a statement of the parish dialect into the engine's SQL. Follows clauses, resolves names
 /// in the catalogue; expressions pass through piece by piece.
 ///
-/// What a Jet store does unasked is written out: rows of one table come in the order of its key,
+/// What the dialect does unasked is written out: rows of one table come in the order of its key,
 /// those of DISTINCT and GROUP BY sorted. A bare name that several tables have is the first
 /// table's.
 class Rewriter {
