@@ -68,12 +68,12 @@ struct BautismoWorld : TestWorld {
         std::to_string(parroquia));
   }
 
-  std::int64_t filas() {
-    return conInformes().Execute("SELECT * FROM Documentos_Bautismo").RecordCount();
+  std::int64_t filas(const std::string& tabla = "Documentos_Bautismo") {
+    return conInformes().Execute("SELECT * FROM " + tabla).RecordCount();
   }
   /// The one row of the table; empty, and a failure, when there is not exactly one.
-  Row fila() {
-    const store::Recordset rs = conInformes().Execute("SELECT * FROM Documentos_Bautismo");
+  Row fila(const std::string& tabla = "Documentos_Bautismo") {
+    const store::Recordset rs = conInformes().Execute("SELECT * FROM " + tabla);
     EXPECT_EQ(rs.RecordCount(), 1);
     Row row;
     if (rs.RecordCount() != 1) return row;

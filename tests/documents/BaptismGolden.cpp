@@ -1,0 +1,127 @@
+// Golden rows of baptism.
+
+#include "GoldenRows.h"
+#include "PartidaImpresa.h"
+
+namespace fidaleon::tests {
+
+namespace {
+
+const Row INSTITUCION{
+    {"InstitucionNombre", "San Ginés Mártir"}, {"InstitucionTipo", "Parroquia de"},
+    {"InstitucionDiocesis", "Getafe"},         {"InstitucionPoblacion", "Getafe"},
+    {"InstitucionProvincia", "Madrid"},        {"NotasMarginales", "Confirmada en 2018"},
+};
+
+const Row FIRMADA = INSTITUCION + Row{{"InstitucionEncargado", FIRMA},
+                                      {"FechaSistemaCorta", "03/11/2026"},
+                                      {"FechaSistemaLarga", "tres de noviembre de 2026"}};
+
+const Row SOLICITUD = sin(PARTIDA, {"Libro"}) + INSTITUCION +
+                      Row{{"Folio", "0"}, {"Numero", "---"}, {"InstitucionTipo", "PARROQUIA DE"}};
+
+const Row VOLANTE = Row{{"Libro", "2003/01"},
+                        {"Folio", "12"},
+                        {"Numero", "23a"},
+                        {"PrimerApellidoHijo", "García"},
+                        {"SegundoApellidoHijo", "Pérez"},
+                        {"NombreHijo", "Lucía"},
+                        {"FechaNacCorta", "01/04/2003"},
+                        {"FechaNacLarga", "uno de abril de 2003"},
+                        {"FechaBautismoCorta", "24/05/2003"},
+                        {"FechaBautismoLarga", "veinticuatro de mayo de 2003"},
+                        {"NombrePadre", "Luis"},
+                        {"PrimerApellidoPadre", "García"},
+                        {"SegundoApellidoPadre", "Mora"},
+                        {"NombreMadre", "Ana"},
+                        {"PrimerApellidoMadre", "Pérez"},
+                        {"SegundoApellidoMadre", "Ruiz"},
+                        {"InstitucionDomicilio", "Calle Mayor, 1"},
+                        {"InstitucionCP", "28901"},
+                        {"FechaSisteLargMeno", "vint-i-dos de novembre de 2026"},
+                        {"FechaBauLargaMeno", "vint-i-quatre de maig de 2003"},
+                        {"FechaNacLargaMeno", "u d'abril de 2003"}} +
+                    INSTITUCION + HOY + genero("a la niña", "hija");
+
+const Sacramental BAUTISMAL{
+    "Documentos_Bautismo",
+    {"Bautismo_Hijo", "Bautismo_Padres", "Bautismo_Madres", "Bautismo_Matrimonio", "Bautismo"},
+    "ParroquiaBaut",
+    "Bautismo",
+    {"UPDATE Bautismo SET CodLibro = 0, Folio = 0, Numero = \"---\", InstitucionSolicitud = 1"}};
+
+using I = cInformes;
+
+}  // namespace
+
+std::vector<Golden> bautismos() {
+  const Row nina = genero("a la niña", "nacida");
+  return {
+      {"ImprimirCertificadoPartidaBautismo", &I::ImprimirCertificadoPartidaBautismo, &BAUTISMAL,
+       PARTIDA + FIRMADA + Row{{"Sexo", "Dª."}}},
+      // Keeps the Spanish dates and adds the Catalan ones.
+      {"ImprimirCertificadoPartidaBautismoMenorca", &I::ImprimirCertificadoPartidaBautismoMenorca,
+       &BAUTISMAL,
+       PARTIDA + FIRMADA +
+           Row{{"Sexo", "Dª."},
+               {"FechaNacLargaMeno", "u d'abril de 2003"},
+               {"FechaSisteLargMeno", "tres de novembre de 2026"},
+               {"FechaBauLargaMeno", "vint-i-quatre de maig de 2003"}}},
+      {"ImprimirCertificadoLiteralPartidaBautismo", &I::ImprimirCertificadoLiteralPartidaBautismo,
+       &BAUTISMAL, PARTIDA + FIRMADA + nina},
+      {"ImprimirCertificadoLiteralPartidaBautismoMenorca",
+       &I::ImprimirCertificadoLiteralPartidaBautismoMenorca, &BAUTISMAL,
+       PARTIDA + sin(FIRMADA, {"FechaSistemaLarga"}) + nina +
+           Row{{"FechaSisteLargMeno", "tres de novembre de 2026"},
+               {"FechaNacLargaMeno", "u d'abril de 2003"},
+               {"DiocesisMatrimonio", "Toledo"},
+               {"ProfesionPadrino", "Fuster"},
+               {"NaturalPadrino", "Maó"},
+               {"EstatPadrino", "Casat"},
+               {"ProfesionMadrina", "---"},
+               {"NaturalMadrina", "---"},
+               {"EstatMadrina", "---"},
+               {"MadreProfesion", "---"},
+               {"PadreProfesion", "Maestro"}}},
+      {"ImprimirPartidaBautismo", &I::ImprimirPartidaBautismo, &BAUTISMAL,
+       PARTIDA + nina + Row{{"NotasMarginales", conPuntos("Confirmada en 2018", 291)}}},
+      {"ImprimirPartidaBautismoMenorca", &I::ImprimirPartidaBautismoMenorca, &BAUTISMAL,
+       PARTIDA + FECHAS_CATALANAS + genero("la filleta", "nada") +
+           Row{{"NotasMarginales", "Confirmada en 2018"}}},
+      {"ImprimirVolanteBautismo", &I::ImprimirVolanteBautismo, &BAUTISMAL, VOLANTE, false, false,
+       "SELECT MAX(Folio) AS ID FROM Documentos_Bautismo"},
+      {"ImprimirSolicitudPartidaBautismoDatos", &I::ImprimirSolicitudPartidaBautismoDatos,
+       &BAUTISMAL, SOLICITUD + HOY + genero("La niña", "nacida"), true},
+      {"ImprimirSolicitudPartidaBautismoDatosMenorca",
+       &I::ImprimirSolicitudPartidaBautismoDatosMenorca, &BAUTISMAL,
+       SOLICITUD + HOY + FECHAS_CATALANAS + genero("La filla", "nada") +
+           Row{{"FechaSistemaLarga", "vint-i-dos de novembre de 2026"}},
+       true},
+      {"ImprimirSolicitudPartidaBautismoDatosSantiago",
+       &I::ImprimirSolicitudPartidaBautismoDatosSantiago, &BAUTISMAL,
+       sin(SOLICITUD, {"InstitucionTipo"}) + HOY + genero("La niña", "nacida") +
+           (Row{{"InstitucionNombre", "San Ginés"},
+                {"EdadPadrino", "30"},
+                {"ParroquiaDomicilioPadrino", "San José"},
+                {"EdadMadrina", "---"},
+                {"ParroquiaDomicilioMadrina", "---"},
+                {"PadreParroquiaBaut", "Santa Cruz"},
+                {"PadreProfesion", "Maestro"},
+                {"PadreProvinciaParrBaut", "Sevilla"},
+                {"MadreParroquiaBaut", "San Pedro"},
+                {"MadreProfesion", ""},
+                {"MadreProvinciaParrBaut", "Toledo"},
+                {"AbueloPatParroquiaBaut", "Santa Ana"},
+                {"AbueloPatProvinciaParrBaut", "Toledo"},
+                {"AbuelaPatParroquiaBaut", ""},
+                {"AbuelaPatProvinciaParrBaut", "---"},
+                {"AbueloMatParroquiaBaut", "San Juan"},
+                {"AbueloMatProvinciaParrBaut", "Madrid"},
+                {"AbuelaMatParroquiaBaut", "San Blas"},
+                {"AbuelaMatProvinciaParrBaut", "Sevilla"},
+                {"TelefonoPadres", "916950000"}}),
+       true},
+  };
+}
+
+}  // namespace fidaleon::tests

@@ -1,0 +1,127 @@
+// Rules of single columns: blanks, ages, words of gender, padding.
+
+#include "PartidasWorld.h"
+#include "documents/TextRules.h"
+#include "store/FailingEngine.h"
+
+namespace fidaleon::tests {
+namespace {
+
+constexpr const char* FECHA = "20261103";
+
+TEST(BaptismDocuments, EachPlace_IsAskedForOnce) {
+  BautismoWorld w;
+  const store::FailingEngine* motor = store::FailingEngine::wrap(w.con());
+  w.informes.ImprimirPartidaBautismo(w.con(), w.conInformes(), 1);
+  // Three towns by name and province, and the key 0, which needs no statement.
+  EXPECT_LE(motor->executed().size(), 1u + 2u * 4u);
+}
+
+TEST(BaptismDocuments, EmptyNote_IsDashedInCertificatesEmptyInRequestPaddedInEntry) {
+  BautismoWorld w;
+  w.run("UPDATE Bautismo SET NotasMarginales=NULL");
+  w.informes.ImprimirCertificadoPartidaBautismo(w.con(), w.conInformes(), 1, "", FECHA);
+  EXPECT_EQ(w.columna("NotasMarginales"), "---");
+  w.conInformes().Execute("DELETE * FROM Documentos_Bautismo");
+  w.informes.ImprimirPartidaBautismo(w.con(), w.conInformes(), 1);
+  EXPECT_EQ(w.columna("NotasMarginales").size(), 600u);
+  w.conInformes().Execute("DELETE * FROM Documentos_Bautismo");
+  w.informes.ImprimirVolanteBautismo(w.con(), w.conInformes(), 1);
+  EXPECT_EQ(w.columna("NotasMarginales"), "");
+}
+
+TEST(BaptismDocuments, SexUnknown_CountsAsBoyExceptInVolante) {
+  BautismoWorld w;
+  w.run("UPDATE Bautismo_Hijo SET Sexo=\"---\"");
+  w.informes.ImprimirCertificadoPartidaBautismo(w.con(), w.conInformes(), 1, "", FECHA);
+  EXPECT_EQ(w.columna("Sexo"), "D./Dª");
+  w.conInformes().Execute("DELETE * FROM Documentos_Bautismo");
+  w.informes.ImprimirCertificadoLiteralPartidaBautismo(w.con(), w.conInformes(), 1, "", FECHA);
+  EXPECT_EQ(w.columna("Al niño/A la niña"), "al niño");
+  EXPECT_EQ(w.columna("Nacido/Nacida"), "nacido");
+  w.conInformes().Execute("DELETE * FROM Documentos_Bautismo");
+  w.informes.ImprimirVolanteBautismo(w.con(), w.conInformes(), 1);
+  EXPECT_EQ(w.columna("Al niño/A la niña"), "a la niña");
+  EXPECT_EQ(w.columna("Nacido/Nacida"), "hija");
+}
+
+TEST(BaptismDocuments, EmptyHour_IsDashedInTheEntryOnly) {
+  BautismoWorld w;
+  w.run("UPDATE Bautismo_Hijo SET HoraNac=\"\"");
+  w.informes.ImprimirPartidaBautismo(w.con(), w.conInformes(), 1);
+  EXPECT_EQ(w.columna("HoraNac"), "---");
+  w.conInformes().Execute("DELETE * FROM Documentos_Bautismo");
+  w.informes.ImprimirCertificadoLiteralPartidaBautismo(w.con(), w.conInformes(), 1, "", FECHA);
+  EXPECT_EQ(w.columna("HoraNac"), "");
+}
+
+TEST(BaptismDocuments, TownWithoutName_IsDashed_LeadingBlanksStay) {
+  BautismoWorld w;
+  w.run("UPDATE Municipio SET Nombre=\"\" WHERE IDMunicipio=" + std::to_string(w.getafe));
+  w.run("UPDATE Municipio SET Nombre=\"  Toledo\" WHERE IDMunicipio=" + std::to_string(w.toledo));
+  w.informes.ImprimirPartidaBautismo(w.con(), w.conInformes(), 1);
+  EXPECT_EQ(w.columna("PoblacionBaut"), "---");
+  EXPECT_EQ(w.columna("ProvinciaBaut"), "Madrid");
+  EXPECT_EQ(w.columna("PoblacionNac"), "  Toledo");
+}
+
+TEST(BaptismDocuments, BlankKeeperAndDate_AreWrittenAsTheyCome) {
+  BautismoWorld w;
+  w.informes.ImprimirCertificadoPartidaBautismo(w.con(), w.conInformes(), 1, "", "");
+  const Row fila = w.fila();
+  EXPECT_EQ(fila.at("InstitucionEncargado"), "");
+  EXPECT_EQ(fila.at("FechaSistemaCorta"), "//");
+  EXPECT_EQ(fila.at("FechaSistemaLarga"), "");
+}
+
+TEST(ConfirmationDocuments, AgeWithoutABirth_IsDashed_FolioOfAnUnknownBaptismIsStored) {
+  PartidasWorld w;
+  w.run("UPDATE Confirmacion SET FechaNac=\"---\"");
+  w.run("UPDATE Confirmacion_Bautismo SET FolioBaut=0");
+  w.informes.ImprimirNotificacionConfirmacion(w.con(), w.conInformes(), 1);
+  w.informes.ImprimirCertificadoPartidaConfirmacion(w.con(), w.conInformes(), 1, "", FECHA);
+  store::Recordset rs = w.conInformes().Execute("SELECT * FROM Documentos_Confirmacion");
+  for (; !rs.EOF_(); rs.MoveNext()) EXPECT_EQ(rs.text("Edad") + rs.text("FolioBaut"), "---0");
+}
+
+TEST(DeathDocuments, KeeperCancelled_TheEntryPrintsWithTodaysDate_EmptyHourIsDashed) {
+  PartidasWorld w;
+  w.run("UPDATE Defuncion_Datos SET HoraDefuncion=\"\"");
+  w.user.expectForm("frmEncargado", [](forms::FormDriver& u) {
+    u.type("adtpFecha", "03/11/2026");
+    u.escape();
+  });
+  w.informes.ImprimirPartidaDefuncion(w.con(), w.conInformes(), 1);
+  const Row fila = w.fila("Documentos_Defuncion");
+  EXPECT_EQ(fila.at("FechaSistemaLarga"), "veintidós de noviembre de 2026");
+  EXPECT_EQ(fila.at("HoraDefuncion"), "---");
+  EXPECT_SCRIPT_DONE(w.user);
+}
+
+TEST(TextRules, PaddedNotes_ReachAtLeast600Characters) {
+  using documents::paddedNotes;
+  EXPECT_EQ(paddedNotes(std::string(599, 'x')), std::string(599, 'x') + " .");
+  EXPECT_EQ(paddedNotes(std::string(600, 'x')), std::string(600, 'x'));
+  EXPECT_EQ(paddedNotes(std::string(598, 'x')), std::string(598, 'x') + " .");
+  std::string accented;
+  for (int i = 0; i < 599; ++i) accented += "ñ";
+  EXPECT_EQ(paddedNotes(accented), accented + " .");
+}
+
+TEST(TextRules, ValorImprimible_DashesForNullAndBlanksOnly) {
+  using documents::ValorImprimible;
+  EXPECT_EQ(ValorImprimible(store::Value()), "---");
+  EXPECT_EQ(ValorImprimible(std::string("   ")), "---");
+  EXPECT_EQ(ValorImprimible(std::string(" x ")), " x ");
+  EXPECT_EQ(ValorImprimible(store::Value(std::int64_t{0})), "0");
+}
+
+TEST(TextRules, GenderTest_IsExact) {
+  EXPECT_STREQ(documents::WORDS_ENTRY.child("hombre"), "a la niña");
+  EXPECT_STREQ(documents::WORDS_ENTRY.child(""), "a la niña");
+  EXPECT_STREQ(documents::formOfAddress("Hombre"), "D.");
+  EXPECT_STREQ(documents::formOfAddress("mujer"), "D./Dª");
+}
+
+}  // namespace
+}  // namespace fidaleon::tests

@@ -1,0 +1,130 @@
+// Every document of the entries against its golden row, and what all members do beside the row.
+
+#include "GoldenRows.h"
+#include "documents/Miembros.h"
+#include "store/FailingEngine.h"
+
+namespace fidaleon::tests {
+
+namespace {
+
+std::vector<Golden> todos() {
+  std::vector<Golden> all;
+  for (const auto& suyos : {bautismos(), confirmaciones(), defunciones()})
+    all.insert(all.end(), suyos.begin(), suyos.end());
+  return all;
+}
+
+class Documents : public ::testing::TestWithParam<Golden> {
+ protected:
+  Documents() {
+    if (GetParam().solicitud)
+      for (const char* sql : GetParam().sacramento->solicitud) w.run(sql);
+  }
+  void imprimir() { GetParam().ejecutar(w); }
+  std::int64_t filas() { return w.filas(GetParam().sacramento->tabla); }
+
+  PartidasWorld w;
+};
+
+TEST_P(Documents, Entry_FillsItsColumnsAndNoOther) {
+  imprimir();
+  EXPECT_EQ(w.fila(GetParam().sacramento->tabla), GetParam().fila);
+  EXPECT_SCRIPT_DONE(w.user);
+}
+
+TEST_P(Documents, StatementsOnTheReports_AreTheRowAndItsReadingBackInOneTransaction) {
+  const store::FailingEngine* motor = store::FailingEngine::wrap(w.conInformes());
+  imprimir();
+  std::vector<std::string> pasos = motor->executed();
+  ASSERT_GE(pasos.size(), 3u);
+  pasos[1] = pasos[1].substr(0, 11);
+  std::vector<std::string> esperados{"BEGIN", "INSERT INTO"};
+  if (GetParam().lectura) esperados.emplace_back(GetParam().lectura);
+  esperados.emplace_back("COMMIT");
+  EXPECT_EQ(pasos, esperados);
+}
+
+TEST_P(Documents, DependentRowMissing_NoRowAndNoMessage) {
+  const Sacramental& s = *GetParam().sacramento;
+  for (const char* tabla : s.dependientes) {
+    if (GetParam().solicitud && std::string(tabla).starts_with("Libro_")) continue;
+    PartidasWorld otra;
+    if (GetParam().solicitud)
+      for (const char* sql : s.solicitud) otra.run(sql);
+    otra.run(std::string("DELETE * FROM ") + tabla);
+    GetParam().ejecutar(otra);
+    EXPECT_EQ(otra.filas(s.tabla), 0) << tabla;
+    EXPECT_FALSE(otra.conInformes().inTransaction());
+    EXPECT_SCRIPT_DONE(otra.user);
+  }
+}
+
+TEST_P(Documents, CalledTwice_LeavesTwoRows) {
+  imprimir();
+  imprimir();
+  EXPECT_EQ(filas(), 2);
+}
+
+TEST_P(Documents, QuotesAndScriptsOfAnyKind_ArriveAsTheyAreStored) {
+  const Sacramental& s = *GetParam().sacramento;
+  w.run(std::string("UPDATE ") + s.conNotas +
+        " SET Parroquia='Łucja \"Luz\" 李 d''Ors', NotasMarginales='Por \"Luz\" O''Hara'");
+  imprimir();
+  const Row fila = w.fila(s.tabla);
+  if (fila.contains(s.parroquia)) {
+    EXPECT_EQ(fila.at(s.parroquia), "Łucja \"Luz\" 李 d'Ors");
+  }
+  if (fila.contains("NotasMarginales")) {
+    EXPECT_THAT(fila.at("NotasMarginales"), ::testing::StartsWith("Por \"Luz\" O'Hara"));
+  }
+  EXPECT_SCRIPT_DONE(w.user);
+}
+
+TEST_P(Documents, AStepOnTheReportsFails_RollsBackAndNamesTheMember) {
+  const std::string insercion = std::string("INSERT INTO ") + GetParam().sacramento->tabla;
+  for (const std::string& paso : {std::string("BEGIN"), insercion, std::string("COMMIT")}) {
+    PartidasWorld otra;
+    if (GetParam().solicitud)
+      for (const char* sql : GetParam().sacramento->solicitud) otra.run(sql);
+    store::FailingEngine::wrap(otra.conInformes())->failOn(paso, store::ErrorKind::DiskFull);
+    otra.user.answerAnything(forms::Answer::Ok);
+    GetParam().ejecutar(otra);
+    EXPECT_EQ(otra.filas(GetParam().sacramento->tabla), 0) << paso;
+    EXPECT_FALSE(otra.conInformes().inTransaction()) << paso;
+    ASSERT_EQ(otra.user.messages().size(), 1u) << paso;
+    EXPECT_THAT(otra.user.messages()[0].text,
+                ::testing::HasSubstr(std::string("FidaleonNucleo / cInformes / ") +
+                                     GetParam().miembro + ")"));
+    EXPECT_SCRIPT_DONE(otra.user);
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Entries, Documents, ::testing::ValuesIn(todos()),
+                         [](const auto& caso) { return std::string(caso.param.miembro); });
+
+TEST(DocumentsTable, EveryMemberOfAnEntry_HasAGoldenRow) {
+  std::vector<std::string> probados;
+  for (const Golden& golden : todos()) probados.emplace_back(golden.miembro);
+  std::vector<std::string> escritos;
+  for (const documents::Miembro& miembro : documents::miembros())
+    if (!miembro.check) escritos.emplace_back(miembro.kind.member);
+  EXPECT_THAT(probados, ::testing::UnorderedElementsAreArray(escritos));
+}
+
+}  // namespace
+
+void Golden::ejecutar(PartidasWorld& w) const {
+  if (preguntaFecha)
+    w.user.expectForm("frmEncargado", [](forms::FormDriver& u) {
+      u.choose("cboEncargado", FIRMA);
+      u.type("adtpFecha", "03/11/2026");
+      u.click("cmdBoton(0)");
+    });
+  if (const auto* firmado = std::get_if<Firmado>(&imprimir))
+    (w.informes.**firmado)(w.con(), w.conInformes(), 1, FIRMA, "20261103");
+  else
+    (w.informes.*std::get<SinFirma>(imprimir))(w.con(), w.conInformes(), 1);
+}
+
+}  // namespace fidaleon::tests

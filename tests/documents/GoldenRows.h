@@ -1,0 +1,57 @@
+#pragma once
+// What each member of cInformes must write of the entries in PartidasWorld: every column by its
+// value; a column that is not named must hold Null.
+
+#include <ostream>
+#include <variant>
+#include <vector>
+
+#include "PartidasWorld.h"
+
+namespace fidaleon::tests {
+
+using Firmado = void (cInformes::*)(FDAPI::Conexion&, FDAPI::Conexion&, std::int32_t,
+                                    const std::string&, const std::string&);
+using SinFirma = void (cInformes::*)(FDAPI::Conexion&, FDAPI::Conexion&, std::int32_t);
+
+inline constexpr const char* FIRMA = "Pedro Ruiz";
+
+/// What the entries of a sacrament are made of.
+struct Sacramental {
+  const char* tabla;  // of its documents
+  std::vector<const char*> dependientes;
+  const char* parroquia;               // column of its parish
+  const char* conNotas;                // table of the marginal notes
+  std::vector<const char*> solicitud;  // makes a request of the entry
+};
+
+struct Golden {
+  const char* miembro;
+  std::variant<Firmado, SinFirma> imprimir;
+  const Sacramental* sacramento;
+  Row fila;
+  bool solicitud = false;
+  bool preguntaFecha = false;     // asks for keeper and date, and is told 3 November
+  const char* lectura = nullptr;  // the statement behind the row
+
+  void ejecutar(PartidasWorld& w) const;
+};
+
+/// A note with its dotted line.
+inline std::string conPuntos(std::string nota, int veces) {
+  for (int i = 0; i < veces; ++i) nota += " .";
+  return nota;
+}
+
+inline const Row HOY{{"FechaSistemaCorta", "22/11/2026"},
+                     {"FechaSistemaLarga", "veintidós de noviembre de 2026"}};
+
+inline void PrintTo(const Golden& golden, std::ostream* out) {
+  *out << golden.miembro;
+}
+
+std::vector<Golden> bautismos();
+std::vector<Golden> confirmaciones();
+std::vector<Golden> defunciones();
+
+}  // namespace fidaleon::tests
