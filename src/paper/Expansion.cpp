@@ -2,6 +2,7 @@
 
 #include <QDate>
 #include <QLocale>
+#include <QRegularExpression>
 #include <algorithm>
 
 #include "paper/Error.h"
@@ -48,6 +49,13 @@ QString withApostrophes(QString text, const QString& language) {
     if (text[i] == QLatin1Char('\'') && text[i - 1].isLetter() && text[i + 1].isLetter())
       text[i] = QChar(0x2019);
   return text;
+}
+
+/// What is not known within a value: a person of whom the surname alone is.
+QString withStrokes(const QString& text) {
+  if (!text.contains(QLatin1String("---"))) return text;
+  static const QRegularExpression unknown(QStringLiteral("(?<!\\S)---(?!\\S)"));
+  return QString(text).replace(unknown, QStringLiteral("———"));
 }
 
 class Expander {
@@ -114,7 +122,7 @@ class Expander {
     out_.anyValue = out_.anyValue || known;
     const ReportTemplate& t = source_.binding->layout();
     const QString shown =
-        known ? withApostrophes(filtered(value, item.filters, t.language), t.language)
+        known ? withApostrophes(withStrokes(filtered(value, item.filters, t.language)), t.language)
               : item.otherwise;
     if (!shown.isEmpty()) append(joined(shown, t), face);
   }
