@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <string>
+#include <type_traits>
 #include <vector>
 
 #include "core/lists/ParProvinciaPoblacion.h"
@@ -30,15 +31,45 @@ struct Enlaces {
   /// Shows the record; a list that does not have the text shows none. `cero` is what a number of 0
   /// is shown as.
   void mostrar(const Registro& r, const char* cero = "") const {
-    for (const auto& [campo, miembro] : textos) campo->setText(r.*miembro);
-    for (const auto& [campo, miembro] : numeros)
-      campo->setText(r.*miembro == 0 ? cero : std::to_string(r.*miembro));
-    for (const auto& [campo, miembro] : fechas) campo->setStored(r.*miembro);
-    for (const auto& [campo, miembro] : horas) campo->setStored(r.*miembro);
-    for (const auto& [par, miembro] : municipios) par->poner(r.*miembro);
-    for (const auto& [lista, miembro] : listas) {
+    mostrarSi(r, cero, [](const auto&) { return true; });
+  }
+  /// Shows what `llenar` puts into a record and leaves the other fields as they are.
+  template <class Llenar>
+  void mostrarLoQue(Llenar&& llenar) const {
+    Registro r;
+    const std::string intacto(1, '\0');
+    for (const auto& e : textos) r.*e.miembro = intacto;
+    for (const auto& e : fechas) r.*e.miembro = intacto;
+    for (const auto& e : horas) r.*e.miembro = intacto;
+    for (const auto& e : listas) r.*e.miembro = intacto;
+    for (const auto& e : numeros) r.*e.miembro = -1;
+    for (const auto& e : municipios) r.*e.miembro = -1;
+    llenar(r);
+    mostrarSi(r, "", [&](const auto& valor) {
+      if constexpr (std::is_same_v<decltype(valor), const std::string&>)
+        return valor != intacto;
+      else
+        return valor != -1;
+    });
+  }
+
+ private:
+  template <class Cual>
+  void mostrarSi(const Registro& r, const char* cero, Cual&& cual) const {
+    for (const auto& [campo, m] : textos)
+      if (cual(r.*m)) campo->setText(r.*m);
+    for (const auto& [campo, m] : numeros)
+      if (cual(r.*m)) campo->setText(r.*m == 0 ? cero : std::to_string(r.*m));
+    for (const auto& [campo, m] : fechas)
+      if (cual(r.*m)) campo->setStored(r.*m);
+    for (const auto& [campo, m] : horas)
+      if (cual(r.*m)) campo->setStored(r.*m);
+    for (const auto& [par, m] : municipios)
+      if (cual(r.*m)) par->poner(r.*m);
+    for (const auto& [lista, m] : listas) {
+      if (!cual(r.*m)) continue;
       lista->setListIndex(-1);
-      lista->selectText(r.*miembro);
+      lista->selectText(r.*m);
     }
   }
 };

@@ -44,11 +44,12 @@ const V BAUTISMOS{
     .notasEnNueva = true,
     .fechaDelLibro = V::FechaDelLibro::Adelanta,
     .dondeRepetida = V::DondeRepetida::EnTodas,
+    .procBuscar = "BuscarPadres",
     .fijaInstitucionDeSolicitud = false,
     .cargaIncompleta =
         "¡A esta partida le falta alguna de sus fichas (bautizado, padre, madre o "
         "matrimonio)! Se puede consultar, pero no modificar.",
-    .cargaFallida = nullptr};
+    .avisaCargaFallida = false};
 
 }  // namespace
 
@@ -71,7 +72,7 @@ frmPartidaBautismo::frmPartidaBautismo(Contexto& contexto)
   revision().enEsteOrden(adtpPartida[FechaNac], adtpPartida[FechaBautismo]);
   for (forms::TextBox* parroquia :
        {&txtSC[PadreParroquia], &txtPartida[ParroquiaMatrimonio], &txtPartida[ParroquiaBautismo]})
-    parroquia->onGotFocus = [this] { buscarPersona(0); };
+    parroquia->onGotFocus = [this] { BuscarDatos(0); };
   disponer(paginas());
 }
 

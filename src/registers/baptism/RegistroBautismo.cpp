@@ -5,6 +5,7 @@
 #include "registers/baptism/TablasBautismo.h"
 #include "registers/baptism/frmPartidaBautismo.h"
 #include "registers/cBaseDatos.h"
+#include "registers/lookup/Importacion.h"
 
 namespace fidaleon {
 
@@ -60,6 +61,14 @@ void frmPartidaBautismo::completarEdicion(cBautismo& b) const {
   b.CodPadres = static_cast<std::int32_t>(enlaces.integer("codpadres"));
   b.CodMadres = static_cast<std::int32_t>(enlaces.integer("codmadres"));
   b.CodMatrimonio = static_cast<std::int32_t>(enlaces.integer("codmatrimonio"));
+}
+
+void frmPartidaBautismo::importar(std::size_t, const frmBuscaPadres& de) {
+  enlaces_.mostrarLoQue([&](cBautismo& b) { copiarFamilia(de.importado, b); });
+  if (!esAlta()) return;
+  registro_.IDMadres = de.importado.IDMadres;
+  registro_.IDPadres = de.importado.IDPadres;
+  registro_.IDMatrimonio = de.importado.IDMatrimonio;
 }
 
 bool frmPartidaBautismo::almacenar(ColeccionBautismo& coleccion) {

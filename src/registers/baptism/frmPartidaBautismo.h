@@ -135,8 +135,8 @@ class frmPartidaBautismo : public frmPartidaDe<cBautismo> {
   bool retirar(ColeccionBautismo& coleccion) override;
 
   // Family from earlier entries
-  void buscar(std::size_t persona, const std::string& primero, const std::string& segundo) override;
-  void CargarColeccionDatosImportar(const cBautismo& importado);
+  void importar(std::size_t persona, const frmBuscaPadres& de) override;
+  std::int32_t bautismoPropio() const override { return registro_.IDBautismo; }
 };
 
 }  // namespace fidaleon

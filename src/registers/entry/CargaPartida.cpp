@@ -31,7 +31,7 @@ bool frmPartida::esAlta() const {
 void frmPartida::Form_Load() {
   // Half-loaded fields must never be accepted over what is stored.
   if (!procedimiento("Form_Load", [this] { cargar(); })) {
-    if (variante_.cargaFallida) forms::warn(ui(), variante_.cargaFallida);
+    if (variante_.avisaCargaFallida) forms::warn(ui(), variante_.cargaIncompleta);
     return Unload();
   }
   cargando_ = false;
@@ -89,7 +89,7 @@ void frmPartida::mostrarModo() {
 void frmPartida::limpiarCampos(bool quedaLaSerie) {
   const auto queda = [&](const forms::Control& c) { return quedaLaSerie && serie_.contains(&c); };
   vaciarRegistro();
-  for (Persona& persona : personas_) persona.buscados.clear();
+  for (Persona& persona : personas_) persona.busqueda.empezar();
   for (forms::TextBox* campo : textos_)
     if (!queda(*campo)) campo->setText("");
   for (ParProvinciaPoblacion& par : pares_)
@@ -173,7 +173,7 @@ void frmPartida::mostrarLeida() {
   const DatosPartida leidos = datos();
   txtLibro[FOLIO].setText(leidos.folio);
   txtLibro[NUMERO].setText(leidos.numero);
-  for (Persona& persona : personas_) persona.buscados = {persona.apellidos()};
+  for (Persona& persona : personas_) persona.busqueda.empezarConElPar();
 }
 
 void frmPartida::mostrarAnulada() {

@@ -31,9 +31,9 @@ bool frmPartida::ComprobarDatosBaseDatos() {
 std::string frmPartida::quienes() const {
   std::string nombres;
   for (const Persona& p : personas_) {
-    const auto [primero, segundo] = p.apellidos();
-    nombres += (nombres.empty() ? "" : " y de ") + nombreGuardado(p.nombre->text()) + " " +
-               primero + " " + segundo;
+    nombres += nombres.empty() ? "" : " y de";
+    for (const forms::TextBox* campo : {p.nombre, p.primero, p.segundo})
+      nombres += (nombres.empty() ? "" : " ") + nombreGuardado(campo->text());
   }
   return nombres;
 }
@@ -58,15 +58,6 @@ std::string frmPartida::librosDondeRepetida() const {
                              : antiguo     ? "nuevo=false AND fechacreacion<=" + fechaDeEsteLibro()
                                            : "nuevo=true";
   return condicionDeLibros(conBaseDatos->Execute(clave + cuales + suya));
-}
-
-std::string frmPartida::librosDeBautismoHastaEste() const {
-  std::string libros;
-  if (!esSolicitud())
-    libros = condicionDeLibros(conBaseDatos->Execute(
-        "SELECT idlibrobautismo FROM Libro_Bautismo WHERE fechacreacion<=" + fechaDeEsteLibro() +
-        " ORDER BY fechacreacion DESC"));
-  return libros.empty() ? " AND codLibro <> 0" : " AND (" + libros + ")";
 }
 
 }  // namespace fidaleon

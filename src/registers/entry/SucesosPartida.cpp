@@ -1,7 +1,6 @@
 // What the controls of an entry dialog set off.
 
 #include "registers/books/frmAltaLibro.h"
-#include "registers/common/Guiones.h"
 #include "registers/entry/frmPartida.h"
 #include "text/Utf8.h"
 
@@ -103,31 +102,34 @@ void frmPartida::txtLibro_LostFocus(CampoLibro indice, const forms::Control* sig
   if (libro().listIndex() >= 0) setFocus(txtLibro[indice]);
 }
 
-std::pair<std::string, std::string> frmPartida::Persona::apellidos() const {
-  return {nombreGuardado(primero->text()), nombreGuardado(segundo->text())};
-}
-
 void frmPartida::persona(int nombre, int primerApellido, int segundoApellido) {
-  personas_.push_back(
-      {&txtPartida[nombre], &txtPartida[primerApellido], &txtPartida[segundoApellido], {}});
+  forms::TextBox& primero = txtPartida[primerApellido];
+  forms::TextBox& segundo = txtPartida[segundoApellido];
+  personas_.push_back({&txtPartida[nombre], &primero, &segundo, {sacramento(), primero, segundo}});
   const std::size_t cual = personas_.size() - 1;
-  for (const int apellido : {primerApellido, segundoApellido})
-    txtPartida[apellido].onLostFocus = [this, cual](forms::Control* siguiente) {
-      apellidos_LostFocus(cual, siguiente);
+  for (forms::TextBox* apellido : {&primero, &segundo})
+    apellido->onLostFocus = [this, cual](forms::Control* siguiente) {
+      if (siguiente != &cmdPartida[CANCELAR] && personas_[cual].busqueda.sale(siguiente))
+        BuscarDatos(cual);
     };
 }
 
-void frmPartida::apellidos_LostFocus(std::size_t cual, const forms::Control* siguiente) {
-  const Persona& p = personas_[cual];
-  if (siguiente == p.primero || siguiente == p.segundo || siguiente == &cmdPartida[CANCELAR])
-    return;
-  buscarPersona(cual);
-}
-
-void frmPartida::buscarPersona(std::size_t cual) {
-  Persona& p = personas_[cual];
-  const auto par = p.apellidos();
-  if (par.first != GUIONES && p.buscados.insert(par).second) buscar(cual, par.first, par.second);
+void frmPartida::BuscarDatos(std::size_t cual) {
+  BusquedaPorApellidos& apellidos = personas_[cual].busqueda;
+  if (!apellidos.toca()) return;
+  frmBuscaPadres busqueda(contexto_);
+  procedimiento(variante_.procBuscar, [&] {
+    busqueda.filas = apellidos.buscar(*conBaseDatos, institucion(), libro(), esSolicitud());
+    std::erase_if(busqueda.filas,
+                  [&](const FilaBusqueda& f) { return f.IDBautismo == bautismoPropio(); });
+  });
+  if (busqueda.filas.empty()) return;
+  busqueda.conBaseDatos = conBaseDatos;
+  busqueda.Origen = origenLista(sacramento());
+  busqueda.strApellidos = apellidos.apellidos();
+  busqueda.Show();
+  if (busqueda.blnAceptado)
+    procedimiento("CargarColeccionDatosImportar", [&] { importar(cual, busqueda); });
 }
 
 void frmPartida::altaLibro() {

@@ -54,11 +54,12 @@ struct VariantePartida {
   enum class DondeRepetida { EnTodas, EnSuInstitucion };
   DondeRepetida dondeRepetida;
 
+  const char* procBuscar;  // under which an error in the look-up is reported
+
   bool fijaInstitucionDeSolicitud;  // of a request being corrected
   /// Shown when rows of the entry are missing.
   const char* cargaIncompleta;
-  /// Shown when it could not be read; null when the report of the error is enough.
-  const char* cargaFallida;
+  bool avisaCargaFallida;  // the same when it could not be read at all
 };
 
 }  // namespace fidaleon

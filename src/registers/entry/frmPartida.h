@@ -6,7 +6,6 @@
 #include <optional>
 #include <set>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "core/dialogs/Dialogo.h"
@@ -18,6 +17,7 @@
 #include "registers/common/RevisionFechas.h"
 #include "registers/entry/DatosPartida.h"
 #include "registers/entry/VariantePartida.h"
+#include "registers/lookup/frmBuscaPadres.h"
 
 namespace fidaleon {
 
@@ -111,10 +111,7 @@ class frmPartida : public Dialogo {
   bool esAlta() const;
   bool desdeLista() const { return Origen == origenLista(sacramento()); }
   /// Looks for a person unless this pair of surnames has been looked for.
-  void buscarPersona(std::size_t persona);
-  /// " AND (codlibro=1 OR codlibro=2)" with the books of baptism that are no newer than the book of
-  /// this entry; without any, all that are no requests.
-  std::string librosDeBautismoHastaEste() const;
+  void BuscarDatos(std::size_t persona);
 
   // The record, done by frmPartidaDe.
   virtual void vaciarRegistro() = 0;
@@ -131,9 +128,10 @@ class frmPartida : public Dialogo {
   virtual bool retirarAMedias() = 0;
 
   // The sacrament's own.
-  /// Looks in the books for a person, by its place among those named; surnames as they are stored.
-  virtual void buscar(std::size_t persona, const std::string& primero,
-                      const std::string& segundo) = 0;
+  /// Takes over what the look-up of a person, by its place among those named, has brought.
+  virtual void importar(std::size_t persona, const frmBuscaPadres& de) = 0;
+  /// The baptism that this entry is itself, 0 in other registers: the look-up does not find it.
+  virtual std::int32_t bautismoPropio() const { return 0; }
   /// Another institution was chosen for a new entry, or the next one of a series begins.
   virtual void preestablecer() {}
 
@@ -151,9 +149,7 @@ class frmPartida : public Dialogo {
     forms::TextBox* nombre;
     forms::TextBox* primero;
     forms::TextBox* segundo;
-    /// Pairs that have been looked for, or that the entry was read with.
-    std::set<std::pair<std::string, std::string>> buscados;
-    std::pair<std::string, std::string> apellidos() const;
+    BusquedaPorApellidos busqueda;
   };
 
   // Layout and opening
@@ -193,7 +189,6 @@ class frmPartida : public Dialogo {
   bool mst_MouseDown();
   void mst_Click();
   void txtLibro_LostFocus(CampoLibro indice, const forms::Control* siguiente);
-  void apellidos_LostFocus(std::size_t persona, const forms::Control* siguiente);
   void altaLibro();
   using AltaEnCatalogo = void (FDAPI::cFidaleon::*)(bool&, FDAPI::Conexion&, const FDAPI::cConfig&);
   void altaMunicipio(AltaEnCatalogo alta);

@@ -113,6 +113,13 @@ class frmPartidaDe : public frmPartida {
     });
   }
 
+  /// The baptism of a person, as the columns that this register takes from it.
+  template <std::size_t PERSONAS>
+  void importarBautizado(std::span<const ParImportado<Registro, PERSONAS>> pares,
+                         const Bautizado& de, std::size_t persona = 0) {
+    enlaces_.mostrarLoQue([&](Registro& r) { fidaleon::importar(pares, de, r, persona); });
+  }
+
   /// The entry as it was read; for a new one, what a look-up brought.
   Registro registro_;
   Enlaces<Registro> enlaces_;
