@@ -1,57 +1,144 @@
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 
 #include "core/contract/Contexto.h"
-#include "registers/baptism/cBautismo.h"
+#include "registers/baptism/AlmacenBautismo.h"
+#include "registers/confirmation/AlmacenConfirmacion.h"
+#include "registers/death/AlmacenDefuncion.h"
 
 namespace fidaleon {
 
-/// Carries records to and from the tables of the registers. Each operation reports its own errors
-/// to the user and tells by its answer whether it ran through. The caller holds the locks: new keys
-/// are read back as the highest ones, which is safe with a single writer only.
+/// Carries records to and from the tables of the registers, each sacrament under names of its own:
+/// what they do and promise is told by Almacen.
 class cBaseDatos {
  public:
   explicit cBaseDatos(Contexto& contexto) : contexto_(contexto) {}
 
+  /// Takes back what a failed storing left without all its rows.
+  bool RetirarAMedias(FDAPI::Conexion& con, ColeccionBautismo& colPartidas) {
+    return bautismos(con).retirarAMedias(colPartidas);
+  }
+  bool RetirarAMedias(FDAPI::Conexion& con, ColeccionConfirmacion& colPartidas) {
+    return confirmaciones(con).retirarAMedias(colPartidas);
+  }
+  bool RetirarAMedias(FDAPI::Conexion& con, ColeccionDefuncion& colPartidas) {
+    return defunciones(con).retirarAMedias(colPartidas);
+  }
+
   // Baptism
 
-  /// The entries of a book in the order of their positions, each with its first columns only.
-  bool GrabarBasedatosColeccion(FDAPI::Conexion& conBaseDatos, std::int32_t lngLibro,
-                                ColeccionBautismo& result);
-  /// Does to the tables what each item says, each in one transaction. An item that went through is
-  /// marked as done, so that a second call after a failure stores nothing twice. `blnSalto`: an old
-  /// book's next free position is not the one after its last.
-  bool GrabarColeccionBasesDatos(FDAPI::Conexion& conBaseDatos, ColeccionBautismo& colPartidas,
-                                 bool& blnSalto);
-  /// Deletes the items that reached the tables without their child and were not stored since.
-  bool RetirarAMedias(FDAPI::Conexion& conBaseDatos, ColeccionBautismo& colPartidas);
-  /// Inserts father, mother, marriage, entry and child; the record takes the new keys. A record
-  /// that has its key already, since a former try got as far as that, gets its rows updated and its
-  /// child inserted: tried again, nothing is stored twice.
-  bool AltaPartidaBautismo(FDAPI::Conexion& conBaseDatos, cBautismo& record);
-  /// Writes entry and child, and of the shared rows those whose flag is set.
-  bool ActualizarPartidaBautismo(FDAPI::Conexion& conBaseDatos, const cBautismo& record);
-  /// Deletes the entry and its child, and those parent rows that no other entry uses.
-  bool BorrarPartidaBautismo(FDAPI::Conexion& conBaseDatos, std::int32_t lngID);
-  /// Sets the counters of the entry's old book anew.
-  bool ActualizacionFormatoBautismo(FDAPI::Conexion& conBaseDatos, const cBautismo& record,
-                                    bool& blnSalto);
-  /// Fills the item at `pos` (from 0) with all columns of entry `lngID`; false when it is gone.
-  bool ActualizarColeccion(FDAPI::Conexion& conBaseDatos, std::int32_t lngID,
-                           ColeccionBautismo& colPartidas, std::size_t pos);
-  bool AnularDesanularPar(FDAPI::Conexion& conBaseDatos, std::int32_t lngID);
+  bool GrabarBasedatosColeccion(FDAPI::Conexion& con, std::int32_t lngLibro,
+                                ColeccionBautismo& result) {
+    return bautismos(con).cargar(lngLibro, result);
+  }
+  bool GrabarColeccionBasesDatos(FDAPI::Conexion& con, ColeccionBautismo& colPartidas,
+                                 bool& blnSalto) {
+    return bautismos(con).grabar(colPartidas, blnSalto);
+  }
+  bool AltaPartidaBautismo(FDAPI::Conexion& con, cBautismo& record) {
+    return bautismos(con).alta(record);
+  }
+  bool ActualizarPartidaBautismo(FDAPI::Conexion& con, const cBautismo& record) {
+    return bautismos(con).actualizar(record);
+  }
+  bool BorrarPartidaBautismo(FDAPI::Conexion& con, std::int32_t lngID) {
+    return bautismos(con).borrar(lngID);
+  }
+  bool ActualizacionFormatoBautismo(FDAPI::Conexion& con, const cBautismo& record, bool& blnSalto) {
+    return bautismos(con).formato(record, blnSalto);
+  }
+  /// Fills the item at `pos`, from 0.
+  bool ActualizarColeccion(FDAPI::Conexion& con, std::int32_t lngID, ColeccionBautismo& colPartidas,
+                           std::size_t pos) {
+    return bautismos(con).completar(0, lngID, colPartidas.at(pos));
+  }
+  bool AnularDesanularPar(FDAPI::Conexion& con, std::int32_t lngID) {
+    return bautismos(con).anular(lngID);
+  }
+
+  // Confirmation
+
+  bool GrabarBasedatosColeccionConfirmacion(FDAPI::Conexion& con, std::int32_t lngLibro,
+                                            ColeccionConfirmacion& result) {
+    return confirmaciones(con).cargar(lngLibro, result);
+  }
+  bool GrabarColeccionBaseDatosConfirmacion(FDAPI::Conexion& con,
+                                            ColeccionConfirmacion& colPartidas, bool& blnSalto) {
+    return confirmaciones(con).grabar(colPartidas, blnSalto);
+  }
+  bool AltaPartidaConfirmacion(FDAPI::Conexion& con, cConfirmacion& record) {
+    return confirmaciones(con).alta(record);
+  }
+  bool ActualizarPartidaConfirmacion(FDAPI::Conexion& con, const cConfirmacion& record) {
+    return confirmaciones(con).actualizar(record);
+  }
+  bool BorrarPartidaConfirmacion(FDAPI::Conexion& con, std::int32_t lngID) {
+    return confirmaciones(con).borrar(lngID);
+  }
+  bool ActualizacionFormatoConfirmacion(FDAPI::Conexion& con, const cConfirmacion& record,
+                                        bool& blnSalto) {
+    return confirmaciones(con).formato(record, blnSalto);
+  }
+  /// Fills the item that has this key.
+  bool ActualizarColeccionConfirmacion(FDAPI::Conexion& con, std::int32_t lngID,
+                                       ColeccionConfirmacion& colPartidas, std::int32_t lngLibro) {
+    return completarItem(confirmaciones(con), lngLibro, lngID, colPartidas,
+                         &cConfirmacion::IDConfirmacion);
+  }
+  bool AnularDesanularPartidaConfirmacion(FDAPI::Conexion& con, std::int32_t lngID) {
+    return confirmaciones(con).anular(lngID);
+  }
+
+  // Death
+
+  bool GrabarBasedatosColeccionDefuncion(FDAPI::Conexion& con, std::int32_t lngLibro,
+                                         ColeccionDefuncion& result) {
+    return defunciones(con).cargar(lngLibro, result);
+  }
+  bool GrabarColeccionBaseDatosDefuncion(FDAPI::Conexion& con, ColeccionDefuncion& colPartidas,
+                                         bool& blnSalto) {
+    return defunciones(con).grabar(colPartidas, blnSalto);
+  }
+  bool AltaPartidaDefuncion(FDAPI::Conexion& con, cDefuncion& record) {
+    return defunciones(con).alta(record);
+  }
+  bool ActualizarPartidaDefuncion(FDAPI::Conexion& con, const cDefuncion& record) {
+    return defunciones(con).actualizar(record);
+  }
+  bool BorrarPartidaDefuncion(FDAPI::Conexion& con, std::int32_t lngID) {
+    return defunciones(con).borrar(lngID);
+  }
+  bool ActualizacionFormatoDefuncion(FDAPI::Conexion& con, const cDefuncion& record,
+                                     bool& blnSalto) {
+    return defunciones(con).formato(record, blnSalto);
+  }
+  /// Fills the item that has this key.
+  bool ActualizarColeccionDefuncion(FDAPI::Conexion& con, std::int32_t lngID,
+                                    ColeccionDefuncion& colPartidas, std::int32_t lngLibro) {
+    return completarItem(defunciones(con), lngLibro, lngID, colPartidas, &cDefuncion::IDDifunto);
+  }
+  bool AnularDesanularPartidaDefuncion(FDAPI::Conexion& con, std::int32_t lngID) {
+    return defunciones(con).anular(lngID);
+  }
 
  private:
-  bool guardar(FDAPI::Conexion& conBaseDatos, cBautismo& partida, bool& blnSalto);
-  void insertarPartida(FDAPI::Conexion& conBaseDatos, cBautismo& record);
-  void insertarPadres(FDAPI::Conexion& conBaseDatos, cBautismo& record);
+  Almacen<cBautismo> bautismos(FDAPI::Conexion& con) { return {contexto_, con, ALMACEN_BAUTISMO}; }
+  Almacen<cConfirmacion> confirmaciones(FDAPI::Conexion& con) {
+    return {contexto_, con, ALMACEN_CONFIRMACION};
+  }
+  Almacen<cDefuncion> defunciones(FDAPI::Conexion& con) {
+    return {contexto_, con, ALMACEN_DEFUNCION};
+  }
+  template <class Registro>
+  static bool completarItem(Almacen<Registro> almacen, std::int32_t lngLibro, std::int32_t lngID,
+                            std::vector<Registro>& coleccion, std::int32_t Registro::*clave) {
+    const auto item = std::ranges::find(coleccion, lngID, clave);
+    return item != coleccion.end() && almacen.completar(lngLibro, lngID, *item);
+  }
 
   Contexto& contexto_;
-  // Keys of the parent rows of the entry being stored; 0 until they are known.
-  std::int32_t lngIDPadres_ = 0;
-  std::int32_t lngIDMadres_ = 0;
-  std::int32_t lngIDMatrimonio_ = 0;
 };
 
 }  // namespace fidaleon

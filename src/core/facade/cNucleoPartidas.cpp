@@ -9,6 +9,20 @@ namespace fidaleon {
 using FDAPI::cCOperacion;
 using FDAPI::cCOrigen;
 
+namespace {
+
+using Alternar = bool (cBaseDatos::*)(FDAPI::Conexion&, std::int32_t);
+
+/// Null for a sacrament without entries.
+Alternar alternarDe(const Sacramento* s) {
+  if (s == &BAUTISMO) return &cBaseDatos::AnularDesanularPar;
+  if (s == &CONFIRMACION) return &cBaseDatos::AnularDesanularPartidaConfirmacion;
+  if (s == &DEFUNCION) return &cBaseDatos::AnularDesanularPartidaDefuncion;
+  return nullptr;
+}
+
+}  // namespace
+
 void cNucleo::NuevaPartida(FDAPI::Conexion& conBaseDatos, const FDAPI::cConfig& objConfig,
                            const std::string& strNodo) {
   operacion(contexto_, "NuevaPartida", [&] {
@@ -69,16 +83,19 @@ void cNucleo::AnularPartidas(FDAPI::Conexion& conBaseDatos, std::int32_t lngID,
                              const PreguntaAnulacion& preguntar) {
   operacion(contexto_, "AnularPartidas", [&] {
     const Sacramento* s = sacramentoDeNodo(strTextDescription, "Partidas");
-    if (s != &BAUTISMO) return;
-    anularPartida(contexto_, conBaseDatos, *s, lngID, preguntar,
-                  [&] { cBaseDatos(contexto_).AnularDesanularPar(conBaseDatos, lngID); });
+    const Alternar alternar = alternarDe(s);
+    if (!alternar) return;
+    anularPartida(contexto_, conBaseDatos, *s, lngID, preguntar, [&] {
+      cBaseDatos almacen(contexto_);
+      (almacen.*alternar)(conBaseDatos, lngID);
+    });
   });
 }
 
 void cNucleo::EliminarPartida(FDAPI::Conexion& conBaseDatos, std::int32_t lngID,
                               const FDAPI::cConfig& objConfig, const std::string& strNodo) {
   const Sacramento* s = sacramentoDeNodo(strNodo, "Partidas");
-  if (!dialogoDePartida(s)) return;
+  if (!s || !formaPartida(*s)) return;
   contexto_.gobjConfig = &objConfig;
   eliminarPartida(contexto_, conBaseDatos, lngID, *s);
 }

@@ -9,7 +9,7 @@
 namespace fidaleon {
 
 /// A record as lines that a person can read and that can be read back: "NombreHijo: Ana". What is
-/// blank, "---" or 0 has no line.
+/// blank, "---" or 0 has no line, nor have the keys by which rows of a record find each other.
 class Apunte {
  public:
   void poner(const std::string& nombre, const std::string& valor);
@@ -25,13 +25,15 @@ class Apunte {
   template <class Registro>
   void poner(const Tabla<Registro>& tabla, const Registro& r) {
     for (const Columna<Registro>& c : tabla.columnas)
-      std::visit([&](auto miembro) { poner(c.propiedad, r.*miembro); }, c.miembro);
+      if (c.uso != Uso::Clave)
+        std::visit([&](auto miembro) { poner(c.propiedad, r.*miembro); }, c.miembro);
   }
   /// Texts without a line become "---".
   template <class Registro>
   void leer(const Tabla<Registro>& tabla, Registro& r) const {
     for (const Columna<Registro>& c : tabla.columnas)
-      std::visit([&](auto miembro) { leer(c.propiedad, r.*miembro); }, c.miembro);
+      if (c.uso != Uso::Clave)
+        std::visit([&](auto miembro) { leer(c.propiedad, r.*miembro); }, c.miembro);
   }
 
   /// One line each, and an empty one behind them.

@@ -4,9 +4,11 @@
 
 #include <cstdint>
 #include <span>
+#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <variant>
+#include <vector>
 
 #include "core/contract/FDAPI.h"
 #include "core/statements/Citas.h"
@@ -16,7 +18,19 @@
 namespace fidaleon {
 
 /// How a value stands in a statement.
-enum class Cita { Texto, TextoSimple, Numero };  // "x", 'x', 1
+enum class Cita {
+  Texto,        // "x"
+  TextoSimple,  // 'x'
+  Numero,       // 1
+  Byte,         // 1; above 255 an error, std::overflow_error
+};
+
+/// Which statements name a column.
+enum class Uso {
+  Siempre,
+  SoloAlta,  // an INSERT alone
+  Clave,     // an INSERT alone: the key of the row that this one is a part of
+};
 
 template <class Registro>
 struct Columna {
@@ -26,6 +40,7 @@ struct Columna {
   const char* propiedad;  // the member's name, alias of the column where all are read at once
   Miembro miembro;
   Cita cita;
+  Uso uso = Uso::Siempre;
 };
 
 template <class Registro>
@@ -59,6 +74,9 @@ inline std::string texto(bool v) {
 inline std::string numero(const std::string& v) {
   return comoNumero(v);
 }
+inline std::string numero(bool v) {
+  return v ? "1" : "0";
+}
 template <class T>
 std::string numero(const T& v) {
   return texto(v);
@@ -77,16 +95,22 @@ inline void asignar(bool& a, const store::Value& v) {
 }
 }  // namespace columnas_detalle
 
+/// The value of a column as it is.
+template <class Registro>
+std::string valorTexto(const Registro& r, const Columna<Registro>& c) {
+  return std::visit([&](auto miembro) { return columnas_detalle::texto(r.*miembro); }, c.miembro);
+}
+
 /// The value of a column, as it stands in a statement.
 template <class Registro>
 std::string valorSQL(const Registro& r, const Columna<Registro>& c) {
-  return std::visit(
-      [&](auto miembro) {
-        if (c.cita == Cita::Numero) return columnas_detalle::numero(r.*miembro);
-        const std::string valor = columnas_detalle::texto(r.*miembro);
-        return c.cita == Cita::Texto ? entreComillas(valor) : entreApostrofos(valor);
-      },
-      c.miembro);
+  if (c.cita == Cita::Texto) return entreComillas(valorTexto(r, c));
+  if (c.cita == Cita::TextoSimple) return entreApostrofos(valorTexto(r, c));
+  const std::string numero =
+      std::visit([&](auto miembro) { return columnas_detalle::numero(r.*miembro); }, c.miembro);
+  if (c.cita == Cita::Byte && text::toInteger(numero).value_or(0) > 255)
+    throw std::overflow_error(std::string(c.propiedad) + ": " + numero + " pasa de 255");
+  return numero;
 }
 
 /// "INSERT INTO t (a, b) VALUES (1, "x")".
@@ -106,7 +130,8 @@ template <class Registro>
 std::string sqlActualizar(const Tabla<Registro>& t, const Registro& r) {
   std::string pares;
   for (const Columna<Registro>& c : t.columnas)
-    pares += (pares.empty() ? "" : ", ") + text::trim(c.nombre) + t.asignar + valorSQL(r, c);
+    if (c.uso == Uso::Siempre)
+      pares += (pares.empty() ? "" : ", ") + text::trim(c.nombre) + t.asignar + valorSQL(r, c);
   return std::string("UPDATE ") + t.nombre + " SET " + pares;
 }
 
@@ -119,6 +144,35 @@ void copiarFila(const Tabla<Registro>& t, const store::Recordset& fila, Registro
     std::visit([&](auto miembro) { columnas_detalle::asignar(r.*miembro, v); }, c.miembro);
   }
 }
+
+/// Copies the rows of one record set; where the columns stand in it is looked up once.
+template <class Registro>
+class CopiaDeFilas {
+ public:
+  /// `filas` must outlive the copy. By column name; throws when one is not there.
+  CopiaDeFilas(const Tabla<Registro>& t, const store::Recordset& filas)
+      : columnas_(t.columnas), filas_(filas) {
+    for (const Columna<Registro>& c : columnas_) lugares_.push_back(lugar(c.nombre));
+  }
+  void a(Registro& r) const {
+    for (std::size_t i = 0; i < lugares_.size(); ++i) {
+      const store::Field campo = filas_.Fields(lugares_[i]);
+      std::visit([&](auto m) { columnas_detalle::asignar(r.*m, campo.Value()); },
+                 columnas_[i].miembro);
+    }
+  }
+
+ private:
+  int lugar(std::string_view nombre) const {
+    for (int i = 0; i < filas_.FieldCount(); ++i)
+      if (text::equalsNoCase(filas_.FieldName(i), nombre)) return i;
+    throw std::out_of_range("Falta la columna " + std::string(nombre));
+  }
+
+  std::span<const Columna<Registro>> columnas_;
+  const store::Recordset& filas_;
+  std::vector<int> lugares_;
+};
 
 /// "T.a as A, T.b as B" of all columns, for a SELECT over several tables.
 template <class Registro>

@@ -95,7 +95,7 @@ constexpr Columna<cBautismo> BAUTISMOS[] = {
 };
 
 constexpr Columna<cBautismo> HIJOS[] = {
-    NUMERO("codbautismo", CodBautismo),
+    {"codbautismo", "CodBautismo", &cBautismo::CodBautismo, Cita::Numero, Uso::Clave},
     TEXTO("nombre", NombreHijo),
     TEXTO("primerapellido", PrimerApellidoHijo),
     TEXTO("segundoapellido", SegundoApellidoHijo),
@@ -134,31 +134,5 @@ const Tabla<cBautismo> TABLA_BAUTISMO{"bautismo", ", ", " = ", BAUTISMOS};
 const Tabla<cBautismo> TABLA_BAUTISMO_AL_ACTUALIZAR{"bautismo", ", ", " = ",
                                                     BAUTISMOS_AL_ACTUALIZAR};
 const Tabla<cBautismo> TABLA_HIJO{"bautismo_hijo", ",", "=", HIJOS};
-
-std::string sqlPartidaBautismo(std::int32_t id) {
-  return "SELECT Bautismo.IDBautismo, Bautismo_Padres.IDPadres, Bautismo_Madres.IDMadres, "
-         "Bautismo_Matrimonio.IDMatrimonio, " +
-         sqlAlias(TABLA_BAUTISMO, "Bautismo") + ", " + sqlAlias(TABLA_HIJO, "Bautismo_Hijo") +
-         ", " + sqlAlias(TABLA_PADRES, "Bautismo_Padres") + ", " +
-         sqlAlias(TABLA_MADRES, "Bautismo_Madres") + ", " +
-         sqlAlias(TABLA_MATRIMONIO, "Bautismo_Matrimonio") +
-         " FROM Bautismo, Bautismo_Hijo, Bautismo_Madres, Bautismo_Padres, Bautismo_Matrimonio"
-         " WHERE IDBautismo=" +
-         std::to_string(id) +
-         " AND idBautismo=codBautismo AND Bautismo_Madres.IDMadres=Bautismo.CodMadres"
-         " AND Bautismo_Padres.IDPadres=Bautismo.CodPadres"
-         " AND Bautismo_Matrimonio.IDMatrimonio=Bautismo.CodMatrimonio";
-}
-
-void copiarPartidaBautismo(const store::Recordset& fila, cBautismo& record) {
-  for (const Tabla<cBautismo>* t :
-       {&TABLA_BAUTISMO, &TABLA_HIJO, &TABLA_PADRES, &TABLA_MADRES, &TABLA_MATRIMONIO})
-    copiarFila(*t, fila, record, true);
-  record.IDBautismo = static_cast<std::int32_t>(fila.integer("IDBautismo"));
-  record.IDPadres = static_cast<std::int32_t>(fila.integer("IDPadres"));
-  record.IDMadres = static_cast<std::int32_t>(fila.integer("IDMadres"));
-  record.IDMatrimonio = static_cast<std::int32_t>(fila.integer("IDMatrimonio"));
-  record.IDLibroBautismo = record.CodLibroBautismo;
-}
 
 }  // namespace fidaleon

@@ -12,6 +12,8 @@
 
 #include "core/contract/Contexto.h"
 #include "core/statements/Apunte.h"
+#include "registers/common/Almacen.h"
+#include "registers/common/Guiones.h"
 
 namespace fidaleon {
 
@@ -19,8 +21,8 @@ namespace fidaleon {
 struct PartidaEnLista {
   std::int32_t id;
   bool guardada;  // the table holds it
-  FDAPI::cCOperacion& Operacion;
-  bool& Anulada;
+  FDAPI::cCOperacion Operacion;
+  bool Anulada;
 };
 
 /// How an entry is opened from the list of its book.
@@ -42,10 +44,12 @@ class PartidasDeLibro {
 
   virtual bool cargar(FDAPI::Conexion& conBaseDatos, std::int32_t lngLibro) = 0;
   virtual std::size_t cuenta() const = 0;
-  /// Good until the working copy grows.
-  virtual PartidaEnLista partida(std::size_t posicion) = 0;
+  virtual PartidaEnLista partida(std::size_t posicion) const = 0;
+  virtual void anular(std::size_t posicion, bool anulada) = 0;
+  virtual void eliminar(std::size_t posicion) = 0;
   /// What the grid shows of it, up to the mark of annulment.
-  virtual std::vector<std::string> celdas(std::size_t posicion, FDAPI::cFidaleon& fidaleon) = 0;
+  virtual std::vector<std::string> celdas(std::size_t posicion,
+                                          FDAPI::cFidaleon& fidaleon) const = 0;
   /// Reads the columns that the list has left out, once. The caller holds the entry's lock.
   virtual bool completar(FDAPI::Conexion& conBaseDatos, std::size_t posicion) = 0;
   /// Shows the entry's own dialog. False when the entry could not be read.
@@ -64,49 +68,47 @@ class PartidasDeLibro {
                               const std::function<bool(const PartidaEnLista&)>& tomar) = 0;
 };
 
-/// The working copy of a sacrament. What it needs to know of it is said by `Lista`:
-///
-///   using Registro, Coleccion, Dialogo;           record, its collection, the entry's dialog
-///   static constexpr FDAPI::cCOrigen ORIGEN;      of a dialog opened from the list
-///   static std::int32_t id(const Registro&);
-///   static bool& anulada(Registro&);
-///   static bool completa(const Registro&);        has all its columns
-///   static std::vector<std::string> celdas(const Registro&, FDAPI::cFidaleon&);
-///   static bool cargar(Contexto&, FDAPI::Conexion&, std::int32_t lngLibro, Coleccion&);
-///   static bool completar(Contexto&, FDAPI::Conexion&, Coleccion&, std::size_t posicion);
-///   static bool guardar(Contexto&, FDAPI::Conexion&, Coleccion&);
-///   static bool retirarAMedias(Contexto&, FDAPI::Conexion&, Coleccion&);
-///   static bool mismoLugar(const Registro&, const Registro&);   in the book
-///   static void apuntar(const Registro&, Apunte&);
-///   static void leer(const Apunte&, Registro&);
-template <class Lista>
+/// The working copy of a sacrament: its store is described by DescripcionAlmacen, and a dialog of
+/// it opened from the list is told that by `origen`.
+template <class Registro, class Dialogo>
 class PartidasDe final : public PartidasDeLibro {
  public:
-  explicit PartidasDe(Contexto& contexto) : contexto_(contexto) {}
+  PartidasDe(Contexto& contexto, const DescripcionAlmacen<Registro>& d, FDAPI::cCOrigen origen)
+      : contexto_(contexto), d_(d), origen_(origen) {}
 
   bool cargar(FDAPI::Conexion& conBaseDatos, std::int32_t lngLibro) override {
-    return Lista::cargar(contexto_, conBaseDatos, lngLibro, coleccion_);
+    libro_ = lngLibro;
+    return almacen(conBaseDatos).cargar(lngLibro, coleccion_);
   }
   std::size_t cuenta() const override { return coleccion_.size(); }
-  PartidaEnLista partida(std::size_t posicion) override {
-    typename Lista::Registro& r = coleccion_.at(posicion);
-    return {Lista::id(r), r.Estado, r.Operacion, Lista::anulada(r)};
+  PartidaEnLista partida(std::size_t posicion) const override {
+    return enLista(coleccion_.at(posicion));
   }
-  std::vector<std::string> celdas(std::size_t posicion, FDAPI::cFidaleon& fidaleon) override {
-    return Lista::celdas(coleccion_.at(posicion), fidaleon);
+  void anular(std::size_t posicion, bool anulada) override {
+    coleccion_.at(posicion).*d_.anulada = anulada;
+    ponerOperacion(coleccion_.at(posicion), FDAPI::cCOperacion::EDITAR);
+  }
+  void eliminar(std::size_t posicion) override {
+    ponerOperacion(coleccion_.at(posicion), FDAPI::cCOperacion::Borrar);
+  }
+  std::vector<std::string> celdas(std::size_t posicion, FDAPI::cFidaleon& fidaleon) const override {
+    std::vector<std::string> celdas;
+    for (const Columna<Registro>& c : enRejilla())
+      celdas.push_back(valorTexto(coleccion_.at(posicion), c));
+    celdas.back() = fidaleon.stringdate(celdas.back());
+    return celdas;
   }
   bool completar(FDAPI::Conexion& conBaseDatos, std::size_t posicion) override {
-    const bool leida = Lista::completa(coleccion_.at(posicion)) ||
-                       Lista::completar(contexto_, conBaseDatos, coleccion_, posicion);
-    const typename Lista::Registro& r = coleccion_.at(posicion);
-    if (leida && r.Operacion == FDAPI::cCOperacion{}) leidas_[posicion] = huella(r);
+    Registro& r = coleccion_.at(posicion);
+    const bool leida = !(r.*d_.completa).empty() || leer(conBaseDatos, r);
+    if (leida && operacionDe(r) == FDAPI::cCOperacion{}) leidas_[posicion] = huella(r);
     return leida;
   }
   bool abrir(const AperturaDeLista& apertura) override {
     bool otraVez = false;
     if (!apertura.aviso) return mostrar(apertura, otraVez);
     // What is read without the lock may be out of date when the entry is opened to be changed.
-    typename Lista::Registro antes = coleccion_.at(*apertura.posicion);
+    Registro antes = coleccion_.at(*apertura.posicion);
     const bool leida = mostrar(apertura, otraVez);
     coleccion_.at(*apertura.posicion) = std::move(antes);
     if (!otraVez) return leida;
@@ -115,22 +117,24 @@ class PartidasDe final : public PartidasDeLibro {
     return mostrar(entera, otraVez);
   }
   bool guardar(FDAPI::Conexion& conBaseDatos) override {
-    return Lista::guardar(contexto_, conBaseDatos, coleccion_);
+    bool blnSalto = false;
+    return almacen(conBaseDatos).grabar(coleccion_, blnSalto);
   }
   bool retirarAMedias(FDAPI::Conexion& conBaseDatos) override {
-    return Lista::retirarAMedias(contexto_, conBaseDatos, coleccion_);
+    return almacen(conBaseDatos).retirarAMedias(coleccion_);
   }
 
   std::string pendiente() const override {
     std::string texto;
     for (std::size_t i = 0; i < coleccion_.size(); ++i) {
-      const typename Lista::Registro& r = coleccion_[i];
-      if (r.Estado && r.Operacion == FDAPI::cCOperacion{}) continue;
+      const Registro& r = coleccion_[i];
+      const FDAPI::cCOperacion operacion = operacionDe(r);
+      if (r.Estado && operacion == FDAPI::cCOperacion{}) continue;
       Apunte apunte;
-      const bool borrar = r.Operacion == FDAPI::cCOperacion::Borrar;
+      const bool borrar = operacion == FDAPI::cCOperacion::Borrar;
       apunte.poner("Partida", std::string(borrar ? "eliminada" : r.Estado ? "cambiada" : "nueva"));
-      Lista::apuntar(r, apunte);
-      apunte.poner("Operacion", static_cast<std::int64_t>(r.Operacion));
+      apuntar(r, apunte);
+      apunte.poner("Operacion", static_cast<std::int64_t>(operacion));
       if (const auto leida = leidas_.find(i); leida != leidas_.end())
         apunte.poner("Leida", leida->second);
       texto += apunte.texto();
@@ -146,15 +150,32 @@ class PartidasDe final : public PartidasDeLibro {
   }
 
  private:
+  Almacen<Registro> almacen(FDAPI::Conexion& conBaseDatos) { return {contexto_, conBaseDatos, d_}; }
+  PartidaEnLista enLista(const Registro& r) const {
+    return {r.*d_.id, r.Estado, operacionDe(r), r.*d_.anulada};
+  }
+  /// All that the list reads but the key before and the mark of annulment behind.
+  std::span<const Columna<Registro>> enRejilla() const {
+    return d_.lista.columnas.subspan(1, d_.lista.columnas.size() - 2);
+  }
+  bool mismoLugar(const Registro& a, const Registro& b) const {
+    const Tabla<Registro> lugar{d_.lista.nombre, "", "", enRejilla().first(2)};
+    return mismaFila(lugar, a, b);
+  }
+
+  bool leer(FDAPI::Conexion& conBaseDatos, Registro& r) {
+    if (!almacen(conBaseDatos).completar(libro_, r.*d_.id, r)) return false;
+    // Where the table holds an empty one, the entry would be read again over what was changed.
+    if ((r.*d_.completa).empty()) r.*d_.completa = GUIONES;
+    return true;
+  }
+
   bool reponer(FDAPI::Conexion& conBaseDatos, const Apunte& apunte,
                const std::function<bool(const PartidaEnLista&)>& tomar) {
-    typename Lista::Registro r;
-    Lista::leer(apunte, r);
-    r.Operacion = static_cast<FDAPI::cCOperacion>(apunte.numero("Operacion"));
-    if (r.Operacion == FDAPI::cCOperacion::Borrar) return false;
-    if (!tomar({Lista::id(r), r.Estado, r.Operacion, Lista::anulada(r)})) return false;
-    const auto otra = std::find_if(coleccion_.begin(), coleccion_.end(), [&](const auto& c) {
-      return r.Estado ? Lista::id(c) == Lista::id(r) : Lista::mismoLugar(c, r);
+    Registro r = leido(apunte);
+    if (operacionDe(r) == FDAPI::cCOperacion::Borrar || !tomar(enLista(r))) return false;
+    const auto otra = std::find_if(coleccion_.begin(), coleccion_.end(), [&](const Registro& c) {
+      return r.Estado ? c.*d_.id == r.*d_.id : mismoLugar(c, r);
     });
     const bool esta = otra != coleccion_.end();
     if (esta != r.Estado) return false;
@@ -168,28 +189,51 @@ class PartidasDe final : public PartidasDeLibro {
     coleccion_[posicion] = std::move(r);
     return true;
   }
+
+  void apuntar(const Registro& r, Apunte& apunte) const {
+    d_.cadaTabla([&](const Tabla<Registro>& tabla) { apunte.poner(tabla, r); });
+    apunte.poner(d_.forma.sacramento.clavePartida, r.*d_.id);
+    apunte.poner("Guardada", r.Estado);
+    for (const auto& [nombre, miembro] : d_.claves) apunte.poner(nombre, r.*miembro);
+    for (const auto& [nombre, miembro] : d_.signos) apunte.poner(nombre, r.*miembro);
+  }
+  Registro leido(const Apunte& apunte) const {
+    Registro r;
+    d_.cadaTabla([&](const Tabla<Registro>& tabla) { apunte.leer(tabla, r); });
+    r.*d_.id = static_cast<std::int32_t>(apunte.numero(d_.forma.sacramento.clavePartida));
+    r.Estado = apunte.numero("Guardada") != 0;
+    for (const auto& [nombre, miembro] : d_.claves)
+      r.*miembro = static_cast<std::int32_t>(apunte.numero(nombre));
+    for (const auto& [nombre, miembro] : d_.signos) r.*miembro = apunte.numero(nombre) != 0;
+    ponerOperacion(r, static_cast<FDAPI::cCOperacion>(apunte.numero("Operacion")));
+    return r;
+  }
   /// Tells whether a stored entry is still as it was read.
-  static std::string huella(const typename Lista::Registro& r) {
+  std::string huella(const Registro& r) const {
     Apunte apunte;
-    Lista::apuntar(r, apunte);
+    apuntar(r, apunte);
     return std::to_string(std::hash<std::string>()(apunte.texto()));
   }
+
   bool mostrar(const AperturaDeLista& apertura, bool& otraVez) {
     if (apertura.posicion && !completar(apertura.conBaseDatos, *apertura.posicion)) return false;
-    typename Lista::Dialogo dialogo(contexto_);
+    Dialogo dialogo(contexto_);
     dialogo.conBaseDatos = &apertura.conBaseDatos;
     dialogo.lngInstitucion = apertura.lngInstitucion;
     dialogo.lngLibro = apertura.lngLibro;
     dialogo.colPartidas = &coleccion_;
     dialogo.lngPosicion = apertura.posicion.value_or(0);
     dialogo.Operacion = apertura.posicion ? FDAPI::cCOperacion::EDITAR : FDAPI::cCOperacion::ANADIR;
-    dialogo.Origen = Lista::ORIGEN;
+    dialogo.Origen = origen_;
     otraVez = dialogo.open(apertura.aviso);
     return true;
   }
 
   Contexto& contexto_;
-  typename Lista::Coleccion coleccion_;
+  const DescripcionAlmacen<Registro>& d_;
+  FDAPI::cCOrigen origen_;
+  std::int32_t libro_ = 0;
+  std::vector<Registro> coleccion_;
   std::map<std::size_t, std::string> leidas_;  // by place, of those read whole
 };
 

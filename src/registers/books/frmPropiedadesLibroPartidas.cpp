@@ -148,17 +148,15 @@ void frmPropiedadesLibro::avisarIlegible() {
 
 void frmPropiedadesLibro::anular() {
   const std::size_t posicion = *elegida();
-  const PartidaEnLista partida = partidas_->partida(posicion);
-  const bool anulada = partida.Anulada;
-  if (!bloquear(partida)) return;
+  const bool anulada = partidas_->partida(posicion).Anulada;
+  if (!bloquear(partidas_->partida(posicion))) return;
   if (!partidas_->completar(*conBaseDatos, posicion)) return avisarIlegible();
   // The list may have been read before another desk did the same.
-  if (partida.Anulada != anulada) {
-    avisarYaEsta(contexto_.ui(), partida.Anulada);
+  if (partidas_->partida(posicion).Anulada != anulada) {
+    avisarYaEsta(contexto_.ui(), !anulada);
     return CargarGridPartidasDColeccion();
   }
-  partida.Anulada = !anulada;
-  partida.Operacion = cCOperacion::EDITAR;
+  partidas_->anular(posicion, !anulada);
   msgPartidas.setCell(msgPartidas.row(), msgPartidas.columns() - 1, anulada ? "NO" : "SI");
   cmdPartidas[ANULAR].setCaption(anulada ? "Validar" : "Anular");
   permitirPartidas(true);
@@ -167,9 +165,9 @@ void frmPropiedadesLibro::anular() {
 }
 
 void frmPropiedadesLibro::eliminar() {
-  const PartidaEnLista partida = partidas_->partida(*elegida());
-  if (!bloquear(partida)) return;
-  if (sePuedeEliminar()) partida.Operacion = cCOperacion::Borrar;
+  const std::size_t posicion = *elegida();
+  if (!bloquear(partidas_->partida(posicion))) return;
+  if (sePuedeEliminar()) partidas_->eliminar(posicion);
   CargarGridPartidasDColeccion();
 }
 

@@ -1,5 +1,7 @@
 #include "registers/repair/PartidasIncompletas.h"
 
+#include <ranges>
+
 #include "core/contract/NombreYApellidos.h"
 #include "core/statements/Citas.h"
 #include "core/statements/Sentencia.h"
@@ -13,14 +15,15 @@ using FDAPI::Conexion;
 
 namespace {
 
-bool esPropia(const PartidaPorFichas& clase, const FichaDePartida& ficha) {
+bool esPropia(const FormaPartida& clase, const FilaDePartida& ficha) {
   return text::equalsNoCase(ficha.enlace, clase.sacramento.clavePartida);
 }
 
 /// "FROM Bautismo WHERE (IDBautismo NOT IN (SELECT CodBautismo FROM Bautismo_Hijo) OR ...)"
-std::string sqlIncompletas(const PartidaPorFichas& clase) {
+std::string sqlIncompletas(const FormaPartida& clase) {
   std::string condicion;
-  for (const FichaDePartida& f : clase.fichas) {
+  for (const FilaDePartida& f : clase.filas) {
+    if (!f.nombre) continue;
     const std::string enlace = f.enlace;
     condicion += (condicion.empty() ? "" : " OR ") + enlace + " NOT IN (SELECT " + f.clave +
                  " FROM " + f.tabla + " WHERE " + f.clave + " IS NOT NULL)";
@@ -36,22 +39,26 @@ std::string nombreDelLibro(Conexion& conexion, const Sacramento& s, std::int32_t
   return fila.EOF_() ? "(ya no existe)" : fila.text("Nombre");
 }
 
-/// Looks for each of its rows: which are missing, and whom the others name.
+/// Looks for each of its rows: which are missing, and what the others say.
 void mirarFichas(Conexion& conexion, const store::Recordset& fila, PartidaIncompleta& p) {
-  for (const FichaDePartida& f : p.clase->fichas) {
+  for (const FilaDePartida& f : p.clase->filas | std::views::reverse) {
     const store::Recordset ficha =
         conexion.Execute(std::string("SELECT * FROM ") + f.tabla + " WHERE " + f.clave + "=" +
                          std::to_string(fila.integer(f.enlace)));
     if (ficha.EOF_()) {
       p.faltan.push_back(&f);
-    } else if (conexion.schema().find(f.tabla)->find("PrimerApellido")) {
-      const std::string quien = nombreYApellidos(ficha);
-      if (!quien.empty()) p.queda += (p.queda.empty() ? "" : "; ") + (f.nombre + (": " + quien));
+      continue;
     }
+    const store::Table& tabla = *conexion.schema().find(f.tabla);
+    if (tabla.find(p.clase->fecha)) p.fecha = ficha.text(p.clase->fecha);
+    if (!tabla.find("PrimerApellido")) continue;
+    const std::string quien = nombreYApellidos(ficha);
+    const std::string de = f.nombre ? std::string(f.nombre) + ": " : std::string();
+    if (!quien.empty()) p.queda += (p.queda.empty() ? "" : "; ") + de + quien;
   }
 }
 
-PartidaIncompleta leida(Conexion& conexion, const PartidaPorFichas& clase,
+PartidaIncompleta leida(Conexion& conexion, const FormaPartida& clase,
                         const store::Recordset& fila) {
   PartidaIncompleta p;
   p.clase = &clase;
@@ -60,13 +67,12 @@ PartidaIncompleta leida(Conexion& conexion, const PartidaPorFichas& clase,
   p.libro = nombreDelLibro(conexion, clase.sacramento, p.codLibro);
   p.folio = p.codLibro == 0 ? "" : fila.text("Folio");
   p.numero = p.codLibro == 0 ? "" : fila.text("Numero");
-  p.fecha = fila.text(clase.fecha);
   mirarFichas(conexion, fila, p);
   return p;
 }
 
 /// A row that says nothing, as the registers write it.
-std::string sqlFichaEnBlanco(const store::Table& tabla, const FichaDePartida& ficha,
+std::string sqlFichaEnBlanco(const store::Table& tabla, const FilaDePartida& ficha,
                              const std::string& clave) {
   std::string columnas, valores;
   const auto agregar = [&](const std::string& columna, const std::string& valor) {
@@ -87,7 +93,7 @@ std::string sqlFichaEnBlanco(const store::Table& tabla, const FichaDePartida& fi
 
 std::int64_t cuentaPartidasIncompletas(Conexion& conexion) {
   std::int64_t cuantas = 0;
-  for (const PartidaPorFichas& clase : partidasPorFichas())
+  for (const FormaPartida& clase : formasPartida())
     cuantas += conexion
                    .Execute(sentencia(clase.sacramento, "SELECT COUNT({IDPartida}) AS N") +
                             sqlIncompletas(clase))
@@ -97,7 +103,7 @@ std::int64_t cuentaPartidasIncompletas(Conexion& conexion) {
 
 std::vector<PartidaIncompleta> partidasIncompletas(Conexion& conexion) {
   std::vector<PartidaIncompleta> todas;
-  for (const PartidaPorFichas& clase : partidasPorFichas())
+  for (const FormaPartida& clase : formasPartida())
     for (store::Recordset filas = conexion.Execute("SELECT *" + sqlIncompletas(clase));
          !filas.EOF_(); filas.MoveNext())
       todas.push_back(leida(conexion, clase, filas));
@@ -116,7 +122,7 @@ void completarPartida(Conexion& conexion, const PartidaIncompleta& partida) {
   const Sacramento& s = partida.clase->sacramento;
   const std::string id = std::to_string(partida.id);
   store::Transaction transaccion(conexion);
-  for (const FichaDePartida* f : partida.faltan) {
+  for (const FilaDePartida* f : partida.faltan) {
     conexion.Execute(sqlFichaEnBlanco(*conexion.schema().find(f->tabla), *f, id));
     if (esPropia(*partida.clase, *f)) continue;
     const std::string clave =

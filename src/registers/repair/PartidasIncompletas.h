@@ -4,20 +4,20 @@
 #include <string>
 #include <vector>
 
-#include "registers/repair/PartidaPorFichas.h"
+#include "registers/common/FormaPartida.h"
 
 namespace fidaleon {
 
 /// An entry or a request that has lost one of its rows, and with it its place in all lists.
 struct PartidaIncompleta {
-  const PartidaPorFichas* clase = nullptr;
+  const FormaPartida* clase = nullptr;
   std::int32_t id = 0;
   std::int32_t codLibro = 0;  // 0: a request
   std::string libro;          // its name
   std::string folio;
   std::string numero;
   std::string fecha;  // as it is stored
-  std::vector<const FichaDePartida*> faltan;
+  std::vector<const FilaDePartida*> faltan;
   std::string queda;  // whom the rows name that are there
 };
 

@@ -23,7 +23,7 @@ const Rejilla REJILLA{"Grids\\PartidasIncompletas\\PartidasIncompletas",
 
 std::string loQueFalta(const PartidaIncompleta& p) {
   std::string nombres;
-  for (const FichaDePartida* f : p.faltan)
+  for (const FilaDePartida* f : p.faltan)
     nombres += (nombres.empty() ? "" : ", ") + std::string(f->nombre);
   return nombres;
 }
@@ -136,8 +136,7 @@ void frmPartidasIncompletas::eliminar() {
     PartidaIncompleta ahora;
     if (!bloqueos.efectuar() || !sigueIncompleta(elegida, ahora)) return;
     TransaccionSinVuelta transaccion(contexto_, *conBaseDatos);
-    cBaseDatos almacen(contexto_);
-    (almacen.*ahora.clase->borrar)(*conBaseDatos, ahora.id);
+    borrarPartida(*conBaseDatos, *ahora.clase, ahora.id, Compartidas::Respetar);
     transaccion.terminar();
   });
 }

@@ -38,7 +38,7 @@ TEST_F(BaptismStore, Statements_AreWordedAsTheTablesSay) {
           "0, \"19990510\", "));
   EXPECT_THAT(sqlActualizar(TABLA_BAUTISMO_AL_ACTUALIZAR, b),
               ::testing::StartsWith("UPDATE bautismo SET codpadres = 0, codmadres = 0, "
-                                    "codmatrimonio = 0, anulada = False, institucionsolicitud"));
+                                    "codmatrimonio = 0, anulada = 0, institucionsolicitud"));
 }
 
 TEST_F(BaptismStore, NumericColumn_TakesZeroForDashes) {
