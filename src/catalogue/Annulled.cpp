@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "core/statements/Citas.h"
-#include "parish/Insert.h"
+#include "core/statements/Sentencia.h"
+#include "registers/common/FormaPartida.h"
 
 namespace fidaleon::app {
 namespace {
@@ -20,38 +20,61 @@ QString printed(const paper::Row& row, const char* column) {
   return row.value(QString::fromLatin1(column)).trimmed();
 }
 
+std::string annulledEntries(const Sacramento& s, std::int32_t book) {
+  const FormaPartida& form = *formaPartida(s);
+  const std::string person = form.personas.front();
+  std::string tables, join;
+  for (const FilaDePartida& row : form.filas) {
+    if (!row.nombre || row.tabla != person) continue;
+    tables = ", " + person;
+    join = " AND " + person + "." + row.clave + sentencia(s, "={Partidas}.") + row.enlace;
+  }
+  std::string sql =
+      sentencia(s,
+                "SELECT Institucion.InstitucionNombre, {Libros}.Nombre AS Libro, "
+                "{Partidas}.CodLibro, {Partidas}.Folio, {Partidas}.Numero, ") +
+      person + ".Nombre, " + person + ".PrimerApellido, " + person + ".SegundoApellido" +
+      sentencia(s, " FROM {Partidas}, {Libros}, Institucion") + tables +
+      sentencia(s,
+                " WHERE {Partidas}.Anulada=true AND {Libros}.{IDLibro}={Partidas}.CodLibro "
+                "AND Institucion.IDInstitucion={Libros}.CodInstitucion") +
+      join;
+  if (book != 0) sql += sentencia(s, " AND {Partidas}.CodLibro=") + std::to_string(book);
+  return sql;
+}
+
+/// A valid entry stands on the same place.
+bool isShared(store::Connection& parish, const Sacramento& s, const store::Recordset& entry) {
+  return !parish
+              .Execute(sentencia(s,
+                                 "SELECT {IDPartida} FROM {Partidas} WHERE Anulada=false AND "
+                                 "CodLibro=") +
+                       entry.text("CodLibro") + " AND Folio=" + entry.text("Folio") +
+                       " AND Numero=" + entreComillas(entry.text("Numero")))
+              .EOF_();
+}
+
 }  // namespace
 
 QString annulledMark(bool catalan) {
   return catalan ? QStringLiteral("ANUL·LADA") : QStringLiteral("ANULADA");
 }
 
-Annulled::Annulled(store::Connection& parish, std::int32_t book, QString word)
-    : allBooks_(book == 0), word_(std::move(word)) {
-  std::string sql =
-      "SELECT Institucion.InstitucionNombre, Libro_Bautismo.Nombre AS Libro, Bautismo.CodLibro, "
-      "Bautismo.Folio, Bautismo.Numero, Bautismo_Hijo.Nombre, Bautismo_Hijo.PrimerApellido, "
-      "Bautismo_Hijo.SegundoApellido FROM Bautismo, Bautismo_Hijo, Libro_Bautismo, Institucion "
-      "WHERE Bautismo.Anulada=true AND Bautismo_Hijo.CodBautismo=Bautismo.IDBautismo AND "
-      "Libro_Bautismo.IDLibroBautismo=Bautismo.CodLibro AND "
-      "Institucion.IDInstitucion=Libro_Bautismo.CodInstitucion";
-  if (book != 0) sql += " AND Bautismo.CodLibro=" + std::to_string(book);
-  for (auto set = parish.Execute(sql); !set.EOF_(); set.MoveNext()) {
+Annulled::Annulled(store::Connection& parish, const Sacramento& sacrament, std::int32_t book,
+                   QString word)
+    : columns_(*filasDocumento(sacrament)), allBooks_(book == 0), word_(std::move(word)) {
+  for (auto set = parish.Execute(annulledEntries(sacrament, book)); !set.EOF_(); set.MoveNext()) {
     QStringList at{field(set, "Folio"), field(set, "Numero")};
     if (allBooks_) at << field(set, "InstitucionNombre") << field(set, "Libro");
     Place& place = places_[joined(at)];
-    place.shared = place.shared || isShared(parish, set);
-    place.children.push_back(joined(
+    place.shared = place.shared || isShared(parish, sacrament, set);
+    place.persons.push_back(joined(
         {field(set, "Nombre"), field(set, "PrimerApellido"), field(set, "SegundoApellido")}));
   }
 }
 
-bool Annulled::isShared(store::Connection& parish, const store::Recordset& entry) const {
-  return !parish
-              .Execute("SELECT IDBautismo FROM Bautismo WHERE Anulada=false AND CodLibro=" +
-                       entry.text("CodLibro") + " AND Folio=" + entry.text("Folio") +
-                       " AND Numero=" + entreComillas(entry.text("Numero")))
-              .EOF_();
+QStringList Annulled::columns() const {
+  return {"InstitucionNombre", columns_.nombre, columns_.primerApellido, columns_.segundoApellido};
 }
 
 QString Annulled::mark(const paper::Row& row) const {
@@ -61,10 +84,11 @@ QString Annulled::mark(const paper::Row& row) const {
   if (found == places_.end()) return {};
   const Place& place = found->second;
   if (!place.shared) return word_;
-  const QString child = joined({printed(row, "NombreHijo"), printed(row, "PrimerApellidoHijo"),
-                                printed(row, "SegundoApellidoHijo")});
+  const QString person =
+      joined({printed(row, columns_.nombre), printed(row, columns_.primerApellido),
+              printed(row, columns_.segundoApellido)});
   const bool isOne =
-      std::find(place.children.begin(), place.children.end(), child) != place.children.end();
+      std::find(place.persons.begin(), place.persons.end(), person) != place.persons.end();
   return isOne ? word_ : QString();
 }
 

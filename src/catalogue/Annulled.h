@@ -1,10 +1,12 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <cstdint>
 #include <map>
 #include <vector>
 
+#include "core/facade/Documentos.h"
 #include "paper/Row.h"
 #include "store/Connection.h"
 
@@ -17,22 +19,24 @@ QString annulledMark(bool catalan = false);
 /// by their place in the book.
 class Annulled {
  public:
-  /// Of one baptism book, or of all when `book` is 0. Throws store::Error.
-  explicit Annulled(store::Connection& parish, std::int32_t book = 0,
-                    QString word = annulledMark());
+  /// Of one book of the sacrament, or of all when `book` is 0. Throws store::Error.
+  Annulled(store::Connection& parish, const Sacramento& sacrament, std::int32_t book = 0,
+           QString word = annulledMark());
 
   /// The word, or nothing. A place that an annulled entry shares with a valid one, as the books of
-  /// old allow, is told apart by the name of the child.
+  /// old allow, is told apart by the name of the person.
   QString mark(const paper::Row& row) const;
+  /// What the rows must have for that, whether or not the template prints it.
+  QStringList columns() const;
   std::size_t places() const { return places_.size(); }
 
  private:
   struct Place {
     bool shared = false;
-    std::vector<QString> children;
+    std::vector<QString> persons;
   };
-  bool isShared(store::Connection& parish, const store::Recordset& entry) const;
 
+  const FilasDocumento& columns_;
   bool allBooks_;
   QString word_;
   std::map<QString, Place> places_;

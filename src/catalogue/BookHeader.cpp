@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "core/statements/Sentencia.h"
 #include "text/Utf8.h"
 
 namespace fidaleon::app {
@@ -43,12 +44,14 @@ std::string townName(store::Connection& parish, const std::string& key) {
 
 }  // namespace
 
-paper::GivenValues bookHeader(store::Connection& parish, std::int32_t book, bool catalan) {
+paper::GivenValues bookHeader(store::Connection& parish, const Sacramento& sacrament,
+                              std::int32_t book, bool catalan) {
   const auto row = parish.Execute(
-      "SELECT Institucion.Nombre, Institucion.InstitucionNombre, Institucion.InstitucionTipo, "
-      "Institucion.Diocesis, Institucion.CodMunicipio FROM Institucion, Libro_Bautismo WHERE "
-      "Institucion.IDInstitucion=Libro_Bautismo.CodInstitucion AND "
-      "Libro_Bautismo.IDLibroBautismo=" +
+      sentencia(sacrament,
+                "SELECT Institucion.Nombre, Institucion.InstitucionNombre, "
+                "Institucion.InstitucionTipo, Institucion.Diocesis, Institucion.CodMunicipio FROM "
+                "Institucion, {Libros} WHERE Institucion.IDInstitucion={Libros}.CodInstitucion AND "
+                "{Libros}.{IDLibro}=") +
       std::to_string(book));
   if (row.EOF_()) return {};
   const auto text = [](const std::string& s) { return QString::fromStdString(s); };

@@ -3,7 +3,7 @@
 #include "catalogue/Catalogue.h"
 #include "catalogue/CensusCommands.h"
 #include "catalogue/CommandParts.h"
-#include "catalogue/Documents.h"
+#include "core/facade/Documentos.h"
 #include "registers/common/FormaPartida.h"
 
 namespace fidaleon::app {
@@ -91,18 +91,16 @@ void removeCatalogueRow(Workplace& w, const Choice& c) {
   deleteCatalogueRow(w, c.node->kind, c.id);
 }
 
-constexpr const char* CERTIFICATE = "certificado";
-constexpr const char* LITERAL = "literal";
-constexpr const char* ENTRY_COPY = "partida";
-constexpr const char* SLIP = "volante";
-constexpr const char* REQUEST_DATA = "datos";
-constexpr const char* BOOK = "libro";
-constexpr const char* INDEX = "indice";
-
-template <const char* const& ID>
-void document(Workplace& w, const Choice& c) {
-  if (const Document* d = findDocument(ID, w.entorno().installation.Aplicacion))
-    w.showDocument(*d, c.id);
+/// A document of the catalogue, in the words of the window.
+Command document(const char* id, const char* text, const char* shortcut, const char* tip,
+                 unsigned kinds) {
+  const auto show = [id](Workplace& w, const Choice& c) {
+    if (const Documento* d = documento(*c.node->sacrament, id, c.edition)) w.showDocument(*d, c.id);
+  };
+  Command c =
+      line(id, text, shortcut, tip, kinds, kinds == REPORTS ? Needs::Nothing : Needs::Row, show);
+  c.document = true;
+  return inMenu(Menu::Documents, std::move(c));
 }
 
 void addEntryCommands(std::vector<Command>& all) {
@@ -191,29 +189,24 @@ void addCatalogueCommands(std::vector<Command>& all) {
 }
 
 void addDocumentCommands(std::vector<Command>& all) {
-  const auto add = [&](Command c) { all.push_back(inMenu(Menu::Documents, std::move(c))); };
-  add(inToolbar("print", line("certificado", "&Certificado…", "Ctrl+P",
-                              "Certificado de la partida, firmado por el encargado del archivo",
-                              ENTRIES, Needs::Row, document<CERTIFICATE>)));
-  add(line("literal", "Certificado &literal…", "Ctrl+L", "Copia literal de la partida, firmada",
-           ENTRIES, Needs::Row, document<LITERAL>));
-  add(line("partida", "&Partida…", "Ctrl+E", "La partida tal como está en el libro", ENTRIES,
-           Needs::Row, document<ENTRY_COPY>));
-  add(line("volante", "&Volante…", "Ctrl+T", "Volante con las señas de la parroquia", ENTRIES,
-           Needs::Row, document<SLIP>));
-  add(inToolbar("print", line("datos", "&Datos de la solicitud…", "Ctrl+P",
-                              "Hoja con los datos de la solicitud", REQUESTS, Needs::Row,
-                              document<REQUEST_DATA>)));
-  add(ofBaptism(inToolbar("print", line("libro", "&Libro entero…", "Ctrl+P",
-                                        "Todas las partidas del libro, una tras otra", BOOKS,
-                                        Needs::Row, document<BOOK>))));
-  add(ofBaptism(inToolbar("print", line("indice", "Índi&ce del libro…", "Ctrl+I",
-                                        "Las partidas del libro por apellidos, con folio y número",
-                                        BOOKS, Needs::Row, document<INDEX>))));
-  add(opening(ofBaptism(inToolbar(
-      "print", line("duplicadas", "&Duplicadas de bautismo…", "Ctrl+P",
-                    "Las partidas de un año, para enviarlas a la diócesis", REPORTS, Needs::Nothing,
-                    [](Workplace& w, const Choice& c) { w.showDuplicate(nodeName(c)); })))));
+  const auto add = [&](Command c) { all.push_back(std::move(c)); };
+  add(inToolbar("print", document("certificado", "&Certificado…", "Ctrl+P",
+                                  "Certificado de la partida, firmado por el encargado del archivo",
+                                  ENTRIES)));
+  add(document("literal", "Certificado &literal…", "Ctrl+L", "Copia literal de la partida, firmada",
+               ENTRIES));
+  add(document("partida", "&Partida…", "Ctrl+E", "La partida tal como está en el libro", ENTRIES));
+  add(document("volante", "&Volante…", "Ctrl+T", "Volante con las señas de la parroquia", ENTRIES));
+  add(inToolbar("print", document("datos", "&Datos de la solicitud…", "Ctrl+P",
+                                  "Hoja con los datos de la solicitud", REQUESTS)));
+  add(inToolbar("print", document("libro", "&Libro entero…", "Ctrl+P",
+                                  "Todas las partidas del libro, una tras otra", BOOKS)));
+  add(inToolbar("print",
+                document("indice", "Índi&ce del libro…", "Ctrl+I",
+                         "Las partidas del libro por apellidos, con folio y número", BOOKS)));
+  add(opening(inToolbar(
+      "print", document("duplicadas", "&Duplicadas…", "Ctrl+P",
+                        "Las partidas de un año, para enviarlas a la diócesis", REPORTS))));
 }
 
 void addWindowCommands(std::vector<Command>& all) {
@@ -272,7 +265,10 @@ const std::vector<Command>& commands() {
 bool belongs(const Command& command, const Choice& choice) {
   if (command.kinds == 0) return true;
   if (!choice.node || !(command.kinds & bit(choice.node->kind))) return false;
-  return !command.onlyBaptism || choice.node->sacrament == &BAUTISMO;
+  const Sacramento* sacrament = choice.node->sacrament;
+  if (command.document)
+    return sacrament && documento(*sacrament, command.id, choice.edition) != nullptr;
+  return !command.onlyBaptism || sacrament == &BAUTISMO;
 }
 
 bool applies(const Command& command, const Choice& choice) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -20,6 +21,7 @@ struct Choice {
   const NodeView* node = nullptr;
   std::int32_t id = 0;  // key of the chosen row, 0 when none is
   bool annulled = false;
+  std::string edition = {};  // of the parish
 };
 
 /// One command of the program. All menus, the toolbar and the keys come from these lines.
@@ -35,9 +37,10 @@ struct Command {
   unsigned kinds = 0;  // bits of NodeKind; 0: everywhere
   Needs needs = Needs::Nothing;
   bool onlyBaptism = false;
+  bool document = false;     // stands in the catalogue of documents, for those who have one
   bool refreshes = true;     // may have changed rows
   bool destructive = false;  // may take rows away for good
-  void (*run)(Workplace&, const Choice&) = nullptr;
+  std::function<void(Workplace&, const Choice&)> run;
 };
 
 const std::vector<Command>& commands();

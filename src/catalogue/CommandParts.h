@@ -7,7 +7,7 @@
 
 namespace fidaleon::app {
 
-using Run = void (*)(Workplace&, const Choice&);
+using Run = std::function<void(Workplace&, const Choice&)>;
 
 inline Command line(const char* id, const char* text, const char* shortcut, const char* tip,
                     unsigned kinds, Needs needs, Run run) {
@@ -18,7 +18,7 @@ inline Command line(const char* id, const char* text, const char* shortcut, cons
   c.tip = tip;
   c.kinds = kinds;
   c.needs = needs;
-  c.run = run;
+  c.run = std::move(run);
   return c;
 }
 

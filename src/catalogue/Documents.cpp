@@ -1,53 +1,28 @@
 #include "catalogue/Documents.h"
 
 #include <memory>
-#include <stdexcept>
 
 #include "catalogue/Annulled.h"
 #include "catalogue/BookHeader.h"
 #include "catalogue/ReportProgress.h"
 #include "catalogue/Templates.h"
 #include "core/contract/CcNodos.h"
-#include "core/contract/Sacramento.h"
-#include "paper/DocumentCatalogue.h"
+#include "core/statements/Sentencia.h"
 #include "paper/ScratchTables.h"
 #include "parish/Desk.h"
 #include "text/Dates.h"
+#include "text/Utf8.h"
 
 namespace fidaleon::app {
 namespace {
 
 using Editions = FDAPI::cCAplicacion;
-using Signed = void (cNucleo::*)(FDAPI::Conexion&, FDAPI::Conexion&, std::int32_t,
-                                 const std::string&, const std::string&);
-using Plain = void (cNucleo::*)(FDAPI::Conexion&, FDAPI::Conexion&, std::int32_t);
 
-template <Signed OPERATION>
-void runSigned(DocumentRun& r) {
-  (r.nucleo.*OPERATION)(r.parish, r.reports, r.id, r.keeper, r.date);
-}
-
-template <Plain OPERATION>
-void runPlain(DocumentRun& r) {
-  (r.nucleo.*OPERATION)(r.parish, r.reports, r.id);
-}
-
-bool isAnnulled(FDAPI::Conexion& parish, std::int32_t id) {
+bool isAnnulled(FDAPI::Conexion& parish, const Sacramento& sacrament, std::int32_t id) {
   const auto rows =
-      parish.Execute("SELECT Anulada FROM Bautismo WHERE IDBautismo=" + std::to_string(id));
+      parish.Execute(sentencia(sacrament, "SELECT Anulada FROM {Partidas} WHERE {IDPartida}=") +
+                     std::to_string(id));
   return !rows.EOF_() && rows.flag("Anulada");
-}
-
-constexpr NodeKind ENTRY = NodeKind::Entries;
-constexpr NodeKind REQUEST = NodeKind::Requests;
-constexpr NodeKind BOOK = NodeKind::Books;
-constexpr const char* MENORCA = Editions::APP_FIDALEON_MENORCA;
-constexpr const char* SANTIAGO = Editions::APP_FIDALEON_SANTIAGO;
-
-const paper::Document& paperOf(const std::string& operation) {
-  const paper::Document* paper = paper::documentOf(operation);
-  if (!paper) throw std::logic_error("Documento sin plantilla: " + operation);
-  return *paper;
 }
 
 // What a run that failed left half done must not be printed, nor hold back the runs after it.
@@ -63,6 +38,7 @@ void startAfresh(FDAPI::Conexion& reports) {
 void markAnnulled(paper::ReportOptions& options, Annulled annulled) {
   if (annulled.places() == 0) return;
   const auto shared = std::make_shared<const Annulled>(std::move(annulled));
+  options.columns << shared->columns();
   options.mark = [shared](const paper::Row& row) { return shared->mark(row); };
 }
 
@@ -75,104 +51,113 @@ QString withoutKeeper(const std::string& date) {
 }
 
 // Nothing when there are no rows.
-std::optional<paper::Report> layOut(Desk& desk, const paper::Document& paper,
-                                    paper::ReportOptions options) {
+std::optional<paper::Report> layOut(Desk& desk, const std::string& templateName,
+                                    const std::string& title, paper::ReportOptions options) {
   if (keptAsSample(desk.parish())) options.stamp = QStringLiteral("MUESTRA");
-  paper::Report report(desk.reports(), templateDirectory(), paper.templateName, paper.title,
-                       std::move(options));
+  paper::Report report(desk.reports(), templateDirectory(), templateName,
+                       QString::fromStdString(title), std::move(options));
   if (report.rowCount() == 0) return {};
   return report;
 }
 
+struct Run {
+  Desk& desk;
+  const Documento& document;
+  std::int32_t id;
+  paper::ReportOptions& options;
+};
+
+void writeSigned(Run& r, const PasoFirmado& step) {
+  cNucleo& nucleo = r.desk.nucleo();
+  std::string keeper, date;
+  nucleo.SelecEncargado(r.desk.parish(), r.document.sacramento->palabra, r.id, date, keeper);
+  if (keeper.empty()) r.options.notices << withoutKeeper(date);
+  startAfresh(r.desk.reports());
+  (nucleo.*step.operacion)(r.desk.parish(), r.desk.reports(), r.id, keeper, date);
+}
+
+void writeRows(Run& r) {
+  if (const auto* step = std::get_if<PasoFirmado>(&r.document.paso)) return writeSigned(r, *step);
+  startAfresh(r.desk.reports());
+  if (const auto* step = std::get_if<PasoSimple>(&r.document.paso))
+    (r.desk.nucleo().*step->operacion)(r.desk.parish(), r.desk.reports(), r.id);
+  else if (r.document.clase == ClaseDocumento::Duplicada)
+    r.desk.nucleo().ImprimirDuplicadas(
+        r.desk.parish(), r.desk.reports(),
+        CcNodos::PARTIDAS + std::string(r.document.sacramento->palabra), r.options.order);
+}
+
+/// What the rows do not say: which of them are annulled, and whose book it is.
+void addOfTheParish(Run& r) {
+  const bool catalan = r.document.edicion == std::string_view(Editions::APP_FIDALEON_MENORCA);
+  const QString word = annulledMark(catalan);
+  const Sacramento& sacrament = *r.document.sacramento;
+  FDAPI::Conexion& parish = r.desk.parish();
+  switch (r.document.clase) {
+    case ClaseDocumento::Libro:
+      markAnnulled(r.options, Annulled(parish, sacrament, r.id, word));
+      r.options.values = bookHeader(parish, sacrament, r.id, catalan);
+      break;
+    case ClaseDocumento::Duplicada:
+      markAnnulled(r.options, Annulled(parish, sacrament, 0, word));
+      break;
+    case ClaseDocumento::Partida:
+      if (isAnnulled(parish, sacrament, r.id))
+        r.options.mark = [word](const paper::Row&) { return word; };
+      break;
+    case ClaseDocumento::Solicitud:
+    case ClaseDocumento::SinLibro:
+      break;
+  }
+}
+
+std::string known(const store::Recordset& row, const char* column) {
+  const std::string text = text::trim(row.text(column));
+  return text == "---" ? "" : text;
+}
+
+/// "García Pérez, Juan"
+std::string personOf(const store::Recordset& row, const FilasDocumento& columns) {
+  const std::string surnames =
+      text::trim(known(row, columns.primerApellido) + " " + known(row, columns.segundoApellido));
+  const std::string name = known(row, columns.nombre);
+  return surnames.empty() || name.empty() ? surnames + name : surnames + ", " + name;
+}
+
 }  // namespace
 
-const std::vector<Document>& documents() {
-  static const std::vector<Document> all{
-      {"certificado", "", "InformeCertificadoPartidaBautismo", ENTRY,
-       runSigned<&cNucleo::InformeCertificadoPartidaBautismo>},
-      {"certificado", MENORCA, "InformeCertificadoPartidaBautismoMenorca", ENTRY,
-       runSigned<&cNucleo::InformeCertificadoPartidaBautismoMenorca>},
-      {"literal", "", "InformeCertificadoLiteralPartidaBautismo", ENTRY,
-       runSigned<&cNucleo::InformeCertificadoLiteralPartidaBautismo>},
-      {"literal", MENORCA, "InformeCertificadoLiteralPartidaBautismoMenorca", ENTRY,
-       runSigned<&cNucleo::InformeCertificadoLiteralPartidaBautismoMenorca>},
-      {"partida", "", "InformePartidaBautismo", ENTRY, runPlain<&cNucleo::InformePartidaBautismo>},
-      {"partida", MENORCA, "InformePartidaBautismoMenorca", ENTRY,
-       runPlain<&cNucleo::InformePartidaBautismoMenorca>},
-      {"volante", "", "InformeVolanteBautismo", ENTRY, runPlain<&cNucleo::InformeVolanteBautismo>},
-      {"volante", MENORCA, "InformeVolanteBautismoMenorca", ENTRY,
-       runPlain<&cNucleo::InformeVolanteBautismoMenorca>},
-      {"datos", "", "InformeSolicitudPartidaBautismoDatos", REQUEST,
-       runPlain<&cNucleo::InformeSolicitudPartidaBautismoDatos>},
-      {"datos", MENORCA, "InformeSolicitudPartidaBautismoDatosMenorca", REQUEST,
-       runPlain<&cNucleo::InformeSolicitudPartidaBautismoDatosMenorca>},
-      {"datos", SANTIAGO, "InformeSolicitudPartidaBautismoDatosSantiago", REQUEST,
-       runPlain<&cNucleo::InformeSolicitudPartidaBautismoDatosSantiago>},
-      {"libro", "", "InformeLibroBautismo", BOOK, runPlain<&cNucleo::InformeLibroBautismo>},
-      {"libro", MENORCA, "InformeLibroBautismoMenorca", BOOK,
-       runPlain<&cNucleo::InformeLibroBautismoMenorca>},
-      {"indice", "", "InformeIndiceLibroBautismo", BOOK,
-       runPlain<&cNucleo::InformeIndiceLibroBautismo>},
-      {"indice", MENORCA, "InformeIndiceLibroBautismoMenorca", BOOK,
-       runPlain<&cNucleo::InformeIndiceLibroBautismoMenorca>},
-  };
-  return all;
+std::string subjectOf(store::Connection& reports, const Documento& document) {
+  const FilasDocumento* columns = filasDocumento(*document.sacramento);
+  const auto row = reports.Execute(std::string("SELECT * FROM ") + columns->tabla);
+  if (row.EOF_()) return {};
+  if (document.clase == ClaseDocumento::Libro) return known(row, "Libro");
+  if (document.clase == ClaseDocumento::Duplicada) return known(row, "Año");
+  return personOf(row, *columns);
 }
 
-const Document* findDocument(const std::string& command, const std::string& edition) {
-  const Document* common = nullptr;
-  for (const Document& d : documents()) {
-    if (d.command != command) continue;
-    if (d.edition == edition) return &d;
-    if (d.edition.empty()) common = &d;
-  }
-  return common;
-}
-
-std::optional<paper::Report> makeReport(Desk& desk, const Document& document, std::int32_t id,
+std::optional<paper::Report> makeReport(Desk& desk, const Documento& document, std::int32_t id,
                                         paper::ReportOptions options) {
-  const paper::Document& paper = paperOf(document.operation);
-  DocumentRun run{desk.nucleo(), desk.parish(), desk.reports(), id, {}, {}};
-  if (paper.signedByKeeper) {
-    run.nucleo.SelecEncargado(run.parish, BAUTISMO.palabra, id, run.date, run.keeper);
-    if (run.keeper.empty()) options.notices << withoutKeeper(run.date);
-  }
-  startAfresh(run.reports);
-  document.run(run);
-  takeBackUnfinished(run.reports);
-  const bool catalan = document.edition == MENORCA;
-  const QString word = annulledMark(catalan);
-  if (document.kind == BOOK) {
-    markAnnulled(options, Annulled(run.parish, id, word));
-    options.values = bookHeader(run.parish, id, catalan);
-  } else if (isAnnulled(run.parish, id)) {
-    options.mark = [word](const paper::Row&) { return word; };
-  }
-  return layOut(desk, paper, std::move(options));
-}
-
-std::optional<paper::Report> makeDuplicate(Desk& desk, const std::string& node,
-                                           paper::ReportOptions options) {
-  const paper::Document& paper = paperOf("ImprimirDuplicadasBautismo");
-  startAfresh(desk.reports());
-  desk.nucleo().ImprimirDuplicadas(desk.parish(), desk.reports(), node, options.order);
+  Run run{desk, document, id, options};
+  writeRows(run);
   takeBackUnfinished(desk.reports());
-  if (options.order.empty()) return {};
-  markAnnulled(options, Annulled(desk.parish()));
-  return layOut(desk, paper, std::move(options));
+  addOfTheParish(run);
+  const std::string subject = subjectOf(desk.reports(), document);
+  const std::string title = document.titulo + (subject.empty() ? "" : " - " + subject);
+  return layOut(desk, document.plantilla, title, std::move(options));
 }
 
 const std::vector<ListReport>& listReports() {
   const auto node = [](const char* title) { return CcNodos::INFORMES + std::string(title); };
   static const std::vector<ListReport> all{
-      {node(CcNodos::INFACTIVIDADES), CcNodos::ACTIVIDAD, "InformeActividad",
-       &cNucleo::SelInfActividad, &cNucleo::InformeActividad},
-      {node(CcNodos::INFCOLABORADORES), CcNodos::COLABORADOR, "InformeColaborador",
-       &cNucleo::SelInfColaborador, &cNucleo::InformeColaborador},
-      {node(CcNodos::INFCOLABORADORESEXTENDIDO), "", "InformeColaboradorExt",
-       &cNucleo::SelInfColaboradorExt, &cNucleo::InformeColaboradorExt},
-      {node(CcNodos::INFAGENDA), "Tareas", "InformeAgenda", &cNucleo::SelInfTareasAgenda,
-       &cNucleo::InformeAgenda},
+      {node(CcNodos::INFACTIVIDADES), CcNodos::ACTIVIDAD, "informe_actividades",
+       "Informe de actividades", &cNucleo::SelInfActividad, &cNucleo::InformeActividad},
+      {node(CcNodos::INFCOLABORADORES), CcNodos::COLABORADOR, "informe_colaboradores",
+       "Informe de colaboradores", &cNucleo::SelInfColaborador, &cNucleo::InformeColaborador},
+      {node(CcNodos::INFCOLABORADORESEXTENDIDO), "", "informe_colaboradores_ext",
+       "Informe de colaboradores (extendido)", &cNucleo::SelInfColaboradorExt,
+       &cNucleo::InformeColaboradorExt},
+      {node(CcNodos::INFAGENDA), "Tareas", "informe_agenda", "Informe de tareas",
+       &cNucleo::SelInfTareasAgenda, &cNucleo::InformeAgenda},
   };
   return all;
 }
@@ -185,7 +170,6 @@ const ListReport* findListReport(const std::string& node) {
 
 std::optional<paper::Report> makeListReport(Desk& desk, const ListReport& report, Extent extent,
                                             paper::ReportOptions options) {
-  const paper::Document& paper = paperOf(report.operation);
   startAfresh(desk.reports());
   bool told = true;
   if (extent == Extent::Chosen) {
@@ -196,7 +180,8 @@ std::optional<paper::Report> makeListReport(Desk& desk, const ListReport& report
     told = progress.began();
   }
   takeBackUnfinished(desk.reports());
-  std::optional<paper::Report> made = layOut(desk, paper, std::move(options));
+  std::optional<paper::Report> made =
+      layOut(desk, report.templateName, report.title, std::move(options));
   if (!made && !told) forms::warn(desk.entorno().ui, "¡No se ha encontrado ningún registro!");
   return made;
 }

@@ -6,9 +6,12 @@
 #include "core/contract/Entorno.h"
 #include "core/facade/cNucleo.h"
 
-namespace fidaleon::app {
+namespace fidaleon {
 
-struct Document;
+struct Documento;
+
+namespace app {
+
 struct ListReport;
 
 /// How much of a report on the people or tasks of the parish: what the user chooses, or all.
@@ -25,12 +28,10 @@ class Workplace {
   virtual FDAPI::Conexion& parish() = 0;
   virtual const FDAPI::cConfig& config() const = 0;
 
-  /// Writes the document of that entry and shows it. Nothing is shown when the operation wrote no
-  /// row: whoever refused has told the user.
-  virtual void showDocument(const Document& document, std::int32_t id) = 0;
-  /// Asks for the year and shows the duplicate of that node; nothing is shown when the user gave up
-  /// or the year has no entries.
-  virtual void showDuplicate(const std::string& node) = 0;
+  /// Writes the document of that entry or book and shows it; of none in particular where the
+  /// document asks by itself. Nothing is shown when the operation wrote no row: whoever refused has
+  /// told the user.
+  virtual void showDocument(const Documento& document, std::int32_t id) = 0;
   /// Asks what to print, where that is to be chosen, writes the report and shows it. An entire
   /// report without rows is told to the user.
   virtual void showListReport(const ListReport& report, Extent extent) = 0;
@@ -55,4 +56,5 @@ class Workplace {
   virtual void leave() = 0;
 };
 
-}  // namespace fidaleon::app
+}  // namespace app
+}  // namespace fidaleon

@@ -167,7 +167,10 @@ Report::Report(store::Connection& reports, const std::filesystem::path& template
   QStringList wanted = layout.columns;
   wanted << QStringLiteral("Libro") << QStringLiteral("Folio") << QStringLiteral("Numero");
   Printable printable(layout.fonts);
+  wanted << options.columns;
+  for (const SideTable& side : layout.sides) wanted << side.of;
   Rows rows(reports, layout.table.toStdString(), wanted, printable);
+  for (const SideTable& side : layout.sides) rows.add(reports, side, wanted, printable);
   const QString losses = lossesOf(rows, makePrintable(options.values, printable));
   if (!losses.isEmpty()) options.notices << losses;
   options.values[QStringLiteral("Filas")] = QString::number(rows.size());

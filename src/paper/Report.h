@@ -26,9 +26,10 @@ struct ReportOptions {
   std::string order;
   /// A word printed large across a row, such as "ANULADA", and by the template as {{@Marca}};
   /// empty for none. Asked once per row, and once more where the template counts the marked
-  /// ones. The row has the columns that the template reads, and
-  /// Libro, Folio and Numero.
+  /// ones. The row has the columns that the template reads, Libro,
+  /// Folio and Numero, and those of `columns`.
   std::function<QString(const Row&)> mark;
+  QStringList columns = {};
   /// A word printed large across every page and small above it, such as "MUESTRA"; empty for none.
   /// Where a page is one row with a mark of its own, both words stand in one.
   QString stamp;

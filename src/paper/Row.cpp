@@ -1,6 +1,6 @@
 #include "paper/Row.h"
 
-#include <QSet>
+#include <QHash>
 #include <algorithm>
 
 #include "text/Utf8.h"
@@ -18,30 +18,63 @@ QStringList columnsOf(store::Connection& connection, const std::string& table) {
 
 }  // namespace
 
-Rows::Rows(store::Connection& connection, const std::string& table, const QStringList& wanted,
-           Printable& printable) {
+std::string Rows::want(store::Connection& connection, const std::string& table,
+                       const QString& prefix, const QStringList& wanted) {
   std::string list;
   for (const QString& name : columnsOf(connection, table)) {
-    if (!wanted.contains(name, Qt::CaseInsensitive)) continue;
-    columns_.append(name);
+    if (!wanted.contains(prefix + name, Qt::CaseInsensitive)) continue;
+    columns_.append(prefix + name);
     list += (list.empty() ? "[" : ",[") + name.toStdString() + "]";
   }
+  return list;
+}
+
+void Rows::read(const store::Recordset& from, int field, std::size_t row, int column,
+                Printable& printable) {
+  const store::Field stored = from.Fields(field);
+  if (stored.Value().isNull()) return;
+  const std::string text = text::sanitized(stored.Value().text());
+  const Printable::Text made = printable.of(QString::fromStdString(text));
+  rows_[row][static_cast<std::size_t>(column)] = *known_.insert(made.text);
+  if (made.lost) losses_.push_back({row, column});
+}
+
+Rows::Rows(store::Connection& connection, const std::string& table, const QStringList& wanted,
+           Printable& printable) {
+  const std::string list = want(connection, table, {}, wanted);
   // A template without a column still has a page for each row.
   store::Recordset rows =
       connection.Execute("SELECT " + (list.empty() ? "1" : list) + " FROM " + table);
   const int count = static_cast<int>(columns_.size());
-  // Names of towns and parishes come again and again: rows share them.
-  QSet<QString> known;
   for (; !rows.EOF_(); rows.MoveNext()) {
-    std::vector<QString>& row = rows_.emplace_back(static_cast<std::size_t>(count));
-    for (int i = 0; i < count; ++i) {
-      const store::Field field = rows.Fields(i);
-      if (field.Value().isNull()) continue;
-      const std::string stored = text::sanitized(field.Value().text());
-      const Printable::Text made = printable.of(QString::fromStdString(stored));
-      row[static_cast<std::size_t>(i)] = *known.insert(made.text);
-      if (made.lost) losses_.push_back({rows_.size() - 1, i});
-    }
+    rows_.emplace_back(static_cast<std::size_t>(count));
+    for (int i = 0; i < count; ++i) read(rows, i, rows_.size() - 1, i, printable);
+  }
+}
+
+void Rows::add(store::Connection& connection, const SideTable& side, const QStringList& wanted,
+               Printable& printable) {
+  const int first = static_cast<int>(columns_.size());
+  const std::string table = side.table.toStdString();
+  const std::string list = want(connection, table, side.name + QLatin1Char('.'), wanted);
+  const int link = position(side.of);
+  if (list.empty() || link < 0) return;
+  QHash<QString, std::size_t> places;  // of the rows that have no side row yet
+  for (std::size_t i = 0; i < rows_.size(); ++i) {
+    rows_[i].resize(static_cast<std::size_t>(columns_.size()));
+    places.insert(value(i, link), i);
+  }
+  const std::string which = side.where.isEmpty() ? "1" : "[" + side.where.toStdString() + "]";
+  const std::string is = side.where.isEmpty() ? "1" : side.is.toStdString();
+  store::Recordset rows = connection.Execute("SELECT " + which + ",[" + side.key.toStdString() +
+                                             "]," + list + " FROM " + table);
+  for (; !rows.EOF_(); rows.MoveNext()) {
+    if (rows.Fields(0).Value().text() != is) continue;
+    const auto place = places.find(QString::fromStdString(rows.Fields(1).Value().text()));
+    if (place == places.end()) continue;
+    for (int i = first; i < columns_.size(); ++i)
+      read(rows, i - first + 2, place.value(), i, printable);
+    places.erase(place);
   }
 }
 

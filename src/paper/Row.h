@@ -1,11 +1,13 @@
 #pragma once
 
+#include <QSet>
 #include <QString>
 #include <QStringList>
 #include <string>
 #include <vector>
 
 #include "paper/Printable.h"
+#include "paper/Template.h"
 #include "store/Connection.h"
 
 namespace fidaleon::paper {
@@ -18,6 +20,12 @@ class Rows {
   Rows(store::Connection& connection, const std::string& table, const QStringList& wanted,
        Printable& printable);
   Rows(QStringList columns, std::vector<std::vector<QString>> rows);
+
+  /// Adds the columns of a side table that are wanted; a row without a side row has Null there, and
+  /// of several side rows it takes the first. To be called before the rows change their order.
+  /// Throws store::Error.
+  void add(store::Connection& connection, const SideTable& side, const QStringList& wanted,
+           Printable& printable);
 
   std::size_t size() const { return rows_.size(); }
   const QStringList& columns() const { return columns_; }
@@ -38,9 +46,18 @@ class Rows {
   const std::vector<Loss>& losses() const { return losses_; }
 
  private:
+  /// The columns of the table that are wanted, each with `prefix` in front, as those of the rows;
+  /// the list of a SELECT.
+  std::string want(store::Connection& connection, const std::string& table, const QString& prefix,
+                   const QStringList& wanted);
+  void read(const store::Recordset& from, int field, std::size_t row, int column,
+            Printable& printable);
+
   QStringList columns_;
   std::vector<std::vector<QString>> rows_;
   std::vector<Loss> losses_;
+  // Names of towns and parishes come again and again: rows share them.
+  QSet<QString> known_;
 };
 
 /// One row, as it is handed to the caller's questions about it.

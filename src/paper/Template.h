@@ -132,6 +132,17 @@ struct GroupHead {
   std::vector<Block> blocks;
 };
 
+/// A second table, of which each row of the principal one may have a row. Its columns are named
+/// with its name in front: "novio.NombreNovio".
+struct SideTable {
+  QString name;
+  QString table;
+  QString key;    // its column that holds the value of `of`
+  QString of;     // column of the principal table
+  QString where;  // where a row has several there: the column that tells which one is meant, and
+  QString is;     // its value; otherwise empty
+};
+
 struct ReportTemplate {
   qreal leftMargin(int pageNumber) const {
     return mirrored && pageNumber % 2 == 0 ? marginRight : marginLeft;
@@ -139,6 +150,7 @@ struct ReportTemplate {
 
   QString name;
   QString table;
+  std::vector<SideTable> sides;
   QString language = QStringLiteral("es");
   QSizeF page{210, 297};
   qreal marginTop = 20, marginRight = 20, marginBottom = 20, marginLeft = 20;

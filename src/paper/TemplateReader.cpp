@@ -102,6 +102,7 @@ class Reader {
  private:
   void readTop(const XmlNode& node) {
     static const QHash<QString, void (Reader::*)(const XmlNode&)> known{
+        {QStringLiteral("side"), &Reader::readSide},
         {QStringLiteral("page"), &Reader::readPage},
         {QStringLiteral("font"), &Reader::readFont},
         {QStringLiteral("style"), &Reader::readStyle},
@@ -120,6 +121,18 @@ class Reader {
     const auto found = known.find(node.name);
     if (found == known.end()) failUnknown(node);
     (this->*found.value())(node);
+  }
+
+  void readSide(const XmlNode& node) {
+    Attributes a(node);
+    SideTable side{a.text("name"), a.text("table"), a.text("key"),
+                   a.text("of"),   a.text("where"), a.text("is")};
+    a.done();
+    if (side.name.isEmpty() || side.table.isEmpty() || side.key.isEmpty() || side.of.isEmpty())
+      failAt(node, QStringLiteral("«side» necesita «name», «table», «key» y «of»"));
+    if (side.where.isEmpty() != side.is.isEmpty())
+      failAt(node, QStringLiteral("«where» e «is» van juntos"));
+    t_.sides.push_back(std::move(side));
   }
 
   void readPage(const XmlNode& node) {

@@ -144,7 +144,7 @@ class Demo : private DemoWalk {
 
   void document(const std::string& command, std::int32_t id, bool isSigned) {
     if (isSigned) user().expectForm("frmEncargado", demo::chooseKeeper);
-    const Document* d = findDocument(command, desk().entorno().installation.Aplicacion);
+    const Documento* d = documento(BAUTISMO, command, desk().entorno().installation.Aplicacion);
     const std::optional<paper::Report> report = makeReport(desk(), *d, id);
     check(report && report->rowCount() == 1, "el documento tiene una fila");
     const auto row = desk().reports().Execute("SELECT * FROM Documentos_Bautismo");
@@ -217,13 +217,13 @@ class Demo : private DemoWalk {
   }
 
   void printBook(const std::string& command) {
-    const Document* d = findDocument(command, desk().entorno().installation.Aplicacion);
+    const Documento* d = documento(BAUTISMO, command, desk().entorno().installation.Aplicacion);
     save(makeReport(desk(), *d, 1), 6, command, "partidas");
   }
 
   void duplicate() {
     user().expectForm("frmInfDuplicadas", demo::chooseDuplicate);
-    const auto report = makeDuplicate(desk(), CcNodos::INFDUPLICADASBAUTISMO);
+    const auto report = makeReport(desk(), *documento("ImprimirDuplicadasBautismo"), 0);
     const auto rows = desk().reports().Execute("SELECT * FROM Documentos_Bautismo");
     check(rows.text("NombreHijo") == "Candela", "las partidas van por apellidos");
     save(report, 2, "duplicado", "partidas");

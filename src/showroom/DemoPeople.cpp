@@ -44,10 +44,10 @@ class People {
     w_.step("Se crea una actividad con dos grupos", [this] { activity(); });
     w_.step("Se da de alta a un colaborador en los dos grupos", [this] { collaborator(); });
     w_.step("Se apunta una tarea en la agenda", [this] { task(); });
-    w_.step("Se imprime el informe de actividades", [this] { report("InformeActividad", 2); });
-    w_.step("Se imprime el de colaboradores", [this] { report("InformeColaborador", 3); });
-    w_.step("Se imprime el extendido", [this] { report("InformeColaboradorExt", 3); });
-    w_.step("Se imprime la agenda del año", [this] { report("InformeAgenda", 1); });
+    w_.step("Se imprime el informe de actividades", [this] { report("informe_actividades", 2); });
+    w_.step("Se imprime el de colaboradores", [this] { report("informe_colaboradores", 3); });
+    w_.step("Se imprime el extendido", [this] { report("informe_colaboradores_ext", 3); });
+    w_.step("Se imprime la agenda del año", [this] { report("informe_agenda", 1); });
     w_.step("Se elige qué grupo se imprime", [this] { chosenGroup(); });
     w_.step("Se quita un cargo y con él sus puestos, pero a nadie", [this] { removeOffice(); });
   }
@@ -223,10 +223,10 @@ class People {
     w_.check(w_.single("SELECT HoraInicio FROM Tareas") == "0930", "la tarea empieza a las 9:30");
   }
 
-  void report(const std::string& operation, std::size_t rows) {
+  void report(const std::string& templateName, std::size_t rows) {
     for (const ListReport& r : listReports())
-      if (r.operation == operation)
-        w_.save(makeListReport(w_.desk(), r, Extent::Entire), rows, operation, "filas");
+      if (r.templateName == templateName)
+        w_.save(makeListReport(w_.desk(), r, Extent::Entire), rows, templateName, "filas");
   }
 
   void chosenGroup() {
@@ -238,7 +238,7 @@ class People {
       d.click(at("cmdBoton", frmInfActividad::ACEPTAR));
     });
     for (const ListReport& r : listReports())
-      if (r.operation == "InformeColaborador")
+      if (r.templateName == "informe_colaboradores")
         w_.save(makeListReport(w_.desk(), r, Extent::Chosen), 1, "grupo-elegido", "filas");
   }
 

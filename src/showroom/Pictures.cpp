@@ -159,25 +159,13 @@ class EditionSitting {
   }
 
   void documents() {
-    for (const Document& d : app::documents()) {
-      if (findDocument(d.command, edition_.code) != &d) continue;
-      const std::int32_t id = d.kind == NodeKind::Requests ? request()
-                              : d.kind == NodeKind::Books  ? LAST_BOOK
-                                                           : 1;
-      user_.pose = acceptKeeper;
-      const auto report = makeReport(*desk_, d, id);
+    for (const Documento& d : documentos()) {
+      if (documento(*d.sacramento, d.orden, edition_.code) != &d) continue;
+      user_.pose = d.clase == ClaseDocumento::Duplicada ? chooseDuplicate() : acceptKeeper;
+      const auto report = makeReport(*desk_, d, sampleOf(d.clase));
       user_.pose = {};
-      album_.add(documentName(d.command), report);
+      album_.add(documentName(d.orden), report);
     }
-    user_.pose = [year = lastYear()](forms::FormDriver& d) {
-      d.chooseData("cboInstitucion", OWN);
-      d.type("adtpAno", year);
-      d.choose("cboOrden", "Fecha de Bautismo");
-      d.click("cmdBoton(0)");
-    };
-    const auto duplicate = makeDuplicate(*desk_, DUPLICATE);
-    user_.pose = {};
-    album_.add(documentName("duplicado"), duplicate);
   }
 
   void windows() {
@@ -195,7 +183,7 @@ class EditionSitting {
     album_.add("ventana-filtrada", window);
     window.showEntriesOf(LAST_BOOK);
     album_.add("ventana-partidas-de-un-libro", window);
-    const Document* d = findDocument("certificado", edition_.code);
+    const Documento* d = documento(BAUTISMO, "certificado", edition_.code);
     user_.pose = acceptKeeper;
     if (auto report = makeReport(*desk_, *d, 1)) {
       PreviewDialog preview(std::move(*report));
@@ -261,6 +249,19 @@ class EditionSitting {
     return one("SELECT MAX(IDBautismo) AS ID FROM Bautismo WHERE CodLibro=0");
   }
 
+  std::int32_t sampleOf(ClaseDocumento what) {
+    return what == ClaseDocumento::Solicitud ? request()
+           : what == ClaseDocumento::Libro   ? LAST_BOOK
+                                             : 1;
+  }
+  std::function<void(forms::FormDriver&)> chooseDuplicate() {
+    return [year = lastYear()](forms::FormDriver& d) {
+      d.chooseData("cboInstitucion", OWN);
+      d.type("adtpAno", year);
+      d.choose("cboOrden", "Fecha de Bautismo");
+      d.click("cmdBoton(0)");
+    };
+  }
   static void acceptKeeper(forms::FormDriver& d) { d.click("cmdBoton(0)"); }
 
   static constexpr const char* ENTRIES = "PartidasBautismo";

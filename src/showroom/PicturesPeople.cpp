@@ -50,7 +50,8 @@ class People {
     tasks();
     reportDialogs();
     for (const ListReport& r : listReports())
-      album_.add("documento-" + plainName(r.operation), makeListReport(desk_, r, Extent::Entire));
+      album_.add("documento-" + plainName(r.templateName),
+                 makeListReport(desk_, r, Extent::Entire));
   }
 
  private:

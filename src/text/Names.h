@@ -13,4 +13,8 @@ std::string withoutQuotes(std::string_view s, std::size_t most = 0);
 /// The same name but for case and for blanks, wherever they stand.
 bool sameName(std::string_view a, std::string_view b);
 
+/// What a file of any system may be called after this text: a slash becomes "-", what no name may
+/// hold goes, and so does what makes it longer than `mostBytes`. May come out empty.
+std::string fileName(std::string_view s, std::size_t mostBytes = 200);
+
 }  // namespace fidaleon::text

@@ -133,6 +133,7 @@ void MainWindow::setScope(std::int32_t group, const QString& name) {
 Choice MainWindow::choice() const {
   Choice c;
   c.node = node_;
+  c.edition = desk_.entorno().installation.Aplicacion;
   const QModelIndex index = shown_.mapToSource(table_->currentIndex());
   if (!index.isValid() || !table_->selectionModel()->hasSelection()) return c;
   c.id = rows_.key(index.row());
@@ -256,15 +257,10 @@ void MainWindow::openChosen() {
     if (command.opens && applies(command, choice())) return run(command);
 }
 
-void MainWindow::showDocument(const Document& document, std::int32_t id) {
+void MainWindow::showDocument(const Documento& document, std::int32_t id) {
   preview([&](paper::ReportOptions options) {
     return makeReport(desk_, document, id, std::move(options));
   });
-}
-
-void MainWindow::showDuplicate(const std::string& node) {
-  preview(
-      [&](paper::ReportOptions options) { return makeDuplicate(desk_, node, std::move(options)); });
 }
 
 void MainWindow::showListReport(const ListReport& report, Extent extent) {

@@ -81,8 +81,7 @@ class MainWindow : public QMainWindow, private Workplace {
   Entorno& entorno() override { return desk_.entorno(); }
   FDAPI::Conexion& parish() override { return desk_.parish(); }
   const FDAPI::cConfig& config() const override { return desk_.config(); }
-  void showDocument(const Document& document, std::int32_t id) override;
-  void showDuplicate(const std::string& node) override;
+  void showDocument(const Documento& document, std::int32_t id) override;
   void showListReport(const ListReport& report, Extent extent) override;
   void focusFilter() override;
   void saveList() override;

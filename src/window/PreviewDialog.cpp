@@ -22,6 +22,7 @@
 #include <cmath>
 
 #include "qt/Appearance.h"
+#include "text/Names.h"
 #include "window/Icons.h"
 
 namespace fidaleon::app {
@@ -278,9 +279,9 @@ void PreviewDialog::print() {
 
 void PreviewDialog::savePdf() {
   const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-  QString file = QFileDialog::getSaveFileName(this, tr("Guardar como PDF"),
-                                              folder + "/" + report_.title() + ".pdf",
-                                              tr("Documentos PDF (*.pdf)"));
+  const QString name = QString::fromStdString(text::fileName(report_.title().toStdString()));
+  QString file = QFileDialog::getSaveFileName(
+      this, tr("Guardar como PDF"), folder + "/" + name + ".pdf", tr("Documentos PDF (*.pdf)"));
   if (file.isEmpty()) return;
   if (!file.endsWith(".pdf", Qt::CaseInsensitive)) file += ".pdf";
   work(tr("Guardando el documento…"), [&] { report_.savePdf(file.toStdString()); });

@@ -28,8 +28,7 @@ class BookReports : public ParishTest {
   void SetUp() override { create(); }
 
   std::optional<paper::Report> make(const char* command, paper::ReportOptions options = {}) {
-    return makeReport(*desk, *findDocument(command, FDAPI::cCAplicacion::APP_FIDALEON_MADRID), BOOK,
-                      std::move(options));
+    return makeReport(*desk, *documento(BAUTISMO, command, ""), BOOK, std::move(options));
   }
   static void ask(forms::FormDriver& d, const std::string& year) {
     d.chooseData("cboInstitucion", 1);
@@ -39,7 +38,7 @@ class BookReports : public ParishTest {
   }
   std::optional<paper::Report> duplicate(const std::string& year) {
     user.expectForm("frmInfDuplicadas", [year](forms::FormDriver& d) { ask(d, year); });
-    return makeDuplicate(*desk, CcNodos::INFDUPLICADASBAUTISMO);
+    return make("duplicadas");
   }
   std::int64_t entriesOfBook() {
     return count("SELECT COUNT(IDBautismo) FROM Bautismo WHERE CodLibro=2");
@@ -101,13 +100,42 @@ TEST_F(BookReports, bookWithoutEntries_isNothing) {
   EXPECT_FALSE(make("libro"));
 }
 
+TEST_F(BookReports, annulledEntry_isMarkedOnEachOfItsOwnDocuments) {
+  user.answerAnything(forms::Answer::Ok);
+  const auto page = [&](const Documento& d) {
+    if (d.firmado()) user.expectForm("frmEncargado", [](forms::FormDriver& u) { u.escape(); });
+    return makeReport(*desk, d, BOOK)->pageImage(0, 40);
+  };
+  for (const Documento& d : documentos()) {
+    if (d.sacramento != &BAUTISMO || d.clase != ClaseDocumento::Partida) continue;
+    onlyAnnulled("IDBautismo<>2");
+    const QImage valid = page(d);
+    onlyAnnulled("IDBautismo=2");
+    EXPECT_NE(page(d), valid) << d.operacion;
+  }
+}
+
+TEST_F(BookReports, title_saysOfWhomOrWhatItIs) {
+  desk->parish().Execute(
+      "UPDATE Bautismo_Hijo SET Nombre=\"Juan\", PrimerApellido=\"García\", "
+      "SegundoApellido=\"Pérez\" WHERE CodBautismo=2");
+  desk->parish().Execute("UPDATE Libro_Bautismo SET Nombre=\"1998/01\" WHERE IDLibroBautismo=2");
+  EXPECT_EQ(make("partida")->title(), "Partida de bautismo - García Pérez, Juan");
+  EXPECT_EQ(make("libro")->title(), "Libro de bautismos - 1998/01");
+  desk->parish().Execute(
+      "UPDATE Bautismo_Hijo SET Nombre=\"---\", SegundoApellido=\"---\" WHERE CodBautismo=2");
+  EXPECT_EQ(make("partida")->title(), "Partida de bautismo - García");
+  desk->parish().Execute("UPDATE Bautismo_Hijo SET PrimerApellido=\"\" WHERE CodBautismo=2");
+  EXPECT_EQ(make("partida")->title(), "Partida de bautismo");
+}
+
 TEST_F(BookReports, annulledEntries_areMarkedAndNoOthers) {
   onlyAnnulled("CodLibro=2 AND Folio IN (2, 5)");
   annul("CodLibro=1 AND Folio=1");
   ASSERT_TRUE(make("libro"));
-  EXPECT_EQ(marked(Annulled(desk->parish(), BOOK)), 2);
+  EXPECT_EQ(marked(Annulled(desk->parish(), BAUTISMO, BOOK)), 2);
   ASSERT_TRUE(make("indice"));
-  EXPECT_EQ(marked(Annulled(desk->parish(), BOOK)), 2);
+  EXPECT_EQ(marked(Annulled(desk->parish(), BAUTISMO, BOOK)), 2);
 }
 
 TEST_F(BookReports, onAPlaceHeldTwice_theNameOfTheChildDecides) {
@@ -117,7 +145,7 @@ TEST_F(BookReports, onAPlaceHeldTwice_theNameOfTheChildDecides) {
       "UPDATE Bautismo_Hijo SET Nombre=\"Otra\" WHERE CodBautismo IN (SELECT IDBautismo FROM "
       "Bautismo WHERE CodLibro=2 AND Folio=2 AND Anulada=false)");
   ASSERT_TRUE(make("libro"));
-  EXPECT_EQ(marked(Annulled(desk->parish(), BOOK)), 1);
+  EXPECT_EQ(marked(Annulled(desk->parish(), BAUTISMO, BOOK)), 1);
 }
 
 TEST_F(BookReports, duplicate_hasTheYearAndMarksItsAnnulledEntries) {
@@ -134,7 +162,7 @@ TEST_F(BookReports, duplicate_hasTheYearAndMarksItsAnnulledEntries) {
   ASSERT_TRUE(report);
   const std::int64_t entries = count("SELECT COUNT(IDBautismo) FROM Bautismo WHERE " + ofYear);
   EXPECT_EQ(static_cast<std::int64_t>(report->rowCount()), entries);
-  EXPECT_EQ(marked(Annulled(desk->parish())), entries);
+  EXPECT_EQ(marked(Annulled(desk->parish(), BAUTISMO)), entries);
   EXPECT_THAT(user.problems(), ::testing::IsEmpty());
 }
 
@@ -152,7 +180,7 @@ TEST_F(BookReports, duplicate_thatFailsInTheMiddle_leavesNoTransactionAndNoRow) 
     ask(d, "2015");
     d.form().Unload();
   });
-  EXPECT_FALSE(makeDuplicate(*desk, CcNodos::INFDUPLICADASBAUTISMO));
+  EXPECT_FALSE(make("duplicadas"));
   EXPECT_FALSE(desk->reports().inTransaction());
   EXPECT_EQ(desk->reports().Execute("SELECT * FROM Documentos_Bautismo").RecordCount(), 0);
 }
@@ -178,7 +206,7 @@ TEST_F(BookReports, stoppedWhileItsRowsAreWritten_isNothingAndCanBeAskedForAgain
     EXPECT_EQ(desk->reports().Execute("SELECT * FROM Documentos_Bautismo").RecordCount(), 0);
     d.form().Unload();
   });
-  EXPECT_FALSE(makeDuplicate(*desk, CcNodos::INFDUPLICADASBAUTISMO));
+  EXPECT_FALSE(make("duplicadas"));
   EXPECT_EQ(impatient.messages().size(), 2u);
   impatient.stops = false;
   const auto report = make("libro");
@@ -191,19 +219,19 @@ TEST_F(BookReports, header_namesInstitutionDioceseAndTown) {
   desk->parish().Execute(
       "UPDATE Institucion SET InstitucionNombre=\"San Blas Mártir\", InstitucionTipo=\"Parroquia "
       "de\", Diocesis=\"Madrid\"");
-  paper::GivenValues values = bookHeader(desk->parish(), BOOK, false);
+  paper::GivenValues values = bookHeader(desk->parish(), BAUTISMO, BOOK, false);
   EXPECT_EQ(values["Institucion"], "Parroquia de San Blas Mártir");
   EXPECT_EQ(values["Diocesis"], "Diócesis de Madrid");
   EXPECT_EQ(values["Poblacion"], "Buitrago del Lozoya (Madrid)");
-  EXPECT_EQ(bookHeader(desk->parish(), BOOK, true)["Diocesis"], "Diòcesi de Madrid");
+  EXPECT_EQ(bookHeader(desk->parish(), BAUTISMO, BOOK, true)["Diocesis"], "Diòcesi de Madrid");
   desk->parish().Execute(
       "UPDATE Institucion SET InstitucionNombre=\"\", Diocesis=\"Archidiócesis de Toledo\", "
       "CodMunicipio=0");
-  values = bookHeader(desk->parish(), BOOK, false);
+  values = bookHeader(desk->parish(), BAUTISMO, BOOK, false);
   EXPECT_EQ(values["Institucion"], "San Blas");
   EXPECT_EQ(values["Diocesis"], "Archidiócesis de Toledo");
   EXPECT_EQ(values["Poblacion"], "");
-  EXPECT_TRUE(bookHeader(desk->parish(), 99, false).empty());
+  EXPECT_TRUE(bookHeader(desk->parish(), BAUTISMO, 99, false).empty());
 }
 
 TEST_F(BookReports, certificateWithoutKeeper_isSaidAboveItsPage) {

@@ -8,7 +8,6 @@
 #include "catalogue/Command.h"
 #include "catalogue/Documents.h"
 #include "core/contract/FDAPI.h"
-#include "paper/DocumentCatalogue.h"
 #include "text/Utf8.h"
 
 namespace fidaleon::app {
@@ -119,31 +118,30 @@ TEST(Documents, everyReportNodeHasItsReport_withATemplate) {
     ++nodes;
     const ListReport* report = findListReport(v.node.Nombre);
     ASSERT_TRUE(report) << v.node.Nombre;
-    EXPECT_TRUE(paper::documentOf(report->operation)) << report->operation;
     EXPECT_EQ(given({&v, 0, false}), (Ids{"informe", "informe-entero"}));
   }
   EXPECT_EQ(nodes, 4);
-  EXPECT_EQ(findListReport("Colaboradores")->operation, "InformeColaborador");
+  EXPECT_EQ(findListReport("Colaboradores")->templateName, "informe_colaboradores");
   EXPECT_FALSE(findListReport("Padrón"));
 }
 
-TEST(Documents, everyEditionHasEachDocument_withATemplate) {
+TEST(Documents, anEntryIsOfferedThoseOfItsSacrament_inTheEditionOfTheParish) {
   using E = FDAPI::cCAplicacion;
   for (const char* edition : {E::APP_FIDALEON_MADRID, E::APP_FIDALEON_SANTIAGO,
                               E::APP_FIDALEON_ZARAGOZA, E::APP_FIDALEON_MENORCA})
-    for (const char* command :
-         {"certificado", "literal", "partida", "volante", "datos", "libro", "indice"}) {
-      const Document* d = findDocument(command, edition);
-      ASSERT_TRUE(d) << command;
-      EXPECT_TRUE(paper::documentOf(d->operation)) << d->operation;
+    for (const NodeView& v : nodeViews()) {
+      if (!v.sacrament) continue;
+      for (const Command& c : commands()) {
+        if (!c.document || !(c.kinds & bit(v.kind))) continue;
+        const Documento* d = documento(*v.sacrament, c.id, edition);
+        EXPECT_EQ(belongs(c, {&v, 1, false, edition}), d != nullptr) << v.node.Nombre << c.id;
+        EXPECT_TRUE(!d || d->sacramento == v.sacrament) << c.id;
+      }
     }
-  EXPECT_EQ(findDocument("datos", E::APP_FIDALEON_SANTIAGO)->operation,
-            "InformeSolicitudPartidaBautismoDatosSantiago");
-  EXPECT_EQ(findDocument("certificado", E::APP_FIDALEON_MENORCA)->operation,
-            "InformeCertificadoPartidaBautismoMenorca");
-  EXPECT_EQ(findDocument("libro", E::APP_FIDALEON_MENORCA)->operation,
-            "InformeLibroBautismoMenorca");
-  EXPECT_EQ(findDocument("volante", E::APP_FIDALEON_ZARAGOZA)->operation, "InformeVolanteBautismo");
+  EXPECT_STREQ(documento(BAUTISMO, "datos", E::APP_FIDALEON_SANTIAGO)->operacion,
+               "InformeSolicitudPartidaBautismoDatosSantiago");
+  EXPECT_STREQ(documento(BAUTISMO, "volante", E::APP_FIDALEON_ZARAGOZA)->operacion,
+               "InformeVolanteBautismo");
 }
 
 TEST(CommandLine, understandsItsOptions) {

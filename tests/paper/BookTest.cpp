@@ -69,8 +69,8 @@ class LongDocument : public ::testing::Test {
   }
 
   Report open(const std::string& operation, ReportOptions options = {}) {
-    const Document* d = documentOf(operation);
-    return Report(*reports_, FIDALEON_TEMPLATES, d->templateName, d->title, std::move(options));
+    const Documento* d = documento(operation);
+    return Report(*reports_, FIDALEON_TEMPLATES, d->plantilla, d->titulo, std::move(options));
   }
 
   std::unique_ptr<store::Connection> reports_ = store::memoryDatabase(store::reportsSchema());

@@ -67,11 +67,10 @@ class CensusReport : public ::testing::Test {
         {{"Fecha", date}, {"HInicio", from}, {"HFin", to}, {"Nombre", name}, {"Descripcion", text}},
         "Tareas_Agenda");
   }
-  Report open(const std::string& operation, ReportOptions options = {}) {
-    const Document* d = documentOf(operation);
-    return Report(*reports_, FIDALEON_TEMPLATES, d->templateName, d->title, std::move(options));
+  Report open(const std::string& templateName, ReportOptions options = {}) {
+    return Report(*reports_, FIDALEON_TEMPLATES, templateName, "Informe", std::move(options));
   }
-  std::string text(const std::string& operation) { return pdfText(open(operation)); }
+  std::string text(const std::string& name) { return pdfText(open(name)); }
 
   std::unique_ptr<store::Connection> reports_ = store::memoryDatabase(store::reportsSchema());
 };
@@ -81,7 +80,7 @@ TEST_F(CensusReport, activities_standUnderTheirInstitutionOnce) {
   addGroup("San Ginés", "Coro", "Primero", "12");
   addGroup("San Ginés", "Coro", "Segundo", "1");
   addGroup("Santa Cruz", "Coro", "Segundo", "7");
-  const std::string printed = text("InformeActividad");
+  const std::string printed = text("informe_actividades");
   EXPECT_THAT(printed, HasSubstr("Grupos: 4"));
   EXPECT_THAT(found(printed,
                     "(PARROQUIA DE SAN GINÉS|PARROQUIA DE SANTA CRUZ|Catequesis|Coro|"
@@ -99,10 +98,10 @@ TEST_F(CensusReport, collaborators_areArrangedHoweverTheyWereWritten) {
   add({{"InstitucionNombre", "Ajena"}, {"Nombre", "Uno"}});
   add({{"Apellido1", "Olmo"}, {"Nombre", "Tres"}});
   add({{"Apellido1", "Nuño"}, {"Nombre", "Dos"}});
-  for (const char* operation : {"InformeColaborador", "InformeColaboradorExt"})
+  for (const char* operation : {"informe_colaboradores", "informe_colaboradores_ext"})
     EXPECT_THAT(found(text(operation), ", (Uno|Dos|Tres|Cuatro|Cinco|Seis)"),
                 ElementsAre("Uno", "Dos", "Tres", "Cuatro", "Cinco", "Seis"));
-  EXPECT_THAT(found(text("InformeColaborador"),
+  EXPECT_THAT(found(text("informe_colaboradores"),
                     "(Coro|Voces \\w+|Zapatería|Sin actividad asociada|Sin grupo)"),
               ElementsAre("Coro", "Voces blancas", "Coro", "Voces blancas", "Voces graves",
                           "Zapatería", "Sin actividad asociada"));
@@ -117,8 +116,8 @@ TEST_F(CensusReport, collaboratorList_givesWhereToFindThem_theExtendedOneAllThat
                                       "Bautismo: 10/04/1970, Santa Cruz",
                                       "Parroquia del bautismo: Arenal, 13, Toledo (Toledo)",
                                       "Comentarios: Tiene llave del archivo."};
-  const std::string list = text("InformeColaborador");
-  const std::string extended = text("InformeColaboradorExt");
+  const std::string list = text("informe_colaboradores");
+  const std::string extended = text("informe_colaboradores_ext");
   for (const std::string& piece : both) {
     EXPECT_THAT(list, HasSubstr(piece));
     EXPECT_THAT(extended, HasSubstr(piece));
@@ -135,7 +134,7 @@ TEST_F(CensusReport, whatIsNotKnown_leavesNoTrace) {
     if (column.rfind("Institucion", 0) != 0 && column != "Nombre" && column != "Apellido1")
       value = column == "Direccion" || column == "Profesion" ? "" : "---";
   add({{"NombreActividad", "Coro"}, {"NombreGrupo", "Uno"}}, blank);
-  for (const char* operation : {"InformeColaborador", "InformeColaboradorExt"}) {
+  for (const char* operation : {"informe_colaboradores", "informe_colaboradores_ext"}) {
     const std::string printed = text(operation);
     EXPECT_THAT(printed, HasSubstr("Núñez, Ana"));
     EXPECT_THAT(printed, Not(HasSubstr("---"))) << operation;
@@ -148,7 +147,7 @@ TEST_F(CensusReport, longComments_goOnOverleafWithoutLosingAWord) {
   for (int i = 0; i < 1500; ++i) comment += "nota" + std::to_string(i) + "x ";
   add({{"Comentarios", comment}});
   add({{"Nombre", "Siguiente"}});
-  const Report report = open("InformeColaboradorExt");
+  const Report report = open("informe_colaboradores_ext");
   EXPECT_GE(report.pageCount(), 2);
   const std::string printed = pdfText(report);
   int missing = 0;
@@ -170,7 +169,7 @@ TEST_F(CensusReport, twoHundredCollaborators_pagesTellWhatTheyGoOnWith_andNoHead
   for (int i = 0; i < 200; ++i)
     add({{"NombreGrupo", "Grupo" + std::to_string(10 + i / 9)}, {"Nombre", std::to_string(i)}});
   reports_->CommitTrans();
-  const Report report = open("InformeColaborador");
+  const Report report = open("informe_colaboradores");
   ASSERT_GE(report.pageCount(), 3);
   const TemporaryFolder folder;
   const auto file = folder.path() / "a.pdf";
@@ -197,7 +196,7 @@ TEST_F(CensusReport, agenda_isCutByDays) {
   addTask("02/12/2026", ":", ":", "Limpieza");
   ReportOptions options;
   options.values = {{"Institucion", "Parroquia de San Ginés"}};
-  const std::string printed = pdfText(open("InformeAgenda", options));
+  const std::string printed = pdfText(open("informe_agenda", options));
   EXPECT_THAT(printed, HasSubstr("PARROQUIA DE SAN GINÉS"));
   EXPECT_THAT(printed, HasSubstr("01/12/2026 – 02/12/2026 · Tareas: 3"));
   EXPECT_THAT(printed, HasSubstr("Martes, 01/12/2026 09:30 – 10:15 Misa Con los niños de primera "
@@ -206,12 +205,12 @@ TEST_F(CensusReport, agenda_isCutByDays) {
 
 TEST_F(CensusReport, oneDay_isNamedOnce) {
   addTask("01/12/2026", "09:30", "10:15", "Misa");
-  EXPECT_THAT(text("InformeAgenda"), HasSubstr("01/12/2026 · Tareas: 1 Martes, 01/12/2026"));
+  EXPECT_THAT(text("informe_agenda"), HasSubstr("01/12/2026 · Tareas: 1 Martes, 01/12/2026"));
 }
 
 TEST_F(CensusReport, withoutRows_hasNoPage) {
-  for (const char* operation :
-       {"InformeActividad", "InformeColaborador", "InformeColaboradorExt", "InformeAgenda"})
+  for (const char* operation : {"informe_actividades", "informe_colaboradores",
+                                "informe_colaboradores_ext", "informe_agenda"})
     EXPECT_EQ(open(operation).pageCount(), 0) << operation;
 }
 

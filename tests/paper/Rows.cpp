@@ -2,7 +2,8 @@
 
 #include <map>
 
-#include "documents/BautismoColumns.h"
+#include "documents/Duplicada.h"
+#include "documents/Miembros.h"
 #include "text/Utf8.h"
 
 namespace fidaleon::paper::test {
@@ -161,27 +162,19 @@ void adapt(const std::string& operation, Values& row) {
 }  // namespace
 
 std::vector<std::string> columnsOf(const std::string& operation) {
-  using namespace documents;
-  static const std::map<std::string, Columns> lists{
-      {"InformeCertificadoPartidaBautismo", bautismoCertificate()},
-      {"InformeCertificadoPartidaBautismoMenorca", bautismoCertificateMenorca()},
-      {"InformeCertificadoLiteralPartidaBautismo", bautismoLiteralCertificate()},
-      {"InformeCertificadoLiteralPartidaBautismoMenorca", bautismoLiteralCertificateMenorca()},
-      {"InformePartidaBautismo", bautismoEntryWithNotes(Source::PaddedNotes)},
-      {"InformePartidaBautismoMenorca", bautismoEntryWithNotes(Source::Stored)},
-      {"InformeVolanteBautismo", bautismoVolante()},
-      {"InformeVolanteBautismoMenorca", bautismoVolante()},
-      {"InformeSolicitudPartidaBautismoDatos", bautismoRequest()},
-      {"InformeSolicitudPartidaBautismoDatosMenorca", bautismoRequest()},
-      {"InformeSolicitudPartidaBautismoDatosSantiago", bautismoRequestSantiago()},
-      {"InformeLibroBautismo", bautismoBook()},
-      {"InformeLibroBautismoMenorca", bautismoBook()},
-      {"InformeIndiceLibroBautismo", bautismoIndex()},
-      {"InformeIndiceLibroBautismoMenorca", bautismoIndex()},
-      {"ImprimirDuplicadasBautismo", bautismoDuplicate()},
-  };
+  const Documento& d = *documento(operation);
+  const documents::Columns* columns = nullptr;
+  if (d.clase == ClaseDocumento::Duplicada) {
+    const std::string node = std::string("Partidas") + d.sacramento->palabra;
+    columns = &documents::duplicadaDeNodo(node)->documento.columns;
+  } else {
+    std::string member = "Imprimir" + operation.substr(7);
+    for (const char* shared : {"ImprimirVolanteBautismo", "ImprimirIndiceLibroBautismo"})
+      if (member.starts_with(shared)) member = shared;
+    columns = &documents::miembro(member).kind.columns;
+  }
   std::vector<std::string> names;
-  for (const Column& column : lists.at(operation)) names.emplace_back(column.name);
+  for (const documents::Column& column : *columns) names.emplace_back(column.name);
   return names;
 }
 

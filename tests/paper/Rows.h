@@ -5,7 +5,7 @@
 #include <utility>
 #include <vector>
 
-#include "paper/DocumentCatalogue.h"
+#include "core/facade/Documentos.h"
 #include "store/Connection.h"
 #include "store/Open.h"
 

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "text/Dates.h"
+#include "text/Names.h"
 #include "text/Numbers.h"
 #include "text/Utf8.h"
 
@@ -123,6 +124,13 @@ TEST(Dates, years_areWholeOnes) {
   EXPECT_EQ(yearsBetween({2000, 2, 29}, {2001, 3, 1}), 1);
   EXPECT_EQ(yearsBetween({1950, 5, 4}, {2003, 5, 4}), 53);
   EXPECT_EQ(yearsBetween({2003, 1, 1}, {1950, 1, 1}), 0);
+}
+
+TEST(Names, fileName_holdsNothingThatAFileSystemRefuses) {
+  EXPECT_EQ(fileName("Libro de bautismos - 1998/01"), "Libro de bautismos - 1998-01");
+  EXPECT_EQ(fileName("Certificado - Núñez, \"Pepe\" <?>\n. . "), "Certificado - Núñez, Pepe");
+  EXPECT_EQ(fileName("A/. "), "A-");
+  EXPECT_EQ(fileName("ñññ", 5), "ññ");
 }
 
 }  // namespace

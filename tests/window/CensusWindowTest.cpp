@@ -219,8 +219,8 @@ TEST_F(CensusWindow, entireReports_holdWhatThereIs) {
   open("Padrón");
   for (const ListReport& report : listReports()) {
     const auto made = makeListReport(*desk, report, Extent::Entire);
-    ASSERT_TRUE(made) << report.operation;
-    EXPECT_GT(made->rowCount(), 3u) << report.operation;
+    ASSERT_TRUE(made) << report.templateName;
+    EXPECT_GT(made->rowCount(), 3u) << report.templateName;
   }
   const auto made = makeListReport(*desk, listReports()[0], Extent::Entire);
   EXPECT_EQ(made->rowCount(), static_cast<std::size_t>(count(

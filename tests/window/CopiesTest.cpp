@@ -38,7 +38,7 @@ TEST(CopyName, saysWhenAndBeforeWhat_andSorts) {
 
 TEST(CopyName, holdsNothingThatAFileSystemRefuses) {
   EXPECT_EQ((CopyName{NOON, 1, " &Pasar a \"A/B\\C\": <¿qué?>|*\n… "}).file(),
-            "2020-05-20 12.00.00 Pasar a ABC ¿qué.fidaleon");
+            "2020-05-20 12.00.00 Pasar a A-B-C ¿qué.fidaleon");
   EXPECT_EQ((CopyName{NOON, 1, "..."}).file(), "2020-05-20 12.00.00 Orden.fidaleon");
   std::string longest;
   for (int i = 0; i < 100; ++i) longest += "𝓝";

@@ -212,7 +212,7 @@ TEST_F(Window, duplicate_cancelledShowsNothing) {
 }
 
 TEST_F(Window, document_twiceInARowHoldsOneRow) {
-  const Document* slip = findDocument("volante", FDAPI::cCAplicacion::APP_FIDALEON_MADRID);
+  const Documento* slip = documento("InformeVolanteBautismo");
   for (int i = 0; i < 2; ++i) {
     const auto report = makeReport(*desk, *slip, 1);
     ASSERT_TRUE(report);
@@ -221,7 +221,7 @@ TEST_F(Window, document_twiceInARowHoldsOneRow) {
 }
 
 TEST_F(Window, documentOfAnEntryThatIsGone_isNothing) {
-  const Document* slip = findDocument("volante", FDAPI::cCAplicacion::APP_FIDALEON_MADRID);
+  const Documento* slip = documento("InformeVolanteBautismo");
   user.answerAnything(forms::Answer::Ok);
   EXPECT_FALSE(makeReport(*desk, *slip, 999999));
 }

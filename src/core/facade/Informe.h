@@ -1,30 +1,41 @@
 #pragma once
 
-#include <string>
+#include <optional>
+#include <stdexcept>
 
+#include "core/facade/Documentos.h"
 #include "core/facade/Operacion.h"
-#include "documents/cInformes.h"
 
 namespace fidaleon {
 
-/// A member of cInformes that writes the document of one record.
+/// The line of the catalogue that an operation stands in.
 template <class... Argumentos>
-using MiembroInforme = void (cInformes::*)(FDAPI::Conexion&, FDAPI::Conexion&, std::int32_t,
-                                           Argumentos...);
+const Documento& lineaDe(void (cNucleo::*operacion)(FDAPI::Conexion&, FDAPI::Conexion&,
+                                                    std::int32_t, Argumentos...)) {
+  for (const Documento& d : documentos())
+    if (const auto* paso = std::get_if<PasoDocumento<Argumentos...>>(&d.paso))
+      if (paso->operacion == operacion) return d;
+  throw std::logic_error("Operación sin documento en el catálogo");
+}
+
+/// Takes the lock on the entry or the book that the document is of. False when it is refused.
+bool bloquearOrigen(SesionBloqueos& sesion, const Documento& documento, std::int32_t lngID);
 
 /// Passes a command on to cInformes while the record is locked, for as long as the document is
-/// being written. `tabla` and `clave` name the record in the spelling of the statement.
+/// being written.
 template <class... Argumentos, class... Dados>
-void informe(Contexto& contexto, const char* nombre, const char* tabla, const char* clave,
-             MiembroInforme<Argumentos...> miembro, FDAPI::Conexion& conFidaleon,
-             FDAPI::Conexion& conInformes, std::int32_t lngID, const Dados&... argumentos) {
-  operacion(contexto, nombre, [&] {
-    SesionBloqueos sesion(contexto, conFidaleon);
-    sesion.registro(tabla, lngID,
-                    std::string("SELECT ") + clave + " FROM " + tabla + " WHERE " + clave + "=" +
-                        std::to_string(lngID));
-    if (!sesion.efectuar()) return;
+void informe(Contexto& contexto,
+             void (cNucleo::*cual)(FDAPI::Conexion&, FDAPI::Conexion&, std::int32_t, Argumentos...),
+             FDAPI::Conexion& conFidaleon, FDAPI::Conexion& conInformes, std::int32_t lngID,
+             const Dados&... argumentos) {
+  const Documento& documento = lineaDe(cual);
+  operacion(contexto, documento.operacion, [&] {
+    std::optional<SesionBloqueos> sesion;
+    if (documento.bloquea &&
+        !bloquearOrigen(sesion.emplace(contexto, conFidaleon), documento, lngID))
+      return;
     cInformes informes(contexto);
+    const auto miembro = std::get<PasoDocumento<Argumentos...>>(documento.paso).miembro;
     (informes.*miembro)(conFidaleon, conInformes, lngID, argumentos...);
   });
 }

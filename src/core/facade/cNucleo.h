@@ -91,54 +91,30 @@ class cNucleo {
   void SelecEncargado(FDAPI::Conexion& conBaseDatos, const std::string& Sacramento,
                       std::int32_t IDPartida, std::string& strFechaInf, std::string& result);
 
-  // Baptism documents: each adds one finished row to Documentos_Bautismo, or none when the entry
-  // is gone or held by another. `strFecha` is "yyyymmdd". The caller empties the table before.
-  void InformeCertificadoPartidaBautismo(FDAPI::Conexion& conFidaleon, FDAPI::Conexion& conInformes,
-                                         std::int32_t lngID, const std::string& strEncargado,
-                                         const std::string& strFecha);
-  void InformeCertificadoPartidaBautismoMenorca(FDAPI::Conexion& conFidaleon,
-                                                FDAPI::Conexion& conInformes, std::int32_t lngID,
-                                                const std::string& strEncargado,
-                                                const std::string& strFecha);
-  void InformeCertificadoLiteralPartidaBautismo(FDAPI::Conexion& conFidaleon,
-                                                FDAPI::Conexion& conInformes, std::int32_t lngID,
-                                                const std::string& strEncargado,
-                                                const std::string& strFecha);
-  void InformeCertificadoLiteralPartidaBautismoMenorca(FDAPI::Conexion& conFidaleon,
-                                                       FDAPI::Conexion& conInformes,
-                                                       std::int32_t lngID,
-                                                       const std::string& strEncargado,
-                                                       const std::string& strFecha);
-  void InformePartidaBautismo(FDAPI::Conexion& conFidaleon, FDAPI::Conexion& conInformes,
-                              std::int32_t lngID);
-  void InformePartidaBautismoMenorca(FDAPI::Conexion& conFidaleon, FDAPI::Conexion& conInformes,
-                                     std::int32_t lngID);
-  void InformeVolanteBautismo(FDAPI::Conexion& conFidaleon, FDAPI::Conexion& conInformes,
-                              std::int32_t lngID);
-  /// Writes the same row as InformeVolanteBautismo: it has the columns of both editions.
-  void InformeVolanteBautismoMenorca(FDAPI::Conexion& conFidaleon, FDAPI::Conexion& conInformes,
-                                     std::int32_t lngID);
-  void InformeSolicitudPartidaBautismoDatos(FDAPI::Conexion& conFidaleon,
-                                            FDAPI::Conexion& conInformes, std::int32_t lngID);
-  void InformeSolicitudPartidaBautismoDatosMenorca(FDAPI::Conexion& conFidaleon,
-                                                   FDAPI::Conexion& conInformes,
-                                                   std::int32_t lngID);
-  void InformeSolicitudPartidaBautismoDatosSantiago(FDAPI::Conexion& conFidaleon,
-                                                    FDAPI::Conexion& conInformes,
-                                                    std::int32_t lngID);
+  // Documents of the registers (core/facade/Documentos.h): each adds one finished row to the table
+  // of its sacrament, or none when the entry is gone or held by another. `strEncargado` signs, and
+  // `strFecha` is the date as "yyyymmdd". The caller empties the table before.
+  using Informe = void(FDAPI::Conexion& conFidaleon, FDAPI::Conexion& conInformes,
+                       std::int32_t lngID);
+  using InformeFirmado = void(FDAPI::Conexion& conFidaleon, FDAPI::Conexion& conInformes,
+                              std::int32_t lngID, const std::string& strEncargado,
+                              const std::string& strFecha);
 
-  // A whole baptism book by its key: one row of Documentos_Bautismo for each entry, in the order of
-  // the pages, annulled ones too. No row for a book without entries.
-  void InformeLibroBautismo(FDAPI::Conexion& conFidaleon, FDAPI::Conexion& conInformes,
-                            std::int32_t lngID);
-  void InformeLibroBautismoMenorca(FDAPI::Conexion& conFidaleon, FDAPI::Conexion& conInformes,
-                                   std::int32_t lngID);
-  /// By name, with the letter of each surname and the year of the book.
-  void InformeIndiceLibroBautismo(FDAPI::Conexion& conFidaleon, FDAPI::Conexion& conInformes,
-                                  std::int32_t lngID);
-  /// Writes the same rows as InformeIndiceLibroBautismo: indexes are the same in all editions.
-  void InformeIndiceLibroBautismoMenorca(FDAPI::Conexion& conFidaleon, FDAPI::Conexion& conInformes,
-                                         std::int32_t lngID);
+  InformeFirmado InformeCertificadoPartidaBautismo, InformeCertificadoPartidaBautismoMenorca;
+  InformeFirmado InformeCertificadoLiteralPartidaBautismo,
+      InformeCertificadoLiteralPartidaBautismoMenorca;
+  Informe InformePartidaBautismo, InformePartidaBautismoMenorca;
+  /// Both write the columns of both editions.
+  Informe InformeVolanteBautismo, InformeVolanteBautismoMenorca;
+  Informe InformeSolicitudPartidaBautismoDatos, InformeSolicitudPartidaBautismoDatosMenorca,
+      InformeSolicitudPartidaBautismoDatosSantiago;
+
+  // A whole book by its key: one row for each entry, in the order of the pages, annulled ones too.
+  // No row for a book without entries.
+  Informe InformeLibroBautismo, InformeLibroBautismoMenorca;
+  // By name, with the letter of each surname and the year of the book; the same in all editions.
+  Informe InformeIndiceLibroBautismo, InformeIndiceLibroBautismoMenorca;
+
   /// Asks for institution, year and order, and writes the rows of the year's duplicate of a
   /// sacrament. `strNodo` is "Duplicadas de bautismo" and its like, or the node of the entries.
   /// `strOrden` is the order in which the report engine is to print the rows; it is set also when

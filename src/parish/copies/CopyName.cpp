@@ -3,23 +3,17 @@
 #include <charconv>
 #include <cstdio>
 
+#include "text/Names.h"
 #include "text/Utf8.h"
 
 namespace fidaleon::app {
 namespace {
 
-constexpr std::size_t LONGEST = 48;  // letters: the whole name stays below 255 bytes
+constexpr std::size_t LONGEST = 192;  // bytes: the whole name stays below 255
 constexpr std::string_view PATTERN = "####-##-## ##.##.##";
 
 std::string fitForAName(const std::string& command) {
-  std::string fit;
-  for (const char c : text::sanitized(command)) {
-    const bool forbidden = static_cast<unsigned char>(c) < ' ' || c == '\x7f' ||
-                           std::string_view("/\\:*?\"<>|&").find(c) != std::string_view::npos;
-    if (!forbidden) fit += c;
-  }
-  fit = text::trim(text::left(text::trim(text::replaceAll(fit, "…", "")), LONGEST));
-  while (fit.ends_with('.')) fit.pop_back();
+  const std::string fit = text::fileName(text::replaceAll(command, "…", ""), LONGEST);
   return fit.empty() ? "Orden" : fit;
 }
 

@@ -257,49 +257,6 @@ TEST(FacadeBooks, ClosingAndDeleting_ReachTheirOwnTable) {
   EXPECT_SCRIPT_DONE(w.user);
 }
 
-TEST(FacadeDocuments, EveryForwarder_WritesItsRow) {
-  FacadeWorld w;
-  const auto esperar = [&](const char* columna, const char* valor) {
-    EXPECT_EQ(w.columna(columna), valor);
-    w.conInformes().Execute("DELETE * FROM Documentos_Bautismo");
-  };
-  FDAPI::Conexion& con = w.con();
-  FDAPI::Conexion& inf = w.conInformes();
-  w.nucleo.InformeCertificadoPartidaBautismo(con, inf, 1, "Ana", "20261103");
-  esperar("Sexo", "Dª.");
-  w.nucleo.InformeCertificadoPartidaBautismoMenorca(con, inf, 1, "Ana", "20261103");
-  esperar("FechaBauLargaMeno", "vint-i-quatre de maig de 2003");
-  w.nucleo.InformeCertificadoLiteralPartidaBautismo(con, inf, 1, "Ana", "20261103");
-  esperar("FechaSistemaLarga", "tres de noviembre de 2026");
-  w.nucleo.InformeCertificadoLiteralPartidaBautismoMenorca(con, inf, 1, "Ana", "20261103");
-  esperar("InstitucionEncargado", "Ana");
-  w.nucleo.InformePartidaBautismo(con, inf, 1);
-  esperar("Nacido/Nacida", "nacida");
-  w.nucleo.InformePartidaBautismoMenorca(con, inf, 1);
-  esperar("Nacido/Nacida", "nada");
-  w.nucleo.InformeVolanteBautismo(con, inf, 1);
-  esperar("Nacido/Nacida", "hija");
-  w.nucleo.InformeVolanteBautismoMenorca(con, inf, 1);
-  esperar("Nacido/Nacida", "hija");
-  w.hacerSolicitud();
-  w.nucleo.InformeSolicitudPartidaBautismoDatos(con, inf, 1);
-  esperar("Al niño/A la niña", "La niña");
-  w.nucleo.InformeSolicitudPartidaBautismoDatosMenorca(con, inf, 1);
-  esperar("Al niño/A la niña", "La filla");
-  w.nucleo.InformeSolicitudPartidaBautismoDatosSantiago(con, inf, 1);
-  esperar("EdadPadrino", "30");
-  w.esperarLibre();
-  EXPECT_SCRIPT_DONE(w.user);
-}
-
-TEST(FacadeDocuments, EntryOpenElsewhere_GivesNoRow) {
-  FacadeWorld w;
-  const auto otra = w.ocupar("Bautismo", "1");
-  w.user.answerAnything(Answer::Ok);
-  w.nucleo.InformeCertificadoPartidaBautismo(w.con(), w.conInformes(), 1, "Ana", "20261103");
-  EXPECT_EQ(w.filas(), 0);
-}
-
 TEST(FacadeKeeper, Chosen_IsRememberedForNextTime) {
   FacadeWorld w;
   w.run("INSERT INTO Institucion_Encargado (CodInstitucion, Nombre) VALUES (" +

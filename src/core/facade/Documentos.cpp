@@ -1,0 +1,120 @@
+#include "core/facade/Documentos.h"
+
+#include <algorithm>
+
+#include "core/contract/FDAPI.h"
+
+namespace fidaleon {
+
+namespace {
+
+constexpr auto PARTIDA = ClaseDocumento::Partida;
+constexpr auto SOLICITUD = ClaseDocumento::Solicitud;
+constexpr auto LIBRO = ClaseDocumento::Libro;
+constexpr auto DUPLICADA = ClaseDocumento::Duplicada;
+constexpr const char* COMUN = "";
+constexpr const char* MENORCA = FDAPI::cCAplicacion::APP_FIDALEON_MENORCA;
+constexpr const char* SANTIAGO = FDAPI::cCAplicacion::APP_FIDALEON_SANTIAGO;
+
+using N = cNucleo;
+using I = cInformes;
+
+const Documento TODOS[] = {
+    {&BAUTISMO, PARTIDA, "certificado", COMUN, "InformeCertificadoPartidaBautismo",
+     PasoFirmado{&N::InformeCertificadoPartidaBautismo, &I::ImprimirCertificadoPartidaBautismo},
+     "certificado_bautismo", "Certificado de bautismo"},
+    {&BAUTISMO, PARTIDA, "certificado", MENORCA, "InformeCertificadoPartidaBautismoMenorca",
+     PasoFirmado{&N::InformeCertificadoPartidaBautismoMenorca,
+                 &I::ImprimirCertificadoPartidaBautismoMenorca},
+     "certificado_bautismo_menorca", "Certificado de bautismo"},
+    {&BAUTISMO, PARTIDA, "literal", COMUN, "InformeCertificadoLiteralPartidaBautismo",
+     PasoFirmado{&N::InformeCertificadoLiteralPartidaBautismo,
+                 &I::ImprimirCertificadoLiteralPartidaBautismo},
+     "certificado_literal_bautismo", "Certificado literal de bautismo"},
+    {&BAUTISMO, PARTIDA, "literal", MENORCA, "InformeCertificadoLiteralPartidaBautismoMenorca",
+     PasoFirmado{&N::InformeCertificadoLiteralPartidaBautismoMenorca,
+                 &I::ImprimirCertificadoLiteralPartidaBautismoMenorca},
+     "certificado_literal_bautismo_menorca", "Certificado literal de bautismo"},
+    {&BAUTISMO, PARTIDA, "partida", COMUN, "InformePartidaBautismo",
+     PasoSimple{&N::InformePartidaBautismo, &I::ImprimirPartidaBautismo}, "partida_bautismo",
+     "Partida de bautismo"},
+    {&BAUTISMO, PARTIDA, "partida", MENORCA, "InformePartidaBautismoMenorca",
+     PasoSimple{&N::InformePartidaBautismoMenorca, &I::ImprimirPartidaBautismoMenorca},
+     "partida_bautismo_menorca", "Partida de bautismo"},
+    {&BAUTISMO, PARTIDA, "volante", COMUN, "InformeVolanteBautismo",
+     PasoSimple{&N::InformeVolanteBautismo, &I::ImprimirVolanteBautismo}, "volante_bautismo",
+     "Volante de bautismo"},
+    // The row has the columns of both editions.
+    {&BAUTISMO, PARTIDA, "volante", MENORCA, "InformeVolanteBautismoMenorca",
+     PasoSimple{&N::InformeVolanteBautismoMenorca, &I::ImprimirVolanteBautismo},
+     "volante_bautismo_menorca", "Volante de bautismo"},
+    {&BAUTISMO, SOLICITUD, "datos", COMUN, "InformeSolicitudPartidaBautismoDatos",
+     PasoSimple{&N::InformeSolicitudPartidaBautismoDatos,
+                &I::ImprimirSolicitudPartidaBautismoDatos},
+     "solicitud_bautismo", "Solicitud de bautismo"},
+    {&BAUTISMO, SOLICITUD, "datos", MENORCA, "InformeSolicitudPartidaBautismoDatosMenorca",
+     PasoSimple{&N::InformeSolicitudPartidaBautismoDatosMenorca,
+                &I::ImprimirSolicitudPartidaBautismoDatosMenorca},
+     "solicitud_bautismo_menorca", "Solicitud de bautismo"},
+    {&BAUTISMO, SOLICITUD, "datos", SANTIAGO, "InformeSolicitudPartidaBautismoDatosSantiago",
+     PasoSimple{&N::InformeSolicitudPartidaBautismoDatosSantiago,
+                &I::ImprimirSolicitudPartidaBautismoDatosSantiago},
+     "solicitud_bautismo_santiago", "Solicitud de bautismo"},
+    {&BAUTISMO, LIBRO, "libro", COMUN, "InformeLibroBautismo",
+     PasoSimple{&N::InformeLibroBautismo, &I::ImprimirLibroBautismo}, "libro_bautismo",
+     "Libro de bautismos"},
+    {&BAUTISMO, LIBRO, "libro", MENORCA, "InformeLibroBautismoMenorca",
+     PasoSimple{&N::InformeLibroBautismoMenorca, &I::ImprimirLibroBautismoMenorca},
+     "libro_bautismo_menorca", "Libro de bautismos"},
+    {&BAUTISMO, LIBRO, "indice", COMUN, "InformeIndiceLibroBautismo",
+     PasoSimple{&N::InformeIndiceLibroBautismo, &I::ImprimirIndiceLibroBautismo},
+     "indice_libro_bautismo", "Índice del libro de bautismos"},
+    {&BAUTISMO, LIBRO, "indice", MENORCA, "InformeIndiceLibroBautismoMenorca",
+     PasoSimple{&N::InformeIndiceLibroBautismoMenorca, &I::ImprimirIndiceLibroBautismo},
+     "indice_libro_bautismo_menorca", "Índice del libro de bautismos"},
+    {&BAUTISMO,
+     DUPLICADA,
+     "duplicadas",
+     COMUN,
+     "ImprimirDuplicadasBautismo",
+     {},
+     "duplicado_bautismo",
+     "Duplicado de bautismos"},
+};
+
+constexpr FilasDocumento FILAS[] = {
+    {&BAUTISMO, "Documentos_Bautismo", "NombreHijo", "PrimerApellidoHijo", "SegundoApellidoHijo"},
+    {&CONFIRMACION, "Documentos_Confirmacion", "Nombre", "PrimerApellido", "SegundoApellido"},
+    {&DEFUNCION, "Documentos_Defuncion", "Nombre", "PrimerApellido", "SegundoApellido"},
+};
+
+}  // namespace
+
+std::span<const Documento> documentos() {
+  return TODOS;
+}
+
+const Documento* documento(const Sacramento& sacramento, std::string_view orden,
+                           std::string_view edicion) {
+  const Documento* comun = nullptr;
+  for (const Documento& d : TODOS) {
+    if (d.sacramento != &sacramento || d.orden != orden) continue;
+    if (d.edicion == edicion) return &d;
+    if (std::string_view(d.edicion).empty()) comun = &d;
+  }
+  return comun;
+}
+
+const Documento* documento(std::string_view operacion) {
+  const auto* hallado = std::find_if(std::begin(TODOS), std::end(TODOS),
+                                     [&](const Documento& d) { return d.operacion == operacion; });
+  return hallado == std::end(TODOS) ? nullptr : hallado;
+}
+
+const FilasDocumento* filasDocumento(const Sacramento& sacramento) {
+  for (const FilasDocumento& f : FILAS)
+    if (f.sacramento == &sacramento) return &f;
+  return nullptr;
+}
+
+}  // namespace fidaleon

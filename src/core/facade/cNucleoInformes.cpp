@@ -1,0 +1,64 @@
+// The operations that write a document: what each does is its line in the catalogue.
+
+#include "core/facade/Informe.h"
+#include "core/facade/cNucleo.h"
+#include "documents/frmInfDuplicadas.h"
+
+namespace fidaleon {
+
+bool bloquearOrigen(SesionBloqueos& sesion, const Documento& documento, std::int32_t lngID) {
+  const Sacramento& s = *documento.sacramento;
+  if (documento.clase == ClaseDocumento::Libro)
+    sesion.registroPorClave(s.tablaLibros, s.claveLibro, lngID);
+  else
+    sesion.registroPorClave(s.tablaPartidas, ("Id" + std::string(s.clavePartida + 2)).c_str(),
+                            lngID);
+  return sesion.efectuar();
+}
+
+#define INFORME(nombre)                                                            \
+  void cNucleo::nombre(FDAPI::Conexion& conFidaleon, FDAPI::Conexion& conInformes, \
+                       std::int32_t lngID) {                                       \
+    informe(contexto_, &cNucleo::nombre, conFidaleon, conInformes, lngID);         \
+  }
+#define INFORME_FIRMADO(nombre)                                                                    \
+  void cNucleo::nombre(FDAPI::Conexion& conFidaleon, FDAPI::Conexion& conInformes,                 \
+                       std::int32_t lngID, const std::string& strEncargado,                        \
+                       const std::string& strFecha) {                                              \
+    informe(contexto_, &cNucleo::nombre, conFidaleon, conInformes, lngID, strEncargado, strFecha); \
+  }
+
+INFORME_FIRMADO(InformeCertificadoPartidaBautismo)
+INFORME_FIRMADO(InformeCertificadoPartidaBautismoMenorca)
+INFORME_FIRMADO(InformeCertificadoLiteralPartidaBautismo)
+INFORME_FIRMADO(InformeCertificadoLiteralPartidaBautismoMenorca)
+INFORME(InformePartidaBautismo)
+INFORME(InformePartidaBautismoMenorca)
+INFORME(InformeVolanteBautismo)
+INFORME(InformeVolanteBautismoMenorca)
+INFORME(InformeSolicitudPartidaBautismoDatos)
+INFORME(InformeSolicitudPartidaBautismoDatosMenorca)
+INFORME(InformeSolicitudPartidaBautismoDatosSantiago)
+INFORME(InformeLibroBautismo)
+INFORME(InformeLibroBautismoMenorca)
+INFORME(InformeIndiceLibroBautismo)
+INFORME(InformeIndiceLibroBautismoMenorca)
+
+#undef INFORME
+#undef INFORME_FIRMADO
+
+void cNucleo::ImprimirDuplicadas(FDAPI::Conexion& conBaseDatos, FDAPI::Conexion& conInformes,
+                                 const std::string& strNodo, std::string& strOrden) {
+  strOrden.clear();
+  operacion(contexto_, "ImprimirDuplicadas", [&] {
+    if (!documents::duplicadaDeNodo(strNodo)) return;
+    frmInfDuplicadas dialogo(contexto_);
+    dialogo.conBaseDatos = &conBaseDatos;
+    dialogo.conInformes = &conInformes;
+    dialogo.strNodo = strNodo;
+    dialogo.Show();
+    strOrden = dialogo.strOrden;
+  });
+}
+
+}  // namespace fidaleon

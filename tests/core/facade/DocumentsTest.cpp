@@ -1,0 +1,134 @@
+// Every line of the catalogue of documents, as the main program asks for it.
+
+#include "core/facade/Documentos.h"
+#include "core/facade/FacadeWorld.h"
+#include "store/FailingEngine.h"
+
+namespace fidaleon::tests {
+namespace {
+
+using forms::FormDriver;
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+
+constexpr const char* FECHA = "20261103";
+
+class FacadeDocuments : public ::testing::TestWithParam<const Documento*> {
+ protected:
+  const Documento& d = *GetParam();
+  const char* tabla = filasDocumento(*d.sacramento)->tabla;
+
+  template <class World>
+  void preparar(World& w) const {
+    if (d.clase == ClaseDocumento::Solicitud) w.hacerSolicitud();
+  }
+  template <class World>
+  void imprimir(World& w, std::int32_t id) const {
+    if (const auto* simple = std::get_if<PasoSimple>(&d.paso))
+      (w.nucleo.*simple->operacion)(w.con(), w.conInformes(), id);
+    else
+      (w.nucleo.*std::get<PasoFirmado>(d.paso).operacion)(w.con(), w.conInformes(), id, "Ana",
+                                                          FECHA);
+  }
+  template <class World>
+  std::int64_t filas(World& w) const {
+    return w.conInformes().Execute(std::string("SELECT * FROM ") + tabla).RecordCount();
+  }
+};
+
+TEST_P(FacadeDocuments, LocksWhatItIsOf_AndWritesItsRow) {
+  SpyWorld w;
+  preparar(w);
+  imprimir(w, 1);
+  const std::string palabra = d.sacramento->palabra;
+  const std::string deLibro = "Libro_" + palabra + " [1] existe [SELECT IDLibro" + palabra +
+                              " FROM Libro_" + palabra + " WHERE IDLibro" + palabra + "=1]";
+  const std::string clave = "Id" + (palabra == "Defuncion" ? "Difunto" : palabra);
+  const std::string dePartida =
+      palabra + " [1] existe [SELECT " + clave + " FROM " + palabra + " WHERE " + clave + "=1]";
+  if (d.bloquea)
+    EXPECT_THAT(w.bloqueos(), ElementsAre(d.clase == ClaseDocumento::Libro ? deLibro : dePartida,
+                                          "efectuar", "liberar"));
+  else
+    EXPECT_THAT(w.spy.log, IsEmpty());
+  EXPECT_EQ(filas(w), 1);
+  EXPECT_SCRIPT_DONE(w.user);
+}
+
+TEST_P(FacadeDocuments, HeldElsewhereOrGone_GivesNoRow) {
+  FacadeWorld w;
+  preparar(w);
+  w.user.answerAnything(forms::Answer::Ok);
+  if (d.bloquea) {
+    const bool libro = d.clase == ClaseDocumento::Libro;
+    const auto otra =
+        w.ocupar(libro ? d.sacramento->tablaLibros : d.sacramento->tablaPartidas, "1");
+    imprimir(w, 1);
+  }
+  imprimir(w, 99);
+  EXPECT_EQ(filas(w), 0);
+  EXPECT_THAT(w.user.progressLog, IsEmpty());
+  w.esperarLibre();
+}
+
+TEST_P(FacadeDocuments, StoreFails_IsReportedByTheMemberOfItsName) {
+  FacadeWorld w;
+  preparar(w);
+  store::FailingEngine::wrap(w.conInformes())->failOn(std::string("INSERT INTO ") + tabla);
+  w.user.answerAnything(forms::Answer::Ok);
+  imprimir(w, 1);
+  EXPECT_EQ(filas(w), 0);
+  EXPECT_FALSE(w.conInformes().inTransaction());
+  std::string miembro = "Imprimir" + std::string(d.operacion).substr(7);
+  for (const char* compartido : {"ImprimirVolanteBautismo", "ImprimirIndiceLibroBautismo"})
+    if (miembro == compartido + std::string("Menorca")) miembro = compartido;
+  ASSERT_EQ(w.user.messages().size(), 1u);
+  EXPECT_THAT(w.user.messages()[0].text,
+              HasSubstr("FidaleonNucleo / cInformes / " + miembro + ")"));
+}
+
+std::vector<const Documento*> conOperacion() {
+  std::vector<const Documento*> lineas;
+  for (const Documento& d : documentos())
+    if (d.paso.index() != 0) lineas.push_back(&d);
+  return lineas;
+}
+
+INSTANTIATE_TEST_SUITE_P(Catalogue, FacadeDocuments, ::testing::ValuesIn(conOperacion()),
+                         [](const auto& line) { return std::string(line.param->operacion); });
+
+TEST(FacadeDuplicates, UsualRoad_HandsBackTheOrderWithoutLocks) {
+  for (const char* nodo : {"Duplicadas de bautismo", "PartidasBautismo"}) {
+    SpyWorld w;
+    std::string orden = "de antes";
+    w.user.expectForm("frmInfDuplicadas", [](FormDriver& u) {
+      u.type("adtpAno", "2003");
+      u.choose("cboOrden", "Apellidos del bautizado");
+      u.click("cmdBoton(0)");
+    });
+    w.nucleo.ImprimirDuplicadas(w.con(), w.conInformes(), nodo, orden);
+    EXPECT_EQ(orden, "+{@Nombre}");
+    EXPECT_EQ(w.filas(), 1);
+    EXPECT_THAT(w.spy.log, IsEmpty());
+    EXPECT_SCRIPT_DONE(w.user);
+  }
+}
+
+TEST(FacadeDuplicates, CancelledOrUnknownNode_GivesAnEmptyOrder) {
+  FacadeWorld w;
+  std::string orden = "de antes";
+  w.user.expectForm("frmInfDuplicadas", [](FormDriver& u) { u.click("cmdBoton(1)"); });
+  w.nucleo.ImprimirDuplicadas(w.con(), w.conInformes(), "PartidasBautismo", orden);
+  EXPECT_EQ(orden, "");
+  for (const char* nodo : {"", "LibrosBautismo", "Duplicadas"}) {
+    orden = "de antes";
+    w.nucleo.ImprimirDuplicadas(w.con(), w.conInformes(), nodo, orden);
+    EXPECT_EQ(orden, "") << nodo;
+  }
+  EXPECT_EQ(w.filas(), 0);
+  EXPECT_SCRIPT_DONE(w.user);
+}
+
+}  // namespace
+}  // namespace fidaleon::tests
