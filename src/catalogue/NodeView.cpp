@@ -2,6 +2,9 @@
 
 #include "catalogue/CensusLists.h"
 #include "core/contract/CcNodos.h"
+#include "core/statements/Sentencia.h"
+#include "registers/entry/DialogoDePartida.h"
+#include "registers/requests/OrigenSolicitudes.h"
 
 namespace fidaleon::app {
 namespace {
@@ -60,52 +63,97 @@ void describeBooks(NodeView& v, const Sacramento& s) {
                {"Cerrado", "Estado", ColumnKind::Flag, 9, "Cerrado|Abierto"}};
 }
 
-void describeEntries(NodeView& v) {
-  v.sacrament = &BAUTISMO;
-  v.key = "IDBautismo";
+/// Where the entries and requests of a register keep what their lists show.
+struct Register {
+  const Sacramento& sacrament;
+  const char* person;  // table that bears the name
+  const char* beside;  // table that is joined to the entry's own, by its `key`
+  const char* key;
+  const char* day;  // table and column
+  const char* dayTitle;
+  const char* otherDay;
+  const char* otherTitle;
+};
+
+constexpr Register REGISTERS[] = {
+    {BAUTISMO, "Bautismo_Hijo", "Bautismo_Hijo", "CodBautismo", "Bautismo.FechaBautismo",
+     "Bautismo", "Bautismo_Hijo.FechaNac", "Nacimiento"},
+    {CONFIRMACION, "Confirmacion", "Confirmacion_Datos", "CodConfirmacion",
+     "Confirmacion_Datos.FechaConfirmacion", "Confirmación", "Confirmacion.FechaNac", "Nacimiento"},
+    {DEFUNCION, "Defuncion", "Defuncion_Datos", "CodDifunto", "Defuncion_Datos.FechaDefuncion",
+     "Defunción", "Defuncion_Datos.FechaInhumacion", "Inhumación"},
+};
+
+std::string columnOf(const char* qualified) {
+  const std::string name = qualified;
+  return name.substr(name.find('.') + 1);
+}
+
+/// ", Bautismo_Hijo.Nombre, ... FROM Bautismo, Bautismo_Hijo, `tables` WHERE ..." up to what joins
+/// the tables of one entry.
+std::string personOf(const Register& r, const std::string& columns, const std::string& tables) {
+  const std::string person = r.person;
+  return ", " + person + ".Nombre, " + person + ".PrimerApellido, " + person +
+         ".SegundoApellido, " + r.day + ", " + r.otherDay + columns +
+         sentencia(r.sacrament, " FROM {Partidas}, ") + r.beside + tables + " WHERE " + r.beside +
+         "." + r.key + sentencia(r.sacrament, "={Partidas}.{IDPartida} AND ");
+}
+
+std::vector<ColumnView> namesOf() {
+  return {{"Nombre", "Nombre", ColumnKind::Text, 18, {}},
+          {"PrimerApellido", "Primer apellido", ColumnKind::Text, 15, {}},
+          {"SegundoApellido", "Segundo apellido", ColumnKind::Text, 15, {}}};
+}
+
+ColumnView day(const char* column, const char* title) {
+  return {columnOf(column), title, ColumnKind::Date, 11, {}};
+}
+
+void describeEntries(NodeView& v, const Register& r) {
+  v.sacrament = &r.sacrament;
+  v.key = r.sacrament.clavePartida;
   v.thing = "partida";
   v.things = "partidas";
   v.annulled = "Anulada";
   v.group = "CodLibro";
   v.node.SQLSelect =
-      "SELECT Bautismo.IDBautismo, Bautismo.CodLibro, Libro_Bautismo.Nombre AS Libro, "
-      "Bautismo.Folio, Bautismo.Numero, Bautismo_Hijo.Nombre, Bautismo_Hijo.PrimerApellido, "
-      "Bautismo_Hijo.SegundoApellido, Bautismo.FechaBautismo, Bautismo_Hijo.FechaNac, "
-      "Institucion.Nombre AS Institucion, Bautismo.Anulada FROM Bautismo, Bautismo_Hijo, "
-      "Libro_Bautismo, Institucion WHERE Bautismo_Hijo.CodBautismo=Bautismo.IDBautismo AND "
-      "Libro_Bautismo.IDLibroBautismo=Bautismo.CodLibro AND "
-      "Institucion.IDInstitucion=Libro_Bautismo.CodInstitucion ORDER BY "
-      "Libro_Bautismo.FechaCreacion, Bautismo.CodLibro, Bautismo.Folio, Val(Bautismo.Numero), "
-      "Bautismo.IDBautismo";
+      sentencia(r.sacrament,
+                "SELECT {Partidas}.{IDPartida}, {Partidas}.CodLibro, {Libros}.Nombre AS Libro, "
+                "{Partidas}.Folio, {Partidas}.Numero") +
+      personOf(r, sentencia(r.sacrament, ", Institucion.Nombre AS Institucion, {Partidas}.Anulada"),
+               sentencia(r.sacrament, ", {Libros}, Institucion")) +
+      sentencia(r.sacrament,
+                "{Libros}.{IDLibro}={Partidas}.CodLibro AND "
+                "Institucion.IDInstitucion={Libros}.CodInstitucion ORDER BY "
+                "{Libros}.FechaCreacion, {Partidas}.CodLibro, {Partidas}.Folio, "
+                "Val({Partidas}.Numero), {Partidas}.{IDPartida}");
   v.columns = {{"Libro", "Libro", ColumnKind::Text, 10, {}},
                {"Folio", "Folio", ColumnKind::Number, 6, {}},
-               {"Numero", "Número", ColumnKind::Number, 8, {}},
-               {"Nombre", "Nombre", ColumnKind::Text, 18, {}},
-               {"PrimerApellido", "Primer apellido", ColumnKind::Text, 15, {}},
-               {"SegundoApellido", "Segundo apellido", ColumnKind::Text, 15, {}},
-               {"FechaBautismo", "Bautismo", ColumnKind::Date, 11, {}},
-               {"FechaNac", "Nacimiento", ColumnKind::Date, 11, {}},
-               {"Anulada", "Anulada", ColumnKind::Flag, 9, "Anulada|"},
-               {"Institucion", "Institución", ColumnKind::Text, 22, {}}};
+               {"Numero", "Número", ColumnKind::Number, 8, {}}};
+  for (ColumnView& name : namesOf()) v.columns.push_back(std::move(name));
+  for (const ColumnView& last : {day(r.day, r.dayTitle),
+                                 day(r.otherDay, r.otherTitle),
+                                 ColumnView{"Anulada", "Anulada", ColumnKind::Flag, 9, "Anulada|"},
+                                 {"Institucion", "Institución", ColumnKind::Text, 22, {}}})
+    v.columns.push_back(last);
 }
 
-void describeRequests(NodeView& v) {
-  v.sacrament = &BAUTISMO;
-  v.key = "IDBautismo";
+void describeRequests(NodeView& v, const Register& r) {
+  v.sacrament = &r.sacrament;
+  v.key = r.sacrament.clavePartida;
   v.thing = "solicitud";
   v.things = "solicitudes";
-  v.node.SQLSelect =
-      "SELECT Bautismo.IDBautismo, Bautismo_Hijo.Nombre, Bautismo_Hijo.PrimerApellido, "
-      "Bautismo_Hijo.SegundoApellido, Bautismo.FechaBautismo, Bautismo_Hijo.FechaNac, "
-      "Institucion.Nombre AS Institucion FROM Bautismo, Bautismo_Hijo, Institucion WHERE "
-      "Bautismo.CodLibro=0 AND Bautismo_Hijo.CodBautismo=Bautismo.IDBautismo AND "
-      "Institucion.IDInstitucion=Bautismo.InstitucionSolicitud ORDER BY Bautismo.IDBautismo";
-  v.columns = {{"Nombre", "Nombre", ColumnKind::Text, 18, {}},
-               {"PrimerApellido", "Primer apellido", ColumnKind::Text, 15, {}},
-               {"SegundoApellido", "Segundo apellido", ColumnKind::Text, 15, {}},
-               {"FechaNac", "Nacimiento", ColumnKind::Date, 11, {}},
-               {"FechaBautismo", "Bautismo", ColumnKind::Date, 11, {}},
-               {"Institucion", "Institución", ColumnKind::Text, 28, {}}};
+  v.node.SQLSelect = sentencia(r.sacrament, "SELECT {Partidas}.{IDPartida}") +
+                     personOf(r, ", Institucion.Nombre AS Institucion", ", Institucion") +
+                     sentencia(r.sacrament,
+                               "{Partidas}.CodLibro=0 AND "
+                               "Institucion.IDInstitucion={Partidas}.InstitucionSolicitud ORDER BY "
+                               "{Partidas}.{IDPartida}");
+  v.columns = namesOf();
+  for (const ColumnView& last : {day(r.otherDay, r.otherTitle),
+                                 day(r.day, r.dayTitle),
+                                 {"Institucion", "Institución", ColumnKind::Text, 28, {}}})
+    v.columns.push_back(last);
 }
 
 void describeInstitutions(NodeView& v) {
@@ -172,9 +220,17 @@ std::vector<NodeView> makeNodes() {
         tree.add(CcNodos::LIBROS + std::string(s.palabra), SPOKEN[s.byte], NodeKind::Books, &books),
         s);
   const NodeView entries = tree.folder(CcNodos::PARTIDAS, &parish);
-  describeEntries(tree.add("PartidasBautismo", SPOKEN[0], NodeKind::Entries, &entries));
+  for (const Register& r : REGISTERS)
+    if (dialogoDePartida(&r.sacrament))
+      describeEntries(tree.add(CcNodos::PARTIDAS + std::string(r.sacrament.palabra),
+                               SPOKEN[r.sacrament.byte], NodeKind::Entries, &entries),
+                      r);
   const NodeView requests = tree.folder(CcNodos::SOLICITUDES, &parish);
-  describeRequests(tree.add("SolicitudesBautismo", SPOKEN[0], NodeKind::Requests, &requests));
+  for (const Register& r : REGISTERS)
+    if (dialogoDePartida(&r.sacrament) && origenSolicitudes(&r.sacrament))
+      describeRequests(tree.add(CcNodos::SOLICITUDES + std::string(r.sacrament.palabra),
+                                SPOKEN[r.sacrament.byte], NodeKind::Requests, &requests),
+                       r);
   addCensus(tree, parish);
   const NodeView reports = tree.folder(CcNodos::INFORMESYDOCUMENTOS);
   tree.add(CcNodos::INFDUPLICADASBAUTISMO, CcNodos::INFDUPLICADASBAUTISMO, NodeKind::Reports,

@@ -1,6 +1,7 @@
 // Fields of the baptism dialog and where they stand.
 
 #include "core/lists/cIListas.h"
+#include "registers/baptism/AlmacenBautismo.h"
 #include "registers/baptism/frmPartidaBautismo.h"
 
 namespace fidaleon {
@@ -54,7 +55,7 @@ const V BAUTISMOS{
 }  // namespace
 
 frmPartidaBautismo::frmPartidaBautismo(Contexto& contexto)
-    : frmPartidaDe(contexto, BAUTISMOS),
+    : frmPartidaDe(contexto, BAUTISMOS, ALMACEN_BAUTISMO),
       txtSC(*this, "txtSC"),
       txtHoraNac(*this, "txtHoraNac", "HORA DE NACIMIENTO:"),
       fraPadre(*this, "fraPadre", "PADRE:"),

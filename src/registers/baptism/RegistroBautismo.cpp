@@ -4,7 +4,6 @@
 
 #include "registers/baptism/TablasBautismo.h"
 #include "registers/baptism/frmPartidaBautismo.h"
-#include "registers/cBaseDatos.h"
 #include "registers/lookup/Importacion.h"
 
 namespace fidaleon {
@@ -40,19 +39,6 @@ std::span<const FilaLeida<cBautismo>> frmPartidaBautismo::filas() const {
   return FILAS;
 }
 
-void frmPartidaBautismo::tomarClaves(cBautismo& b) const {
-  b.IDLibroBautismo = b.CodLibroBautismo;
-  b.IDPadres = b.CodPadres;
-  b.IDMadres = b.CodMadres;
-  b.IDMatrimonio = b.CodMatrimonio;
-}
-
-void frmPartidaBautismo::conservarClaves(const cBautismo& intentada) {
-  registro_.CodPadres = intentada.CodPadres;
-  registro_.CodMadres = intentada.CodMadres;
-  registro_.CodMatrimonio = intentada.CodMatrimonio;
-}
-
 void frmPartidaBautismo::completarEdicion(cBautismo& b) const {
   if (Operacion != FDAPI::cCOperacion::EDITAR || desdeLista()) return;
   const store::Recordset enlaces = conBaseDatos->Execute(
@@ -69,15 +55,6 @@ void frmPartidaBautismo::importar(std::size_t, const frmBuscaPadres& de) {
   registro_.IDMadres = de.importado.IDMadres;
   registro_.IDPadres = de.importado.IDPadres;
   registro_.IDMatrimonio = de.importado.IDMatrimonio;
-}
-
-bool frmPartidaBautismo::almacenar(ColeccionBautismo& coleccion) {
-  bool blnSalto = false;
-  return cBaseDatos(contexto_).GrabarColeccionBasesDatos(*conBaseDatos, coleccion, blnSalto);
-}
-
-bool frmPartidaBautismo::retirar(ColeccionBautismo& coleccion) {
-  return cBaseDatos(contexto_).RetirarAMedias(*conBaseDatos, coleccion);
 }
 
 }  // namespace fidaleon

@@ -125,14 +125,10 @@ class frmPartidaBautismo : public frmPartidaDe<cBautismo> {
 
   // The record
   std::span<const FilaLeida<cBautismo>> filas() const override;
-  void tomarClaves(cBautismo& b) const override;
-  void conservarClaves(const cBautismo& intentada) override;
   void completarEdicion(cBautismo& b) const override;
   bool ComprobarCambios(cBautismo& nuevo) const override;
   std::string sqlRepetida(const cBautismo& b) override;
   bool mismosDatos(const cBautismo& a, const cBautismo& b) const override;
-  bool almacenar(ColeccionBautismo& coleccion) override;
-  bool retirar(ColeccionBautismo& coleccion) override;
 
   // Family from earlier entries
   void importar(std::size_t persona, const frmBuscaPadres& de) override;

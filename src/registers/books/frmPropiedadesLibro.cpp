@@ -213,8 +213,9 @@ void frmPropiedadesLibro::construirNombre(std::int64_t tipo) {
 
 std::unique_ptr<frmPropiedadesLibro> crearPropiedadesLibro(Contexto& contexto,
                                                            const Sacramento& sacramento) {
-  if (sacramento.byte == BAUTISMO.byte)
-    return std::make_unique<frmPropiedadesLibroBautismo>(contexto);
+  if (&sacramento == &BAUTISMO) return std::make_unique<frmPropiedadesLibroBautismo>(contexto);
+  if (&sacramento == &CONFIRMACION)
+    return std::make_unique<frmPropiedadesLibroConfirmacion>(contexto);
   return nullptr;
 }
 

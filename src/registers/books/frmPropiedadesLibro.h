@@ -127,6 +127,11 @@ class frmPropiedadesLibroBautismo : public frmPropiedadesLibro {
   explicit frmPropiedadesLibroBautismo(Contexto& contexto);
 };
 
+class frmPropiedadesLibroConfirmacion : public frmPropiedadesLibro {
+ public:
+  explicit frmPropiedadesLibroConfirmacion(Contexto& contexto);
+};
+
 /// Null for a sacrament that has no such dialog.
 std::unique_ptr<frmPropiedadesLibro> crearPropiedadesLibro(Contexto& contexto,
                                                            const Sacramento& sacramento);

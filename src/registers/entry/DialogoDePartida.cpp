@@ -1,6 +1,7 @@
 #include "registers/entry/DialogoDePartida.h"
 
 #include "registers/baptism/frmPartidaBautismo.h"
+#include "registers/confirmation/frmPartidaConfirmacion.h"
 
 namespace fidaleon {
 
@@ -15,6 +16,7 @@ std::unique_ptr<frmPartida> crear(Contexto& contexto) {
 
 CrearPartida dialogoDePartida(const Sacramento* sacramento) {
   if (sacramento == &BAUTISMO) return crear<frmPartidaBautismo>;
+  if (sacramento == &CONFIRMACION) return crear<frmPartidaConfirmacion>;
   return nullptr;
 }
 

@@ -10,6 +10,7 @@
 
 #include "core/lists/Enlaces.h"
 #include "core/statements/Columnas.h"
+#include "registers/common/Almacen.h"
 #include "registers/common/Guiones.h"
 #include "registers/common/Operacion.h"
 #include "registers/entry/ValorDeCampo.h"
@@ -37,7 +38,10 @@ class frmPartidaDe : public frmPartida {
   Coleccion* colPartidas = nullptr;
 
  protected:
-  using frmPartida::frmPartida;
+  /// The descriptions are not owned.
+  frmPartidaDe(Contexto& contexto, const VariantePartida& variante,
+               const DescripcionAlmacen<Registro>& almacen)
+      : frmPartida(contexto, variante), almacen_(almacen) {}
 
   // One line of a dialog's fields.
   struct CampoTexto {
@@ -98,19 +102,15 @@ class frmPartidaDe : public frmPartida {
   /// " AND (...)"; empty when there can be none.
   virtual std::string sqlRepetida(const Registro& partida) = 0;
   virtual bool mismosDatos(const Registro& a, const Registro& b) const = 0;
-  virtual bool almacenar(Coleccion& coleccion) = 0;
-  virtual bool retirar(Coleccion& coleccion) = 0;
-  /// Keys of the other rows of an entry that was read.
-  virtual void tomarClaves(Registro&) const {}
-  /// The same of one that was stored in part and is to be gone on with.
-  virtual void conservarClaves(const Registro&) {}
   /// Before a correction is compared with what was read.
   virtual void completarEdicion(Registro&) const {}
   /// Whether a correction changes anything.
   virtual bool ComprobarCambios(Registro& nuevo) const {
-    return std::ranges::any_of(filas(), [&](const FilaLeida<Registro>& fila) {
-      return !mismaFila(*fila.tabla, registro_, nuevo);
+    bool cambia = false;
+    almacen_.cadaTabla([&](const Tabla<Registro>& tabla) {
+      cambia = cambia || !mismaFila(tabla, registro_, nuevo);
     });
+    return cambia;
   }
 
   /// The baptism of a person, as the columns that this register takes from it.
@@ -154,7 +154,7 @@ class frmPartidaDe : public frmPartida {
       completa = completa && esta;
     }
     registro_.Estado = true;
-    tomarClaves(registro_);
+    if (almacen_.alLeer) almacen_.alLeer(registro_);
     return completa;
   }
 
@@ -187,27 +187,31 @@ class frmPartidaDe : public frmPartida {
     // The entry and the date of the book, which it may move, come together or not at all.
     TransaccionSinVuelta transaccion(contexto_, *conBaseDatos);
     moverFechaDelLibro();
-    almacenar(nueva);
+    grabar(nueva);
     transaccion.terminar();
     // An entry that reached the table must not be stored a second time, and one that got there
     // without all its rows is gone on with, or taken back when the dialog closes.
     DatosPartida d = datosDe(registro_);
     d.id = intentada.Estado ? 0 : datosDe(intentada).id;
     ponerDatos(registro_, d);
-    conservarClaves(intentada);
     return intentada.Estado;
   }
   bool guardarEdicion(Registro partida) {
     completarEdicion(partida);
     if (!ComprobarCambios(partida)) return true;
     Coleccion corregida{std::move(partida)};
-    if (!desdeLista()) return almacenar(corregida);
+    if (!desdeLista()) return grabar(corregida);
     colPartidas->at(lngPosicion) = std::move(corregida.front());
     return true;
   }
   bool retirarAMedias() final {
     Coleccion aMedias{registro_};
-    return retirar(aMedias);
+    return almacen().retirarAMedias(aMedias);
+  }
+  Almacen<Registro> almacen() { return {contexto_, *conBaseDatos, almacen_}; }
+  bool grabar(Coleccion& coleccion) {
+    bool blnSalto = false;
+    return almacen().grabar(coleccion, blnSalto);
   }
 
   bool repetida() final {
@@ -235,6 +239,8 @@ class frmPartidaDe : public frmPartida {
     }
     return false;
   }
+
+  const DescripcionAlmacen<Registro>& almacen_;
 };
 
 }  // namespace fidaleon
