@@ -3,6 +3,7 @@
 #include <QApplication>
 
 #include "qt/Spanish.h"
+#include "qt/Watchdog.h"
 
 int main(int argc, char** argv) {
   if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
@@ -10,5 +11,6 @@ int main(int argc, char** argv) {
   QApplication application(argc, argv);
   QApplication::setApplicationDisplayName("Fidaleon");
   fidaleon::qt::speakSpanish(application);
+  const fidaleon::tests::Watchdog watchdog;
   return RUN_ALL_TESTS();
 }
