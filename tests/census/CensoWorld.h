@@ -120,20 +120,6 @@ struct CensoWorld : TestWorld {
     return todo;
   }
 
-  /// Locks of another workstation, of a table or of one record, held while the result lives.
-  std::unique_ptr<FDAPI::cProcesarBloqueos> otroUsa(const char* tabla, std::int32_t id = 0) {
-    auto sesion = otherSession();
-    sesion->DefinirBloqueo(bloqueo(tabla, id));
-    EXPECT_EQ(sesion->lngEfectuarBloqueos(), 0);
-    return sesion;
-  }
-  /// Whether the table, or the record, could be taken elsewhere at this moment.
-  bool libre(const char* tabla, std::int32_t id = 0) {
-    const auto sesion = otherSession();
-    sesion->DefinirBloqueo(bloqueo(tabla, id));
-    otherUser.answerAnything(forms::Answer::Ok);
-    return sesion->lngEfectuarBloqueos(true) == 0;
-  }
   std::int32_t parroquia = 0;
 
  private:
@@ -146,14 +132,6 @@ struct CensoWorld : TestWorld {
                         const std::string& columnas, const std::string& valores) {
     con().Execute("INSERT INTO " + tabla + " (" + columnas + ") VALUES (" + valores + ")");
     return std::stoi(value("SELECT MAX(" + clave + ") AS ID FROM " + tabla));
-  }
-  FDAPI::DefinicionBloqueo bloqueo(const char* tabla, std::int32_t id) {
-    FDAPI::DefinicionBloqueo uno;
-    uno.strTabla = tabla;
-    if (id == 0) return uno;
-    uno.strRegistro = texto(id);
-    uno.conBd = &con();
-    return uno;
   }
 };
 

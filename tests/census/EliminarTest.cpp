@@ -100,7 +100,7 @@ TEST_P(Eliminar, NotConfirmedUsedElsewhereOrFailingAtAnyStatement_LeavesAll) {
       for (const Answer no : {Answer::No, Answer::Cancel}) w.eliminar(no);
       const auto suya = [](const auto& fila) { return fila.second.starts_with("ID"); };
       const auto principal = std::find_if(w.fuera.begin(), w.fuera.end(), suya);
-      const auto otro = w.otroUsa(principal->first.c_str(), w.*w.b.cual);
+      const auto otro = w.otherHolds(principal->first.c_str(), w.*w.b.cual);
       w.user.answerAnything(Answer::Ok);
       w.eliminar();
       EXPECT_EQ(w.user.messages().size(), 4u);

@@ -190,8 +190,8 @@ TEST_P(Fichas, New_IsStoredWithTheLeastAndHoldsItsTablesMeanwhile) {
   const std::string nombres = std::string("SELECT Nombre FROM ") + f.tabla, antes = filas(nombres);
   abrir(0, [&](FormDriver& u) {
     EXPECT_EQ(u.caption(), f.tituloAlta);
-    EXPECT_FALSE(libre(f.tabla));
-    for (const char* tabla : f.compartidas) EXPECT_FALSE(libre(tabla)) << tabla;
+    EXPECT_FALSE(isFree(f.tabla));
+    for (const char* tabla : f.compartidas) EXPECT_FALSE(isFree(tabla)) << tabla;
     poner(u, f.minimo("Ana \"Anita\""));
     u.enter();
     EXPECT_TRUE(u.closed());
@@ -223,9 +223,9 @@ TEST_P(Fichas, Edited_ChangesThatRecordAloneAndOnlyOnAccepting) {
   for (const bool aceptar : {false, true}) {
     abrir(id, [&](FormDriver& u) {
       EXPECT_EQ(u.caption(), f.tituloEdicion);
-      EXPECT_FALSE(libre(f.tabla, id));
-      EXPECT_TRUE(libre(f.tabla, id + 1));
-      for (const char* tabla : f.compartidas) EXPECT_FALSE(libre(tabla)) << tabla;
+      EXPECT_FALSE(isFree(f.tabla, id));
+      EXPECT_TRUE(isFree(f.tabla, id + 1));
+      for (const char* tabla : f.compartidas) EXPECT_FALSE(isFree(tabla)) << tabla;
       retocar(u);
       poner(u, f.nombre, "Eva \"la Nena\"");
       if (!aceptar) {
@@ -246,7 +246,7 @@ TEST_P(Fichas, Edited_ChangesThatRecordAloneAndOnlyOnAccepting) {
 TEST_P(Fichas, UsedElsewhere_CanOnlyBeLookedAtAndNoNewOneOpens) {
   const std::int32_t id = guardada();
   const std::string antes = censo();
-  const auto otro = otroUsa(f.tabla, id);
+  const auto otro = otherHolds(f.tabla, id);
   user.answerAnything(Answer::Ok);
   f.compartida() ? abrir(id) : abrir(id, [&](FormDriver& u) {
     EXPECT_EQ(u.caption(), f.tituloEdicion);
@@ -286,7 +286,7 @@ TEST_P(Fichas, GoneOrTablesUsedElsewhere_NothingOpens) {
   abrir(99);
   EXPECT_EQ(user.messages().size(), 1u);
   for (const char* tabla : f.compartidas) {
-    const auto otro = otroUsa(tabla);
+    const auto otro = otherHolds(tabla);
     const std::size_t antes = user.messages().size();
     abrir(0);
     abrir(id);
@@ -327,7 +327,7 @@ bool fallaAlAbrir(const Ficha& f, bool edicion, int n) {
     dicho = true;
   }
   EXPECT_TRUE(abierta || dicho || !w.user.messages().empty()) << n;
-  EXPECT_TRUE(w.libre(f.tabla)) << n;
+  EXPECT_TRUE(w.isFree(f.tabla)) << n;
   return !abierta;
 }
 

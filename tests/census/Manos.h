@@ -147,7 +147,7 @@ struct ManosWorld : CensoWorld {
     if (!std::filesystem::exists(directory.path())) return;
     for (const char* tabla : {"Padron", "Padron_Actividad", "Actividad", "Grupo", "Cargo", "Tareas",
                               "Institucion", "Provincia", "Municipio"})
-      EXPECT_TRUE(libre(tabla)) << tabla;
+      EXPECT_TRUE(isFree(tabla)) << tabla;
   }
 
  private:

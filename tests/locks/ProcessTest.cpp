@@ -1,10 +1,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 #include <chrono>
-#include <csignal>
 #include <fstream>
 
 #include "forms/ScriptedUser.h"
@@ -13,43 +10,6 @@
 
 namespace fidaleon::tests {
 namespace {
-
-/// Another process with a session of its own, told by pipes when to go on.
-class OtherProcess {
- public:
-  template <class Work>
-  explicit OtherProcess(Work work) {
-    if (::pipe(said_) != 0) std::abort();
-    pid_ = ::fork();
-    if (pid_ != 0) return;
-    work(said_[1]);
-    ::_exit(0);
-  }
-  ~OtherProcess() {
-    kill();
-    ::close(said_[0]);
-    ::close(said_[1]);
-  }
-  char hear() {
-    char c = 0;
-    return ::read(said_[0], &c, 1) == 1 ? c : '?';
-  }
-  void kill() {
-    if (pid_ <= 0) return;
-    ::kill(pid_, SIGKILL);
-    int status = 0;
-    ::waitpid(pid_, &status, 0);
-    pid_ = -1;
-  }
-
- private:
-  int said_[2] = {-1, -1};
-  pid_t pid_ = -1;
-};
-
-void say(int pipe, char c) {
-  if (::write(pipe, &c, 1) != 1) ::_exit(1);
-}
 
 struct Workstation {
   explicit Workstation(const TempDirectory& directory, const char* name)
@@ -71,9 +31,9 @@ struct Workstation {
 
 TEST(TwoProcesses, OneHolds_TheOtherIsRefusedUntilItIsKilled) {
   TempDirectory directory;
-  OtherProcess holder([&](int pipe) {
+  OtherProcess holder([&](auto& self) {
     Workstation there(directory, "sacristia");
-    say(pipe, there.lock("Bautismo", "7") == 0 ? 'y' : 'n');
+    self.say(there.lock("Bautismo", "7") == 0 ? 'y' : 'n');
     for (;;) ::pause();
   });
   ASSERT_EQ(holder.hear(), 'y');
@@ -93,9 +53,9 @@ TEST(TwoProcesses, OneHolds_TheOtherIsRefusedUntilItIsKilled) {
 TEST(TwoProcesses, KilledWhileTakingAndReleasing_LeaveNoLock) {
   TempDirectory directory;
   for (int round = 0; round < 40; ++round) {
-    OtherProcess busy([&](int pipe) {
+    OtherProcess busy([&](auto& self) {
       Workstation there(directory, "sacristia");
-      say(pipe, 'y');
+      self.say();
       for (;;) {
         there.lock("Bautismo");
         there.lock("Confirmacion", "3");
@@ -118,7 +78,7 @@ TEST(TwoProcesses, UnderOneExclusiveLock_WorkOneAfterTheOther) {
   TempDirectory directory;
   const std::string counter = (directory.path() / "cuenta").string();
   std::ofstream(counter) << 0;
-  const auto work = [&](int pipe) {
+  const auto work = [&](auto& self) {
     Workstation there(directory, "uno");
     for (int done = 0; done < EACH;) {
       if (there.lock("Bautismo") != 0) continue;
@@ -128,7 +88,7 @@ TEST(TwoProcesses, UnderOneExclusiveLock_WorkOneAfterTheOther) {
       ++done;
       there.session.LiberarBloqueos();
     }
-    say(pipe, 'y');
+    self.say();
   };
   OtherProcess a(work);
   OtherProcess b(work);

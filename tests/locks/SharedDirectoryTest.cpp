@@ -2,8 +2,6 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <signal.h>
-#include <sys/resource.h>
 
 #include <filesystem>
 #include <fstream>
@@ -147,15 +145,13 @@ TEST_F(Meeting, comingWithAFullDisk_isKnownThoughNotByName) {
   SharedDirectory directory = at({});
   const SharedDirectory other = at({});
   const auto guard = directory.enter();
-  const auto before = signal(SIGXFSZ, SIG_IGN);
-  rlimit room{};
-  getrlimit(RLIMIT_FSIZE, &room);
-  const rlimit none{0, room.rlim_max};
-  setrlimit(RLIMIT_FSIZE, &none);
-  const bool told = directory.join(guard, {work("DESPACHO")});
-  const std::string again = whyNot([&] { directory.publish(guard, {work("DESPACHO")}); });
-  setrlimit(RLIMIT_FSIZE, &room);
-  signal(SIGXFSZ, before);
+  bool told = true;
+  std::string again;
+  {
+    const FullDisk full(0);
+    told = directory.join(guard, {work("DESPACHO")});
+    again = whyNot([&] { directory.publish(guard, {work("DESPACHO")}); });
+  }
   EXPECT_FALSE(told);
   EXPECT_THAT(again, HasSubstr("el disco está lleno"));
   ASSERT_EQ(other.sessions(guard).size(), 1U);

@@ -149,12 +149,6 @@ struct Encargados : En<ManosWorld> {
     if (repetido) user.expectMessage("¡El encargado ya existe en la base de datos!");
     u.click(ALTA);
   }
-  FDAPI::DefinicionBloqueo compartida() {
-    FDAPI::DefinicionBloqueo bloqueo;
-    bloqueo.strTabla = TABLA;
-    bloqueo.blnBloqueoParcialTabla = true;
-    return bloqueo;
-  }
 };
 
 TEST_F(Encargados, Opened_ShowsInstitutionKeepersLastKeeperAndToday) {
@@ -164,7 +158,7 @@ TEST_F(Encargados, Opened_ShowsInstitutionKeepersLastKeeperAndToday) {
               comprobar(u, "lblInstitucion", "San Ginés", KEEPER, "Rosa Gil", FECHA, "22/11/2026",
                         ALTA, "Agregar encargado");
               EXPECT_EQ(u.focused(), KEEPER);
-              EXPECT_FALSE(libre("Institucion"));
+              EXPECT_FALSE(isFree("Institucion"));
               poner(u, KEEPER, "Pedro Ruiz", FECHA, "");
               user.expectMessage("Falta rellenar el campo «FECHA DE IMPRESION DEL DOCUMENTO».");
               u.click(ACEPTAR);
@@ -210,9 +204,7 @@ TEST_F(Encargados, KeeperAdded_IsStoredChosenAndTheTableGivenBack) {
     agregar(u, std::string(118, 'o') + "\"z");
     EXPECT_EQ(u.text(KEEPER), std::string(118, 'o') + "'z") << "no letter gives way to a quote";
     u.choose(KEEPER, largo);
-    const auto otra = otherSession();
-    otra->DefinirBloqueo(compartida());
-    EXPECT_EQ(otra->lngEfectuarBloqueos(true), 0);
+    EXPECT_TRUE(isFree(TABLA, 0, true));
     u.click(ACEPTAR);
   });
   EXPECT_EQ(salida, largo + "|20261122|1");
@@ -232,17 +224,13 @@ TEST_F(Encargados, QuotesInName_AreNoHindrance) {
 TEST_F(Encargados, InstitutionOrKeepersInUse_CanBeChosenButNotAdded) {
   user.answerAnything(Answer::Ok);
   for (const char* tabla : {TABLA, "Institucion"}) {
-    FDAPI::DefinicionBloqueo suyo = compartida();
-    suyo.strTabla = tabla;
-    suyo.blnBloqueoParcialTabla = tabla == std::string(TABLA);
-    const auto otro = otherSession();
-    otro->DefinirBloqueo(suyo);
-    ASSERT_EQ(otro->lngEfectuarBloqueos(), 0);
+    const bool compartida = tabla == std::string(TABLA);
+    const auto otro = otherHolds(tabla, 0, compartida);
     const std::size_t antes = user.messages().size();
     const std::string salida = abrir([&](FormDriver& u) {
-      EXPECT_EQ(u.enabled(ALTA), suyo.blnBloqueoParcialTabla);
+      EXPECT_EQ(u.enabled(ALTA), compartida);
       if (u.enabled(ALTA)) u.click(ALTA);  // no prompt comes
-      EXPECT_EQ(u.enabled(ALTA), suyo.blnBloqueoParcialTabla);
+      EXPECT_EQ(u.enabled(ALTA), compartida);
       poner(u, KEEPER, "Pedro Ruiz");
       u.click(ACEPTAR);
     });

@@ -42,39 +42,24 @@ class Registers : public testing::Test {
 
   void baptism(const std::string& first, const std::string& second, const std::string& name,
                int book, int folio, const std::string& number) {
-    run("INSERT INTO bautismo_padres (nombre, primerapellido, segundoapellido, codmunicipio, "
-        "abuelo, codmunicipioabuelo, abuela, codmunicipioabuela, PadreParroquiaBaut, "
-        "PadreCodMunicipioParrBaut, PadreProfesion, AbueloPatParroquiaBaut, "
-        "AbueloPatCodMunicipioParrBaut, AbuelaPatParroquiaBaut, AbuelaPatCodMunicipioParrBaut, "
-        "TelefonoPadre, EmailPadre) VALUES (\"Juan\", \"" +
-        first +
-        "\", \"---\", 1, \"---\", 0, "
-        "\"---\", 0, \"---\", 0, \"---\", \"---\", 0, \"---\", 0, \"---\", \"---\")");
-    run("INSERT INTO bautismo_madres (nombre, primerapellido) VALUES (\"Ana\", \"" + second +
-        "\")");
-    run("INSERT INTO bautismo_matrimonio (parroquia,fechamatr,codmunicipiomatr,direccionpadres,"
-        "codmunicipiopadres,DiocesisMatrimonio ,TelefonoPadres) VALUES (\"San Pedro\", "
-        "\"20000101\",1,\"---\",1,\"Alcalá\" ,\"---\")");
+    const std::string b = std::to_string(book), f = std::to_string(folio);
+    run("INSERT INTO bautismo_padres (nombre, primerapellido, segundoapellido, codmunicipio) "
+        "VALUES (\"Juan\", \"" +
+        first + "\", \"---\", 1)");
     const std::string id =
         rows("SELECT MAX(IDPadres) AS ID FROM bautismo_padres WHERE Nombre = \"JUAN\"");
-    run("INSERT INTO bautismo (codpadres, codmadres, codmatrimonio, institucionsolicitud, "
-        "fechabautismo, padrino, madrina, ministro, parroquia, codmunicipio, diocesis, "
-        "notasmarginales, observaciones, codlibro, folio, numero, anulada, EdadPadrino, "
-        "EdadMadrina, ParroquiaDomicilioPadrino, ParroquiaDomicilioMadrina, ProfesionPadrino, "
-        "NaturalPadrino, EstatPadrino, ProfesionMadrina, NaturalMadrina, EstatMadrina "
-        ",MinistroCargo) VALUES (" +
-        id + "," + id + "," + id +
-        ",0,\"20030504\",\"---\",\"---\","
-        "\"---\",\"San Pedro\",1,\"---\",\"---\",\"---\"," +
-        std::to_string(book) + "," + std::to_string(folio) + ",\"" + number +
-        "\",0,\"0\",\"0\",\"---\",\"---\",\"---\","
-        "\"---\",\"---\",\"---\",\"---\",\"---\" ,\"---\")");
+    run("INSERT INTO bautismo_madres (nombre, primerapellido) VALUES (\"Ana\", \"" + second +
+        "\")");
+    run("INSERT INTO bautismo_matrimonio (parroquia,fechamatr,codmunicipiomatr,DiocesisMatrimonio "
+        ",TelefonoPadres) VALUES (\"San Pedro\", \"20000101\",1,\"Alcalá\" ,\"---\")");
+    run("INSERT INTO bautismo (codpadres, codmadres, codmatrimonio, fechabautismo, codlibro, "
+        "folio, "
+        "numero, anulada, EdadPadrino ,MinistroCargo) VALUES (" +
+        id + "," + id + "," + id + ",\"20030504\"," + b + "," + f + ",\"" + number +
+        "\",0,\"0\" ,\"---\")");
     const auto last = connection->Execute("SELECT * FROM bautismo ORDER BY idbautismo DESC");
-    run("INSERT INTO bautismo_hijo (codbautismo,nombre,primerapellido,segundoapellido,sexo,"
-        "fechanac,horanac,direccionnac,codmunicipionac) VALUES (" +
-        last.text("idbautismo") + ",\"" + name + "\",\"" + first + "\",\"" + second +
-        "\",\"Hombre\",\"20030501\","
-        "\"10:30\",\"---\",1)");
+    run("INSERT INTO bautismo_hijo (codbautismo,nombre,primerapellido,segundoapellido) VALUES (" +
+        last.text("idbautismo") + ",\"" + name + "\",\"" + first + "\",\"" + second + "\")");
   }
 
   std::unique_ptr<Connection> connection = memoryDatabase(parishSchema());

@@ -9,12 +9,6 @@ namespace {
 
 class Maintenance : public ::testing::Test {
  protected:
-  FDAPI::DefinicionBloqueo shared(const char* table) {
-    FDAPI::DefinicionBloqueo lock;
-    lock.strTabla = table;
-    lock.blnBloqueoParcialTabla = true;
-    return lock;
-  }
   void TearDown() override { EXPECT_SCRIPT_DONE(w.user); }
   tests::TestWorld w;
   Mantenimiento commands{w.contexto, w.con()};
@@ -22,9 +16,7 @@ class Maintenance : public ::testing::Test {
 
 TEST_F(Maintenance, WhileOthersUseTheTable_OneMayAddAndCorrectButNotDelete) {
   const auto id = w.institucion("San Pedro");
-  auto other = w.otherSession();
-  other->DefinirBloqueo(shared("Institucion"));
-  ASSERT_EQ(other->lngEfectuarBloqueos(), 0);
+  auto other = w.otherHolds("Institucion", 0, true);
   w.user.expectForm("frmInstitucion", [](forms::FormDriver& u) {
     u.type("txtInstitucion(0)", "San Pablo");
     u.click("cmdBoton(0)");
@@ -44,12 +36,7 @@ TEST_F(Maintenance, WhileOthersUseTheTable_OneMayAddAndCorrectButNotDelete) {
 
 TEST_F(Maintenance, RowOnEditInAnotherWorkstation_IsRefusedAndGoneOnesAreTold) {
   const auto town = w.municipio("Getafe", "Madrid");
-  auto other = w.otherSession();
-  FDAPI::DefinicionBloqueo row;
-  row.strTabla = "Municipio";
-  row.strRegistro = std::to_string(town);
-  other->DefinirBloqueo(row);
-  ASSERT_EQ(other->lngEfectuarBloqueos(), 0);
+  const auto other = w.otherHolds("Municipio", town);
   w.user.expectMessage(
       "En este momento no se puede abrir el municipio.\n"
       "Lo está usando: luis, en el equipo SACRISTIA, desde el 22/11/2026 a las 10:30.\n"

@@ -1,9 +1,5 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <signal.h>
-#include <sys/resource.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 #include <fstream>
 #include <sstream>
@@ -44,29 +40,14 @@ TEST_F(SettingsFile, ValuesOfAnyText_AreReadBackByAnother) {
   EXPECT_EQ(there.read("Fidaleon", section, "1", "x"), "x");
 }
 
-TEST_F(SettingsFile, TwoThatWrite_KeepWhatTheOtherWrote) {
-  FileSettings a(file);
-  FileSettings b(file);
-  a.write("F", "s", "uno", "1");
-  b.write("F", "s", "dos", "2");
-  a.write("F", "s", "tres", "3");
-  EXPECT_EQ(a.read("F", "s", "dos"), "2");
-  EXPECT_EQ(b.read("F", "s", "tres"), "3");
-}
-
 TEST_F(SettingsFile, TwoProcessesAtOnce_LoseNothing) {
   const auto work = [&](const std::string& name) {
     FileSettings settings(file);
     for (int i = 0; i < 50; ++i) settings.write("F", name, std::to_string(i), "v");
   };
-  const pid_t other = ::fork();
-  if (other == 0) {
-    work("otro");
-    ::_exit(0);
-  }
+  tests::OtherProcess other([&](auto&) { work("otro"); });
   work("este");
-  int status = 0;
-  ::waitpid(other, &status, 0);
+  other.end();
   FileSettings settings(file);
   for (int i = 0; i < 50; ++i) {
     EXPECT_EQ(settings.read("F", "este", std::to_string(i)), "v") << i;
@@ -115,19 +96,13 @@ TEST_F(SettingsFile, CannotBeWritten_SaysSoAndChangesNothing) {
 TEST_F(SettingsFile, FullDisk_IsNamedAndTheValueIsNotKept) {
   FileSettings settings(file);
   settings.write("F", "s", "k", "v");
-  const auto handler = ::signal(SIGXFSZ, SIG_IGN);
-  rlimit before{};
-  ::getrlimit(RLIMIT_FSIZE, &before);
-  const rlimit full{fs::file_size(file) + 10, before.rlim_max};
-  ::setrlimit(RLIMIT_FSIZE, &full);
   std::string said;
   try {
+    const tests::FullDisk full(fs::file_size(file) + 10);
     settings.write("F", "s", "k", std::string(100, 'x'));
   } catch (const std::runtime_error& e) {
     said = e.what();
   }
-  ::setrlimit(RLIMIT_FSIZE, &before);
-  ::signal(SIGXFSZ, handler);
   EXPECT_THAT(said, ::testing::HasSubstr("el disco está lleno"));
   EXPECT_EQ(settings.read("F", "s", "k"), "v");
   EXPECT_EQ(content(), "# Ajustes de Fidaleon\n\n[F/s]\nk=v\n");

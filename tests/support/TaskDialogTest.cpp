@@ -13,12 +13,6 @@ using forms::FormDriver;
 class Tasks : public ::testing::Test {
  protected:
   void TearDown() override { EXPECT_SCRIPT_DONE(w.user); }
-  std::int32_t task(const std::string& day, const std::string& from, const std::string& to) {
-    w.con().Execute(
-        "INSERT INTO Tareas (Fecha, HoraInicio, HoraFin, Nombre, Descripcion) VALUES (\"" + day +
-        "\", \"" + from + "\", \"" + to + "\", \"Coro\", \"\")");
-    return static_cast<std::int32_t>(std::stoi(w.value("SELECT MAX(IDTarea) AS ID FROM Tareas")));
-  }
   std::string row() {
     std::string all;
     for (const char* field : {"Fecha", "HoraInicio", "HoraFin", "Nombre", "Descripcion"})
@@ -35,7 +29,7 @@ class Tasks : public ::testing::Test {
   Mantenimiento commands{w.contexto, w.con()};
 };
 
-TEST_F(Tasks, New_IsStoredWithItsTimesAsFourDigits) {
+TEST_F(Tasks, New_IsStoredWithItsTimesAsFourDigitsAndShownAgain) {
   w.user.expectForm("frmTarea", [](FormDriver& u) {
     EXPECT_EQ(u.text("txtFecha"), "22/11/2026");
     fill(u, "9:05", "1030");
@@ -43,6 +37,13 @@ TEST_F(Tasks, New_IsStoredWithItsTimesAsFourDigits) {
     u.click("cmdBoton(0)");
   });
   EXPECT_TRUE(commands.agregar(Catalogo::Tarea));
+  EXPECT_EQ(row(), "20261224|0905|1030|Misa ''del Gallo''|Con el coro|");
+  w.user.expectForm("frmTarea", [](FormDriver& u) {
+    EXPECT_EQ(u.text("txtFecha") + u.text("txtHoraInicio") + u.text("txtHoraFin"),
+              "24/12/202609:0510:30");
+    u.click("cmdBoton(0)");
+  });
+  EXPECT_TRUE(commands.propiedades(Catalogo::Tarea, 1));
   EXPECT_EQ(row(), "20261224|0905|1030|Misa ''del Gallo''|Con el coro|");
 }
 
@@ -83,40 +84,19 @@ TEST_F(Tasks, WhatIsMissingOrWrong_IsToldAtItsFieldAndNothingIsStored) {
   EXPECT_EQ(row(), "20261224|1800|1800|Misa ''del Gallo''||");
 }
 
-TEST_F(Tasks, Properties_ShowWhatIsStoredAndChangeThatTaskAlone) {
-  const auto id = task("20260301", "0700", "2359");
-  task("20260302", "1000", "1100");
-  w.user.expectForm("frmTarea", [](FormDriver& u) {
-    EXPECT_EQ(u.text("txtFecha"), "01/03/2026");
-    EXPECT_EQ(u.text("txtHoraInicio"), "07:00");
-    EXPECT_EQ(u.text("txtHoraFin"), "23:59");
-    u.type("txtNombre", "Ensayo");
-    u.click("cmdBoton(0)");
-  });
-  EXPECT_TRUE(commands.propiedades(Catalogo::Tarea, id));
-  EXPECT_EQ(w.count("Tareas WHERE Nombre=\"Ensayo\""), 1);
-  EXPECT_EQ(w.value("SELECT Nombre FROM Tareas WHERE IDTarea=" + std::to_string(id)), "Ensayo");
-}
-
 TEST_F(Tasks, Deleting_AsksAndIsRefusedWhileAnotherIsAtIt) {
-  const auto id = task("20260301", "0700", "0800");
-  auto other = w.otherSession();
-  FDAPI::DefinicionBloqueo lock;
-  lock.strTabla = "Tareas";
-  lock.strRegistro = std::to_string(id);
-  other->DefinirBloqueo(lock);
-  ASSERT_EQ(other->lngEfectuarBloqueos(), 0);
+  w.con().Execute("INSERT INTO Tareas (Fecha, Nombre) VALUES (\"20260301\", \"Coro\")");
+  auto other = w.otherHolds("Tareas", 1);
   w.user.answerAnything(forms::Answer::Ok);
-  EXPECT_FALSE(commands.eliminar(Catalogo::Tarea, id));
-  EXPECT_FALSE(commands.propiedades(Catalogo::Tarea, id));
-  EXPECT_EQ(w.user.messages().size(), 2u);
+  EXPECT_FALSE(commands.eliminar(Catalogo::Tarea, 1));
+  EXPECT_EQ(w.user.messages().size(), 1u);
   other->LiberarBloqueos();
-  w.user.expectMessage("¿Seguro que quiere eliminar la tarea?", forms::Answer::No);
-  EXPECT_FALSE(commands.eliminar(Catalogo::Tarea, id));
-  EXPECT_EQ(w.count("Tareas"), 1);
-  w.user.expectMessage("¿Seguro que quiere eliminar la tarea?", forms::Answer::Yes);
-  EXPECT_TRUE(commands.eliminar(Catalogo::Tarea, id));
-  EXPECT_EQ(w.count("Tareas"), 0);
+  for (const bool yes : {false, true}) {
+    w.user.expectMessage("¿Seguro que quiere eliminar la tarea?",
+                         yes ? forms::Answer::Yes : forms::Answer::No);
+    EXPECT_EQ(commands.eliminar(Catalogo::Tarea, 1), yes);
+    EXPECT_EQ(w.count("Tareas"), yes ? 0 : 1);
+  }
 }
 
 }  // namespace

@@ -4,14 +4,12 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <unistd.h>
 
-#include <cstdlib>
-#include <filesystem>
 #include <memory>
 #include <string>
 
 #include "core/contract/Contexto.h"
+#include "files/Machine.h"
 #include "forms/ScriptedUser.h"
 #include "store/Open.h"
 #include "support/Clocks.h"
@@ -19,27 +17,6 @@
 #include "support/MemorySettings.h"
 
 namespace fidaleon::tests {
-
-/// A directory that is emptied and removed at the end.
-class TempDirectory {
- public:
-  TempDirectory() {
-    std::string pattern = (std::filesystem::temp_directory_path() / "fidaleon-XXXXXX").string();
-    if (!::mkdtemp(pattern.data())) std::abort();
-    path_ = pattern;
-  }
-  ~TempDirectory() {
-    std::error_code ignored;
-    std::filesystem::permissions(path_, std::filesystem::perms::owner_all, ignored);
-    std::filesystem::remove_all(path_, ignored);
-  }
-  TempDirectory(const TempDirectory&) = delete;
-  TempDirectory& operator=(const TempDirectory&) = delete;
-  const std::filesystem::path& path() const { return path_; }
-
- private:
-  std::filesystem::path path_;
-};
 
 /// Members are in the order in which they need each other. `config` may be changed at any time;
 /// set `entorno.installation` before the act to change the edition.
@@ -111,9 +88,31 @@ struct TestWorld {
     session->Inicializar(directory.path().string());
     return session;
   }
+  /// Another workstation has this table, or this row of it, as long as the result lives.
+  std::unique_ptr<FDAPI::cProcesarBloqueos> otherHolds(const std::string& table,
+                                                       std::int32_t row = 0, bool shared = false) {
+    auto session = otherSession();
+    session->DefinirBloqueo(lockOf(table, row, shared));
+    EXPECT_EQ(session->lngEfectuarBloqueos(), 0);
+    return session;
+  }
+  /// Whether another workstation could have it now.
+  bool isFree(const std::string& table, std::int32_t row = 0, bool shared = false) {
+    const auto session = otherSession();
+    session->DefinirBloqueo(lockOf(table, row, shared));
+    otherUser.answerAnything(forms::Answer::Ok);
+    return session->lngEfectuarBloqueos(true) == 0;
+  }
   forms::ScriptedUser otherUser;
 
  private:
+  static FDAPI::DefinicionBloqueo lockOf(const std::string& table, std::int32_t row, bool shared) {
+    FDAPI::DefinicionBloqueo lock;
+    lock.strTabla = table;
+    if (row != 0) lock.strRegistro = std::to_string(row);
+    lock.blnBloqueoParcialTabla = shared;
+    return lock;
+  }
   static std::string first(store::Connection& connection, const std::string& sql) {
     const store::Recordset rs = connection.Execute(sql);
     return rs.EOF_() ? std::string() : rs.Fields(0).Value().text();

@@ -1,13 +1,9 @@
 #include <QAction>
-#include <QCoreApplication>
-#include <QLineEdit>
 #include <QMenuBar>
 #include <QTableView>
 
 #include "catalogue/Documents.h"
 #include "catalogue/ReportProgress.h"
-#include "census/collaborators/frmColaborador.h"
-#include "census/persons/frmPadron.h"
 #include "parish/Insert.h"
 #include "parish/Parish.h"
 #include "window/MainWindow.h"
@@ -16,10 +12,6 @@ namespace fidaleon::app {
 namespace {
 
 using forms::FormDriver;
-
-std::string at(const char* array, int index) {
-  return std::string(array) + "(" + std::to_string(index) + ")";
-}
 
 class CensusWindow : public ParishTest {
  protected:
@@ -35,10 +27,6 @@ class CensusWindow : public ParishTest {
   std::string cell(int column) const {
     return window->table().currentIndex().siblingAtColumn(column).data().toString().toStdString();
   }
-  std::int64_t roles(std::int32_t person) {
-    return count("SELECT COUNT(*) FROM Padron_TipoPersona WHERE CodPadron=" +
-                 std::to_string(person));
-  }
   std::int32_t someoneWith(int rolesHeld) {
     return static_cast<std::int32_t>(
         count("SELECT CodPadron FROM Padron_TipoPersona GROUP BY CodPadron HAVING COUNT(*)=" +
@@ -47,45 +35,6 @@ class CensusWindow : public ParishTest {
 
   std::unique_ptr<MainWindow> window;
 };
-
-TEST_F(CensusWindow, leaving_closesTheWindowOnceTheCommandHasEnded) {
-  open("Padrón", Content::Empty);
-  give("salir");
-  QCoreApplication::processEvents();
-  EXPECT_FALSE(window->isVisible());
-}
-
-TEST_F(CensusWindow, newPerson_isChosenInTheListOnceAccepted) {
-  open("Padrón");
-  const int before = shown();
-  user.expectForm("frmPadron", [](FormDriver& d) {
-    d.chooseData(at("cboPadron", frmPadron::Institucion), 1);
-    d.type(at("txtPadron", frmPadron::Nombre), "Ñusta \"la Nena\"");
-    d.type(at("txtPadron", frmPadron::PrimerApellido), "D'Ors");
-    d.type(at("txtPadron", frmPadron::SegundoApellido), "Zúñiga");
-    d.click(at("cmdPadron", frmPadron::ACEPTAR));
-  });
-  give("nuevo-empadronado");
-  EXPECT_EQ(shown(), before + 1);
-  EXPECT_EQ(window->choice().id, count("SELECT MAX(IDPadron) FROM Padron"));
-  window->filter().setText("nusta d'ors");
-  EXPECT_EQ(shown(), 1);
-}
-
-TEST_F(CensusWindow, aPersonOpenedAsCollaborator_isInBothListsAndStaysChosen) {
-  open("Padrón");
-  const std::int32_t person = someoneWith(1);
-  ASSERT_TRUE(window->chooseRow(person));
-  const int people = shown();
-  user.expectForm("frmColaborador",
-                  [](FormDriver& d) { d.click(at("cmdColaborador", frmColaborador::ACEPTAR)); });
-  give("abrir-como-colaborador");
-  EXPECT_EQ(shown(), people);
-  EXPECT_EQ(window->choice().id, person);
-  EXPECT_EQ(roles(person), 2);
-  window->showNode("Colaboradores");
-  EXPECT_TRUE(window->chooseRow(person));
-}
 
 // Somebody of the census becomes a collaborator through the dialog for new ones; meanwhile another
 // workstation adds rows too.
@@ -181,40 +130,6 @@ TEST_F(CensusWindow, whatIsDeletedIsNamed_andEnterLeavesIt) {
   }
 }
 
-TEST_F(CensusWindow, emptyLists_takeTheirFirstRow) {
-  open("Cargos", Content::Empty);
-  EXPECT_EQ(shown(), 0);
-  EXPECT_FALSE(window->action("propiedades-cargo")->isEnabled());
-  user.expectForm("frmCargo", [](FormDriver& d) { d.escape(); });
-  give("nuevo-cargo");
-  window->showNode("Tareas");
-  user.expectForm("frmTarea", [](FormDriver& d) {
-    d.type("txtHoraInicio", "18:00");
-    d.type("txtNombre", "Reunión");
-    d.click("cmdBoton(0)");
-  });
-  give("nueva-tarea");
-  EXPECT_EQ(shown(), 1);
-  EXPECT_EQ(window->choice().id, 1);
-  EXPECT_TRUE(window->action("propiedades")->isEnabled());
-}
-
-TEST_F(CensusWindow, rowOfAnotherUser_isNotOpened) {
-  open("Provincias");
-  const auto id = std::to_string(window->choice().id);
-  auto other = desk->entorno().support.create_cProcesarBloqueos();
-  other->Inicializar(directory().string());
-  FDAPI::DefinicionBloqueo lock;
-  lock.strTabla = "Provincia";
-  lock.strRegistro = id;
-  other->DefinirBloqueo(lock);
-  ASSERT_EQ(other->lngEfectuarBloqueos(), 0);
-  user.answerAnything(forms::Answer::Ok);
-  give("propiedades");
-  ASSERT_EQ(user.messages().size(), 1u);
-  EXPECT_THAT(user.messages()[0].text, ::testing::HasSubstr("Lo está usando"));
-}
-
 TEST_F(CensusWindow, entireReports_holdWhatThereIs) {
   open("Padrón");
   for (const ListReport& report : listReports()) {
@@ -265,21 +180,6 @@ TEST_F(CensusWindow, entireReportWithoutRows_isToldOnce) {
   give("informe-entero");
 }
 
-TEST_F(CensusWindow, choiceGivenUp_showsNothing) {
-  open("InformesTareas de la agenda");
-  user.expectForm("frmInfAgenda", [](FormDriver& d) { d.escape(); });
-  give("informe");
-  window->showNode("InformesColaboradores");
-  user.expectForm("frmInfActividad", [](FormDriver& d) { d.escape(); });
-  give("informe");
-  window->showNode("Colaboradores");
-  user.expectForm("frmInfActividad", [](FormDriver& d) {
-    EXPECT_EQ(d.caption(), "Informe de colaboradores");
-    d.escape();
-  });
-  give("informe-de-la-lista");
-}
-
 TEST_F(CensusWindow, menuWithNothingToOffer_isOff) {
   open("Cargos");
   const auto documents = [&] {
@@ -292,28 +192,23 @@ TEST_F(CensusWindow, menuWithNothingToOffer_isOff) {
   EXPECT_TRUE(documents());
 }
 
-TEST_F(CensusWindow, tasksOpenAtTheNextOne) {
+TEST_F(CensusWindow, tasksOpenAtTheNextOneTodayIncluded) {
   open("Tareas");
-  const std::string chosen = std::to_string(window->choice().id);
-  EXPECT_EQ(rowsOf("SELECT IDTarea FROM Tareas WHERE Fecha>=\"20260520\" AND IDTarea=" + chosen),
-            1);
-  EXPECT_EQ(rowsOf("SELECT IDTarea FROM Tareas WHERE Fecha>=\"20260520\" AND Fecha<(SELECT Fecha "
-                   "FROM Tareas WHERE IDTarea=" +
-                   chosen + ")"),
-            0);
-  const auto openAgainAfter = [&](const std::string& statement) {
-    desk->parish().Execute(statement);
+  const auto dayChosen = [&] {
     window->action("actualizar")->trigger();
     window->showNode("Cargos");
     window->showNode("Tareas");
-    return window->table().currentIndex().row();
+    return count("SELECT Fecha FROM Tareas WHERE IDTarea=" + std::to_string(window->choice().id));
   };
-  const std::string following = "DELETE * FROM Tareas WHERE Fecha>=\"20260520\"";
-  EXPECT_EQ(openAgainAfter(following), 0);
-  EXPECT_GT(openAgainAfter("INSERT INTO Tareas (Fecha, HoraInicio, HoraFin, Nombre) VALUES "
-                           "(\"20260520\", \"1000\", \"1100\", \"De hoy\")"),
-            0)
-      << "one of today is still to come";
+  desk->parish().Execute("DELETE * FROM Tareas WHERE Fecha=\"20260520\"");
+  EXPECT_EQ(dayChosen(), count("SELECT MIN(Fecha) FROM Tareas WHERE Fecha>\"20260520\""));
+  desk->parish().Execute(
+      "INSERT INTO Tareas (Fecha, HoraInicio, HoraFin, Nombre) VALUES (\"20260520\", \"1000\", "
+      "\"1100\", \"De hoy\")");
+  EXPECT_EQ(dayChosen(), 20260520) << "one of today is still to come";
+  desk->parish().Execute("DELETE * FROM Tareas WHERE Fecha>=\"20260520\"");
+  dayChosen();
+  EXPECT_EQ(window->table().currentIndex().row(), 0);
 }
 
 }  // namespace

@@ -1,8 +1,5 @@
 #pragma once
 
-#include <signal.h>
-#include <sys/resource.h>
-
 #include <QApplication>
 #include <QMessageBox>
 #include <QPushButton>
@@ -47,23 +44,7 @@ inline void answerNext(const QString& button, QString* text = nullptr) {
   });
 }
 
-/// No file may grow beyond this for as long as it lives: a disk that is full.
-class FullDisk {
- public:
-  explicit FullDisk(rlim_t bytes) : handler_(signal(SIGXFSZ, SIG_IGN)) {
-    getrlimit(RLIMIT_FSIZE, &before_);
-    const rlimit small{bytes, before_.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &small);
-  }
-  ~FullDisk() {
-    setrlimit(RLIMIT_FSIZE, &before_);
-    signal(SIGXFSZ, handler_);
-  }
-
- private:
-  rlimit before_{};
-  sighandler_t handler_;
-};
+using tests::FullDisk;
 
 /// A parish without people, and its copies.
 class Copies : public ParishTest {

@@ -8,7 +8,6 @@
 #include "parish/WindowSettings.h"
 #include "parish/copies/CopyRetention.h"
 #include "parish/copies/Precaution.h"
-#include "registers/baptism/frmPartidaBautismo.h"
 #include "store/Engine.h"
 #include "store/FailingEngine.h"
 #include "window/CopiesFixture.h"
@@ -34,15 +33,10 @@ TEST(CopyName, saysWhenAndBeforeWhat_andSorts) {
     EXPECT_EQ(read->ordinal, name.ordinal);
     EXPECT_EQ(read->before, name.before);
   }
-}
-
-TEST(CopyName, holdsNothingThatAFileSystemRefuses) {
   EXPECT_EQ((CopyName{NOON, 1, " &Pasar a \"A/B\\C\": <¿qué?>|*\n… "}).file(),
             "2020-05-20 12.00.00 Pasar a A-B-C ¿qué.fidaleon");
   EXPECT_EQ((CopyName{NOON, 1, "..."}).file(), "2020-05-20 12.00.00 Orden.fidaleon");
-  std::string longest;
-  for (int i = 0; i < 100; ++i) longest += "𝓝";
-  EXPECT_LT((CopyName{NOON, 12, longest}).file().size(), 235U);
+  EXPECT_LT((CopyName{NOON, 12, std::string(400, 'x')}).file().size(), 235U);
 }
 
 TEST(CopyName, otherFilesAreNone) {
@@ -119,24 +113,22 @@ TEST_F(Copies, whileAColleagueWrites_holdWhatWasStored) {
 }
 
 TEST_F(Copies, thatCannotBeMade_sayWhyAndLeaveNothing) {
-  using Kind = store::ErrorKind;
   const auto failure = [&] {
     try {
       make();
     } catch (const store::Error& e) {
-      EXPECT_THAT(e.what(), HasSubstr("o"));
       return e.kind();
     }
-    return Kind::Other;
+    return store::ErrorKind::Other;
   };
   {
     const FullDisk full(20000);
-    EXPECT_EQ(failure(), Kind::DiskFull);
+    EXPECT_EQ(failure(), store::ErrorKind::DiskFull);
   }
   EXPECT_THAT(namesIn(folder()), IsEmpty());
   fs::remove_all(folder());
   std::ofstream(folder()) << "a file in the place of the folder";
-  EXPECT_EQ(failure(), Kind::ReadOnly);
+  EXPECT_EQ(failure(), store::ErrorKind::ReadOnly);
 }
 
 /// An engine whose copies come out wrong.
@@ -159,9 +151,7 @@ TEST_F(Copies, thatAreNotTheParish_areFoundOut) {
     return made;
   });
   const std::vector<std::function<void(const fs::path&)>> faults{
-      [](const fs::path& f) { fs::resize_file(f, fs::file_size(f) / 2); },
       [](const fs::path& f) { fs::resize_file(f, fs::file_size(f) - 4096); },
-      [](const fs::path& f) { fs::resize_file(f, 0); },
       [](const fs::path& f) {
         store::openDatabase(f, store::parishSchema())->Execute("DELETE FROM Cargo");
       },
@@ -205,34 +195,19 @@ TEST_F(Copies, pruned_onlyOursGo) {
     place(CopyName{{{2026, 3, day}, 8, 0, 0}, 1, "Eliminar"}.file());
   for (int day = 2; day <= 4; ++day)  // Monday to Wednesday
     place(CopyName{{{2026, 2, day}, 8, 0, 0}, 1, "Eliminar"}.file());
-  const std::vector<std::string> foreign{"2020-01-01 copia de Ana.fidaleon", "notas.txt",
-                                         "parroquia.fidaleon", "vieja.copia"};
-  for (const std::string& name : foreign) place(name);
-  place("2026-05-20 09.00.00 De hoy.fidaleon.parte");
+  const std::vector<std::string> staying{
+      "2020-01-01 copia de Ana.fidaleon", "notas.txt", "parroquia.fidaleon", "vieja.copia",
+      "2026-02-04 08.00.00 Eliminar.fidaleon", "2026-05-20 09.00.00 De hoy.fidaleon.parte",
+      // Made under a clock that was wrong: they push out nothing.
+      "2031-01-01 08.00.00 Eliminar.fidaleon", "2031-01-02 08.00.00 Eliminar.fidaleon"};
+  for (const std::string& name : staying) place(name);
   place("2026-05-19 09.00.00 De ayer.fidaleon.parte-journal");
   place("2026-05-19 09.00.00 De ayer.fidaleon", "");
   copies.prune({{2026, 5, 20}, 12, 0, 0});
   const auto left = namesIn(folder());
-  // Thirty, the first of March as the newest of its week, and that of the first week of February.
-  EXPECT_EQ(left.size(), 30 + 2 + foreign.size() + 1);
-  for (const std::string& name : foreign) EXPECT_THAT(left, ::testing::Contains(name));
-  EXPECT_THAT(left, ::testing::Contains("2026-02-04 08.00.00 Eliminar.fidaleon"));
-  EXPECT_THAT(left, ::testing::Contains("2026-05-20 09.00.00 De hoy.fidaleon.parte"));
-}
-
-// A clock that was wrong for a day makes copies of days to come; they must not push out what is
-// made afterwards.
-TEST_F(Copies, ofDaysToCome_countForNothingAndStay) {
-  fs::create_directories(folder());
-  for (int day = 1; day <= 31; ++day)
-    place(CopyName{{{2031, 3, day}, 8, 0, 0}, 1, "Eliminar"}.file());
-  for (int made = 1; made <= 3; ++made) {
-    {
-      const Precaution copy(copies, desk->parish(), "Eliminar", NOON);
-      addOffice("x");
-    }
-    EXPECT_EQ(namesIn(folder()).size(), 31U + static_cast<std::size_t>(made));
-  }
+  // Thirty, and the first of March as the newest of its week.
+  EXPECT_EQ(left.size(), 30 + 1 + staying.size());
+  for (const std::string& name : staying) EXPECT_THAT(left, ::testing::Contains(name));
 }
 
 TEST_F(Copies, beforeACommand_stayOnlyWhenItChangedSomething) {
@@ -319,20 +294,6 @@ TEST_F(CopiesWindow, deleting_leavesACopyThatNamesTheCommand) {
   EXPECT_THAT(user.problems(), IsEmpty());
 }
 
-TEST_F(CopiesWindow, withoutACopy_goesOnOnlyWhenToldTo) {
-  std::ofstream(folder()) << "x";
-  QString text;
-  answerNext({}, &text);
-  window->action("eliminar-solicitud")->trigger();
-  EXPECT_EQ(rows(), before) << "Enter says no";
-  EXPECT_TRUE(text.contains("No se ha podido guardar una copia")) << text.toStdString();
-  EXPECT_TRUE(text.contains("No se puede escribir en")) << text.toStdString();
-  answerNext("C&ontinuar sin copia");
-  deleteRequest(forms::Answer::Yes);
-  EXPECT_EQ(rows(), before - 1);
-  EXPECT_THAT(user.problems(), IsEmpty());
-}
-
 TEST_F(CopiesWindow, aSoundParish_isLookedThroughOnceADay) {
   const auto checked = [&] { return readWindowSetting(*desk, "comprobada"); };
   window->dailyCheck().begin(std::chrono::minutes(10));
@@ -354,32 +315,6 @@ TEST_F(CopiesWindow, whenTheParishIsGone_nothingIsBegunAndItCanBeOpenedAgain) {
   fs::rename(aside, files().parish());
   deleteRequest(forms::Answer::Yes);
   EXPECT_EQ(rows(), before - 1) << "it is back";
-}
-
-TEST_F(CopiesWindow, anEntryAcceptedIntoAParishThatIsGone_staysOpenWithWhatWasTyped) {
-  const fs::path aside = directory() / "aparte";
-  const auto entries = [&] { return count("SELECT COUNT(*) FROM Bautismo_Hijo"); };
-  const std::int64_t all = entries();
-  const std::string name = "txtBautismo(" + std::to_string(frmPartidaBautismo::NombreHijo) + ")";
-  user.answerAnything(forms::Answer::Yes);
-  user.expectForm("frmPartidaBautismo", [&](forms::FormDriver& d) {
-    d.choose("cboBautismo(22)", "San Blas");
-    auto& books = d.get<forms::ComboBox>("cboBautismo(23)");
-    if (books.listIndex() < 0) d.choose("cboBautismo(23)", books.list(0));
-    d.tab("mstBautismo", 1);
-    d.type(name, "Íñigo");
-    d.type("txtBautismo(" + std::to_string(frmPartidaBautismo::PrimerApellidoHijo) + ")", "Vela");
-    fs::rename(files().parish(), aside);
-    d.click("cmdBautismo(0)");
-    EXPECT_EQ(d.text(name), "Íñigo");
-    EXPECT_EQ(entries(), all);
-    EXPECT_THAT(user.messages().back().text, HasSubstr("devuelva el archivo a su sitio"));
-    fs::rename(aside, files().parish());
-    d.click("cmdBautismo(0)");
-    EXPECT_EQ(entries(), all + 1);
-    d.close();
-  });
-  desk->nucleo().NuevaPartida(desk->parish(), desk->config(), "PartidasBautismo");
 }
 
 /// Opens the properties of the old book and takes one of its entries out, or changes nothing but
@@ -447,44 +382,16 @@ TEST_F(CopiesBook, withoutACopy_keepsItsEntriesUntilToldToGoOn) {
   const std::int64_t all = entries();
   std::ofstream(folder()) << "x";
   user.answerAnything(forms::Answer::Yes);
-  answerNext({});
+  QString text;
+  answerNext({}, &text);
   acceptBook(true);
-  EXPECT_EQ(entries(), all);
+  EXPECT_EQ(entries(), all) << "Enter says no";
+  EXPECT_TRUE(text.contains("No se ha podido guardar una copia")) << text.toStdString();
+  EXPECT_TRUE(text.contains("No se puede escribir en")) << text.toStdString();
   EXPECT_THAT(user.messages()[0].text, HasSubstr("No se ha eliminado nada"));
   answerNext("C&ontinuar sin copia");
   acceptBook(true);
   EXPECT_EQ(entries(), all - 1);
-}
-
-// The copy is made while the command is in the middle of what it stores.
-TEST_F(CopiesWindow, membersTakenOutOfAGroup_areInTheCopy) {
-  for (const char* journal : {"WAL", "DELETE"}) {
-    SCOPED_TRACE(journal);
-    desk->parish().engine().run(std::string("PRAGMA journal_mode = ") + journal);
-    Insert("Padron_Actividad").number("CodPadron", 1).number("CodCargo", 1).into(desk->parish());
-    const std::int64_t members = count("SELECT COUNT(*) FROM Padron_Actividad");
-    const std::int64_t offices = this->offices();
-    store::RemovalWatch watch(desk->parish());
-    std::unique_ptr<Precaution> copy;
-    const store::RemovalWatch::Listener listener(watch, [&] {
-      if (!copy) copy = std::make_unique<Precaution>(copies, desk->parish(), "Propiedades", NOON);
-    });
-    desk->parish().BeginTrans();
-    addOffice("Sacristán");
-    EXPECT_EQ(copy, nullptr);
-    desk->parish().Execute("DELETE * FROM Padron_Actividad WHERE CodCargo>0");
-    desk->parish().CommitTrans();
-    copy.reset();
-    ASSERT_EQ(copies.list().size(), 1U);
-    const fs::path file = copies.list()[0].file;
-    EXPECT_EQ(officesIn(file), offices);
-    EXPECT_EQ(store::openDatabase(file, store::parishSchema())
-                  ->Execute("SELECT * FROM Padron_Actividad")
-                  .RecordCount(),
-              members);
-    EXPECT_EQ(count("SELECT COUNT(*) FROM Padron_Actividad"), 0);
-    SafetyCopies::remove(file);
-  }
 }
 
 }  // namespace

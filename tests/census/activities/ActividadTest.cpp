@@ -205,25 +205,25 @@ TEST_F(Actividades, GroupsAddedOrToGo_HoldTheTableUntilTheLastIsGivenBack) {
   editar([&](FormDriver& d) {
     const auto mirar = [&](int fila) {
       grupoDe(d, fila, [&](FormDriver& g) {
-        EXPECT_TRUE(fila > 0 || !libre("Grupo"));
+        EXPECT_TRUE(fila > 0 || !isFree("Grupo"));
         g.click(CANCELAR_GRUPO);
       });
-      return libre("Grupo");
+      return isFree("Grupo");
     };
     EXPECT_TRUE(mirar(0));
     grupoNuevo(d, "Tercero");
     EXPECT_FALSE(mirar(0)) << "one still waits";
     grupoNuevo(d, "Cuarto");
     quitarFila(d, 4);
-    EXPECT_FALSE(libre("Grupo"));
+    EXPECT_FALSE(isFree("Grupo"));
     quitarFila(d, 3);
-    EXPECT_TRUE(libre("Grupo"));
+    EXPECT_TRUE(isFree("Grupo"));
     quitarFila(d, 2);
     EXPECT_FALSE(mirar(0)) << "a stored one is to go";
     grupoNuevo(d, "Tercero");
     // The key of this group is the number under which the table was taken.
     EXPECT_FALSE(mirar(1));
-    EXPECT_FALSE(libre("Grupo", 9)) << "the table is still taken whole";
+    EXPECT_FALSE(isFree("Grupo", 9)) << "the table is still taken whole";
     d.click(ACEPTAR);
   });
   EXPECT_EQ(filas("SELECT Nombre FROM Grupo"), "Primero/Tercero");
@@ -234,7 +234,7 @@ TEST_F(Actividades, GroupsUsedElsewhere_AreNeitherAddedToNorTakenAway) {
   editar([&](FormDriver& d) {
     d.tab("mstActividad", 1);
     {
-      const auto otro = otroUsa("Grupo", primero);
+      const auto otro = otherHolds("Grupo", primero);
       quitarFila(d, 1);
       d.click(AGREGAR);
       EXPECT_EQ(user.messages().size(), 2u);
@@ -245,7 +245,7 @@ TEST_F(Actividades, GroupsUsedElsewhere_AreNeitherAddedToNorTakenAway) {
     EXPECT_EQ(columna(d, REJILLA), "Primero");
     grupoNuevo(d, "Tercero");
     quitarFila(d, 2);
-    EXPECT_TRUE(libre("Grupo")) << "the refused one was not counted";
+    EXPECT_TRUE(isFree("Grupo")) << "the refused one was not counted";
     d.click("cmdActividad(1)");
   });
 }
@@ -371,7 +371,7 @@ TEST_F(Actividades, MembersOrOfficesNotRead_AreReportedAndNothingIsLost) {
     };
     falla(d, "SELECT Nombre,IDPadron", MODIFICAR, "CargarDatosGrupoColaborador");
     falla(d, "Padron,Padron_TipoPersona", AGREGAR, "frmActividadGrupos");
-    EXPECT_TRUE(libre("Grupo")) << "the group that did not open is not counted";
+    EXPECT_TRUE(isFree("Grupo")) << "the group that did not open is not counted";
     grupoDe(d, 2, [&](FormDriver& g) {
       g.tab("mstGrupo", 1);
       falla(g, "FROM Cargo", "cmdMover(1)", "frmCargo");

@@ -39,7 +39,7 @@ struct Membresias : En<GruposWorld> {
         a.click(NO);
       });
       EXPECT_EQ(columna(u, REJILLA), "");
-      EXPECT_TRUE(libre(TABLA));
+      EXPECT_TRUE(isFree(TABLA));
       u.close();
     };
     abrir(carmen, sinElla, origen);
@@ -71,10 +71,10 @@ TEST_F(Membresias, Added_ShowsAtOnceAndHoldsTheTableUntilTheLastIsGone) {
   abrir(carmen, [&](FormDriver& u) {
     conDialogo(u, AGREGAR, [&](FormDriver& a) {
       EXPECT_EQ(a.caption(), "Agregar colaborador - actividad");
-      EXPECT_FALSE(libre(TABLA));
+      EXPECT_FALSE(isFree(TABLA));
       a.click(NO);
     });
-    EXPECT_TRUE(libre(TABLA));
+    EXPECT_TRUE(isFree(TABLA));
     elegir(u, AGREGAR, "Segundo", "Monitor");
     EXPECT_EQ(celdas(u, REJILLA, 1), "Segundo|Monitor|Catequesis|Aula 2|Lunes|18:00");
     elegir(u, AGREGAR, "Primero", "Monitor");
@@ -82,9 +82,9 @@ TEST_F(Membresias, Added_ShowsAtOnceAndHoldsTheTableUntilTheLastIsGone) {
     quitarFila(u, 1);
     EXPECT_EQ(columna(u, REJILLA), "Primero");
     EXPECT_EQ(u.get<forms::Grid>(REJILLA).row(), 1) << "the next one is chosen";
-    EXPECT_FALSE(libre(TABLA));
+    EXPECT_FALSE(isFree(TABLA));
     u.click(QUITAR);
-    EXPECT_TRUE(libre(TABLA));
+    EXPECT_TRUE(isFree(TABLA));
     u.click(QUITAR);
     u.click(MODIFICAR);
     EXPECT_EQ(user.beeps(), 2) << "no row is chosen";
@@ -103,7 +103,7 @@ TEST_F(Membresias, OwnLocks_NeverStandInTheWay) {
     }
     u.click(QUITAR);
     quitarFila(u, 1);
-    EXPECT_FALSE(libre(TABLA)) << "the stored row is still to go";
+    EXPECT_FALSE(isFree(TABLA)) << "the stored row is still to go";
     u.click(ACEPTAR);
   });
   EXPECT_EQ(de(ana), "");
@@ -144,7 +144,7 @@ TEST_F(Membresias, ChangedElsewhereMeanwhile_AreNeitherStoredTwiceNorLost) {
 }
 
 TEST_F(Membresias, TableOrRowInUseElsewhere_StopsTheAction) {
-  const auto otro = otroUsa(TABLA, deAna);
+  const auto otro = otherHolds(TABLA, deAna);
   user.answerAnything(Answer::Ok);
   abrir(ana, [&](FormDriver& u) {
     u.row(REJILLA, 1);

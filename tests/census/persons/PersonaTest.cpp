@@ -132,7 +132,7 @@ TEST_F(Personas, NoInstitutionChosen_OtherTabsStayShutUnlessOneOnlyLooks) {
     EXPECT_EQ(user.beeps(), 1);
     u.escape();
   });
-  const auto otro = otroUsa("Padron", rosa());
+  const auto otro = otherHolds("Padron", rosa());
   ejecutar("UPDATE Padron SET CodInstitucionEmpadronado=0");
   user.answerAnything(Answer::Ok);
   editaPersona(1, [](FormDriver& u) {
@@ -251,7 +251,7 @@ TEST_F(Personas, SameName_IsShownOnceForEachChangeAndOpenedInsteadWhenChosen) {
       lista("cmdBotones(1)");
       espera("frmPadron", [&](FormDriver& otra) {
         EXPECT_EQ(otra.caption(), "Propiedades del empadronado Elena Sanz Mora");
-        EXPECT_FALSE(libre("Padron", 1));
+        EXPECT_FALSE(isFree("Padron", 1));
         otra.close();
       });
       if (!buscada) poner(u, MINIMO);
