@@ -243,8 +243,12 @@ std::string PosicionPartida::ajusteLimite() const {
   return contexto_.leerAjuste(cCRegistry::documentos, cCRegistry::DOCUMENTOS_MAXPAGLIBRO);
 }
 
+bool PosicionPartida::pasaLimite() const {
+  return pasaLimiteDeFolios(ajusteLimite(), enCampos().folio);
+}
+
 void PosicionPartida::comprobarLimite() {
-  if (!pasaLimiteDeFolios(ajusteLimite(), enCampos().folio)) return;
+  if (!pasaLimite()) return;
   forms::warn(contexto_.ui(), MENSAJE_LIMITE_FOLIOS);
   campos_.pestanas.setTab(0);
   limiteSuperado_ = true;

@@ -67,6 +67,8 @@ class PosicionPartida {
   void avisarSalto(const Posicion& anterior);
 
   /// The last proposal passed the page limit: the entry must not be accepted.
+  /// What stands in the fields passes the limit.
+  bool pasaLimite() const;
   bool limiteSuperado() const { return limiteSuperado_; }
 
  private:

@@ -33,7 +33,7 @@ bool enBlanco(const forms::TextBox& campo) {
 void frmPartida::aceptar() {
   if (faltaInstitucionOLibro() || !elecciones_->siguen() || faltaPosicion()) return;
   if (!mst_MouseDown()) return;
-  if (esAlta() && posicion_->limiteSuperado()) {
+  if (pasaLimite()) {
     forms::warn(ui(), MENSAJE_LIMITE_FOLIOS);
     mstPartida.setTab(TAB_GENERAL);
     return;
@@ -42,6 +42,13 @@ void frmPartida::aceptar() {
   // Questions have been standing since: what they were about may have gone.
   if (!elecciones_->siguen() || !GrabarDatosColeccion()) return;
   esAlta() ? otraPartida() : Unload();
+}
+
+bool frmPartida::pasaLimite() const {
+  if (esAlta() && posicion_->limiteSuperado()) return true;
+  const bool tecleado =
+      !txtLibro[FOLIO].locked() && text::trim(txtLibro[FOLIO].text()) != datos().folio;
+  return variante_.limiteAlTeclear && tecleado && posicion_->pasaLimite();
 }
 
 bool frmPartida::ComprobarCampos() {
@@ -76,7 +83,8 @@ bool frmPartida::preguntarPorVacios() {
 
 bool frmPartida::textosVacios() const {
   for (const forms::TextBox* campo : textos_) {
-    const bool cuenta = campo != notas_ || variante_.vacios.notas;
+    const bool cuenta =
+        (campo != notas_ || variante_.vacios.notas) && !prescindibles_.contains(campo);
     if (cuenta && campo->visible() && enBlanco(*campo)) return true;
   }
   return false;

@@ -44,6 +44,8 @@ struct VariantePartida {
   bool anularAntigua;  // the button is there for an old entry being added
   bool anularEdicion;  // and for one being corrected
   bool notasEnNueva;   // a new entry of a new book has marginal notes
+  /// A folio typed for an old book may not pass the limit either.
+  bool limiteAlTeclear = false;
 
   /// When the date of an old book follows that of an entry added to it.
   enum class FechaDelLibro { Adelanta, AdelantaLaPrimera, AtrasaLaPrimera };

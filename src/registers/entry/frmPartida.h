@@ -98,6 +98,8 @@ class frmPartida : public Dialogo {
   /// surnames looks for them in the books.
   void persona(int nombre, int primerApellido, int segundoApellido);
   void ponerNotas(int indice);
+  /// A text that may stay blank without being asked about.
+  void puedeFaltar(int indice) { prescindibles_.insert(&txtPartida[indice]); }
   void fechaDelSacramento(int indice) { fechaSacramento_ = &adtpPartida[indice]; }
   /// Stays as it is from one entry of a series to the next.
   void serie(const forms::Control& campo) { serie_.insert(&campo); }
@@ -196,6 +198,7 @@ class frmPartida : public Dialogo {
 
   // Acceptance
   void aceptar();
+  bool pasaLimite() const;
   bool ComprobarCampos();
   bool faltaNombre();
   bool preguntarPorVacios();
@@ -219,6 +222,7 @@ class frmPartida : public Dialogo {
   forms::TextBox* notas_ = nullptr;
   const forms::DateField* fechaSacramento_ = nullptr;
   std::set<const forms::Control*> serie_;
+  std::set<const forms::Control*> prescindibles_;
   std::vector<std::function<void()>> bloqueados_;  // unlocks what the annulment has locked
 
   std::optional<Elecciones> elecciones_;
