@@ -139,7 +139,10 @@ void TextBox::filterKey(KeyPress& key) {
   if (key.changed() || locked() || key.ctrl || key.alt) return;
   if (key.character == U'"' && quoteRule_ != QuoteRule::Keep) key.replaceWith("''");
   const bool digit = key.character >= U'0' && key.character <= U'9';
-  if (digitsOnly_ && key.character >= U' ' && !digit) key.swallow();
+  if (digitsOnly_ && key.character >= U' ' && !digit) {
+    key.swallow();
+    form().ui().beep();
+  }
   if (!fits || (key.changed() && key.replacement->empty()) || !refuses(withTyped(key))) return;
   key.swallow();
   form().ui().beep();

@@ -2,6 +2,7 @@
 
 #include "registers/baptism/frmPartidaBautismo.h"
 #include "registers/confirmation/frmPartidaConfirmacion.h"
+#include "registers/death/frmPartidaDefuncion.h"
 
 namespace fidaleon {
 
@@ -17,6 +18,7 @@ std::unique_ptr<frmPartida> crear(Contexto& contexto) {
 CrearPartida dialogoDePartida(const Sacramento* sacramento) {
   if (sacramento == &BAUTISMO) return crear<frmPartidaBautismo>;
   if (sacramento == &CONFIRMACION) return crear<frmPartidaConfirmacion>;
+  if (sacramento == &DEFUNCION) return crear<frmPartidaDefuncion>;
   return nullptr;
 }
 
