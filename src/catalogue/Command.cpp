@@ -151,13 +151,18 @@ void addBookCommands(std::vector<Command>& all) {
   all.push_back(
       destructive(line("eliminar-libro", "&Eliminar libro…", "Del",
                        "Elimina un libro que no tenga partidas", BOOKS, Needs::Row, deleteBook)));
-  all.push_back(opening(ofBaptism(inToolbar(
-      "edit", line("propiedades-libro", "&Propiedades…", "Return",
-                   "Abre el libro con todas sus partidas", BOOKS, Needs::Row, openBook)))));
-  all.push_back(ofBaptism(inToolbar(
-      "list",
-      line("ver-partidas", "&Ver sus partidas", "Ctrl+Return", "Muestra las partidas de este libro",
-           BOOKS, Needs::Row, [](Workplace& w, const Choice& c) { w.showEntriesOf(c.id); }))));
+  const auto baptism = [](const Sacramento& s) { return &s == &BAUTISMO; };
+  all.push_back(
+      opening(of(baptism, inToolbar("edit", line("propiedades-libro", "&Propiedades…", "Return",
+                                                 "Abre el libro con todas sus partidas", BOOKS,
+                                                 Needs::Row, openBook)))));
+  const auto withEntries = [](const Sacramento& s) { return entriesNode(s) != nullptr; };
+  all.push_back(
+      of(withEntries, inToolbar("list", line("ver-partidas", "&Ver sus partidas", "Ctrl+Return",
+                                             "Muestra las partidas de este libro", BOOKS,
+                                             Needs::Row, [](Workplace& w, const Choice& c) {
+                                               w.showEntriesOf(*c.node->sacrament, c.id);
+                                             }))));
 }
 
 void addRepairCommands(std::vector<Command>& all) {
@@ -268,7 +273,7 @@ bool belongs(const Command& command, const Choice& choice) {
   const Sacramento* sacrament = choice.node->sacrament;
   if (command.document)
     return sacrament && documento(*sacrament, command.id, choice.edition) != nullptr;
-  return !command.onlyBaptism || sacrament == &BAUTISMO;
+  return !command.of || command.of(*sacrament);
 }
 
 bool applies(const Command& command, const Choice& choice) {

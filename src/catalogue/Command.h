@@ -36,7 +36,7 @@ struct Command {
   bool opens = false;  // what Enter and a double click do
   unsigned kinds = 0;  // bits of NodeKind; 0: everywhere
   Needs needs = Needs::Nothing;
-  bool onlyBaptism = false;
+  bool (*of)(const Sacramento&) = nullptr;  // the registers that have it; null: all
   bool document = false;     // stands in the catalogue of documents, for those who have one
   bool refreshes = true;     // may have changed rows
   bool destructive = false;  // may take rows away for good

@@ -35,8 +35,8 @@ inline Command opening(Command c) {
   c.opens = true;
   return c;
 }
-inline Command ofBaptism(Command c) {
-  c.onlyBaptism = true;
+inline Command of(bool (*registers)(const Sacramento&), Command c) {
+  c.of = registers;
   return c;
 }
 inline Command destructive(Command c) {

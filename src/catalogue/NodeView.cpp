@@ -257,4 +257,8 @@ const NodeView* findNode(std::string_view name) {
   return nullptr;
 }
 
+const NodeView* entriesNode(const Sacramento& sacrament) {
+  return findNode(CcNodos::PARTIDAS + std::string(sacrament.palabra));
+}
+
 }  // namespace fidaleon::app

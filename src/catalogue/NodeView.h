@@ -70,5 +70,7 @@ struct NodeView {
 const std::vector<NodeView>& nodeViews();
 /// Null when there is none of that name.
 const NodeView* findNode(std::string_view name);
+/// The node of a register's entries. Null when it has none.
+const NodeView* entriesNode(const Sacramento& sacrament);
 
 }  // namespace fidaleon::app

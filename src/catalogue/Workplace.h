@@ -4,6 +4,7 @@
 #include <string>
 
 #include "core/contract/Entorno.h"
+#include "core/contract/Sacramento.h"
 #include "core/facade/cNucleo.h"
 
 namespace fidaleon {
@@ -39,7 +40,7 @@ class Workplace {
   /// Chooses the node of that name.
   virtual void showNode(const std::string& name) = 0;
   /// Chooses the entries of that book.
-  virtual void showEntriesOf(std::int32_t book) = 0;
+  virtual void showEntriesOf(const Sacramento& sacrament, std::int32_t book) = 0;
   /// Asks where and in which format, and saves the list as it is shown.
   virtual void saveList() = 0;
   /// Asks where, and saves a verified copy of the parish there.

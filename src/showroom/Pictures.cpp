@@ -181,7 +181,7 @@ class EditionSitting {
     window.showNode("PartidasBautismo");
     window.filter().setText("garcia");
     album_.add("ventana-filtrada", window);
-    window.showEntriesOf(LAST_BOOK);
+    window.showEntriesOf(BAUTISMO, LAST_BOOK);
     album_.add("ventana-partidas-de-un-libro", window);
     const Documento* d = documento(BAUTISMO, "certificado", edition_.code);
     user_.pose = acceptKeeper;

@@ -20,6 +20,7 @@
 #include <chrono>
 
 #include "catalogue/Documents.h"
+#include "core/statements/Sentencia.h"
 #include "parish/WindowSettings.h"
 #include "qt/Appearance.h"
 #include "window/PreviewDialog.h"
@@ -111,11 +112,12 @@ void MainWindow::selectFirst() {
   if (index.isValid()) table_->scrollTo(index, QAbstractItemView::PositionAtTop);
 }
 
-void MainWindow::showEntriesOf(std::int32_t book) {
-  const auto row = parish().Execute("SELECT Nombre FROM Libro_Bautismo WHERE IDLibroBautismo=" +
-                                    std::to_string(book));
-  if (row.EOF_()) return;
-  showNode("PartidasBautismo");
+void MainWindow::showEntriesOf(const Sacramento& sacrament, std::int32_t book) {
+  const NodeView* node = entriesNode(sacrament);
+  const auto row = parish().Execute(
+      sentencia(sacrament, "SELECT Nombre FROM {Libros} WHERE {IDLibro}=") + std::to_string(book));
+  if (!node || row.EOF_()) return;
+  showNode(node->node.Nombre);
   table_->setFocus();
   filter_->clear();
   setScope(book, QString::fromStdString(row.text("Nombre")));

@@ -52,7 +52,7 @@ class MainWindow : public QMainWindow, private Workplace {
   ~MainWindow() override;
 
   void showNode(const std::string& name) override;
-  void showEntriesOf(std::int32_t book) override;
+  void showEntriesOf(const Sacramento& sacrament, std::int32_t book) override;
   Choice choice() const;
   /// The action of a command; never null for an id of the table.
   QAction* action(const std::string& command) const;
