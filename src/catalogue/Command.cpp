@@ -151,12 +151,11 @@ void addBookCommands(std::vector<Command>& all) {
   all.push_back(
       destructive(line("eliminar-libro", "&Eliminar libro…", "Del",
                        "Elimina un libro que no tenga partidas", BOOKS, Needs::Row, deleteBook)));
-  const auto baptism = [](const Sacramento& s) { return &s == &BAUTISMO; };
-  all.push_back(
-      opening(of(baptism, inToolbar("edit", line("propiedades-libro", "&Propiedades…", "Return",
-                                                 "Abre el libro con todas sus partidas", BOOKS,
-                                                 Needs::Row, openBook)))));
   const auto withEntries = [](const Sacramento& s) { return entriesNode(s) != nullptr; };
+  all.push_back(
+      opening(of(withEntries, inToolbar("edit", line("propiedades-libro", "&Propiedades…", "Return",
+                                                     "Abre el libro con todas sus partidas", BOOKS,
+                                                     Needs::Row, openBook)))));
   all.push_back(
       of(withEntries, inToolbar("list", line("ver-partidas", "&Ver sus partidas", "Ctrl+Return",
                                              "Muestra las partidas de este libro", BOOKS,

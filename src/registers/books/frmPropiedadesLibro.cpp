@@ -216,6 +216,7 @@ std::unique_ptr<frmPropiedadesLibro> crearPropiedadesLibro(Contexto& contexto,
   if (&sacramento == &BAUTISMO) return std::make_unique<frmPropiedadesLibroBautismo>(contexto);
   if (&sacramento == &CONFIRMACION)
     return std::make_unique<frmPropiedadesLibroConfirmacion>(contexto);
+  if (&sacramento == &DEFUNCION) return std::make_unique<frmPropiedadesLibroDefuncion>(contexto);
   return nullptr;
 }
 

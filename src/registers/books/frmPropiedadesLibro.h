@@ -132,6 +132,11 @@ class frmPropiedadesLibroConfirmacion : public frmPropiedadesLibro {
   explicit frmPropiedadesLibroConfirmacion(Contexto& contexto);
 };
 
+class frmPropiedadesLibroDefuncion : public frmPropiedadesLibro {
+ public:
+  explicit frmPropiedadesLibroDefuncion(Contexto& contexto);
+};
+
 /// Null for a sacrament that has no such dialog.
 std::unique_ptr<frmPropiedadesLibro> crearPropiedadesLibro(Contexto& contexto,
                                                            const Sacramento& sacramento);

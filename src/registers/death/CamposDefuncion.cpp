@@ -1,5 +1,6 @@
 // Fields of the dialog of deaths and where they stand.
 
+#include "registers/death/AlmacenDefuncion.h"
 #include "registers/death/frmPartidaDefuncion.h"
 
 namespace fidaleon {
@@ -50,7 +51,7 @@ const VariantePartida DEFUNCIONES{
 }  // namespace
 
 frmPartidaDefuncion::frmPartidaDefuncion(Contexto& contexto)
-    : frmPartidaDe(contexto, DEFUNCIONES),
+    : frmPartidaDe(contexto, DEFUNCIONES, ALMACEN_DEFUNCION),
       txtHoraDefuncion(*this, "txtHoraDefuncion", "HORA DE DEFUNCIÓN:"),
       fraContacto(*this, "fraContacto", "DATOS PERSONA DE CONTACTO") {
   crearCampos();
@@ -60,6 +61,8 @@ frmPartidaDefuncion::frmPartidaDefuncion(Contexto& contexto)
   revision().enEsteOrden(adtpPartida[FechaDefuncion], adtpPartida[FechaInhumacion]);
   proponerProgenitor(PrimerApellido, NombrePadre);
   proponerProgenitor(SegundoApellido, NombreMadre);
+  cmdPartida[ACEPTAR].setCaption("ACEPTAR");
+  cmdPartida[CANCELAR].setCaption("CANCELAR");
   disponer(paginas());
 }
 

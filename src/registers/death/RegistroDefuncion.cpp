@@ -2,7 +2,6 @@
 
 #include <array>
 
-#include "registers/cBaseDatos.h"
 #include "registers/common/Guiones.h"
 #include "registers/death/TablasDefuncion.h"
 #include "registers/death/frmPartidaDefuncion.h"
@@ -69,16 +68,6 @@ std::string frmPartidaDefuncion::sqlRepetida(const D& d) {
 
 bool frmPartidaDefuncion::mismosDatos(const D& a, const D& b) const {
   return iguales<D>(MISMA, a, b);
-}
-
-bool frmPartidaDefuncion::almacenar(ColeccionDefuncion& coleccion) {
-  bool blnSalto = false;
-  return cBaseDatos(contexto_).GrabarColeccionBaseDatosDefuncion(*conBaseDatos, coleccion,
-                                                                 blnSalto);
-}
-
-bool frmPartidaDefuncion::retirar(ColeccionDefuncion& coleccion) {
-  return cBaseDatos(contexto_).RetirarAMedias(*conBaseDatos, coleccion);
 }
 
 void frmPartidaDefuncion::importar(std::size_t, const frmBuscaPadres& de) {

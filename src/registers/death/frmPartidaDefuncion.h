@@ -67,8 +67,6 @@ class frmPartidaDefuncion : public frmPartidaDe<cDefuncion> {
   std::span<const FilaLeida<cDefuncion>> filas() const override;
   std::string sqlRepetida(const cDefuncion& d) override;
   bool mismosDatos(const cDefuncion& a, const cDefuncion& b) const override;
-  bool almacenar(ColeccionDefuncion& coleccion) override;
-  bool retirar(ColeccionDefuncion& coleccion) override;
 
   // The sacrament's own
   void importar(std::size_t persona, const frmBuscaPadres& de) override;

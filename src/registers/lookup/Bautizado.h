@@ -10,6 +10,7 @@
 
 #include "core/statements/Columnas.h"
 #include "registers/baptism/cBautismo.h"
+#include "registers/common/Guiones.h"
 
 namespace fidaleon {
 
@@ -20,6 +21,13 @@ struct Bautizado : cBautismo {
   std::string PadreEntero;
   std::string MadreEntera;
 };
+
+inline bool seSabe(const std::string& texto) {
+  return !enBlanco(texto);
+}
+inline bool seSabe(std::int32_t clave) {
+  return clave != 0;
+}
 
 /// Throws when the entry, or a row of it, is gone. Empty texts come as "---".
 Bautizado leerBautizado(FDAPI::Conexion& conexion, std::int32_t id);
@@ -32,12 +40,13 @@ struct ParImportado {
   std::array<std::variant<std::string Registro::*, std::int32_t Registro::*>, PERSONAS> a;
 };
 
-/// Copies into the members of one person. A text without digits is 0 in a number.
+/// Copies into the members of one person what is known: a blank leaves the member as it is.
 template <class Registro, std::size_t PERSONAS>
 void importar(std::span<const ParImportado<Registro, PERSONAS>> pares, const Bautizado& de,
               Registro& a, std::size_t persona = 0) {
   const auto copiar = [&](auto origen, auto destino) {
     using Valor = std::remove_cvref_t<decltype(a.*destino)>;
+    if (!seSabe(de.*origen)) return;
     if constexpr (std::is_same_v<Valor, std::remove_cvref_t<decltype(de.*origen)>>)
       a.*destino = de.*origen;
     else if constexpr (std::is_same_v<Valor, std::string>)

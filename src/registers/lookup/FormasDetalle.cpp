@@ -33,7 +33,8 @@ class Redaccion {
     return con(nombre, ", natural de ", lugar(idMunicipio));
   }
   std::string en(const std::string& texto, std::int32_t idMunicipio) const {
-    return con(texto, ", ", lugar(idMunicipio));
+    const std::string donde = lugar(idMunicipio);
+    return enBlanco(texto) && !donde.empty() ? donde : con(texto, ", ", donde);
   }
   static std::string con(const std::string& texto, const char* union_, const std::string& mas) {
     return mas.empty() ? texto : texto + union_ + mas;
