@@ -61,8 +61,8 @@ frmPartidaDefuncion::frmPartidaDefuncion(Contexto& contexto)
   revision().enEsteOrden(adtpPartida[FechaDefuncion], adtpPartida[FechaInhumacion]);
   proponerProgenitor(PrimerApellido, NombrePadre);
   proponerProgenitor(SegundoApellido, NombreMadre);
-  cmdPartida[ACEPTAR].setCaption("ACEPTAR");
-  cmdPartida[CANCELAR].setCaption("CANCELAR");
+  cmdPartida[ACEPTAR].setCaption("&ACEPTAR");
+  cmdPartida[CANCELAR].setCaption("&CANCELAR");
   disponer(paginas());
 }
 

@@ -20,7 +20,7 @@ class Redaccion {
       : fidaleon_(contexto.fidaleon()), conexion_(conexion) {}
 
   std::string fecha(const std::string& guardada) const {
-    return enBlanco(guardada) ? guardada : fidaleon_->stringdate(guardada);
+    return enBlanco(guardada) ? GUIONES : fidaleon_->stringdate(guardada);
   }
   /// "town (province)", empty for none.
   std::string lugar(std::int32_t idMunicipio) const {
@@ -35,6 +35,14 @@ class Redaccion {
   std::string en(const std::string& texto, std::int32_t idMunicipio) const {
     const std::string donde = lugar(idMunicipio);
     return enBlanco(texto) && !donde.empty() ? donde : con(texto, ", ", donde);
+  }
+  /// "Se casaron el día 06/06/1998 en San Juan, Alcalá (Madrid)", as far as it is known.
+  std::string cuandoYDonde(const char* que, const std::string& dia, const std::string& sitio,
+                           std::int32_t idMunicipio) const {
+    const std::string donde = en(sitio, idMunicipio);
+    if (enBlanco(dia) && enBlanco(donde)) return GUIONES;
+    return que + (enBlanco(dia) ? "" : " el día " + fecha(dia)) +
+           (enBlanco(donde) ? "" : " en " + donde);
   }
   static std::string con(const std::string& texto, const char* union_, const std::string& mas) {
     return mas.empty() ? texto : texto + union_ + mas;
@@ -63,22 +71,21 @@ Lineas deFamilia(Contexto& contexto, FDAPI::Conexion& conexion, std::int32_t id)
                   b.CodPoblacionAbuelaPadres),
           abuelos(b.AbueloMadres, b.CodPoblacionAbueloMadres, b.AbuelaMadres,
                   b.CodPoblacionAbuelaMadres),
-          "Se casaron el día " + r.fecha(b.FechaMatrMatrimonio) + " en " +
-              r.en(b.ParroquiaMatrimonio, b.CodPoblacionMatrMatrimonio),
+          r.cuandoYDonde("Se casaron", b.FechaMatrMatrimonio, b.ParroquiaMatrimonio,
+                         b.CodPoblacionMatrMatrimonio),
           r.en(b.DireccionPadresMatrimonio, b.CodPoblacionPadresMatrimonio)};
 }
 
 Lineas dePersona(Contexto& contexto, FDAPI::Conexion& conexion, std::int32_t id) {
   const Bautizado b = leerBautizado(conexion, id);
   const Redaccion r(contexto, conexion);
-  return {r.naturalDe(b.PadreEntero, b.CodPoblacionPadres),
-          "Nació el día " + r.fecha(b.FechaNacHijo) + " en " +
-              r.en(b.DireccionNacHijo, b.CodPoblacionNacHijo),
-          r.naturalDe(b.MadreEntera, b.CodPoblacionMadres),
-          Redaccion::enLibro(b.NombreLibro, b.FolioBautismo, b.NumeroBautismo),
-          "Se bautizó el día " + r.fecha(b.FechaBautismo) + " en " +
-              r.en(b.ParroquiaBautismo, b.CodPoblacionBautismo),
-          r.en(b.DireccionPadresMatrimonio, b.CodPoblacionPadresMatrimonio)};
+  return {
+      r.naturalDe(b.PadreEntero, b.CodPoblacionPadres),
+      r.cuandoYDonde("Nació", b.FechaNacHijo, b.DireccionNacHijo, b.CodPoblacionNacHijo),
+      r.naturalDe(b.MadreEntera, b.CodPoblacionMadres),
+      Redaccion::enLibro(b.NombreLibro, b.FolioBautismo, b.NumeroBautismo),
+      r.cuandoYDonde("Se bautizó", b.FechaBautismo, b.ParroquiaBautismo, b.CodPoblacionBautismo),
+      r.en(b.DireccionPadresMatrimonio, b.CodPoblacionPadresMatrimonio)};
 }
 
 Lineas deConfirmacion(Contexto& contexto, FDAPI::Conexion& conexion, std::int32_t id) {
@@ -94,11 +101,11 @@ Lineas deConfirmacion(Contexto& contexto, FDAPI::Conexion& conexion, std::int32_
     return static_cast<std::int32_t>(c.integer(columna));
   };
   return {c.text("NombrePadre"),
-          r.en("Nació el día " + r.fecha(c.text("FechaNac")), municipio("CodMunicipioNac")) +
+          "Nacimiento: " + r.en(r.fecha(c.text("FechaNac")), municipio("CodMunicipioNac")) +
+              "; bautismo: " + r.fecha(c.text("FechaBaut")) +
               "; confirmación: " + r.fecha(c.text("FechaConfirmacion")),
           c.text("NombreMadre"),
-          "Se bautizó el día " + r.fecha(c.text("FechaBaut")) + " en " +
-              r.en(c.text("ParroquiaBaut"), municipio("CodMunicipioBaut")),
+          r.en(c.text("ParroquiaBaut"), municipio("CodMunicipioBaut")),
           Redaccion::enLibro(c.text("LibroBaut"), c.text("FolioBaut"), c.text("NumeroBaut")),
           r.en(c.text("Domicilio"), municipio("CodMunicipioDomicilio"))};
 }

@@ -62,42 +62,51 @@ class SpySupport : public SupportFactory {
   SupportFactory& host_;
 };
 
-struct FacadeWorld : BautismoWorld {
-  cNucleo nucleo{entorno};
+/// A world with the facade over it.
+template <class World>
+struct WithFacade : World {
+  using World::World;
+  cNucleo nucleo{this->entorno};
 
-  std::string directorio() { return "en " + directory.path().string(); }
+  std::string directorio() { return "en " + this->directory.path().string(); }
   /// Another workstation takes the record; it keeps it as long as the session lives.
   std::unique_ptr<FDAPI::cProcesarBloqueos> ocupar(const char* tabla, const char* registro = "") {
-    auto otra = otherSession();
+    auto otra = this->otherSession();
     FDAPI::DefinicionBloqueo b;
     b.strTabla = tabla;
     b.strRegistro = registro;
-    b.conBd = parish.get();
+    b.conBd = &this->con();
     otra->DefinirBloqueo(b);
     EXPECT_EQ(otra->lngEfectuarBloqueos(), 0) << tabla;
     return otra;
   }
   /// No lock is left on what the operations use.
-  void esperarLibre() {
-    for (const char* tabla : {"Bautismo", "Libro_Bautismo", "Institucion", "Provincia", "Municipio",
-                              "Libros_Formato", "Libros_TipoNombre"})
+  void esperarLibre(const Sacramento& registro = BAUTISMO) {
+    for (const char* tabla : {registro.tablaPartidas, registro.tablaLibros, "Institucion",
+                              "Provincia", "Municipio", "Libros_Formato", "Libros_TipoNombre"})
       ocupar(tabla);
   }
 };
 
-struct SpyWorld : BautismoWorld {
-  SpySupport spy{host};
-  Entorno observed{user, spy, settings, clock, entorno.installation};
+using FacadeWorld = WithFacade<BautismoWorld>;
+
+template <class World>
+struct WithSpy : World {
+  using World::World;
+  SpySupport spy{this->host};
+  Entorno observed{this->user, spy, this->settings, this->clock, this->entorno.installation};
   cNucleo nucleo{observed};
 
   /// The log without its first line, which names the directory of the database.
   Log bloqueos() {
     EXPECT_FALSE(spy.log.empty());
     if (spy.log.empty()) return {};
-    EXPECT_EQ(spy.log.front(), "en " + directory.path().string());
+    EXPECT_EQ(spy.log.front(), "en " + this->directory.path().string());
     return {spy.log.begin() + 1, spy.log.end()};
   }
 };
+
+using SpyWorld = WithSpy<BautismoWorld>;
 
 inline void cancelar(forms::FormDriver& u) {
   u.click("cmdBautismo(1)");

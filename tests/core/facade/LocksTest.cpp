@@ -9,67 +9,6 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-TEST(FacadeLocks, NuevaPartida_SharedTablesThenOpenNewBooksThenEntries) {
-  SpyWorld w;
-  w.user.expectForm("frmPartidaBautismo", [&](forms::FormDriver& u) {
-    EXPECT_EQ(w.spy.log.back(), "efectuar") << "held while the dialog is open";
-    cancelar(u);
-  });
-  w.nucleo.NuevaPartida(w.con(), w.config, "PartidasBautismo");
-  EXPECT_THAT(w.bloqueos(),
-              ElementsAre("Institucion compartida", "Provincia compartida", "Municipio compartida",
-                          "Libro_Bautismo [SELECT IDLibroBautismo FROM Libro_Bautismo WHERE  Nuevo "
-                          "= True AND Cerrado = False]",
-                          "Bautismo", "efectuar", "liberar"));
-  EXPECT_SCRIPT_DONE(w.user);
-}
-
-TEST(FacadeLocks, AntiguaPartida_LocksAllOldBooks) {
-  SpyWorld w;
-  w.user.expectForm("frmPartidaBautismo", cancelar);
-  w.nucleo.AntiguaPartida(w.con(), w.config, "PartidasBautismo");
-  EXPECT_THAT(
-      w.bloqueos(),
-      ElementsAre("Institucion compartida", "Provincia compartida", "Municipio compartida",
-                  "Libro_Bautismo [SELECT IDLibroBautismo FROM Libro_Bautismo WHERE Nuevo = False]",
-                  "Bautismo", "efectuar", "liberar"));
-  EXPECT_SCRIPT_DONE(w.user);
-}
-
-TEST(FacadeLocks, PropiedadesPartida_ParentsThenTheEntry) {
-  SpyWorld w;
-  w.user.expectForm("frmPartidaBautismo", cancelar);
-  w.nucleo.PropiedadesPartida(w.con(), 1, w.config, "PartidasBautismo");
-  EXPECT_THAT(
-      w.bloqueos(),
-      ElementsAre("Provincia compartida", "Municipio compartida",
-                  "Institucion parcial [SELECT CodInstitucion FROM Libro_Bautismo WHERE "
-                  "IDLibroBautismo IN (SELECT CodLibro FROM Bautismo WHERE IDBautismo=1)]",
-                  "Libro_Bautismo parcial [SELECT CodLibro FROM Bautismo WHERE IDBautismo=1]",
-                  "Bautismo [1] existe [SELECT IDBautismo FROM Bautismo WHERE IDBautismo=1]",
-                  "efectuar", "liberar"));
-  EXPECT_SCRIPT_DONE(w.user);
-}
-
-TEST(FacadeLocks, Requests_LockTheTableWhenNewTheRecordWhenEdited) {
-  SpyWorld w;
-  w.hacerSolicitud();
-  w.user.expectForm("frmPartidaBautismo", cancelar);
-  w.nucleo.NuevaSolicitud(w.con(), w.config, "SolicitudesBautismo");
-  EXPECT_THAT(w.bloqueos(), ElementsAre("Institucion compartida", "Provincia compartida",
-                                        "Municipio compartida", "Bautismo", "efectuar", "liberar"));
-  w.spy.log.clear();
-  w.user.expectForm("frmPartidaBautismo", cancelar);
-  w.nucleo.PropiedadesSolicitudes(w.con(), 1, w.config, "SolicitudesBautismo");
-  EXPECT_THAT(
-      w.bloqueos(),
-      ElementsAre("Institucion compartida", "Provincia compartida", "Municipio compartida",
-                  "Bautismo [1] existe [SELECT IDBautismo FROM Bautismo WHERE IDBautismo=1 AND "
-                  "CodLibro=0]",
-                  "efectuar", "liberar"));
-  EXPECT_SCRIPT_DONE(w.user);
-}
-
 TEST(FacadeLocks, NuevoLibro_LocksTheTableOfItsKind) {
   for (const char* palabra : {"Bautismo", "Confirmacion", "Matrimonio", "Defuncion"}) {
     SpyWorld w;
@@ -93,33 +32,15 @@ TEST(FacadeLocks, Document_LocksTheEntryForItsLength) {
   EXPECT_EQ(w.filas(), 1);
 }
 
-TEST(FacadeLocks, AnularPartidas_LocksTheEntry) {
-  SpyWorld w;
-  w.nucleo.AnularPartidas(w.con(), 1, w.config, "PartidasBautismo");
-  EXPECT_THAT(w.bloqueos(),
-              ElementsAre("Bautismo [1] existe [SELECT IDBautismo FROM Bautismo WHERE "
-                          "IDBautismo=1]",
-                          "efectuar", "liberar"));
-}
-
 TEST(FacadeLocks, Refused_EndsSilentlyAndGivesNothingBack) {
   SpyWorld w;
   w.spy.answers = {FDAPI::BloqueoTabla};
-  const std::vector<std::function<void()>> operaciones{
-      [&] { w.nucleo.NuevaPartida(w.con(), w.config, "PartidasBautismo"); },
-      [&] { w.nucleo.AntiguaPartida(w.con(), w.config, "PartidasBautismo"); },
-      [&] { w.nucleo.NuevaSolicitud(w.con(), w.config, "SolicitudesBautismo"); },
-      [&] { w.nucleo.NuevoLibro(w.con(), w.config, "LibrosDefuncion"); },
-      [&] { w.nucleo.AnularPartidas(w.con(), 1, w.config, "PartidasBautismo"); },
-      [&] { w.nucleo.InformeVolanteBautismo(w.con(), w.conInformes(), 1); }};
-  for (const auto& orden : operaciones) {
-    w.spy.log.clear();
-    orden();
-    EXPECT_EQ(w.bloqueos().back(), "efectuar");
-  }
+  w.nucleo.NuevoLibro(w.con(), w.config, "LibrosDefuncion");
+  EXPECT_EQ(w.bloqueos().back(), "efectuar");
+  w.spy.log.clear();
+  w.nucleo.InformeVolanteBautismo(w.con(), w.conInformes(), 1);
+  EXPECT_EQ(w.bloqueos().back(), "efectuar");
   EXPECT_EQ(w.filas(), 0);
-  EXPECT_EQ(w.value("SELECT Anulada FROM Bautismo"), "0");
-  EXPECT_THAT(w.user.messages(), IsEmpty());
   EXPECT_SCRIPT_DONE(w.user);
 }
 
@@ -154,41 +75,6 @@ TEST(FacadeLocks, Books_AreLockedAfterTheQuestionAndGivenBackUnlessRefused) {
     roto.user.answerAnything(forms::Answer::Yes);
     orden(roto);
     EXPECT_THAT(roto.bloqueos(), ElementsAre(libro, "efectuar", "liberar"));
-  }
-}
-
-TEST(FacadeLocks, RecordGoneOrSessionFailed_OpensNothing) {
-  for (const long error : {FDAPI::BloqueoRegistroNoExiste, FDAPI::BloqueoSesion}) {
-    SpyWorld w;
-    w.spy.answers = {error};
-    w.nucleo.PropiedadesPartida(w.con(), 1, w.config, "PartidasBautismo");
-    EXPECT_EQ(w.bloqueos().back(), "efectuar");
-    w.nucleo.PropiedadesSolicitudes(w.con(), 1, w.config, "SolicitudesBautismo");
-    EXPECT_EQ(w.bloqueos().back(), "efectuar");
-    EXPECT_SCRIPT_DONE(w.user);
-  }
-}
-
-TEST(FacadeLocks, HeldByAnother_OpensWithTheCancelButtonOnly) {
-  for (const long error : {FDAPI::BloqueoRegistro, FDAPI::BloqueoRegistroConPadres,
-                           FDAPI::BloqueoTabla, FDAPI::BloqueoCompartido}) {
-    SpyWorld w;
-    w.spy.answers = {error};
-    const auto soloCancelar = [](forms::FormDriver& u) {
-      for (forms::Control* control : u.form().controls()) {
-        if (!dynamic_cast<forms::Button*>(control)) continue;
-        const bool on = control->name() == "cmdBautismo(1)" || control->name() == "cmdReintentar";
-        EXPECT_EQ(control->enabled(), on) << control->name();
-      }
-      cancelar(u);
-    };
-    w.user.expectForm("frmPartidaBautismo", soloCancelar);
-    w.nucleo.PropiedadesPartida(w.con(), 1, w.config, "PartidasBautismo");
-    w.hacerSolicitud();
-    w.user.expectForm("frmPartidaBautismo", soloCancelar);
-    w.nucleo.PropiedadesSolicitudes(w.con(), 1, w.config, "SolicitudesBautismo");
-    EXPECT_EQ(w.bloqueos().back(), "liberar");
-    EXPECT_SCRIPT_DONE(w.user);
   }
 }
 
