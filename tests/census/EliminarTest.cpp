@@ -151,12 +151,5 @@ TEST_F(DosPapeles, PersonRemoved_StaysACollaboratorAndTheSacramentsOfAllAreBlank
   EXPECT_EQ(user.progressLog[0], "open 7 Eliminando empadronado ...");
 }
 
-TEST_F(DosPapeles, OtherRoleThanCollaborator_LosesTheBaptismsToo) {
-  ejecutar("UPDATE Padron_TipoPersona SET CodTipoPersona=4 WHERE CodTipoPersona=3");
-  elimina(censo::EliminaEmpadronado);
-  EXPECT_EQ(satelite("Bautismo", ana), "1||0||");
-  EXPECT_EQ(user.progressLog.size(), 9u);
-}
-
 }  // namespace
 }  // namespace fidaleon::tests

@@ -151,6 +151,9 @@ TEST_F(Meeting, comingWithAFullDisk_isKnownThoughNotByName) {
     const FullDisk full(0);
     told = directory.join(guard, {work("DESPACHO")});
     again = whyNot([&] { directory.publish(guard, {work("DESPACHO")}); });
+    SharedDirectory third = at({});
+    whyNot([&] { third.publish(guard, {work("DESPACHO")}); });
+    EXPECT_EQ(files(), 1) << "who could not come leaves nothing";
   }
   EXPECT_FALSE(told);
   EXPECT_THAT(again, HasSubstr("el disco está lleno"));

@@ -1,5 +1,3 @@
-#include <sqlite3.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 #include <fstream>
@@ -55,26 +53,20 @@ TEST_F(Opening, firstRun_givenUpInTheSetup_endsTheProgram) {
   EXPECT_FALSE(desk->setUp());
 }
 
-TEST_F(Opening, firstRun_missingAnswersAreNamed) {
-  NewParish p = described();
-  EXPECT_EQ(whatIsMissing(p), "");
-  p.name = "  ";
-  EXPECT_EQ(whatIsMissing(p), "Escriba el nombre de la parroquia.");
-  p = described();
-  p.province = 0;
-  EXPECT_EQ(whatIsMissing(p), "Elija la provincia de la parroquia.");
-}
-
 TEST_F(Opening, firstRun_neverTouchesAParishThatIsThere) {
   create(Content::Empty);
-  NewParish second = described();
-  second.name = "San Roque";
+  NewParish second = described(Content::Empty);
+  second.name = "San \"Roque\"; DROP TABLE Institucion";
   second.edition = FDAPI::cCAplicacion::APP_FIDALEON_MENORCA;
   EXPECT_NE(whatIsMissing(second), "");
   EXPECT_THROW(createParish(second, clock.today()), store::NameTaken);
   open();
   EXPECT_EQ(desk->parishName(), "San Blas");
   EXPECT_EQ(desk->edition(), "Madrid");
+  second.directory = directory() / "otra";
+  createParish(second, clock.today());
+  EXPECT_EQ(Desk(ParishFiles(second.directory), "Ana", user, settings, clock).parishName(),
+            "San ''Roque''; DROP TABLE Institucion");
 }
 
 TEST_F(Opening, firstRun_whereAParishCannotBeLookedAt_leavesItAlone) {
@@ -89,6 +81,9 @@ TEST_F(Opening, firstRun_thatFails_leavesNothing) {
   p.directory = "/proc/fidaleon";
   EXPECT_THROW(createParish(p, clock.today()), store::Error);
   p.directory = directory();
+  const auto full = [](auto&&...) { throw store::Error(ErrorKind::DiskFull, "lleno"); };
+  EXPECT_THROW(createParish(p, clock.today(), full), store::Error);
+  EXPECT_FALSE(std::filesystem::exists(files().note()));
   std::filesystem::create_directory(files().note());
   EXPECT_THROW(createParish(p, clock.today()), store::Error);
   EXPECT_FALSE(files().exists());
@@ -110,13 +105,6 @@ TEST_F(Opening, firstRun_forThisAccountOrForItsGroup_decidesWhoMayRead) {
   }
 }
 
-TEST_F(Opening, nameThatIsNoText_isRefusedAtOnce) {
-  NewParish p = described();
-  p.directory = directory() / "Parroquia de Bu\xF1uel";
-  EXPECT_THAT(whatIsMissing(p), ::testing::HasSubstr("UTF-8"));
-  EXPECT_THROW(openParish(ParishFiles(p.directory)), store::Error);
-}
-
 TEST_F(Opening, reachedThroughALink_isWhereItLies) {
   create(Content::Empty);
   const std::filesystem::path other = directory() / "otra";
@@ -126,18 +114,35 @@ TEST_F(Opening, reachedThroughALink_isWhereItLies) {
   EXPECT_EQ(linked.presence().others().size(), 1u);
 }
 
-TEST_F(Opening, whereAnotherCannotBeSeen_theUserIsToldWaysOut) {
+TEST_F(Opening, firstRun_whatIsMissingOrUnreadableIsNamed) {
+  const auto missing = [&](const std::function<void(NewParish&)>& change) {
+    NewParish p = described();
+    change(p);
+    return whatIsMissing(p);
+  };
+  EXPECT_EQ(missing([](NewParish&) {}), "");
+  EXPECT_EQ(missing([](NewParish& p) { p.name = "  "; }), "Escriba el nombre de la parroquia.");
+  EXPECT_EQ(missing([](NewParish& p) { p.province = 0; }), "Elija la provincia de la parroquia.");
+  const auto noText = directory() / "Parroquia de Bu\xF1uel";
+  EXPECT_THAT(missing([&](NewParish& p) { p.directory = noText; }), ::testing::HasSubstr("UTF-8"));
+  EXPECT_THROW(openParish(ParishFiles(noText)), store::Error);
+}
+
+TEST_F(Opening, everyFault_saysSomethingAndLetsTheUserOut) {
+  for (int kind = 0; kind <= static_cast<int>(ErrorKind::Other); ++kind) {
+    fault = describeFault(store::Error(static_cast<ErrorKind>(kind), "motivo"), files());
+    EXPECT_FALSE(fault.title.empty() || fault.text.empty());
+    EXPECT_TRUE(offers(Remedy::Exit) && offers(Remedy::Retry));
+    EXPECT_GE(fault.remedies.size(), 2u);
+    EXPECT_EQ(offers(Remedy::NewParish), static_cast<ErrorKind>(kind) == ErrorKind::Missing);
+  }
   fault = describeFault(locks::UnseenOther("motivo", {}), files());
   EXPECT_TRUE(offers(Remedy::OtherIsOff));
   EXPECT_EQ(fault.text, "motivo");
-}
-
-TEST_F(Opening, firstRun_quotesInANameDoNoHarm) {
-  NewParish p = described(Content::Empty);
-  p.name = "San \"Blas\"; DROP TABLE Institucion";
-  createParish(p, clock.today());
-  open();
-  EXPECT_EQ(desk->parishName(), "San ''Blas''; DROP TABLE Institucion");
+  write(files().parish(), std::string(4096, 'x'));
+  EXPECT_EQ(failure(), ErrorKind::NotADatabase);
+  EXPECT_TRUE(offers(Remedy::ReturnToCopy) && offers(Remedy::OtherFolder));
+  EXPECT_EQ(std::filesystem::file_size(files().parish()), 4096u) << "it is not touched";
 }
 
 TEST_F(Opening, missing_offersANewParish) {
@@ -149,45 +154,6 @@ TEST_F(Opening, missing_offersANewParish) {
   write(directory() / "copias" / "a mano.copia", "x");
   failure();
   EXPECT_TRUE(offers(Remedy::ReturnToCopy)) << "it has left a copy";
-}
-
-TEST_F(Opening, whileAnotherHoldsTheFile_saysSoAndCanBeTriedAgain) {
-  create(Content::Empty);
-  desk.reset();
-  int told[2];
-  int ended[2];
-  ASSERT_EQ(pipe(told), 0);
-  ASSERT_EQ(pipe(ended), 0);
-  const std::string file = files().parish().string();
-  const pid_t other = fork();
-  if (other == 0) {
-    sqlite3* db = nullptr;
-    sqlite3_open(file.c_str(), &db);
-    const bool holds = sqlite3_exec(db, "PRAGMA locking_mode=EXCLUSIVE; BEGIN EXCLUSIVE", nullptr,
-                                    nullptr, nullptr) == SQLITE_OK;
-    char sign = holds ? 'y' : 'n';
-    if (::write(told[1], &sign, 1) == 1 && ::read(ended[0], &sign, 1) == 1) _exit(0);
-    _exit(1);
-  }
-  char held = 0;
-  ASSERT_EQ(::read(told[0], &held, 1), 1);
-  ASSERT_EQ(held, 'y');
-  EXPECT_EQ(failure(), ErrorKind::Busy);
-  EXPECT_EQ(fault.title, "La parroquia está ocupada");
-  EXPECT_TRUE(offers(Remedy::Retry));
-  ASSERT_EQ(::write(ended[1], &held, 1), 1);
-  waitpid(other, nullptr, 0);
-  open();
-  EXPECT_EQ(desk->parishName(), "San Blas");
-}
-
-TEST_F(Opening, noDatabase_isNotTouched) {
-  write(files().parish(), std::string(4096, 'x'));
-  EXPECT_EQ(failure(), ErrorKind::NotADatabase);
-  EXPECT_TRUE(offers(Remedy::ReturnToCopy));
-  EXPECT_TRUE(offers(Remedy::OtherFolder));
-  EXPECT_FALSE(offers(Remedy::NewParish));
-  EXPECT_EQ(std::filesystem::file_size(files().parish()), 4096u);
 }
 
 TEST_F(Opening, twoWindowsOfOneAccount_haveScratchTablesOfTheirOwnAndLeaveNone) {
@@ -206,16 +172,6 @@ TEST_F(Opening, twoWindowsOfOneAccount_haveScratchTablesOfTheirOwnAndLeaveNone) 
   EXPECT_EQ(rowsOn(other.reports()), 0);
   for (const auto& file : std::filesystem::directory_iterator(directory()))
     EXPECT_FALSE(file.path().filename().string().starts_with("informes")) << file.path();
-}
-
-TEST_F(Opening, everyFaultSaysSomethingAndLetsTheUserOut) {
-  for (int kind = 0; kind <= static_cast<int>(ErrorKind::Other); ++kind) {
-    fault = describeFault(store::Error(static_cast<ErrorKind>(kind), "motivo"), files());
-    EXPECT_FALSE(fault.title.empty());
-    EXPECT_FALSE(fault.text.empty());
-    EXPECT_TRUE(offers(Remedy::Exit));
-    EXPECT_GE(fault.remedies.size(), 2u);
-  }
 }
 
 TEST_F(Opening, preferences_areKept) {

@@ -85,6 +85,10 @@ void madeWithACopy(const fs::path& folder) {
   made(folder / "ensayo", 20);
 }
 
+void madeEmpty(const fs::path& folder) {
+  made(folder / "ensayo", 0);
+}
+
 bool hasRows(const fs::path& folder, int told) {
   return isBetween(transactionsIn(folder / "ensayo"), told, told + 1);
 }
@@ -107,22 +111,14 @@ struct Case {
   std::function<void(DiskRecorder&)> work;
   std::function<bool(const fs::path& folder, int told)> holds;
   int images;
+  bool onAShare = false;
 
   friend void PrintTo(const Case& one, std::ostream* out) { *out << one.name; }
 };
 
 const Case CASES[] = {
-    {"Log", [](const fs::path& folder) { made(folder / "ensayo", 0); }, storeRows, hasRows, 100},
-    {"Journal",
-     [](const fs::path& folder) {
-       const tests::NetworkShare share;
-       made(folder / "ensayo", 0);
-     },
-     [](DiskRecorder& disk) {
-       const tests::NetworkShare share;
-       storeRows(disk);
-     },
-     hasRows, 100},
+    {"Log", madeEmpty, storeRows, hasRows, 100},
+    {"Journal", madeEmpty, storeRows, hasRows, 100, true},
     {"Creation", [](const fs::path&) {},
      [](DiskRecorder& disk) {
        createParish(menorca(disk.folder), {2026, 5, 20});
@@ -138,16 +134,7 @@ const Case CASES[] = {
      },
      30},
     {"Return", madeWithACopy, returnToThree, hasThreeOrTwenty, 80},
-    {"ReturnOnAShare",
-     [](const fs::path& folder) {
-       const tests::NetworkShare share;
-       madeWithACopy(folder);
-     },
-     [](DiskRecorder& disk) {
-       const tests::NetworkShare share;
-       returnToThree(disk);
-     },
-     hasThreeOrTwenty, 80},
+    {"ReturnOnAShare", madeWithACopy, returnToThree, hasThreeOrTwenty, 80, true},
     {"ReturnOfADamagedOne",
      [](const fs::path& folder) {
        made(folder / "copia", 3);
@@ -213,10 +200,16 @@ class PowerCut : public ::testing::TestWithParam<Case> {
  protected:
   void SetUp() override {
     fs::create_directory(folder_);
+    const auto share = shareIfAny();
     GetParam().prepare(folder_);
   }
 
+  static std::unique_ptr<tests::NetworkShare> shareIfAny() {
+    return GetParam().onAShare ? std::make_unique<tests::NetworkShare>() : nullptr;
+  }
+
   std::vector<tests::DiskCall> record() {
+    const auto share = shareIfAny();
     DiskRecorder recorder(folder_);
     GetParam().work(recorder);
     return std::move(recorder.calls);

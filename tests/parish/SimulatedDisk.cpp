@@ -241,29 +241,18 @@ void SimulatedDisk::cutPower(const fs::path& into, std::mt19937& chance) const {
 
 using namespace fidaleon::tests;
 
-namespace {
-mode_t modeOf(int flags, va_list more) {
-  return (flags & (O_CREAT | O_TMPFILE)) != 0 ? static_cast<mode_t>(va_arg(more, int)) : 0;
-}
-}  // namespace
-
 extern "C" {
 
 int open(const char* path, int flags, ...) {
   va_list more;
   va_start(more, flags);
-  const mode_t mode = modeOf(flags, more);
+  const bool creates = (flags & (O_CREAT | O_TMPFILE)) != 0;
+  const mode_t mode = creates ? static_cast<mode_t>(va_arg(more, int)) : 0;
   va_end(more);
   return opened(path, flags, mode);
 }
 
-int open64(const char* path, int flags, ...) {
-  va_list more;
-  va_start(more, flags);
-  const mode_t mode = modeOf(flags, more);
-  va_end(more);
-  return opened(path, flags, mode);
-}
+int open64(const char* path, int flags, ...) __attribute__((alias("open")));
 
 ssize_t write(int fd, const void* bytes, size_t size) {
   const off_t at = recorder == nullptr ? 0 : ::lseek(fd, 0, SEEK_CUR);
@@ -274,25 +263,20 @@ ssize_t pwrite(int fd, const void* bytes, size_t size, off_t at) {
   return written(::syscall(SYS_pwrite64, fd, bytes, size, at), fd, bytes, at);
 }
 
-ssize_t pwrite64(int fd, const void* bytes, size_t size, off64_t at) {
-  return written(::syscall(SYS_pwrite64, fd, bytes, size, at), fd, bytes, at);
-}
+ssize_t pwrite64(int fd, const void* bytes, size_t size, off64_t at)
+    __attribute__((alias("pwrite")));
 
 int ftruncate(int fd, off_t size) noexcept {
   return cut(fd, size);
 }
 
-int ftruncate64(int fd, off64_t size) noexcept {
-  return cut(fd, size);
-}
+int ftruncate64(int fd, off64_t size) noexcept __attribute__((alias("ftruncate")));
 
 int fsync(int fd) {
   return synced(fd);
 }
 
-int fdatasync(int fd) {
-  return synced(fd);
-}
+int fdatasync(int fd) __attribute__((alias("fsync")));
 
 int rename(const char* from, const char* to) noexcept {
   return noteBoth(static_cast<int>(::syscall(SYS_renameat2, AT_FDCWD, from, AT_FDCWD, to, 0)),

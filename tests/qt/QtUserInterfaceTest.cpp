@@ -121,42 +121,6 @@ TEST(QtUserInterface, FormThatAsksWhileItIsLeft_MessageStandsOverItAndAllGoesOn)
   EXPECT_TRUE(form.isUnloaded());
 }
 
-TEST(QtUserInterface, FormOpenedByAForm_ClosesAloneAndGivesTheFocusBack) {
-  QtUserInterface ui;
-  SampleForm outer(ui);
-  outer.addInstitution.onClick = [&] {
-    SampleForm inner(ui);
-    whenAsked([&](QWidget& window) {
-      EXPECT_EQ(window.windowTitle().toStdString(), inner.caption());
-      QTest::keyClick(&window, Qt::Key_Escape);
-    });
-    inner.Show();
-    EXPECT_TRUE(inner.isUnloaded());
-    outer.setFocus(outer.folio);
-  };
-  whenAsked([&](QWidget& window) {
-    auto& dialog = dynamic_cast<FormDialog&>(window);
-    QTest::mouseClick(dialog.fieldOf(outer.addInstitution), Qt::LeftButton);
-    EXPECT_TRUE(dialog.isVisible());
-    comeBackTo(dialog);
-    EXPECT_EQ(outer.activeControl(), &outer.folio);
-    EXPECT_EQ(QApplication::focusWidget(), dialog.fieldOf(outer.folio));
-    outer.Unload();
-  });
-  outer.Show();
-}
-
-TEST(QtUserInterface, FormThatUnloadsWhileLoading_IsNotShown) {
-  struct Fleeting : Form {
-    explicit Fleeting(UserInterface& ui) : Form(ui, "frmFugaz") { setLayout(column({})); }
-    void Form_Load() override { Unload(); }
-  };
-  QtUserInterface ui;
-  Fleeting form(ui);
-  form.Show();
-  EXPECT_TRUE(form.isUnloaded());
-}
-
 TEST(QtUserInterface, Hourglass_NestsAndYieldsToQuestions) {
   QtUserInterface ui;
   {
@@ -201,12 +165,6 @@ TEST(QtUserInterface, PrinterWidths_GrowWithTheTextInTwips) {
   EXPECT_LT(one, 1600);
   EXPECT_NEAR(ui.printerTextWidth("NacimientoNacimiento", "Arial"), 2 * one, one * 0.05);
   EXPECT_EQ(ui.printerTextWidth("", "Arial"), 0);
-}
-
-TEST(QtUserInterface, Clipboard_KeepsText) {
-  QtUserInterface ui;
-  ui.setClipboardText("Muñoz 😀");
-  EXPECT_EQ(ui.clipboardText(), "Muñoz 😀");
 }
 
 }  // namespace

@@ -11,19 +11,6 @@ class SampleParish : public ParishTest {
   void SetUp() override { create(); }
 };
 
-TEST_F(SampleParish, holdsWhatItPromises) {
-  EXPECT_EQ(count("SELECT COUNT(IDInstitucion) FROM Institucion"), 2);
-  EXPECT_EQ(count("SELECT COUNT(IDInstitucion) FROM Ultimos"), 2);
-  EXPECT_GE(count("SELECT COUNT(IDMunicipio) FROM Municipio"), 60);
-  EXPECT_GE(rowsOf("SELECT DISTINCT CodProvincia FROM Municipio"), 10);
-  EXPECT_EQ(count("SELECT COUNT(IDLibroBautismo) FROM Libro_Bautismo"), 2);
-  EXPECT_EQ(rowsOf("SELECT * FROM Libro_Bautismo WHERE Nuevo=true AND Cerrado=false"), 1);
-  EXPECT_GE(count("SELECT COUNT(IDBautismo) FROM Bautismo WHERE CodLibro<>0"), 100);
-  EXPECT_GE(count("SELECT COUNT(IDBautismo) FROM Bautismo WHERE CodLibro=0"), 3);
-  EXPECT_GE(rowsOf("SELECT IDBautismo FROM Bautismo WHERE Anulada=true"), 1);
-  EXPECT_GE(count("SELECT COUNT(IDEncargado) FROM Institucion_Encargado"), 2);
-}
-
 TEST_F(SampleParish, everyEntryIsWholeForTheReaders) {
   const auto all = count("SELECT COUNT(IDBautismo) FROM Bautismo");
   EXPECT_EQ(rowsOf("SELECT IDBautismo FROM Bautismo, Bautismo_Hijo, Bautismo_Padres, "
@@ -49,33 +36,6 @@ TEST_F(SampleParish, positionsAreWhatTheBooksWouldHaveGiven) {
     EXPECT_EQ(rows.integer("Numero"), expected);
     EXPECT_EQ(rows.integer("Folio"), rows.flag("Nuevo") ? expected : (expected - 1) / 4 + 1);
   }
-}
-
-TEST_F(SampleParish, aNewEntryGetsTheNextPositionAndFindsItsFamily) {
-  const auto family = desk->parish().Execute(
-      "SELECT PrimerApellido, SegundoApellido FROM Bautismo_Hijo WHERE CodBautismo=1");
-  const auto last = count(
-      "SELECT MAX(Folio) FROM Bautismo, Libro_Bautismo WHERE "
-      "IDLibroBautismo=CodLibro AND Nuevo=true");
-  std::string folio;
-  user.expectForm("frmPartidaBautismo", [&](forms::FormDriver& d) {
-    d.choose("cboBautismo(22)", "San Blas");
-    auto& books = d.get<forms::ComboBox>("cboBautismo(23)");
-    if (books.listIndex() < 0) d.choose("cboBautismo(23)", books.list(0));
-    folio = d.text("txtLibro(1)");
-    d.tab("mstBautismo", 1);
-    d.type("txtBautismo(8)", family.text("PrimerApellido"));
-    d.type("txtBautismo(9)", family.text("SegundoApellido"));
-    d.focus("txtBautismo(10)");
-    d.click("cmdBautismo(1)");
-  });
-  user.expectForm("frmBuscaPadres", [](forms::FormDriver& d) {
-    EXPECT_GE(d.get<forms::Grid>("msgBusquedaPadres").rowCount(), 1);
-    d.close();
-  });
-  desk->nucleo().NuevaPartida(desk->parish(), desk->config(), "PartidasBautismo");
-  EXPECT_THAT(user.problems(), ::testing::IsEmpty());
-  EXPECT_EQ(folio, std::to_string(last + 1));
 }
 
 TEST_F(SampleParish, everyPersonOfTheCensusIsWhole) {

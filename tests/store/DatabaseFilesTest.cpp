@@ -50,15 +50,15 @@ class Files : public testing::Test {
 /// Lets something happen between a copy and what is done with it.
 class AfterBackup : public ForwardingEngine {
  public:
-  AfterBackup(std::unique_ptr<Engine> inner, std::function<void()> then)
+  AfterBackup(std::unique_ptr<Engine> inner, std::function<void(const fs::path&)> then)
       : ForwardingEngine(std::move(inner)), then_(std::move(then)) {}
   void backup(const fs::path& to) override {
     ForwardingEngine::backup(to);
-    then_();
+    then_(to);
   }
 
  private:
-  std::function<void()> then_;
+  std::function<void(const fs::path&)> then_;
 };
 
 constexpr const char* kInsert = "INSERT INTO Cargo (Nombre) VALUES (\"Sacristán\")";
@@ -184,7 +184,7 @@ TEST_F(Files, cutOffFile_isRefusedOrReportedWhenRead) {
 }
 
 TEST_F(Files, readOnlyFile_isRefused) {
-  createDatabase(file, parishSchema());
+  createDatabase(file, parishSchema())->engine().run("PRAGMA journal_mode = DELETE");
   fs::permissions(file, fs::perms::owner_read | fs::perms::others_read);
   fs::permissions(folder, fs::perms::owner_all | fs::perms::others_read | fs::perms::others_exec);
   tests::OtherProcess other([&](auto& self) {
@@ -275,8 +275,9 @@ TEST_F(Files, fullDisk_isToldAndLosesNothingStored) {
 }
 
 // Another version of the library that knows the alphabet may sort in another way.
-TEST_F(Files, indexedUnderAnotherOrderOfLetters_findsItsRowsAgain) {
+TEST_F(Files, indexedUnderAnotherOrderOfLetters_isNoSoundCopyUntilItIsIndexedAnew) {
   createDatabase(file, parishSchema());
+  createDatabase(folder / "otra", parishSchema());
   sqlite3* db = nullptr;
   ASSERT_EQ(sqlite3_open(file.c_str(), &db), SQLITE_OK);
   const auto backwards = [](void*, int a, const void* x, int b, const void* y) {
@@ -286,14 +287,16 @@ TEST_F(Files, indexedUnderAnotherOrderOfLetters_findsItsRowsAgain) {
   sqlite3_create_collation(db, "ES", SQLITE_UTF8, nullptr, backwards);
   EXPECT_EQ(sqlite3_exec(db,
                          "INSERT INTO Bautismo_Hijo (PrimerApellido) VALUES ('Abad'), ('Gil'), "
-                         "('Oro'), ('Zurita'); UPDATE Esquema SET Orden = 'otro'",
+                         "('Oro'), ('Zurita')",
                          nullptr, nullptr, nullptr),
             SQLITE_OK);
   sqlite3_close(db);
+  EXPECT_EQ(kindOf([&] { Restore(file, folder / "otra", parishSchema()); }),
+            ErrorKind::NotADatabase);
+  openDatabase(file, parishSchema())->engine().run("UPDATE Esquema SET Orden = 'otro'");
   const auto connection = openDatabase(file, parishSchema());
-  for (const char* surname : {"ABAD", "Gil", "Oro", "Zurita"})
-    EXPECT_EQ(
-        count(*connection, "Bautismo_Hijo WHERE PrimerApellido='" + std::string(surname) + "'"), 1)
+  for (const std::string surname : {"ABAD", "Gil", "Oro", "Zurita"})
+    EXPECT_EQ(count(*connection, "Bautismo_Hijo WHERE PrimerApellido='" + surname + "'"), 1)
         << surname;
 }
 
@@ -368,8 +371,9 @@ TEST_F(Files, backupOverADatabaseThatIsOpen_isRefused) {
   createDatabase(folder / "tercera", parishSchema());
   std::unique_ptr<Connection> late;
   connection->wrapEngine([&](std::unique_ptr<Engine> inner) {
-    return std::make_unique<AfterBackup>(
-        std::move(inner), [&] { late = openDatabase(folder / "tercera", parishSchema()); });
+    return std::make_unique<AfterBackup>(std::move(inner), [&](const fs::path&) {
+      late = openDatabase(folder / "tercera", parishSchema());
+    });
   });
   EXPECT_EQ(kindOf([&] { backupDatabase(*connection, folder / "tercera"); }), ErrorKind::Busy);
   late->Execute(kInsert);
@@ -412,6 +416,13 @@ TEST_F(Files, backup_isACompleteDatabaseAndReplacesOnlyWhenWhole) {
   backupDatabase(*connection, copy);
   EXPECT_EQ(count(*openDatabase(copy, parishSchema())), 2);
   EXPECT_THROW(backupDatabase(*connection, folder / "no" / "copia"), Error);
+  connection->wrapEngine([](std::unique_ptr<Engine> inner) {
+    return std::make_unique<AfterBackup>(std::move(inner), [](const fs::path& made) {
+      openDatabase(made, parishSchema())->Execute("DELETE FROM Cargo");
+    });
+  });
+  EXPECT_EQ(kindOf([&] { backupDatabase(*connection, copy); }), ErrorKind::NotADatabase);
+  EXPECT_EQ(count(*openDatabase(copy, parishSchema())), 2) << "the older one stays";
   std::size_t files = 0;
   for ([[maybe_unused]] const auto& entry : fs::directory_iterator(folder)) ++files;
   EXPECT_LE(files, 4U) << "drafts are left behind";

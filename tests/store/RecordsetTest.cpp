@@ -94,17 +94,6 @@ TEST_F(Recordsets, open_showsRowsAsTheyWereWhenOpened) {
   EXPECT_EQ(inside.RecordCount(), 11);
 }
 
-TEST_F(Recordsets, sameStatementTwice_keepsEachItsOwnPlace) {
-  fill(20);
-  const char* sql = "SELECT * FROM Cargo ORDER BY IDCargo";
-  auto one = connection->Execute(sql);
-  one.MoveNext();
-  auto two = connection->Execute(sql);
-  for (int i = 0; i < 5; ++i) one.MoveNext();
-  EXPECT_EQ(one.integer("IDCargo"), 7);
-  EXPECT_EQ(two.integer("IDCargo"), 1);
-}
-
 /// Counts the rows that are stepped over.
 class CountingEngine : public ForwardingEngine {
  public:
@@ -144,13 +133,6 @@ TEST_F(Recordsets, longOnes_areFetchedOnDemandAndDrainedBeforeAWrite) {
   const auto open = connection->Execute("SELECT * FROM Cargo");
   connection->Execute("DELETE * FROM Cargo WHERE IDCargo = 499");
   EXPECT_EQ(rows, 499);
-}
-
-TEST_F(Recordsets, connectionGone_keepsNothingDangling) {
-  fill(100);
-  auto set = connection->Execute("SELECT * FROM Cargo");
-  connection.reset();
-  EXPECT_EQ(set.integer("IDCargo"), 1);
 }
 
 TEST_F(Recordsets, values_readAsTextNumberAndFlag) {

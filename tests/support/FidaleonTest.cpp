@@ -17,8 +17,6 @@ struct Dialog : forms::Form {
     list.setMultiSelect(true);
   }
   forms::TextBox text{*this, "txtTexto", "&NOMBRE DEL NIÑO:"};
-  forms::TextBox amount{*this, "txtImporte", "IMPORTE (Pts):"};
-  forms::Label unit{*this, "lblUnidad", "Pts"};
   forms::ComboBox combo{*this, "cboLista", "LISTA:"};
   forms::ListBox list{*this, "lstLista"};
   forms::Grid grid{*this, "msgRejilla"};
@@ -108,16 +106,6 @@ TEST_F(Services, FieldsAndLists) {
                   .Execute("SELECT Nombre FROM Institucion WHERE " +
                            f.sqlListbox(d.list, "IDInstitucion") + " AND IDInstitucion=0")
                   .EOF_());
-}
-
-TEST_F(Services, Currency_IsThatOfTheConfiguration) {
-  f.CambioEtiquetasMoneda(d, d.amount, w.config);
-  EXPECT_EQ(d.unit.caption(), "€");
-  EXPECT_EQ(d.amount.label()->caption(), "IMPORTE (€):");
-  w.config.TrabajarConPesetas = true;
-  f.CambioEtiquetasMoneda(d, d.amount, w.config);
-  EXPECT_EQ(d.unit.caption(), "Pts");
-  EXPECT_EQ(d.amount.label()->caption(), "IMPORTE (Pts):");
 }
 
 TEST_F(Services, Lists_AreFilledInOrderAndChooseWhatWasAskedFor) {

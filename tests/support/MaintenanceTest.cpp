@@ -34,18 +34,5 @@ TEST_F(Maintenance, WhileOthersUseTheTable_OneMayAddAndCorrectButNotDelete) {
   EXPECT_TRUE(commands.eliminar(Catalogo::Institucion, id));
 }
 
-TEST_F(Maintenance, RowOnEditInAnotherWorkstation_IsRefusedAndGoneOnesAreTold) {
-  const auto town = w.municipio("Getafe", "Madrid");
-  const auto other = w.otherHolds("Municipio", town);
-  w.user.expectMessage(
-      "En este momento no se puede abrir el municipio.\n"
-      "Lo está usando: luis, en el equipo SACRISTIA, desde el 22/11/2026 a las 10:30.\n"
-      "Inténtelo de nuevo cuando termine.");
-  EXPECT_FALSE(commands.propiedades(Catalogo::Municipio, town));
-  w.user.expectMessage(
-      "Ya no existe la provincia: se ha eliminado desde otro puesto. Actualice la lista.");
-  EXPECT_FALSE(commands.propiedades(Catalogo::Provincia, 999));
-}
-
 }  // namespace
 }  // namespace fidaleon::support

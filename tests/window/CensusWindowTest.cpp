@@ -1,45 +1,30 @@
-#include <QAction>
 #include <QMenuBar>
-#include <QTableView>
 
 #include "catalogue/Documents.h"
 #include "catalogue/ReportProgress.h"
 #include "parish/Insert.h"
-#include "parish/Parish.h"
-#include "window/MainWindow.h"
+#include "window/OpenWindow.h"
 
 namespace fidaleon::app {
 namespace {
 
 using forms::FormDriver;
 
-class CensusWindow : public ParishTest {
+class CensusWindow : public OpenWindow<> {
  protected:
-  void open(const char* node, Content content = Content::Sample) {
-    create(content);
-    window = std::make_unique<MainWindow>(*desk);
-    window->show();
-    window->showNode(node);
-  }
-  void TearDown() override { EXPECT_THAT(user.problems(), ::testing::IsEmpty()); }
-  void give(const char* command) { window->action(command)->trigger(); }
-  int shown() const { return window->table().model()->rowCount(); }
-  std::string cell(int column) const {
-    return window->table().currentIndex().siblingAtColumn(column).data().toString().toStdString();
-  }
+  void SetUp() override {}
   std::int32_t someoneWith(int rolesHeld) {
     return static_cast<std::int32_t>(
         count("SELECT CodPadron FROM Padron_TipoPersona GROUP BY CodPadron HAVING COUNT(*)=" +
               std::to_string(rolesHeld)));
   }
-
-  std::unique_ptr<MainWindow> window;
 };
 
 // Somebody of the census becomes a collaborator through the dialog for new ones; meanwhile another
 // workstation adds rows too.
 TEST_F(CensusWindow, arrivalsAreChosenAfterANewOneOnly) {
   open("Colaboradores");
+  window->table().selectRow(shown() - 1);
   const std::int32_t kept = window->choice().id;
   std::int32_t gained = 0;
   const auto giveRole = [&](FormDriver& d) {
@@ -94,8 +79,7 @@ TEST_F(CensusWindow, aCollaboratorTakenFromTheCensus_isAskedForWhatOthersLose) {
 }
 
 TEST_F(CensusWindow, whatIsDeletedIsNamed_andEnterLeavesIt) {
-  create();
-  window = std::make_unique<MainWindow>(*desk);
+  open("PartidasBautismo");
   user.answerAnything(forms::Answer::No);
   const std::pair<const char*, const char*> commands[] = {
       {"PartidasBautismo", "eliminar-partida"},
@@ -122,7 +106,9 @@ TEST_F(CensusWindow, whatIsDeletedIsNamed_andEnterLeavesIt) {
     EXPECT_EQ(asked.icon, forms::MsgIcon::Exclamation) << asked.text;
     std::string row;
     for (int column = 0; column < window->table().model()->columnCount(); ++column)
-      row += cell(column) + "\n";
+      row +=
+          window->table().currentIndex().siblingAtColumn(column).data().toString().toStdString() +
+          "\n";
     const std::string named = asked.below.substr(0, asked.below.find_first_of(" ,:\n"));
     EXPECT_FALSE(named.empty()) << asked.text;
     EXPECT_TRUE(refused || row.find(named) != std::string::npos) << asked.below << "\n" << row;

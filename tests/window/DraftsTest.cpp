@@ -188,6 +188,29 @@ TEST_F(Drafts, ofARecord_goesBackOnlyOverWhatWasThere) {
   EXPECT_EQ(left(), 0);
 }
 
+TEST_F(Drafts, refused_goesWithAllThatItsProgramHasLeft_andStaysForItsOwnParish) {
+  killWhile([](Program& p) {
+    p.user.expectForm(NEW_ENTRY, [&](FormDriver& d) {
+      typeEntry(d);
+      die(p);
+    });
+    p.give("nueva-partida");
+  });
+  const std::vector<DraftFolder::Left> killed = DraftFolder(folder()).left();
+  ASSERT_EQ(killed.size(), 1u);
+  std::ofstream(std::filesystem::path(killed[0].file).replace_extension(".nuevo")) << "a medias";
+  const auto next = program();
+  next->watch.workOn(directory() / "otra");
+  next->window.offerDrafts();
+  EXPECT_EQ(left(), 1) << "it is of another parish";
+  next->watch.workOn(files().parish());
+  next->user.expectMessage(question("Agregar partida de bautismo nueva"), Answer::No);
+  next->window.offerDrafts();
+  next->window.offerDrafts();
+  EXPECT_THAT(next->user.problems(), IsEmpty());
+  EXPECT_TRUE(std::filesystem::is_empty(folder()));
+}
+
 TEST_F(Drafts, ofABook_bringsBackItsListAndTheEntryOverIt) {
   const auto choose = [](Program& p) {
     p.window.showNode("LibrosBautismo");

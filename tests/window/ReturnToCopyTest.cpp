@@ -183,14 +183,12 @@ TEST_F(Returning, withoutRoomForTheOtherCopy_asksAndReturns) {
 
 TEST_F(Returning, byTheWindow_showsTheOldRowsAgain) {
   MainWindow window(*desk);
-  window.show();
   window.showNode("Cargos");
   EXPECT_EQ(window.table().model()->rowCount(), 2);
   QTimer::singleShot(0, [&] {
     auto* dialog = qobject_cast<CopiesDialog*>(QApplication::activeModalWidget());
     ASSERT_TRUE(dialog);
-    EXPECT_EQ(dialog->table().rowCount(), 1);
-    EXPECT_EQ(dialog->table().item(0, 1)->text(), "Eliminar");
+    ASSERT_EQ(dialog->table().rowCount(), 1);
     answerNext("&Volver a la copia");
     QTest::keyClick(&dialog->table(), Qt::Key_Return);
   });
@@ -202,28 +200,26 @@ TEST_F(Returning, byTheWindow_showsTheOldRowsAgain) {
 class ReturnOnAFullDisk : public Copies, public ::testing::WithParamInterface<const char*> {};
 
 TEST_P(ReturnOnAFullDisk, changesNothing) {
-  const auto fill = [&](const char* table, int rows) {
+  const auto fill = [&](const char* table) {
     desk->parish().BeginTrans();
-    for (int i = 0; i < rows; ++i)
+    for (int i = 0; i < 700; ++i)
       Insert(table).text("Nombre", std::string(150, 'x')).into(desk->parish());
     desk->parish().CommitTrans();
   };
-  fill("Cargo", 700);
+  fill("Cargo");
   const fs::path few = make("Pocos");
-  fill("Cargo", 700);
-  fill("Grupo", 700);
+  fill("Cargo");
+  fill("Grupo");
   desk->parish().engine().run(std::string("PRAGMA journal_mode = ") + GetParam());
   desk.reset();
   // No room beside the parish; then room there and none in the parish itself.
-  for (const auto room : {fs::file_size(few) / 2, fs::file_size(few)}) {
-    const FullDisk full(room);
-    try {
+  for (const auto room : {fs::file_size(few) / 2, fs::file_size(few)}) try {
+      const FullDisk full(room);
       store::Restore(few, files().parish(), store::parishSchema()).run();
       ADD_FAILURE() << "returned";
     } catch (const store::Error& e) {
       EXPECT_EQ(e.kind(), store::ErrorKind::DiskFull);
     }
-  }
   open();
   EXPECT_EQ(offices(), 1400);
   EXPECT_NO_THROW(make("Comprobación")) << "which reads all of it";

@@ -1,10 +1,8 @@
-#include <QAction>
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QStatusBar>
-#include <QTableView>
 #include <QTest>
 #include <QTimer>
 #include <QToolButton>
@@ -13,27 +11,17 @@
 #include <sstream>
 
 #include "catalogue/Documents.h"
-#include "parish/Parish.h"
 #include "showroom/Demo.h"
 #include "window/FirstRunWizard.h"
-#include "window/MainWindow.h"
+#include "window/OpenWindow.h"
 
 namespace fidaleon::app {
 namespace {
 
-class Window : public ParishTest {
+class Window : public OpenWindow<> {
  protected:
-  void SetUp() override {
-    create();
-    window = std::make_unique<MainWindow>(*desk);
-    window->show();
-  }
-  void TearDown() override { EXPECT_THAT(user.problems(), ::testing::IsEmpty()); }
   bool enabled(const char* command) const { return window->action(command)->isEnabled(); }
   bool visible(const char* command) const { return window->action(command)->isVisible(); }
-  int shown() const { return window->table().model()->rowCount(); }
-
-  std::unique_ptr<MainWindow> window;
 };
 
 TEST_F(Window, opensOnTheEntriesWithARowChosen) {
@@ -92,7 +80,7 @@ TEST_F(Window, annulledElsewhere_isToldInsteadOfAskedAndNotValidated) {
   ASSERT_FALSE(window->choice().annulled);
   desk->parish().Execute("UPDATE Bautismo SET Anulada=1 WHERE IDBautismo=" + std::to_string(id));
   user.expectMessage("Otro puesto ya ha anulado esta partida: no se ha cambiado nada.");
-  window->action("anular")->trigger();
+  give("anular");
   EXPECT_EQ(window->choice().id, id);
   EXPECT_TRUE(window->choice().annulled);
 }
@@ -117,7 +105,7 @@ TEST_F(Window, whatIsAddedIsChosen) {
     d.choose("cboProvincia", "Madrid");
     d.click("cmdBoton(0)");
   });
-  window->action("nuevo-municipio")->trigger();
+  give("nuevo-municipio");
   EXPECT_EQ(shown(), before + 1);
   EXPECT_EQ(window->choice().id, count("SELECT MAX(IDMunicipio) FROM Municipio"));
 }
@@ -151,14 +139,14 @@ TEST_F(Window, entriesOfABook_areItsOwnUntilTheLimitIsTakenAway) {
   const int all = shown();
   window->showNode("LibrosBautismo");
   ASSERT_TRUE(window->chooseRow(2));
-  window->action("ver-partidas")->trigger();
+  give("ver-partidas");
   EXPECT_EQ(window->choice().node->node.Nombre, "PartidasBautismo");
   EXPECT_EQ(shown(), count("SELECT COUNT(IDBautismo) FROM Bautismo WHERE CodLibro=2"));
   EXPECT_LT(shown(), all);
   window->filter().setText("zzzz");
   EXPECT_EQ(shown(), 0);
   window->filter().clear();
-  window->action("actualizar")->trigger();
+  give("actualizar");
   EXPECT_LT(shown(), all);
   auto* scope = window->findChild<QToolButton*>("scope");
   ASSERT_TRUE(scope);
@@ -185,11 +173,11 @@ TEST_F(Window, widthsAndPlaceComeBack) {
 }
 
 TEST_F(Window, leavingOrClosingTheParish_closesTheWindowOnceTheCommandHasEnded) {
-  window->action("salir")->trigger();
+  give("salir");
   QCoreApplication::processEvents();
   EXPECT_FALSE(window->isVisible());
   window->show();
-  window->action("cerrar-parroquia")->trigger();
+  give("cerrar-parroquia");
   QCoreApplication::processEvents();
   EXPECT_FALSE(window->isVisible());
   EXPECT_EQ(window->departure().to, Departure::To::Start);

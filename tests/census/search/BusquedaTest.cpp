@@ -27,20 +27,19 @@ struct Busqueda : En<ManosWorld> {
     espera(formulario.name(), std::move(act));
     formulario.Show();
   }
-  /// The list of those found, of whom the statement gives "columns".
+  /// The list of those found.
   struct Lista : frmPadronBusqueda {
-    Lista(Busqueda& w, const std::string& condicion, const std::string& columnas)
+    Lista(Busqueda& w, const std::string& condicion)
         : frmPadronBusqueda(w.contexto),
-          filas(w.con().Execute("SELECT " + columnas + " FROM Padron" + condicion)) {
+          filas(w.con().Execute("SELECT * FROM Padron" + condicion)) {
       conBaseDatos = &w.con();
       registros = &filas;
       Origen = cCOrigen::PADRON;
     }
     store::Recordset filas;
   };
-  std::int32_t buscar(const std::string& condicion, Act act, bool blnSeleccionar = true,
-                      const std::string& columnas = "*") {
-    Lista lista(*this, condicion, columnas);
+  std::int32_t buscar(const std::string& condicion, Act act, bool blnSeleccionar = true) {
+    Lista lista(*this, condicion);
     lista.blnSeleccionar = blnSeleccionar;
     mostrar(lista, std::move(act));
     return lista.lngSeleccionado;
@@ -113,25 +112,6 @@ TEST_F(Busqueda, Rows_ShowThoseFoundUnderTheirHeaders) {
   });
 }
 
-TEST_F(Busqueda, Rows_ComeInWithOneNotice) {
-  struct Avisos : forms::FormObserver {
-    void controlChanged(forms::Control&, forms::Change que) override {
-      rejilla += que == forms::Change::Grid;
-    }
-    void focusChanged(forms::Control*) override {}
-    void captionChanged() override {}
-    void unloaded() override {}
-    int rejilla = 0;
-  } avisos[2];
-  for (const bool nadie : {false, true}) {
-    Lista lista(*this, nadie ? " WHERE DNI=\"9\"" : "", "*");
-    lista.setObserver(&avisos[nadie]);
-    lista.Load();
-    lista.setObserver(nullptr);
-  }
-  EXPECT_LE(avisos[0].rejilla, avisos[1].rejilla + 1);
-}
-
 TEST_F(Busqueda, DetailsOfTheRow_ChooseNobodyAndASelectedRowHandsOverItsKey) {
   for (const char* boton : {CANCELAR, SELECCIONAR}) {
     const std::int32_t elegido = buscar(" ORDER BY IDPadron", [&](FormDriver& u) {
@@ -172,12 +152,6 @@ TEST_F(Busqueda, PersonGoneOrStoreFailing_IsToldAndTheListStays) {
     u.click(SELECCIONAR);
   });
   EXPECT_EQ(elegido, otraAna);
-  const auto sinFilas = [](FormDriver& u) {
-    EXPECT_FALSE(u.enabled(SELECCIONAR));
-    u.click(CANCELAR);
-  };
-  buscar("", sinFilas, true, "Nombre");
-  EXPECT_THAT(user.messages().at(2).text, HasSubstr("frmPadronBusqueda / CargaGridBusqueda"));
 }
 
 TEST_F(Busqueda, Details_ShowPlacesInstitutionAndBirthOrDashes) {
@@ -356,24 +330,6 @@ TEST_F(Notas, NewNote_NeedsATitleOfItsOwnAndIsPutBehindTheOthers) {
   EXPECT_EQ(notas[3].Operacion, cCOperacion::ANADIR);
   EXPECT_FALSE(notas[3].Estado);
   EXPECT_EQ(refrescos, 1);
-}
-
-TEST_F(Notas, EditedNote_IsMarkedOnlyWhenItIsStored) {
-  for (const std::size_t cual : {0, 2})
-    mostrar(cCOperacion::EDITAR, static_cast<int>(cual), [&](FormDriver& u) {
-      EXPECT_EQ(u.caption(), "Propiedades nota personal " + notas[cual].Nombre);
-      EXPECT_EQ(u.text("txtDescripcion"), notas[cual].Descripcion);
-      poner(u, "txtTitulo", cual ? "Otra" : "AÑO SANTO", "txtDescripcion", "\"Ninguna\"");
-      u.click(ACEPTAR_NOTA);
-    });
-  EXPECT_EQ(notas[0].Nombre + notas[0].Descripcion, "AÑO SANTO''Ninguna''");
-  EXPECT_EQ(notas[0].Operacion, cCOperacion::EDITAR);
-  EXPECT_EQ(notas[2].Nombre, "Otra");
-  EXPECT_EQ(notas[2].Operacion, cCOperacion::ANADIR);
-  user.answerAnything(Answer::Ok);
-  mostrar(cCOperacion::EDITAR, 9, {});
-  EXPECT_EQ(user.messages().size(), 1u) << "one that is not there";
-  EXPECT_EQ(refrescos, 2);
 }
 
 }  // namespace

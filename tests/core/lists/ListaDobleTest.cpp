@@ -3,7 +3,6 @@
 #include <stdexcept>
 
 #include "core/lists/ListaDoble.h"
-#include "support/Fidaleon.h"
 #include "support/TestWorld.h"
 
 namespace fidaleon {
@@ -132,31 +131,6 @@ TEST_F(DosListas, OwnerWhoRefusesOrFails_KeepsTheLinesWhereTheyAre) {
   EXPECT_THAT(mundo.user.messages().back().text, HasSubstr("ListarTodosSeleccionados"));
   EXPECT_THAT(lineas(0), ElementsAre("Ana", "Blas", "Carmen", "Diego"));
   EXPECT_THAT(lineas(1), IsEmpty());
-}
-
-TEST_F(DosListas, CheckFailing_IsReportedUnderItsOwnNameAndMovesNothing) {
-  struct SinComprobar : support::Fidaleon {
-    using Fidaleon::Fidaleon;
-    bool ComprobarSeleccion(const forms::ListBox&) override { throw std::runtime_error("no va"); }
-  };
-  struct Host : support::HostSupport {
-    explicit Host(tests::TestWorld& m)
-        : HostSupport(m.user, m.settings, m.clock, m.config), mundo(m) {}
-    std::unique_ptr<FDAPI::cFidaleon> create_cFidaleon() override {
-      return std::make_unique<SinComprobar>(mundo.user, mundo.settings, mundo.clock);
-    }
-    tests::TestWorld& mundo;
-  } host(mundo);
-  Entorno entorno{mundo.user, host, mundo.settings, mundo.clock, mundo.entorno.installation};
-  Contexto contexto(entorno);
-  Ventana otra(contexto, textos());
-  otra.listas.llenar({{40, "Ana"}}, {});
-  otra.Load();
-  mundo.user.answerAnything(forms::Answer::Ok);
-  FormDriver(otra, problemas).click("cmdMover(0)");
-  ASSERT_EQ(mundo.user.messages().size(), 1u);
-  EXPECT_THAT(mundo.user.messages()[0].text, HasSubstr("ComprobarSeleccion"));
-  EXPECT_EQ(otra.lst[0].listCount(), 1);
 }
 
 TEST_F(DosListas, SameKeyTwice_IsOneLineAndMistakesNoOther) {

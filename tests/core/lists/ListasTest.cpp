@@ -1,7 +1,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "core/contract/CcNodos.h"
 #include "core/contract/Sacramento.h"
 #include "core/lists/cIListas.h"
 #include "forms/Form.h"
@@ -12,7 +11,6 @@ namespace {
 
 using FDAPI::cCOrigen;
 using ::testing::ElementsAre;
-using ::testing::IsEmpty;
 
 struct Ventana : forms::Form {
   explicit Ventana(forms::UserInterface& ui)
@@ -58,31 +56,12 @@ class Listas : public ::testing::Test {
   bool error = false;
 };
 
-TEST_F(Listas, sex_offersBothAndChoosesNone) {
-  listas.fillSexo(ventana.lista);
-  EXPECT_THAT(datos(ventana.lista), ElementsAre(HOMBRE, MUJER));
-  EXPECT_EQ(ventana.lista.list(0), "Hombre");
-  EXPECT_EQ(ventana.lista.list(1), "Mujer");
-  EXPECT_EQ(ventana.lista.listIndex(), -1);
-}
-
 TEST_F(Listas, bookFormats_followOriginAndEdition) {
   EXPECT_THAT(formatos(cCOrigen::NuevoLibro, 1), ElementsAre(3));
   EXPECT_THAT(formatos(cCOrigen::NuevoLibro, 0), ElementsAre(1));
   EXPECT_THAT(formatos(cCOrigen::ANTIGUOLIBRO, 0), ElementsAre(1, 2, 3, 4));
   mundo.entorno.installation.Aplicacion = FDAPI::cCAplicacion::APP_FIDALEON_MENORCA;
   EXPECT_THAT(formatos(cCOrigen::NuevoLibro, 1), ElementsAre(2, 3));
-}
-
-TEST_F(Listas, bookFormatsThatCannotBeRead_areReportedAndTheListStays) {
-  ventana.lista.addItem("sigue", 9);
-  mundo.user.answerAnything(forms::Answer::Ok);
-  // A database that has no such table.
-  listas.fillFormatoLibro(ventana.lista, cCOrigen::ANTIGUOLIBRO, mundo.conInformes(), 0);
-  EXPECT_THAT(datos(ventana.lista), ElementsAre(9));
-  ASSERT_EQ(mundo.user.messages().size(), 1u);
-  EXPECT_THAT(mundo.user.messages()[0].text,
-              ::testing::HasSubstr("¡ Error al selecionar el formato de los libros !"));
 }
 
 TEST_F(Listas, nameTypes_forNewAndOldBooks) {
@@ -139,50 +118,6 @@ TEST_F(Listas, grid_keepsStoredWidthsAndWritesMissingOnes) {
   EXPECT_EQ(ventana.rejilla.columnWidth(5), 1200);
 }
 
-TEST_F(Listas, gridsOfTheSisters_haveTheirOwnColumnsAndPaths) {
-  listas.ConfigGridPropiedadesLibroMatrimonio(ventana.rejilla);
-  EXPECT_EQ(ventana.rejilla.columns(), 10);
-  EXPECT_EQ(ventana.rejilla.header(8), "Fecha Matrimonio");
-  EXPECT_EQ(ancho("Propiedades Libros\\PropiedadesLibroMatrimonio", 8), "1410");
-  listas.ConfigGridBuscaPadres(ventana.rejilla);
-  EXPECT_EQ(ventana.rejilla.columns(), 6);
-  EXPECT_EQ(ancho("BuscaPadres\\BuscaPadres", 3), "1620");
-  listas.ConfigGridBuscaPadresConfirmacion(ventana.rejilla);
-  listas.ConfigGridBuscaPadresMatrimonio(ventana.rejilla);
-  listas.ConfigGridBuscaPadresDefuncion(ventana.rejilla);
-  EXPECT_EQ(ventana.rejilla.columns(), 4);
-  EXPECT_EQ(ventana.rejilla.header(3), "Fecha de bautismo");
-  for (const char* fin : {"Confirmacion", "Matrimonio", "Defuncion"})
-    EXPECT_EQ(ancho(std::string("BuscaPadres\\BuscaBautizado") + fin, 0), "1980");
-}
-
-TEST_F(Listas, gridOfMessages_isHeadedByItsTray) {
-  listas.ConfigGridMensajes(ventana.rejilla, CcNodos::BANDEJAENTRADA);
-  EXPECT_EQ(ventana.rejilla.header(1), "Enviado el");
-  listas.ConfigGridMensajes(ventana.rejilla, CcNodos::ELEMENTOSENVIADOS);
-  EXPECT_EQ(ventana.rejilla.header(1), "Para");
-  EXPECT_EQ(ventana.rejilla.header(2), "Recibido el");
-  EXPECT_EQ(ancho("Mensajeria\\Mensajes", 1), "4500");
-}
-
-TEST_F(Listas, gridWhoseWidthsCannotBeKept_isReportedAndHasItsHeaders) {
-  struct SoloLectura : support::MemorySettings {
-    void write(const std::string&, const std::string&, const std::string&,
-               const std::string&) override {
-      throw std::runtime_error("El disco está lleno.");
-    }
-  } ajustes;
-  Entorno entorno{mundo.user, mundo.host, ajustes, mundo.clock, {}};
-  Contexto contexto(entorno);
-  mundo.user.answerAnything(forms::Answer::Ok);
-  cIListas(contexto).ConfigGridBuscaPadres(ventana.rejilla);
-  ASSERT_EQ(mundo.user.messages().size(), 1u);
-  EXPECT_THAT(mundo.user.messages()[0].text,
-              ::testing::HasSubstr("FidaleonNucleo / cIListas / ConfigGridBuscaPadres()"));
-  ASSERT_EQ(ventana.rejilla.columns(), 6);
-  EXPECT_EQ(ventana.rejilla.header(5), "Segundo apellido");
-}
-
 TEST_F(Listas, provinces_areFilledAnewWithTheirChoiceKept) {
   const std::int32_t madrid = mundo.provincia("Madrid");
   ventana.provincia.addItem("Madrid", madrid);
@@ -192,13 +127,6 @@ TEST_F(Listas, provinces_areFilledAnewWithTheirChoiceKept) {
   EXPECT_GE(ventana.provincia.listCount(), 52);
   EXPECT_EQ(ventana.provincia.data(), madrid);
   EXPECT_THAT(datos(ventana.otra), ElementsAre(1));
-}
-
-TEST_F(Listas, selectedField_isSelectedWhole) {
-  forms::TextBox campo(ventana, "txtCampo");
-  campo.setText("José");
-  listas.SelText(campo);
-  EXPECT_EQ(campo.selLength(), 4);
 }
 
 }  // namespace
