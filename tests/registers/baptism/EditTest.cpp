@@ -57,38 +57,6 @@ TEST_F(EditedBaptism, QuotesOfOldData_AreNoHindrance) {
   EXPECT_SCRIPT_DONE(w.user);
 }
 
-TEST_F(EditedBaptism, RowOfTheFamilyGone_MayBeReadButNotChanged) {
-  w.con().Execute("DELETE * FROM bautismo_madres");
-  w.user.expectMessage(
-      "¡A esta partida le falta alguna de sus fichas (bautizado, padre, madre o matrimonio)! Se "
-      "puede consultar, pero no modificar.");
-  open(
-      cCOperacion::EDITAR,
-      [](FormDriver& d) {
-        EXPECT_FALSE(d.enabled("cmdBautismo(0)"));
-        cancel(d);
-      },
-      id);
-  EXPECT_SCRIPT_DONE(w.user);
-}
-
-TEST_F(EditedBaptism, NothingChanged_WritesNothing) {
-  auto* engine = store::FailingEngine::wrap(w.con());
-  engine->failAlwaysOn("UPDATE");
-  open(
-      cCOperacion::EDITAR, [](FormDriver& d) { accept(d); }, id);
-  open(
-      cCOperacion::EDITAR,
-      [](FormDriver& d) {
-        d.tab("mstBautismo", frmPartidaBautismo::TAB_BAUTIZADO);
-        d.type("txtBautismo(7)", "Otro");
-        cancel(d);
-      },
-      id);
-  EXPECT_EQ(w.value("SELECT Nombre FROM bautismo_hijo"), "Luis");
-  EXPECT_SCRIPT_DONE(w.user);
-}
-
 TEST_F(EditedBaptism, SexThatTheListDoesNotKnow_StaysAsItIs) {
   w.con().Execute("UPDATE bautismo_hijo SET sexo=\"Varón\"");
   open(
@@ -102,66 +70,6 @@ TEST_F(EditedBaptism, SexThatTheListDoesNotKnow_StaysAsItIs) {
       id);
   EXPECT_EQ(w.value("SELECT Nombre FROM bautismo_hijo"), "Luis María");
   EXPECT_EQ(w.value("SELECT Sexo FROM bautismo_hijo"), "Varón");
-}
-
-TEST_F(EditedBaptism, FailingUpdate_KeepsTheDialogOpen) {
-  auto* faults = store::FailingEngine::wrap(w.con());
-  faults->failOn("UPDATE bautismo_hijo", store::ErrorKind::Busy);
-  w.user.answerAnything(Answer::Ok);
-  open(
-      cCOperacion::EDITAR,
-      [](FormDriver& d) {
-        d.tab("mstBautismo", frmPartidaBautismo::TAB_BAUTIZADO);
-        d.type("txtBautismo(7)", "Otro");
-        accept(d);
-        EXPECT_FALSE(d.closed());
-        accept(d);
-        EXPECT_TRUE(d.closed());
-      },
-      id);
-  EXPECT_EQ(w.value("SELECT Nombre FROM bautismo_hijo"), "Otro");
-}
-
-TEST_F(EditedBaptism, FailingLoad_ShowsNothingThatCouldBeAccepted) {
-  auto* faults = store::FailingEngine::wrap(w.con());
-  faults->failOn("SELECT * FROM bautismo_madres");
-  w.user.answerAnything(Answer::Ok);
-  frmPartidaBautismo dialog(w.contexto);
-  dialog.conBaseDatos = &w.con();
-  dialog.lngID = id;
-  dialog.Operacion = cCOperacion::EDITAR;
-  dialog.Origen = cCOrigen::PRINCIPAL;
-  dialog.Show();
-  EXPECT_TRUE(dialog.isUnloaded());
-  ASSERT_EQ(w.user.messages().size(), 1u);
-  EXPECT_THAT(w.user.messages()[0].text, ::testing::HasSubstr("frmPartidaBautismo / Form_Load"));
-}
-
-TEST_F(EditedBaptism, Annulling_TogglesAndOpensOrLocksThePositionOfAnOldBook) {
-  w.con().Execute("UPDATE Libro_Bautismo SET Nuevo = 0");
-  open(
-      cCOperacion::EDITAR,
-      [](FormDriver& d) {
-        EXPECT_EQ(d.caption(), "Propiedades de partida de bautismo antigua. Folio:1 número:1");
-        EXPECT_FALSE(d.locked("txtLibro(1)"));
-        d.click("cmdBautismo(2)");
-        EXPECT_TRUE(d.locked("txtLibro(1)"));
-        accept(d);
-      },
-      id);
-  EXPECT_EQ(w.count("bautismo WHERE Anulada=true"), 1);
-  open(
-      cCOperacion::EDITAR,
-      [](FormDriver& d) {
-        EXPECT_TRUE(d.visible("lblPartidaAnulada"));
-        EXPECT_EQ(d.text("cmdBautismo(2)"), "&Validar");
-        d.click("cmdBautismo(2)");
-        d.type("txtLibro(1)", "7");
-        accept(d);
-      },
-      id);
-  EXPECT_EQ(w.count("bautismo WHERE Anulada=false AND Folio=7"), 1);
-  EXPECT_SCRIPT_DONE(w.user);
 }
 
 TEST_F(EditedBaptism, StoredTextThatNoFieldCanShow_SurvivesAnEdit) {

@@ -21,24 +21,6 @@ class BaptismRequest : public BaptismWorld {
   }
 };
 
-TEST_F(BaptismRequest, New_IsStoredOutsideAnyBook) {
-  enter("Luis");
-  EXPECT_EQ(w.count("bautismo WHERE codlibro=0 AND folio=0 AND numero=\"---\""), 1);
-  EXPECT_EQ(w.value("SELECT InstitucionSolicitud FROM bautismo"), std::to_string(parish));
-  EXPECT_EQ(w.value("SELECT FechaMatr FROM bautismo_matrimonio"), "---");
-  EXPECT_SCRIPT_DONE(w.user);
-}
-
-TEST_F(BaptismRequest, WithoutInstitution_IsRefusedInItsOwnWords) {
-  open(cCOperacion::ANADIRSOLICITUD, [&](FormDriver& d) {
-    w.user.expectMessage(
-        "¡Antes de introducir datos en la solicitud, tiene que elegir una Institución!");
-    d.tab("mstBautismo", 1);
-    cancel(d);
-  });
-  EXPECT_SCRIPT_DONE(w.user);
-}
-
 TEST_F(BaptismRequest, Edited_KeepsItsInstitutionUntilAnotherIsChosen) {
   enter("Luis");
   const std::int32_t id = std::stoi(w.value("SELECT IDBautismo FROM bautismo"));
@@ -72,22 +54,6 @@ TEST_F(BaptismRequest, Edited_KeepsItsInstitutionUntilAnotherIsChosen) {
   EXPECT_EQ(institution(), std::to_string(other));
   EXPECT_EQ(w.count("bautismo WHERE codlibro=0"), 1);
   EXPECT_SCRIPT_DONE(w.user);
-}
-
-TEST_F(BaptismRequest, InstitutionBeyondOneByte_IsReportedAndNothingWritten) {
-  w.con().Execute("INSERT INTO Institucion (IDInstitucion, Nombre) VALUES (300, \"Lejana\")");
-  w.user.answerAnything(Answer::Ok);
-  open(cCOperacion::ANADIRSOLICITUD, [&](FormDriver& d) {
-    d.choose("cboBautismo(22)", "Lejana");
-    typeChild(d, "Luis");
-    accept(d);
-    EXPECT_FALSE(d.closed());
-    cancel(d);
-  });
-  ASSERT_EQ(w.user.messages().size(), 1u);
-  EXPECT_THAT(w.user.messages()[0].text, ::testing::HasSubstr("255"));
-  EXPECT_EQ(w.count("bautismo"), 0);
-  EXPECT_EQ(w.count("bautismo_padres"), 0);
 }
 
 }  // namespace fidaleon::tests

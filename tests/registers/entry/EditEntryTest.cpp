@@ -1,0 +1,190 @@
+// Correcting an entry of any register, and its requests.
+
+#include "registers/entry/EntryWorld.h"
+
+namespace fidaleon::tests {
+
+class EditedEntry : public EntryWorld {
+ protected:
+  void rename(FormDriver& d, const std::string& to) {
+    tab(d, k.personTab);
+    d.type(name(), to);
+  }
+  std::string stored() { return w.value(std::string("SELECT Nombre FROM ") + k.person); }
+
+  std::int32_t libro = book("Libro 1");
+  std::int32_t id = entry("Luis", libro, 1, "1");
+};
+INSTANTIATE_TEST_SUITE_P(Registers, EditedEntry, EVERY_ENTRY, wordOf);
+
+TEST_P(EditedEntry, Correction_IsStoredAndThePositionIsNotForTheUser) {
+  open(
+      cCOperacion::EDITAR,
+      [&](FormDriver& d) {
+        EXPECT_EQ(d.caption(), k.editCaption + std::string("nueva") + k.position);
+        EXPECT_EQ(d.visible(button(2)), k.annulsEdit);
+        for (const std::string& fixed :
+             {std::string("txtLibro(1)"), list(k.institution), list(k.book)})
+          EXPECT_TRUE(d.locked(fixed)) << fixed;
+        EXPECT_EQ(d.text(list(k.book)), "Libro 1");
+        rename(d, "Luis María");
+        acceptEdit(d);
+        EXPECT_TRUE(d.closed());
+      },
+      id);
+  EXPECT_EQ(stored(), "Luis María");
+  EXPECT_EQ(entries(), 1);
+  EXPECT_SCRIPT_DONE(w.user);
+}
+
+TEST_P(EditedEntry, NothingChangedOrCancelled_WritesNothing) {
+  store::FailingEngine::wrap(w.con())->failAlwaysOn("UPDATE");
+  open(
+      cCOperacion::EDITAR, [&](FormDriver& d) { acceptEdit(d); }, id);
+  open(
+      cCOperacion::EDITAR,
+      [&](FormDriver& d) {
+        rename(d, "Otro");
+        cancel(d);
+      },
+      id);
+  EXPECT_EQ(stored(), "Luis");
+  EXPECT_SCRIPT_DONE(w.user);
+}
+
+TEST_P(EditedEntry, FailingUpdate_KeepsTheDialogOpen) {
+  store::FailingEngine::wrap(w.con())->failOn(std::string("UPDATE ") + k.lastRow,
+                                              store::ErrorKind::Busy);
+  w.user.answerAnything(Answer::Yes);
+  open(
+      cCOperacion::EDITAR,
+      [&](FormDriver& d) {
+        rename(d, "Otro");
+        accept(d);
+        EXPECT_FALSE(d.closed());
+        accept(d);
+        EXPECT_TRUE(d.closed());
+      },
+      id);
+  EXPECT_EQ(stored(), "Otro");
+}
+
+TEST_P(EditedEntry, FailingLoad_ShowsNothingThatCouldBeAccepted) {
+  store::FailingEngine::wrap(w.con())->failOn("SELECT * FROM " + std::string(k.lastRow));
+  w.user.answerAnything(Answer::Ok);
+  const auto dialog = dialogoDePartida(&k.s)(w.contexto);
+  dialog->conBaseDatos = &w.con();
+  dialog->lngID = id;
+  dialog->Operacion = cCOperacion::EDITAR;
+  dialog->Origen = cCOrigen::PRINCIPAL;
+  dialog->Show();
+  EXPECT_TRUE(dialog->isUnloaded());
+  ASSERT_FALSE(w.user.messages().empty());
+  EXPECT_THAT(w.user.messages()[0].text,
+              ::testing::HasSubstr("frmPartida" + word() + " / Form_Load"));
+}
+
+TEST_P(EditedEntry, RowOfItGone_MayBeReadButNotChanged) {
+  w.con().Execute(std::string("DELETE * FROM ") + k.lastRow);
+  w.user.answerAnything(Answer::Ok);
+  open(
+      cCOperacion::EDITAR,
+      [&](FormDriver& d) {
+        EXPECT_FALSE(d.enabled(button(0)));
+        cancel(d);
+      },
+      id);
+  EXPECT_EQ(w.user.messages().size(), 1u);
+}
+
+TEST_P(EditedEntry, Annulled_IsLockedAsItsRegisterSaysAndKeepsItsMark) {
+  w.con().Execute(std::string("UPDATE ") + k.s.tablaLibros + " SET Nuevo=0");
+  w.con().Execute(std::string("UPDATE ") + k.s.tablaPartidas + " SET Anulada=1");
+  open(
+      cCOperacion::EDITAR,
+      [&](FormDriver& d) {
+        EXPECT_EQ(d.caption(), k.editCaption + std::string("antigua") + k.position);
+        EXPECT_TRUE(d.visible("lblPartidaAnulada"));
+        EXPECT_TRUE(d.locked("txtLibro(1)"));
+        EXPECT_EQ(d.locked(name()), k.annulledIsLocked);
+        tab(d, k.notesTab);
+        d.type(text(k.notes), "Anulada por error de folio");
+        accept(d);
+      },
+      id);
+  EXPECT_EQ(entries("Anulada=true AND NotasMarginales=\"Anulada por error de folio\""), 1);
+  if (!k.annulsEdit) return;
+  open(
+      cCOperacion::EDITAR,
+      [&](FormDriver& d) {
+        d.click(button(2));
+        d.type("txtLibro(1)", "7");
+        accept(d);
+      },
+      id);
+  EXPECT_EQ(entries("Anulada=false AND Folio=7"), 1);
+  EXPECT_SCRIPT_DONE(w.user);
+}
+
+class RequestedEntry : public EntryWorld {
+ protected:
+  void enter(const std::string& who) {
+    open(cCOperacion::ANADIRSOLICITUD, [&](FormDriver& d) {
+      EXPECT_EQ(d.caption(), k.requestCaption);
+      for (const std::string& hidden :
+           {list(k.book), std::string("fraLibro"), std::string("cmdAltaLibro"), button(2)})
+        EXPECT_FALSE(d.visible(hidden)) << hidden;
+      d.choose(list(k.institution), "San Pedro");
+      typePerson(d, who);
+      acceptAfter(d, k.asksOther, "¿Desea dar de alta nuevas solicitudes?", Answer::No);
+    });
+  }
+};
+INSTANTIATE_TEST_SUITE_P(Registers, RequestedEntry,
+                         ::testing::Values(&BAPTISM_ENTRY, &CONFIRMATION_ENTRY), wordOf);
+
+TEST_P(RequestedEntry, New_IsStoredOutsideAnyBookAndCorrectedThere) {
+  enter("Luis");
+  EXPECT_EQ(entries("codlibro=0 AND folio=0 AND numero=\"---\""), 1);
+  EXPECT_EQ(value("InstitucionSolicitud"), std::to_string(parish));
+  open(
+      cCOperacion::EDITARSOLICITUD,
+      [&](FormDriver& d) {
+        EXPECT_EQ(d.text(list(k.institution)), "San Pedro");
+        EXPECT_EQ(d.locked(list(k.institution)), &k.s != &BAUTISMO);
+        tab(d, k.personTab);
+        d.type(name(), "Carlos");
+        accept(d);
+      },
+      std::stoi(value(k.s.clavePartida)));
+  EXPECT_EQ(w.value(std::string("SELECT Nombre FROM ") + k.person), "Carlos");
+  EXPECT_EQ(value("InstitucionSolicitud"), std::to_string(parish));
+  EXPECT_SCRIPT_DONE(w.user);
+}
+
+TEST_P(RequestedEntry, WithoutInstitution_IsRefusedInItsOwnWords) {
+  open(cCOperacion::ANADIRSOLICITUD, [&](FormDriver& d) {
+    w.user.expectMessage(
+        "¡Antes de introducir datos en la solicitud, tiene que elegir una Institución!");
+    tab(d, 1);
+    cancel(d);
+  });
+  EXPECT_SCRIPT_DONE(w.user);
+}
+
+TEST_P(RequestedEntry, InstitutionBeyondOneByte_IsReportedAndNothingWritten) {
+  w.con().Execute("INSERT INTO Institucion (IDInstitucion, Nombre) VALUES (300, \"Lejana\")");
+  w.user.answerAnything(Answer::Yes);
+  open(cCOperacion::ANADIRSOLICITUD, [&](FormDriver& d) {
+    d.choose(list(k.institution), "Lejana");
+    typePerson(d, "Luis");
+    accept(d);
+    EXPECT_FALSE(d.closed());
+    cancel(d);
+  });
+  EXPECT_THAT(w.user.messages().back().text, ::testing::HasSubstr("255"));
+  EXPECT_EQ(entries(), 0);
+  EXPECT_EQ(w.count("bautismo_padres"), 0);
+}
+
+}  // namespace fidaleon::tests

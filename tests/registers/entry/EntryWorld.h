@@ -1,0 +1,209 @@
+#pragma once
+// A parish with books of one register, and hands that fill its entry dialog. What holds of the
+// entries of all registers is proved once, for each EntryKind.
+
+#include <string>
+
+#include "registers/Rows.h"
+#include "registers/baptism/frmPartidaBautismo.h"
+#include "registers/confirmation/frmPartidaConfirmacion.h"
+#include "registers/entry/DialogoDePartida.h"
+#include "store/FailingEngine.h"
+#include "support/TestWorld.h"
+
+namespace fidaleon::tests {
+
+using FDAPI::cCOperacion;
+using FDAPI::cCOrigen;
+using forms::Answer;
+using forms::FormDriver;
+
+/// What a test has to know of a register's entry dialog.
+struct EntryKind {
+  const Sacramento& s;
+  int institution, book;  // lists
+  int personTab, name;    // the surnames follow
+  int placeTab, place;    // a text that says where
+  int day;                // date of the sacrament, on the same tab
+  int townTab, province;  // any town
+  int notesTab, notes, remarks;
+  const char* person;   // table with the name
+  const char* lastRow;  // table of the row that is inserted last
+  const char* newCaption;
+  const char* oldCaption;
+  const char* editCaption;
+  const char* requestCaption;
+  const char* position;              // the first one in a caption
+  const char* blanks;                // question
+  bool asksNew, asksOld, asksOther;  // about blank texts
+  bool series;                       // place and day stay for the next entry
+  bool annulsOld, annulsEdit;
+  bool annulledIsLocked;
+  bool onlyFirstMovesBook;      // the date of an old book
+  int commits;                  // of a new entry
+  void (*settle)(FormDriver&);  // makes today go where it cannot be
+};
+
+/// A birth and a wedding are not of today.
+inline void settleBaptism(FormDriver& d) {
+  if (d.text("adtpBautismo(1)") != "22/11/2026") return;
+  d.tab("mstBautismo", frmPartidaBautismo::TAB_BAUTIZADO);
+  d.type("adtpBautismo(0)", "01/11/2026");
+  d.tab("mstBautismo", frmPartidaBautismo::TAB_MATRIMONIO);
+  d.type("adtpBautismo(1)", "");
+}
+
+inline const EntryKind BAPTISM_ENTRY{
+    .s = BAUTISMO,
+    .institution = 22,
+    .book = 23,
+    .personTab = 1,
+    .name = 7,
+    .placeTab = 5,
+    .place = 31,
+    .day = 2,
+    .townTab = 1,
+    .province = 0,
+    .notesTab = 6,
+    .notes = 23,
+    .remarks = 24,
+    .person = "bautismo_hijo",
+    .lastRow = "bautismo_hijo",
+    .newCaption = "Agregar partida de bautismo nueva",
+    .oldCaption = "Agregar partida de bautismo antigua",
+    .editCaption = "Propiedades de partida de bautismo ",
+    .requestCaption = "Agregar solicitud de bautismo",
+    .position = ". Folio:1 número:1",
+    .blanks =
+        "Tiene campos sin rellenar. Estos campos se rellenarán con guiones. ¿Desea continuar?",
+    .asksNew = true,
+    .annulsOld = true,
+    .annulsEdit = true,
+    .commits = 3,
+    .settle = settleBaptism};
+
+inline const EntryKind CONFIRMATION_ENTRY{
+    .s = CONFIRMACION,
+    .institution = frmPartidaConfirmacion::Institucion,
+    .book = frmPartidaConfirmacion::Libro,
+    .personTab = frmPartidaConfirmacion::TAB_CONFIRMADO,
+    .name = frmPartidaConfirmacion::Nombre,
+    .placeTab = frmPartidaConfirmacion::TAB_CONFIRMACION,
+    .place = frmPartidaConfirmacion::Parroquia,
+    .day = frmPartidaConfirmacion::FechaConfirmacion,
+    .townTab = frmPartidaConfirmacion::TAB_PERSONALES,
+    .province = frmPartidaConfirmacion::ProvinciaNac,
+    .notesTab = frmPartidaConfirmacion::TAB_NOTAS,
+    .notes = frmPartidaConfirmacion::NotasMarginales,
+    .remarks = frmPartidaConfirmacion::Observaciones,
+    .person = "confirmacion",
+    .lastRow = "confirmacion_bautismo",
+    .newCaption = "Alta de partida de confirmación nueva",
+    .oldCaption = "Alta de partida de confirmación antigua",
+    .editCaption = "Propiedades de partida de confirmación ",
+    .requestCaption = "Nueva solicitud de confirmación",
+    .position = ". Folio:1, número:1",
+    .blanks =
+        "Tiene campos sin rellenar. Estos campos se rellenaran con guiones. ¿Desea continuar?",
+    .asksNew = true,
+    .asksOld = true,
+    .asksOther = true,
+    .series = true,
+    .annulsOld = true,
+    .annulledIsLocked = true,
+    .onlyFirstMovesBook = true,
+    .commits = 2};
+
+inline constexpr const char* FURTHER_ENTRY = "¿Desea dar de alta nuevas partidas?";
+
+/// What acceptance says of something that another desk has deleted.
+inline std::string deleted(const std::string& what) {
+  return "Ya no existe, porque se ha eliminado desde otro puesto:\n\n" + what +
+         "\n\nLo que ha escrito sigue aquí. Elija otro y acepte de nuevo.";
+}
+
+class EntryWorld : public ::testing::TestWithParam<const EntryKind*> {
+ protected:
+  std::string word() const { return k.s.palabra; }
+  std::string text(int i) const { return "txt" + word() + "(" + std::to_string(i) + ")"; }
+  std::string list(int i) const { return "cbo" + word() + "(" + std::to_string(i) + ")"; }
+  std::string date(int i) const { return "adtp" + word() + "(" + std::to_string(i) + ")"; }
+  std::string button(int i) const { return "cmd" + word() + "(" + std::to_string(i) + ")"; }
+  std::string name() const { return text(k.name); }
+
+  std::int32_t book(const std::string& title, bool isNew = true, int format = 3,
+                    const std::string& created = "19900101", bool closed = false) {
+    return insertBook(w, k.s, parish, {title, isNew, format, closed, created});
+  }
+  std::int32_t entry(const std::string& who, std::int32_t inBook, int folio,
+                     const std::string& number) {
+    return insertEntry(w, k.s, {who, inBook, folio, number, 0, {}});
+  }
+
+  /// Shows the dialog as the tree does; `act` works on it.
+  void open(cCOperacion operation, forms::ScriptedUser::Act act, std::int32_t id = 0) {
+    w.user.expectForm("frmPartida" + word(), std::move(act));
+    const auto dialog = dialogoDePartida(&k.s)(w.contexto);
+    dialog->conBaseDatos = &w.con();
+    dialog->lngID = id;
+    dialog->Operacion = operation;
+    const bool request =
+        operation == cCOperacion::ANADIRSOLICITUD || operation == cCOperacion::EDITARSOLICITUD;
+    if (!request) dialog->Origen = cCOrigen::PRINCIPAL;
+    dialog->Show();
+  }
+
+  void tab(FormDriver& d, int index) const { d.tab("mst" + word(), index); }
+  int tab(FormDriver& d) const { return d.get<forms::TabStrip>("mst" + word()).tab(); }
+  void chooseBook(FormDriver& d, const std::string& title) const {
+    d.choose(list(k.institution), "San Pedro");
+    d.choose(list(k.book), title);
+  }
+  void typePerson(FormDriver& d, const std::string& who, const std::string& first = "García",
+                  const std::string& second = "Pérez") const {
+    if (k.settle) k.settle(d);
+    tab(d, k.personTab);
+    d.type(text(k.name), who);
+    d.type(text(k.name + 1), first);
+    d.type(text(k.name + 2), second);
+  }
+  void accept(FormDriver& d) const { d.click(button(0)); }
+  void cancel(FormDriver& d) const { d.click(button(1)); }
+  void acceptNew(FormDriver& d, Answer further) {
+    acceptAfter(d, k.asksNew, FURTHER_ENTRY, further);
+  }
+  void acceptOld(FormDriver& d, Answer further) {
+    acceptAfter(d, k.asksOld, FURTHER_ENTRY, further);
+  }
+  void acceptAfter(FormDriver& d, bool blanks, const char* question, Answer further) {
+    if (blanks) w.user.expectMessage(k.blanks, Answer::Yes);
+    w.user.expectMessage(question, further);
+    accept(d);
+  }
+  void acceptEdit(FormDriver& d) {
+    if (k.asksOther) w.user.expectMessage(k.blanks, Answer::Yes);
+    accept(d);
+  }
+
+  std::int64_t entries(const std::string& condition = "") {
+    return w.count(k.s.tablaPartidas + (condition.empty() ? "" : " WHERE " + condition));
+  }
+  std::string value(const std::string& column) {
+    return w.value("SELECT " + column + " FROM " + k.s.tablaPartidas);
+  }
+  std::string bookValue(const std::string& column) {
+    return w.value("SELECT " + column + " FROM " + k.s.tablaLibros);
+  }
+
+  const EntryKind& k = *GetParam();
+  TestWorld w;
+  std::int32_t town = w.municipio("Alcalá de Henares", "Madrid");
+  std::int32_t parish = w.institucion("San Pedro", town);
+};
+
+inline const auto EVERY_ENTRY = ::testing::Values(&BAPTISM_ENTRY, &CONFIRMATION_ENTRY);
+inline std::string wordOf(const ::testing::TestParamInfo<const EntryKind*>& info) {
+  return info.param->s.palabra;
+}
+
+}  // namespace fidaleon::tests

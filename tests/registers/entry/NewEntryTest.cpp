@@ -1,0 +1,325 @@
+// New entries of any register through the dialog, from the tree.
+
+#include "registers/entry/EntryWorld.h"
+
+namespace fidaleon::tests {
+
+class NewEntry : public EntryWorld {};
+INSTANTIATE_TEST_SUITE_P(Registers, NewEntry, EVERY_ENTRY, wordOf);
+
+TEST_P(NewEntry, UsualOne_IsStoredAndFollowedByTheNext) {
+  book("Libro 1");
+  open(cCOperacion::ANADIR, [&](FormDriver& d) {
+    EXPECT_EQ(d.caption(), k.newCaption);
+    EXPECT_FALSE(d.visible(button(2)));
+    chooseBook(d, "Libro 1");
+    EXPECT_TRUE(d.locked("txtLibro(1)"));
+    typePerson(d, "Luis");
+    EXPECT_EQ(d.caption(), std::string(k.newCaption) + k.position);
+    EXPECT_EQ(d.text(date(k.day)), "22/11/2026");
+    tab(d, k.placeTab);
+    d.type(text(k.place), "San Juan");
+    d.type(date(k.day), "20/11/2026");
+    acceptNew(d, Answer::Yes);
+    EXPECT_EQ(d.text("txtLibro(1)"), "2");
+    EXPECT_EQ(d.text(name()), "");
+    EXPECT_EQ(d.text(text(k.place)), k.series ? "San Juan" : "");
+    EXPECT_EQ(d.text(date(k.day)), k.series ? "20/11/2026" : "22/11/2026");
+    EXPECT_EQ(tab(d), k.series ? k.personTab : 0);
+    EXPECT_EQ(d.focused() == name(), k.series);
+    cancel(d);
+  });
+  EXPECT_EQ(entries("Folio=1 AND Numero=\"1\" AND Parroquia=\"San Juan\""), 1);
+  EXPECT_EQ(entries(), 1);
+  EXPECT_EQ(w.contexto.leerAjuste("ultimos", "ultimos_Institucion"), "San Pedro");
+  EXPECT_SCRIPT_DONE(w.user);
+}
+
+TEST_P(NewEntry, RequiredFields_AreAskedForOneByOneAndBlanksAfterThem) {
+  book("Libro 1");
+  open(cCOperacion::ANADIR, [&](FormDriver& d) {
+    chooseBook(d, "Libro 1");
+    if (k.settle) k.settle(d);
+    w.user.expectMessage("Falta rellenar el campo «NOMBRE».");
+    accept(d);
+    EXPECT_EQ(d.focused(), name());
+    d.type(name(), "Luis");
+    w.user.expectMessage("Falta rellenar el campo «PRIMER APELLIDO».");
+    accept(d);
+    EXPECT_EQ(d.focused(), text(k.name + 1));
+    d.type(text(k.name + 1), "García");
+    w.user.expectMessage(k.blanks, Answer::No);
+    accept(d);
+    EXPECT_EQ(d.text(text(k.name + 2)), "");
+    cancel(d);
+  });
+  EXPECT_EQ(entries(), 0);
+  EXPECT_SCRIPT_DONE(w.user);
+}
+
+TEST_P(NewEntry, WithoutInstitutionOrBook_TabsAndAcceptanceAreRefused) {
+  book("Libro 1");
+  book("Cerrado", true, 3, "19900101", true);
+  open(cCOperacion::ANADIR, [&](FormDriver& d) {
+    w.user.expectMessage(
+        "¡Antes de introducir datos en la partida, tiene que elegir una Institución!");
+    tab(d, 1);
+    EXPECT_EQ(tab(d), 0);
+    EXPECT_EQ(d.focused(), list(k.institution));
+    d.choose(list(k.institution), "San Pedro");
+    EXPECT_EQ(d.get<forms::ComboBox>(list(k.book)).listCount(), 1);  // no closed book
+    w.user.expectMessage("¡Antes de introducir datos en la partida, tiene que elegir un libro!");
+    accept(d);
+    EXPECT_EQ(d.focused(), list(k.book));
+    cancel(d);
+  });
+  EXPECT_SCRIPT_DONE(w.user);
+}
+
+TEST_P(NewEntry, SamePersonAgain_AsksTheExistenceQuestion) {
+  book("Libro 1");
+  open(cCOperacion::ANADIR, [&](FormDriver& d) {
+    chooseBook(d, "Libro 1");
+    typePerson(d, "Luis");
+    acceptNew(d, Answer::Yes);
+    if (&k.s == &BAUTISMO)  // finds itself
+      w.user.expectForm("frmBuscaPadres", [](FormDriver& hits) { hits.click("cmdBoton(1)"); });
+    typePerson(d, "Luis");
+    w.user.expectMessage(k.blanks, Answer::Yes);
+    w.user.expectMessage(
+        "La partida de Luis García Pérez ya existe en el libro correspondiente, ¿Quiere "
+        "continuar?",
+        Answer::No);
+    accept(d);
+    EXPECT_FALSE(d.closed());
+    cancel(d);
+  });
+  EXPECT_EQ(entries(), 1);
+  EXPECT_SCRIPT_DONE(w.user);
+}
+
+TEST_P(NewEntry, PageLimitPassed_IsRefusedUntilComputedAnew) {
+  entry("Luis", book("Libro 1"), 1, "1");
+  w.contexto.guardarAjuste("documentos", "DOCUMENTOS_MAXPAGLIBRO", "1");
+  const char* limit = "¡Ha llegado al límite de folios establecidos para un libro!";
+  open(cCOperacion::ANADIR, [&](FormDriver& d) {
+    w.user.expectMessage(limit);
+    chooseBook(d, "Libro 1");
+    EXPECT_EQ(d.text("txtLibro(1)"), "2");
+    typePerson(d, "Eva", "Otro", "Más");
+    w.user.expectMessage(limit);
+    accept(d);
+    w.contexto.guardarAjuste("documentos", "DOCUMENTOS_MAXPAGLIBRO", "5");
+    tab(d, 0);
+    d.choose(list(k.book), "Libro 1");
+    acceptNew(d, Answer::No);
+  });
+  EXPECT_EQ(entries(), 2);
+  EXPECT_SCRIPT_DONE(w.user);
+}
+
+TEST_P(NewEntry, AnyText_IsKeptWithoutBreakingTheStatementOrTheField) {
+  book("Libro 1");
+  open(cCOperacion::ANADIR, [&](FormDriver& d) {
+    chooseBook(d, "Libro 1");
+    typePerson(d, "Jo\"sé");
+    d.paste(name(), "José \"Pepe\" 👶");
+    tab(d, k.placeTab);
+    d.paste(text(k.place), "Ermita \"La Luz\"\x01; DELETE * FROM bautismo");
+    tab(d, k.notesTab);
+    d.paste(text(k.remarks), "Línea 1\nΔοκιμή \"dos\"");
+    acceptNew(d, Answer::No);
+  });
+  EXPECT_EQ(w.value(std::string("SELECT Nombre FROM ") + k.person), "José Pepe 👶");
+  EXPECT_EQ(value("Parroquia"), "Ermita ''La Luz''; DELETE * FROM bautismo");
+  EXPECT_EQ(value("Observaciones"), "Línea 1\r\nΔοκιμή ''dos''");
+  EXPECT_SCRIPT_DONE(w.user);
+}
+
+TEST_P(NewEntry, WithoutAllItsRows_IsGoneOnWithWhenAcceptedAgain) {
+  book("Libro 1");
+  auto* faults = store::FailingEngine::wrap(w.con());
+  w.user.answerAnything(Answer::Yes);
+  open(cCOperacion::ANADIR, [&](FormDriver& d) {
+    chooseBook(d, "Libro 1");
+    typePerson(d, "Eva");
+    faults->failOn(std::string("INSERT INTO ") + k.lastRow, store::ErrorKind::DiskFull);
+    accept(d);
+    EXPECT_FALSE(d.closed());
+    EXPECT_EQ(d.text(name()), "Eva");
+    EXPECT_THAT(w.user.messages().back().text, ::testing::HasSubstr("AltaPartida" + word()));
+    EXPECT_EQ(entries(), 1);
+    d.type(name(), "Eva María");
+    accept(d);
+    cancel(d);
+  });
+  EXPECT_EQ(entries(), 1);
+  EXPECT_EQ(w.count(std::string(k.person) + " WHERE Nombre=\"Eva María\""), 1);
+  EXPECT_EQ(w.count(k.lastRow), 1);
+  EXPECT_EQ(w.user.hourglassDepth(), 0);
+}
+
+TEST_P(NewEntry, WithoutAllItsRows_IsTakenBackWhenTheDialogCloses) {
+  book("Libro 1");
+  auto* faults = store::FailingEngine::wrap(w.con());
+  w.user.answerAnything(Answer::Yes);
+  open(cCOperacion::ANADIR, [&](FormDriver& d) {
+    chooseBook(d, "Libro 1");
+    typePerson(d, "Eva");
+    faults->failOn(std::string("INSERT INTO ") + k.lastRow, store::ErrorKind::DiskFull);
+    accept(d);
+    EXPECT_EQ(entries(), 1);
+    EXPECT_FALSE(w.con().inTransaction());
+    cancel(d);
+  });
+  EXPECT_EQ(entries(), 0);
+  EXPECT_EQ(w.count("bautismo_padres"), 0);
+}
+
+TEST_P(NewEntry, StoreThatCannotCommit_KeepsNothingAndStoresOnceWhenTriedAgain) {
+  book("Libro 1");
+  w.user.answerAnything(Answer::Yes);
+  for (int step = 1; step <= k.commits; ++step) {
+    auto* faults = store::FailingEngine::wrap(w.con());
+    w.con().Execute(std::string("DELETE * FROM ") + k.s.tablaPartidas);
+    open(cCOperacion::ANADIR, [&](FormDriver& d) {
+      chooseBook(d, "Libro 1");
+      typePerson(d, "Eva");
+      faults->failOn("COMMIT", store::ErrorKind::DiskFull, step);
+      accept(d);
+      EXPECT_FALSE(d.closed());
+      EXPECT_EQ(entries(), 0) << step;
+      accept(d);
+      EXPECT_EQ(entries(), 1) << step;
+      cancel(d);
+    });
+    EXPECT_EQ(entries(), 1) << step;
+  }
+}
+
+TEST_P(NewEntry, BookAndTownDeletedMeanwhile_AreNamedAndOthersCanBeChosen) {
+  const std::int32_t first = book("Libro 1");
+  for (const char* other : {"Libro 2", "Libro 3"}) book(other);
+  const std::int32_t meco = w.municipio("Meco", "Madrid");
+  const std::string books = std::string("DELETE * FROM ") + k.s.tablaLibros + " WHERE ";
+  open(cCOperacion::ANADIR, [&](FormDriver& d) {
+    chooseBook(d, "Libro 1");
+    typePerson(d, "Luis");
+    tab(d, k.townTab);
+    d.choose(list(k.province), "Madrid");
+    d.choose(list(k.province + 1), "Meco");
+    w.con().Execute(books + k.s.claveLibro + "=" + std::to_string(first));
+    w.con().Execute("DELETE * FROM Municipio WHERE IDMunicipio=" + std::to_string(meco));
+    w.user.expectMessage(deleted("el libro «Libro 1»\nla población «Meco»"));
+    accept(d);
+    EXPECT_EQ(d.focused(), list(k.book));
+    d.choose(list(k.book), "Libro 2");
+    EXPECT_EQ(d.text("txtLibro(1)"), "1");
+    tab(d, k.townTab);
+    EXPECT_EQ(d.text(name()), "Luis");
+    EXPECT_EQ(d.text(list(k.province)), "Madrid");
+    EXPECT_EQ(d.text(list(k.province + 1)), "");
+    d.choose(list(k.province + 1), "Alcalá de Henares");
+    w.user.expectMessage(k.blanks, Answer::Yes,
+                         [&] { w.con().Execute(books + "Nombre=\"Libro 2\""); });
+    w.user.expectMessage(deleted("el libro «Libro 2»"));
+    accept(d);
+    d.choose(list(k.book), "Libro 3");
+    w.user.answerAnything(Answer::Yes);  // lists are blank still, or nothing is
+    accept(d);
+    cancel(d);
+  });
+  EXPECT_EQ(entries(), 1);
+  EXPECT_EQ(w.value(std::string("SELECT CodMunicipioNac FROM ") + k.person), std::to_string(town));
+}
+
+TEST_P(NewEntry, FailedProposal_IsToldOnceAndLeavesNoPositionThatCouldBeTaken) {
+  entry("Luis", book("Libro 1"), 1, "1");
+  auto* faults = store::FailingEngine::wrap(w.con());
+  w.user.answerAnything(Answer::Yes);
+  open(cCOperacion::ANADIR, [&](FormDriver& d) {
+    chooseBook(d, "Libro 1");
+    typePerson(d, "Eva", "Otro", "Más");
+    faults->failOn("SELECT folio,numero FROM " + text::lower(k.s.tablaPartidas));
+    accept(d);
+    EXPECT_EQ(w.user.messages().size(), 3u) << "two questions and one error";
+    EXPECT_EQ(d.text("txtLibro(1)"), "");
+    typePerson(d, "Ana", "Otra", "Más");
+    accept(d);
+    EXPECT_EQ(w.user.messages().back().text, "¡Debe introducir datos en el campo folio!");
+    cancel(d);
+  });
+  EXPECT_EQ(entries(), 2);
+}
+
+TEST_P(NewEntry, BookAndTownAddedFromInside_CanBeChosenAtOnce) {
+  book("Libro 1", false);
+  open(cCOperacion::ANTIGUA, [&](FormDriver& d) {
+    d.choose(list(k.institution), "San Pedro");
+    w.user.expectForm("frmAltaLibro" + word(), [](FormDriver& alta) {
+      alta.click("optAntiguo");
+      alta.choose("cboTipoNombre", "Abierto");
+      alta.type("txtNombreLibro", "Libro viejo ");
+      alta.choose("cboFormato", "Una partida por folio");
+      alta.type("adtpAltaLibro", "01/01/1900");
+      alta.click("cmdBoton(0)");
+    });
+    d.click("cmdAltaLibro");
+    EXPECT_EQ(d.text(list(k.book)), "Libro viejo");
+    EXPECT_FALSE(
+        w.isFree(k.s.tablaLibros, std::stoi(bookValue(std::string("MAX(") + k.s.claveLibro + ")"))))
+        << "nobody deletes the book under the entry";
+    EXPECT_EQ(d.text("txtLibro(1)"), "1");
+    tab(d, k.townTab);
+    d.choose(list(k.province), "Madrid");
+    d.choose(list(k.province + 1), "Alcalá de Henares");
+    w.user.expectForm("frmMunicipio", [](FormDriver& municipio) {
+      municipio.type("txtNombre", "Meco");
+      municipio.choose("cboProvincia", "Madrid");
+      municipio.click("cmdBoton(0)");
+    });
+    d.click("cmdAltaPoblacion");
+    EXPECT_EQ(d.text(list(k.province + 1)), "Alcalá de Henares");
+    d.choose(list(k.province + 1), "Meco");
+    w.user.expectForm("frmProvincia", [](FormDriver& provincia) { provincia.escape(); });
+    d.click("cmdAltaProvincia");
+    EXPECT_EQ(d.text(list(k.province + 1)), "Meco");
+    tab(d, 0);
+    w.user.expectForm("frmInstitucion", [](FormDriver& institucion) { institucion.escape(); });
+    d.click("cmdAltaInstitucion");
+    EXPECT_EQ(d.text(list(k.institution)), "San Pedro");
+    EXPECT_EQ(d.text(list(k.book)), "Libro viejo");
+    cancel(d);
+  });
+  EXPECT_SCRIPT_DONE(w.user);
+}
+
+TEST_P(NewEntry, MarginalNotes_WarnOnceUntilTheyBecomeShorter) {
+  book("Libro 1", false);
+  const char* warning =
+      "El campo de notas marginales ha sobrepasado el límite máximo \n"
+      "establecido para los documentos. Si continúa \n"
+      "introduciendo datos puede ser que algunos de los informes se impriman en varias hojas.";
+  std::string lines;
+  for (int i = 0; i < 42; ++i) lines += "línea\r\n";
+  open(cCOperacion::ANTIGUA, [&](FormDriver& d) {
+    chooseBook(d, "Libro 1");
+    tab(d, k.notesTab);
+    const std::string notes = text(k.notes);
+    d.paste(notes, lines.substr(0, lines.size() - 2));  // 42 lines are the limit
+    w.user.expectMessage(warning);
+    d.paste(notes, lines + "más");
+    d.paste(notes, lines + "más y más");
+    d.paste(notes, lines);  // shorter: the last line is empty, and counts
+    w.user.expectMessage(warning);
+    w.user.printer = false;
+    d.paste(notes, "corto");
+    d.paste(notes, lines + "sin impresora");
+    w.user.printer = true;
+    d.paste(notes, lines + "con impresora");
+    cancel(d);
+  });
+  EXPECT_EQ(w.user.messages().size(), 3u);
+}
+
+}  // namespace fidaleon::tests

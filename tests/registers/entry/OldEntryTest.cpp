@@ -1,0 +1,182 @@
+// Entries copied into the old books of any register.
+
+#include "registers/entry/EntryWorld.h"
+
+namespace fidaleon::tests {
+
+class OldEntry : public EntryWorld {};
+INSTANTIATE_TEST_SUITE_P(Registers, OldEntry, EVERY_ENTRY, wordOf);
+
+TEST_P(OldEntry, TypedPosition_IsCheckedOnLeavingTheFirstTab) {
+  const std::int32_t old = book("Antiguo", false, 2);
+  entry("A", old, 1, "1");
+  entry("B", old, 1, "2");
+  entry("C", old, 2, "12");
+  open(cCOperacion::ANTIGUA, [&](FormDriver& d) {
+    chooseBook(d, "Antiguo");
+    EXPECT_FALSE(d.locked("txtLibro(1)"));
+    d.type("txtLibro(1)", "1");
+    w.user.expectMessage(
+        "¡No puede introducir ninguna partida en el folio 1 porque ya hay 2 partidas en él!");
+    tab(d, 1);
+    EXPECT_EQ(d.focused(), "txtLibro(1)");
+    d.type("txtLibro(1)", "2");
+    d.type("txtLibro(2)", "12");
+    const char* taken =
+        "La partida que va a introducir coincide con otra. El número se reemplazará por el 12a "
+        "¿Desea continuar?";
+    w.user.expectMessage(taken, Answer::No);
+    tab(d, 1);
+    EXPECT_EQ(tab(d), 0);
+    w.user.expectMessage(taken, Answer::Yes);
+    tab(d, 1);
+    EXPECT_EQ(d.text("txtLibro(2)"), "12a");
+    typePerson(d, "Eva", "Otro", "Más");
+    acceptOld(d, Answer::No);
+  });
+  EXPECT_EQ(entries("Folio=2 AND Numero=\"12a\""), 1);
+  EXPECT_SCRIPT_DONE(w.user);
+}
+
+TEST_P(OldEntry, NumberThatStandsInTheBook_IsSaidUnderTheFieldAndTakenAllTheSame) {
+  const std::int32_t old = book("Antiguo", false, 2);
+  for (const char* number : {"9", "10"}) entry(std::string("N") + number, old, 1, number);
+  const auto line = [](FormDriver& d) {
+    return d.visible("lblNumeroRepetido") ? d.text("lblNumeroRepetido") : "";
+  };
+  open(cCOperacion::ANTIGUA, [&](FormDriver& d) {
+    chooseBook(d, "Antiguo");
+    d.type("txtLibro(1)", "2");
+    d.type("txtLibro(2)", "11");
+    EXPECT_EQ(line(d), "");
+    d.type("txtLibro(2)", "9");
+    EXPECT_EQ(line(d), "El 9 ya está en el folio 1");
+    typePerson(d, "Eva", "Otro", "Más");
+    acceptOld(d, Answer::No);
+  });
+  const std::int32_t id = std::stoi(w.value(std::string("SELECT ") + k.s.clavePartida + " FROM " +
+                                            k.s.tablaPartidas + " WHERE Folio=2"));
+  open(
+      cCOperacion::EDITAR,
+      [&](FormDriver& d) {
+        EXPECT_EQ(line(d), "El 9 ya está en el folio 1") << "not in its own place";
+        cancel(d);
+      },
+      id);
+  EXPECT_SCRIPT_DONE(w.user);
+}
+
+TEST_P(OldEntry, NumberOfAnotherForm_IsRefusedWhenTypedAndKeptWhenStored) {
+  const std::int32_t id = entry("A", book("Antiguo", false), 1, "12 bis");
+  open(cCOperacion::ANTIGUA, [&](FormDriver& d) {
+    chooseBook(d, "Antiguo");
+    d.type("txtLibro(2)", "12 bis");
+    EXPECT_EQ(d.text("txtLibro(2)"), "12b");
+    EXPECT_EQ(w.user.beeps(), 3);
+    d.paste("txtLibro(2)", "12 bis");
+    EXPECT_EQ(d.text("txtLibro(2)"), "12b");
+    cancel(d);
+  });
+  open(
+      cCOperacion::EDITAR,
+      [&](FormDriver& d) {
+        EXPECT_EQ(d.text("txtLibro(2)"), "12 bis");
+        tab(d, k.personTab);
+        d.type(name(), "B");
+        acceptEdit(d);
+      },
+      id);
+  EXPECT_EQ(value("Numero"), "12 bis");
+  EXPECT_EQ(w.count(std::string(k.person) + " WHERE Nombre=\"B\""), 1);
+  EXPECT_SCRIPT_DONE(w.user);
+}
+
+TEST_P(OldEntry, LaterDate_MovesTheBookForwardByTheRuleOfItsRegister) {
+  book("Antiguo", false, 3, "19500101");
+  const auto enter = [&](const char* folio, const char* day) {
+    open(cCOperacion::ANTIGUA, [&](FormDriver& d) {
+      chooseBook(d, "Antiguo");
+      for (const char* field : {"txtLibro(1)", "txtLibro(2)"}) d.type(field, folio);
+      typePerson(d, std::string("F") + folio, "Otro", folio);
+      tab(d, k.placeTab);
+      d.type(date(k.day), day);
+      acceptOld(d, Answer::No);
+    });
+  };
+  enter("1", "5/7/1961");
+  EXPECT_EQ(bookValue("FechaCreacion"), "19610705");
+  enter("2", "5/7/1970");
+  EXPECT_EQ(bookValue("FechaCreacion"), k.onlyFirstMovesBook ? "19610705" : "19700705");
+  enter("3", "5/7/1930");
+  EXPECT_EQ(bookValue("FechaCreacion"), k.onlyFirstMovesBook ? "19610705" : "19700705");
+  EXPECT_EQ(bookValue("FolioSiguiente"), "4");
+  EXPECT_SCRIPT_DONE(w.user);
+}
+
+TEST_P(OldEntry, AnnulledBeforeItIsStored_IsStoredSo) {
+  book("Antiguo", false);
+  open(cCOperacion::ANTIGUA, [&](FormDriver& d) {
+    chooseBook(d, "Antiguo");
+    typePerson(d, "Eva");
+    EXPECT_EQ(d.visible(button(2)), k.annulsOld);
+    if (!k.annulsOld) return cancel(d);
+    if (k.annulledIsLocked) w.user.expectMessage(k.blanks, Answer::Yes);
+    d.click(button(2));
+    EXPECT_EQ(d.text(button(2)), "&Validar");
+    EXPECT_TRUE(d.visible("lblPartidaAnulada"));
+    EXPECT_EQ(d.locked(name()), k.annulledIsLocked);
+    EXPECT_EQ(d.enabled("cmdAltaPoblacion"), !k.annulledIsLocked);
+    EXPECT_FALSE(d.locked(text(k.notes)));
+    w.user.expectMessage(FURTHER_ENTRY, Answer::Yes);
+    accept(d);
+    EXPECT_FALSE(d.locked(name())) << "the next one is valid";
+    cancel(d);
+  });
+  EXPECT_EQ(entries("Anulada=true"), k.annulsOld ? 1 : 0);
+  EXPECT_SCRIPT_DONE(w.user);
+}
+
+TEST_P(OldEntry, EmptyPosition_IsAskedForUnlessThereIsNoBook) {
+  book("Antiguo", false);
+  const char* empty = "¡Debe introducir datos en el campo folio!";
+  open(cCOperacion::ANTIGUA, [&](FormDriver& d) {
+    d.choose(list(k.institution), "San Pedro");
+    d.focus("txtLibro(1)");
+    w.user.expectMessage(empty);
+    d.focus(list(k.book));
+    EXPECT_EQ(d.focused(), list(k.book));
+    d.choose(list(k.book), "Antiguo");
+    EXPECT_EQ(d.caption(), std::string(k.oldCaption) + k.position);
+    d.type("txtLibro(1)", "");
+    w.user.expectMessage(empty);
+    d.focus("txtLibro(2)");
+    EXPECT_EQ(d.focused(), "txtLibro(1)");
+    cancel(d);
+  });
+  EXPECT_SCRIPT_DONE(w.user);
+}
+
+TEST_P(OldEntry, JumpToTheNextHole_IsTold) {
+  const std::int32_t old = book("Antiguo", false);
+  entry("A", old, 1, "1");
+  entry("B", old, 3, "3");
+  w.con().Execute(std::string("UPDATE ") + k.s.tablaLibros +
+                  " SET FolioSiguiente=2, NumeroSiguiente=\"2\"");
+  open(cCOperacion::ANTIGUA, [&](FormDriver& d) {
+    chooseBook(d, "Antiguo");
+    EXPECT_EQ(d.text("txtLibro(1)"), "2");
+    typePerson(d, "Eva", "Otro", "Más");
+    if (k.asksOld) w.user.expectMessage(k.blanks, Answer::Yes);
+    w.user.expectMessage(FURTHER_ENTRY, Answer::Yes);
+    w.user.expectMessage(
+        "¡Se ha producido un salto, la siguiente partida a introducir es \n"
+        "la correspondiente al folio 4, número 4!");
+    accept(d);
+    EXPECT_EQ(d.text("txtLibro(1)"), "4");
+    cancel(d);
+  });
+  EXPECT_EQ(bookValue("FechaCreacion"), "19900101");
+  EXPECT_SCRIPT_DONE(w.user);
+}
+
+}  // namespace fidaleon::tests
