@@ -136,11 +136,11 @@ TEST_P(NewEntry, AnyText_IsKeptWithoutBreakingTheStatementOrTheField) {
   EXPECT_SCRIPT_DONE(w.user);
 }
 
-TEST_P(NewEntry, WithoutAllItsRows_IsGoneOnWithWhenAcceptedAgain) {
+TEST_P(NewEntry, WithoutAllItsRows_IsTakenBackWhenTheDialogClosesOrGoneOnWith) {
   book("Libro 1");
   auto* faults = store::FailingEngine::wrap(w.con());
   w.user.answerAnything(Answer::Yes);
-  open(cCOperacion::ANADIR, [&](FormDriver& d) {
+  const auto fail = [&](FormDriver& d) {
     chooseBook(d, "Libro 1");
     typePerson(d, "Eva");
     faults->failOn(std::string("INSERT INTO ") + k.lastRow, store::ErrorKind::DiskFull);
@@ -149,6 +149,16 @@ TEST_P(NewEntry, WithoutAllItsRows_IsGoneOnWithWhenAcceptedAgain) {
     EXPECT_EQ(d.text(name()), "Eva");
     EXPECT_THAT(w.user.messages().back().text, ::testing::HasSubstr("AltaPartida" + word()));
     EXPECT_EQ(entries(), 1);
+    EXPECT_FALSE(w.con().inTransaction());
+  };
+  open(cCOperacion::ANADIR, [&](FormDriver& d) {
+    fail(d);
+    cancel(d);
+  });
+  EXPECT_EQ(entries(), 0);
+  EXPECT_EQ(w.count("bautismo_padres"), 0);
+  open(cCOperacion::ANADIR, [&](FormDriver& d) {
+    fail(d);
     d.type(name(), "Eva María");
     accept(d);
     cancel(d);
@@ -157,23 +167,6 @@ TEST_P(NewEntry, WithoutAllItsRows_IsGoneOnWithWhenAcceptedAgain) {
   EXPECT_EQ(w.count(std::string(k.person) + " WHERE Nombre=\"Eva María\""), 1);
   EXPECT_EQ(w.count(k.lastRow), 1);
   EXPECT_EQ(w.user.hourglassDepth(), 0);
-}
-
-TEST_P(NewEntry, WithoutAllItsRows_IsTakenBackWhenTheDialogCloses) {
-  book("Libro 1");
-  auto* faults = store::FailingEngine::wrap(w.con());
-  w.user.answerAnything(Answer::Yes);
-  open(cCOperacion::ANADIR, [&](FormDriver& d) {
-    chooseBook(d, "Libro 1");
-    typePerson(d, "Eva");
-    faults->failOn(std::string("INSERT INTO ") + k.lastRow, store::ErrorKind::DiskFull);
-    accept(d);
-    EXPECT_EQ(entries(), 1);
-    EXPECT_FALSE(w.con().inTransaction());
-    cancel(d);
-  });
-  EXPECT_EQ(entries(), 0);
-  EXPECT_EQ(w.count("bautismo_padres"), 0);
 }
 
 TEST_P(NewEntry, StoreThatCannotCommit_KeepsNothingAndStoresOnceWhenTriedAgain) {

@@ -7,62 +7,36 @@ namespace fidaleon::tests {
 class OldEntry : public EntryWorld {};
 INSTANTIATE_TEST_SUITE_P(Registers, OldEntry, EVERY_ENTRY, wordOf);
 
-TEST_P(OldEntry, TypedPosition_IsCheckedOnLeavingTheFirstTab) {
-  const std::int32_t old = book("Antiguo", false, 2);
+TEST_P(OldEntry, TypedPosition_IsCheckedOnLeavingTheFirstTabAndTheJumpBehindItTold) {
+  const std::int32_t old = book("Antiguo", false);
   entry("A", old, 1, "1");
-  entry("B", old, 1, "2");
-  entry("C", old, 2, "12");
+  entry("B", old, 3, "3");
+  w.con().Execute(std::string("UPDATE ") + k.s.tablaLibros +
+                  " SET FolioSiguiente=2, NumeroSiguiente=\"2\"");
   open(cCOperacion::ANTIGUA, [&](FormDriver& d) {
     chooseBook(d, "Antiguo");
     EXPECT_FALSE(d.locked("txtLibro(1)"));
     d.type("txtLibro(1)", "1");
     w.user.expectMessage(
-        "¡No puede introducir ninguna partida en el folio 1 porque ya hay 2 partidas en él!");
-    tab(d, 1);
-    EXPECT_EQ(d.focused(), "txtLibro(1)");
-    d.type("txtLibro(1)", "2");
-    d.type("txtLibro(2)", "12");
-    const char* taken =
-        "La partida que va a introducir coincide con otra. El número se reemplazará por el 12a "
-        "¿Desea continuar?";
-    w.user.expectMessage(taken, Answer::No);
+        "¡No puede introducir ninguna partida en el folio 1 porque ya tiene una partida!");
     tab(d, 1);
     EXPECT_EQ(tab(d), 0);
-    w.user.expectMessage(taken, Answer::Yes);
-    tab(d, 1);
-    EXPECT_EQ(d.text("txtLibro(2)"), "12a");
-    typePerson(d, "Eva", "Otro", "Más");
-    acceptOld(d, Answer::No);
-  });
-  EXPECT_EQ(entries("Folio=2 AND Numero=\"12a\""), 1);
-  EXPECT_SCRIPT_DONE(w.user);
-}
-
-TEST_P(OldEntry, NumberThatStandsInTheBook_IsSaidUnderTheFieldAndTakenAllTheSame) {
-  const std::int32_t old = book("Antiguo", false, 2);
-  for (const char* number : {"9", "10"}) entry(std::string("N") + number, old, 1, number);
-  const auto line = [](FormDriver& d) {
-    return d.visible("lblNumeroRepetido") ? d.text("lblNumeroRepetido") : "";
-  };
-  open(cCOperacion::ANTIGUA, [&](FormDriver& d) {
-    chooseBook(d, "Antiguo");
+    EXPECT_EQ(d.focused(), "txtLibro(1)");
     d.type("txtLibro(1)", "2");
-    d.type("txtLibro(2)", "11");
-    EXPECT_EQ(line(d), "");
-    d.type("txtLibro(2)", "9");
-    EXPECT_EQ(line(d), "El 9 ya está en el folio 1");
+    d.type("txtLibro(2)", "3");
+    EXPECT_EQ(d.text("lblNumeroRepetido"), "El 3 ya está en el folio 3");
+    d.type("txtLibro(2)", "2");
+    EXPECT_FALSE(d.visible("lblNumeroRepetido"));
     typePerson(d, "Eva", "Otro", "Más");
-    acceptOld(d, Answer::No);
+    if (k.asksOld) w.user.expectMessage(k.blanks, Answer::Yes);
+    w.user.expectMessage(FURTHER_ENTRY, Answer::Yes);
+    w.user.expectMessage(
+        "¡Se ha producido un salto, la siguiente partida a introducir es \n"
+        "la correspondiente al folio 4, número 4!");
+    accept(d);
+    EXPECT_EQ(d.text("txtLibro(1)"), "4");
+    cancel(d);
   });
-  const std::int32_t id = std::stoi(w.value(std::string("SELECT ") + k.s.clavePartida + " FROM " +
-                                            k.s.tablaPartidas + " WHERE Folio=2"));
-  open(
-      cCOperacion::EDITAR,
-      [&](FormDriver& d) {
-        EXPECT_EQ(line(d), "El 9 ya está en el folio 1") << "not in its own place";
-        cancel(d);
-      },
-      id);
   EXPECT_SCRIPT_DONE(w.user);
 }
 
@@ -153,29 +127,6 @@ TEST_P(OldEntry, EmptyPosition_IsAskedForUnlessThereIsNoBook) {
     EXPECT_EQ(d.focused(), "txtLibro(1)");
     cancel(d);
   });
-  EXPECT_SCRIPT_DONE(w.user);
-}
-
-TEST_P(OldEntry, JumpToTheNextHole_IsTold) {
-  const std::int32_t old = book("Antiguo", false);
-  entry("A", old, 1, "1");
-  entry("B", old, 3, "3");
-  w.con().Execute(std::string("UPDATE ") + k.s.tablaLibros +
-                  " SET FolioSiguiente=2, NumeroSiguiente=\"2\"");
-  open(cCOperacion::ANTIGUA, [&](FormDriver& d) {
-    chooseBook(d, "Antiguo");
-    EXPECT_EQ(d.text("txtLibro(1)"), "2");
-    typePerson(d, "Eva", "Otro", "Más");
-    if (k.asksOld) w.user.expectMessage(k.blanks, Answer::Yes);
-    w.user.expectMessage(FURTHER_ENTRY, Answer::Yes);
-    w.user.expectMessage(
-        "¡Se ha producido un salto, la siguiente partida a introducir es \n"
-        "la correspondiente al folio 4, número 4!");
-    accept(d);
-    EXPECT_EQ(d.text("txtLibro(1)"), "4");
-    cancel(d);
-  });
-  EXPECT_EQ(bookValue("FechaCreacion"), "19900101");
   EXPECT_SCRIPT_DONE(w.user);
 }
 
