@@ -108,11 +108,13 @@ TEST_P(EditedEntry, Annulled_IsLockedAsItsRegisterSaysAndKeepsItsMark) {
         EXPECT_TRUE(d.locked("txtLibro(1)"));
         EXPECT_EQ(d.locked(name()), k.annulledIsLocked);
         tab(d, k.notesTab);
-        d.type(text(k.notes), "Anulada por error de folio");
+        EXPECT_EQ(d.locked(text(k.notes)), !k.notesStayOpen);
+        if (k.notesStayOpen) d.type(text(k.notes), "Por error de folio");
         accept(d);
       },
       id);
-  EXPECT_EQ(entries("Anulada=true AND NotasMarginales=\"Anulada por error de folio\""), 1);
+  EXPECT_EQ(entries("Anulada=true"), 1);
+  EXPECT_EQ(entries("NotasMarginales=\"Por error de folio\""), k.notesStayOpen ? 1 : 0);
   if (!k.annulsEdit) return;
   open(
       cCOperacion::EDITAR,

@@ -2,11 +2,13 @@
 // A parish with books of one register, and hands that fill its entry dialog. What holds of the
 // entries of all registers is proved once, for each EntryKind.
 
+#include <array>
 #include <string>
 
 #include "registers/Rows.h"
 #include "registers/baptism/frmPartidaBautismo.h"
 #include "registers/confirmation/frmPartidaConfirmacion.h"
+#include "registers/death/frmPartidaDefuncion.h"
 #include "registers/entry/DialogoDePartida.h"
 #include "store/FailingEngine.h"
 #include "support/TestWorld.h"
@@ -24,8 +26,9 @@ struct EntryKind {
   int institution, book;  // lists
   int personTab, name;    // the surnames follow
   int placeTab, place;    // a text that says where
-  int day;                // date of the sacrament, on the same tab
-  int townTab, province;  // any town
+  int dayTab, day;        // date of the sacrament
+  int townTab, province;  // of birth
+  const char* townColumn;
   int notesTab, notes, remarks;
   const char* person;   // table with the name
   const char* lastRow;  // table of the row that is inserted last
@@ -36,10 +39,14 @@ struct EntryKind {
   const char* position;              // the first one in a caption
   const char* blanks;                // question
   bool asksNew, asksOld, asksOther;  // about blank texts
-  bool series;                       // place and day stay for the next entry
   bool annulsOld, annulsEdit;
   bool annulledIsLocked;
-  bool onlyFirstMovesBook;      // the date of an old book
+  bool notesStayOpen;  // of an annulled entry
+  bool asksOnce;
+  const char* nextPlace;  // what stands there for the next entry
+  /// The date of an old book of 1950 after its first entry, of 1961, its second, of 1970, and its
+  /// third, of 1930.
+  std::array<const char*, 3> bookDates;
   int commits;                  // of a new entry
   void (*settle)(FormDriver&);  // makes today go where it cannot be
 };
@@ -61,9 +68,11 @@ inline const EntryKind BAPTISM_ENTRY{
     .name = 7,
     .placeTab = 5,
     .place = 31,
+    .dayTab = 5,
     .day = 2,
     .townTab = 1,
     .province = 0,
+    .townColumn = "CodMunicipioNac",
     .notesTab = 6,
     .notes = 23,
     .remarks = 24,
@@ -79,6 +88,9 @@ inline const EntryKind BAPTISM_ENTRY{
     .asksNew = true,
     .annulsOld = true,
     .annulsEdit = true,
+    .notesStayOpen = true,
+    .nextPlace = "",
+    .bookDates = {"19610705", "19700705", "19700705"},
     .commits = 3,
     .settle = settleBaptism};
 
@@ -90,9 +102,11 @@ inline const EntryKind CONFIRMATION_ENTRY{
     .name = frmPartidaConfirmacion::Nombre,
     .placeTab = frmPartidaConfirmacion::TAB_CONFIRMACION,
     .place = frmPartidaConfirmacion::Parroquia,
+    .dayTab = frmPartidaConfirmacion::TAB_CONFIRMACION,
     .day = frmPartidaConfirmacion::FechaConfirmacion,
     .townTab = frmPartidaConfirmacion::TAB_PERSONALES,
     .province = frmPartidaConfirmacion::ProvinciaNac,
+    .townColumn = "CodMunicipioNac",
     .notesTab = frmPartidaConfirmacion::TAB_NOTAS,
     .notes = frmPartidaConfirmacion::NotasMarginales,
     .remarks = frmPartidaConfirmacion::Observaciones,
@@ -108,11 +122,53 @@ inline const EntryKind CONFIRMATION_ENTRY{
     .asksNew = true,
     .asksOld = true,
     .asksOther = true,
-    .series = true,
     .annulsOld = true,
     .annulledIsLocked = true,
-    .onlyFirstMovesBook = true,
+    .notesStayOpen = true,
+    .nextPlace = "San Juan",
+    .bookDates = {"19610705", "19610705", "19610705"},
     .commits = 2};
+
+/// A death is hardly ever of today.
+inline void settleDeath(FormDriver& d) {
+  if (d.text("adtpDefuncion(1)") != "22/11/2026") return;
+  d.tab("mstDefuncion", frmPartidaDefuncion::TAB_DIFUNTO);
+  d.type("adtpDefuncion(1)", "20/11/2026");
+}
+
+inline const EntryKind DEATH_ENTRY{.s = DEFUNCION,
+                                   .institution = frmPartidaDefuncion::Institucion,
+                                   .book = frmPartidaDefuncion::Libro,
+                                   .personTab = frmPartidaDefuncion::TAB_DIFUNTO,
+                                   .name = frmPartidaDefuncion::Nombre,
+                                   .placeTab = frmPartidaDefuncion::TAB_PARROQUIA,
+                                   .place = frmPartidaDefuncion::Parroquia,
+                                   .dayTab = frmPartidaDefuncion::TAB_DIFUNTO,
+                                   .day = frmPartidaDefuncion::FechaDefuncion,
+                                   .townTab = frmPartidaDefuncion::TAB_FAMILIA,
+                                   .province = frmPartidaDefuncion::ProvinciaNaturalDe,
+                                   .townColumn = "CodMunicipioNaturalDe",
+                                   .notesTab = frmPartidaDefuncion::TAB_NOTAS,
+                                   .notes = frmPartidaDefuncion::NotasMarginales,
+                                   .remarks = frmPartidaDefuncion::Observaciones,
+                                   .person = "defuncion",
+                                   .lastRow = "Defuncion_Datos",
+                                   .newCaption = "Alta de partida de defunción nueva",
+                                   .oldCaption = "Alta de partida de defunción antigua",
+                                   .editCaption = "Propiedades de partida de defunción ",
+                                   .requestCaption = "",
+                                   .position = ". Folio:1, número:1",
+                                   .blanks = CONFIRMATION_ENTRY.blanks,
+                                   .asksNew = true,
+                                   .asksOld = true,
+                                   .asksOther = true,
+                                   .annulsEdit = true,
+                                   .annulledIsLocked = true,
+                                   .asksOnce = true,
+                                   .nextPlace = "San Pedro",
+                                   .bookDates = {"19500101", "19500101", "19500101"},
+                                   .commits = 2,
+                                   .settle = settleDeath};
 
 inline constexpr const char* FURTHER_ENTRY = "¿Desea dar de alta nuevas partidas?";
 
@@ -167,6 +223,7 @@ class EntryWorld : public ::testing::TestWithParam<const EntryKind*> {
     d.type(text(k.name + 1), first);
     d.type(text(k.name + 2), second);
   }
+  bool series() const { return std::string(k.nextPlace) == "San Juan"; }
   void accept(FormDriver& d) const { d.click(button(0)); }
   void cancel(FormDriver& d) const { d.click(button(1)); }
   void acceptNew(FormDriver& d, Answer further) {
@@ -201,7 +258,8 @@ class EntryWorld : public ::testing::TestWithParam<const EntryKind*> {
   std::int32_t parish = w.institucion("San Pedro", town);
 };
 
-inline const auto EVERY_ENTRY = ::testing::Values(&BAPTISM_ENTRY, &CONFIRMATION_ENTRY);
+inline const auto EVERY_ENTRY =
+    ::testing::Values(&BAPTISM_ENTRY, &CONFIRMATION_ENTRY, &DEATH_ENTRY);
 inline std::string wordOf(const ::testing::TestParamInfo<const EntryKind*>& info) {
   return info.param->s.palabra;
 }

@@ -65,24 +65,23 @@ TEST_P(OldEntry, NumberOfAnotherForm_IsRefusedWhenTypedAndKeptWhenStored) {
   EXPECT_SCRIPT_DONE(w.user);
 }
 
-TEST_P(OldEntry, LaterDate_MovesTheBookForwardByTheRuleOfItsRegister) {
+TEST_P(OldEntry, Dates_MoveTheBookByTheRuleOfItsRegister) {
   book("Antiguo", false, 3, "19500101");
-  const auto enter = [&](const char* folio, const char* day) {
+  const auto enter = [&](const std::string& folio, const char* day) {
     open(cCOperacion::ANTIGUA, [&](FormDriver& d) {
       chooseBook(d, "Antiguo");
       for (const char* field : {"txtLibro(1)", "txtLibro(2)"}) d.type(field, folio);
-      typePerson(d, std::string("F") + folio, "Otro", folio);
-      tab(d, k.placeTab);
+      typePerson(d, "F" + folio, "Otro", folio);
+      tab(d, k.dayTab);
       d.type(date(k.day), day);
       acceptOld(d, Answer::No);
     });
   };
-  enter("1", "5/7/1961");
-  EXPECT_EQ(bookValue("FechaCreacion"), "19610705");
-  enter("2", "5/7/1970");
-  EXPECT_EQ(bookValue("FechaCreacion"), k.onlyFirstMovesBook ? "19610705" : "19700705");
-  enter("3", "5/7/1930");
-  EXPECT_EQ(bookValue("FechaCreacion"), k.onlyFirstMovesBook ? "19610705" : "19700705");
+  int row = 0;
+  for (const char* day : {"5/7/1961", "5/7/1970", "5/7/1930"}) {
+    enter(std::to_string(row + 1), day);
+    EXPECT_EQ(bookValue("FechaCreacion"), k.bookDates[row++]) << day;
+  }
   EXPECT_EQ(bookValue("FolioSiguiente"), "4");
   EXPECT_SCRIPT_DONE(w.user);
 }
@@ -100,7 +99,7 @@ TEST_P(OldEntry, AnnulledBeforeItIsStored_IsStoredSo) {
     EXPECT_TRUE(d.visible("lblPartidaAnulada"));
     EXPECT_EQ(d.locked(name()), k.annulledIsLocked);
     EXPECT_EQ(d.enabled("cmdAltaPoblacion"), !k.annulledIsLocked);
-    EXPECT_FALSE(d.locked(text(k.notes)));
+    EXPECT_EQ(d.locked(text(k.notes)), !k.notesStayOpen);
     w.user.expectMessage(FURTHER_ENTRY, Answer::Yes);
     accept(d);
     EXPECT_FALSE(d.locked(name())) << "the next one is valid";
