@@ -62,13 +62,14 @@ void cNucleo::PropiedadesLibro(FDAPI::Conexion& conBaseDatos, std::int32_t lngLi
                                const FDAPI::cConfig& objConfig, const std::string& strNodoPadre) {
   operacion(contexto_, "PropiedadesLibro", [&] {
     const Sacramento* s = sacramentoDeNodo(strNodoPadre, "Libros");
-    auto dialogo = s ? crearPropiedadesLibro(contexto_, *s) : nullptr;
-    if (!dialogo) return;
+    const CrearPropiedadesLibro crear = s ? propiedadesDeLibro(*s) : nullptr;
+    if (!crear) return;
+    auto dialogo = crear(contexto_);
     SesionBloqueos sesion(contexto_, conBaseDatos);
     const AperturaDeLibro como = bloquearLibro(sesion, *s, lngLibro);
     sesion.mostrar(como.modo, [&](const auto& aviso) {
       contexto_.gobjConfig = &objConfig;
-      if (dialogo->isUnloaded()) dialogo = crearPropiedadesLibro(contexto_, *s);
+      if (dialogo->isUnloaded()) dialogo = crear(contexto_);
       dialogo->conBaseDatos = &conBaseDatos;
       dialogo->lngLibro = lngLibro;
       dialogo->Load();

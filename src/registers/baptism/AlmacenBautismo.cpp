@@ -59,28 +59,20 @@ std::int32_t claveNueva(Conexion& conexion, const char* sql, const std::string& 
   return static_cast<std::int32_t>(conexion.Execute(sql + entreComillas(texto)).integer("ID"));
 }
 
-void insertarPadres(const Contexto& contexto, Conexion& conexion, cBautismo& b) {
-  TransaccionSinVuelta transaccion(contexto, conexion);
+void insertarPadres(Conexion& conexion, cBautismo& b) {
   for (const Tabla<cBautismo>* tabla : {&TABLA_PADRES, &TABLA_MADRES, &TABLA_MATRIMONIO})
     conexion.Execute(sqlInsertar(*tabla, b));
-  b.CodPadres = claveNueva(
-      conexion, "SELECT MAX(IDPadres) AS ID FROM bautismo_padres WHERE Nombre = ", b.NombrePadres);
-  b.CodMadres = claveNueva(
-      conexion, "SELECT MAX(IDMadres) AS ID FROM bautismo_madres WHERE Nombre = ", b.NombreMadres);
+  b.CodPadres =
+      claveNueva(conexion, "SELECT MAX(IDPadres) AS ID FROM bautismo_padres WHERE Nombre = ",
+                 b.NombrePadres);
+  b.CodMadres =
+      claveNueva(conexion, "SELECT MAX(IDMadres) AS ID FROM bautismo_madres WHERE Nombre = ",
+                 b.NombreMadres);
   b.CodMatrimonio = claveNueva(
       conexion, "SELECT MAX(IDMatrimonio) AS ID FROM bautismo_matrimonio WHERE Parroquia = ",
       b.ParroquiaMatrimonio);
-  transaccion.terminar();
-}
-
-void insertar(const Contexto& contexto, Conexion& conexion, cBautismo& b) {
-  insertarPadres(contexto, conexion, b);
   if (b.EdadPadrino.empty()) b.EdadPadrino = "0";
   if (b.EdadMadrina.empty()) b.EdadMadrina = "0";
-  conexion.Execute(sqlInsertar(TABLA_BAUTISMO, b));
-  b.IDBautismo = static_cast<std::int32_t>(
-      conexion.Execute("SELECT * FROM bautismo ORDER BY idbautismo DESC").integer("idbautismo"));
-  tomarClaves(b);
 }
 
 void retomar(cBautismo& b, const store::Recordset& fila) {
@@ -136,7 +128,8 @@ const DescripcionAlmacen<cBautismo> ALMACEN_BAUTISMO{
     .procGrabar = "GrabarColeccionBasesDatos",
     .procAnular = "AnularDesanularPar",
     .avisoCargar = "¡Se ha producido un error al cargar las partidas del libro!",
-    .insertar = insertar,
+    .insertarCompartidas = insertarPadres,
+    .sqlUltima = "SELECT * FROM {partidas} ORDER BY {idpartida} DESC",
     .retomar = retomar,
     .actualizarCompartidas = actualizarCompartidas,
     .alLeer = alLeer,

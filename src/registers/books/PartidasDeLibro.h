@@ -12,6 +12,7 @@
 
 #include "core/contract/Contexto.h"
 #include "core/statements/Apunte.h"
+#include "registers/allocation/PosicionPartida.h"
 #include "registers/common/Almacen.h"
 #include "registers/common/Guiones.h"
 
@@ -68,13 +69,12 @@ class PartidasDeLibro {
                               const std::function<bool(const PartidaEnLista&)>& tomar) = 0;
 };
 
-/// The working copy of a sacrament: its store is described by DescripcionAlmacen, and a dialog of
-/// it opened from the list is told that by `origen`.
+/// The working copy of a sacrament, whose store is described.
 template <class Registro, class Dialogo>
 class PartidasDe final : public PartidasDeLibro {
  public:
-  PartidasDe(Contexto& contexto, const DescripcionAlmacen<Registro>& d, FDAPI::cCOrigen origen)
-      : contexto_(contexto), d_(d), origen_(origen) {}
+  PartidasDe(Contexto& contexto, const DescripcionAlmacen<Registro>& d)
+      : contexto_(contexto), d_(d) {}
 
   bool cargar(FDAPI::Conexion& conBaseDatos, std::int32_t lngLibro) override {
     libro_ = lngLibro;
@@ -224,14 +224,13 @@ class PartidasDe final : public PartidasDeLibro {
     dialogo.colPartidas = &coleccion_;
     dialogo.lngPosicion = apertura.posicion.value_or(0);
     dialogo.Operacion = apertura.posicion ? FDAPI::cCOperacion::EDITAR : FDAPI::cCOperacion::ANADIR;
-    dialogo.Origen = origen_;
+    dialogo.Origen = origenLista(d_.forma.sacramento);
     otraVez = dialogo.open(apertura.aviso);
     return true;
   }
 
   Contexto& contexto_;
   const DescripcionAlmacen<Registro>& d_;
-  FDAPI::cCOrigen origen_;
   std::int32_t libro_ = 0;
   std::vector<Registro> coleccion_;
   std::map<std::size_t, std::string> leidas_;  // by place, of those read whole

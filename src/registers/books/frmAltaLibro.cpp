@@ -6,6 +6,7 @@
 #include "core/lists/cIListas.h"
 #include "core/statements/NombreRepetido.h"
 #include "core/statements/Sentencia.h"
+#include "registers/books/LibroNuevo.h"
 #include "registers/common/NuevaInstitucion.h"
 #include "text/Utf8.h"
 
@@ -251,13 +252,9 @@ bool frmAltaLibro::GuardarDatos() {
       rechazar("¡El nombre del libro introducido ya existe!");
       return;
     }
-    conBaseDatos->Execute(
-        sentencia("INSERT into {Libros} (codinstitucion, codFormato, codTipoNombre, nombre, "
-                  "fechacreacion, Nuevo, Cerrado, NumeroSiguiente, FolioSiguiente) values (") +
-        institucion() + ", " + std::to_string(cboFormato.data()) + ", " +
-        std::to_string(cboTipoNombre.data()) + ", " + nombre + ", " +
-        entreComillas(adtpAltaLibro.stored()) + ", " + (optNuevo.value() ? "1" : "0") +
-        ", 0, 1, 1)");
+    insertarLibro(*conBaseDatos, sacramento_,
+                  {cboInstituciones.data(), cboFormato.data(), cboTipoNombre.data(),
+                   text::trim(txtNombreLibro.text()), adtpAltaLibro.stored(), optNuevo.value()});
     strAgregado = text::trim(txtNombreLibro.text());
     guardado = true;
   });

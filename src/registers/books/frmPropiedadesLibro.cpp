@@ -211,13 +211,4 @@ void frmPropiedadesLibro::construirNombre(std::int64_t tipo) {
     txtNombreLibro.setText(nombre);
 }
 
-std::unique_ptr<frmPropiedadesLibro> crearPropiedadesLibro(Contexto& contexto,
-                                                           const Sacramento& sacramento) {
-  if (&sacramento == &BAUTISMO) return std::make_unique<frmPropiedadesLibroBautismo>(contexto);
-  if (&sacramento == &CONFIRMACION)
-    return std::make_unique<frmPropiedadesLibroConfirmacion>(contexto);
-  if (&sacramento == &DEFUNCION) return std::make_unique<frmPropiedadesLibroDefuncion>(contexto);
-  return nullptr;
-}
-
 }  // namespace fidaleon

@@ -137,8 +137,9 @@ class frmPropiedadesLibroDefuncion : public frmPropiedadesLibro {
   explicit frmPropiedadesLibroDefuncion(Contexto& contexto);
 };
 
-/// Null for a sacrament that has no such dialog.
-std::unique_ptr<frmPropiedadesLibro> crearPropiedadesLibro(Contexto& contexto,
-                                                           const Sacramento& sacramento);
+using CrearPropiedadesLibro = std::unique_ptr<frmPropiedadesLibro> (*)(Contexto&);
+
+/// Makes the dialog of a book of the sacrament. Null for one that has no such dialog.
+CrearPropiedadesLibro propiedadesDeLibro(const Sacramento& sacramento);
 
 }  // namespace fidaleon

@@ -57,13 +57,15 @@ struct DescripcionAlmacen {
 
   // What a sacrament does its own way, where there is anything of the kind.
 
-  /// Inserts the entry's own row and what that points at, and gives the record its keys.
-  void (*insertar)(const Contexto&, FDAPI::Conexion&, Registro&) = nullptr;
+  /// Inserts the rows it shares and gives the record their keys, before its own row.
+  void (*insertarCompartidas)(FDAPI::Conexion&, Registro&) = nullptr;
+  /// Finds the row inserted last, its key first.
+  PlantillaSql sqlUltima = "SELECT MAX({IDPartida}) AS ID FROM {Partidas}";
   /// Prepares a record that a former try has left half-stored. `fila`: the row that is there.
   void (*retomar)(Registro&, const store::Recordset& fila) = nullptr;
   /// Writes the rows it shares, before its own.
   void (*actualizarCompartidas)(FDAPI::Conexion&, const Registro&) = nullptr;
-  /// Completes a record whose columns have all been read.
+  /// Completes a record whose columns and keys are all known.
   void (*alLeer)(Registro&) = nullptr;
 
   template <class Hacer>
@@ -79,6 +81,25 @@ struct DescripcionAlmacen {
     if (alLeer) alLeer(r);
   }
 };
+
+/// Inserts the entry's own row; the record takes its key.
+template <class Registro>
+void insertarPropia(FDAPI::Conexion& conexion, const DescripcionAlmacen<Registro>& d, Registro& r) {
+  conexion.Execute(sqlInsertar(d.partida, r));
+  r.*d.id = static_cast<std::int32_t>(
+      conexion.Execute(sentencia(d.forma.sacramento, d.sqlUltima)).Fields(0).Value().integer());
+  if (d.alLeer) d.alLeer(r);
+}
+
+/// Inserts an entry with all its rows, for whoever fills a register without its user: no
+/// transaction of its own, no word to anybody. Throws store::Error.
+template <class Registro>
+void insertarPartida(FDAPI::Conexion& conexion, const DescripcionAlmacen<Registro>& d,
+                     Registro& r) {
+  if (d.insertarCompartidas) d.insertarCompartidas(conexion, r);
+  insertarPropia(conexion, d, r);
+  for (const Tabla<Registro>* tabla : d.propias) conexion.Execute(sqlInsertar(*tabla, r));
+}
 
 /// Carries the records of one sacrament to and from its tables. Each operation reports its errors
 /// to the user and answers whether it ran through. The caller holds the locks: new keys are read
@@ -259,15 +280,15 @@ class Almacen {
   }
 
   void insertar(Registro& r) {
-    if (d_.insertar) return d_.insertar(contexto_, conexion_, r);
-    const std::string sql = sqlInsertar(d_.partida, r);
+    if (d_.insertarCompartidas) {
+      TransaccionSinVuelta juntas(contexto_, conexion_);
+      d_.insertarCompartidas(conexion_, r);
+      juntas.terminar();
+      return insertarPropia(conexion_, d_, r);
+    }
     store::Transaction transaccion(conexion_);
-    conexion_.Execute(sql);
-    const std::int64_t id =
-        conexion_.Execute(sentencia(s(), "SELECT MAX({IDPartida}) AS ID FROM {Partidas}"))
-            .integer("ID");
+    insertarPropia(conexion_, d_, r);
     transaccion.commit();
-    r.*d_.id = static_cast<std::int32_t>(id);
   }
 
   bool hayFila(const Tabla<Registro>& tabla, std::int32_t id) {

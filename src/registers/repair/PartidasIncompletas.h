@@ -16,7 +16,7 @@ struct PartidaIncompleta {
   std::string libro;          // its name
   std::string folio;
   std::string numero;
-  std::string fecha;  // as it is stored
+  std::string fecha;  // as it is stored; empty when its row is lost
   std::vector<const FilaDePartida*> faltan;
   std::string queda;  // whom the rows name that are there
 };

@@ -81,9 +81,10 @@ void frmPartidasIncompletas::CargarGrid() {
   msgPartidas.beginUpdate();
   msgPartidas.clearRows();
   for (const PartidaIncompleta& p : partidas_)
-    msgPartidas.addRow({p.clase->registro, p.libro, p.folio, p.numero,
-                        fidaleon->stringdate(p.fecha), loQueFalta(p), p.queda},
-                       p.id);
+    msgPartidas.addRow(
+        {p.clase->registro, p.libro, p.folio, p.numero,
+         p.fecha.empty() ? "" : fidaleon->stringdate(p.fecha), loQueFalta(p), p.queda},
+        p.id);
   msgPartidas.endUpdate();
   if (!partidas_.empty())
     msgPartidas.setRow(std::clamp(fila, 1, static_cast<int>(partidas_.size())));

@@ -10,27 +10,30 @@ using ::testing::IsEmpty;
 
 class BookEntries : public PropertiesWorld {
  protected:
-  std::int32_t nuevo = book("Libro 1", true, 3);
-  std::int32_t antiguo = book("Antiguo", false, 1);
+  std::int32_t nuevo = book({"Libro 1", true, 3});
+  std::int32_t antiguo = book({"Antiguo", false, 1});
 
   /// Another workstation works on one entry.
   std::unique_ptr<FDAPI::cProcesarBloqueos> heldElsewhere(std::int32_t id) {
     auto other = w.otherSession();
     FDAPI::DefinicionBloqueo entry;
-    entry.strTabla = "Bautismo";
+    entry.strTabla = r.sacrament.tablaPartidas;
     entry.strRegistro = std::to_string(id);
     entry.conBd = &w.con();
     other->DefinirBloqueo(entry);
     EXPECT_EQ(other->lngEfectuarBloqueos(), 0);
     return other;
   }
+  std::string replacedBy(const std::string& number) const {
+    return std::string("La partida que va a introducir coincide con otra. El numero se ") +
+           r.replaced + " por el " + number + " ¿Desea continuar?";
+  }
   std::int32_t idOf(const std::string& name) {
-    return std::stoi(
-        w.value("SELECT CodBautismo FROM bautismo_hijo WHERE Nombre=\"" + name + "\""));
+    return std::stoi(w.value("SELECT * FROM " + nameTable() + " WHERE Nombre=\"" + name + "\""));
   }
 };
 
-TEST_F(BookEntries, AddTwoRemoveOne_ReachTheTablesOnlyOnAcceptance) {
+TEST_P(BookEntries, AddTwoRemoveOne_ReachTheTablesOnlyOnAcceptance) {
   fill(nuevo, {"Luis", "Eva"});
   const auto work = [&](FormDriver& d) {
     toEntries(d);
@@ -47,7 +50,7 @@ TEST_F(BookEntries, AddTwoRemoveOne_ReachTheTablesOnlyOnAcceptance) {
     cancelBook(d);
   });
   EXPECT_THAT(stored(nuevo), ElementsAre("1/1 Luis", "2/2 Eva"));
-  EXPECT_EQ(w.count("bautismo_padres"), 2);
+  EXPECT_EQ(w.count(r.childTable), 2);
   openBook(nuevo, [&](FormDriver& d) {
     work(d);
     acceptBook(d);
@@ -57,7 +60,7 @@ TEST_F(BookEntries, AddTwoRemoveOne_ReachTheTablesOnlyOnAcceptance) {
   EXPECT_SCRIPT_DONE(w.user);
 }
 
-TEST_F(BookEntries, EmptyBook_OnlyAddsUntilItHoldsSomething) {
+TEST_P(BookEntries, EmptyBook_OnlyAddsUntilItHoldsSomething) {
   openBook(nuevo, [&](FormDriver& d) {
     EXPECT_EQ(d.text("txtFolios"), "0");
     toEntries(d);
@@ -71,11 +74,11 @@ TEST_F(BookEntries, EmptyBook_OnlyAddsUntilItHoldsSomething) {
     EXPECT_FALSE(d.enabled("cmdPartidas(3)"));
     acceptBook(d);
   });
-  EXPECT_EQ(w.count("bautismo"), 0);
+  EXPECT_EQ(entries(), 0);
   EXPECT_SCRIPT_DONE(w.user);
 }
 
-TEST_F(BookEntries, HiddenRows_KeepTheOthersInTheirPlace) {
+TEST_P(BookEntries, HiddenRows_KeepTheOthersInTheirPlace) {
   fill(antiguo, {"Luis", "Eva", "Ana", "Blas"}, 4);
   openBook(antiguo, [&](FormDriver& d) {
     toEntries(d);
@@ -91,11 +94,11 @@ TEST_F(BookEntries, HiddenRows_KeepTheOthersInTheirPlace) {
     acceptBook(d);
   });
   EXPECT_THAT(stored(antiguo), ElementsAre("1/3 Alba", "1/4 Benito"));
-  EXPECT_EQ(w.value("SELECT FolioSiguiente FROM Libro_Bautismo WHERE Nombre=\"Antiguo\""), "1");
+  EXPECT_EQ(w.value(sql("SELECT FolioSiguiente FROM {Libros} WHERE Nombre=\"Antiguo\"")), "1");
   EXPECT_SCRIPT_DONE(w.user);
 }
 
-TEST_F(BookEntries, RemovedAndAddedInTheSamePlace_IsOneEntryAfterwards) {
+TEST_P(BookEntries, RemovedAndAddedInTheSamePlace_IsOneEntryAfterwards) {
   fill(nuevo, {"Luis", "Eva"});
   openBook(nuevo, [&](FormDriver& d) {
     toEntries(d);
@@ -108,7 +111,7 @@ TEST_F(BookEntries, RemovedAndAddedInTheSamePlace_IsOneEntryAfterwards) {
   EXPECT_SCRIPT_DONE(w.user);
 }
 
-TEST_F(BookEntries, NewBook_LosesOnlyItsLastEntry) {
+TEST_P(BookEntries, NewBook_LosesOnlyItsLastEntry) {
   fill(nuevo, {"Luis", "Eva", "Ana"});
   openBook(nuevo, [&](FormDriver& d) {
     toEntries(d);
@@ -124,8 +127,8 @@ TEST_F(BookEntries, NewBook_LosesOnlyItsLastEntry) {
   EXPECT_SCRIPT_DONE(w.user);
 }
 
-TEST_F(BookEntries, ClosedNewBook_ItsEntriesCanBeCorrectedOnly) {
-  const std::int32_t cerrado = book("Cerrado", true, 3, "19900101", true);
+TEST_P(BookEntries, ClosedNewBook_ItsEntriesCanBeCorrectedOnly) {
+  const std::int32_t cerrado = book({"Cerrado", true, 3, true});
   fill(cerrado, {"Luis", "Eva"});
   w.user.expectMessage(
       "¡El libro Cerrado está cerrado; no se pueden cambiar datos del libro. Sólo se podrán "
@@ -146,7 +149,7 @@ TEST_F(BookEntries, ClosedNewBook_ItsEntriesCanBeCorrectedOnly) {
   EXPECT_SCRIPT_DONE(w.user);
 }
 
-TEST_F(BookEntries, AnnulAndValidate_ShowAtOnceAndAreStoredOnAcceptance) {
+TEST_P(BookEntries, AnnulAndValidate_ShowAtOnceAndAreStoredOnAcceptance) {
   fill(nuevo, {"Luis", "Eva"});
   const auto annul = [&](FormDriver& d) {
     toEntries(d);
@@ -167,12 +170,12 @@ TEST_F(BookEntries, AnnulAndValidate_ShowAtOnceAndAreStoredOnAcceptance) {
     w.user.expectMessage(LOSE_CHANGES, Answer::Yes);
     cancelBook(d);
   });
-  EXPECT_EQ(w.count("bautismo WHERE Anulada=true"), 0);
+  EXPECT_EQ(w.count(sql("{Partidas} WHERE Anulada=true")), 0);
   openBook(nuevo, [&](FormDriver& d) {
     annul(d);
     acceptBook(d);
   });
-  EXPECT_EQ(w.value("SELECT Folio FROM bautismo WHERE Anulada=true"), "2");
+  EXPECT_EQ(w.value(sql("SELECT Folio FROM {Partidas} WHERE Anulada=true")), "2");
   openBook(nuevo, [&](FormDriver& d) {
     toEntries(d);
     d.row("msgPartidas", 2);
@@ -182,17 +185,17 @@ TEST_F(BookEntries, AnnulAndValidate_ShowAtOnceAndAreStoredOnAcceptance) {
     EXPECT_EQ(d.text("cmdPartidas(2)"), "Validar");
     acceptBook(d);
   });
-  EXPECT_EQ(w.count("bautismo WHERE Anulada=true"), 0);
+  EXPECT_EQ(w.count(sql("{Partidas} WHERE Anulada=true")), 0);
   EXPECT_THAT(stored(nuevo), ElementsAre("1/1 Luis", "2/2 Eva"));
   EXPECT_SCRIPT_DONE(w.user);
 }
 
-TEST_F(BookEntries, AnnulledByAnotherDeskMeanwhile_IsToldAndNotValidated) {
+TEST_P(BookEntries, AnnulledByAnotherDeskMeanwhile_IsToldAndNotValidated) {
   fill(nuevo, {"Luis", "Eva"});
   openBook(nuevo, [&](FormDriver& d) {
     toEntries(d);
     d.row("msgPartidas", 2);
-    w.con().Execute("UPDATE bautismo SET Anulada=1 WHERE Folio=2");
+    w.con().Execute(sql("UPDATE {Partidas} SET Anulada=1 WHERE Folio=2"));
     w.user.expectMessage("Otro puesto ya ha anulado esta partida: no se ha cambiado nada.");
     d.click("cmdPartidas(2)");
     EXPECT_EQ(grid(d).cell(2, 6), "SI");
@@ -202,45 +205,46 @@ TEST_F(BookEntries, AnnulledByAnotherDeskMeanwhile_IsToldAndNotValidated) {
   EXPECT_SCRIPT_DONE(w.user);
 }
 
-TEST_F(BookEntries, AnnulledBeforeItWasStored_IsStoredAnnulled) {
-  w.con().Execute("UPDATE Libro_Bautismo SET codFormato=3 WHERE Nuevo=false");
+TEST_P(BookEntries, AnnulledBeforeItWasStored_IsStoredAnnulled) {
+  w.con().Execute(sql("UPDATE {Libros} SET codFormato=3 WHERE Nuevo=false"));
   for (const std::int32_t libro : {nuevo, antiguo})
     openBook(libro, [&](FormDriver& d) {
       const char* name = libro == antiguo ? "Ana" : "Berta";
       toEntries(d);
       add(d, name, libro == antiguo);
       d.click("cmdPartidas(2)");
-      rename(d, 1, name, "Alba");
+      reopen(d, 1);
       acceptBook(d);
     });
   for (const std::int32_t libro : {nuevo, antiguo})
-    EXPECT_EQ(w.count("bautismo WHERE Anulada=true AND CodLibro=" + std::to_string(libro)), 1);
-  EXPECT_EQ(w.value("SELECT FolioSiguiente FROM Libro_Bautismo WHERE Nombre=\"Antiguo\""), "2")
+    EXPECT_EQ(w.count(sql("{Partidas} WHERE Anulada=true AND CodLibro=") + std::to_string(libro)),
+              1);
+  EXPECT_EQ(w.value(sql("SELECT FolioSiguiente FROM {Libros} WHERE Nombre=\"Antiguo\"")), "2")
       << "the counters of an old book follow";
   EXPECT_SCRIPT_DONE(w.user);
 }
 
-TEST_F(BookEntries, EmptySexInTheTable_DoesNotBringBackWhatWasChanged) {
+TEST_P(BookEntries, EmptySignInTheTable_DoesNotBringBackWhatWasChanged) {
   fill(nuevo, {"Luis"});
-  w.con().Execute("UPDATE bautismo_hijo SET sexo=\"\"");
+  w.con().Execute(r.emptySign);
   openBook(nuevo, [&](FormDriver& d) {
     toEntries(d);
     d.click("cmdPartidas(2)");
-    rename(d, 1, "Luis", "Lucas");
+    reopen(d, 1);
     acceptBook(d);
   });
-  EXPECT_EQ(w.count("bautismo WHERE Anulada=true"), 1);
+  EXPECT_EQ(w.count(sql("{Partidas} WHERE Anulada=true")), 1);
   EXPECT_SCRIPT_DONE(w.user);
 }
 
-TEST_F(BookEntries, EntryHeldElsewhere_IsReadOnlyUntilItIsFree) {
+TEST_P(BookEntries, EntryHeldElsewhere_IsReadOnlyUntilItIsFree) {
   fill(nuevo, {"Luis", "Eva"});
   w.user.answerAnything(Answer::Ok);  // the lock service says who has it
   openBook(nuevo, [&](FormDriver& d) {
     toEntries(d);
     auto other = heldElsewhere(idOf("Eva"));
-    w.user.expectForm(DIALOG, [](FormDriver& e) {
-      EXPECT_FALSE(e.enabled("cmdBautismo(0)"));
+    w.user.expectForm(r.dialog, [&](FormDriver& e) {
+      EXPECT_FALSE(e.enabled(control("cmd", 0)));
       e.escape();
     });
     d.doubleClick("msgPartidas", 2);
@@ -249,8 +253,8 @@ TEST_F(BookEntries, EntryHeldElsewhere_IsReadOnlyUntilItIsFree) {
     EXPECT_THAT(shown(d), ElementsAre("1/1 Luis", "2/2 Eva"));
     EXPECT_EQ(grid(d).cell(2, 6), "NO");
     EXPECT_EQ(w.user.messages().size(), 3u);
-    w.user.expectForm(DIALOG, [&](FormDriver& e) {
-      w.con().Execute("UPDATE bautismo_hijo SET nombre=\"Elena\" WHERE nombre=\"Eva\"");
+    w.user.expectForm(r.dialog, [&](FormDriver& e) {
+      w.con().Execute("UPDATE " + nameTable() + " SET Nombre=\"Elena\" WHERE Nombre=\"Eva\"");
       other.reset();
       e.click("cmdReintentar");
     });
@@ -261,12 +265,12 @@ TEST_F(BookEntries, EntryHeldElsewhere_IsReadOnlyUntilItIsFree) {
   EXPECT_SCRIPT_DONE(w.user);
 }
 
-TEST_F(BookEntries, EntryDeletedElsewhere_OpensNothing) {
+TEST_P(BookEntries, EntryDeletedElsewhere_OpensNothing) {
   fill(nuevo, {"Luis", "Eva"});
   w.user.answerAnything(Answer::Ok);
   openBook(nuevo, [&](FormDriver& d) {
     toEntries(d);
-    w.con().Execute("DELETE * FROM bautismo WHERE folio=2");
+    w.con().Execute(sql("DELETE * FROM {Partidas} WHERE Folio=2"));
     d.doubleClick("msgPartidas", 2);
     EXPECT_THAT(w.user.messages().back().text, HasSubstr("Ya no existe"));
     cancelBook(d);
@@ -274,11 +278,11 @@ TEST_F(BookEntries, EntryDeletedElsewhere_OpensNothing) {
   EXPECT_SCRIPT_DONE(w.user);
 }
 
-TEST_F(BookEntries, EntryThatLostItsParents_IsNotOpenedHalfRead) {
+TEST_P(BookEntries, EntryThatLostARow_IsNotOpenedHalfRead) {
   fill(nuevo, {"Luis"});
   openBook(nuevo, [&](FormDriver& d) {
     toEntries(d);
-    w.con().Execute("DELETE * FROM bautismo_padres");
+    w.con().Execute("DELETE * FROM " + r.childTable);
     for (const char* boton : {"cmdPartidas(1)", "cmdPartidas(2)"}) {
       w.user.expectMessage("¡No se han podido leer todos los datos de esta partida!");
       d.click(boton);
@@ -289,11 +293,11 @@ TEST_F(BookEntries, EntryThatLostItsParents_IsNotOpenedHalfRead) {
   EXPECT_SCRIPT_DONE(w.user);
 }
 
-TEST_F(BookEntries, TableHeldElsewhere_NothingIsAdded) {
+TEST_P(BookEntries, TableHeldElsewhere_NothingIsAdded) {
   w.user.answerAnything(Answer::Ok);
   const auto other = w.otherSession();
   FDAPI::DefinicionBloqueo table;
-  table.strTabla = "Bautismo";
+  table.strTabla = r.sacrament.tablaPartidas;
   other->DefinirBloqueo(table);
   ASSERT_EQ(other->lngEfectuarBloqueos(), 0);
   openBook(nuevo, [&](FormDriver& d) {
@@ -305,14 +309,14 @@ TEST_F(BookEntries, TableHeldElsewhere_NothingIsAdded) {
   EXPECT_SCRIPT_DONE(w.user);
 }
 
-TEST_F(BookEntries, LocksOfEntries_LastAsLongAsTheDialog) {
+TEST_P(BookEntries, LocksOfEntries_LastAsLongAsTheDialog) {
   fill(nuevo, {"Luis", "Eva"});
   openBook(nuevo, [&](FormDriver& d) {
     toEntries(d);
     rename(d, 1, "Luis", "Lucas");
     const auto other = w.otherSession();
     FDAPI::DefinicionBloqueo entry;
-    entry.strTabla = "Bautismo";
+    entry.strTabla = r.sacrament.tablaPartidas;
     entry.strRegistro = std::to_string(idOf("Luis"));
     entry.conBd = &w.con();
     other->DefinirBloqueo(entry);
@@ -324,16 +328,16 @@ TEST_F(BookEntries, LocksOfEntries_LastAsLongAsTheDialog) {
   EXPECT_SCRIPT_DONE(w.user);
 }
 
-TEST_F(BookEntries, StoreFailingInTheMiddle_KeepsTheDialogAndStoresTheRestLater) {
+TEST_P(BookEntries, StoreFailingInTheMiddle_KeepsTheDialogAndStoresTheRestLater) {
   auto* faults = store::FailingEngine::wrap(w.con());
   w.user.answerAnything(Answer::Ok);
   openBook(nuevo, [&](FormDriver& d) {
     toEntries(d);
     for (const char* nombre : {"Ana", "Blas", "Carmen"}) add(d, nombre);
-    faults->failOn("INSERT INTO bautismo (", store::ErrorKind::DiskFull, 2);
+    faults->failOn(sql("INSERT INTO {Partidas} ("), store::ErrorKind::DiskFull, 2);
     acceptBook(d);
     EXPECT_FALSE(d.closed());
-    EXPECT_THAT(w.user.messages().back().text, HasSubstr("AltaPartidaBautismo"));
+    EXPECT_THAT(w.user.messages().back().text, HasSubstr(sql("AltaPartida{Palabra}")));
     EXPECT_THAT(stored(nuevo), ElementsAre("1/1 Ana"));
     EXPECT_THAT(shown(d), ElementsAre("1/1 Ana", "2/2 Blas", "3/3 Carmen"));
     acceptBook(d);
@@ -343,7 +347,7 @@ TEST_F(BookEntries, StoreFailingInTheMiddle_KeepsTheDialogAndStoresTheRestLater)
   EXPECT_SCRIPT_DONE(w.user);
 }
 
-TEST_F(BookEntries, EntryStoredByHalfAndNotGoneOnWith_LeavesNothingBehind) {
+TEST_P(BookEntries, EntryStoredByHalfAndNotGoneOnWith_LeavesNothingBehind) {
   fill(nuevo, {"Luis"});
   auto* faults = store::FailingEngine::wrap(w.con());
   for (const bool removed : {true, false}) {
@@ -351,37 +355,36 @@ TEST_F(BookEntries, EntryStoredByHalfAndNotGoneOnWith_LeavesNothingBehind) {
     openBook(nuevo, [&](FormDriver& d) {
       toEntries(d);
       add(d, "Ana");
-      faults->failOn("INSERT INTO bautismo_hijo", store::ErrorKind::DiskFull);
+      faults->failOn("INSERT INTO " + r.childTable, store::ErrorKind::DiskFull);
       acceptBook(d);
       EXPECT_FALSE(d.closed());
       if (removed) remove(d, 2);
       removed ? acceptBook(d) : cancelBook(d);
       EXPECT_TRUE(d.closed());
     });
-    EXPECT_EQ(w.count("bautismo"), 1);
+    EXPECT_EQ(entries(), 1);
     EXPECT_THAT(stored(nuevo), ElementsAre("1/1 Luis"));
   }
   EXPECT_SCRIPT_DONE(w.user);
 }
 
-TEST_F(BookEntries, ListThatCannotBeRead_IsNotShown) {
+TEST_P(BookEntries, ListThatCannotBeRead_IsNotShown) {
   fill(nuevo, {"Luis"});
   auto* faults = store::FailingEngine::wrap(w.con());
-  for (const char* sentencia :
-       {"SELECT * FROM Libro_Bautismo WHERE IdLibro", "Bautismo_Matrimonio"}) {
+  for (const std::string& sentencia : {sql("SELECT * FROM {Libros} WHERE IdLibro"), r.childTable}) {
     faults->failOn(sentencia);
     w.user.answerAnything(Answer::Ok);
-    frmPropiedadesLibroBautismo dialog(w.contexto);
-    dialog.conBaseDatos = &w.con();
-    dialog.lngLibro = nuevo;
-    dialog.Show();
-    EXPECT_TRUE(dialog.isUnloaded());
+    const auto dialog = r.openBook(w.contexto);
+    dialog->conBaseDatos = &w.con();
+    dialog->lngLibro = nuevo;
+    dialog->Show();
+    EXPECT_TRUE(dialog->isUnloaded());
   }
   EXPECT_EQ(w.user.messages().size(), 2u);
   EXPECT_SCRIPT_DONE(w.user);
 }
 
-TEST_F(BookEntries, OldBook_ProposesTheHolesOfTheWorkingCopy) {
+TEST_P(BookEntries, OldBook_ProposesTheHolesOfTheWorkingCopy) {
   fill(antiguo, {"Luis", "Eva", "Ana", "Blas", "Carmen"}, 4);
   openBook(antiguo, [&](FormDriver& d) {
     toEntries(d);
@@ -397,16 +400,17 @@ TEST_F(BookEntries, OldBook_ProposesTheHolesOfTheWorkingCopy) {
   EXPECT_SCRIPT_DONE(w.user);
 }
 
-TEST_F(BookEntries, TypedPosition_IsCheckedAgainstTheWorkingCopy) {
+TEST_P(BookEntries, TypedPosition_IsCheckedAgainstTheWorkingCopy) {
   fill(antiguo, {"Luis", "Eva", "Ana", "Blas"}, 4);
   const auto at = [&](FormDriver& d, const std::string& folio, const std::string& numero,
-                      const std::string& nombre, const char* pregunta) {
-    w.user.expectForm(DIALOG, [=, this](FormDriver& e) {
+                      const std::string& nombre, const std::string& pregunta) {
+    w.user.expectForm(r.dialog, [=, this](FormDriver& e) {
       e.type("txtLibro(1)", folio);
       e.type("txtLibro(2)", numero);
-      if (pregunta) w.user.expectMessage(pregunta, Answer::Yes);
-      typeChild(e, nombre, "Nuevo", nombre);
-      w.user.expectMessage(FURTHER, Answer::No);
+      if (!pregunta.empty()) w.user.expectMessage(pregunta, Answer::Yes);
+      typeEntry(e, nombre, "20/11/1989");
+      if (r.blanksOfOldToo) w.user.expectMessage(r.blanks, Answer::Yes);
+      w.user.expectMessage("¿Desea dar de alta nuevas partidas?", Answer::No);
       accept(e);
     });
     d.click("cmdPartidas(0)");
@@ -414,32 +418,28 @@ TEST_F(BookEntries, TypedPosition_IsCheckedAgainstTheWorkingCopy) {
   openBook(antiguo, [&](FormDriver& d) {
     toEntries(d);
     remove(d, 4);
-    at(d, "1", "3", "Dario",
-       "La partida que va a introducir coincide con otra. El numero se reemplazará por el 3a "
-       "¿Desea continuar?");
-    w.user.expectForm(DIALOG, [&](FormDriver& e) {
+    at(d, "1", "3", "Dario", replacedBy("3a"));
+    w.user.expectForm(r.dialog, [&](FormDriver& e) {
       e.type("txtLibro(1)", "1");
       e.type("txtLibro(2)", "9");
       w.user.expectMessage(
           "¡No puede introducir ninguna partida en el folio 1 porque ya hay cuatro partidas en "
           "él!");
-      e.tab("mstBautismo", 1);
+      e.tab(sql("mst{Palabra}"), 1);
       EXPECT_EQ(e.focused(), "txtLibro(1)");
       cancel(e);
     });
     d.click("cmdPartidas(0)");
-    at(d, "5", "12", "Elena", nullptr);
-    at(d, "5", "12", "Fermin",
-       "La partida que va a introducir coincide con otra. El numero se reemplazará por el 12a "
-       "¿Desea continuar?");
-    at(d, "5", "12", "Gema",
-       "La partida que va a introducir coincide con otra. El numero se reemplazará por el 12b "
-       "¿Desea continuar?");
+    at(d, "5", "12", "Elena", {});
+    at(d, "5", "12", "Fermin", replacedBy("12a"));
+    at(d, "5", "12", "Gema", replacedBy("12b"));
     acceptBook(d);
   });
   EXPECT_THAT(stored(antiguo), ElementsAre("1/1 Luis", "1/2 Eva", "1/3 Ana", "1/3a Dario",
                                            "5/12 Elena", "5/12a Fermin", "5/12b Gema"));
   EXPECT_SCRIPT_DONE(w.user);
 }
+
+INSTANTIATE_TEST_SUITE_P(Registers, BookEntries, ::testing::ValuesIn(registers()), nameOfRegister);
 
 }  // namespace fidaleon::tests

@@ -10,16 +10,16 @@ using ::testing::HasSubstr;
 class BookData : public PropertiesWorld {
  protected:
   std::string bookColumn(std::int32_t id, const std::string& name) {
-    return column(id, name, "Libro_Bautismo", "IDLibroBautismo");
+    return w.value("SELECT " + name + sql(" FROM {Libros} WHERE {IDLibro}=") + std::to_string(id));
   }
   void setType(std::int32_t id, int type) {
-    w.con().Execute("UPDATE Libro_Bautismo SET CodTipoNombre=" + std::to_string(type) +
-                    " WHERE IDLibroBautismo=" + std::to_string(id));
+    w.con().Execute(sql("UPDATE {Libros} SET CodTipoNombre=") + std::to_string(type) +
+                    sql(" WHERE {IDLibro}=") + std::to_string(id));
   }
 };
 
-TEST_F(BookData, Dialog_ShowsTheBookAndItsEntries) {
-  const std::int32_t nuevo = book("2003/01", true, 2, "20030115");
+TEST_P(BookData, Dialog_ShowsTheBookAndItsEntries) {
+  const std::int32_t nuevo = book({"2003/01", true, 2, false, "20030115"});
   setType(nuevo, 1);
   fill(nuevo, {"Luis", "Eva", "Ana"}, 2);
   openBook(nuevo, [&](FormDriver& d) {
@@ -54,9 +54,9 @@ TEST_F(BookData, Dialog_ShowsTheBookAndItsEntries) {
   EXPECT_SCRIPT_DONE(w.user);
 }
 
-TEST_F(BookData, NameType_GivesTheNameAndBringsTheOldOneBack) {
-  book("7", false, 1);
-  const std::int32_t antiguo = book("Libro viejo", false, 1);
+TEST_P(BookData, NameType_GivesTheNameAndBringsTheOldOneBack) {
+  book({"7", false, 1});
+  const std::int32_t antiguo = book({"Libro viejo", false, 1});
   setType(antiguo, 4);
   openBook(antiguo, [&](FormDriver& d) {
     EXPECT_EQ(d.caption(), "Libro viejo (Libro Antiguo)");
@@ -82,12 +82,12 @@ TEST_F(BookData, NameType_GivesTheNameAndBringsTheOldOneBack) {
   EXPECT_SCRIPT_DONE(w.user);
 }
 
-TEST_F(BookData, NameThatCannotBeBuilt_FallsBackToAFreeOne) {
-  const std::int32_t nuevo = book("Primero", true, 3);
+TEST_P(BookData, NameThatCannotBeBuilt_FallsBackToAFreeOne) {
+  const std::int32_t nuevo = book({"Primero", true, 3});
   auto* faults = store::FailingEngine::wrap(w.con());
   w.user.answerAnything(Answer::Ok);
   openBook(nuevo, [&](FormDriver& d) {
-    faults->failOn("SELECT Nombre FROM Libro_Bautismo WHERE CodInstitucion");
+    faults->failOn(sql("SELECT Nombre FROM {Libros} WHERE CodInstitucion"));
     d.chooseData("cboTipoNombre", 1);
     EXPECT_EQ(d.get<forms::ComboBox>("cboTipoNombre").data(), 4);
     EXPECT_FALSE(d.locked("txtNombreLibro"));
@@ -97,9 +97,9 @@ TEST_F(BookData, NameThatCannotBeBuilt_FallsBackToAFreeOne) {
   EXPECT_SCRIPT_DONE(w.user);
 }
 
-TEST_F(BookData, RefusedAcceptance_KeepsEverythingInTheDialog) {
-  for (const char* otro : {"Otro", "Libroviejo"}) book(otro, false, 1);
-  const std::int32_t antiguo = book("Libro viejo", false, 1);
+TEST_P(BookData, RefusedAcceptance_KeepsEverythingInTheDialog) {
+  for (const char* otro : {"Otro", "Libroviejo"}) book({otro, false, 1});
+  const std::int32_t antiguo = book({"Libro viejo", false, 1});
   openBook(antiguo, [&](FormDriver& d) {
     toEntries(d);
     add(d, "Ana", true);
@@ -118,22 +118,22 @@ TEST_F(BookData, RefusedAcceptance_KeepsEverythingInTheDialog) {
     d.type("dtpFecha", "");
     w.user.expectMessage("Falta rellenar el campo «Fecha de creación».");
     acceptBook(d);
-    EXPECT_EQ(w.count("bautismo"), 0);
+    EXPECT_EQ(entries(), 0);
     d.type("dtpFecha", "1/1/1950");
     acceptBook(d);
     EXPECT_TRUE(d.closed());
   });
-  EXPECT_EQ(w.count("bautismo"), 1);
+  EXPECT_EQ(entries(), 1);
   EXPECT_EQ(bookColumn(antiguo, "FechaCreacion"), "19500101");
   EXPECT_SCRIPT_DONE(w.user);
 }
 
-TEST_F(BookData, BookGoneMeanwhile_IsNamedAndNothingIsStored) {
-  const std::int32_t antiguo = book("Libro viejo", false, 1);
+TEST_P(BookData, BookGoneMeanwhile_IsNamedAndNothingIsStored) {
+  const std::int32_t antiguo = book({"Libro viejo", false, 1});
   openBook(antiguo, [&](FormDriver& d) {
     toEntries(d);
     add(d, "Ana", true);
-    w.con().Execute("DELETE * FROM Libro_Bautismo");
+    w.con().Execute(sql("DELETE * FROM {Libros}"));
     w.user.expectMessage(
         "Ya no existe, porque se ha eliminado desde otro puesto:\n\nel libro «Libro viejo»\n\nLo "
         "que ha escrito sigue aquí. Sin ello no se puede guardar.");
@@ -142,13 +142,13 @@ TEST_F(BookData, BookGoneMeanwhile_IsNamedAndNothingIsStored) {
     w.user.expectMessage(LOSE_CHANGES, Answer::Yes);
     cancelBook(d);
   });
-  EXPECT_EQ(w.count("bautismo"), 0);
+  EXPECT_EQ(entries(), 0);
   EXPECT_SCRIPT_DONE(w.user);
 }
 
-TEST_F(BookData, AnotherOpenNewBook_DoesNotStandInTheWay) {
-  book("2003/01", true, 3);
-  const std::int32_t nuevo = book("2003/02", true, 3);
+TEST_P(BookData, AnotherOpenNewBook_DoesNotStandInTheWay) {
+  book({"2003/01", true, 3});
+  const std::int32_t nuevo = book({"2003/02", true, 3});
   openBook(nuevo, [&](FormDriver& d) {
     d.type("txtNombreLibro", "Segundo");
     acceptBook(d);
@@ -158,8 +158,8 @@ TEST_F(BookData, AnotherOpenNewBook_DoesNotStandInTheWay) {
   EXPECT_SCRIPT_DONE(w.user);
 }
 
-TEST_F(BookData, BookWithoutADate_StaysAcceptable) {
-  const std::int32_t antiguo = book("Sin fecha", false, 1, "---");
+TEST_P(BookData, BookWithoutADate_StaysAcceptable) {
+  const std::int32_t antiguo = book({"Sin fecha", false, 1, false, "---"});
   openBook(antiguo, [&](FormDriver& d) {
     EXPECT_EQ(d.text("dtpFecha"), "");
     acceptBook(d);
@@ -169,25 +169,26 @@ TEST_F(BookData, BookWithoutADate_StaysAcceptable) {
   EXPECT_SCRIPT_DONE(w.user);
 }
 
-TEST_F(BookData, DateMovedByALaterEntry_IsNotPutBack) {
-  const std::int32_t antiguo = book("Antiguo", false, 1, "19000101");
+TEST_P(BookData, DateMovedByALaterEntry_IsNotPutBack) {
+  const std::int32_t antiguo = book({"Antiguo", false, 1, false, "19000101"});
   openBook(antiguo, [&](FormDriver& d) {
     toEntries(d);
-    add(d, "Ana", true, "22/11/2026");
-    EXPECT_EQ(d.text("dtpFecha"), "22/11/2026");
+    add(d, "Ana", true, r.movesTheBook);
+    EXPECT_EQ(d.text("dtpFecha"), r.movesTheBook);
     acceptBook(d);
   });
-  EXPECT_EQ(bookColumn(antiguo, "FechaCreacion"), "20261122");
+  EXPECT_EQ(bookColumn(antiguo, "FechaCreacion"),
+            text::toStored(*text::parseShort(r.movesTheBook)));
   EXPECT_SCRIPT_DONE(w.user);
 }
 
-TEST_F(BookData, Cancelling_AsksOnlyWhenEntriesWereChanged) {
-  const std::int32_t nuevo = book("Libro 1", true, 3);
+TEST_P(BookData, Cancelling_AsksOnlyWhenEntriesWereChanged) {
+  const std::int32_t nuevo = book({"Libro 1", true, 3});
   fill(nuevo, {"Luis"});
   openBook(nuevo, [&](FormDriver& d) {
     d.type("txtNombreLibro", "Cambiado");  // no entry
     toEntries(d);
-    w.user.expectForm(DIALOG, [](FormDriver& e) { accept(e); });  // opened, nothing changed
+    w.user.expectForm(r.dialog, [this](FormDriver& e) { accept(e); });  // opened, nothing changed
     d.doubleClick("msgPartidas", 1);
     cancelBook(d);
     EXPECT_TRUE(d.closed());
@@ -202,19 +203,19 @@ TEST_F(BookData, Cancelling_AsksOnlyWhenEntriesWereChanged) {
     d.escape();
   });
   EXPECT_EQ(bookColumn(nuevo, "Nombre"), "Libro 1");
-  EXPECT_EQ(w.value("SELECT Nombre FROM bautismo_hijo"), "Luis");
+  EXPECT_EQ(w.value("SELECT Nombre FROM " + nameTable()), "Luis");
   EXPECT_SCRIPT_DONE(w.user);
 }
 
-TEST_F(BookData, BookThatCannotBeStored_StaysOpenWithItsEntriesSaved) {
-  const std::int32_t nuevo = book("Libro 1", true, 3);
+TEST_P(BookData, BookThatCannotBeStored_StaysOpenWithItsEntriesSaved) {
+  const std::int32_t nuevo = book({"Libro 1", true, 3});
   auto* faults = store::FailingEngine::wrap(w.con());
   w.user.answerAnything(Answer::Ok);
   openBook(nuevo, [&](FormDriver& d) {
     d.type("txtNombreLibro", "Nuevo nombre");
     toEntries(d);
     add(d, "Ana");
-    faults->failOn("Update Libro_Bautismo Set codTipoNombre", store::ErrorKind::Busy);
+    faults->failOn(sql("Update {Libros} Set codTipoNombre"), store::ErrorKind::Busy);
     acceptBook(d);
     EXPECT_FALSE(d.closed());
     EXPECT_THAT(w.user.messages().back().text, HasSubstr("GuardarDatos()"));
@@ -225,17 +226,17 @@ TEST_F(BookData, BookThatCannotBeStored_StaysOpenWithItsEntriesSaved) {
   EXPECT_SCRIPT_DONE(w.user);
 }
 
-TEST_F(BookData, HeldByAnother_OnlyWhatIsFreeCanBeChanged) {
-  const std::int32_t nuevo = book("Libro 1", true, 3);
+TEST_P(BookData, HeldByAnother_OnlyWhatIsFreeCanBeChanged) {
+  const std::int32_t nuevo = book({"Libro 1", true, 3});
   fill(nuevo, {"Luis"});
   const auto open = [&](const auto& limit, forms::ScriptedUser::Act act) {
-    w.user.expectForm(PROPERTIES, std::move(act));
-    frmPropiedadesLibroBautismo dialog(w.contexto);
-    dialog.conBaseDatos = &w.con();
-    dialog.lngLibro = nuevo;
-    dialog.Load();
-    limit(dialog);
-    dialog.Show();
+    w.user.expectForm(r.properties, std::move(act));
+    const auto dialog = r.openBook(w.contexto);
+    dialog->conBaseDatos = &w.con();
+    dialog->lngLibro = nuevo;
+    dialog->Load();
+    limit(*dialog);
+    dialog->Show();
   };
   open([](frmPropiedadesLibro& d) { d.sinNombre(); },
        [&](FormDriver& d) {
@@ -261,8 +262,10 @@ TEST_F(BookData, HeldByAnother_OnlyWhatIsFreeCanBeChanged) {
         EXPECT_FALSE(d.closed());
         d.escape();
       });
-  EXPECT_EQ(w.value("SELECT Nombre FROM bautismo_hijo"), "Lucas");
+  EXPECT_EQ(w.value("SELECT Nombre FROM " + nameTable()), "Lucas");
   EXPECT_SCRIPT_DONE(w.user);
 }
+
+INSTANTIATE_TEST_SUITE_P(Registers, BookData, ::testing::ValuesIn(registers()), nameOfRegister);
 
 }  // namespace fidaleon::tests

@@ -1,19 +1,25 @@
 // Entries that have lost one of their rows.
 
-#include "registers/BaptismWorld.h"
+#include "registers/PropertiesWorld.h"
 #include "registers/repair/frmPartidasIncompletas.h"
 
 namespace fidaleon::tests {
 
-class IncompleteEntries : public BaptismWorld {
+using ::testing::ElementsAre;
+using ::testing::EndsWith;
+
+class IncompleteEntries : public PropertiesWorld {
  protected:
   void SetUp() override {
-    cBautismo request = record("Ana", 0, 0, "---");
-    request.Operacion = cCOperacion::ANADIRSOLICITUD;
-    asked = store(request);
-    w.con().Execute("DELETE * FROM bautismo_hijo WHERE codbautismo=" + std::to_string(childless));
-    w.con().Execute("INSERT INTO bautismo_hijo (nombre) VALUES (\"Sin partida\")");
-    w.con().Execute("DELETE * FROM bautismo_madres WHERE idmadres=" + column(asked, "codmadres"));
+    fill(libro, {"Rosa", "Luis"});
+    EXPECT_TRUE(r.add(w, "Ana", 0, 0, "---"));
+    lose(2);
+    lose(3);
+  }
+  /// The rows of entry `id`, which comes into being with it.
+  void lose(std::int32_t id) {
+    w.con().Execute("DELETE * FROM " + r.childTable + " WHERE " + r.childKey + "=" +
+                    std::to_string(id));
   }
   void show(forms::ScriptedUser::Act act) {
     w.user.expectForm("frmPartidasIncompletas", std::move(act));
@@ -24,84 +30,87 @@ class IncompleteEntries : public BaptismWorld {
   }
   static std::vector<std::string> row(FormDriver& d, int n) {
     std::vector<std::string> cells;
-    for (int i = 0; i < 7; ++i) cells.push_back(d.get<forms::Grid>("msgPartidas").cell(n, i));
+    for (int i = 0; i < 6; ++i) cells.push_back(grid(d).cell(n, i));
     return cells;
   }
-  static int rows(FormDriver& d) { return d.get<forms::Grid>("msgPartidas").rowCount(); }
+  std::string lost() const {
+    for (const FilaDePartida& f : formaPartida(r.sacrament)->filas)
+      if (text::equalsNoCase(f.tabla, r.childTable)) return f.nombre;
+    return {};
+  }
+  /// What stands in the entry's own row is there still.
+  std::string dayLeft() const { return &r.sacrament == &BAUTISMO ? "10/05/1999" : ""; }
 
-  std::int32_t libro = book("Libro 1", true, 3);
-  std::int32_t whole = store(record("Eva", libro, 1, "1"));
-  std::int32_t childless = store(record("Luis", libro, 2, "2"));
-  std::int32_t asked = 0;
+  std::int32_t libro = book({"Libro 1", true, 3});
   std::vector<std::int32_t> opened;
 };
 
-TEST_F(IncompleteEntries, Completed_HaveTheirRowsAgainAndAreOpened) {
+TEST_P(IncompleteEntries, Completed_HaveTheirRowsAgainAndAreOpened) {
+  const std::string name = formaPartida(r.sacrament)->registro;
   show([&](FormDriver& d) {
-    ASSERT_EQ(rows(d), 2);
-    EXPECT_THAT(row(d, 1),
-                ::testing::ElementsAre("Bautismo", "Libro 1", "2", "2", "10/05/1999", "bautizado",
-                                       "padre: Juan García; madre: Ana Pérez"));
-    EXPECT_THAT(row(d, 2),
-                ::testing::ElementsAre("Bautismo", "(solicitud)", "", "", "10/05/1999", "madre",
-                                       "bautizado: Ana García Pérez; padre: Juan García"));
+    ASSERT_EQ(grid(d).rowCount(), 2);
+    EXPECT_THAT(row(d, 1), ElementsAre(name, "Libro 1", "2", "2", dayLeft(), lost()));
+    EXPECT_THAT(row(d, 2), ElementsAre(name, "(solicitud)", "", "", dayLeft(), lost()));
     d.click("cmdBoton(0)");
-    ASSERT_EQ(rows(d), 1);
+    ASSERT_EQ(grid(d).rowCount(), 1);
     d.click("cmdBoton(0)");
     EXPECT_TRUE(d.closed()) << "nothing is left to do";
   });
-  EXPECT_THAT(opened, ::testing::ElementsAre(childless, asked));
-  EXPECT_EQ(column(childless, "nombre", "bautismo_hijo", "codbautismo"), "---");
-  EXPECT_EQ(column(std::stoi(column(asked, "codmadres")), "nombre", "bautismo_madres", "idmadres"),
-            "---");
-  ColeccionBautismo items;
-  cBaseDatos(w.contexto).GrabarBasedatosColeccion(w.con(), libro, items);
-  EXPECT_EQ(items.size(), 2u);
+  EXPECT_THAT(opened, ElementsAre(2, 3));
+  openBook(libro, [&](FormDriver& d) {
+    EXPECT_EQ(grid(d).rowCount(), 2);
+    cancelBook(d);
+  });
   EXPECT_SCRIPT_DONE(w.user);
 }
 
-TEST_F(IncompleteEntries, Removed_GoWithTheRowsThatNobodyElseUses) {
-  w.con().Execute("UPDATE bautismo SET codpadres=" + column(whole, "codpadres"));
+TEST_P(IncompleteEntries, Removed_GoWithAllTheirRows) {
   show([&](FormDriver& d) {
     const char* sure = "¿Está seguro que desea eliminar la partida?";
     w.user.expectMessage(sure, Answer::No);
     d.click("cmdBoton(1)");
-    EXPECT_EQ(w.user.messages().back().below,
-              "Libro Libro 1, folio 2, número 2. Le falta: bautizado.\n"
-              "Se perderá lo que queda de ella: padre: Juan García; madre: Ana Pérez.");
-    EXPECT_EQ(w.user.messages().back().byEnter, Answer::No);
-    EXPECT_EQ(w.count("bautismo"), 3);
+    const auto& question = w.user.messages().back();
+    EXPECT_THAT(question.below,
+                ::testing::StartsWith("Libro Libro 1, folio 2, número 2. Le falta: " + lost() +
+                                      ".\nSe perderá lo que queda de "));
+    EXPECT_THAT(question.below,
+                EndsWith(&r.sacrament == &BAUTISMO ? "padre: Juan García; madre: Ana Pérez."
+                                                   : "Luis García Pérez."));
+    EXPECT_EQ(question.byEnter, Answer::No);
+    EXPECT_EQ(entries(), 3);
     w.user.expectMessage(sure, Answer::Yes);
     d.click("cmdBoton(1)");
-    EXPECT_EQ(rows(d), 1);
+    EXPECT_EQ(grid(d).rowCount(), 1);
     d.click("cmdBoton(2)");
   });
-  EXPECT_EQ(w.count("bautismo"), 2);
-  EXPECT_EQ(w.count("bautismo_madres"), 1);
-  EXPECT_EQ(w.count("bautismo_padres WHERE idpadres=" + column(whole, "codpadres")), 1);
+  for (const FilaDePartida& f : formaPartida(r.sacrament)->filas)
+    EXPECT_EQ(w.count(f.tabla), text::equalsNoCase(f.tabla, r.childTable) ? 1 : 2) << f.tabla;
   EXPECT_SCRIPT_DONE(w.user);
 }
 
-TEST_F(IncompleteEntries, HeldOrMendedElsewhere_AreLeftAlone) {
+TEST_P(IncompleteEntries, HeldOrMendedElsewhere_AreLeftAlone) {
   auto other = w.otherSession();
   FDAPI::DefinicionBloqueo table;
-  table.strTabla = "Bautismo";
+  table.strTabla = r.sacrament.tablaPartidas;
   other->DefinirBloqueo(table);
   show([&](FormDriver& d) {
     ASSERT_EQ(other->lngEfectuarBloqueos(), 0);
     w.user.answerAnything(Answer::Yes);
     for (const char* button : {"cmdBoton(0)", "cmdBoton(1)"}) d.click(button);
-    EXPECT_EQ(rows(d), 2);
+    EXPECT_EQ(grid(d).rowCount(), 2);
     other->LiberarBloqueos();
-    w.con().Execute("DELETE * FROM bautismo WHERE idbautismo=" + std::to_string(childless));
+    w.con().Execute(sql("DELETE * FROM {Partidas} WHERE {IDPartida}=2"));
     d.click("cmdBoton(1)");
     EXPECT_EQ(w.user.messages().back().text,
               "Esta partida ya no está incompleta: alguien la ha completado o eliminado.");
-    EXPECT_EQ(rows(d), 1);
+    EXPECT_EQ(grid(d).rowCount(), 1);
     d.click("cmdBoton(2)");
   });
   EXPECT_THAT(opened, ::testing::IsEmpty());
-  EXPECT_EQ(w.count("bautismo"), 2);
+  EXPECT_EQ(entries(), 2);
 }
+
+INSTANTIATE_TEST_SUITE_P(Registers, IncompleteEntries, ::testing::ValuesIn(registers()),
+                         nameOfRegister);
 
 }  // namespace fidaleon::tests
