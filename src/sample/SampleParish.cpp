@@ -4,7 +4,13 @@
 
 #include "core/statements/Citas.h"
 #include "parish/Insert.h"
+#include "registers/allocation/ActualizacionFormato.h"
+#include "registers/baptism/AlmacenBautismo.h"
+#include "registers/books/LibroNuevo.h"
+#include "registers/confirmation/AlmacenConfirmacion.h"
+#include "registers/death/AlmacenDefuncion.h"
 #include "sample/SampleCensus.h"
+#include "sample/SampleEntries.h"
 #include "sample/SampleNames.h"
 #include "sample/SamplePopulation.h"
 
@@ -14,6 +20,7 @@ namespace {
 constexpr std::uint32_t SEED = 1924;
 constexpr int NEW_BOOK_YEAR = 2014;
 constexpr int REQUESTS = 5;
+constexpr int CONFIRMATION_REQUESTS = 7;
 constexpr int ENTRIES_PER_FOLIO = 4;  // of format 1, the old book's
 constexpr int OLD_FORMAT = 1;
 constexpr int NEW_FORMAT = 3;
@@ -22,10 +29,22 @@ constexpr int YEAR_NAME = 1;
 
 const std::string BLANK = "---";
 
-struct Place {
-  std::int32_t book = 0;
-  std::int32_t folio = 0;
-  std::string number = BLANK;
+using sample::Place;
+
+/// The books of one register: an old one, and the open new one that follows it.
+struct Shelf {
+  LibroNuevo old, current;
+  std::int32_t oldKey = 0, newKey = 0;
+  int inOld = 0, inNew = 0;
+
+  Place next(int year) {
+    if (year >= NEW_BOOK_YEAR) {
+      ++inNew;
+      return {newKey, inNew, std::to_string(inNew), current.nombre};
+    }
+    ++inOld;
+    return {oldKey, 1 + (inOld - 1) / ENTRIES_PER_FOLIO, std::to_string(inOld), old.nombre};
+  }
 };
 
 class Writer {
@@ -37,8 +56,12 @@ class Writer {
     writeTowns();
     writeInstitutions();
     people_ = sample::makePopulation(SEED, homeTown(), parish_.name, today_);
-    writeEntries();
-    writeRequests();
+    around_ = {parish_.name, std::string(home_.diocese), own_, ownTown_, towns_};
+    writeBaptisms();
+    writeConfirmations();
+    writeBurials();
+    writeBaptismRequests();
+    writeConfirmationRequests();
     fillSampleCensus(con_, {people_, towns_, own_, ownTown_, parish_.name, postcode()}, today_);
   }
 
@@ -58,8 +81,6 @@ class Writer {
     if (!parish_.town.empty()) towns_[home] = townKey(con_, parish_.town, parish_.province);
     ownTown_ = towns_[home];
   }
-
-  std::int32_t town(int position) const { return towns_[static_cast<std::size_t>(position)]; }
 
   void writeInstitutions() {
     own_ = institution(parish_.name, ownTown_, "D. Abilio Santacana Prieto",
@@ -95,43 +116,60 @@ class Writer {
     return (code.size() < 2 ? "0" + code : code) + "730";
   }
 
-  std::int32_t book(const std::string& name, int nameType, int format, const std::string& created,
-                    bool isNew) {
-    return Insert("Libro_Bautismo")
-        .number("CodInstitucion", own_)
-        .number("CodFormato", format)
-        .number("CodTipoNombre", nameType)
-        .text("Nombre", name)
-        .text("FechaCreacion", created)
-        .number("Nuevo", isNew)
-        .number("Cerrado", 0)
-        .text("NumeroSiguiente", "1")
-        .number("FolioSiguiente", 1)
-        .into(con_, "IDLibroBautismo");
+  std::int32_t book(const Sacramento& sacrament, const LibroNuevo& made) {
+    insertarLibro(con_, sacrament, made);
+    return ultimoLibro(con_, sacrament);
+  }
+  LibroNuevo oldBook(const std::string& name) const {
+    return {own_, OLD_FORMAT, OPEN_NAME, name, std::to_string(NEW_BOOK_YEAR - 1) + "1231", false};
+  }
+  LibroNuevo newBook() const {
+    const std::string year = std::to_string(NEW_BOOK_YEAR);
+    return {own_, NEW_FORMAT, YEAR_NAME, year + "/01", year + "0101", true};
   }
 
-  void writeEntries() {
-    const std::int32_t old = book("Libro XIV", OPEN_NAME, OLD_FORMAT, "20131231", false);
-    const std::string year = std::to_string(NEW_BOOK_YEAR);
-    const std::int32_t current = book(year + "/01", YEAR_NAME, NEW_FORMAT, year + "0101", true);
-    int inOld = 0;
-    int inNew = 0;
+  void writeBaptisms() {
+    Shelf shelf{oldBook("Libro XIV"), newBook()};
+    open(BAUTISMO, shelf);
     for (const sample::Baptism& b : people_.baptisms) {
-      if (b.day.year < NEW_BOOK_YEAR) {
-        writeEntry(b, {old, inOld / ENTRIES_PER_FOLIO + 1, std::to_string(inOld + 1)});
-        ++inOld;
-      } else {
-        ++inNew;
-        writeEntry(b, {current, inNew, std::to_string(inNew)});
-      }
+      places_.push_back(shelf.next(b.day.year));
+      write(ALMACEN_BAUTISMO, entries().baptism(b, places_.back()));
     }
-    con_.Execute("UPDATE Libro_Bautismo SET FolioSiguiente=" +
-                 std::to_string(inOld / ENTRIES_PER_FOLIO + 1) + ", NumeroSiguiente=\"" +
-                 std::to_string(inOld + 1) + "\" WHERE IDLibroBautismo=" + std::to_string(old));
+    close(BAUTISMO, shelf);
+  }
+
+  void writeConfirmations() {
+    Shelf shelf{oldBook("Libro VI"), newBook()};
+    open(CONFIRMACION, shelf);
+    for (const sample::Confirmation& c : people_.confirmations)
+      write(ALMACEN_CONFIRMACION, entries().confirmation(c, shelf.next(c.day.year), placeOf(c)));
+    close(CONFIRMACION, shelf);
+  }
+
+  void writeBurials() {
+    Shelf shelf{oldBook("Libro IX"), newBook()};
+    open(DEFUNCION, shelf);
+    for (const sample::Burial& b : people_.burials)
+      write(ALMACEN_DEFUNCION, entries().death(b, shelf.next(b.death.year)));
+    close(DEFUNCION, shelf);
+  }
+
+  void open(const Sacramento& sacrament, Shelf& shelf) {
+    shelf.oldKey = book(sacrament, shelf.old);
+    shelf.newKey = book(sacrament, shelf.current);
+  }
+  /// The counters of the old book as its last entry leaves them.
+  void close(const Sacramento& sacrament, const Shelf& shelf) {
+    bool jump = false;
+    actualizacionFormato(con_, sacrament, shelf.oldKey, jump);
+  }
+  template <class Record>
+  void write(const DescripcionAlmacen<Record>& store, Record entry) {
+    insertarPartida(con_, store, entry);
   }
 
   // Children of the youngest families whose entry is asked for and stands in no book yet.
-  void writeRequests() {
+  void writeBaptismRequests() {
     const int last = static_cast<int>(people_.couples.size()) - 1;
     for (int i = 0; i < REQUESTS; ++i) {
       sample::Baptism b;
@@ -143,93 +181,36 @@ class Writer {
       if (b.birth > today_) b.birth.year -= 1;
       b.godfather = b.godmother = b.minister = BLANK;
       b.remarks = "Pendiente de señalar el día del bautizo.";
-      writeEntry(b, {});
+      write(ALMACEN_BAUTISMO, entries().baptism(b, {}));
     }
   }
 
-  void writeEntry(const sample::Baptism& b, const Place& place) {
-    const sample::Couple& c = people_.couples[static_cast<std::size_t>(b.couple)];
-    const std::int32_t fathers = writeFather(c);
-    const std::int32_t mothers = writeMother(c);
-    const std::int32_t marriage = writeMarriage(c);
-    Insert entry("bautismo");
-    entry.number("codpadres", fathers).number("codmadres", mothers);
-    entry.number("codmatrimonio", marriage);
-    entry.number("institucionsolicitud", place.book == 0 ? own_ : 0);
-    entry.text("fechabautismo", b.day.year == 0 ? BLANK : text::toStored(b.day));
-    entry.text("padrino", b.godfather).text("madrina", b.godmother).text("ministro", b.minister);
-    entry.text("parroquia", parish_.name).number("codmunicipio", ownTown_);
-    entry.text("diocesis", std::string(home_.diocese));
-    entry.text("notasmarginales", orBlank(b.marginalNotes));
-    entry.text("observaciones", orBlank(b.remarks));
-    entry.number("codlibro", place.book).number("folio", place.folio);
-    entry.text("numero", place.number).number("anulada", b.annulled);
-    entry.text("EdadPadrino", "0").text("EdadMadrina", "0").text("MinistroCargo", "Párroco");
-    for (const char* column :
-         {"ParroquiaDomicilioPadrino", "ParroquiaDomicilioMadrina", "ProfesionPadrino",
-          "NaturalPadrino", "EstatPadrino", "ProfesionMadrina", "NaturalMadrina", "EstatMadrina"})
-      entry.text(column, BLANK);
-    writeChild(b, c, entry.into(con_, "IDBautismo"));
+  // Those of the last years who have come of age and wait for the next visit.
+  void writeConfirmationRequests() {
+    int left = CONFIRMATION_REQUESTS;
+    for (std::size_t i = people_.baptisms.size(); i > 0 && left > 0; --i) {
+      const sample::Baptism& b = people_.baptisms[i - 1];
+      if (b.annulled || b.confirmed.year != 0 || b.birth.year > today_.year - 12) continue;
+      const sample::Couple& parents = people_.couples[static_cast<std::size_t>(b.couple)];
+      sample::Confirmation c;
+      c.person = {b.name, parents.father.first, parents.mother.first, homeTown(), b.girl};
+      c.baptism = static_cast<int>(i) - 1;
+      c.birth = b.birth;
+      c.baptised = b.day;
+      c.father = parents.father.full();
+      c.mother = parents.mother.full();
+      c.street = parents.street;
+      c.baptismParish = parish_.name;
+      c.baptismTown = homeTown();
+      c.sponsor = c.minister = c.office = BLANK;
+      write(ALMACEN_CONFIRMACION, entries().confirmation(c, {}, placeOf(c)));
+      --left;
+    }
   }
 
-  static std::string orBlank(const std::string& text) { return text.empty() ? BLANK : text; }
-
-  void writeChild(const sample::Baptism& b, const sample::Couple& c, std::int32_t entry) {
-    Insert("bautismo_hijo")
-        .number("codbautismo", entry)
-        .text("nombre", b.name)
-        .text("primerapellido", c.father.first)
-        .text("segundoapellido", c.mother.first)
-        .text("sexo", b.girl ? "Mujer" : "Hombre")
-        .text("fechanac", text::toStored(b.birth))
-        .text("horanac", orBlank(b.hour))
-        .text("direccionnac", c.street)
-        .number("codmunicipionac", ownTown_)
-        .into(con_);
-  }
-
-  std::int32_t writeFather(const sample::Couple& c) {
-    Insert row("bautismo_padres");
-    names(row, c.father, c.fathersFather, c.fathersMother, c.fathersTown);
-    row.text("PadreParroquiaBaut", BLANK).number("PadreCodMunicipioParrBaut", 0);
-    row.text("PadreProfesion", c.trade);
-    for (const char* who : {"AbueloPat", "AbuelaPat"}) baptisedAt(row, who);
-    row.text("TelefonoPadre", BLANK).text("EmailPadre", BLANK);
-    return row.into(con_, "IDPadres");
-  }
-
-  std::int32_t writeMother(const sample::Couple& c) {
-    Insert row("bautismo_madres");
-    names(row, c.mother, c.mothersFather, c.mothersMother, c.mothersTown);
-    row.text("MadreParroquiaBaut", BLANK).number("MadreCodMunicipioParrBaut", 0);
-    row.text("MadreProfesion", BLANK);
-    for (const char* who : {"AbueloMat", "AbuelaMat"}) baptisedAt(row, who);
-    row.text("TelefonoMadre", BLANK).text("EmailMadre", BLANK);
-    return row.into(con_, "IDMadres");
-  }
-
-  void names(Insert& row, const sample::Person& p, const std::string& grandfather,
-             const std::string& grandmother, int where) const {
-    row.text("nombre", p.name).text("primerapellido", p.first).text("segundoapellido", p.second);
-    row.number("codmunicipio", town(p.town));
-    row.text("abuelo", grandfather).number("codmunicipioabuelo", town(where));
-    row.text("abuela", grandmother).number("codmunicipioabuela", town(where));
-  }
-
-  static void baptisedAt(Insert& row, const std::string& who) {
-    row.text(who + "ParroquiaBaut", BLANK).number(who + "CodMunicipioParrBaut", 0);
-  }
-
-  std::int32_t writeMarriage(const sample::Couple& c) {
-    return Insert("bautismo_matrimonio")
-        .text("parroquia", c.weddingParish)
-        .text("fechamatr", text::toStored(c.wedding))
-        .number("codmunicipiomatr", town(c.weddingTown))
-        .text("direccionpadres", c.street)
-        .number("codmunicipiopadres", ownTown_)
-        .text("DiocesisMatrimonio", std::string(home_.diocese))
-        .text("TelefonoPadres", BLANK)
-        .into(con_, "IDMatrimonio");
+  sample::Entries entries() const { return {people_, around_}; }
+  const Place* placeOf(const sample::Confirmation& c) const {
+    return c.baptism < 0 ? nullptr : &places_[static_cast<std::size_t>(c.baptism)];
   }
 
   store::Connection& con_;
@@ -240,6 +221,8 @@ class Writer {
   std::int32_t ownTown_ = 0;
   std::int32_t own_ = 0;
   sample::Population people_;
+  sample::Surroundings around_;
+  std::vector<Place> places_;  // of the baptisms
 };
 
 }  // namespace

@@ -13,6 +13,26 @@ constexpr int FIRST_YEAR = 1924;
 constexpr int FOUNDERS = 12;
 constexpr int YEARS_BETWEEN_FOUNDERS = 2;
 constexpr int NEW_NAMES_FROM = 1988;
+// The bishop, or somebody for him, comes every so many years and confirms all who are of age.
+constexpr int FIRST_VISIT = 1940;
+constexpr int YEARS_BETWEEN_VISITS = 4;
+
+struct Confirmer {
+  std::string_view name;
+  std::string_view office;
+};
+constexpr std::array<Confirmer, 6> CONFIRMERS{
+    {{"Mons. Casimiro Baltanás Lucio", "Obispo"},
+     {"Mons. Laureano Espinosa Tejedor", "Obispo"},
+     {"Mons. Fidel Arrizabalaga Monzón", "Obispo auxiliar"},
+     {"D. Heliodoro Cansado Vizcaíno", "Vicario episcopal"},
+     {"Mons. Aurelio Quintanilla Salas", "Obispo"},
+     {"D. Prudencio Tamames Ortiz", "Vicario episcopal"}}};
+
+constexpr std::array<std::string_view, 10> CAUSES{
+    {"Parada cardiorrespiratoria", "Neumonía", "Insuficiencia cardíaca", "Ancianidad",
+     "Enfermedad de corazón", "Derrame cerebral", "Bronquitis crónica", "Cáncer",
+     "Insuficiencia renal", "Accidente"}};
 
 constexpr std::array<std::string_view, 7> MINISTERS{
     {"Anselmo Carrascosa Ruipérez", "Hilario Zorita Manzano", "Cosme Peñalba Ortún",
@@ -34,6 +54,17 @@ class Dice {
  private:
   std::mt19937 engine_;
 };
+
+text::Date visitOf(int year) {
+  return {year, 4 + year % 3, 1 + year * 7 % 28};
+}
+
+/// The first visit from that day on.
+text::Date visitAfter(const text::Date& day) {
+  int year = FIRST_VISIT;
+  while (visitOf(year) < day) year += YEARS_BETWEEN_VISITS;
+  return visitOf(year);
+}
 
 text::Date daysAfter(text::Date d, int days) {
   static constexpr int LENGTH[] = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
@@ -59,6 +90,8 @@ class Builder {
     }
     std::stable_sort(made_.baptisms.begin(), made_.baptisms.end(),
                      [](const Baptism& a, const Baptism& b) { return a.day < b.day; });
+    confirm();
+    bury();
     return std::move(made_);
   }
 
@@ -151,9 +184,7 @@ class Builder {
       b.hour = hour + (dice_.oneIn(2) ? ":30" : ":00");
     }
     sponsors(b, parents);
-    const int era = (day.year - FIRST_YEAR) * static_cast<int>(MINISTERS.size()) /
-                    (last_.year - FIRST_YEAR + 1);
-    b.minister = std::string(MINISTERS[static_cast<std::size_t>(era)]);
+    b.minister = ministerOf(day.year);
     grow(b, parents);
     made_.baptisms.push_back(b);
   }
@@ -174,11 +205,14 @@ class Builder {
       b.remarks = "Partida anulada por haberse inscrito dos veces.";
       return;
     }
-    const text::Date confirmed{b.day.year + dice_.between(12, 16), dice_.between(4, 6),
-                               dice_.between(1, 28)};
-    if (confirmed <= last_ && !dice_.oneIn(4))
+    const text::Date grown{b.day.year + dice_.between(12, 16), dice_.between(4, 6),
+                           dice_.between(1, 28)};
+    const text::Date confirmed = visitAfter(grown);
+    if (grown <= last_ && !dice_.oneIn(4) && confirmed <= last_) {
+      b.confirmed = confirmed;
       b.marginalNotes =
           "Recibió la Confirmación en esta parroquia el día " + text::toShort(confirmed) + ".";
+    }
     const text::Date wedding{b.day.year + dice_.between(23, 32), 1 + dice_.upTo(12),
                              dice_.between(1, 28)};
     if (wedding > last_ || dice_.oneIn(3)) return;
@@ -194,11 +228,126 @@ class Builder {
     else
       marry(own, spouse, &parents, nullptr, wedding);
     const Couple& c = made_.couples.back();
+    b.ownCouple = static_cast<int>(made_.couples.size()) - 1;
     if (!b.marginalNotes.empty()) b.marginalNotes += "\r\n";
     b.marginalNotes += "Contrajo matrimonio con " + spouse.full() + " en la parroquia " +
                        c.weddingParish + " de " +
                        std::string(TOWNS[static_cast<std::size_t>(c.weddingTown)].name) +
                        " el día " + text::toShort(wedding) + ".";
+  }
+
+  // Those who were baptised here, and others who live here or come from the villages around.
+  void confirm() {
+    for (int year = FIRST_VISIT; visitOf(year) <= last_; year += YEARS_BETWEEN_VISITS) {
+      std::vector<Confirmation> group;
+      for (std::size_t i = 0; i < made_.baptisms.size(); ++i)
+        if (made_.baptisms[i].confirmed == visitOf(year)) group.push_back(fromHere(i));
+      for (int n = dice_.between(12, 22); n > 0; --n) group.push_back(fromElsewhere(year));
+      std::stable_sort(group.begin(), group.end(),
+                       [](const Confirmation& a, const Confirmation& b) {
+                         return a.person.first < b.person.first;
+                       });
+      const Confirmer& who =
+          CONFIRMERS[static_cast<std::size_t>(year / YEARS_BETWEEN_VISITS) % CONFIRMERS.size()];
+      for (Confirmation& c : group) {
+        c.day = visitOf(year);
+        c.minister = who.name;
+        c.office = who.office;
+        c.sponsor = givenName(c.person.woman, year - 35) + " " + c.person.first + " " +
+                    dice_.pick(SURNAMES);
+        c.annulled = dice_.oneIn(90);
+        made_.confirmations.push_back(c);
+      }
+    }
+  }
+
+  Confirmation fromHere(std::size_t position) {
+    const Baptism& b = made_.baptisms[position];
+    const Couple& parents = made_.couples[static_cast<std::size_t>(b.couple)];
+    Confirmation c;
+    c.person = {b.name, parents.father.first, parents.mother.first, home_, b.girl};
+    c.baptism = static_cast<int>(position);
+    c.birth = b.birth;
+    c.baptised = b.day;
+    c.father = parents.father.full();
+    c.mother = parents.mother.full();
+    c.street = parents.street;
+    c.baptismParish = parish_;
+    c.baptismTown = home_;
+    return c;
+  }
+
+  Confirmation fromElsewhere(int year) {
+    Confirmation c;
+    c.person = stranger(dice_.oneIn(2), year - 15);
+    c.birth = {year - dice_.between(13, 17), dice_.between(1, 12), dice_.between(1, 28)};
+    c.baptised = daysAfter(c.birth, dice_.between(10, 90));
+    c.father = ancestor(false, c.person.first);
+    c.mother = ancestor(true, c.person.second);
+    c.street = dice_.pick(STREETS) + ", " + std::to_string(dice_.between(1, 48));
+    c.baptismParish = dice_.pick(PARISHES);
+    c.baptismTown = c.person.town;
+    return c;
+  }
+
+  // Those who were baptised here, and their husbands and wives from elsewhere.
+  void bury() {
+    std::vector<bool> fromHere(made_.couples.size() * 2);
+    for (std::size_t i = 0; i < made_.baptisms.size(); ++i) {
+      const Baptism& b = made_.baptisms[i];
+      if (b.annulled) continue;
+      const Couple& parents = made_.couples[static_cast<std::size_t>(b.couple)];
+      Burial d;
+      d.person = {b.name, parents.father.first, parents.mother.first, home_, b.girl};
+      d.baptism = static_cast<int>(i);
+      d.couple = b.ownCouple;
+      d.father = parents.father.name;
+      d.mother = parents.mother.name;
+      if (b.ownCouple >= 0) fromHere[static_cast<std::size_t>(b.ownCouple) * 2 + b.girl] = true;
+      die(d, b.birth);
+    }
+    for (std::size_t c = 0; c < made_.couples.size(); ++c)
+      for (const Person* p : {&made_.couples[c].father, &made_.couples[c].mother}) {
+        if (fromHere[c * 2 + p->woman]) continue;
+        Burial d;
+        d.person = *p;
+        d.couple = static_cast<int>(c);
+        d.father = givenName(false, 1900);
+        d.mother = givenName(true, 1900);
+        die(d, {made_.couples[c].wedding.year - dice_.between(22, 30), dice_.between(1, 12),
+                dice_.between(1, 28)});
+      }
+    std::stable_sort(made_.burials.begin(), made_.burials.end(),
+                     [](const Burial& a, const Burial& b) { return a.death < b.death; });
+    findWidowed();
+  }
+
+  void die(Burial& d, const text::Date& birth) {
+    d.age = d.couple < 0 && dice_.oneIn(9) ? dice_.between(1, 40) : dice_.between(61, 95);
+    d.death = daysAfter({birth.year + d.age, birth.month, std::min(birth.day, 28)},
+                        dice_.between(1, 330));
+    d.funeral = daysAfter(d.death, dice_.between(1, 2));
+    if (last_ < d.funeral) return;
+    d.hour = std::to_string(dice_.between(10, 23)) + (dice_.oneIn(2) ? ":15" : ":40");
+    d.cause = dice_.pick(CAUSES);
+    d.anointed = !dice_.oneIn(4);
+    d.minister = ministerOf(d.death.year);
+    made_.burials.push_back(d);
+  }
+
+  void findWidowed() {
+    std::vector<bool> one(made_.couples.size());
+    for (Burial& d : made_.burials) {
+      if (d.couple < 0) continue;
+      d.widowed = one[static_cast<std::size_t>(d.couple)];
+      one[static_cast<std::size_t>(d.couple)] = true;
+    }
+  }
+
+  std::string ministerOf(int year) const {
+    const int era =
+        (year - FIRST_YEAR) * static_cast<int>(MINISTERS.size()) / (last_.year - FIRST_YEAR + 1);
+    return std::string(MINISTERS[static_cast<std::size_t>(era)]);
   }
 
   Dice dice_;

@@ -44,16 +44,50 @@ struct Baptism {
   std::string marginalNotes;
   std::string remarks;
   bool annulled = false;
+  text::Date confirmed;  // in this parish; no day when not
+  int ownCouple = -1;    // position in Population::couples of the own marriage, -1 without one
+};
+
+/// One confirmation. Those of a day stand together, by surname.
+struct Confirmation {
+  Person person;
+  int baptism = -1;  // position in Population::baptisms, -1 for one baptised elsewhere
+  text::Date birth, baptised;
+  std::string father, mother;
+  std::string street;
+  std::string baptismParish;
+  int baptismTown = 0;
+  text::Date day;
+  std::string sponsor;
+  std::string minister, office;
+  bool annulled = false;
+};
+
+/// One burial.
+struct Burial {
+  Person person;
+  int baptism = -1;  // position in Population::baptisms, -1 for one who came from elsewhere
+  int couple = -1;   // position in Population::couples, -1 for one who was not married
+  std::string father, mother;
+  bool widowed = false;
+  int age = 0;
+  text::Date death, funeral;
+  std::string hour;
+  std::string cause;
+  std::string minister;
+  bool anointed = false;
 };
 
 /// The people of the sample parish: couples, their children, and the children of those. The same
 /// seed gives the same people.
 struct Population {
   std::vector<Couple> couples;
-  std::vector<Baptism> baptisms;  // in the order of the day of baptism
+  std::vector<Baptism> baptisms;            // in the order of the day of baptism
+  std::vector<Confirmation> confirmations;  // in the order of their days
+  std::vector<Burial> burials;              // in the order of the day of death
 };
 
-/// `home` is the position of the parish's town in TOWNS; nobody is baptised after `last`.
+/// `home` is the position of the parish's town in TOWNS; nothing happens after `last`.
 Population makePopulation(std::uint32_t seed, int home, const std::string& parish,
                           const text::Date& last);
 

@@ -36,7 +36,7 @@ TEST_F(Window, anotherNode_bringsItsRowsAndCommands) {
   EXPECT_EQ(shown(), 2);
   EXPECT_TRUE(enabled("cerrar-libro"));
   EXPECT_FALSE(visible("nueva-partida"));
-  window->showNode("LibrosDefuncion");
+  window->showNode("LibrosMatrimonio");
   EXPECT_EQ(shown(), 0);
   EXPECT_TRUE(enabled("nuevo-libro"));
   EXPECT_FALSE(enabled("cerrar-libro"));

@@ -62,12 +62,10 @@ std::int32_t claveNueva(Conexion& conexion, const char* sql, const std::string& 
 void insertarPadres(Conexion& conexion, cBautismo& b) {
   for (const Tabla<cBautismo>* tabla : {&TABLA_PADRES, &TABLA_MADRES, &TABLA_MATRIMONIO})
     conexion.Execute(sqlInsertar(*tabla, b));
-  b.CodPadres =
-      claveNueva(conexion, "SELECT MAX(IDPadres) AS ID FROM bautismo_padres WHERE Nombre = ",
-                 b.NombrePadres);
-  b.CodMadres =
-      claveNueva(conexion, "SELECT MAX(IDMadres) AS ID FROM bautismo_madres WHERE Nombre = ",
-                 b.NombreMadres);
+  b.CodPadres = claveNueva(
+      conexion, "SELECT MAX(IDPadres) AS ID FROM bautismo_padres WHERE Nombre = ", b.NombrePadres);
+  b.CodMadres = claveNueva(
+      conexion, "SELECT MAX(IDMadres) AS ID FROM bautismo_madres WHERE Nombre = ", b.NombreMadres);
   b.CodMatrimonio = claveNueva(
       conexion, "SELECT MAX(IDMatrimonio) AS ID FROM bautismo_matrimonio WHERE Parroquia = ",
       b.ParroquiaMatrimonio);
