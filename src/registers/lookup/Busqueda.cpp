@@ -74,13 +74,13 @@ std::vector<FilaBusqueda> BusquedaPorApellidos::buscar(FDAPI::Conexion& conexion
   const bool familia = &sacramento_ == &BAUTISMO;
   const std::string libros =
       solicitud ? "" : librosHasta(conexion, sacramento_, institucion, libro);
-  // Of the dead also those in no known book are told apart from requests.
-  const bool sinLibro = libros.empty() || &sacramento_ == &DEFUNCION;
+  // The register of deaths says it even where it names the books.
+  const bool fueraSolicitudes = libros.empty() || &sacramento_ == &DEFUNCION;
   const auto [primero, segundo] = par();
   store::Recordset filas = conexion.Execute(
       (familia ? DE_FAMILIA : DE_PERSONA) + entreComillas(primero) +
       " AND SegundoApellido = " + entreComillas(segundo) + " AND CodBautismo = IDBautismo" +
-      libros + (sinLibro ? " AND codLibro <> 0" : ""));
+      libros + (fueraSolicitudes ? " AND codLibro <> 0" : ""));
   std::vector<FilaBusqueda> encontradas;
   for (; !filas.EOF_(); filas.MoveNext()) encontradas.push_back(leida(filas, familia));
   return encontradas;

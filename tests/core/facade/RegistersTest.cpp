@@ -14,7 +14,6 @@ using forms::Answer;
 using forms::FormDriver;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
-using ::testing::StartsWith;
 
 constexpr const char* BORRAR = "¿Está seguro que desea eliminar la partida?";
 constexpr const char* NO_SE_PUEDE = "¡Esta partida no se puede eliminar!";
@@ -265,6 +264,22 @@ TEST_P(RegisterFacade, OldBook_LosesAnyEntryWithAllItsRowsAndCountsFromOne) {
     }
   }
   EXPECT_EQ(w.count(w.sql("{Libros} WHERE FolioSiguiente=1 AND NumeroSiguiente=\"1\"")), 1);
+  w.esperarLibre(w.s);
+  EXPECT_SCRIPT_DONE(w.user);
+}
+
+TEST_P(RegisterFacade, MovingRequests_NeedsOneAndOpensOnThoseOfTheRegister) {
+  Real w(GetParam());
+  if (hasRequests()) w.user.expectMessage("¡No hay solicitudes para importar!");
+  w.nucleo.ImportarSolicitudes(w.con(), w.config, w.requests());
+  w.makeRequest();
+  if (hasRequests())
+    w.user.expectForm("frmSolicitudes", [&](FormDriver& u) {
+      u.choose("cboInstitucion", "San Pedro");
+      EXPECT_EQ(u.get<forms::ListBox>("lstSolicitudes(0)").list(0), "Ana García Pérez");
+      u.click("cmdBoton(1)");
+    });
+  w.nucleo.ImportarSolicitudes(w.con(), w.config, w.requests());
   w.esperarLibre(w.s);
   EXPECT_SCRIPT_DONE(w.user);
 }
