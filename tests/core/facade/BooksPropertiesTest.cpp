@@ -3,7 +3,6 @@
 
 #include "core/contract/Sacramento.h"
 #include "core/facade/FacadeWorld.h"
-#include "store/FailingEngine.h"
 
 namespace fidaleon::tests {
 namespace {
@@ -192,55 +191,6 @@ TEST(FacadeBooks, BookGone_OpensNothing) {
   w.nucleo.PropiedadesLibro(w.con(), 77, w.config, NODO);
   EXPECT_EQ(w.user.messages().size(), 1u);
   w.esperarLibre();
-  EXPECT_SCRIPT_DONE(w.user);
-}
-
-TEST(FacadeRequests, ImportarSolicitudes_HoldsTheInstitutionsAndMoves) {
-  SpyWorld w;
-  w.user.expectMessage("¡No hay solicitudes para importar!");
-  w.nucleo.ImportarSolicitudes(w.con(), w.config, "SolicitudesBautismo");
-  EXPECT_THAT(w.bloqueos(), ElementsAre("Institucion compartida", "efectuar", "liberar"));
-  w.hacerSolicitud();
-  w.user.expectForm("frmSolicitudes", [&](FormDriver& u) {
-    u.choose("cboInstitucion", "San Ginés");
-    u.tab("mstSolicitudes", 1);
-    u.click("cmdMover(1)");
-    u.click("cmdBoton(0)");
-    EXPECT_TRUE(u.closed());
-  });
-  w.nucleo.ImportarSolicitudes(w.con(), w.config, "SolicitudesBautismo");
-  EXPECT_EQ(w.value("SELECT CodLibro FROM Bautismo"), "1");
-  EXPECT_EQ(w.value("SELECT Numero FROM Bautismo"), "1");
-  EXPECT_SCRIPT_DONE(w.user);
-}
-
-TEST(FacadeRequests, MoveThatFails_GivesTheBookAndItsEntriesBack) {
-  SpyWorld w;
-  w.hacerSolicitud();
-  store::FailingEngine::wrap(w.con())->failOn("UPDATE Bautismo SET InstitucionSolicitud");
-  w.user.answerAnything(Answer::Ok);
-  w.user.expectForm("frmSolicitudes", [&](FormDriver& u) {
-    u.choose("cboInstitucion", "San Ginés");
-    u.tab("mstSolicitudes", 1);
-    u.click("cmdMover(1)");
-    w.spy.log.clear();
-    u.click("cmdBoton(0)");
-    EXPECT_THAT(w.bloqueos(), ElementsAre("Libro_Bautismo [1] existe [SELECT IDLibroBautismo FROM "
-                                          "Libro_Bautismo WHERE IDLibroBautismo=1]",
-                                          "Bautismo", "efectuar", "liberar"));
-    u.click("cmdBoton(1)");
-  });
-  w.nucleo.ImportarSolicitudes(w.con(), w.config, "SolicitudesBautismo");
-  EXPECT_SCRIPT_DONE(w.user);
-}
-
-TEST(FacadeRequests, InstitutionsHeldElsewhere_NothingOpens) {
-  FacadeWorld w;
-  w.hacerSolicitud();
-  const auto otra = w.ocupar("Institucion");
-  w.user.answerAnything(Answer::Ok);
-  w.nucleo.ImportarSolicitudes(w.con(), w.config, "SolicitudesBautismo");
-  EXPECT_EQ(w.user.messages().size(), 1u);
   EXPECT_SCRIPT_DONE(w.user);
 }
 

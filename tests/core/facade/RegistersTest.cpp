@@ -268,19 +268,31 @@ TEST_P(RegisterFacade, OldBook_LosesAnyEntryWithAllItsRowsAndCountsFromOne) {
   EXPECT_SCRIPT_DONE(w.user);
 }
 
-TEST_P(RegisterFacade, MovingRequests_NeedsOneAndOpensOnThoseOfTheRegister) {
-  Real w(GetParam());
-  if (hasRequests()) w.user.expectMessage("¡No hay solicitudes para importar!");
+TEST_P(RegisterFacade, MovingRequests_HoldsTheInstitutionsAndThenTheBookAndItsEntries) {
+  Spied w(GetParam());
+  if (!hasRequests()) return w.nucleo.ImportarSolicitudes(w.con(), w.config, w.requests());
+  w.user.expectMessage("¡No hay solicitudes para importar!");
   w.nucleo.ImportarSolicitudes(w.con(), w.config, w.requests());
+  EXPECT_THAT(w.bloqueos(), ElementsAre("Institucion compartida", "efectuar", "liberar"));
   w.makeRequest();
-  if (hasRequests())
-    w.user.expectForm("frmSolicitudes", [&](FormDriver& u) {
-      u.choose("cboInstitucion", "San Pedro");
-      EXPECT_EQ(u.get<forms::ListBox>("lstSolicitudes(0)").list(0), "Ana García Pérez");
-      u.click("cmdBoton(1)");
-    });
+  store::FailingEngine::wrap(w.con())->failOn(w.sql("UPDATE {Partidas} SET InstitucionSolicitud"));
+  w.user.answerAnything(Answer::Ok);
+  w.user.expectForm("frmSolicitudes", [&](FormDriver& u) {
+    u.choose("cboInstitucion", "San Pedro");
+    u.tab("mstSolicitudes", 1);
+    u.click("cmdMover(1)");
+    for (const bool fails : {true, false}) {
+      w.spy.log.clear();
+      u.click("cmdBoton(0)");
+      EXPECT_THAT(w.bloqueos(),
+                  ElementsAre(w.sql("{Libros} [1] existe [SELECT {IDLibro} FROM {Libros} WHERE "
+                                    "{IDLibro}=1]"),
+                              w.s.tablaPartidas, "efectuar", "liberar"));
+      EXPECT_EQ(u.closed(), !fails);
+    }
+  });
   w.nucleo.ImportarSolicitudes(w.con(), w.config, w.requests());
-  w.esperarLibre(w.s);
+  EXPECT_EQ(w.count(w.sql("{Partidas} WHERE CodLibro=1 AND Numero=\"1\"")), 1);
   EXPECT_SCRIPT_DONE(w.user);
 }
 
