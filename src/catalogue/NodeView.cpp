@@ -3,6 +3,7 @@
 #include "catalogue/CensusLists.h"
 #include "core/contract/CcNodos.h"
 #include "core/statements/Sentencia.h"
+#include "documents/Duplicada.h"
 #include "registers/entry/DialogoDePartida.h"
 #include "registers/requests/OrigenSolicitudes.h"
 
@@ -233,9 +234,8 @@ std::vector<NodeView> makeNodes() {
                        r);
   addCensus(tree, parish);
   const NodeView reports = tree.folder(CcNodos::INFORMESYDOCUMENTOS);
-  tree.add(CcNodos::INFDUPLICADASBAUTISMO, CcNodos::INFDUPLICADASBAUTISMO, NodeKind::Reports,
-           &reports)
-      .sacrament = &BAUTISMO;
+  for (const documents::Duplicada& d : documents::duplicadas())
+    tree.add(d.nodo, d.nodo, NodeKind::Reports, &reports).sacrament = &d.sacramento;
   addListReports(tree, reports);
   describeInstitutions(
       tree.add(CcNodos::INSTITUCION, CcNodos::INSTITUCION, NodeKind::Institutions, nullptr));

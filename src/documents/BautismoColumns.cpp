@@ -227,18 +227,9 @@ Columns bautismoBook() {
 }
 
 Columns bautismoIndex() {
-  return {
-      {"InstitucionNombre", Source::Stored, "InstitucionNombre"},
-      {"InstitucionTipo", Source::Stored, "InstitucionTipo"},
-      {"Libro", Source::Stored, "NombreLibro"},
-      {"Folio", Source::Stored, "Folio"},
-      {"Numero", Source::Stored, "Numero"},
-      {"PrimerApellidoHijo", Source::Stored, "PrimerApellidoHijo"},
-      {"SegundoApellidoHijo", Source::Stored, "SegundoApellidoHijo"},
-      {"NombreHijo", Source::Stored, "NombreHijo"},
-      {"Año", Source::Year, "FechaCreacion"},
-      {"Letra", Source::Initial, "PrimerApellidoHijo"},
-  };
+  return indexLine("NombreLibro", {{"PrimerApellidoHijo", Source::Stored, "PrimerApellidoHijo"},
+                                   {"SegundoApellidoHijo", Source::Stored, "SegundoApellidoHijo"},
+                                   {"NombreHijo", Source::Stored, "NombreHijo"}});
 }
 
 // The dialog would leave the Null of a place as it is; a look-up gives none, so that its places

@@ -1,6 +1,6 @@
 #include "documents/BautismoStatements.h"
 
-#include "core/statements/Citas.h"
+#include "documents/Conditions.h"
 
 namespace fidaleon::documents {
 
@@ -125,10 +125,6 @@ std::string requestSantiagoStatement(std::int32_t idBautismo) {
       "Bautismo_Madres.AbuelaMatCodMunicipioParrBaut, Bautismo_Matrimonio.TelefonoPadres");
 }
 
-std::string bookCheck(std::int32_t idLibro) {
-  return "SELECT CodLibro FROM bautismo WHERE CodLibro=" + std::to_string(idLibro);
-}
-
 std::string bookStatement(std::int32_t idLibro) {
   return bookEntries("bautismo.codlibro=" + std::to_string(idLibro), "") +
          " ORDER BY Val(CStr(Folio)) , Val(Numero)";
@@ -151,12 +147,8 @@ std::string indexStatement(std::int32_t idLibro) {
 }
 
 std::string duplicateStatement(std::int32_t ano, std::int32_t idInstitucion) {
-  const std::string year = std::to_string(ano);
-  const std::string id = std::to_string(idInstitucion);
-  return bookEntries("FechaBautismo >=" + entreComillas(year + "0101") +
-                         " AND FechaBautismo <=" + entreComillas(year + "1231"),
-                     ", Libro_Bautismo.FechaCreacion") +
-         " AND Libro_Bautismo.CodInstitucion = " + id + " AND IDInstitucion = " + id;
+  return bookEntries(inYear("FechaBautismo", ano), ", Libro_Bautismo.FechaCreacion") +
+         ofBooks("Libro_Bautismo", idInstitucion);
 }
 
 }  // namespace fidaleon::documents

@@ -16,8 +16,6 @@ std::string volanteStatement(std::int32_t idBautismo);
 std::string requestStatement(std::int32_t idBautismo);
 std::string requestSantiagoStatement(std::int32_t idBautismo);
 
-/// A row as long as the book has entries.
-std::string bookCheck(std::int32_t idLibro);
 /// All entries of a book, annulled ones too, in the order of the pages, and of the names.
 std::string bookStatement(std::int32_t idLibro);
 std::string indexStatement(std::int32_t idLibro);

@@ -38,4 +38,25 @@ Columns insertingBehind(Columns columns, std::string_view name, const Column& ad
   return columns;
 }
 
+Columns ofInstitution(Columns columns) {
+  for (Column& column : columns) {
+    if (!std::string_view(column.name).starts_with("Institucion")) continue;
+    if (column.source == Source::Stored) column.source = Source::InstitutionStored;
+    if (column.source == Source::Town) column.source = Source::InstitutionTown;
+    if (column.source == Source::Province) column.source = Source::InstitutionProvince;
+  }
+  return columns;
+}
+
+Columns indexLine(const char* libro, const Columns& persona) {
+  return joined({{{"InstitucionNombre", Source::Stored, "InstitucionNombre"},
+                  {"InstitucionTipo", Source::Stored, "InstitucionTipo"},
+                  {"Libro", Source::Stored, libro},
+                  {"Folio", Source::Stored, "Folio"},
+                  {"Numero", Source::Stored, "Numero"}},
+                 persona,
+                 {{"Año", Source::Year, "FechaCreacion"},
+                  {"Letra", Source::Initial, persona.front().field}}});
+}
+
 }  // namespace fidaleon::documents

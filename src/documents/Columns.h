@@ -57,5 +57,11 @@ Columns joined(std::initializer_list<Columns> groups);
 Columns without(Columns columns, std::initializer_list<std::string_view> names);
 Columns replacing(Columns columns, std::string_view name, const Column& by);
 Columns insertingBehind(Columns columns, std::string_view name, const Column& added);
+/// The columns of the institution are taken of the one that is read by itself.
+Columns ofInstitution(Columns columns);
+
+/// One line of an index. `libro` is the field of the book's name; `persona` are first surname,
+/// second surname and name.
+Columns indexLine(const char* libro, const Columns& persona);
 
 }  // namespace fidaleon::documents

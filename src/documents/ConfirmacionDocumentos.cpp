@@ -1,5 +1,7 @@
 #include "documents/ConfirmacionDocumentos.h"
 
+#include "documents/Conditions.h"
+
 namespace fidaleon::documents {
 
 namespace {
@@ -91,6 +93,25 @@ Columns confirmacionRequest() {
   return joined({entry, {{"FechaBautLargaMeno", Source::LongDateMenorca, "FechaBaut"}}});
 }
 
+Columns confirmacionBook() {
+  return joined({confirmacionEntry(),
+                 {{"FechaConfiLargaMeno", Source::LongDateMenorca, "FechaConfirmacion"},
+                  {"FechaBautLargaMeno", Source::LongDateMenorca, "FechaBaut"}}});
+}
+
+Columns confirmacionDuplicate() {
+  return joined({ofInstitution(confirmacionEntry()),
+                 {{"Edad", Source::AgeAt, "FechaNac", Quoting::Double, "FechaConfirmacion"},
+                  {"Año", Source::Year, "FechaConfirmacion"},
+                  {"FechaCreacionLibro", Source::ShortDate, "FechaCreacion", Quoting::Single}}});
+}
+
+Columns confirmacionIndex() {
+  return indexLine("NombreLibro", {{"PrimerApellido", Source::Stored, "PrimerApellido"},
+                                   {"SegundoApellido", Source::Stored, "SegundoApellido"},
+                                   {"Nombre", Source::Stored, "Nombre"}});
+}
+
 std::string confirmacionStatement(std::int32_t idConfirmacion) {
   return entries("Confirmacion.IdConfirmacion=" + std::to_string(idConfirmacion));
 }
@@ -101,6 +122,26 @@ std::string confirmacionRequestStatement(std::int32_t idConfirmacion) {
          "Libro_Confirmacion, INSTITUCION WHERE Confirmacion.IdConfirmacion=" +
          key + " And Confirmacion_Datos.CodConfirmacion = " + key +
          " And Confirmacion_Bautismo.CodConfirmacion = " + key;
+}
+
+std::string confirmacionBookStatement(std::int32_t idLibro) {
+  return entries("confirmacion.codlibro=" + std::to_string(idLibro)) +
+         " ORDER BY Folio, Val(Numero)";
+}
+
+std::string confirmacionIndexStatement(std::int32_t idLibro) {
+  const std::string key = std::to_string(idLibro);
+  return "SELECT InstitucionNombre, InstitucionTipo, Libro_Confirmacion.Nombre AS NombreLibro, "
+         "Libro_Confirmacion.FechaCreacion, Confirmacion.Folio, Confirmacion.Numero, "
+         "Confirmacion.Nombre, Confirmacion.PrimerApellido, Confirmacion.SegundoApellido "
+         "FROM Confirmacion, Libro_Confirmacion, Institucion WHERE Confirmacion.Codlibro=" +
+         key + " AND Libro_Confirmacion.IDLibroConfirmacion=" + key +
+         " AND Institucion.IDInstitucion=Libro_Confirmacion.CodInstitucion "
+         "ORDER BY Confirmacion.PrimerApellido, Confirmacion.SegundoApellido, Confirmacion.Nombre";
+}
+
+std::string confirmacionDuplicateStatement(std::int32_t ano, std::int32_t idInstitucion) {
+  return entries(inYear("FechaConfirmacion", ano)) + ofBooks("Libro_Confirmacion", idInstitucion);
 }
 
 }  // namespace fidaleon::documents

@@ -1,5 +1,7 @@
 #include "documents/DefuncionDocumentos.h"
 
+#include "documents/Conditions.h"
+
 namespace fidaleon::documents {
 
 namespace {
@@ -80,8 +82,8 @@ Columns certificate(Source notes) {
                   {"FechaSistemaCorta", Source::IssueShort}}});
 }
 
-/// Entries with their book and its institution.
-std::string entries(const std::string& which) {
+/// Entries with their book and its institution; `further` are more columns.
+std::string entries(const std::string& which, const char* further = "") {
   return "SELECT Libro_Defuncion.Nombre AS Libro, Defuncion.Numero AS Numero, Defuncion.Folio AS "
          "Folio, Defuncion_Datos.FechaInhumacion, Defuncion.Parroquia, Defuncion.CodMunicipioParr, "
          "Defuncion.DiocesisParr, Defuncion.Parroco, Defuncion_Datos.Cementerio, Defuncion.Nombre "
@@ -93,8 +95,9 @@ std::string entries(const std::string& which) {
          "Defuncion.CodMunicipioNaturalDe, Defuncion.NumeroHijos, Defuncion.NombresHijos, "
          "Defuncion_Datos.Sacramentos, Defuncion_Datos.Sacerdote, Defuncion.NombrePadre, "
          "Defuncion.NombreMadre, Institucion.InstitucionNombre AS Institucion, InstitucionTipo, "
-         "Institucion.CodMunicipio, Institucion.Diocesis FROM Defuncion, Defuncion_Datos, "
-         "Libro_Defuncion, Institucion WHERE "
+         "Institucion.CodMunicipio, Institucion.Diocesis" +
+         std::string(further) +
+         " FROM Defuncion, Defuncion_Datos, Libro_Defuncion, Institucion WHERE "
          "Libro_Defuncion.CodInstitucion=Institucion.IDInstitucion AND "
          "Defuncion.CodLibro=Libro_Defuncion.IDLibroDefuncion AND "
          "Defuncion_Datos.CodDifunto=Defuncion.IDDifunto AND " +
@@ -135,8 +138,65 @@ Columns defuncionEntry() {
       {defuncionEntryMenorca(), {{"NotasMarginales", Source::PaddedNotes, "NotasMarginales"}}});
 }
 
+Columns defuncionDuplicate() {
+  return {{"Libro", Source::Stored, "Libro"},
+          {"Folio", Source::Stored, "Folio"},
+          {"Numero", Source::Stored, "Numero"},
+          {"PrimerApellido", Source::Stored, "PrimerApellido"},
+          {"SegundoApellido", Source::Stored, "SegundoApellido"},
+          {"Nombre", Source::Stored, "Nombre"},
+          {"FechaDefuncionCorta", Source::ShortDate, "FechaDefuncion"},
+          {"FechaInhumacionCorta", Source::ShortDate, "FechaInhumacion"},
+          {"Consorte", Source::Stored, "Consorte"},
+          {"NombresHijos", Source::Stored, "NombresHijos"},
+          {"NombrePadre", Source::Stored, "NombrePadre"},
+          {"NombreMadre", Source::Stored, "NombreMadre"},
+          {"Sacramentos", Source::Stored, "Sacramentos"},
+          {"Sacerdote", Source::Stored, "Sacerdote"},
+          {"Parroquia", Source::Stored, "Parroquia"},
+          {"PoblacionDefn", Source::Town, "CodMunicipioDefn"},
+          {"ProvinciaDefn", Source::Province, "CodMunicipioDefn"},
+          {"DiocesisParr", Source::Stored, "DiocesisParr"},
+          {"FechaDefuncionLarga", Source::LongDate, "FechaDefuncion"},
+          {"InstitucionParroco", Source::Stored, "Parroco"},
+          {"InstitucionNombre", Source::InstitutionStored, "InstitucionNombre"},
+          {"InstitucionTipo", Source::InstitutionStored, "InstitucionTipo"},
+          {"InstitucionPoblacion", Source::InstitutionTown, "CodMunicipio"},
+          {"InstitucionProvincia", Source::InstitutionProvince, "CodMunicipio"},
+          {"Año", Source::Year, "FechaDefuncion"},
+          {"FechaSistemaLarga", Source::IssueLong},
+          {"FechaCreacionLibro", Source::ShortDate, "FechaCreacion", Quoting::Single}};
+}
+
+Columns defuncionIndex() {
+  return indexLine("Libro_Defuncion.Nombre",
+                   {{"PrimerApellido", Source::Stored, "PrimerApellido"},
+                    {"SegundoApellido", Source::Stored, "SegundoApellido"},
+                    {"Nombre", Source::Stored, "Defuncion.Nombre"}});
+}
+
 std::string defuncionStatement(std::int32_t idDifunto) {
   return entries("Defuncion.IDDifunto=" + std::to_string(idDifunto));
+}
+
+std::string defuncionBookStatement(std::int32_t idLibro) {
+  return entries("Defuncion.CodLibro=" + std::to_string(idLibro)) +
+         " ORDER BY Defuncion.Folio, Val(Defuncion.Numero)";
+}
+
+std::string defuncionIndexStatement(std::int32_t idLibro) {
+  return "SELECT * FROM Defuncion, Defuncion_Datos, Libro_Defuncion, Institucion WHERE "
+         "Defuncion.CodLibro=" +
+         std::to_string(idLibro) +
+         " AND Defuncion_Datos.CodDifunto=Defuncion.IDDifunto AND "
+         "Libro_Defuncion.IDLibroDefuncion=Defuncion.CodLibro AND "
+         "Institucion.IDInstitucion=Libro_Defuncion.CodInstitucion "
+         "ORDER BY Defuncion.PrimerApellido, Defuncion.SegundoApellido, Defuncion.Nombre";
+}
+
+std::string defuncionDuplicateStatement(std::int32_t ano, std::int32_t idInstitucion) {
+  return entries(inYear("FechaDefuncion", ano), ", Libro_Defuncion.FechaCreacion") +
+         ofBooks("Libro_Defuncion", idInstitucion);
 }
 
 }  // namespace fidaleon::documents

@@ -16,8 +16,18 @@ Columns defuncionBook(Source hour);
 /// As the book with the date of issue; in the base edition the notes too.
 Columns defuncionEntryMenorca();
 Columns defuncionEntry();
+/// Little of the entry. Its priest is the entry's; the institution is the one whose duplicate it
+/// is.
+Columns defuncionDuplicate();
+Columns defuncionIndex();
 
 /// With book and institution.
 std::string defuncionStatement(std::int32_t idDifunto);
+
+/// All entries of a book, annulled ones too, in the order of the pages, and of the names.
+std::string defuncionBookStatement(std::int32_t idLibro);
+std::string defuncionIndexStatement(std::int32_t idLibro);
+/// All entries of a calendar year in the books of an institution, without an order.
+std::string defuncionDuplicateStatement(std::int32_t ano, std::int32_t idInstitucion);
 
 }  // namespace fidaleon::documents

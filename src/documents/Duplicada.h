@@ -5,9 +5,11 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "core/contract/Sacramento.h"
 #include "documents/DocumentRow.h"
+#include "documents/ProgresoImpresion.h"
 
 namespace fidaleon::documents {
 
@@ -25,8 +27,10 @@ struct Duplicada {
   DocumentKind documento;
   /// Reads all entries of a year in the books of an institution, without an order.
   std::string (*sentencia)(std::int32_t ano, std::int32_t idInstitucion);
+  const char* progreso = PROCESANDO;  // beside the bar
 };
 
+const std::vector<Duplicada>& duplicadas();
 /// By the node of the report ("Duplicadas de bautismo") or of the entries ("PartidasBautismo").
 /// Null for any other name, and for a sacrament without a duplicate.
 const Duplicada* duplicadaDeNodo(std::string_view nodo);

@@ -23,6 +23,8 @@ std::string Lookups::longDate(const std::string& fecha, Wording wording) {
       return dates_->FechaNumAFechaLetraCastellano(fecha);
     case Wording::YearInWords:
       return dates_->FechaNumAFechaLetra1(fecha);
+    case Wording::MenorcaStored:
+      return dates_->FechaNumAFechaLetraMenorca(text::replaceAll(fecha, "/", ""));
     case Wording::Menorca:
       break;
   }

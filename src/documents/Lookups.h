@@ -9,8 +9,9 @@
 
 namespace fidaleon::documents {
 
-/// Language of the dates in words. The last two are forms that single columns ask for.
-enum class Wording { Castellano, Menorca, AlwaysSpanish, YearInWords };
+/// Language of the dates in words. MenorcaStored asks for the Catalan ones by the stored date, as
+/// the book of deaths does. The last two are forms that single columns ask for.
+enum class Wording { Castellano, Menorca, MenorcaStored, AlwaysSpanish, YearInWords };
 
 /// What one run of a document asks of the support library: dates in words and names of places.
 /// Places are asked for once and remembered for the length of the run, during which the entry or

@@ -16,6 +16,12 @@ constexpr const char* BAPTISM = "Documentos_Bautismo";
 constexpr const char* CONFIRMATION = "Documentos_Confirmacion";
 constexpr const char* DEATH = "Documentos_Defuncion";
 
+constexpr const char* BAPTISMS = "SELECT CodLibro FROM bautismo WHERE CodLibro=";
+constexpr const char* CONFIRMATIONS = "SELECT codlibro FROM confirmacion WHERE codlibro=";
+constexpr const char* COUNT_OF_DEATHS =
+    "SELECT COUNT(IDDifunto) AS Total FROM Defuncion WHERE CodLibro=";
+constexpr const char* DEATHS = "SELECT CodLibro FROM Defuncion WHERE CodLibro=";
+
 }  // namespace
 
 const std::vector<Miembro>& miembros() {
@@ -55,16 +61,16 @@ const std::vector<Miembro>& miembros() {
       {{"ImprimirLibroBautismo", BAPTISM, Wording::Castellano, &WORDS_BOOK, bautismoBook()},
        bookStatement,
        nullptr,
-       bookCheck},
+       BAPTISMS},
       {{"ImprimirLibroBautismoMenorca", BAPTISM, Wording::Menorca, &WORDS_BOOK_MENORCA,
         bautismoBook()},
        bookStatement,
        nullptr,
-       bookCheck},
+       BAPTISMS},
       {{"ImprimirIndiceLibroBautismo", BAPTISM, Wording::Castellano, nullptr, bautismoIndex()},
        indexStatement,
        nullptr,
-       bookCheck},
+       BAPTISMS},
       {{"ImprimirCertificadoPartidaConfirmacion", CONFIRMATION, Wording::Castellano, nullptr,
         confirmacionCertificate(Source::LongDateSpanish)},
        confirmacionStatement},
@@ -94,6 +100,21 @@ const std::vector<Miembro>& miembros() {
       {{"ImprimirSolicitudConfirmacion", CONFIRMATION, Wording::Castellano, nullptr,
         confirmacionRequest()},
        confirmacionRequestStatement},
+      {{"ImprimirLibroConfirmacion", CONFIRMATION, Wording::Castellano, nullptr,
+        confirmacionBook()},
+       confirmacionBookStatement,
+       nullptr,
+       CONFIRMATIONS},
+      {{"ImprimirLibroConfirmacionMenorca", CONFIRMATION, Wording::Menorca, nullptr,
+        confirmacionBook()},
+       confirmacionBookStatement,
+       nullptr,
+       CONFIRMATIONS},
+      {{"ImprimirIndiceLibroConfirmacion", CONFIRMATION, Wording::Castellano, nullptr,
+        confirmacionIndex()},
+       confirmacionIndexStatement,
+       nullptr,
+       CONFIRMATIONS},
       {{"ImprimirCertificadoPartidaDefuncion", DEATH, Wording::Castellano, nullptr,
         defuncionCertificate(Source::PaddedNotes)},
        defuncionStatement},
@@ -111,6 +132,20 @@ const std::vector<Miembro>& miembros() {
       {{"ImprimirPartidaDefuncionMenorca", DEATH, Wording::Menorca, nullptr,
         defuncionEntryMenorca()},
        defuncionStatement},
+      {{"ImprimirLibroDefuncion", DEATH, Wording::Castellano, nullptr,
+        defuncionBook(Source::Stored)},
+       defuncionBookStatement,
+       nullptr,
+       COUNT_OF_DEATHS},
+      {{"ImprimirLibroDefuncionMenorca", DEATH, Wording::MenorcaStored, nullptr,
+        defuncionBook(Source::Stored)},
+       defuncionBookStatement,
+       nullptr,
+       COUNT_OF_DEATHS},
+      {{"ImprimirIndiceLibroDefuncion", DEATH, Wording::Castellano, nullptr, defuncionIndex()},
+       defuncionIndexStatement,
+       nullptr,
+       DEATHS},
   };
   return todos;
 }

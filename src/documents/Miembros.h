@@ -16,8 +16,9 @@ struct Miembro {
   DocumentKind kind;
   std::string (*rows)(std::int32_t key);  // one record for each row
   const char* readBack = nullptr;         // run behind the row, its answer dropped
-  /// Of a book: the first field is not 0 as long as there are entries.
-  std::string (*check)(std::int32_t key) = nullptr;
+  /// Of a book: followed by its key, a statement whose first field is not 0 as long as there are
+  /// entries.
+  const char* check = nullptr;
 };
 
 const std::vector<Miembro>& miembros();

@@ -28,7 +28,7 @@ void cInformes::escribir(const char* miembro, FDAPI::Conexion& conFidaleon,
     store::Transaction transaction(conInformes);
     documents::Lookups lookups(contexto_, conFidaleon);
     const forms::Hourglass hourglass(contexto_.ui());
-    if (!escrito.check || hayPartidas(conFidaleon, escrito.check(lngID))) {
+    if (!escrito.check || hayPartidas(conFidaleon, escrito.check + std::to_string(lngID))) {
       store::Recordset entries = conFidaleon.Execute(escrito.rows(lngID));
       documents::RowStatements rows(escrito.kind, signature, lookups, entries);
       const auto fidaleon = contexto_.fidaleon();

@@ -18,108 +18,47 @@ class cInformes {
   /// `contexto` must outlive this object.
   explicit cInformes(Contexto& contexto) : contexto_(contexto) {}
 
-  // Baptism: Documentos_Bautismo
-  void ImprimirCertificadoPartidaBautismo(FDAPI::Conexion& conFidaleon,
-                                          FDAPI::Conexion& conInformes, std::int32_t lngID,
-                                          const std::string& strEncargado,
-                                          const std::string& strFecha);
-  void ImprimirCertificadoPartidaBautismoMenorca(FDAPI::Conexion& conFidaleon,
-                                                 FDAPI::Conexion& conInformes, std::int32_t lngID,
-                                                 const std::string& strEncargado,
-                                                 const std::string& strFecha);
-  void ImprimirCertificadoLiteralPartidaBautismo(FDAPI::Conexion& conFidaleon,
-                                                 FDAPI::Conexion& conInformes, std::int32_t lngID,
-                                                 const std::string& strEncargado,
-                                                 const std::string& strFecha);
-  void ImprimirCertificadoLiteralPartidaBautismoMenorca(FDAPI::Conexion& conFidaleon,
-                                                        FDAPI::Conexion& conInformes,
-                                                        std::int32_t lngID,
-                                                        const std::string& strEncargado,
-                                                        const std::string& strFecha);
-  void ImprimirPartidaBautismo(FDAPI::Conexion& conFidaleon, FDAPI::Conexion& conInformes,
-                               std::int32_t lngID);
-  void ImprimirPartidaBautismoMenorca(FDAPI::Conexion& conFidaleon, FDAPI::Conexion& conInformes,
-                                      std::int32_t lngID);
+  using Documento = void(FDAPI::Conexion& conFidaleon, FDAPI::Conexion& conInformes,
+                         std::int32_t lngID);
+  using DocumentoFirmado = void(FDAPI::Conexion& conFidaleon, FDAPI::Conexion& conInformes,
+                                std::int32_t lngID, const std::string& strEncargado,
+                                const std::string& strFecha);
+
+  // Baptism: Documentos_Bautismo. Those without a date of issue bear today's, here and below.
+  DocumentoFirmado ImprimirCertificadoPartidaBautismo, ImprimirCertificadoPartidaBautismoMenorca,
+      ImprimirCertificadoLiteralPartidaBautismo, ImprimirCertificadoLiteralPartidaBautismoMenorca;
+  Documento ImprimirPartidaBautismo, ImprimirPartidaBautismoMenorca;
   /// Fills the columns of both editions.
-  void ImprimirVolanteBautismo(FDAPI::Conexion& conFidaleon, FDAPI::Conexion& conInformes,
-                               std::int32_t lngID);
+  Documento ImprimirVolanteBautismo;
   /// For a request: an entry of a book has no row here.
-  void ImprimirSolicitudPartidaBautismoDatos(FDAPI::Conexion& conFidaleon,
-                                             FDAPI::Conexion& conInformes, std::int32_t lngID);
-  void ImprimirSolicitudPartidaBautismoDatosMenorca(FDAPI::Conexion& conFidaleon,
-                                                    FDAPI::Conexion& conInformes,
-                                                    std::int32_t lngID);
-  void ImprimirSolicitudPartidaBautismoDatosSantiago(FDAPI::Conexion& conFidaleon,
-                                                     FDAPI::Conexion& conInformes,
-                                                     std::int32_t lngID);
+  Documento ImprimirSolicitudPartidaBautismoDatos, ImprimirSolicitudPartidaBautismoDatosMenorca,
+      ImprimirSolicitudPartidaBautismoDatosSantiago;
 
-  // A whole baptism book by its key, one row for each entry, annulled ones too. A book without
-  // entries has none and is told to nobody. The host's progress display is open while rows are
-  // being written; a user who stops it there leaves the table as it was.
-  void ImprimirLibroBautismo(FDAPI::Conexion& conFidaleon, FDAPI::Conexion& conInformes,
-                             std::int32_t lngID);
-  void ImprimirLibroBautismoMenorca(FDAPI::Conexion& conFidaleon, FDAPI::Conexion& conInformes,
-                                    std::int32_t lngID);
-  /// The same for all editions. Año is the year of the book on every row.
-  void ImprimirIndiceLibroBautismo(FDAPI::Conexion& conFidaleon, FDAPI::Conexion& conInformes,
-                                   std::int32_t lngID);
-
-  // Confirmation: Documentos_Confirmacion. Those without a date of issue bear today's.
-  void ImprimirCertificadoPartidaConfirmacion(FDAPI::Conexion& conFidaleon,
-                                              FDAPI::Conexion& conInformes, std::int32_t lngID,
-                                              const std::string& strEncargado,
-                                              const std::string& strFecha);
-  void ImprimirCertificadoPartidaConfirmacionMenorca(FDAPI::Conexion& conFidaleon,
-                                                     FDAPI::Conexion& conInformes,
-                                                     std::int32_t lngID,
-                                                     const std::string& strEncargado,
-                                                     const std::string& strFecha);
-  void ImprimirCertificadoLiteralPartidaConfirmacion(FDAPI::Conexion& conFidaleon,
-                                                     FDAPI::Conexion& conInformes,
-                                                     std::int32_t lngID,
-                                                     const std::string& strEncargado,
-                                                     const std::string& strFecha);
-  void ImprimirCertificadoLiteralPartidaConfirmacionMenorca(FDAPI::Conexion& conFidaleon,
-                                                            FDAPI::Conexion& conInformes,
-                                                            std::int32_t lngID,
-                                                            const std::string& strEncargado,
-                                                            const std::string& strFecha);
-  void ImprimirPartidaConfirmacion(FDAPI::Conexion& conFidaleon, FDAPI::Conexion& conInformes,
-                                   std::int32_t lngID);
-  void ImprimirPartidaConfirmacionMenorca(FDAPI::Conexion& conFidaleon,
-                                          FDAPI::Conexion& conInformes, std::int32_t lngID);
+  // Confirmation: Documentos_Confirmacion
+  DocumentoFirmado ImprimirCertificadoPartidaConfirmacion,
+      ImprimirCertificadoPartidaConfirmacionMenorca, ImprimirCertificadoLiteralPartidaConfirmacion,
+      ImprimirCertificadoLiteralPartidaConfirmacionMenorca;
+  Documento ImprimirPartidaConfirmacion, ImprimirPartidaConfirmacionMenorca;
   /// To the parish of baptism.
-  void ImprimirNotificacionConfirmacion(FDAPI::Conexion& conFidaleon, FDAPI::Conexion& conInformes,
-                                        std::int32_t lngID);
-  void ImprimirNotificacionConfirmacionMenorca(FDAPI::Conexion& conFidaleon,
-                                               FDAPI::Conexion& conInformes, std::int32_t lngID);
+  Documento ImprimirNotificacionConfirmacion, ImprimirNotificacionConfirmacionMenorca;
   /// For all editions. The institution is the first of the store, whichever the request names.
-  void ImprimirSolicitudConfirmacion(FDAPI::Conexion& conFidaleon, FDAPI::Conexion& conInformes,
-                                     std::int32_t lngID);
+  Documento ImprimirSolicitudConfirmacion;
 
   // Death: Documentos_Defuncion
-  void ImprimirCertificadoPartidaDefuncion(FDAPI::Conexion& conFidaleon,
-                                           FDAPI::Conexion& conInformes, std::int32_t lngID,
-                                           const std::string& strEncargado,
-                                           const std::string& strFecha);
-  void ImprimirCertificadoPartidaDefuncionMenorca(FDAPI::Conexion& conFidaleon,
-                                                  FDAPI::Conexion& conInformes, std::int32_t lngID,
-                                                  const std::string& strEncargado,
-                                                  const std::string& strFecha);
-  void ImprimirCertificadoLiteralPartidaDefuncion(FDAPI::Conexion& conFidaleon,
-                                                  FDAPI::Conexion& conInformes, std::int32_t lngID,
-                                                  const std::string& strEncargado,
-                                                  const std::string& strFecha);
-  void ImprimirCertificadoLiteralPartidaDefuncionMenorca(FDAPI::Conexion& conFidaleon,
-                                                         FDAPI::Conexion& conInformes,
-                                                         std::int32_t lngID,
-                                                         const std::string& strEncargado,
-                                                         const std::string& strFecha);
+  DocumentoFirmado ImprimirCertificadoPartidaDefuncion, ImprimirCertificadoPartidaDefuncionMenorca,
+      ImprimirCertificadoLiteralPartidaDefuncion, ImprimirCertificadoLiteralPartidaDefuncionMenorca;
   /// Asks for keeper and date first and prints the date alone; today's when the user gave up.
-  void ImprimirPartidaDefuncion(FDAPI::Conexion& conFidaleon, FDAPI::Conexion& conInformes,
-                                std::int32_t lngID);
-  void ImprimirPartidaDefuncionMenorca(FDAPI::Conexion& conFidaleon, FDAPI::Conexion& conInformes,
-                                       std::int32_t lngID);
+  Documento ImprimirPartidaDefuncion, ImprimirPartidaDefuncionMenorca;
+
+  // A whole book by its key, one row for each entry, annulled ones too. A book without entries has
+  // none and is told to nobody. The host's progress display is open while rows are being written; a
+  // user who stops it there leaves the table as it was.
+  Documento ImprimirLibroBautismo, ImprimirLibroBautismoMenorca;
+  Documento ImprimirLibroConfirmacion, ImprimirLibroConfirmacionMenorca;
+  Documento ImprimirLibroDefuncion, ImprimirLibroDefuncionMenorca;
+  /// The same for all editions. Año is the year of the book on every row.
+  Documento ImprimirIndiceLibroBautismo, ImprimirIndiceLibroConfirmacion,
+      ImprimirIndiceLibroDefuncion;
 
   // People and groups of the parish: Informe_Colaboradores. SelInf... asks what to print and writes
   // it; it says so when the table stays empty. Informe... writes all there is. An error, or a user

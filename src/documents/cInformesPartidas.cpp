@@ -40,11 +40,17 @@ IMPRIMIR(ImprimirPartidaConfirmacionMenorca)
 IMPRIMIR(ImprimirNotificacionConfirmacion)
 IMPRIMIR(ImprimirNotificacionConfirmacionMenorca)
 IMPRIMIR(ImprimirSolicitudConfirmacion)
+IMPRIMIR(ImprimirLibroConfirmacion)
+IMPRIMIR(ImprimirLibroConfirmacionMenorca)
+IMPRIMIR(ImprimirIndiceLibroConfirmacion)
 
 IMPRIMIR_FIRMADO(ImprimirCertificadoPartidaDefuncion)
 IMPRIMIR_FIRMADO(ImprimirCertificadoPartidaDefuncionMenorca)
 IMPRIMIR_FIRMADO(ImprimirCertificadoLiteralPartidaDefuncion)
 IMPRIMIR_FIRMADO(ImprimirCertificadoLiteralPartidaDefuncionMenorca)
+IMPRIMIR(ImprimirLibroDefuncion)
+IMPRIMIR(ImprimirLibroDefuncionMenorca)
+IMPRIMIR(ImprimirIndiceLibroDefuncion)
 
 #undef IMPRIMIR
 #undef IMPRIMIR_FIRMADO

@@ -112,7 +112,7 @@ void frmInfDuplicadas::escribir(store::Recordset& entries, std::int32_t idInstit
   const store::Recordset institucion = conBaseDatos->Execute(
       "SELECT * FROM Institucion WHERE IDInstitucion=" + std::to_string(idInstitucion));
   const std::int64_t cuenta = entries.RecordCount();
-  abpProgreso.Cargar(cuenta, documents::PROCESANDO);
+  abpProgreso.Cargar(cuenta, duplicada_->progreso);
   abpProgreso.setValue(0);
   const documents::Signature signature{"", contexto_.hoy(), &institucion};
   documents::Lookups lookups(contexto_, *conBaseDatos);

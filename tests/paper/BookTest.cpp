@@ -45,7 +45,7 @@ class LongDocument : public ::testing::Test {
   void add(const std::string& operation, Values changes) {
     Values row = fullRow(operation);
     for (const auto& [column, value] : changes) row = with(row, column, value);
-    insert(*reports_, row);
+    insert(*reports_, operation, row);
   }
 
   void addEntries(int count, const std::string& operation = "InformeLibroBautismo") {

@@ -37,12 +37,13 @@ class Documents : public ::testing::TestWithParam<const Documento*> {
 
 TEST_P(Documents, fullRow_printsOnItsPage_withItsValues) {
   const Values row = fullRow(document.operacion);
-  insert(*reports_, row);
+  insert(*reports_, document.operacion, row);
   const Report r = report();
   EXPECT_EQ(r.pageCount(), shortest());
   const std::string text = text::replaceAll(pdfText(r), "- ", "-");  // broken at a hyphen
-  const std::vector<std::string> expected{"NombreHijo", "PrimerApellidoHijo", "SegundoApellidoHijo",
-                                          "NombrePadre", "NombreMadre"};
+  const FilasDocumento& person = *filasDocumento(*document.sacramento);
+  const std::vector<std::string> expected{person.nombre, person.primerApellido,
+                                          person.segundoApellido, "NombrePadre", "NombreMadre"};
   for (const auto& [column, value] : row) {
     if (std::count(expected.begin(), expected.end(), column) == 0) continue;
     EXPECT_THAT(text, HasSubstr(value)) << column;
@@ -51,7 +52,7 @@ TEST_P(Documents, fullRow_printsOnItsPage_withItsValues) {
 }
 
 TEST_P(Documents, blankRow_printsOnItsPage_withoutDashesOrLooseEnds) {
-  insert(*reports_, blankRow(document.operacion));
+  insert(*reports_, document.operacion, blankRow(document.operacion));
   const Report r = report();
   EXPECT_EQ(r.pageCount(), shortest());
   for (const char* unread : {"{{", "---", ", ,", " ,", "D. .", "Dª. ."})
@@ -62,7 +63,8 @@ TEST_P(Documents, longNotes_goOnOverleaf_withoutLosingAWord) {
   if (!hasNotes()) return;
   std::string notes;
   for (int i = 0; i < 1500; ++i) notes += "nota" + std::to_string(i) + " ";
-  insert(*reports_, with(fullRow(document.operacion), "NotasMarginales", notes + "FIN"));
+  insert(*reports_, document.operacion,
+         with(fullRow(document.operacion), "NotasMarginales", notes + "FIN"));
   const Report r = report();
   EXPECT_GE(r.pageCount(), 2);
   const std::string text = pdfText(r);
@@ -94,11 +96,11 @@ std::vector<const Documento*> catalogue() {
 }
 
 INSTANTIATE_TEST_SUITE_P(Catalogue, Documents, ::testing::ValuesIn(catalogue()),
-                         [](const auto& tested) { return tested.param->operacion; });
+                         [](const auto& tested) { return tested.param->plantilla; });
 
 std::string printed(const std::string& operation, const Values& row) {
   const auto reports = store::memoryDatabase(store::reportsSchema());
-  insert(*reports, row);
+  insert(*reports, operation, row);
   const Documento* d = documento(operation);
   return pdfText(Report(*reports, FIDALEON_TEMPLATES, d->plantilla, d->titulo));
 }

@@ -115,6 +115,50 @@ const std::map<std::string, std::string>& believable() {
       {"Letra", "F"},
       {"InstitucionParroco", "Andrés Quiñones Bermúdez"},
       {"FechaCreacionLibro", "07/01/1985"},
+      {"Nombre", "María del Carmen Inmaculada"},
+      {"PrimerApellido", "Fernández de Córdoba"},
+      {"SegundoApellido", "Ruiz-Castañeda"},
+      {"Domicilio", "calle Mayor, 24, 3.º izquierda"},
+      {"PoblacionDomicilio", "Alcalá de Henares"},
+      {"ProvinciaDomicilio", "Madrid"},
+      {"FeligresDe", "San Isidro Labrador"},
+      {"Parroquia", "Nuestra Señora de la Asunción"},
+      {"PoblacionParr", "Alcalá de Henares"},
+      {"ProvinciaParr", "Madrid"},
+      {"DiocesisParr", "Madrid-Alcalá"},
+      {"FechaConfirmacionCorta", "20/05/2001"},
+      {"FechaConfirmacionLarga", "20 de mayo de 2001"},
+      {"FechaConfiLargaMeno", "20 de maig de 2001"},
+      {"CargoMinistro", "Obispo de Alcalá de Henares"},
+      {"FechaBautCorta", "12/10/1987"},
+      {"FechaBautLarga", "12 de octubre de 1987"},
+      {"FechaBautLargaMeno", "12 d’octubre de 1987"},
+      {"DireccionBaut", "plaza de los Santos Niños, 1"},
+      {"LibroBaut", "XXIII"},
+      {"FolioBaut", "98"},
+      {"NumeroBaut", "7"},
+      {"Edad", "13"},
+      {"FechaInhumacionCorta", "16/03/2004"},
+      {"FechaInhumacionLarga", "16 de marzo de 2004"},
+      {"Cementerio", "Nuestra Señora de la Almudena"},
+      {"EstadoCivil", "viuda"},
+      {"Consorte", "Ángel Núñez Güell"},
+      {"DomicilioActual", "calle de Santiago, 8"},
+      {"PoblacionActual", "Alcalá de Henares"},
+      {"ProvinciaActual", "Madrid"},
+      {"DomicilioDefn", "Hospital Universitario Príncipe de Asturias"},
+      {"PoblacionDefn", "Alcalá de Henares"},
+      {"ProvinciaDefn", "Madrid"},
+      {"FechaDefuncionCorta", "15/03/2004"},
+      {"FechaDefuncionLarga", "15 de marzo de 2004"},
+      {"HoraDefuncion", "04:15"},
+      {"Causa", "insuficiencia cardiaca"},
+      {"PoblacionNaturalDe", "Priego de Córdoba"},
+      {"ProvinciaNaturalDe", "Córdoba"},
+      {"NumeroHijos", "2"},
+      {"NombresHijos", "Luis y Pilar"},
+      {"Sacramentos", "Penitencia y Unción de los Enfermos"},
+      {"Sacerdote", "José Ignacio Gutiérrez Peñalver"},
   };
   return values;
 }
@@ -200,6 +244,10 @@ Values with(Values row, const std::string& column, const std::string& value) {
     }
   row.emplace_back(column, value);
   return row;
+}
+
+void insert(store::Connection& reports, const std::string& operation, const Values& row) {
+  insert(reports, row, filasDocumento(*documento(operation)->sacramento)->tabla);
 }
 
 void insert(store::Connection& reports, const Values& row, const std::string& table) {

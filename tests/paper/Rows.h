@@ -1,5 +1,5 @@
 #pragma once
-// Rows of Documentos_Bautismo as each member of the document room fills them.
+// Rows as each member of the document room fills them.
 
 #include <string>
 #include <utility>
@@ -23,6 +23,8 @@ Values blankRow(const std::string& operation);
 /// Replaces or adds a value.
 Values with(Values row, const std::string& column, const std::string& value);
 
+/// Into the table of that document.
+void insert(store::Connection& reports, const std::string& operation, const Values& row);
 void insert(store::Connection& reports, const Values& row,
             const std::string& table = "Documentos_Bautismo");
 

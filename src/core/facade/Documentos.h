@@ -51,8 +51,8 @@ std::span<const Documento> documentos();
 /// The edition's own document of a command, or the common one; null when there is none.
 const Documento* documento(const Sacramento& sacramento, std::string_view orden,
                            std::string_view edicion);
-/// By the name of its operation; ImprimirDuplicadas stands here once for each sacrament, whose word
-/// follows. Null when there is none.
+/// The first one of its operation; ImprimirDuplicadas stands here once for each sacrament, whose
+/// word follows. Null when there is none.
 const Documento* documento(std::string_view operacion);
 
 /// How the rows of a sacrament's documents tell whom they are of.

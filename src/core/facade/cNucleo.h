@@ -112,8 +112,11 @@ class cNucleo {
   // A whole book by its key: one row for each entry, in the order of the pages, annulled ones too.
   // No row for a book without entries.
   Informe InformeLibroBautismo, InformeLibroBautismoMenorca;
+  Informe InformeLibroConfirmacion, InformeLibroConfirmacionMenorca;
+  Informe InformeLibroDefuncion, InformeLibroDefuncionMenorca;
   // By name, with the letter of each surname and the year of the book; the same in all editions.
   Informe InformeIndiceLibroBautismo, InformeIndiceLibroBautismoMenorca;
+  Informe InformeIndiceLibroConfirmacion, InformeIndiceLibroDefuncion;
 
   /// Asks for institution, year and order, and writes the rows of the year's duplicate of a
   /// sacrament. `strNodo` is "Duplicadas de bautismo" and its like, or the node of the entries.

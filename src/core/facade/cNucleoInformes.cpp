@@ -44,6 +44,14 @@ INFORME(InformeLibroBautismoMenorca)
 INFORME(InformeIndiceLibroBautismo)
 INFORME(InformeIndiceLibroBautismoMenorca)
 
+INFORME(InformeLibroConfirmacion)
+INFORME(InformeLibroConfirmacionMenorca)
+INFORME(InformeIndiceLibroConfirmacion)
+
+INFORME(InformeLibroDefuncion)
+INFORME(InformeLibroDefuncionMenorca)
+INFORME(InformeIndiceLibroDefuncion)
+
 #undef INFORME
 #undef INFORME_FIRMADO
 
