@@ -1,0 +1,45 @@
+// Every dialog that a command opens, in a window of the smallest screen.
+
+#include <set>
+
+#include "catalogue/Catalogue.h"
+#include "qt/FormSweep.h"
+#include "window/OpenWindow.h"
+
+namespace fidaleon::app {
+namespace {
+
+/// Looks each form through instead of working with it.
+class Inspector : public forms::ScriptedUser {
+ public:
+  void showModal(forms::Form& form) override {
+    if (forms_.insert(form.name()).second)
+      for (const std::string& problem : qt::sweep(form)) found.push_back(problem);
+    form.Abandon();
+  }
+  std::size_t seen() const { return forms_.size(); }
+  std::vector<std::string> found;
+
+ private:
+  std::set<std::string> forms_;
+};
+
+TEST_F(ParishTest, everyFormACommandOpens_passesTheSweep) {
+  create();
+  Inspector inspector;
+  inspector.answerAnything(forms::Answer::No);
+  Desk looked(files(), "Secretaría", inspector, settings, clock);
+  MainWindow window(looked);
+  for (const NodeView& node : nodeViews()) {
+    window.showNode(node.node.Nombre);
+    for (const Command& command : commands())
+      if (command.kinds != 0 && command.menu != Menu::Documents &&
+          applies(command, window.choice()))
+        window.action(command.id)->trigger();
+  }
+  EXPECT_THAT(inspector.found, ::testing::IsEmpty());
+  EXPECT_GE(inspector.seen(), 17u);
+}
+
+}  // namespace
+}  // namespace fidaleon::app
