@@ -50,7 +50,7 @@ struct FormTest : ::testing::Test {
   FormDriver driver{form, problems};
 };
 
-TEST_F(FormTest, leaving_handlerSendsFocusElsewhere_wins) {
+TEST_F(FormTest, Leaving_HandlerSendsFocusElsewhere_Wins) {
   Control* next = nullptr;
   form.txtName.onLostFocus = [&](Control* to) {
     next = to;
@@ -61,7 +61,7 @@ TEST_F(FormTest, leaving_handlerSendsFocusElsewhere_wins) {
   EXPECT_EQ(form.activeControl(), &form.txtDate);
 }
 
-TEST_F(FormTest, click_afterRefusedLeave_isDropped) {
+TEST_F(FormTest, Click_AfterRefusedLeave_IsDropped) {
   form.txtName.onLostFocus = [&](Control* to) {
     if (to != &form.cmdCancel) form.setFocus(form.txtName);
   };
@@ -73,14 +73,14 @@ TEST_F(FormTest, click_afterRefusedLeave_isDropped) {
   EXPECT_TRUE(form.isUnloaded());
 }
 
-TEST_F(FormTest, handlerThatThrows_leavesTheFocusUsable) {
+TEST_F(FormTest, HandlerThatThrows_LeavesTheFocusUsable) {
   form.txtName.onLostFocus = [](Control*) { throw std::runtime_error("fallo"); };
   EXPECT_THROW(form.moveFocus(form.txtCode), std::runtime_error);
   form.txtName.onLostFocus = nullptr;
   EXPECT_TRUE(form.moveFocus(form.txtCode));
 }
 
-TEST_F(FormTest, quotes_typedOrPasted_followTheRuleOfTheField) {
+TEST_F(FormTest, Quotes_TypedOrPasted_FollowTheRuleOfTheField) {
   driver.type("txtName", "Juan \"el Viejo\"");
   EXPECT_EQ(form.txtName.text(), "Juan ''el Viejo''");
   form.txtCode.setQuoteRule(QuoteRule::Remove);
@@ -92,7 +92,7 @@ TEST_F(FormTest, quotes_typedOrPasted_followTheRuleOfTheField) {
   EXPECT_EQ(form.txtName.text(), "c''d");
 }
 
-TEST_F(FormTest, pastedText_losesLineBreaksControlCharactersAndExcess) {
+TEST_F(FormTest, PastedText_LosesLineBreaksControlCharactersAndExcess) {
   form.txtName.setMaxLength(6);
   driver.paste("txtName",
                "añ\r\n\x01"
@@ -109,7 +109,7 @@ TEST_F(FormTest, pastedText_losesLineBreaksControlCharactersAndExcess) {
   EXPECT_EQ(form.txtCode.text(), "78");
 }
 
-TEST_F(FormTest, textThatDoesNotFit_isRefusedWithABeepAndCanBeMadeShorter) {
+TEST_F(FormTest, TextThatDoesNotFit_IsRefusedWithABeepAndCanBeMadeShorter) {
   form.txtCode.fits = [](const std::string& text) {
     return text.find_first_not_of("0123456789") == std::string::npos;
   };
@@ -128,7 +128,7 @@ TEST_F(FormTest, textThatDoesNotFit_isRefusedWithABeepAndCanBeMadeShorter) {
   EXPECT_EQ(form.txtCode.text(), "12");
 }
 
-TEST_F(FormTest, dates_typedShort_takeFullForm_andNonsenseStays) {
+TEST_F(FormTest, Dates_TypedShort_TakeFullForm_AndNonsenseStays) {
   driver.type("txtDate", "1/2/1998");
   driver.focus("txtName");
   EXPECT_EQ(form.txtDate.text(), "01/02/1998");
@@ -140,7 +140,7 @@ TEST_F(FormTest, dates_typedShort_takeFullForm_andNonsenseStays) {
   EXPECT_TRUE(user.problems().empty());
 }
 
-TEST_F(FormTest, closing_asksOnlyWhenSomethingWouldBeLost) {
+TEST_F(FormTest, Closing_AsksOnlyWhenSomethingWouldBeLost) {
   const char* const question =
       "Lo que ha escrito en esta ventana no se ha guardado y se perderá.\n"
       "¿Desea cerrarla de todos modos?";
@@ -175,7 +175,7 @@ TEST_F(FormTest, closing_asksOnlyWhenSomethingWouldBeLost) {
   EXPECT_TRUE(user.problems().empty());
 }
 
-TEST_F(FormTest, whatIsPutBack_runsTheHandlersAndNamesWhatCouldNotBe) {
+TEST_F(FormTest, WhatIsPutBack_RunsTheHandlersAndNamesWhatCouldNotBe) {
   form.cbo.addItem("Álava", 1);
   form.cbo.addItem("Soria", 42);
   form.cbo.onClick = [&] { form.txtNotes.setText("de " + form.cbo.text()); };
@@ -195,7 +195,7 @@ TEST_F(FormTest, whatIsPutBack_runsTheHandlersAndNamesWhatCouldNotBe) {
   EXPECT_EQ(form.txtNotes.text(), "propia");
 }
 
-TEST_F(FormTest, tabs_mouseDownRefuses_staysAndFiresNothing) {
+TEST_F(FormTest, Tabs_MouseDownRefuses_StaysAndFiresNothing) {
   int clicks = 0;
   form.mst.onMouseDown = [](int) { return false; };
   form.mst.onClick = [&](int) { ++clicks; };
@@ -211,7 +211,7 @@ TEST_F(FormTest, tabs_mouseDownRefuses_staysAndFiresNothing) {
   EXPECT_EQ(clicks, 1);
 }
 
-TEST_F(FormTest, arriving_selectsOneLineAndLeavesATextOfSeveral) {
+TEST_F(FormTest, Arriving_SelectsOneLineAndLeavesATextOfSeveral) {
   form.txtCode.setText("12345");
   form.moveFocus(form.txtCode);
   EXPECT_EQ(form.txtCode.selLength(), 5);
@@ -222,7 +222,7 @@ TEST_F(FormTest, arriving_selectsOneLineAndLeavesATextOfSeveral) {
   EXPECT_EQ(form.txtNotes.selLength(), 0);
 }
 
-TEST_F(FormTest, hiddenFocusedControl_handsTheFocusOnWithoutLeaving) {
+TEST_F(FormTest, HiddenFocusedControl_HandsTheFocusOnWithoutLeaving) {
   int left = 0;
   form.txtName.onLostFocus = [&](Control*) { ++left; };
   form.txtName.setVisible(false);
@@ -233,7 +233,7 @@ TEST_F(FormTest, hiddenFocusedControl_handsTheFocusOnWithoutLeaving) {
   EXPECT_FALSE(form.cbo.usable());
 }
 
-TEST_F(FormTest, lists_fireTheirClickFromCode_andLockedOnesRefuseTheUser) {
+TEST_F(FormTest, Lists_FireTheirClickFromCode_AndLockedOnesRefuseTheUser) {
   int clicks = 0;
   form.cbo.addItem("Ávila", 5);
   form.cbo.addItem("Burgos", 9);
@@ -248,7 +248,7 @@ TEST_F(FormTest, lists_fireTheirClickFromCode_andLockedOnesRefuseTheUser) {
   EXPECT_EQ(problems.size(), 1u);
 }
 
-TEST_F(FormTest, driver_notesWhatNobodyCouldDo) {
+TEST_F(FormTest, Driver_NotesWhatNobodyCouldDo) {
   driver.type("txtNotes", "en otra pestaña");
   form.cmdAccept.setEnabled(false);
   driver.click("cmd(0)");
@@ -256,7 +256,7 @@ TEST_F(FormTest, driver_notesWhatNobodyCouldDo) {
   EXPECT_EQ(form.accepted, 0);
 }
 
-TEST(ScriptedUser, unexpectedAndMissing_areNotedAndAnsweredSafely) {
+TEST(ScriptedUser, UnexpectedAndMissing_AreNotedAndAnsweredSafely) {
   ScriptedUser user;
   SampleForm form{user};
   user.expectForm("frmOther", [](FormDriver&) {});

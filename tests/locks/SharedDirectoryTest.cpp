@@ -64,7 +64,7 @@ class Meeting : public ::testing::Test {
   TempDirectory folder;
 };
 
-TEST_F(Meeting, whereOneCannotSeeTheOther_thereIsOneWorkstation) {
+TEST_F(Meeting, WhereOneCannotSeeTheOther_ThereIsOneWorkstation) {
   SharedDirectory first = there();
   SharedDirectory second = here();
   ASSERT_TRUE(first.join(first.enter(), {work("SACRISTIA")}));
@@ -80,7 +80,7 @@ TEST_F(Meeting, whereOneCannotSeeTheOther_thereIsOneWorkstation) {
   EXPECT_THROW(first.others(first.enter()), UnseenOther) << "but somebody was";
 }
 
-TEST_F(Meeting, whatIsNotSeen_isSweptOnlyWhenItHasCertainlyEnded) {
+TEST_F(Meeting, WhatIsNotSeen_IsSweptOnlyWhenItHasCertainlyEnded) {
   const Maker self = thisProgram();
   Maker gone = self;
   gone.process = 0x7fffffff;
@@ -114,7 +114,7 @@ TEST_F(Meeting, whatIsNotSeen_isSweptOnlyWhenItHasCertainlyEnded) {
   }
 }
 
-TEST_F(Meeting, aLivingProgramWhoseLockIsNotSeen_provesThatLocksAreHidden) {
+TEST_F(Meeting, ALivingProgramWhoseLockIsNotSeen_ProvesThatLocksAreHidden) {
   SharedDirectory first = here();
   first.publish(first.enter(), {work("SACRISTIA")});
   Vantage trusting = from("DESPACHO", thisProgram());
@@ -125,7 +125,7 @@ TEST_F(Meeting, aLivingProgramWhoseLockIsNotSeen_provesThatLocksAreHidden) {
   EXPECT_TRUE(second.others(second.enter()).empty());
 }
 
-TEST_F(Meeting, whereNoLockIsSeenAtAll_nobodyCanCome) {
+TEST_F(Meeting, WhereNoLockIsSeenAtAll_NobodyCanCome) {
   Vantage blind;
   blind.seesLock = [](const File&) { return false; };
   Vantage mute;
@@ -141,7 +141,7 @@ TEST_F(Meeting, whereNoLockIsSeenAtAll_nobodyCanCome) {
   }
 }
 
-TEST_F(Meeting, comingWithAFullDisk_isKnownThoughNotByName) {
+TEST_F(Meeting, ComingWithAFullDisk_IsKnownThoughNotByName) {
   SharedDirectory directory = at({});
   const SharedDirectory other = at({});
   const auto guard = directory.enter();
@@ -163,7 +163,7 @@ TEST_F(Meeting, comingWithAFullDisk_isKnownThoughNotByName) {
   EXPECT_EQ(other.sessions(guard)[0].holder.user, "ana");
 }
 
-TEST_F(Meeting, guardThatIsHeldForLong_isNotWaitedForWithoutEndAndSaysWhatGoesOn) {
+TEST_F(Meeting, GuardThatIsHeldForLong_IsNotWaitedForWithoutEndAndSaysWhatGoesOn) {
   const SharedDirectory directory = at({});
   HeldEntry tidying = work("DESPACHO");
   tidying.entry.table = "está ordenando los libros";
@@ -180,7 +180,7 @@ TEST_F(Meeting, guardThatIsHeldForLong_isNotWaitedForWithoutEndAndSaysWhatGoesOn
   EXPECT_THAT(whyNot([&] { directory.enter(); }), HasSubstr("no responde"));
 }
 
-TEST(LocksOfADisk, reachOtherMachinesOnlyWhereTheSystemPassesThemOn) {
+TEST(LocksOfADisk, ReachOtherMachinesOnlyWhereTheSystemPassesThemOn) {
   constexpr auto ONE = Reach::OneMachine;
   constexpr auto ALL = Reach::Everywhere;
   const struct {

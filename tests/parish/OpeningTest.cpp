@@ -33,7 +33,7 @@ class Opening : public ParishTest {
   OpeningFault fault;
 };
 
-TEST_F(Opening, firstRun_makesBothDatabasesTheTownAndTheLastValues) {
+TEST_F(Opening, FirstRun_MakesBothDatabasesTheTownAndTheLastValues) {
   create(Content::Empty);
   EXPECT_TRUE(std::filesystem::exists(files().parish()));
   EXPECT_EQ(desk->parishName(), "San Blas");
@@ -46,14 +46,14 @@ TEST_F(Opening, firstRun_makesBothDatabasesTheTownAndTheLastValues) {
             1);
 }
 
-TEST_F(Opening, firstRun_givenUpInTheSetup_endsTheProgram) {
+TEST_F(Opening, FirstRun_GivenUpInTheSetup_EndsTheProgram) {
   create(Content::Empty);
   user.expectForm("frmDatosSetup", [](forms::FormDriver& d) { d.click("cmdBoton(1)"); });
   user.answerAnything(forms::Answer::Yes);
   EXPECT_FALSE(desk->setUp());
 }
 
-TEST_F(Opening, firstRun_neverTouchesAParishThatIsThere) {
+TEST_F(Opening, FirstRun_NeverTouchesAParishThatIsThere) {
   create(Content::Empty);
   NewParish second = described(Content::Empty);
   second.name = "San \"Roque\"; DROP TABLE Institucion";
@@ -69,14 +69,14 @@ TEST_F(Opening, firstRun_neverTouchesAParishThatIsThere) {
             "San ''Roque''; DROP TABLE Institucion");
 }
 
-TEST_F(Opening, firstRun_whereAParishCannotBeLookedAt_leavesItAlone) {
+TEST_F(Opening, FirstRun_WhereAParishCannotBeLookedAt_LeavesItAlone) {
   std::filesystem::create_symlink("parroquia.fidaleon", files().parish());  // leads to itself
   EXPECT_NE(whatIsMissing(described()), "");
   EXPECT_THROW(createParish(described(), clock.today(), fillSampleParish), store::NameTaken);
   EXPECT_TRUE(std::filesystem::is_symlink(files().parish()));
 }
 
-TEST_F(Opening, firstRun_thatFails_leavesNothing) {
+TEST_F(Opening, FirstRun_ThatFails_LeavesNothing) {
   NewParish p = described();
   p.directory = "/proc/fidaleon";
   EXPECT_THROW(createParish(p, clock.today()), store::Error);
@@ -89,7 +89,7 @@ TEST_F(Opening, firstRun_thatFails_leavesNothing) {
   EXPECT_FALSE(files().exists());
 }
 
-TEST_F(Opening, firstRun_forThisAccountOrForItsGroup_decidesWhoMayRead) {
+TEST_F(Opening, FirstRun_ForThisAccountOrForItsGroup_DecidesWhoMayRead) {
   using std::filesystem::perms;
   const auto rightsOf = [](const std::filesystem::path& path) {
     return std::filesystem::status(path).permissions();
@@ -105,7 +105,7 @@ TEST_F(Opening, firstRun_forThisAccountOrForItsGroup_decidesWhoMayRead) {
   }
 }
 
-TEST_F(Opening, reachedThroughALink_isWhereItLies) {
+TEST_F(Opening, ReachedThroughALink_IsWhereItLies) {
   create(Content::Empty);
   const std::filesystem::path other = directory() / "otra";
   std::filesystem::create_directory(other);
@@ -114,7 +114,7 @@ TEST_F(Opening, reachedThroughALink_isWhereItLies) {
   EXPECT_EQ(linked.presence().others().size(), 1u);
 }
 
-TEST_F(Opening, firstRun_whatIsMissingOrUnreadableIsNamed) {
+TEST_F(Opening, FirstRun_WhatIsMissingOrUnreadableIsNamed) {
   const auto missing = [&](const std::function<void(NewParish&)>& change) {
     NewParish p = described();
     change(p);
@@ -128,7 +128,7 @@ TEST_F(Opening, firstRun_whatIsMissingOrUnreadableIsNamed) {
   EXPECT_THROW(openParish(ParishFiles(noText)), store::Error);
 }
 
-TEST_F(Opening, everyFault_saysSomethingAndLetsTheUserOut) {
+TEST_F(Opening, EveryFault_SaysSomethingAndLetsTheUserOut) {
   for (int kind = 0; kind <= static_cast<int>(ErrorKind::Other); ++kind) {
     fault = describeFault(store::Error(static_cast<ErrorKind>(kind), "motivo"), files());
     EXPECT_FALSE(fault.title.empty() || fault.text.empty());
@@ -145,7 +145,7 @@ TEST_F(Opening, everyFault_saysSomethingAndLetsTheUserOut) {
   EXPECT_EQ(std::filesystem::file_size(files().parish()), 4096u) << "it is not touched";
 }
 
-TEST_F(Opening, missing_offersANewParish) {
+TEST_F(Opening, Missing_OffersANewParish) {
   EXPECT_EQ(failure(), ErrorKind::Missing);
   EXPECT_TRUE(offers(Remedy::NewParish));
   EXPECT_THAT(fault.text, ::testing::HasSubstr(files().parish().string()));
@@ -156,7 +156,7 @@ TEST_F(Opening, missing_offersANewParish) {
   EXPECT_TRUE(offers(Remedy::ReturnToCopy)) << "it has left a copy";
 }
 
-TEST_F(Opening, twoWindowsOfOneAccount_haveScratchTablesOfTheirOwnAndLeaveNone) {
+TEST_F(Opening, TwoWindowsOfOneAccount_HaveScratchTablesOfTheirOwnAndLeaveNone) {
   create(Content::Empty);
   char host[256] = {};
   gethostname(host, sizeof host - 1);
@@ -174,14 +174,14 @@ TEST_F(Opening, twoWindowsOfOneAccount_haveScratchTablesOfTheirOwnAndLeaveNone) 
     EXPECT_FALSE(file.path().filename().string().starts_with("informes")) << file.path();
 }
 
-TEST_F(Opening, preferences_areKept) {
+TEST_F(Opening, Preferences_AreKept) {
   EXPECT_TRUE(readPreferences(settings).directory.empty());
   writePreferences(settings, {"Secretaría", "/datos/parroquia"});
   EXPECT_EQ(readPreferences(settings).user, "Secretaría");
   EXPECT_EQ(readPreferences(settings).directory, "/datos/parroquia");
 }
 
-TEST_F(Opening, edition_isTheParishs) {
+TEST_F(Opening, Edition_IsTheParishs) {
   NewParish p = described(Content::Empty);
   p.edition = FDAPI::cCAplicacion::APP_FIDALEON_MENORCA;
   createParish(p, clock.today());

@@ -181,7 +181,7 @@ const Case CASES[] = {
 };
 
 // Two desks in one folder: to one the disk is its own, to the other it is far away.
-TEST_F(ParishTest, logTakenUpUnderADeskFarAway_stopsItInsteadOfBeingShared) {
+TEST_F(ParishTest, LogTakenUpUnderADeskFarAway_StopsItInsteadOfBeingShared) {
   const fs::path file = made(directory() / "ensayo", 1);
   std::unique_ptr<store::Connection> far;
   {
@@ -256,11 +256,11 @@ class PowerCut : public ::testing::TestWithParam<Case> {
   const fs::path folder_ = dir_ / "disco";
 };
 
-TEST_P(PowerCut, atAnyMoment_losesNothingThatWasTold) {
+TEST_P(PowerCut, AtAnyMoment_LosesNothingThatWasTold) {
   EXPECT_EQ(losses(true, 100), 0);
 }
 
-TEST_P(PowerCut, onADiskThatIgnoresSyncs_isFoundOut) {
+TEST_P(PowerCut, OnADiskThatIgnoresSyncs_IsFoundOut) {
   EXPECT_GE(losses(false, 1), 1);
 }
 

@@ -11,7 +11,7 @@ class SampleParish : public ParishTest {
   void SetUp() override { create(); }
 };
 
-TEST_F(SampleParish, everyEntryIsWholeForTheReaders) {
+TEST_F(SampleParish, EveryEntryIsWholeForTheReaders) {
   const auto all = count("SELECT COUNT(IDBautismo) FROM Bautismo");
   EXPECT_EQ(rowsOf("SELECT IDBautismo FROM Bautismo, Bautismo_Hijo, Bautismo_Padres, "
                    "Bautismo_Madres, Bautismo_Matrimonio WHERE CodBautismo=IDBautismo AND "
@@ -23,7 +23,7 @@ TEST_F(SampleParish, everyEntryIsWholeForTheReaders) {
             0);
 }
 
-TEST_F(SampleParish, positionsAreWhatTheBooksWouldHaveGiven) {
+TEST_F(SampleParish, PositionsAreWhatTheBooksWouldHaveGiven) {
   auto rows = desk->parish().Execute(
       "SELECT Nuevo, CodLibro, Folio, Numero FROM Bautismo, Libro_Bautismo WHERE "
       "IDLibroBautismo=CodLibro ORDER BY CodLibro, Folio, Val(Numero)");
@@ -38,7 +38,7 @@ TEST_F(SampleParish, positionsAreWhatTheBooksWouldHaveGiven) {
   }
 }
 
-TEST_F(SampleParish, everyPersonOfTheCensusIsWhole) {
+TEST_F(SampleParish, EveryPersonOfTheCensusIsWhole) {
   const auto all = count("SELECT COUNT(IDPadron) FROM Padron");
   EXPECT_GE(all, 100);
   for (const char* table : {"Padron_Nacimiento", "Padron_Bautismo", "Padron_Comunion",
@@ -54,7 +54,7 @@ TEST_F(SampleParish, everyPersonOfTheCensusIsWhole) {
     EXPECT_TRUE(support::nifValido(rows.text("DNI"))) << rows.text("DNI");
 }
 
-TEST_F(SampleParish, collaboratorsAreInAGroupOnce_andTheYearHasItsTasks) {
+TEST_F(SampleParish, CollaboratorsAreInAGroupOnce_AndTheYearHasItsTasks) {
   EXPECT_GE(rowsOf("SELECT * FROM Padron_TipoPersona WHERE CodTipoPersona=3"), 25);
   EXPECT_EQ(rowsOf("SELECT DISTINCT CodPadron, CodGrupo FROM Padron_Actividad"),
             rowsOf("SELECT * FROM Padron_Actividad"));
@@ -65,7 +65,7 @@ TEST_F(SampleParish, collaboratorsAreInAGroupOnce_andTheYearHasItsTasks) {
   EXPECT_EQ(rowsOf("SELECT * FROM Tareas WHERE HoraFin<HoraInicio"), 0);
 }
 
-TEST(SamplePopulation, sameSeed_samePeople) {
+TEST(SamplePopulation, SameSeed_SamePeople) {
   const auto a = sample::makePopulation(7, 1, "San Blas", {2026, 5, 20});
   const auto b = sample::makePopulation(7, 1, "San Blas", {2026, 5, 20});
   ASSERT_EQ(a.baptisms.size(), b.baptisms.size());
@@ -74,7 +74,7 @@ TEST(SamplePopulation, sameSeed_samePeople) {
               b.baptisms[i].name + b.baptisms[i].godmother);
 }
 
-TEST(SamplePopulation, livesFitTogether) {
+TEST(SamplePopulation, LivesFitTogether) {
   const text::Date last{2026, 5, 20};
   const auto people = sample::makePopulation(1924, 1, "San Blas", last);
   text::Date before{};

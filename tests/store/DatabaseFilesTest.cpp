@@ -67,7 +67,7 @@ std::int64_t count(Connection& connection, const std::string& table = "Cargo") {
   return connection.Execute("SELECT COUNT(*) AS n FROM " + table).integer("n");
 }
 
-TEST_F(Files, created_keepsWhatIsWrittenAndIsNotOverwritten) {
+TEST_F(Files, Created_KeepsWhatIsWrittenAndIsNotOverwritten) {
   {
     const auto connection = createDatabase(file, parishSchema());
     EXPECT_EQ(connection->Properties("data source").Value, file.string());
@@ -89,7 +89,7 @@ TEST_F(Files, created_keepsWhatIsWrittenAndIsNotOverwritten) {
             ErrorKind::Connection);
 }
 
-TEST_F(Files, ofTwoThatCreateOneDatabase_theFirstHasIt) {
+TEST_F(Files, OfTwoThatCreateOneDatabase_TheFirstHasIt) {
   EXPECT_EQ(
       kindOf([&] {
         createDatabase(file, parishSchema(), [&](Connection& mine) {
@@ -104,7 +104,7 @@ TEST_F(Files, ofTwoThatCreateOneDatabase_theFirstHasIt) {
 }
 
 // Whatever the mask of the account says.
-TEST_F(Files, rights_areTheOwnersAloneOrTheGroupsOfASharedFolder) {
+TEST_F(Files, Rights_AreTheOwnersAloneOrTheGroupsOfASharedFolder) {
   const auto rights = [](const fs::path& path) {
     return static_cast<unsigned>(fs::status(path).permissions() & fs::perms::all);
   };
@@ -130,7 +130,7 @@ TEST_F(Files, rights_areTheOwnersAloneOrTheGroupsOfASharedFolder) {
   }
 }
 
-TEST_F(Files, reachedThroughALink_isWhereItLies) {
+TEST_F(Files, ReachedThroughALink_IsWhereItLies) {
   createDatabase(file, parishSchema());
   fs::create_directory(folder / "otra");
   fs::create_symlink(file, folder / "otra" / "parroquia.fid");
@@ -140,7 +140,7 @@ TEST_F(Files, reachedThroughALink_isWhereItLies) {
             file.string());
 }
 
-TEST_F(Files, whatIsNoDatabase_isRefused) {
+TEST_F(Files, WhatIsNoDatabase_IsRefused) {
   EXPECT_EQ(kindOfOpening(), ErrorKind::Missing);
   EXPECT_NE(message.find(file.string()), std::string::npos);
   std::ofstream(file) << "";
@@ -155,7 +155,7 @@ TEST_F(Files, whatIsNoDatabase_isRefused) {
   EXPECT_EQ(kindOfOpening(), ErrorKind::NotADatabase);
 }
 
-TEST_F(Files, whatAForeignFileWouldDo_isNotDone) {
+TEST_F(Files, WhatAForeignFileWouldDo_IsNotDone) {
   const auto prepare = [&](const char* sql) {
     sqlite3* db = nullptr;
     ASSERT_EQ(sqlite3_open(file.c_str(), &db), SQLITE_OK);
@@ -173,7 +173,7 @@ TEST_F(Files, whatAForeignFileWouldDo_isNotDone) {
   EXPECT_THROW(count(*openDatabase(file, parishSchema())), Error);
 }
 
-TEST_F(Files, cutOffFile_isRefusedOrReportedWhenRead) {
+TEST_F(Files, CutOffFile_IsRefusedOrReportedWhenRead) {
   createDatabase(file, parishSchema());
   fs::resize_file(file, fs::file_size(file) / 2);
   EXPECT_EQ(kindOf([&] {
@@ -183,7 +183,7 @@ TEST_F(Files, cutOffFile_isRefusedOrReportedWhenRead) {
             ErrorKind::NotADatabase);
 }
 
-TEST_F(Files, readOnlyFile_isRefused) {
+TEST_F(Files, ReadOnlyFile_IsRefused) {
   createDatabase(file, parishSchema())->engine().run("PRAGMA journal_mode = DELETE");
   fs::permissions(file, fs::perms::owner_read | fs::perms::others_read);
   fs::permissions(folder, fs::perms::owner_all | fs::perms::others_read | fs::perms::others_exec);
@@ -208,7 +208,7 @@ Schema version(int number) {
   return Schema("Ensayo", number, std::move(tables));
 }
 
-TEST_F(Files, olderDatabase_getsWhatItLacksAndKeepsItsRows) {
+TEST_F(Files, OlderDatabase_GetsWhatItLacksAndKeepsItsRows) {
   const Schema old = version(1);
   const Schema current = version(2);
   createDatabase(file, old)->Execute("INSERT INTO Persona (Nombre) VALUES ('Ana')");
@@ -231,7 +231,7 @@ TEST_F(Files, olderDatabase_getsWhatItLacksAndKeepsItsRows) {
   EXPECT_EQ(kindOf([&] { openDatabase(file, old); }), ErrorKind::NewerSchema);
 }
 
-TEST_F(Files, failedUpgrade_leavesTheOldDatabase) {
+TEST_F(Files, FailedUpgrade_LeavesTheOldDatabase) {
   const Schema old = version(1);
   createDatabase(file, old)->engine().run("CREATE TABLE Segunda (Estorbo)");
   EXPECT_THROW(openDatabase(file, version(2)), Error);
@@ -239,7 +239,7 @@ TEST_F(Files, failedUpgrade_leavesTheOldDatabase) {
   EXPECT_EQ(connection->Execute("SELECT * FROM Persona").FieldCount(), 2);
 }
 
-TEST_F(Files, heldByAnother_isBusyFromTheFirstStepAndNothingIsWritten) {
+TEST_F(Files, HeldByAnother_IsBusyFromTheFirstStepAndNothingIsWritten) {
   auto connection = createDatabase(file, parishSchema());
   {
     const auto other = openDatabase(file, parishSchema());
@@ -256,7 +256,7 @@ TEST_F(Files, heldByAnother_isBusyFromTheFirstStepAndNothingIsWritten) {
   EXPECT_EQ(count(*openDatabase(file, parishSchema())), 1);
 }
 
-TEST_F(Files, fullDisk_isToldAndLosesNothingStored) {
+TEST_F(Files, FullDisk_IsToldAndLosesNothingStored) {
   const auto connection = createDatabase(file, parishSchema());
   connection->Execute(kInsert);
   connection->BeginTrans();
@@ -275,7 +275,7 @@ TEST_F(Files, fullDisk_isToldAndLosesNothingStored) {
 }
 
 // Another version of the library that knows the alphabet may sort in another way.
-TEST_F(Files, indexedUnderAnotherOrderOfLetters_isNoSoundCopyUntilItIsIndexedAnew) {
+TEST_F(Files, IndexedUnderAnotherOrderOfLetters_IsNoSoundCopyUntilItIsIndexedAnew) {
   createDatabase(file, parishSchema());
   createDatabase(folder / "otra", parishSchema());
   sqlite3* db = nullptr;
@@ -300,7 +300,7 @@ TEST_F(Files, indexedUnderAnotherOrderOfLetters_isNoSoundCopyUntilItIsIndexedAne
         << surname;
 }
 
-TEST_F(Files, goneOrReplacedWhileOpen_acceptsNothingUntilItIsBack) {
+TEST_F(Files, GoneOrReplacedWhileOpen_AcceptsNothingUntilItIsBack) {
   const auto connection = createDatabase(file, parishSchema());
   const fs::path aside = folder / "aparte";
   const std::vector<std::function<void()>> losses{[&] { fs::rename(file, aside); },
@@ -340,7 +340,7 @@ void leaveBeside(const fs::path& file, const char* journal) {
       fs::copy_file(other.string() + ending, file.string() + ending);
 }
 
-TEST_F(Files, namesOfAnotherDatabasesRests_areTakenWithoutThem) {
+TEST_F(Files, NamesOfAnotherDatabasesRests_AreTakenWithoutThem) {
   const auto connection = createDatabase(folder / "parroquia", parishSchema());
   for (const char* journal : {"WAL", "PERSIST"}) {
     const fs::path created = folder / (std::string("nueva") + journal);
@@ -361,7 +361,7 @@ TEST_F(Files, namesOfAnotherDatabasesRests_areTakenWithoutThem) {
   }
 }
 
-TEST_F(Files, backupOverADatabaseThatIsOpen_isRefused) {
+TEST_F(Files, BackupOverADatabaseThatIsOpen_IsRefused) {
   const auto connection = createDatabase(file, parishSchema());
   const auto other = createDatabase(folder / "otra", parishSchema());
   other->Execute(kInsert);
@@ -380,7 +380,7 @@ TEST_F(Files, backupOverADatabaseThatIsOpen_isRefused) {
   EXPECT_EQ(count(*openDatabase(folder / "tercera", parishSchema())), 1);
 }
 
-TEST_F(Files, backupOverWhatCannotBeLookedAt_isRefused) {
+TEST_F(Files, BackupOverWhatCannotBeLookedAt_IsRefused) {
   const auto connection = createDatabase(file, parishSchema());
   const fs::path copy = folder / "copia";
   createDatabase(copy, parishSchema());
@@ -391,7 +391,7 @@ TEST_F(Files, backupOverWhatCannotBeLookedAt_isRefused) {
   EXPECT_TRUE(fs::exists(copy.string() + "-wal"));
 }
 
-TEST_F(Files, createdAndFilled_standsUnderItsNameOnlyWhenComplete) {
+TEST_F(Files, CreatedAndFilled_StandsUnderItsNameOnlyWhenComplete) {
   EXPECT_THROW(createDatabase(file, parishSchema(),
                               [&](Connection& connection) {
                                 connection.Execute(kInsert);
@@ -402,7 +402,7 @@ TEST_F(Files, createdAndFilled_standsUnderItsNameOnlyWhenComplete) {
   EXPECT_TRUE(fs::is_empty(folder));
 }
 
-TEST_F(Files, backup_isACompleteDatabaseAndReplacesOnlyWhenWhole) {
+TEST_F(Files, Backup_IsACompleteDatabaseAndReplacesOnlyWhenWhole) {
   const fs::path copy = folder / "copia.copia";
   const auto connection = createDatabase(file, parishSchema());
   connection->Execute(kInsert);
@@ -428,7 +428,7 @@ TEST_F(Files, backup_isACompleteDatabaseAndReplacesOnlyWhenWhole) {
   EXPECT_LE(files, 4U) << "drafts are left behind";
 }
 
-TEST_F(Files, lookedAtWhileItIsOpen_keepsItsLocks) {
+TEST_F(Files, LookedAtWhileItIsOpen_KeepsItsLocks) {
   const auto connection = createDatabase(file, parishSchema());
   const auto seenByAnother = [&] {
     tests::OtherProcess another([&](auto& self) {

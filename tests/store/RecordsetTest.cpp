@@ -33,7 +33,7 @@ ErrorKind kindOf(const std::function<void()>& act) {
   return ErrorKind::Other;
 }
 
-TEST_F(Recordsets, moves_goBothWaysAndStopBeyondTheEnds) {
+TEST_F(Recordsets, Moves_GoBothWaysAndStopBeyondTheEnds) {
   fill(4);
   auto set = connection->Execute("SELECT * FROM Cargo ORDER BY IDCargo");
   EXPECT_FALSE(set.BOF());
@@ -56,7 +56,7 @@ TEST_F(Recordsets, moves_goBothWaysAndStopBeyondTheEnds) {
   EXPECT_EQ(set.integer("IDCargo"), 1);
 }
 
-TEST_F(Recordsets, empty_isAtBothEndsAndRefusesMoves) {
+TEST_F(Recordsets, Empty_IsAtBothEndsAndRefusesMoves) {
   auto set = connection->Execute("SELECT * FROM Cargo");
   EXPECT_TRUE(set.EOF_());
   EXPECT_TRUE(set.BOF());
@@ -66,7 +66,7 @@ TEST_F(Recordsets, empty_isAtBothEndsAndRefusesMoves) {
   EXPECT_EQ(kindOf([&] { set.MoveNext(); }), ErrorKind::Misuse);
 }
 
-TEST_F(Recordsets, closed_isWhatAWriteGivesAndRefusesUse) {
+TEST_F(Recordsets, Closed_IsWhatAWriteGivesAndRefusesUse) {
   auto set = connection->Execute("DELETE * FROM Cargo");
   EXPECT_EQ(set.State(), 0);
   EXPECT_EQ(kindOf([&] { set.EOF_(); }), ErrorKind::Misuse);
@@ -76,7 +76,7 @@ TEST_F(Recordsets, closed_isWhatAWriteGivesAndRefusesUse) {
   EXPECT_EQ(set.State(), 0);
 }
 
-TEST_F(Recordsets, open_showsRowsAsTheyWereWhenOpened) {
+TEST_F(Recordsets, Open_ShowsRowsAsTheyWereWhenOpened) {
   fill(50);
   auto set = connection->Execute("SELECT * FROM Cargo ORDER BY IDCargo DESC");
   connection->Execute("DELETE * FROM Cargo WHERE IDCargo < 40");
@@ -116,7 +116,7 @@ class CountingEngine : public ForwardingEngine {
   int& rows_;
 };
 
-TEST_F(Recordsets, longOnes_areFetchedOnDemandAndDrainedBeforeAWrite) {
+TEST_F(Recordsets, LongOnes_AreFetchedOnDemandAndDrainedBeforeAWrite) {
   fill(500);
   int rows = 0;
   connection->wrapEngine([&](std::unique_ptr<Engine> inner) {
@@ -135,7 +135,7 @@ TEST_F(Recordsets, longOnes_areFetchedOnDemandAndDrainedBeforeAWrite) {
   EXPECT_EQ(rows, 499);
 }
 
-TEST_F(Recordsets, values_readAsTextNumberAndFlag) {
+TEST_F(Recordsets, Values_ReadAsTextNumberAndFlag) {
   connection->Execute(
       "INSERT INTO Libro_Bautismo (Nombre, Nuevo, FolioSiguiente, NumeroSiguiente) VALUES "
       "(\"12a\", true, 7, 3)");
@@ -152,7 +152,7 @@ TEST_F(Recordsets, values_readAsTextNumberAndFlag) {
   EXPECT_EQ(Value(3.0).text(), "3");
 }
 
-TEST_F(Recordsets, failingStatement_failsOnceAndLeavesTheRest) {
+TEST_F(Recordsets, FailingStatement_FailsOnceAndLeavesTheRest) {
   FailingEngine* faults = FailingEngine::wrap(*connection);
   faults->failOn("insert into CARGO", ErrorKind::DiskFull, 2);
   const std::string insert = "INSERT INTO Cargo (Nombre) VALUES ('a')";

@@ -65,7 +65,7 @@ class Registers : public testing::Test {
   std::unique_ptr<Connection> connection = memoryDatabase(parishSchema());
 };
 
-TEST_F(Registers, reads_giveWhatTheRegistersExpect) {
+TEST_F(Registers, Reads_GiveWhatTheRegistersExpect) {
   const struct {
     const char* sql;
     const char* rows;
@@ -138,7 +138,7 @@ TEST_F(Registers, reads_giveWhatTheRegistersExpect) {
   for (const auto& c : cases) EXPECT_EQ(rows(c.sql), c.rows) << c.sql;
 }
 
-TEST_F(Registers, writes_changeWhatTheyName) {
+TEST_F(Registers, Writes_ChangeWhatTheyName) {
   run("UPDATE Bautismo SET Anulada = 1 WHERE IDBautismo=3");
   EXPECT_EQ(rows("SELECT IDBautismo, Anulada FROM Bautismo WHERE Anulada = True"), "3,-1");
   run("UPDATE libro_bautismo SET cerrado=true WHERE idlibrobautismo=1");
@@ -156,7 +156,7 @@ TEST_F(Registers, writes_changeWhatTheyName) {
             "D. ''Pepe'',L'Hospitalet,");
 }
 
-TEST_F(Registers, columnsNamedByNumbers_areWrittenAsTheyStand) {
+TEST_F(Registers, ColumnsNamedByNumbers_AreWrittenAsTheyStand) {
   run("INSERT INTO Matrimonio_cursos (CodMatrimonio, Cod_Tipo_Persona, 0, 1, 33) VALUES (5, 4, "
       "'d''or', '2', 'tres')");
   run("UPDATE Matrimonio_Cursos SET 1 = 'dos', 31 = '4' WHERE CodMatrimonio=5 AND "
@@ -169,7 +169,7 @@ TEST_F(Registers, columnsNamedByNumbers_areWrittenAsTheyStand) {
   EXPECT_TRUE(row.value("2").isNull());
 }
 
-TEST_F(Registers, namesOutsideAscii_areFoundInAnyCase) {
+TEST_F(Registers, NamesOutsideAscii_AreFoundInAnyCase) {
   run("INSERT INTO Padron (Nombre,[Profesion/Colegio],CUMPLEAÑOS,añonacimiento) VALUES "
       "(\"Íñigo\",\"Cantero\",'0504','1950');");
   const auto row = connection->Execute(
@@ -187,7 +187,7 @@ TEST_F(Registers, namesOutsideAscii_areFoundInAnyCase) {
             "al niño");
 }
 
-TEST_F(Registers, fieldsOfTwoTables_byBareAndByQualifiedName) {
+TEST_F(Registers, FieldsOfTwoTables_ByBareAndByQualifiedName) {
   const auto row = connection->Execute(
       "SELECT * FROM Libro_Bautismo, Institucion WHERE IDInstitucion=CodInstitucion AND "
       "IDLibroBautismo=1");

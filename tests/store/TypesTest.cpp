@@ -38,7 +38,7 @@ class Types : public testing::Test {
   std::unique_ptr<Connection> connection = memoryDatabase(parishSchema());
 };
 
-TEST_F(Types, values_areFittedOrRefused) {
+TEST_F(Types, Values_AreFittedOrRefused) {
   const std::string constraint = refused(ErrorKind::Constraint);
   std::string letters;  // of two bytes each
   for (int i = 0; i < 255; ++i) letters += "ñ";
@@ -86,7 +86,7 @@ TEST_F(Types, values_areFittedOrRefused) {
   for (const auto& c : cases) EXPECT_EQ(stored(c.column, c.value), c.stored) << c.value;
 }
 
-TEST_F(Types, yesNo_matchesTrueAndNeverOne) {
+TEST_F(Types, YesNo_MatchesTrueAndNeverOne) {
   run("INSERT INTO Libro_Bautismo (Nuevo, Cerrado) VALUES (1, 0)");
   const struct {
     const char* condition;
@@ -104,14 +104,14 @@ TEST_F(Types, yesNo_matchesTrueAndNeverOne) {
   EXPECT_EQ(run("SELECT Nuevo FROM Libro_Bautismo").integer("Nuevo"), 0);
 }
 
-TEST_F(Types, counters_areNeverGivenTwice) {
+TEST_F(Types, Counters_AreNeverGivenTwice) {
   run("INSERT INTO Cargo (Nombre) VALUES ('a')");
   run("DELETE * FROM Cargo");
   run("INSERT INTO Cargo (Nombre) VALUES ('b')");
   EXPECT_EQ(run("SELECT MAX(IDCargo) AS ID FROM Cargo").integer("ID"), 2);
 }
 
-TEST_F(Types, statementsThatMakeNoSense_areRefusedInSpanish) {
+TEST_F(Types, StatementsThatMakeNoSense_AreRefusedInSpanish) {
   const struct {
     const char* sql;
     ErrorKind kind;
@@ -148,7 +148,7 @@ TEST_F(Types, statementsThatMakeNoSense_areRefusedInSpanish) {
   run("INSERT INTO Cargo (Nombre) VALUES ('sigue')");
 }
 
-TEST_F(Types, transactions_nest) {
+TEST_F(Types, Transactions_Nest) {
   const auto names = [&] {
     std::string all;
     for (auto set = run("SELECT Nombre FROM Cargo"); !set.EOF_(); set.MoveNext()) {
@@ -180,7 +180,7 @@ TEST_F(Types, transactions_nest) {
   EXPECT_THROW(connection->RollbackTrans(), Error);
 }
 
-TEST_F(Types, transactionGivenUpByTheEngine_storesNothingMore) {
+TEST_F(Types, TransactionGivenUpByTheEngine_StoresNothingMore) {
   connection->BeginTrans();
   run("INSERT INTO Cargo (Nombre) VALUES ('a')");
   connection->engine().rollback(0);  // as the engine does by itself on some errors
@@ -191,7 +191,7 @@ TEST_F(Types, transactionGivenUpByTheEngine_storesNothingMore) {
   EXPECT_EQ(run("SELECT * FROM Cargo").RecordCount(), 1);
 }
 
-TEST_F(Types, moreShapesThanPlansKept_goOnWorking) {
+TEST_F(Types, MoreShapesThanPlansKept_GoOnWorking) {
   for (const char* name : {"a", "b", "c", "d"})
     run(std::string("INSERT INTO Cargo (Nombre) VALUES ('") + name + "')");
   const auto open = run("SELECT * FROM Cargo");

@@ -11,7 +11,7 @@
 namespace fidaleon::text {
 namespace {
 
-TEST(Utf8, positions_countLetters) {
+TEST(Utf8, Positions_CountLetters) {
   EXPECT_EQ(length("Ñoño 😀"), 6U);
   EXPECT_EQ(left("Ñoño", 2), "Ño");
   EXPECT_EQ(left("Ñoño", 9), "Ñoño");
@@ -25,7 +25,7 @@ TEST(Utf8, positions_countLetters) {
   EXPECT_EQ(toUtf8(toUtf32("ñ😀")), "ñ😀");
 }
 
-TEST(Utf8, brokenBytes_becomeTheReplacementCharacter) {
+TEST(Utf8, BrokenBytes_BecomeTheReplacementCharacter) {
   const std::string broken = "a\xC3(\xF0\x9F";
   EXPECT_EQ(left(broken, 2), "a\uFFFD");
   EXPECT_EQ(sanitized(broken), "a\uFFFD(\uFFFD");
@@ -33,7 +33,7 @@ TEST(Utf8, brokenBytes_becomeTheReplacementCharacter) {
   EXPECT_EQ(toUtf32("\xFF").front(), U'\uFFFD');
 }
 
-TEST(Utf8, letterCase_isThatOfUnicode) {
+TEST(Utf8, LetterCase_IsThatOfUnicode) {
   EXPECT_EQ(upper("ñandú"), "ÑANDÚ");
   EXPECT_EQ(lower("ÀNGELA ÑÁÑEZ"), "àngela ñáñez");
   EXPECT_TRUE(equalsNoCase("AÑO", "año"));
@@ -41,19 +41,19 @@ TEST(Utf8, letterCase_isThatOfUnicode) {
   EXPECT_EQ(foldCase("Cumpleaños"), foldCase("CUMPLEAÑOS"));
 }
 
-TEST(Utf8, searchKey_findsWithoutAccents) {
+TEST(Utf8, SearchKey_FindsWithoutAccents) {
   EXPECT_EQ(searchKey("José Muñoz"), "jose munoz");
   EXPECT_EQ(searchKey("muñoz"), searchKey("MUNOZ"));
   EXPECT_EQ(searchKey("l·l"), "l·l");
 }
 
-TEST(Utf8, replaceAll_doesNotLookAgainAtWhatItPutIn) {
+TEST(Utf8, ReplaceAll_DoesNotLookAgainAtWhatItPutIn) {
   EXPECT_EQ(replaceAll("a\"b\"", "\"", "''"), "a''b''");
   EXPECT_EQ(replaceAll("aaa", "a", "aa"), "aaaaaa");
   EXPECT_EQ(replaceAll("abc", "", "x"), "abc");
 }
 
-TEST(Utf8, compare_isSpanishOrder) {
+TEST(Utf8, Compare_IsSpanishOrder) {
   std::vector<std::string> names = {"Ñáñez",  "Oro",     "nuño",    "Nuñez", "Núñez",
                                     "zurita", "Álvarez", "alvarez", "Nz"};
   std::sort(names.begin(), names.end(),
@@ -67,7 +67,7 @@ TEST(Utf8, compare_isSpanishOrder) {
   EXPECT_FALSE(orderVersion().empty());
 }
 
-TEST(Numbers, Val_readsTheLeadingNumber) {
+TEST(Numbers, Val_ReadsTheLeadingNumber) {
   const struct {
     const char* text;
     double value;
@@ -76,7 +76,7 @@ TEST(Numbers, Val_readsTheLeadingNumber) {
   for (const auto& c : cases) EXPECT_EQ(Val(c.text), c.value) << c.text;
 }
 
-TEST(Numbers, wholeTexts_areNumbersOrNot) {
+TEST(Numbers, WholeTexts_AreNumbersOrNot) {
   for (const char* number : {"12", " 12 ", "-1", "+3.5", ".5"}) EXPECT_TRUE(isNumeric(number));
   for (const char* other : {"", " ", "-", "12a", "1.2.3", "---", "1 2"}) {
     EXPECT_FALSE(isNumeric(other)) << other;
@@ -89,7 +89,7 @@ TEST(Numbers, wholeTexts_areNumbersOrNot) {
   }
 }
 
-TEST(Dates, stored_isEightDigitsOfADay) {
+TEST(Dates, Stored_IsEightDigitsOfADay) {
   EXPECT_EQ(parseStored("20000229"), (Date{2000, 2, 29}));
   for (const char* other : {"19000229", "20031301", "2003010", "---", "", "2003 101", "00000101"}) {
     EXPECT_FALSE(parseStored(other)) << other;
@@ -98,7 +98,7 @@ TEST(Dates, stored_isEightDigitsOfADay) {
   EXPECT_EQ(toShort({987, 3, 4}), "04/03/0987");
 }
 
-TEST(Dates, typed_isReadWithAnySeparator) {
+TEST(Dates, Typed_IsReadWithAnySeparator) {
   for (const char* typed : {"4/3/1987", "04-03-1987", " 4.03.1987 "}) {
     EXPECT_EQ(parseShort(typed), (Date{1987, 3, 4})) << typed;
   }
@@ -110,7 +110,7 @@ TEST(Dates, typed_isReadWithAnySeparator) {
   EXPECT_FALSE(isBlankDate("20030101"));
 }
 
-TEST(Dates, time_isReadWithAndWithoutColon) {
+TEST(Dates, Time_IsReadWithAndWithoutColon) {
   EXPECT_EQ(parseTime("9:05"), "09:05");
   EXPECT_EQ(parseTime("905"), "09:05");
   EXPECT_EQ(parseTime("2359"), "23:59");
@@ -119,14 +119,14 @@ TEST(Dates, time_isReadWithAndWithoutColon) {
   }
 }
 
-TEST(Dates, years_areWholeOnes) {
+TEST(Dates, Years_AreWholeOnes) {
   EXPECT_EQ(yearsBetween({2000, 2, 29}, {2001, 2, 28}), 0);
   EXPECT_EQ(yearsBetween({2000, 2, 29}, {2001, 3, 1}), 1);
   EXPECT_EQ(yearsBetween({1950, 5, 4}, {2003, 5, 4}), 53);
   EXPECT_EQ(yearsBetween({2003, 1, 1}, {1950, 1, 1}), 0);
 }
 
-TEST(Names, fileName_holdsNothingThatAFileSystemRefuses) {
+TEST(Names, FileName_HoldsNothingThatAFileSystemRefuses) {
   EXPECT_EQ(fileName("Libro de bautismos - 1998/01"), "Libro de bautismos - 1998-01");
   EXPECT_EQ(fileName("Certificado - Núñez, \"Pepe\" <?>\n. . "), "Certificado - Núñez, Pepe");
   EXPECT_EQ(fileName("A/. "), "A-");

@@ -22,7 +22,7 @@ class CensusWindow : public OpenWindow<> {
 
 // Somebody of the census becomes a collaborator through the dialog for new ones; meanwhile another
 // workstation adds rows too.
-TEST_F(CensusWindow, arrivalsAreChosenAfterANewOneOnly) {
+TEST_F(CensusWindow, ArrivalsAreChosenAfterANewOneOnly) {
   open("Colaboradores");
   window->table().selectRow(shown() - 1);
   const std::int32_t kept = window->choice().id;
@@ -44,7 +44,7 @@ TEST_F(CensusWindow, arrivalsAreChosenAfterANewOneOnly) {
   EXPECT_LT(gained, count("SELECT MAX(IDPadron) FROM Padron"));
 }
 
-TEST_F(CensusWindow, aCollaboratorDeleted_leavesTheListAndNotTheCensus) {
+TEST_F(CensusWindow, ACollaboratorDeleted_LeavesTheListAndNotTheCensus) {
   open("Colaboradores");
   const std::int32_t person = someoneWith(2);
   ASSERT_TRUE(window->chooseRow(person));
@@ -58,7 +58,7 @@ TEST_F(CensusWindow, aCollaboratorDeleted_leavesTheListAndNotTheCensus) {
   EXPECT_TRUE(window->chooseRow(person));
 }
 
-TEST_F(CensusWindow, aCollaboratorTakenFromTheCensus_isAskedForWhatOthersLose) {
+TEST_F(CensusWindow, ACollaboratorTakenFromTheCensus_IsAskedForWhatOthersLose) {
   open("Padrón");
   const auto communions = [this] {
     return rowsOf("SELECT * FROM Padron_Comunion WHERE AñoComunion<>\"\"");
@@ -78,7 +78,7 @@ TEST_F(CensusWindow, aCollaboratorTakenFromTheCensus_isAskedForWhatOthersLose) {
   EXPECT_EQ(communions(), 0);
 }
 
-TEST_F(CensusWindow, whatIsDeletedIsNamed_andEnterLeavesIt) {
+TEST_F(CensusWindow, WhatIsDeletedIsNamed_AndEnterLeavesIt) {
   open("PartidasBautismo");
   user.answerAnything(forms::Answer::No);
   const std::pair<const char*, const char*> commands[] = {
@@ -116,7 +116,7 @@ TEST_F(CensusWindow, whatIsDeletedIsNamed_andEnterLeavesIt) {
   }
 }
 
-TEST_F(CensusWindow, entireReports_holdWhatThereIs) {
+TEST_F(CensusWindow, EntireReports_HoldWhatThereIs) {
   open("Padrón");
   for (const ListReport& report : listReports()) {
     const auto made = makeListReport(*desk, report, Extent::Entire);
@@ -129,7 +129,7 @@ TEST_F(CensusWindow, entireReports_holdWhatThereIs) {
                                   "FROM Padron_Actividad)")));
 }
 
-TEST(ReportProgress, eachStretchIsShownAndTheLastOneIsClosed) {
+TEST(ReportProgress, EachStretchIsShownAndTheLastOneIsClosed) {
   forms::ScriptedUser user;
   {
     ReportProgress progress(user);
@@ -149,7 +149,7 @@ class Impatient : public forms::ScriptedUser {
   void progressMove(std::int64_t) override { throw forms::Cancelled(); }
 };
 
-TEST_F(CensusWindow, reportStopped_leavesNothingAndTheNextIsWhole) {
+TEST_F(CensusWindow, ReportStopped_LeavesNothingAndTheNextIsWhole) {
   create();
   Impatient impatient;
   Desk other(files(), "Secretaría", impatient, settings, clock);
@@ -160,13 +160,13 @@ TEST_F(CensusWindow, reportStopped_leavesNothingAndTheNextIsWhole) {
   EXPECT_TRUE(makeListReport(*desk, listReports()[1], Extent::Entire));
 }
 
-TEST_F(CensusWindow, entireReportWithoutRows_isToldOnce) {
+TEST_F(CensusWindow, EntireReportWithoutRows_IsToldOnce) {
   open("InformesActividades", Content::Empty);
   user.expectMessage("¡No se ha encontrado ningún registro!");
   give("informe-entero");
 }
 
-TEST_F(CensusWindow, menuWithNothingToOffer_isOff) {
+TEST_F(CensusWindow, MenuWithNothingToOffer_IsOff) {
   open("Cargos");
   const auto documents = [&] {
     for (const QAction* title : window->menuBar()->actions())
@@ -178,7 +178,7 @@ TEST_F(CensusWindow, menuWithNothingToOffer_isOff) {
   EXPECT_TRUE(documents());
 }
 
-TEST_F(CensusWindow, tasksOpenAtTheNextOneTodayIncluded) {
+TEST_F(CensusWindow, TasksOpenAtTheNextOneTodayIncluded) {
   open("Tareas");
   const auto dayChosen = [&] {
     window->action("actualizar")->trigger();

@@ -18,7 +18,7 @@ using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 
-TEST(CopyName, saysWhenAndBeforeWhat_andSorts) {
+TEST(CopyName, SaysWhenAndBeforeWhat_AndSorts) {
   const CopyName first{NOON, 1, "Eliminar en Partidas, Bautismo"};
   const CopyName second{NOON, 2, "Anular"};
   EXPECT_EQ(first.file(), "2020-05-20 12.00.00 Eliminar en Partidas, Bautismo.fidaleon");
@@ -37,7 +37,7 @@ TEST(CopyName, saysWhenAndBeforeWhat_andSorts) {
   EXPECT_LT((CopyName{NOON, 12, std::string(400, 'x')}).file().size(), 235U);
 }
 
-TEST(CopyName, otherFilesAreNone) {
+TEST(CopyName, OtherFilesAreNone) {
   for (const char* name :
        {"", "parroquia.fidaleon", "2020-05-20 12.00.00.fidaleon", "2026-05-20 12.00.00 X.copia",
         "2026-02-30 12.00.00 X.fidaleon", "2026-05-20 25.00.00 X.fidaleon",
@@ -63,7 +63,7 @@ std::vector<int> weekly(int weeks) {
   return offsets;
 }
 
-TEST(CopyRetention, keepsThirtyThenOneAWeekForFiftyTwoWeeks) {
+TEST(CopyRetention, KeepsThirtyThenOneAWeekForFiftyTwoWeeks) {
   struct Case {
     const char* what;
     std::vector<int> older;  // behind thirty of today
@@ -88,7 +88,7 @@ TEST(CopyRetention, keepsThirtyThenOneAWeekForFiftyTwoWeeks) {
   EXPECT_THAT(superfluous(daysBefore({900, 901})), IsEmpty()) << "the newest stay";
 }
 
-TEST_F(Copies, made_areWholeAndApart) {
+TEST_F(Copies, Made_AreWholeAndApart) {
   addOffice("Sacristán");
   const fs::path first = make();
   addOffice("Organista");
@@ -100,7 +100,7 @@ TEST_F(Copies, made_areWholeAndApart) {
   EXPECT_EQ(officesIn(second), 2);
 }
 
-TEST_F(Copies, thatCannotBeMade_sayWhyAndLeaveNothing) {
+TEST_F(Copies, ThatCannotBeMade_SayWhyAndLeaveNothing) {
   const auto failure = [&] {
     try {
       make();
@@ -130,7 +130,7 @@ class BadCopier : public store::FailingEngine {
   }
 };
 
-TEST_F(Copies, thatAreNotTheParish_areFoundOut) {
+TEST_F(Copies, ThatAreNotTheParish_AreFoundOut) {
   addOffice("Sacristán");
   BadCopier* copier = nullptr;
   desk->parish().wrapEngine([&](std::unique_ptr<store::Engine> inner) {
@@ -154,7 +154,7 @@ TEST_F(Copies, thatAreNotTheParish_areFoundOut) {
   EXPECT_EQ(officesIn(make()), 1);
 }
 
-TEST_F(Copies, listed_areTheWholeOnesNewestFirst) {
+TEST_F(Copies, Listed_AreTheWholeOnesNewestFirst) {
   make("Una", {{2020, 5, 1}, 9, 0, 0});
   make("Dos", {{2020, 5, 2}, 9, 0, 0});
   make("Tres", {{2020, 5, 2}, 9, 0, 0});
@@ -168,7 +168,7 @@ TEST_F(Copies, listed_areTheWholeOnesNewestFirst) {
   EXPECT_THAT(SafetyCopies("/no/hay").list(), IsEmpty());
 }
 
-TEST_F(Copies, pruned_onlyOursGo) {
+TEST_F(Copies, Pruned_OnlyOursGo) {
   fs::create_directories(folder());
   for (int day = 1; day <= 31; ++day)
     place(CopyName{{{2026, 3, day}, 8, 0, 0}, 1, "Eliminar"}.file());
@@ -189,7 +189,7 @@ TEST_F(Copies, pruned_onlyOursGo) {
   for (const std::string& name : staying) EXPECT_THAT(left, ::testing::Contains(name));
 }
 
-TEST_F(Copies, beforeACommand_stayOnlyWhenItChangedSomething) {
+TEST_F(Copies, BeforeACommand_StayOnlyWhenItChangedSomething) {
   const auto after = [&](const std::function<void()>& command) {
     {
       const Precaution copy(copies, desk->parish(), "Eliminar", NOON);
@@ -230,11 +230,11 @@ class DamagedWindow : public OpenWindow<Copies> {
   QString said;
 };
 
-TEST_F(DamagedWindow, isNoticedBeforeACopyAndToldWithTheWayBack) {
+TEST_F(DamagedWindow, IsNoticedBeforeACopyAndToldWithTheWayBack) {
   give("eliminar");
 }
 
-TEST_F(DamagedWindow, isNoticedWhenNobodyIsAtTheKeyboard) {
+TEST_F(DamagedWindow, IsNoticedWhenNobodyIsAtTheKeyboard) {
   window->dailyCheck().begin(std::chrono::seconds(10));
   window->dailyCheck().begin(std::chrono::minutes(10));
   EXPECT_TRUE(QTest::qWaitFor([&] { return !said.isEmpty(); }));
@@ -253,7 +253,7 @@ class CopiesWindow : public OpenWindow<Copies> {
   int before = 0;
 };
 
-TEST_F(CopiesWindow, deleting_leavesACopyThatNamesTheCommand) {
+TEST_F(CopiesWindow, Deleting_LeavesACopyThatNamesTheCommand) {
   deleteRequest(forms::Answer::No);
   EXPECT_THAT(namesIn(folder()), IsEmpty());
   deleteRequest(forms::Answer::Yes);
@@ -262,14 +262,14 @@ TEST_F(CopiesWindow, deleting_leavesACopyThatNamesTheCommand) {
   EXPECT_EQ(all[0].before, "Eliminar en Solicitudes, Bautismo");
 }
 
-TEST_F(CopiesWindow, aSoundParish_isLookedThroughOnceADay) {
+TEST_F(CopiesWindow, ASoundParish_IsLookedThroughOnceADay) {
   const auto checked = [&] { return readWindowSetting(*desk, "comprobada"); };
   window->dailyCheck().begin(std::chrono::minutes(10));
   EXPECT_TRUE(QTest::qWaitFor([&] { return !checked().empty(); }));
   EXPECT_THAT(checked(), HasSubstr("20260520"));
 }
 
-TEST_F(CopiesWindow, whenTheParishIsGone_nothingIsBegunAndItCanBeOpenedAgain) {
+TEST_F(CopiesWindow, WhenTheParishIsGone_NothingIsBegunAndItCanBeOpenedAgain) {
   const fs::path aside = directory() / "aparte";
   fs::rename(files().parish(), aside);
   QString text;
@@ -311,7 +311,7 @@ class CopiesBook : public CopiesWindow {
   std::int64_t entries() { return count("SELECT COUNT(*) FROM Bautismo"); }
 };
 
-TEST_F(CopiesBook, withoutSomeOfItsEntries_hasACopyWithThem) {
+TEST_F(CopiesBook, WithoutSomeOfItsEntries_HasACopyWithThem) {
   const std::int64_t all = entries();
   for (const char* journal : {"WAL", "DELETE"}) {
     SCOPED_TRACE(journal);
@@ -326,7 +326,7 @@ TEST_F(CopiesBook, withoutSomeOfItsEntries_hasACopyWithThem) {
   EXPECT_EQ(entries(), all - 2);
 }
 
-TEST_F(CopiesWindow, incompleteEntries_areToldOfAndRemovedBehindACopy) {
+TEST_F(CopiesWindow, IncompleteEntries_AreToldOfAndRemovedBehindACopy) {
   window->tellOfIncompleteEntries();
   const std::int64_t all = count("SELECT COUNT(*) FROM Bautismo");
   desk->parish().Execute("DELETE * FROM Bautismo_Hijo WHERE CodBautismo=1");
@@ -344,7 +344,7 @@ TEST_F(CopiesWindow, incompleteEntries_areToldOfAndRemovedBehindACopy) {
   EXPECT_EQ(copies.list()[0].before, "Partidas incompletas");
 }
 
-TEST_F(CopiesBook, withoutACopy_keepsItsEntriesUntilToldToGoOn) {
+TEST_F(CopiesBook, WithoutACopy_KeepsItsEntriesUntilToldToGoOn) {
   const std::int64_t all = entries();
   std::ofstream(folder()) << "x";
   user.answerAnything(forms::Answer::Yes);

@@ -97,7 +97,7 @@ class DraftsOfAnEntry : public Drafts, public testing::WithParamInterface<bool> 
 
 INSTANTIATE_TEST_SUITE_P(FirstAndFurther, DraftsOfAnEntry, testing::Bool());
 
-TEST_P(DraftsOfAnEntry, killed_theEntryIsOfferedAndStandsThereAgain) {
+TEST_P(DraftsOfAnEntry, Killed_TheEntryIsOfferedAndStandsThereAgain) {
   killWhile([further = GetParam()](Program& p) {
     p.user.expectForm(NEW_ENTRY, [&](FormDriver& d) {
       typeEntry(d);
@@ -129,7 +129,7 @@ TEST_P(DraftsOfAnEntry, killed_theEntryIsOfferedAndStandsThereAgain) {
   EXPECT_EQ(left(), 0);
 }
 
-TEST_F(Drafts, ofARecord_goesBackOnlyOverWhatWasThere) {
+TEST_F(Drafts, OfARecord_GoesBackOnlyOverWhatWasThere) {
   const auto id = static_cast<std::int32_t>([&] {
     const auto reader = program();
     return reader->window.choice().id;
@@ -188,7 +188,7 @@ TEST_F(Drafts, ofARecord_goesBackOnlyOverWhatWasThere) {
   EXPECT_EQ(left(), 0);
 }
 
-TEST_F(Drafts, refused_goesWithAllThatItsProgramHasLeft_andStaysForItsOwnParish) {
+TEST_F(Drafts, Refused_GoesWithAllThatItsProgramHasLeft_AndStaysForItsOwnParish) {
   killWhile([](Program& p) {
     p.user.expectForm(NEW_ENTRY, [&](FormDriver& d) {
       typeEntry(d);
@@ -211,7 +211,7 @@ TEST_F(Drafts, refused_goesWithAllThatItsProgramHasLeft_andStaysForItsOwnParish)
   EXPECT_TRUE(std::filesystem::is_empty(folder()));
 }
 
-TEST_F(Drafts, ofABook_bringsBackItsListAndTheEntryOverIt) {
+TEST_F(Drafts, OfABook_BringsBackItsListAndTheEntryOverIt) {
   const auto choose = [](Program& p) {
     p.window.showNode("LibrosBautismo");
     p.window.chooseRow(1);
@@ -266,7 +266,7 @@ TEST_F(Drafts, ofABook_bringsBackItsListAndTheEntryOverIt) {
   EXPECT_EQ(left(), 0);
 }
 
-TEST_F(Drafts, ofARunningProgram_areNobodyElses_andGoWhenTheFormIsGivenUp) {
+TEST_F(Drafts, OfARunningProgram_AreNobodyElses_AndGoWhenTheFormIsGivenUp) {
   const auto one = program();
   const auto other = program();
   one->user.expectForm(NEW_ENTRY, [&](FormDriver& d) {
@@ -285,7 +285,7 @@ TEST_F(Drafts, ofARunningProgram_areNobodyElses_andGoWhenTheFormIsGivenUp) {
   EXPECT_THAT(one->user.problems(), IsEmpty());
 }
 
-TEST_F(Drafts, files_areTheOwnersAlone_andLinksAreNotFollowed) {
+TEST_F(Drafts, Files_AreTheOwnersAlone_AndLinksAreNotFollowed) {
   namespace fs = std::filesystem;
   const fs::path precious = directory() / "precioso.txt", mine = folder() / "mio.borrador";
   std::ofstream(precious) << "no tocar";

@@ -24,7 +24,7 @@ class Inspector : public forms::ScriptedUser {
   std::set<std::string> forms_;
 };
 
-TEST_F(ParishTest, everyFormACommandOpens_passesTheSweep) {
+TEST_F(ParishTest, EveryFormACommandOpens_PassesTheSweep) {
   create();
   Inspector inspector;
   inspector.answerAnything(forms::Answer::No);

@@ -42,7 +42,7 @@ std::string csvOf(const std::string& text) {
   return all.substr(6, all.size() - 8);  // without mark, title and line ends
 }
 
-TEST(Csv, isWhatSpanishSpreadsheetsTake) {
+TEST(Csv, IsWhatSpanishSpreadsheetsTake) {
   EXPECT_EQ(csvText(sample()),
             "\xEF\xBB\xBFNombre;Folio;Fecha;Hora\r\n"
             "\"Íñigo; «el \"\"Rubio\"\"»\";12;05/01/1999;09:30\r\n"
@@ -50,7 +50,7 @@ TEST(Csv, isWhatSpanishSpreadsheetsTake) {
   EXPECT_EQ(csvText({"Vacía", {{"Nombre", 3}}, {}}), "\xEF\xBB\xBFNombre\r\n");
 }
 
-TEST(Csv, awkwardTexts) {
+TEST(Csv, AwkwardTexts) {
   const std::vector<std::pair<std::string, std::string>> cases{
       {"=1+1", "'=1+1"},
       {"+34 600 100 200", "'+34 600 100 200"},
@@ -72,7 +72,7 @@ TEST(Csv, awkwardTexts) {
   EXPECT_THAT(csvText({"L", {{"=T", 3}}, {}}), HasSubstr("'=T")) << "titles too";
 }
 
-TEST(Ods, contentIsTyped) {
+TEST(Ods, ContentIsTyped) {
   const std::string content = odsContent(sample());
   for (const char* part :
        {"<table:table table:name=\"Partidas, Bautismo\"><table:table-column "
@@ -102,7 +102,7 @@ std::string paragraphOf(const std::string& text) {
   return row.substr(cell, row.rfind("</table:table-cell>") - cell);
 }
 
-TEST(Ods, awkwardTexts_stayTextsAndXmlStaysSound) {
+TEST(Ods, AwkwardTexts_StayTextsAndXmlStaysSound) {
   const std::vector<std::pair<std::string, std::string>> cases{
       {"=1+1", "<text:p>=1+1</text:p>"},
       {"<a> & \"b\"", "<text:p>&lt;a&gt; &amp; &quot;b&quot;</text:p>"},
@@ -119,7 +119,7 @@ TEST(Ods, awkwardTexts_stayTextsAndXmlStaysSound) {
   EXPECT_THAT(odsContent({"", {}, {}}), HasSubstr("table:name=\"Lista\""));
 }
 
-TEST(Ods, file_saysWhatItIsInItsFirstBytes) {
+TEST(Ods, File_SaysWhatItIsInItsFirstBytes) {
   const std::string ods = odsDocument(sample());
   EXPECT_THAT(ods, StartsWith("PK\3\4"));
   EXPECT_EQ(ods.substr(8, 2), std::string(2, '\0')) << "as it stands, not packed";
@@ -130,7 +130,7 @@ TEST(Ods, file_saysWhatItIsInItsFirstBytes) {
   EXPECT_EQ(ods.find("<table:table"), std::string::npos) << "the sheet is packed";
 }
 
-TEST_F(ParishTest, replacedFile_isTheNewOneOrTheOldOne) {
+TEST_F(ParishTest, ReplacedFile_IsTheNewOneOrTheOldOne) {
   const QString file = QString::fromStdString((directory() / "lista.csv").string());
   const auto content = [&] {
     std::ifstream in(file.toStdString());
@@ -186,7 +186,7 @@ class SavedList : public OpenWindow<> {
   }
 };
 
-TEST_F(SavedList, isWhatIsShown) {
+TEST_F(SavedList, IsWhatIsShown) {
   QTableView& view = window->table();
   EXPECT_THAT(texts(readList(view)), ElementsAre("[Ñandú][]", "[Organista][=2+2]",
                                                  "[Sacristán][Abre y cierra.\r\nToca.]"));
@@ -205,7 +205,7 @@ TEST_F(SavedList, isWhatIsShown) {
   EXPECT_FALSE(window->action("guardar-lista")->isEnabled()) << "a folder has no list";
 }
 
-TEST_F(SavedList, numbersAndDates_areWhatTheyAre) {
+TEST_F(SavedList, NumbersAndDates_AreWhatTheyAre) {
   desk->parish().Execute("UPDATE Bautismo SET Numero=\"007\"");
   window->showNode("PartidasBautismo");
   const ListTable table = readList(window->table());
@@ -220,7 +220,7 @@ TEST_F(SavedList, numbersAndDates_areWhatTheyAre) {
   for (const ListColumn& column : table.columns) EXPECT_GT(column.centimetres, 0.5);
 }
 
-TEST_F(SavedList, byTheWindow_isWrittenAndTheFolderRemembered) {
+TEST_F(SavedList, ByTheWindow_IsWrittenAndTheFolderRemembered) {
   const std::filesystem::path folder = directory() / "listas";
   std::filesystem::create_directory(folder);
   saveAs(QString::fromStdString((folder / "cargos.csv").string()));

@@ -49,7 +49,7 @@ class Returning : public Copies {
   fs::path copy;
 };
 
-TEST_F(Returning, bringsBackTheContentAndKeepsWhatWasThere) {
+TEST_F(Returning, BringsBackTheContentAndKeepsWhatWasThere) {
   const auto other = store::openDatabase(files().parish(), store::parishSchema());
   auto seen = other->Execute("SELECT COUNT(*) AS n FROM Cargo");
   answerNext({});
@@ -73,7 +73,7 @@ TEST_F(Returning, bringsBackTheContentAndKeepsWhatWasThere) {
   EXPECT_THAT(rest(), IsEmpty());
 }
 
-TEST_F(Returning, whileSomebodyElseIsThere_isRefused) {
+TEST_F(Returning, WhileSomebodyElseIsThere_IsRefused) {
   {
     const Presence colleague(directory(), "Ana", "20/05/2026 09:15");
     EXPECT_FALSE(returnTo(copy));
@@ -95,7 +95,7 @@ TEST_F(Returning, whileSomebodyElseIsThere_isRefused) {
   EXPECT_EQ(copies.list().size(), 1U);
 }
 
-TEST_F(Returning, whileAProgramWrites_isToldAndChangesNothing) {
+TEST_F(Returning, WhileAProgramWrites_IsToldAndChangesNothing) {
   const auto other = store::openDatabase(files().parish(), store::parishSchema());
   other->BeginTrans();
   answerNext("&Volver a la copia");
@@ -105,7 +105,7 @@ TEST_F(Returning, whileAProgramWrites_isToldAndChangesNothing) {
   EXPECT_EQ(offices(), 2);
 }
 
-TEST_F(Returning, toWhatIsNoSoundCopy_isRefusedAndChangesNothing) {
+TEST_F(Returning, ToWhatIsNoSoundCopy_IsRefusedAndChangesNothing) {
   const auto refused = [&](const fs::path& file, const char* message) {
     EXPECT_FALSE(returnTo(file)) << file;
     EXPECT_THAT(told(), HasSubstr(message)) << file;
@@ -147,7 +147,7 @@ TEST_F(Returning, toWhatIsNoSoundCopy_isRefusedAndChangesNothing) {
   EXPECT_THAT(rest(), IsEmpty());
 }
 
-TEST_F(Returning, whenTheParishCannotBeOpened_putsItAsideWithWhatLiesBesideIt) {
+TEST_F(Returning, WhenTheParishCannotBeOpened_PutsItAsideWithWhatLiesBesideIt) {
   desk.reset();
   for (const bool gone : {false, true}) {
     std::ofstream(files().parish().string() + "-wal") << "restos";
@@ -168,7 +168,7 @@ TEST_F(Returning, whenTheParishCannotBeOpened_putsItAsideWithWhatLiesBesideIt) {
   }
 }
 
-TEST_F(Returning, withoutRoomForTheOtherCopy_asksAndReturns) {
+TEST_F(Returning, WithoutRoomForTheOtherCopy_AsksAndReturns) {
   const fs::path aside = directory() / "aparte.copia";
   fs::rename(copy, aside);
   fs::remove_all(folder());
@@ -181,7 +181,7 @@ TEST_F(Returning, withoutRoomForTheOtherCopy_asksAndReturns) {
   EXPECT_EQ(offices(), 1);
 }
 
-TEST_F(Returning, byTheWindow_showsTheOldRowsAgain) {
+TEST_F(Returning, ByTheWindow_ShowsTheOldRowsAgain) {
   MainWindow window(*desk);
   window.showNode("Cargos");
   EXPECT_EQ(window.table().model()->rowCount(), 2);
@@ -199,7 +199,7 @@ TEST_F(Returning, byTheWindow_showsTheOldRowsAgain) {
 /// With each way of keeping what is not finished: on a disk of the machine, and on the network.
 class ReturnOnAFullDisk : public Copies, public ::testing::WithParamInterface<const char*> {};
 
-TEST_P(ReturnOnAFullDisk, changesNothing) {
+TEST_P(ReturnOnAFullDisk, ChangesNothing) {
   const auto fill = [&](const char* table) {
     desk->parish().BeginTrans();
     for (int i = 0; i < 700; ++i)

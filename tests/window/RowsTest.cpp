@@ -68,7 +68,7 @@ class Rows : public ::testing::Test {
 
 using ::testing::ElementsAre;
 
-TEST_F(Rows, keepsTheContractOfModels) {
+TEST_F(Rows, KeepsTheContractOfModels) {
   QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::Fatal);
   model.load(*con, *findNode("Provincias"));
   EXPECT_EQ(model.rowCount(), 52);
@@ -76,7 +76,7 @@ TEST_F(Rows, keepsTheContractOfModels) {
   EXPECT_EQ(model.rowCount(), 0);
 }
 
-TEST_F(Rows, sort_textInSpanishOrderNumbersByValueDatesByTheDay) {
+TEST_F(Rows, Sort_TextInSpanishOrderNumbersByValueDatesByTheDay) {
   EXPECT_THAT(sorted("Primer apellido", "Primer apellido"),
               ElementsAre("Nadal", "Nuñez", "Núñez", "Ñíguez"));
   EXPECT_THAT(sorted("Número", "Número"), ElementsAre("1", "2", "10", "12a"));
@@ -84,7 +84,7 @@ TEST_F(Rows, sort_textInSpanishOrderNumbersByValueDatesByTheDay) {
               ElementsAre("03/02/2001", "01/01/1999", "31/12/1905", ""));
 }
 
-TEST_F(Rows, filterFindsWhateverTheAccentsAndTheOrder) {
+TEST_F(Rows, FilterFindsWhateverTheAccentsAndTheOrder) {
   for (const auto& [text, rows] :
        {std::pair("nunez", 2), std::pair("NÚÑEZ", 2), std::pair("oscar nig", 1),
         std::pair("iñigo", 1), std::pair("03/02/2001", 1), std::pair("anulada", 1),
@@ -94,7 +94,7 @@ TEST_F(Rows, filterFindsWhateverTheAccentsAndTheOrder) {
   }
 }
 
-TEST_F(Rows, anAnnulledRowIsMarked) {
+TEST_F(Rows, AnAnnulledRowIsMarked) {
   for (int r = 0; r < shown.rowCount(); ++r) {
     const bool annulled = shown.index(r, 0).data(RowsModel::AnnulledRole).toBool();
     EXPECT_EQ(cell(r, "Anulada"), annulled ? "Anulada" : "");
@@ -103,14 +103,14 @@ TEST_F(Rows, anAnnulledRowIsMarked) {
   }
 }
 
-TEST_F(Rows, aFailingLoadKeepsWhatWasShown) {
+TEST_F(Rows, AFailingLoadKeepsWhatWasShown) {
   NodeView broken = *findNode("PartidasBautismo");
   broken.node.SQLSelect = "SELECT Nada FROM Bautismo";
   EXPECT_THROW(model.load(*con, broken), store::Error);
   EXPECT_EQ(model.rowCount(), 4);
 }
 
-TEST_F(Rows, anotherLoad_sortsAndFiltersWhatIsThereNow) {
+TEST_F(Rows, AnotherLoad_SortsAndFiltersWhatIsThereNow) {
   shown.setText("nadal");
   shown.sort(column("Nombre"));
   EXPECT_EQ(shown.rowCount(), 1);
@@ -123,7 +123,7 @@ TEST_F(Rows, anotherLoad_sortsAndFiltersWhatIsThereNow) {
   EXPECT_EQ(model.rowOf(999), -1);
 }
 
-TEST_F(Rows, timesAreShownWithAColon_andALongTextInOneLine) {
+TEST_F(Rows, TimesAreShownWithAColon_AndALongTextInOneLine) {
   for (const char* times : {"\"0905\", \"\"", "\"\", \"2330\""})
     con->Execute(std::string("INSERT INTO Tareas (Fecha, HoraInicio, HoraFin, Nombre, Descripcion) "
                              "VALUES (\"20260524\", ") +
@@ -148,7 +148,7 @@ void addPerson(store::Connection& con, const char* name, const std::vector<int>&
     Insert("Padron_TipoPersona").number("CodPadron", id).number("CodTipoPersona", role).into(con);
 }
 
-TEST_F(Rows, peopleAreListedOnceInEachOfTheirRoles) {
+TEST_F(Rows, PeopleAreListedOnceInEachOfTheirRoles) {
   addPerson(*con, "Empadronada", {2});
   addPerson(*con, "Colaborador", {3});
   addPerson(*con, "Ambas cosas", {2, 3});
@@ -162,7 +162,7 @@ TEST_F(Rows, peopleAreListedOnceInEachOfTheirRoles) {
   EXPECT_THAT(sorted("Nombre", "Nombre"), ElementsAre("Ambas cosas", "Colaborador"));
 }
 
-TEST_F(Rows, activitiesCountTheirOwnGroupsAndMembers) {
+TEST_F(Rows, ActivitiesCountTheirOwnGroupsAndMembers) {
   for (const char* name : {"Coro", "Limpieza", "Cáritas"})
     Insert("Actividad").text("Nombre", name).number("CodInstitucion", 1).into(*con);
   for (const int activity : {1, 1, 3}) Insert("Grupo").number("CodActividad", activity).into(*con);
@@ -174,7 +174,7 @@ TEST_F(Rows, activitiesCountTheirOwnGroupsAndMembers) {
   EXPECT_EQ(cell(1, "Institución"), "San Blas");
 }
 
-TEST(Nodes, everyListRunsAndHasItsColumns) {
+TEST(Nodes, EveryListRunsAndHasItsColumns) {
   const auto con = store::memoryDatabase(store::parishSchema());
   for (const NodeView& v : nodeViews()) {
     if (v.node.SQLSelect.empty()) continue;

@@ -24,14 +24,14 @@ class Window : public OpenWindow<> {
   bool visible(const char* command) const { return window->action(command)->isVisible(); }
 };
 
-TEST_F(Window, opensOnTheEntriesWithARowChosen) {
+TEST_F(Window, OpensOnTheEntriesWithARowChosen) {
   EXPECT_EQ(window->choice().node->node.Nombre, "PartidasBautismo");
   EXPECT_NE(window->choice().id, 0);
   EXPECT_TRUE(enabled("propiedades-partida"));
   EXPECT_FALSE(visible("nuevo-libro"));
 }
 
-TEST_F(Window, anotherNode_bringsItsRowsAndCommands) {
+TEST_F(Window, AnotherNode_BringsItsRowsAndCommands) {
   window->showNode("LibrosBautismo");
   EXPECT_EQ(shown(), 2);
   EXPECT_TRUE(enabled("cerrar-libro"));
@@ -44,7 +44,7 @@ TEST_F(Window, anotherNode_bringsItsRowsAndCommands) {
   EXPECT_FALSE(visible("nueva-partida"));
 }
 
-TEST_F(Window, filter_narrowsAndTheCommandsFollowTheRow) {
+TEST_F(Window, Filter_NarrowsAndTheCommandsFollowTheRow) {
   const int all = shown();
   window->filter().setText("zzzz");
   EXPECT_EQ(shown(), 0);
@@ -54,7 +54,7 @@ TEST_F(Window, filter_narrowsAndTheCommandsFollowTheRow) {
   EXPECT_TRUE(enabled("propiedades-partida"));
 }
 
-TEST_F(Window, annulling_asksAndOneKeyLeadsThereAndBack) {
+TEST_F(Window, Annulling_AsksAndOneKeyLeadsThereAndBack) {
   const auto id = static_cast<std::int32_t>(
       count("SELECT MAX(IDBautismo) FROM Bautismo WHERE CodLibro<>0 AND Anulada=false"));
   ASSERT_TRUE(window->chooseRow(id));
@@ -75,7 +75,7 @@ TEST_F(Window, annulling_asksAndOneKeyLeadsThereAndBack) {
   EXPECT_TRUE(visible("anular") && !visible("validar"));
 }
 
-TEST_F(Window, annulledElsewhere_isToldInsteadOfAskedAndNotValidated) {
+TEST_F(Window, AnnulledElsewhere_IsToldInsteadOfAskedAndNotValidated) {
   const std::int32_t id = window->choice().id;
   ASSERT_FALSE(window->choice().annulled);
   desk->parish().Execute("UPDATE Bautismo SET Anulada=1 WHERE IDBautismo=" + std::to_string(id));
@@ -85,7 +85,7 @@ TEST_F(Window, annulledElsewhere_isToldInsteadOfAskedAndNotValidated) {
   EXPECT_TRUE(window->choice().annulled);
 }
 
-TEST_F(Window, insertKey_addsFromTheListAndFromTheTree) {
+TEST_F(Window, InsertKey_AddsFromTheListAndFromTheTree) {
   window->showNode("Municipios");
   const std::vector<QWidget*> views{&window->table(), window->findChild<QTreeView*>()};
   window->activateWindow();
@@ -97,7 +97,7 @@ TEST_F(Window, insertKey_addsFromTheListAndFromTheTree) {
   }
 }
 
-TEST_F(Window, whatIsAddedIsChosen) {
+TEST_F(Window, WhatIsAddedIsChosen) {
   window->showNode("Municipios");
   const int before = shown();
   user.expectForm("frmMunicipio", [](forms::FormDriver& d) {
@@ -110,7 +110,7 @@ TEST_F(Window, whatIsAddedIsChosen) {
   EXPECT_EQ(window->choice().id, count("SELECT MAX(IDMunicipio) FROM Municipio"));
 }
 
-TEST_F(Window, changedByAnotherDesk_theListFollowsAndStaysWhereItWas) {
+TEST_F(Window, ChangedByAnotherDesk_TheListFollowsAndStaysWhereItWas) {
   window->showNode("Provincias");
   window->resize(900, 400);
   const auto top = [&] { return window->table().indexAt({0, 0}).data(RowsModel::KeyRole).toInt(); };
@@ -135,7 +135,7 @@ TEST_F(Window, changedByAnotherDesk_theListFollowsAndStaysWhereItWas) {
   EXPECT_EQ(top(), highest);
 }
 
-TEST_F(Window, entriesOfABook_areItsOwnUntilTheLimitIsTakenAway) {
+TEST_F(Window, EntriesOfABook_AreItsOwnUntilTheLimitIsTakenAway) {
   const int all = shown();
   window->showNode("LibrosBautismo");
   ASSERT_TRUE(window->chooseRow(2));
@@ -156,14 +156,14 @@ TEST_F(Window, entriesOfABook_areItsOwnUntilTheLimitIsTakenAway) {
   EXPECT_FALSE(scope->isVisible());
 }
 
-TEST_F(Window, document_holdsItsEntryAloneAndNothingWhenThatIsGone) {
+TEST_F(Window, Document_HoldsItsEntryAloneAndNothingWhenThatIsGone) {
   const Documento* slip = documento("InformeVolanteBautismo");
   user.answerAnything(forms::Answer::Ok);
   EXPECT_FALSE(makeReport(*desk, *slip, 999999));
   for (int i = 0; i < 2; ++i) EXPECT_EQ(makeReport(*desk, *slip, 1)->rowCount(), 1u);
 }
 
-TEST_F(Window, widthsAndPlaceComeBack) {
+TEST_F(Window, WidthsAndPlaceComeBack) {
   window->table().setColumnWidth(3, 321);
   window->resize(1000, 555);
   window->close();
@@ -172,7 +172,7 @@ TEST_F(Window, widthsAndPlaceComeBack) {
   EXPECT_EQ(window->height(), 555);
 }
 
-TEST_F(Window, leavingOrClosingTheParish_closesTheWindowOnceTheCommandHasEnded) {
+TEST_F(Window, LeavingOrClosingTheParish_ClosesTheWindowOnceTheCommandHasEnded) {
   give("salir");
   QCoreApplication::processEvents();
   EXPECT_FALSE(window->isVisible());
@@ -183,7 +183,7 @@ TEST_F(Window, leavingOrClosingTheParish_closesTheWindowOnceTheCommandHasEnded) 
   EXPECT_EQ(window->departure().to, Departure::To::Start);
 }
 
-TEST_F(Window, recentParishes_areInTheMenuWithoutTheOpenOne) {
+TEST_F(Window, RecentParishes_AreInTheMenuWithoutTheOpenOne) {
   ParishDoor door(settings, clock);
   for (int i = 0; i < 10; ++i)
     door.remember({"Parroquia " + std::to_string(i), directory() / std::to_string(i)});
@@ -201,7 +201,7 @@ TEST_F(Window, recentParishes_areInTheMenuWithoutTheOpenOne) {
   EXPECT_EQ(window->departure().directory, directory() / "9");
 }
 
-TEST_F(ParishTest, wizard_givesBackWhatItWasOfferedAndOpensAParishThatIsThere) {
+TEST_F(ParishTest, Wizard_GivesBackWhatItWasOfferedAndOpensAParishThatIsThere) {
   createParish(described(Content::Empty), clock.today());
   FirstRunWizard wizard(described());
   wizard.restart();
@@ -221,7 +221,7 @@ TEST_F(ParishTest, wizard_givesBackWhatItWasOfferedAndOpensAParishThatIsThere) {
   EXPECT_TRUE(wizard.opensWhatIsThere());
 }
 
-TEST_F(ParishTest, demo_walksTheWholeRoad) {
+TEST_F(ParishTest, Demo_WalksTheWholeRoad) {
   std::ostringstream out;
   EXPECT_TRUE(runDemo(directory() / "demo", out)) << out.str();
   for (const char* file : {"demo.log", "certificado.pdf", "literal.pdf", "volante.pdf", "libro.pdf",
@@ -230,7 +230,7 @@ TEST_F(ParishTest, demo_walksTheWholeRoad) {
   EXPECT_TRUE(runDemo(directory() / "demo", out)) << "a second time: " << out.str();
 }
 
-TEST_F(ParishTest, demo_leavesAnotherParishAlone) {
+TEST_F(ParishTest, Demo_LeavesAnotherParishAlone) {
   create(Content::Empty);
   std::ostringstream out;
   EXPECT_FALSE(runDemo(directory(), out));

@@ -13,7 +13,7 @@ struct Numeral {
 
 class Escritura : public ::testing::TestWithParam<Numeral> {};
 
-TEST_P(Escritura, numberBecomesItsLetters) {
+TEST_P(Escritura, NumberBecomesItsLetters) {
   EXPECT_EQ(cConversor().ConvertirRomano(GetParam().numero), GetParam().romano);
 }
 
@@ -28,7 +28,7 @@ INSTANTIATE_TEST_SUITE_P(Tabla, Escritura,
 
 class Lectura : public ::testing::TestWithParam<Numeral> {};
 
-TEST_P(Lectura, lettersBecomeTheirNumber) {
+TEST_P(Lectura, LettersBecomeTheirNumber) {
   EXPECT_EQ(cConversor().ConvertirArabe(GetParam().romano), GetParam().numero);
 }
 
@@ -41,7 +41,7 @@ INSTANTIATE_TEST_SUITE_P(Tabla, Lectura,
                                            // Û counts nothing, so the M before it is added.
                                            Numeral{1999, "MÛCMXCIX"}));
 
-TEST(Conversor, everyNumberUpTo3999_isReadBackAsItWasWritten) {
+TEST(Conversor, EveryNumberUpTo3999_IsReadBackAsItWasWritten) {
   const cConversor conversor;
   for (std::int64_t n = 1; n < 4000; ++n)
     ASSERT_EQ(conversor.ConvertirArabe(conversor.ConvertirRomano(n)), n);

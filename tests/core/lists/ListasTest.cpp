@@ -56,7 +56,7 @@ class Listas : public ::testing::Test {
   bool error = false;
 };
 
-TEST_F(Listas, bookFormats_followOriginAndEdition) {
+TEST_F(Listas, BookFormats_FollowOriginAndEdition) {
   EXPECT_THAT(formatos(cCOrigen::NuevoLibro, 1), ElementsAre(3));
   EXPECT_THAT(formatos(cCOrigen::NuevoLibro, 0), ElementsAre(1));
   EXPECT_THAT(formatos(cCOrigen::ANTIGUOLIBRO, 0), ElementsAre(1, 2, 3, 4));
@@ -64,14 +64,14 @@ TEST_F(Listas, bookFormats_followOriginAndEdition) {
   EXPECT_THAT(formatos(cCOrigen::NuevoLibro, 1), ElementsAre(2, 3));
 }
 
-TEST_F(Listas, nameTypes_forNewAndOldBooks) {
+TEST_F(Listas, NameTypes_ForNewAndOldBooks) {
   listas.fillTipoNombre(ventana.lista, mundo.con(), "Nuevo");
   EXPECT_THAT(datos(ventana.lista), ElementsAre(1, 4));
   listas.fillTipoNombre(ventana.lista, mundo.con(), "Antiguo");
   EXPECT_THAT(datos(ventana.lista), ElementsAre(2, 3, 4));
 }
 
-TEST_F(Listas, bookName_isTheFirstFreeOneOfItsType) {
+TEST_F(Listas, BookName_IsTheFirstFreeOneOfItsType) {
   EXPECT_EQ(nombre(1), "2026/01");
   EXPECT_EQ(nombre(2), "1");
   EXPECT_EQ(nombre(3), "I");
@@ -84,7 +84,7 @@ TEST_F(Listas, bookName_isTheFirstFreeOneOfItsType) {
   EXPECT_FALSE(error);
 }
 
-TEST_F(Listas, bookNameOfAYearWith99Books_isRefused) {
+TEST_F(Listas, BookNameOfAYearWith99Books_IsRefused) {
   for (int n = 1; n <= 99; ++n) libro("2026/" + std::string(n < 10 ? "0" : "") + std::to_string(n));
   mundo.user.expectMessage("¡No se pueden crear más libros para el formato elegido!");
   EXPECT_EQ(nombre(1), "");
@@ -94,7 +94,7 @@ TEST_F(Listas, bookNameOfAYearWith99Books_isRefused) {
   EXPECT_SCRIPT_DONE(mundo.user);
 }
 
-TEST_F(Listas, bookNameThatCannotBeLookedUp_isReportedAndFails) {
+TEST_F(Listas, BookNameThatCannotBeLookedUp_IsReportedAndFails) {
   mundo.user.answerAnything(forms::Answer::Ok);
   EXPECT_EQ(listas.ObtenerNombreLibro(mundo.conInformes(), 2, 1, BAUTISMO.byte, error), "");
   EXPECT_TRUE(error);
@@ -102,7 +102,7 @@ TEST_F(Listas, bookNameThatCannotBeLookedUp_isReportedAndFails) {
   EXPECT_THAT(mundo.user.messages()[0].text, ::testing::HasSubstr("ObtenerNombreLibro()"));
 }
 
-TEST_F(Listas, grid_keepsStoredWidthsAndWritesMissingOnes) {
+TEST_F(Listas, Grid_KeepsStoredWidthsAndWritesMissingOnes) {
   const std::string camino = "Propiedades Libros\\PropiedadesLibro";
   mundo.settings.write("Fidaleon", "ana\\Castellano\\Grids\\" + camino, "2", "777");
   mundo.settings.write("Fidaleon", "ana\\Castellano\\Grids\\" + camino, "3", "-1");
@@ -118,7 +118,7 @@ TEST_F(Listas, grid_keepsStoredWidthsAndWritesMissingOnes) {
   EXPECT_EQ(ventana.rejilla.columnWidth(5), 1200);
 }
 
-TEST_F(Listas, provinces_areFilledAnewWithTheirChoiceKept) {
+TEST_F(Listas, Provinces_AreFilledAnewWithTheirChoiceKept) {
   const std::int32_t madrid = mundo.provincia("Madrid");
   ventana.provincia.addItem("Madrid", madrid);
   ventana.provincia.setListIndex(0);

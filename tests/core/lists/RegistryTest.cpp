@@ -13,7 +13,7 @@ using ::testing::ElementsAre;
 
 using Almacen = support::MemorySettings;
 
-TEST(RegistryKey, valuesAndKeysUnderIt_areListedOnceAndDeleted) {
+TEST(RegistryKey, ValuesAndKeysUnderIt_AreListedOnceAndDeleted) {
   Almacen almacen;
   for (const char* seccion : {"ana", "ana\\G", "ana\\G x", "ana\\G\\uno", "ana\\G\\dos", "anabel"})
     almacen.write("Fidaleon", seccion, "a", "1");
@@ -35,7 +35,7 @@ TEST(RegistryKey, valuesAndKeysUnderIt_areListedOnceAndDeleted) {
   EXPECT_THROW(clave.ValueNames(), std::logic_error);
 }
 
-TEST(RegistryKey, onTheSettingsFile_keepsWhatIsWrittenAndForgetsWhatIsDeleted) {
+TEST(RegistryKey, OnTheSettingsFile_KeepsWhatIsWrittenAndForgetsWhatIsDeleted) {
   const tests::TempDirectory carpeta;
   const auto fichero = carpeta.path() / "ajustes.ini";
   {
