@@ -148,50 +148,6 @@ TEST_F(OldBaptism, DatesThatCannotBe_AreNamedOnceAndNotRefused) {
 
 class BaptismOfAList : public BaptismWorld {};
 
-TEST_F(BaptismOfAList, NewItems_StayInTheCollectionAndTakeTheNextPositions) {
-  const std::int32_t libro = book("Libro 1", true, 3);
-  ColeccionBautismo items;
-  openFromList(cCOperacion::ANADIR, libro, items, [&](FormDriver& d) {
-    EXPECT_TRUE(d.locked("cboBautismo(22)"));
-    EXPECT_TRUE(d.locked("cboBautismo(23)"));
-    EXPECT_FALSE(d.enabled("cmdAltaInstitucion"));
-    typeChild(d, "Luis");
-    w.user.expectMessage(EMPTY_FIELDS, Answer::Yes);
-    w.user.expectMessage(FURTHER, Answer::Yes);
-    accept(d);
-    EXPECT_EQ(d.text("txtLibro(1)"), "2");
-    typeChild(d, "Luis");
-    w.user.expectMessage(EMPTY_FIELDS, Answer::Yes);
-    w.user.expectMessage(
-        "La partida de Luis García Pérez ya existe en el libro correspondiente, "
-        "¿Quiere continuar?",
-        Answer::Yes);
-    w.user.expectMessage(FURTHER, Answer::No);
-    accept(d);
-  });
-  EXPECT_EQ(w.count("bautismo"), 0);
-  ASSERT_EQ(items.size(), 2u);
-  EXPECT_EQ(items[1].FolioBautismo, "2");
-  EXPECT_FALSE(items[1].Estado);
-  EXPECT_EQ(items[1].Operacion, cCOperacion::ANADIR);
-  EXPECT_SCRIPT_DONE(w.user);
-}
-
-TEST_F(BaptismOfAList, OldBook_TurnsTheOperationToAntigua) {
-  const std::int32_t libro = book("Antiguo", false, 3);
-  ColeccionBautismo items;
-  openFromList(cCOperacion::ANADIR, libro, items, [&](FormDriver& d) {
-    EXPECT_EQ(d.caption(), "Agregar partida de bautismo antigua. Folio:1 número:1");
-    EXPECT_FALSE(d.locked("txtLibro(1)"));
-    typeChild(d, "Luis");
-    w.user.expectMessage(FURTHER, Answer::No);
-    accept(d);
-  });
-  ASSERT_EQ(items.size(), 1u);
-  EXPECT_EQ(items[0].Operacion, cCOperacion::ANTIGUA);
-  EXPECT_SCRIPT_DONE(w.user);
-}
-
 TEST_F(BaptismOfAList, EditedItems_KeepWhatIsStillToBeDoneToThem) {
   const std::int32_t libro = book("Antiguo", false, 3);
   const std::int32_t id = store(record("Luis", libro, 1, "1"));
