@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "forms/Form.h"
+#include "forms/Held.h"
 #include "text/Utf8.h"
 
 namespace fidaleon::forms {
@@ -33,11 +34,12 @@ std::string allLines(const ListBox& list) {
 /// Nothing for a control that holds nothing of the user's.
 std::optional<Field> fieldOf(const Control& control) {
   Field field{control.name(), {}, {}, 0};
+  const bool held = control.Tag == HELD;
   if (const auto* box = dynamic_cast<const TextBox*>(&control)) {
-    if (box->locked() || box->password()) return std::nullopt;
+    if ((box->locked() && !held) || box->password()) return std::nullopt;
     field.text = box->text();
   } else if (const auto* list = dynamic_cast<const ListControl*>(&control)) {
-    if (list->locked()) return std::nullopt;
+    if (list->locked() && !held) return std::nullopt;
     const auto* lines = dynamic_cast<const ListBox*>(list);
     field.text = lines ? allLines(*lines) : list->text();
     field.data = lines ? 0 : list->data();

@@ -23,7 +23,7 @@ struct Field {
 };
 
 /// What a user could lose with a form: a plain value that can be compared, kept elsewhere and put
-/// back. Fields that are locked are left out.
+/// back. Fields that are locked are left out, unless for a while only (Held.h).
 struct Contents {
   std::vector<Field> fields;  // in tab order
   std::string own;            // Form::ownWork()

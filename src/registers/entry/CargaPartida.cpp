@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "core/statements/Sentencia.h"
+#include "forms/Held.h"
 #include "registers/entry/frmPartida.h"
 
 namespace fidaleon {
@@ -190,7 +191,11 @@ void frmPartida::bloquear(bool anulada) {
   const auto fijar = [this](auto& control) {
     if (control.locked()) return;
     control.setLocked(true);
-    bloqueados_.push_back([&control] { control.setLocked(false); });
+    control.Tag = forms::HELD;
+    bloqueados_.push_back([&control] {
+      control.setLocked(false);
+      control.Tag.clear();
+    });
   };
   const bool quedanNotas = variante_.alAnular == VariantePartida::AlAnular::TodoMenosNotas;
   for (forms::TextBox* campo : textos_)

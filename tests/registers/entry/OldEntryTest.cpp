@@ -1,5 +1,7 @@
 // Entries copied into the old books of any register.
 
+#include <algorithm>
+
 #include "registers/entry/EntryWorld.h"
 
 namespace fidaleon::tests {
@@ -100,6 +102,10 @@ TEST_P(OldEntry, AnnulledBeforeItIsStored_IsStoredSo) {
     EXPECT_EQ(d.locked(name()), k.annulledIsLocked);
     EXPECT_EQ(d.enabled("cmdAltaPoblacion"), !k.annulledIsLocked);
     EXPECT_EQ(d.locked(text(k.notes)), !k.notesStayOpen);
+    EXPECT_TRUE(std::ranges::any_of(
+        forms::Contents::of(d.form()).fields,
+        [&](const forms::Field& f) { return f.control == name() && f.text == "Eva"; }))
+        << "a draft keeps what is locked";
     w.user.expectMessage(FURTHER_ENTRY, Answer::Yes);
     accept(d);
     EXPECT_FALSE(d.locked(name())) << "the next one is valid";
