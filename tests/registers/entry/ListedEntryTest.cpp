@@ -12,7 +12,7 @@ class ListedEntry : public EntryWorld {
       d.tab("mstLibro", frmPropiedadesLibro::TAB_PARTIDAS);
       act(d);
     });
-    const auto dialog = crearPropiedadesLibro(w.contexto, k.s);
+    const auto dialog = propiedadesDeLibro(k.s)(w.contexto);
     dialog->conBaseDatos = &w.con();
     dialog->lngLibro = id;
     dialog->Show();
