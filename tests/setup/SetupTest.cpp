@@ -1,6 +1,7 @@
 // The data that an institution must have, and the keepers of its archive.
 
 #include "census/Manos.h"
+#include "registers/Rows.h"
 #include "setup/frmDatosSetup.h"
 #include "setup/frmEncargado.h"
 
@@ -121,15 +122,16 @@ constexpr const char* TABLA = "Institucion_Encargado";
 
 struct Encargados : En<ManosWorld> {
   Encargados() {
-    ejecutar(
-        "INSERT INTO Libro_Bautismo (CodInstitucion, CodFormato, CodTipoNombre, Nombre) "
-        "VALUES (1, 3, 1, \"2003/01\")");
-    ejecutar("INSERT INTO Bautismo (CodLibro, Numero) VALUES (1, \"1\")");
+    enLibro(BAUTISMO);
     for (const char* nombre : {"Pedro Ruiz", "Rosa Gil"})
       ejecutar(std::string("INSERT INTO Institucion_Encargado (CodInstitucion, Nombre) VALUES (1, "
                            "\"") +
                nombre + "\")");
     ejecutar("UPDATE Ultimos SET Encargado=\"Rosa Gil\"");
+  }
+  /// The only entry of a register, in a book of the parish.
+  void enLibro(const Sacramento& s) {
+    insertEntry(*this, s, {"Eva", insertBook(*this, s, parroquia), 1, "1"});
   }
   /// "keeper|date|institution" that come out; without hands when nothing opens.
   std::string abrir(Act act, const char* sacramento = "Bautismo") {
@@ -176,10 +178,7 @@ TEST_F(Encargados, Opened_ShowsInstitutionKeepersLastKeeperAndToday) {
 }
 
 TEST_F(Encargados, EntryOfDeathOrWithoutBook_IsFoundByItsOwnKeyOrNotOpened) {
-  ejecutar(
-      "INSERT INTO Libro_Defuncion (CodInstitucion, CodFormato, CodTipoNombre, Nombre) VALUES "
-      "(1, 3, 1, \"1\")");
-  ejecutar("INSERT INTO Defuncion (CodLibro, Numero) VALUES (1, \"1\")");
+  enLibro(DEFUNCION);
   EXPECT_EQ(abrir([](FormDriver& u) { u.click(ACEPTAR); }, "Defuncion"), "Rosa Gil|20261122|1");
   ejecutar("UPDATE Bautismo SET CodLibro=0");
   user.answerAnything(Answer::Ok);

@@ -118,12 +118,5 @@ TEST_F(Cumpleaños, OddTextFromTheStore_PassesUntilItIsChanged) {
   EXPECT_FALSE(formulario.cumpleaños.valido());
 }
 
-TEST_F(Cumpleaños, Locked_IgnoresKeysSilently) {
-  formulario.cumpleaños.poner("03/05");
-  formulario.campo.setLocked(true);
-  EXPECT_EQ(tras('1', 0, 5) + tras('<', 3) + tras('x', 5), "03/0503/0503/05");
-  EXPECT_EQ(user.beeps(), 0);
-}
-
 }  // namespace
 }  // namespace fidaleon::tests

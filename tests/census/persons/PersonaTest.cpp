@@ -334,20 +334,6 @@ TEST_F(Personas, ValuesOfAnotherForm_StayUntilTheyAreChanged) {
   caso("X1234567-L", "X1234567", "L");
 }
 
-TEST_F(Personas, StoredTextThatIsNoDate_StaysUntilADateIsTyped) {
-  rosa();
-  ejecutar("UPDATE Padron_Nacimiento SET FechaNacimiento='1970'");
-  for (const char* tecleada : {"", "15/03/1970"}) {
-    editaPersona(1, [&](FormDriver& u) {
-      EXPECT_EQ(u.text(f(P::FechaNacimiento)), "");
-      poner(u, f(P::FechaNacimiento), tecleada, f(P::FechaBautizo), "");
-      u.click(ACEPTAR);
-    });
-    EXPECT_EQ(filas("SELECT FechaNacimiento,FechaBautizo FROM Padron_Nacimiento,Padron_Bautismo"),
-              *tecleada ? "19700315|" : "1970|");
-  }
-}
-
 TEST_F(Personas, CollaboratorOrWithoutRowsAccepted_GainsWhatIsMissingAndKeepsTheRest) {
   rosa("", {COLABORADOR});
   ejecutar("UPDATE Padron SET Cumpleaños='15/03',AñoNacimiento='1970'");

@@ -128,17 +128,6 @@ TEST_F(Busqueda, DetailsOfTheRow_ChooseNobodyAndASelectedRowHandsOverItsKey) {
   }
 }
 
-TEST_F(Busqueda, WhileEditingOrWithoutRows_NobodyCanBeSelected) {
-  for (const bool hay : {true, false}) {
-    const auto act = [hay](FormDriver& u) {
-      EXPECT_FALSE(u.enabled(SELECCIONAR));
-      EXPECT_EQ(u.enabled(DETALLES), hay);
-      u.click(CANCELAR);
-    };
-    buscar(hay ? "" : " WHERE Nombre=\"Nadie\"", act, !hay);
-  }
-}
-
 TEST_F(Busqueda, PersonGoneOrStoreFailing_IsToldAndTheListStays) {
   user.answerAnything(Answer::Ok);
   const std::int32_t elegido = buscar(" ORDER BY IDPadron", [&](FormDriver& u) {

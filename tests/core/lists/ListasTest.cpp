@@ -4,6 +4,7 @@
 #include "core/contract/Sacramento.h"
 #include "core/lists/cIListas.h"
 #include "forms/Form.h"
+#include "registers/Rows.h"
 #include "support/TestWorld.h"
 
 namespace fidaleon {
@@ -36,12 +37,7 @@ class Listas : public ::testing::Test {
     listas.fillFormatoLibro(ventana.lista, origen, mundo.con(), nuevo);
     return datos(ventana.lista);
   }
-  void libro(const std::string& nombre) {
-    mundo.con().Execute(
-        "INSERT into Libro_Bautismo (codinstitucion, codFormato, codTipoNombre, nombre, "
-        "fechacreacion, Nuevo, Cerrado, NumeroSiguiente, FolioSiguiente) values (1, 3, 1, \"" +
-        nombre + "\", \"20260101\", 0, 0, 1, 1)");
-  }
+  void libro(const std::string& nombre) { tests::insertBook(mundo, BAUTISMO, 1, {nombre}); }
   std::string nombre(std::int64_t tipo, const Sacramento& s = BAUTISMO) {
     return listas.ObtenerNombreLibro(mundo.con(), tipo, 1, s.byte, error);
   }
