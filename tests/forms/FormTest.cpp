@@ -119,6 +119,7 @@ TEST_F(FormTest, TextThatDoesNotFit_IsRefusedWithABeepAndCanBeMadeShorter) {
   driver.press("txtCode", {Key::Character, U'3'});
   EXPECT_EQ(form.txtCode.text(), "12");
   EXPECT_EQ(user.beeps(), 3);
+  form.txtCode.setMaxLength(9);
   form.txtCode.setText("12 b");  // as it was stored
   form.txtCode.setSelection(4, 0);
   driver.press("txtCode", {Key::Character, U'3'});
@@ -193,6 +194,9 @@ TEST_F(FormTest, WhatIsPutBack_RunsTheHandlersAndNamesWhatCouldNotBe) {
   EXPECT_EQ(readable(putBack(form, typed)), "NOMBRE: Ana\n");
   EXPECT_EQ(form.cbo.data(), 42);
   EXPECT_EQ(form.txtNotes.text(), "propia");
+  form.txtNotes.setText("mía");
+  putBack(form, {typed[1]});
+  EXPECT_EQ(form.txtNotes.text(), "mía") << "what stands there is not chosen again";
 }
 
 TEST_F(FormTest, Tabs_MouseDownRefuses_StaysAndFiresNothing) {

@@ -66,7 +66,10 @@ TEST_F(DatosSetup, TwoInstitutions_AreFilledInOneGoAndCancellingAsks) {
                 poner(u, LLENA);
                 u.choose(INSTITUCION, "Santa Ana");
                 comprobar(u, PARROCO, "", ENCARGADO, "Juan Mas");
-                poner(u, PARROCO, "Luis \"el Cura\"", DIOCESIS, "Toledo", VICARIA, "Norte");
+                poner(u, PARROCO, "Luis \"el Cura\"", DIOCESIS, "Toledo", VICARIA, "Norte",
+                      ENCARGADO, "Eva Sol");
+                for (const char* cual : {"San José", "Santa Ana"}) u.choose(INSTITUCION, cual);
+                comprobar(u, ENCARGADO, "Eva Sol");
                 u.choose(INSTITUCION, "San José");
                 comprobar(u, LLENA);
                 if (acepta) return u.click(ACEPTAR);

@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "store/FailingEngine.h"
 #include "store/schema/Schema.h"
 #include "support/Catalogos.h"
 #include "support/TestWorld.h"
@@ -176,22 +177,21 @@ TEST_F(Catalogues, InstitutionEdited_KeepsWhatWasNotTouched) {
   EXPECT_EQ(w.count("Ultimos"), 1);
 }
 
-TEST_F(Catalogues, InstitutionThatCannotBeStored_IsToldAndNothingIsLost) {
+TEST_F(Catalogues, InstitutionStoredByHalf_IsTakenBackToldAndStoredWholeTheNextTime) {
+  store::FailingEngine::wrap(w.con())->failOn("INSERT INTO Ultimos", store::ErrorKind::DiskFull);
+  w.user.answerAnything(forms::Answer::Ok);
   w.user.expectForm("frmInstitucion", [this](FormDriver& u) {
-    const std::string longName(300, 'a');  // the table refuses it
-    u.get<forms::TextBox>("txtInstitucion(0)").setMaxLength(0);
-    u.get<forms::TextBox>("txtInstitucion(2)").setMaxLength(0);
-    u.paste("txtInstitucion(0)", longName);
-    w.user.answerAnything(forms::Answer::Ok);
+    u.type("txtInstitucion(0)", "San Pedro");
     u.click("cmdBoton(0)");
-    EXPECT_FALSE(u.closed());
-    EXPECT_EQ(u.text("txtInstitucion(0)"), longName);
-    u.click("cmdBoton(1)");
+    EXPECT_EQ(w.count("Institucion"), 0);
+    EXPECT_EQ(u.text("txtInstitucion(0)"), "San Pedro");
+    u.click("cmdBoton(0)");
   });
   w.contexto.fidaleon()->NuevaInstitucion(w.con(), w.config);
   ASSERT_EQ(w.user.messages().size(), 1u);
   EXPECT_EQ(w.user.messages()[0].icon, forms::MsgIcon::Critical);
-  EXPECT_EQ(w.count("Institucion"), 0);
+  EXPECT_EQ(w.value("SELECT Nombre FROM Institucion"), "San Pedro");
+  EXPECT_EQ(w.count("Ultimos"), 1);
 }
 
 struct CatalogueRow {
