@@ -105,6 +105,7 @@ void frmInfNotConf::elegirInstitucion() {
   institucion_ = cboInstitucion.data();
   notificaciones_.clear();
   msgNotificacion.clearRows();
+  markSaved();  // a choice alone is no loss
 }
 
 void frmInfNotConf::agregarInstitucion() {

@@ -128,6 +128,11 @@ class cNucleo {
   void ImprimirDuplicadas(FDAPI::Conexion& conBaseDatos, FDAPI::Conexion& conInformes,
                           const std::string& strNodo, std::string& strOrden);
 
+  /// Notices to parishes of baptism that stand in no book: asks for them and writes one row of
+  /// Documentos_Confirmacion for each, none when the user gave up.
+  void ImprimirPartidaSinLibro(FDAPI::Conexion& conBaseDatos, FDAPI::Conexion& conBaseInformes,
+                               const FDAPI::cConfig& objConfig);
+
   // People, groups and offices of the parish. Each dialog opens read-only while another works on
   // the record. "Elimina..." asks first.
   void NuevoEmpadronado(FDAPI::Conexion& conBaseDatos, const FDAPI::cConfig& objConfig);
