@@ -201,6 +201,9 @@ void addDocumentCommands(std::vector<Command>& all) {
                ENTRIES));
   add(document("partida", "&Partida…", "Ctrl+E", "La partida tal como está en el libro", ENTRIES));
   add(document("volante", "&Volante…", "Ctrl+T", "Volante con las señas de la parroquia", ENTRIES));
+  add(document("notificacion", "&Notificación a la parroquia de bautismo…", "Ctrl+N",
+               "Pide que se anote al margen de la partida de bautismo, con acuse de recibo",
+               ENTRIES));
   add(inToolbar("print", document("datos", "&Datos de la solicitud…", "Ctrl+P",
                                   "Hoja con los datos de la solicitud", REQUESTS)));
   add(inToolbar("print", document("libro", "&Libro entero…", "Ctrl+P",
@@ -211,6 +214,11 @@ void addDocumentCommands(std::vector<Command>& all) {
   add(opening(inToolbar(
       "print", document("duplicadas", "&Duplicadas…", "Ctrl+P",
                         "Las partidas de un año, para enviarlas a la diócesis", REPORTS))));
+  add(opening(inToolbar(
+      "print", document("sin-libro", "&Notificación sin libro…", "Ctrl+P",
+                        "Notificaciones a parroquias de bautismo de confirmaciones que no están en "
+                        "ningún libro",
+                        REPORTS))));
 }
 
 void addWindowCommands(std::vector<Command>& all) {
@@ -270,6 +278,8 @@ bool belongs(const Command& command, const Choice& choice) {
   if (command.kinds == 0) return true;
   if (!choice.node || !(command.kinds & bit(choice.node->kind))) return false;
   const Sacramento* sacrament = choice.node->sacrament;
+  if (command.document && isReport(choice.node->kind) && choice.node->report != command.id)
+    return false;
   if (command.document)
     return sacrament && documento(*sacrament, command.id, choice.edition) != nullptr;
   return !command.of || command.of(*sacrament);

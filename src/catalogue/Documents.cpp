@@ -85,6 +85,26 @@ void writeRows(Run& r) {
     r.desk.nucleo().ImprimirDuplicadas(
         r.desk.parish(), r.desk.reports(),
         CcNodos::PARTIDAS + std::string(r.document.sacramento->palabra), r.options.order);
+  else if (r.document.clase == ClaseDocumento::SinLibro)
+    r.desk.nucleo().ImprimirPartidaSinLibro(r.desk.parish(), r.desk.reports(), r.desk.config());
+}
+
+/// A request names its own institution, and its paper bears another's head all the same.
+void sayWhoseHead(Run& r) {
+  if (!r.document.primeraInstitucion) return;
+  const auto row =
+      r.desk.reports().Execute("SELECT InstitucionTipo, InstitucionNombre FROM " +
+                               std::string(filasDocumento(*r.document.sacramento)->tabla));
+  if (row.EOF_())
+    return forms::warn(r.desk.entorno().ui,
+                       "Esta solicitud no se puede imprimir mientras no haya una institución y un "
+                       "libro de ese sacramento.");
+  if (r.desk.parish().Execute("SELECT IDInstitucion FROM Institucion").RecordCount() > 1)
+    r.options.notices << QStringLiteral(
+                             "El membrete es el de «%1». Compruebe que es la que recibe "
+                             "la solicitud.")
+                             .arg(QString::fromStdString(row.text("InstitucionTipo") + " " +
+                                                         row.text("InstitucionNombre")));
 }
 
 /// What the rows do not say: which of them are annulled, and whose book it is.
@@ -132,6 +152,8 @@ std::string subjectOf(store::Connection& reports, const Documento& document) {
   if (row.EOF_()) return {};
   if (document.clase == ClaseDocumento::Libro) return known(row, "Libro");
   if (document.clase == ClaseDocumento::Duplicada) return known(row, "Año");
+  // Of one of several notices a title must not tell the name.
+  if (document.clase == ClaseDocumento::SinLibro && row.RecordCount() > 1) return {};
   return personOf(row, *columns);
 }
 
@@ -140,6 +162,7 @@ std::optional<paper::Report> makeReport(Desk& desk, const Documento& document, s
   Run run{desk, document, id, options};
   writeRows(run);
   takeBackUnfinished(desk.reports());
+  sayWhoseHead(run);
   addOfTheParish(run);
   const std::string subject = subjectOf(desk.reports(), document);
   const std::string title = document.titulo + (subject.empty() ? "" : " - " + subject);

@@ -236,6 +236,11 @@ std::vector<NodeView> makeNodes() {
   const NodeView reports = tree.folder(CcNodos::INFORMESYDOCUMENTOS);
   for (const documents::Duplicada& d : documents::duplicadas())
     tree.add(d.nodo, d.nodo, NodeKind::Reports, &reports).sacrament = &d.sacramento;
+  NodeView& notices =
+      tree.add(CcNodos::INFNOTIFICACIONCONFIRMACIONPARR, CcNodos::INFNOTIFICACIONCONFIRMACIONPARR,
+               NodeKind::Reports, &reports);
+  notices.sacrament = &CONFIRMACION;
+  notices.report = "sin-libro";
   addListReports(tree, reports);
   describeInstitutions(
       tree.add(CcNodos::INSTITUCION, CcNodos::INSTITUCION, NodeKind::Institutions, nullptr));

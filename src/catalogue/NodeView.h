@@ -56,7 +56,8 @@ struct NodeView {
   cNodo node;
   NodeKind kind = NodeKind::Folder;
   const Sacramento* sacrament = nullptr;
-  std::string key;  // field of the statement that tells the rows apart
+  std::string report = "duplicadas";  // of Reports: the document that it is
+  std::string key;                    // field of the statement that tells the rows apart
   std::vector<ColumnView> columns;
   std::string annulled;  // field of the mark of an annulled row; empty when there is none
   std::string group;     // field that puts rows together, such as their book; or empty

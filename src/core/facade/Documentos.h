@@ -42,6 +42,8 @@ struct Documento {
   const char* plantilla;
   const char* titulo;
   bool bloquea = true;  // the entry or the book, while the document is being written
+  /// Its head is that of the first institution of the store, and there is none without a book.
+  bool primeraInstitucion = false;
 
   bool firmado() const { return std::holds_alternative<PasoFirmado>(paso); }
 };

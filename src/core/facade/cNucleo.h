@@ -128,6 +128,61 @@ class cNucleo {
   void ImprimirDuplicadas(FDAPI::Conexion& conBaseDatos, FDAPI::Conexion& conInformes,
                           const std::string& strNodo, std::string& strOrden);
 
+  // Confirmation and death: the same in Documentos_Confirmacion and Documentos_Defuncion.
+  void InformeCertificadoPartidaConfirmacion(FDAPI::Conexion& conFidaleon,
+                                             FDAPI::Conexion& conInformes, std::int32_t lngID,
+                                             const std::string& strEncargado,
+                                             const std::string& strFecha);
+  void InformeCertificadoPartidaConfirmacionMenorca(FDAPI::Conexion& conFidaleon,
+                                                    FDAPI::Conexion& conInformes,
+                                                    std::int32_t lngID,
+                                                    const std::string& strEncargado,
+                                                    const std::string& strFecha);
+  void InformeCertificadoLiteralPartidaConfirmacion(FDAPI::Conexion& conFidaleon,
+                                                    FDAPI::Conexion& conInformes,
+                                                    std::int32_t lngID,
+                                                    const std::string& strEncargado,
+                                                    const std::string& strFecha);
+  void InformeCertificadoLiteralPartidaConfirmacionMenorca(FDAPI::Conexion& conFidaleon,
+                                                           FDAPI::Conexion& conInformes,
+                                                           std::int32_t lngID,
+                                                           const std::string& strEncargado,
+                                                           const std::string& strFecha);
+  void InformePartidaConfirmacion(FDAPI::Conexion& conFidaleon, FDAPI::Conexion& conInformes,
+                                  std::int32_t lngID);
+  void InformePartidaConfirmacionMenorca(FDAPI::Conexion& conFidaleon, FDAPI::Conexion& conInformes,
+                                         std::int32_t lngID);
+  /// To the parish of baptism.
+  void InformeNotificacionConfirmacion(FDAPI::Conexion& conFidaleon, FDAPI::Conexion& conInformes,
+                                       std::int32_t lngID);
+  void InformeNotificacionConfirmacionMenorca(FDAPI::Conexion& conFidaleon,
+                                              FDAPI::Conexion& conInformes, std::int32_t lngID);
+  /// Takes no lock, and the first book and institution of the store: no row without a book.
+  void InformeSolicitudConfirmacion(FDAPI::Conexion& conFidaleon, FDAPI::Conexion& conInformes,
+                                    std::int32_t lngID);
+  void InformeCertificadoPartidaDefuncion(FDAPI::Conexion& conFidaleon,
+                                          FDAPI::Conexion& conInformes, std::int32_t lngID,
+                                          const std::string& strEncargado,
+                                          const std::string& strFecha);
+  void InformeCertificadoPartidaDefuncionMenorca(FDAPI::Conexion& conFidaleon,
+                                                 FDAPI::Conexion& conInformes, std::int32_t lngID,
+                                                 const std::string& strEncargado,
+                                                 const std::string& strFecha);
+  void InformeCertificadoLiteralPartidaDefuncion(FDAPI::Conexion& conFidaleon,
+                                                 FDAPI::Conexion& conInformes, std::int32_t lngID,
+                                                 const std::string& strEncargado,
+                                                 const std::string& strFecha);
+  void InformeCertificadoLiteralPartidaDefuncionMenorca(FDAPI::Conexion& conFidaleon,
+                                                        FDAPI::Conexion& conInformes,
+                                                        std::int32_t lngID,
+                                                        const std::string& strEncargado,
+                                                        const std::string& strFecha);
+  /// Asks for keeper and date, and prints the date; today's when the user gave up.
+  void InformePartidaDefuncion(FDAPI::Conexion& conFidaleon, FDAPI::Conexion& conInformes,
+                               std::int32_t lngID);
+  void InformePartidaDefuncionMenorca(FDAPI::Conexion& conFidaleon, FDAPI::Conexion& conInformes,
+                                      std::int32_t lngID);
+
   /// Notices to parishes of baptism that stand in no book: asks for them and writes one row of
   /// Documentos_Confirmacion for each, none when the user gave up.
   void ImprimirPartidaSinLibro(FDAPI::Conexion& conBaseDatos, FDAPI::Conexion& conBaseInformes,

@@ -52,6 +52,23 @@ INFORME(InformeLibroDefuncion)
 INFORME(InformeLibroDefuncionMenorca)
 INFORME(InformeIndiceLibroDefuncion)
 
+INFORME_FIRMADO(InformeCertificadoPartidaConfirmacion)
+INFORME_FIRMADO(InformeCertificadoPartidaConfirmacionMenorca)
+INFORME_FIRMADO(InformeCertificadoLiteralPartidaConfirmacion)
+INFORME_FIRMADO(InformeCertificadoLiteralPartidaConfirmacionMenorca)
+INFORME(InformePartidaConfirmacion)
+INFORME(InformePartidaConfirmacionMenorca)
+INFORME(InformeNotificacionConfirmacion)
+INFORME(InformeNotificacionConfirmacionMenorca)
+INFORME(InformeSolicitudConfirmacion)
+
+INFORME_FIRMADO(InformeCertificadoPartidaDefuncion)
+INFORME_FIRMADO(InformeCertificadoPartidaDefuncionMenorca)
+INFORME_FIRMADO(InformeCertificadoLiteralPartidaDefuncion)
+INFORME_FIRMADO(InformeCertificadoLiteralPartidaDefuncionMenorca)
+INFORME(InformePartidaDefuncion)
+INFORME(InformePartidaDefuncionMenorca)
+
 #undef INFORME
 #undef INFORME_FIRMADO
 
