@@ -39,6 +39,7 @@ frmInfNotConf::frmInfNotConf(Contexto& contexto)
     };
   };
   boton(AGREGAR, "AGREGAR", &frmInfNotConf::agregar);
+  cmdNotificacion[AGREGAR].setDefault(true);
   boton(MODIFICAR, "MODIFICAR", &frmInfNotConf::modificar);
   boton(QUITAR, "QUITAR", &frmInfNotConf::quitar);
   boton(IMPRIMIR, "IMPRIMIR", &frmInfNotConf::imprimir);
@@ -88,6 +89,7 @@ void frmInfNotConf::Form_Unload() {
 
 void frmInfNotConf::cargar() {
   contexto_.entorno.support.create_cIListas()->fillInstituciones(cboInstitucion, 0, *conBaseDatos);
+  if (cboInstitucion.listCount() == 1) cboInstitucion.setListIndex(0);
   cIListas(contexto_).ConfigGrid(msgNotificacion, rejillaNotificaciones(), "ConfigGrid()",
                                  "frmInfNotConf");
 }

@@ -155,6 +155,7 @@ TEST_F(Notices, NamesMissing_AreToldOneByOne_AndTheSameNoticeTwiceIsRefused) {
 }
 
 TEST_F(Notices, WithoutInstitutionOrNotices_TheUserIsTold) {
+  w.institucion("Santa Ana");  // of two, none is chosen at first
   abrir([this](FormDriver& u) {
     w.user.expectMessage("¡Debe seleccionar una Institución!");
     u.tab("mstNotificacion", 1);
