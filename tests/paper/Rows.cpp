@@ -1,9 +1,12 @@
 #include "paper/Rows.h"
 
 #include <map>
+#include <set>
 
 #include "documents/Duplicada.h"
 #include "documents/Miembros.h"
+#include "documents/NotificacionSinLibro.h"
+#include "documents/TextRules.h"
 #include "text/Utf8.h"
 
 namespace fidaleon::paper::test {
@@ -197,16 +200,19 @@ void adapt(const std::string& operation, Values& row) {
     set("Numero", "---");
     set("NotasMarginales", "---");
   }
-  if (operation == "InformePartidaBautismo")
+  static const std::set<std::string> padded{"InformePartidaBautismo", "InformePartidaConfirmacion",
+                                            "InformePartidaDefuncion",
+                                            "InformeCertificadoPartidaDefuncion"};
+  if (padded.count(operation) != 0)
     for (auto& [c, v] : row)
-      if (c == "NotasMarginales")
-        while (text::length(v) < 600) v += " .";
+      if (c == "NotasMarginales") v = documents::paddedNotes(v);
 }
 
 }  // namespace
 
 std::vector<std::string> columnsOf(const std::string& operation) {
   const Documento& d = *documento(operation);
+  if (d.clase == ClaseDocumento::SinLibro) return documents::columnasNotificacion();
   const documents::Columns* columns = nullptr;
   if (d.clase == ClaseDocumento::Duplicada) {
     const std::string node = std::string("Partidas") + d.sacramento->palabra;
