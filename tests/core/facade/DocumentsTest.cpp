@@ -10,7 +10,6 @@ namespace fidaleon::tests {
 namespace {
 
 using forms::FormDriver;
-using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 
@@ -55,11 +54,16 @@ TEST_P(FacadeDocuments, LocksWhatItIsOf_AndWritesItsRow) {
   const std::string clave = "Id" + (palabra == "Defuncion" ? "Difunto" : palabra);
   const std::string dePartida =
       palabra + " [1] existe [SELECT " + clave + " FROM " + palabra + " WHERE " + clave + "=1]";
-  if (d.bloquea)
-    EXPECT_THAT(w.bloqueos(), ElementsAre(d.clase == ClaseDocumento::Libro ? deLibro : dePartida,
-                                          "efectuar", "liberar"));
-  else
+  if (d.bloquea) {
+    // The dialog of the keeper takes locks of its own in between.
+    const auto bloqueos = w.bloqueos();
+    ASSERT_GE(bloqueos.size(), 3u);
+    EXPECT_EQ(bloqueos[0], d.clase == ClaseDocumento::Libro ? deLibro : dePartida);
+    EXPECT_EQ(bloqueos[1], "efectuar");
+    EXPECT_EQ(bloqueos.back(), "liberar");
+  } else {
     EXPECT_THAT(w.spy.log, IsEmpty());
+  }
   EXPECT_EQ(filas(w), 1);
   EXPECT_SCRIPT_DONE(w.user);
 }
