@@ -179,7 +179,11 @@ TEST_F(Family, SecondOfTwoChildren_IsFoundAsTheSameBaptism) {
         "¿Quiere continuar?",
         Answer::No);
     accept(d);
-    cancel(d);
+    d.tab("mstBautismo", frmPartidaBautismo::TAB_PADRE);
+    d.type("txtBautismo(33)", "600 000 000");  // another telephone, another father
+    w.user.expectMessage(EMPTY_FIELDS, Answer::Yes);
+    w.user.expectMessage(FURTHER, Answer::No);
+    accept(d);
   });
   EXPECT_SCRIPT_DONE(w.user);
 }

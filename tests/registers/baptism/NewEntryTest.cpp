@@ -53,35 +53,6 @@ TEST_F(NewBaptism, BirthAndWeddingOfToday_AreAskedAboutUntilTheyAreTyped) {
   EXPECT_SCRIPT_DONE(w.user);
 }
 
-TEST_F(NewBaptism, SameDataAgain_AsksTheExistenceQuestion) {
-  book("Libro 1", true, 3);
-  const std::string again =
-      "La partida de Luis García Pérez ya existe en el libro correspondiente, ¿Quiere continuar?";
-  const auto enter = [&](FormDriver& d) {
-    typeChild(d, "Luis");
-    typeParents(d);
-    w.user.expectMessage(EMPTY_FIELDS, Answer::Yes);
-  };
-  open(cCOperacion::ANADIR, [&](FormDriver& d) {
-    chooseBook(d, "Libro 1");
-    enter(d);
-    w.user.expectMessage(FURTHER, Answer::Yes);
-    accept(d);
-    w.user.expectForm("frmBuscaPadres", [](FormDriver& hits) { hits.click("cmdBoton(1)"); });
-    enter(d);
-    w.user.expectMessage(again, Answer::No);
-    accept(d);
-    EXPECT_FALSE(d.closed());
-    d.tab("mstBautismo", frmPartidaBautismo::TAB_PADRE);
-    d.type("txtBautismo(33)", "600 000 000");         // another telephone, another father
-    w.user.expectMessage(EMPTY_FIELDS, Answer::Yes);  // no list has a choice yet
-    w.user.expectMessage(FURTHER, Answer::No);
-    accept(d);
-  });
-  EXPECT_EQ(w.count("bautismo"), 2);
-  EXPECT_SCRIPT_DONE(w.user);
-}
-
 TEST_F(NewBaptism, EntryWithoutItsChild_IsGoneOnWithWhenAcceptedAgain) {
   const std::int32_t libro = book("Libro 1", true, 3);
   store(record("Luis", libro, 1, "1"));

@@ -7,7 +7,7 @@ namespace fidaleon::tests {
 class EditedEntry : public EntryWorld {
  protected:
   void rename(FormDriver& d, const std::string& to) {
-    tab(d, k.personTab);
+    tab(d, k.name.tab);
     d.type(name(), to);
   }
   std::string stored() { return w.value(std::string("SELECT Nombre FROM ") + k.person); }
@@ -99,7 +99,18 @@ TEST_P(EditedEntry, RowOfItGone_MayBeReadButNotChanged) {
 
 TEST_P(EditedEntry, Annulled_IsLockedAsItsRegisterSaysAndKeepsItsMark) {
   w.con().Execute(std::string("UPDATE ") + k.s.tablaLibros + " SET Nuevo=0");
-  w.con().Execute(std::string("UPDATE ") + k.s.tablaPartidas + " SET Anulada=1");
+  if (!k.annulsEdit)
+    w.con().Execute(std::string("UPDATE ") + k.s.tablaPartidas + " SET Anulada=1");
+  else
+    open(
+        cCOperacion::EDITAR,
+        [&](FormDriver& d) {
+          if (k.asksOther) w.user.expectMessage(k.blanks, Answer::Yes);
+          d.click(button(2));
+          EXPECT_EQ(d.text(button(2)), "&Validar");
+          accept(d);
+        },
+        id);
   open(
       cCOperacion::EDITAR,
       [&](FormDriver& d) {
@@ -107,9 +118,9 @@ TEST_P(EditedEntry, Annulled_IsLockedAsItsRegisterSaysAndKeepsItsMark) {
         EXPECT_TRUE(d.visible("lblPartidaAnulada"));
         EXPECT_TRUE(d.locked("txtLibro(1)"));
         EXPECT_EQ(d.locked(name()), k.annulledIsLocked);
-        tab(d, k.notesTab);
-        EXPECT_EQ(d.locked(text(k.notes)), !k.notesStayOpen);
-        if (k.notesStayOpen) d.type(text(k.notes), "Por error de folio");
+        tab(d, k.notes.tab);
+        EXPECT_EQ(d.locked(text(k.notes.index)), !k.notesStayOpen);
+        if (k.notesStayOpen) d.type(text(k.notes.index), "Por error de folio");
         accept(d);
       },
       id);
@@ -154,7 +165,7 @@ TEST_P(RequestedEntry, New_IsStoredOutsideAnyBookAndCorrectedThere) {
       [&](FormDriver& d) {
         EXPECT_EQ(d.text(list(k.institution)), "San Pedro");
         EXPECT_EQ(d.locked(list(k.institution)), &k.s != &BAUTISMO);
-        tab(d, k.personTab);
+        tab(d, k.name.tab);
         d.type(name(), "Carlos");
         accept(d);
       },

@@ -5,10 +5,7 @@
 #include <array>
 #include <string>
 
-#include "registers/Rows.h"
-#include "registers/baptism/frmPartidaBautismo.h"
-#include "registers/confirmation/frmPartidaConfirmacion.h"
-#include "registers/death/frmPartidaDefuncion.h"
+#include "registers/Registers.h"
 #include "registers/entry/DialogoDePartida.h"
 #include "store/FailingEngine.h"
 #include "support/TestWorld.h"
@@ -24,25 +21,24 @@ using forms::FormDriver;
 struct EntryKind {
   const Sacramento& s;
   int institution, book;  // lists
-  int personTab, name;    // the surnames follow
-  int placeTab, place;    // a text that says where
-  int dayTab, day;        // date of the sacrament
-  int townTab, province;  // of birth
-  const char* townColumn;
-  int notesTab, notes, remarks;
+  Place name;             // the surnames follow
+  Place where;            // a text that says where
+  Place day;              // date of the sacrament
+  Place born;             // list of provinces
+  const char* bornColumn;
+  Place notes;
+  int remarks;
   const char* person;   // table with the name
   const char* lastRow;  // table of the row that is inserted last
   const char* newCaption;
   const char* oldCaption;
   const char* editCaption;
   const char* requestCaption;
-  const char* position;              // the first one in a caption
-  const char* blanks;                // question
-  bool asksNew, asksOld, asksOther;  // about blank texts
+  const char* position;               // the first one in a caption
+  const char* blanks;                 // question
+  bool asksOld, asksOther, asksOnce;  // it, of blank texts; it is always asked of new entries
   bool annulsOld, annulsEdit;
-  bool annulledIsLocked;
-  bool notesStayOpen;  // of an annulled entry
-  bool asksOnce;
+  bool annulledIsLocked, notesStayOpen;
   const char* nextPlace;  // what stands there for the next entry
   /// The date of an old book of 1950 after its first entry, of 1961, its second, of 1970, and its
   /// third, of 1930.
@@ -60,75 +56,6 @@ inline void settleBaptism(FormDriver& d) {
   d.type("adtpBautismo(1)", "");
 }
 
-inline const EntryKind BAPTISM_ENTRY{
-    .s = BAUTISMO,
-    .institution = 22,
-    .book = 23,
-    .personTab = 1,
-    .name = 7,
-    .placeTab = 5,
-    .place = 31,
-    .dayTab = 5,
-    .day = 2,
-    .townTab = 1,
-    .province = 0,
-    .townColumn = "CodMunicipioNac",
-    .notesTab = 6,
-    .notes = 23,
-    .remarks = 24,
-    .person = "bautismo_hijo",
-    .lastRow = "bautismo_hijo",
-    .newCaption = "Agregar partida de bautismo nueva",
-    .oldCaption = "Agregar partida de bautismo antigua",
-    .editCaption = "Propiedades de partida de bautismo ",
-    .requestCaption = "Agregar solicitud de bautismo",
-    .position = ". Folio:1 número:1",
-    .blanks =
-        "Tiene campos sin rellenar. Estos campos se rellenarán con guiones. ¿Desea continuar?",
-    .asksNew = true,
-    .annulsOld = true,
-    .annulsEdit = true,
-    .notesStayOpen = true,
-    .nextPlace = "",
-    .bookDates = {"19610705", "19700705", "19700705"},
-    .commits = 3,
-    .settle = settleBaptism};
-
-inline const EntryKind CONFIRMATION_ENTRY{
-    .s = CONFIRMACION,
-    .institution = frmPartidaConfirmacion::Institucion,
-    .book = frmPartidaConfirmacion::Libro,
-    .personTab = frmPartidaConfirmacion::TAB_CONFIRMADO,
-    .name = frmPartidaConfirmacion::Nombre,
-    .placeTab = frmPartidaConfirmacion::TAB_CONFIRMACION,
-    .place = frmPartidaConfirmacion::Parroquia,
-    .dayTab = frmPartidaConfirmacion::TAB_CONFIRMACION,
-    .day = frmPartidaConfirmacion::FechaConfirmacion,
-    .townTab = frmPartidaConfirmacion::TAB_PERSONALES,
-    .province = frmPartidaConfirmacion::ProvinciaNac,
-    .townColumn = "CodMunicipioNac",
-    .notesTab = frmPartidaConfirmacion::TAB_NOTAS,
-    .notes = frmPartidaConfirmacion::NotasMarginales,
-    .remarks = frmPartidaConfirmacion::Observaciones,
-    .person = "confirmacion",
-    .lastRow = "confirmacion_bautismo",
-    .newCaption = "Alta de partida de confirmación nueva",
-    .oldCaption = "Alta de partida de confirmación antigua",
-    .editCaption = "Propiedades de partida de confirmación ",
-    .requestCaption = "Nueva solicitud de confirmación",
-    .position = ". Folio:1, número:1",
-    .blanks =
-        "Tiene campos sin rellenar. Estos campos se rellenaran con guiones. ¿Desea continuar?",
-    .asksNew = true,
-    .asksOld = true,
-    .asksOther = true,
-    .annulsOld = true,
-    .annulledIsLocked = true,
-    .notesStayOpen = true,
-    .nextPlace = "San Juan",
-    .bookDates = {"19610705", "19610705", "19610705"},
-    .commits = 2};
-
 /// A death is hardly ever of today.
 inline void settleDeath(FormDriver& d) {
   if (d.text("adtpDefuncion(1)") != "22/11/2026") return;
@@ -136,35 +63,84 @@ inline void settleDeath(FormDriver& d) {
   d.type("adtpDefuncion(1)", "20/11/2026");
 }
 
+using DB = frmPartidaBautismo;
+inline const EntryKind BAPTISM_ENTRY{.s = BAUTISMO,
+                                     .institution = DB::Institucion,
+                                     .book = DB::Libro,
+                                     .name = OfBaptism::nameField,
+                                     .where = {DB::TAB_BAUTISMO, DB::ParroquiaBautismo},
+                                     .day = OfBaptism::dayField,
+                                     .born = {DB::TAB_BAUTIZADO, DB::ProvinciaNac},
+                                     .bornColumn = "CodMunicipioNac",
+                                     .notes = {DB::TAB_NOTAS, DB::NotasMarginales},
+                                     .remarks = DB::Observaciones,
+                                     .person = "bautismo_hijo",
+                                     .lastRow = "bautismo_hijo",
+                                     .newCaption = "Agregar partida de bautismo nueva",
+                                     .oldCaption = "Agregar partida de bautismo antigua",
+                                     .editCaption = "Propiedades de partida de bautismo ",
+                                     .requestCaption = "Agregar solicitud de bautismo",
+                                     .position = ". Folio:1 número:1",
+                                     .blanks = OfBaptism::blanks,
+                                     .annulsOld = true,
+                                     .annulsEdit = true,
+                                     .notesStayOpen = true,
+                                     .nextPlace = "",
+                                     .bookDates = {"19610705", "19700705", "19700705"},
+                                     .commits = 3,
+                                     .settle = settleBaptism};
+
+using DC = frmPartidaConfirmacion;
+inline const EntryKind CONFIRMATION_ENTRY{.s = CONFIRMACION,
+                                          .institution = DC::Institucion,
+                                          .book = DC::Libro,
+                                          .name = OfConfirmation::nameField,
+                                          .where = {DC::TAB_CONFIRMACION, DC::Parroquia},
+                                          .day = OfConfirmation::dayField,
+                                          .born = {DC::TAB_PERSONALES, DC::ProvinciaNac},
+                                          .bornColumn = "CodMunicipioNac",
+                                          .notes = {DC::TAB_NOTAS, DC::NotasMarginales},
+                                          .remarks = DC::Observaciones,
+                                          .person = "confirmacion",
+                                          .lastRow = "confirmacion_bautismo",
+                                          .newCaption = "Alta de partida de confirmación nueva",
+                                          .oldCaption = "Alta de partida de confirmación antigua",
+                                          .editCaption = "Propiedades de partida de confirmación ",
+                                          .requestCaption = "Nueva solicitud de confirmación",
+                                          .position = ". Folio:1, número:1",
+                                          .blanks = OfConfirmation::blanks,
+                                          .asksOld = true,
+                                          .asksOther = true,
+                                          .annulsOld = true,
+                                          .annulledIsLocked = true,
+                                          .notesStayOpen = true,
+                                          .nextPlace = "San Juan",
+                                          .bookDates = {"19610705", "19610705", "19610705"},
+                                          .commits = 2};
+
+using DD = frmPartidaDefuncion;
 inline const EntryKind DEATH_ENTRY{.s = DEFUNCION,
-                                   .institution = frmPartidaDefuncion::Institucion,
-                                   .book = frmPartidaDefuncion::Libro,
-                                   .personTab = frmPartidaDefuncion::TAB_DIFUNTO,
-                                   .name = frmPartidaDefuncion::Nombre,
-                                   .placeTab = frmPartidaDefuncion::TAB_PARROQUIA,
-                                   .place = frmPartidaDefuncion::Parroquia,
-                                   .dayTab = frmPartidaDefuncion::TAB_DIFUNTO,
-                                   .day = frmPartidaDefuncion::FechaDefuncion,
-                                   .townTab = frmPartidaDefuncion::TAB_FAMILIA,
-                                   .province = frmPartidaDefuncion::ProvinciaNaturalDe,
-                                   .townColumn = "CodMunicipioNaturalDe",
-                                   .notesTab = frmPartidaDefuncion::TAB_NOTAS,
-                                   .notes = frmPartidaDefuncion::NotasMarginales,
-                                   .remarks = frmPartidaDefuncion::Observaciones,
+                                   .institution = DD::Institucion,
+                                   .book = DD::Libro,
+                                   .name = OfDeath::nameField,
+                                   .where = {DD::TAB_PARROQUIA, DD::Parroquia},
+                                   .day = OfDeath::dayField,
+                                   .born = {DD::TAB_FAMILIA, DD::ProvinciaNaturalDe},
+                                   .bornColumn = "CodMunicipioNaturalDe",
+                                   .notes = {DD::TAB_NOTAS, DD::NotasMarginales},
+                                   .remarks = DD::Observaciones,
                                    .person = "defuncion",
                                    .lastRow = "Defuncion_Datos",
                                    .newCaption = "Alta de partida de defunción nueva",
                                    .oldCaption = "Alta de partida de defunción antigua",
                                    .editCaption = "Propiedades de partida de defunción ",
-                                   .requestCaption = "",
                                    .position = ". Folio:1, número:1",
-                                   .blanks = CONFIRMATION_ENTRY.blanks,
-                                   .asksNew = true,
+                                   .blanks = OfDeath::blanks,
                                    .asksOld = true,
                                    .asksOther = true,
+                                   .asksOnce = true,
                                    .annulsEdit = true,
                                    .annulledIsLocked = true,
-                                   .asksOnce = true,
                                    .nextPlace = "San Pedro",
                                    .bookDates = {"19500101", "19500101", "19500101"},
                                    .commits = 2,
@@ -185,7 +161,7 @@ class EntryWorld : public ::testing::TestWithParam<const EntryKind*> {
   std::string list(int i) const { return "cbo" + word() + "(" + std::to_string(i) + ")"; }
   std::string date(int i) const { return "adtp" + word() + "(" + std::to_string(i) + ")"; }
   std::string button(int i) const { return "cmd" + word() + "(" + std::to_string(i) + ")"; }
-  std::string name() const { return text(k.name); }
+  std::string name() const { return text(k.name.index); }
 
   std::int32_t book(const std::string& title, bool isNew = true, int format = 3,
                     const std::string& created = "19900101", bool closed = false) {
@@ -218,17 +194,15 @@ class EntryWorld : public ::testing::TestWithParam<const EntryKind*> {
   void typePerson(FormDriver& d, const std::string& who, const std::string& first = "García",
                   const std::string& second = "Pérez") const {
     if (k.settle) k.settle(d);
-    tab(d, k.personTab);
-    d.type(text(k.name), who);
-    d.type(text(k.name + 1), first);
-    d.type(text(k.name + 2), second);
+    tab(d, k.name.tab);
+    d.type(text(k.name.index), who);
+    d.type(text(k.name.index + 1), first);
+    d.type(text(k.name.index + 2), second);
   }
   bool series() const { return std::string(k.nextPlace) == "San Juan"; }
   void accept(FormDriver& d) const { d.click(button(0)); }
   void cancel(FormDriver& d) const { d.click(button(1)); }
-  void acceptNew(FormDriver& d, Answer further) {
-    acceptAfter(d, k.asksNew, FURTHER_ENTRY, further);
-  }
+  void acceptNew(FormDriver& d, Answer further) { acceptAfter(d, true, FURTHER_ENTRY, further); }
   void acceptOld(FormDriver& d, Answer further) {
     acceptAfter(d, k.asksOld, FURTHER_ENTRY, further);
   }

@@ -16,16 +16,16 @@ TEST_P(NewEntry, UsualOne_IsStoredAndFollowedByTheNext) {
     EXPECT_TRUE(d.locked("txtLibro(1)"));
     typePerson(d, "Luis");
     EXPECT_EQ(d.caption(), std::string(k.newCaption) + k.position);
-    tab(d, k.placeTab);
-    d.type(text(k.place), "San Juan");
-    tab(d, k.dayTab);
-    d.type(date(k.day), "20/11/2026");
+    tab(d, k.where.tab);
+    d.type(text(k.where.index), "San Juan");
+    tab(d, k.day.tab);
+    d.type(date(k.day.index), "20/11/2026");
     acceptNew(d, Answer::Yes);
     EXPECT_EQ(d.text("txtLibro(1)"), "2");
     EXPECT_EQ(d.text(name()), "");
-    EXPECT_EQ(d.text(text(k.place)), k.nextPlace);
-    EXPECT_EQ(d.text(date(k.day)), series() ? "20/11/2026" : "22/11/2026");
-    EXPECT_EQ(tab(d), series() ? k.personTab : 0);
+    EXPECT_EQ(d.text(text(k.where.index)), k.nextPlace);
+    EXPECT_EQ(d.text(date(k.day.index)), series() ? "20/11/2026" : "22/11/2026");
+    EXPECT_EQ(tab(d), series() ? k.name.tab : 0);
     EXPECT_EQ(d.focused() == name(), series());
     cancel(d);
   });
@@ -46,11 +46,11 @@ TEST_P(NewEntry, RequiredFields_AreAskedForOneByOneAndBlanksAfterThem) {
     d.type(name(), "Luis");
     w.user.expectMessage("Falta rellenar el campo «PRIMER APELLIDO».");
     accept(d);
-    EXPECT_EQ(d.focused(), text(k.name + 1));
-    d.type(text(k.name + 1), "García");
+    EXPECT_EQ(d.focused(), text(k.name.index + 1));
+    d.type(text(k.name.index + 1), "García");
     w.user.expectMessage(k.blanks, Answer::No);
     accept(d);
-    EXPECT_EQ(d.text(text(k.name + 2)), "");
+    EXPECT_EQ(d.text(text(k.name.index + 2)), "");
     cancel(d);
   });
   EXPECT_EQ(entries(), 0);
@@ -124,9 +124,9 @@ TEST_P(NewEntry, AnyText_IsKeptWithoutBreakingTheStatementOrTheField) {
     chooseBook(d, "Libro 1");
     typePerson(d, "Jo\"sé");
     d.paste(name(), "José \"Pepe\" 👶");
-    tab(d, k.placeTab);
-    d.paste(text(k.place), "Ermita \"La Luz\"\x01; DELETE * FROM bautismo");
-    tab(d, k.notesTab);
+    tab(d, k.where.tab);
+    d.paste(text(k.where.index), "Ermita \"La Luz\"\x01; DELETE * FROM bautismo");
+    tab(d, k.notes.tab);
     d.paste(text(k.remarks), "Línea 1\nΔοκιμή \"dos\"");
     acceptNew(d, Answer::No);
   });
@@ -198,9 +198,9 @@ TEST_P(NewEntry, BookAndTownDeletedMeanwhile_AreNamedAndOthersCanBeChosen) {
   open(cCOperacion::ANADIR, [&](FormDriver& d) {
     chooseBook(d, "Libro 1");
     typePerson(d, "Luis");
-    tab(d, k.townTab);
-    d.choose(list(k.province), "Madrid");
-    d.choose(list(k.province + 1), "Meco");
+    tab(d, k.born.tab);
+    d.choose(list(k.born.index), "Madrid");
+    d.choose(list(k.born.index + 1), "Meco");
     w.con().Execute(books + k.s.claveLibro + "=" + std::to_string(first));
     w.con().Execute("DELETE * FROM Municipio WHERE IDMunicipio=" + std::to_string(meco));
     w.user.expectMessage(deleted("el libro «Libro 1»\nla población «Meco»"));
@@ -208,11 +208,11 @@ TEST_P(NewEntry, BookAndTownDeletedMeanwhile_AreNamedAndOthersCanBeChosen) {
     EXPECT_EQ(d.focused(), list(k.book));
     d.choose(list(k.book), "Libro 2");
     EXPECT_EQ(d.text("txtLibro(1)"), "1");
-    tab(d, k.townTab);
+    tab(d, k.born.tab);
     EXPECT_EQ(d.text(name()), "Luis");
-    EXPECT_EQ(d.text(list(k.province)), "Madrid");
-    EXPECT_EQ(d.text(list(k.province + 1)), "");
-    d.choose(list(k.province + 1), "Alcalá de Henares");
+    EXPECT_EQ(d.text(list(k.born.index)), "Madrid");
+    EXPECT_EQ(d.text(list(k.born.index + 1)), "");
+    d.choose(list(k.born.index + 1), "Alcalá de Henares");
     w.user.expectMessage(k.blanks, Answer::Yes,
                          [&] { w.con().Execute(books + "Nombre=\"Libro 2\""); });
     w.user.expectMessage(deleted("el libro «Libro 2»"));
@@ -223,7 +223,7 @@ TEST_P(NewEntry, BookAndTownDeletedMeanwhile_AreNamedAndOthersCanBeChosen) {
     cancel(d);
   });
   EXPECT_EQ(entries(), 1);
-  EXPECT_EQ(w.value(std::string("SELECT ") + k.townColumn + " FROM " + k.person),
+  EXPECT_EQ(w.value(std::string("SELECT ") + k.bornColumn + " FROM " + k.person),
             std::to_string(town));
 }
 
@@ -264,20 +264,20 @@ TEST_P(NewEntry, BookAndTownAddedFromInside_CanBeChosenAtOnce) {
         w.isFree(k.s.tablaLibros, std::stoi(bookValue(std::string("MAX(") + k.s.claveLibro + ")"))))
         << "nobody deletes the book under the entry";
     EXPECT_EQ(d.text("txtLibro(1)"), "1");
-    tab(d, k.townTab);
-    d.choose(list(k.province), "Madrid");
-    d.choose(list(k.province + 1), "Alcalá de Henares");
+    tab(d, k.born.tab);
+    d.choose(list(k.born.index), "Madrid");
+    d.choose(list(k.born.index + 1), "Alcalá de Henares");
     w.user.expectForm("frmMunicipio", [](FormDriver& municipio) {
       municipio.type("txtNombre", "Meco");
       municipio.choose("cboProvincia", "Madrid");
       municipio.click("cmdBoton(0)");
     });
     d.click("cmdAltaPoblacion");
-    EXPECT_EQ(d.text(list(k.province + 1)), "Alcalá de Henares");
-    d.choose(list(k.province + 1), "Meco");
+    EXPECT_EQ(d.text(list(k.born.index + 1)), "Alcalá de Henares");
+    d.choose(list(k.born.index + 1), "Meco");
     w.user.expectForm("frmProvincia", [](FormDriver& provincia) { provincia.escape(); });
     d.click("cmdAltaProvincia");
-    EXPECT_EQ(d.text(list(k.province + 1)), "Meco");
+    EXPECT_EQ(d.text(list(k.born.index + 1)), "Meco");
     tab(d, 0);
     w.user.expectForm("frmInstitucion", [](FormDriver& institucion) { institucion.escape(); });
     d.click("cmdAltaInstitucion");
@@ -298,8 +298,8 @@ TEST_P(NewEntry, MarginalNotes_WarnOnceUntilTheyBecomeShorter) {
   for (int i = 0; i < 42; ++i) lines += "línea\r\n";
   open(cCOperacion::ANTIGUA, [&](FormDriver& d) {
     chooseBook(d, "Libro 1");
-    tab(d, k.notesTab);
-    const std::string notes = text(k.notes);
+    tab(d, k.notes.tab);
+    const std::string notes = text(k.notes.index);
     d.paste(notes, lines.substr(0, lines.size() - 2));  // 42 lines are the limit
     w.user.expectMessage(warning);
     d.paste(notes, lines + "más");

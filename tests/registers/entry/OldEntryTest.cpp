@@ -57,7 +57,7 @@ TEST_P(OldEntry, NumberOfAnotherForm_IsRefusedWhenTypedAndKeptWhenStored) {
       cCOperacion::EDITAR,
       [&](FormDriver& d) {
         EXPECT_EQ(d.text("txtLibro(2)"), "12 bis");
-        tab(d, k.personTab);
+        tab(d, k.name.tab);
         d.type(name(), "B");
         acceptEdit(d);
       },
@@ -74,8 +74,8 @@ TEST_P(OldEntry, Dates_MoveTheBookByTheRuleOfItsRegister) {
       chooseBook(d, "Antiguo");
       for (const char* field : {"txtLibro(1)", "txtLibro(2)"}) d.type(field, folio);
       typePerson(d, "F" + folio, "Otro", folio);
-      tab(d, k.dayTab);
-      d.type(date(k.day), day);
+      tab(d, k.day.tab);
+      d.type(date(k.day.index), day);
       acceptOld(d, Answer::No);
     });
   };
@@ -101,7 +101,7 @@ TEST_P(OldEntry, AnnulledBeforeItIsStored_IsStoredSo) {
     EXPECT_TRUE(d.visible("lblPartidaAnulada"));
     EXPECT_EQ(d.locked(name()), k.annulledIsLocked);
     EXPECT_EQ(d.enabled("cmdAltaPoblacion"), !k.annulledIsLocked);
-    EXPECT_EQ(d.locked(text(k.notes)), !k.notesStayOpen);
+    EXPECT_EQ(d.locked(text(k.notes.index)), !k.notesStayOpen);
     EXPECT_TRUE(std::ranges::any_of(
         forms::Contents::of(d.form()).fields,
         [&](const forms::Field& f) { return f.control == name() && f.text == "Eva"; }))
