@@ -4,7 +4,8 @@
 #include <array>
 #include <string>
 
-#include "store/Connection.h"
+#include "registers/baptism/AlmacenBautismo.h"
+#include "registers/baptism/TablasBautismo.h"
 
 namespace fidaleon::bench {
 
@@ -15,45 +16,56 @@ inline std::string pick(int n, int salt) {
   return names[static_cast<std::size_t>(n * 7 + salt * 5) % names.size()];
 }
 
-/// The entry's statement as the store operations concatenate it.
-inline std::string entryStatement(int n, int book, int folio, const std::string& number) {
-  const std::string id = std::to_string(n);
-  return "INSERT INTO bautismo (codpadres, codmadres, codmatrimonio, institucionsolicitud, "
-         "fechabautismo, padrino, madrina, ministro, parroquia, codmunicipio, diocesis, "
-         "notasmarginales, observaciones, codlibro, folio, numero, anulada, EdadPadrino, "
-         "EdadMadrina, ParroquiaDomicilioPadrino, ParroquiaDomicilioMadrina, ProfesionPadrino, "
-         "NaturalPadrino, EstatPadrino, ProfesionMadrina, NaturalMadrina, EstatMadrina "
-         ",MinistroCargo) VALUES (" +
-         id + "," + id + "," + id + ",0,\"20030504\",\"Antonio " + pick(n, 1) +
-         " Romero\",\"Dolores " + pick(n, 2) +
-         " Gil\",\"D. Manuel Ortega Prieto\",\"San Pedro Apóstol\",1,\"Alcalá de Henares\","
-         "\"Contrajo matrimonio en la parroquia de Santa María el 4 de mayo de 2001\",\"---\"," +
-         std::to_string(book) + "," + std::to_string(folio) + ",\"" + number +
-         "\",0,\"34\",\"31\",\"San Pedro\",\"Santa María\",\"carpintero\",\"Alcalá\",\"casado\","
-         "\"modista\",\"Alcalá\",\"casada\" ,\"Párroco\")";
+/// Keys of the parents' rows are `n`.
+inline cBautismo baptism(int n, int book, int folio, const std::string& number) {
+  cBautismo b;
+  b.CodPadres = b.CodMadres = b.CodMatrimonio = b.CodBautismo = n;
+  b.CodLibroBautismo = book;
+  b.FolioBautismo = std::to_string(folio);
+  b.NumeroBautismo = number;
+  b.FechaBautismo = "20030504";
+  b.PadrinoBautismo = "Antonio " + pick(n, 1) + " Romero";
+  b.MadrinaBautismo = "Dolores " + pick(n, 2) + " Gil";
+  b.MinistroBautismo = "D. Manuel Ortega Prieto";
+  b.MinistroCargo = "Párroco";
+  b.ParroquiaBautismo = b.ParroquiaMatrimonio = "San Pedro Apóstol";
+  b.CodPoblacionBautismo = b.CodPoblacionNacHijo = 1;
+  b.DiocesisBautismo = "Alcalá de Henares";
+  b.NotasMarginalesBautismo =
+      "Contrajo matrimonio en la parroquia de Santa María el 4 de mayo de 2001";
+  b.EdadPadrino = "34";
+  b.EdadMadrina = "31";
+  b.ParroquiaDomicilioPadrino = "San Pedro";
+  b.ParroquiaDomicilioMadrina = "Santa María";
+  b.ProfesionPadrino = "carpintero";
+  b.ProfesionMadrina = "modista";
+  b.NaturalPadrino = b.NaturalMadrina = "Alcalá";
+  b.EstatPadrino = "casado";
+  b.EstatMadrina = "casada";
+  b.NombrePadres = "Juan";
+  b.PrimerApellidoPadres = b.PrimerApellidoHijo = pick(n, 3);
+  b.SegundoApellidoPadres = pick(n, 4);
+  b.NombreMadres = "Ana";
+  b.PrimerApellidoMadres = b.SegundoApellidoHijo = pick(n, 5);
+  b.SegundoApellidoMadres = pick(n, 6);
+  b.FechaMatrMatrimonio = "19990501";
+  b.NombreHijo = "José";
+  b.SexoHijo = "Hombre";
+  b.FechaNacHijo = "20030501";
+  b.HoraNacHijo = "10:30";
+  rellenarGuiones(ALMACEN_BAUTISMO, b);
+  return b;
 }
 
-/// All five rows of an entry, with keys `n`; a folio holds ten entries.
+/// The entry's statement as the store operations concatenate it.
+inline std::string entryStatement(int n, int book, int folio, const std::string& number) {
+  return sqlInsertar(TABLA_BAUTISMO, baptism(n, book, folio, number));
+}
+
+/// All five rows of an entry, the next of the register; a folio holds ten entries.
 inline void insertBaptism(store::Connection& connection, int n, int book, int position) {
-  const std::string id = std::to_string(n);
-  connection.Execute(
-      "INSERT INTO bautismo_padres (nombre, primerapellido, segundoapellido) "
-      "VALUES (\"Juan\",\"" +
-      pick(n, 3) + "\",\"" + pick(n, 4) + "\")");
-  connection.Execute(
-      "INSERT INTO bautismo_madres (nombre, primerapellido, segundoapellido) "
-      "VALUES (\"Ana\",\"" +
-      pick(n, 5) + "\",\"" + pick(n, 6) + "\")");
-  connection.Execute(
-      "INSERT INTO bautismo_matrimonio (parroquia,fechamatr) VALUES (\"San Pedro "
-      "Apóstol\",\"19990501\")");
-  connection.Execute(entryStatement(n, book, 1 + position / 10, std::to_string(1 + position)));
-  connection.Execute(
-      "INSERT INTO bautismo_hijo (codbautismo,nombre,primerapellido,"
-      "segundoapellido,sexo,fechanac,horanac,direccionnac,codmunicipionac) VALUES "
-      "(" +
-      id + ",\"José\",\"" + pick(n, 3) + "\",\"" + pick(n, 5) +
-      "\",\"Hombre\",\"20030501\",\"10:30\",\"---\",1)");
+  cBautismo b = baptism(n, book, 1 + position / 10, std::to_string(1 + position));
+  insertarPartida(connection, ALMACEN_BAUTISMO, b);
 }
 
 }  // namespace fidaleon::bench

@@ -16,6 +16,7 @@
 
 #include "core/facade/cNucleo.h"
 #include "forms/ScriptedUser.h"
+#include "registers/books/LibroNuevo.h"
 #include "registers/cBaseDatos.h"
 #include "store/Open.h"
 #include "support/Clocks.h"
@@ -127,11 +128,7 @@ inline void createParish(const std::filesystem::path& file) {
   connection->Execute("INSERT INTO Institucion (Nombre) VALUES (\"San Pedro\")");
   for (const char* book : {NEW_BOOK, OLD_BOOK}) {
     const bool isNew = book == NEW_BOOK;
-    connection->Execute(
-        "INSERT INTO Libro_Bautismo (codinstitucion, codFormato, codTipoNombre, nombre, "
-        "fechacreacion, Nuevo, Cerrado, NumeroSiguiente, FolioSiguiente) VALUES (1, " +
-        std::string(isNew ? "3" : "1") + ", 4, \"" + book + "\", \"20200101\", " +
-        (isNew ? "1" : "0") + ", 0, 1, 1)");
+    insertarLibro(*connection, BAUTISMO, {1, isNew ? 3 : 1, 4, book, "20200101", isNew});
   }
 }
 

@@ -1,4 +1,4 @@
-// rooms: documents support sqlite
+// rooms: documents registers support sqlite
 // Rows of a whole printed book and of its index, from the store to the reports database, beside
 // the same done by hand with prepared statements and remembered towns.
 

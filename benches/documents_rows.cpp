@@ -1,4 +1,4 @@
-// rooms: documents support
+// rooms: documents registers support
 // Rows of baptism documents: a certificate and an entry, from the store to the reports database.
 
 #include "benches/Baptisms.h"

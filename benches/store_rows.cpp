@@ -1,4 +1,4 @@
-// rooms: store sqlite
+// rooms: registers store sqlite
 // Rows in and out through the connection, beside the same done by hand against the library.
 
 #include <sqlite3.h>

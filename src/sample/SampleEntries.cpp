@@ -3,14 +3,10 @@
 namespace fidaleon::app::sample {
 namespace {
 
-const std::string BLANK = "---";
-
-std::string orBlank(const std::string& text) {
-  return text.empty() ? BLANK : text;
-}
+constexpr const char* ANNULLED = "Anulada por haberse inscrito dos veces.";
 
 std::string stored(const text::Date& day) {
-  return day.year == 0 ? BLANK : text::toStored(day);
+  return day.year == 0 ? std::string() : text::toStored(day);
 }
 
 }  // namespace
@@ -32,6 +28,7 @@ cBautismo Entries::baptism(const Baptism& b, const Place& place) const {
   r.NumeroBautismo = place.number;
   r.AnuladaBautismo = b.annulled;
   r.FechaBautismo = stored(b.day);
+  r.EdadPadrino = r.EdadMadrina = "0";
   r.PadrinoBautismo = b.godfather;
   r.MadrinaBautismo = b.godmother;
   r.MinistroBautismo = b.minister;
@@ -39,13 +36,8 @@ cBautismo Entries::baptism(const Baptism& b, const Place& place) const {
   r.ParroquiaBautismo = at_.parish;
   r.CodPoblacionBautismo = at_.town;
   r.DiocesisBautismo = at_.diocese;
-  r.NotasMarginalesBautismo = orBlank(b.marginalNotes);
-  r.ObservacionesBautismo = orBlank(b.remarks);
-  for (const auto member :
-       {&cBautismo::ParroquiaDomicilioPadrino, &cBautismo::ParroquiaDomicilioMadrina,
-        &cBautismo::ProfesionPadrino, &cBautismo::NaturalPadrino, &cBautismo::EstatPadrino,
-        &cBautismo::ProfesionMadrina, &cBautismo::NaturalMadrina, &cBautismo::EstatMadrina})
-    r.*member = BLANK;
+  r.NotasMarginalesBautismo = b.marginalNotes;
+  r.ObservacionesBautismo = b.remarks;
   putChild(r, b, c);
   putFather(r, c);
   putMother(r, c);
@@ -59,7 +51,7 @@ void Entries::putChild(cBautismo& r, const Baptism& b, const Couple& c) const {
   r.SegundoApellidoHijo = c.mother.first;
   r.SexoHijo = b.girl ? "Mujer" : "Hombre";
   r.FechaNacHijo = stored(b.birth);
-  r.HoraNacHijo = orBlank(b.hour);
+  r.HoraNacHijo = b.hour;
   r.DireccionNacHijo = c.street;
   r.CodPoblacionNacHijo = at_.town;
 }
@@ -73,10 +65,6 @@ void Entries::putFather(cBautismo& r, const Couple& c) const {
   r.AbuelaPadres = c.fathersMother;
   r.CodPoblacionAbueloPadres = r.CodPoblacionAbuelaPadres = town(c.fathersTown);
   r.PadreProfesion = c.trade;
-  for (const auto member :
-       {&cBautismo::PadreParroquiaBaut, &cBautismo::AbueloPatParroquiaBaut,
-        &cBautismo::AbuelaPatParroquiaBaut, &cBautismo::TelefonoPadre, &cBautismo::EmailPadre})
-    r.*member = BLANK;
 }
 
 void Entries::putMother(cBautismo& r, const Couple& c) const {
@@ -87,10 +75,6 @@ void Entries::putMother(cBautismo& r, const Couple& c) const {
   r.AbueloMadres = c.mothersFather;
   r.AbuelaMadres = c.mothersMother;
   r.CodPoblacionAbueloMadres = r.CodPoblacionAbuelaMadres = town(c.mothersTown);
-  for (const auto member : {&cBautismo::MadreParroquiaBaut, &cBautismo::MadreProfesion,
-                            &cBautismo::AbueloMatParroquiaBaut, &cBautismo::AbuelaMatParroquiaBaut,
-                            &cBautismo::TelefonoMadre, &cBautismo::EmailMadre})
-    r.*member = BLANK;
 }
 
 void Entries::putMarriage(cBautismo& r, const Couple& c) const {
@@ -100,7 +84,6 @@ void Entries::putMarriage(cBautismo& r, const Couple& c) const {
   r.DireccionPadresMatrimonio = c.street;
   r.CodPoblacionPadresMatrimonio = at_.town;
   r.DiocesisMatrimonio = at_.diocese;
-  r.TelefonoPadres = BLANK;
 }
 
 cConfirmacion Entries::confirmation(const Confirmation& c, const Place& place,
@@ -121,10 +104,9 @@ cConfirmacion Entries::confirmation(const Confirmation& c, const Place& place,
   r.Domicilio = c.street;
   r.CodMunicipioDomicilio = at_.town;
   r.FeligresDe = r.Parroquia = at_.parish;
-  r.EmailConfirmado = r.TelefonoConfirmado = r.Observaciones = BLANK;
   r.CodMunicipioParr = at_.town;
   r.DiocesisParr = at_.diocese;
-  r.NotasMarginales = c.annulled ? "Anulada por haberse inscrito dos veces." : BLANK;
+  if (c.annulled) r.NotasMarginales = ANNULLED;
   r.FechaConfirmacion = stored(c.day);
   r.Padrino = c.sponsor;
   r.MinistroPrinc = c.minister;
@@ -138,7 +120,6 @@ void Entries::putBaptism(cConfirmacion& r, const Confirmation& c, const Place* b
   r.FechaBaut = stored(c.baptised);
   r.ParroquiaBaut = c.baptismParish;
   r.CodMunicipioBaut = town(c.baptismTown);
-  r.DireccionBaut = r.LibroBaut = r.NumeroBaut = BLANK;
   if (!baptised) return;
   r.DireccionBaut = "Plaza de la Iglesia, 1";
   r.LibroBaut = baptised->bookName;
@@ -167,8 +148,10 @@ cDefuncion Entries::death(const Burial& b, const Place& place) const {
   r.FechaInhumacion = stored(b.funeral);
   r.Causa = b.cause;
   r.Cementerio = "Cementerio parroquial";
-  r.Sacramentos = b.anointed ? "Penitencia, Unción de los enfermos y Viático" : BLANK;
-  r.Sacerdote = b.anointed ? r.Parroco : BLANK;
+  r.Sacramentos = b.anointed ? "Penitencia, Unción de los enfermos y Viático" : "";
+  if (b.anointed) r.Sacerdote = r.Parroco;
+  r.Anulada = b.annulled;
+  if (b.annulled) r.NotasMarginales = ANNULLED;
   putFamily(r, b);
   return r;
 }
@@ -177,9 +160,6 @@ void Entries::putFamily(cDefuncion& r, const Burial& b) const {
   r.DomicilioActual = r.DomicilioDefn = "C/ Mayor, " + std::to_string(3 + b.age % 40);
   r.EstadoCivil = b.couple < 0 ? "Soltero" : b.widowed ? "Viudo" : "Casado";
   if (b.person.woman) r.EstadoCivil.back() = 'a';
-  r.NotasMarginales = r.Observaciones = r.Consorte = r.NombreHijos = BLANK;
-  r.NombreContacto = r.ApellidoContacto = r.Apellido2Contacto = BLANK;
-  r.TelefonoContacto = r.EmailContacto = r.RelacionDifunto = BLANK;
   r.NumeroHijos = "0";
   if (b.couple < 0) return;
   const Couple& c = coupleOf(b.couple);
@@ -196,7 +176,7 @@ void Entries::putFamily(cDefuncion& r, const Burial& b) const {
     r.RelacionDifunto = child.girl ? "Hija" : "Hijo";
   }
   r.NumeroHijos = std::to_string(children);
-  r.NombreHijos = orBlank(names);
+  r.NombreHijos = names;
 }
 
 }  // namespace fidaleon::app::sample

@@ -27,8 +27,6 @@ constexpr int NEW_FORMAT = 3;
 constexpr int OPEN_NAME = 4;
 constexpr int YEAR_NAME = 1;
 
-const std::string BLANK = "---";
-
 using sample::Place;
 
 /// The books of one register: an old one, and the open new one that follows it.
@@ -165,6 +163,7 @@ class Writer {
   }
   template <class Record>
   void write(const DescripcionAlmacen<Record>& store, Record entry) {
+    rellenarGuiones(store, entry);
     insertarPartida(con_, store, entry);
   }
 
@@ -179,7 +178,6 @@ class Writer {
       b.couple = last - i;
       b.birth = {today_.year, 1 + i, 4 + 3 * i};
       if (b.birth > today_) b.birth.year -= 1;
-      b.godfather = b.godmother = b.minister = BLANK;
       b.remarks = "Pendiente de señalar el día del bautizo.";
       write(ALMACEN_BAUTISMO, entries().baptism(b, {}));
     }
@@ -202,7 +200,6 @@ class Writer {
       c.street = parents.street;
       c.baptismParish = parish_.name;
       c.baptismTown = homeTown();
-      c.sponsor = c.minister = c.office = BLANK;
       write(ALMACEN_CONFIRMACION, entries().confirmation(c, {}, placeOf(c)));
       --left;
     }

@@ -5,6 +5,7 @@
 #include <random>
 
 #include "sample/SampleNames.h"
+#include "text/Utf8.h"
 
 namespace fidaleon::app::sample {
 namespace {
@@ -245,7 +246,7 @@ class Builder {
       for (int n = dice_.between(12, 22); n > 0; --n) group.push_back(fromElsewhere(year));
       std::stable_sort(group.begin(), group.end(),
                        [](const Confirmation& a, const Confirmation& b) {
-                         return a.person.first < b.person.first;
+                         return text::compare(a.person.first, b.person.first) < 0;
                        });
       const Confirmer& who =
           CONFIRMERS[static_cast<std::size_t>(year / YEARS_BETWEEN_VISITS) % CONFIRMERS.size()];
@@ -301,8 +302,8 @@ class Builder {
       d.person = {b.name, parents.father.first, parents.mother.first, home_, b.girl};
       d.baptism = static_cast<int>(i);
       d.couple = b.ownCouple;
-      d.father = parents.father.name;
-      d.mother = parents.mother.name;
+      d.father = parents.father.full();
+      d.mother = parents.mother.full();
       if (b.ownCouple >= 0) fromHere[static_cast<std::size_t>(b.ownCouple) * 2 + b.girl] = true;
       die(d, b.birth);
     }
@@ -312,8 +313,8 @@ class Builder {
         Burial d;
         d.person = *p;
         d.couple = static_cast<int>(c);
-        d.father = givenName(false, 1900);
-        d.mother = givenName(true, 1900);
+        d.father = ancestor(false, p->first);
+        d.mother = ancestor(true, p->second);
         die(d, {made_.couples[c].wedding.year - dice_.between(22, 30), dice_.between(1, 12),
                 dice_.between(1, 28)});
       }
@@ -332,6 +333,7 @@ class Builder {
     d.cause = dice_.pick(CAUSES);
     d.anointed = !dice_.oneIn(4);
     d.minister = ministerOf(d.death.year);
+    d.annulled = dice_.oneIn(40);
     made_.burials.push_back(d);
   }
 

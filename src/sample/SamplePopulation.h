@@ -76,6 +76,7 @@ struct Burial {
   std::string cause;
   std::string minister;
   bool anointed = false;
+  bool annulled = false;
 };
 
 /// The people of the sample parish: couples, their children, and the children of those. The same

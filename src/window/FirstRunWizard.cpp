@@ -105,7 +105,7 @@ QWizardPage* FirstRunWizard::contentPage(const NewParish& proposal) {
   auto* sample = new QRadioButton(tr("Crear una parroquia de &ejemplo"), page);
   layout->addWidget(sample);
   layout->addWidget(explanation(
-      tr("Con dos libros y más de un centenar de bautismos, un padrón con sus colaboradores y sus "
+      tr("Con libros de bautismo, confirmación y defunción, un padrón con sus colaboradores y sus "
          "grupos, y una agenda. Todas las personas son inventadas: sirve para aprender y probar "
          "sin miedo, no para trabajar de verdad. Sus documentos llevan la palabra MUESTRA."),
       page));

@@ -121,11 +121,7 @@ typename R::Record recordOf(const std::string& name, std::int32_t book, int foli
   r.*R::name = name;
   r.*R::day = "19990510";
   R::put(r, book, folio, number);
-  R::store.cadaTabla([&](const auto& table) {
-    for (const auto& column : table.columnas)
-      if (const auto* text = std::get_if<std::string R::Record::*>(&column.miembro))
-        if ((r.**text).empty()) r.** text = "---";
-  });
+  rellenarGuiones(R::store, r);
   ponerOperacion(r, FDAPI::cCOperacion::ANADIR);
   return r;
 }

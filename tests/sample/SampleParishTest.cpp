@@ -1,4 +1,7 @@
+#include "core/statements/Sentencia.h"
 #include "parish/Parish.h"
+#include "registers/common/FormaPartida.h"
+#include "registers/repair/PartidasIncompletas.h"
 #include "sample/SampleNames.h"
 #include "sample/SamplePopulation.h"
 #include "support/Identidad.h"
@@ -12,30 +15,41 @@ class SampleParish : public ParishTest {
 };
 
 TEST_F(SampleParish, EveryEntryIsWholeForTheReaders) {
-  const auto all = count("SELECT COUNT(IDBautismo) FROM Bautismo");
-  EXPECT_EQ(rowsOf("SELECT IDBautismo FROM Bautismo, Bautismo_Hijo, Bautismo_Padres, "
-                   "Bautismo_Madres, Bautismo_Matrimonio WHERE CodBautismo=IDBautismo AND "
-                   "Bautismo_Padres.IDPadres=CodPadres AND Bautismo_Madres.IDMadres=CodMadres AND "
-                   "Bautismo_Matrimonio.IDMatrimonio=CodMatrimonio"),
-            all);
+  EXPECT_EQ(cuentaPartidasIncompletas(desk->parish()), 0);
   EXPECT_EQ(rowsOf("SELECT CodBautismo FROM Bautismo_Hijo WHERE CodMunicipioNac NOT IN (SELECT "
                    "IDMunicipio FROM Municipio)"),
             0);
 }
 
 TEST_F(SampleParish, PositionsAreWhatTheBooksWouldHaveGiven) {
-  auto rows = desk->parish().Execute(
-      "SELECT Nuevo, CodLibro, Folio, Numero FROM Bautismo, Libro_Bautismo WHERE "
-      "IDLibroBautismo=CodLibro ORDER BY CodLibro, Folio, Val(Numero)");
-  std::int64_t book = 0;
-  std::int64_t expected = 0;
-  for (; !rows.EOF_(); rows.MoveNext()) {
-    if (rows.integer("CodLibro") != book) expected = 0;
-    book = rows.integer("CodLibro");
-    ++expected;
-    EXPECT_EQ(rows.integer("Numero"), expected);
-    EXPECT_EQ(rows.integer("Folio"), rows.flag("Nuevo") ? expected : (expected - 1) / 4 + 1);
+  for (const FormaPartida& f : formasPartida()) {
+    auto rows = desk->parish().Execute(
+        sentencia(f.sacramento,
+                  "SELECT Nuevo, CodLibro, Folio, Numero FROM {Partidas}, {Libros} WHERE "
+                  "{IDLibro}=CodLibro ORDER BY CodLibro, Folio, Val(Numero)"));
+    EXPECT_GE(rows.RecordCount(), 50) << f.registro;
+    std::int64_t book = 0;
+    std::int64_t expected = 0;
+    for (; !rows.EOF_(); rows.MoveNext()) {
+      if (rows.integer("CodLibro") != book) expected = 0;
+      book = rows.integer("CodLibro");
+      ++expected;
+      EXPECT_EQ(rows.integer("Numero"), expected) << f.registro;
+      EXPECT_EQ(rows.integer("Folio"), rows.flag("Nuevo") ? expected : (expected - 1) / 4 + 1);
+    }
   }
+}
+
+TEST_F(SampleParish, TheBaptismsOfTheConfirmedAreInTheBooks) {
+  const auto told = rowsOf("SELECT * FROM Confirmacion_Bautismo WHERE LibroBaut<>\"---\"");
+  EXPECT_GE(told, 20);
+  EXPECT_EQ(rowsOf("SELECT * FROM Confirmacion, Confirmacion_Bautismo, Bautismo, Bautismo_Hijo, "
+                   "Libro_Bautismo WHERE CodConfirmacion=IDConfirmacion AND CodBautismo=IDBautismo "
+                   "AND IDLibroBautismo=Bautismo.CodLibro AND Libro_Bautismo.Nombre=LibroBaut AND "
+                   "Bautismo.Folio=FolioBaut AND Bautismo.Numero=NumeroBaut AND "
+                   "Bautismo_Hijo.Nombre=Confirmacion.Nombre AND "
+                   "Bautismo_Hijo.PrimerApellido=Confirmacion.PrimerApellido"),
+            told);
 }
 
 TEST_F(SampleParish, EveryPersonOfTheCensusIsWhole) {

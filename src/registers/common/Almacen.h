@@ -13,6 +13,7 @@
 #include "registers/allocation/ActualizacionFormato.h"
 #include "registers/common/FormaPartida.h"
 #include "registers/common/GuardarEntera.h"
+#include "registers/common/Guiones.h"
 #include "registers/common/Operacion.h"
 #include "store/Transaction.h"
 
@@ -81,6 +82,16 @@ struct DescripcionAlmacen {
     if (alLeer) alLeer(r);
   }
 };
+
+/// Gives dashes to the texts of the record that say nothing.
+template <class Registro>
+void rellenarGuiones(const DescripcionAlmacen<Registro>& d, Registro& r) {
+  d.cadaTabla([&](const Tabla<Registro>& tabla) {
+    for (const Columna<Registro>& c : tabla.columnas)
+      if (const auto* texto = std::get_if<std::string Registro::*>(&c.miembro))
+        if (c.cita == Cita::Texto) r.** texto = oGuiones(r.**texto);
+  });
+}
 
 /// Inserts the entry's own row; the record takes its key.
 template <class Registro>

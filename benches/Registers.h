@@ -1,0 +1,77 @@
+#pragma once
+// Registers of any size and any sacrament, filled by statements of the engine, and one entry more.
+
+#include <string>
+
+#include "registers/books/LibroNuevo.h"
+#include "registers/common/Almacen.h"
+#include "registers/entry/DatosPartida.h"
+#include "store/Engine.h"
+#include "store/schema/Schema.h"
+
+namespace fidaleon::bench {
+
+/// `entries` of a register in books of at most `perBook`, one on a folio. Keys count from 1.
+class FilledRegister {
+ public:
+  FilledRegister(store::Connection& connection, const FormaPartida& form, int entries, int perBook)
+      : connection_(connection), form_(form), perBook_(std::to_string(perBook)) {
+    const int books = 1 + (entries - 1) / perBook;
+    for (int b = 1; b <= books; ++b)
+      insertarLibro(connection, form.sacramento,
+                    {1, 3, 4, "L" + std::to_string(b), std::to_string(19000101 + b), true});
+    connection.Execute(sentencia(form.sacramento,
+                                 "UPDATE {Libros} SET Cerrado=true WHERE "
+                                 "{IDLibro}<") +
+                       std::to_string(books));
+    for (const FilaDePartida& row : form.filas) fill(*connection.schema().find(row.tabla), entries);
+  }
+
+ private:
+  void fill(const store::Table& table, int rows) {
+    std::string names, values;
+    for (const store::Column& c : table.columns()) {
+      if (c.type == store::Type::Counter) continue;
+      names += (names.empty() ? "" : ", ") + c.name;
+      values += (values.empty() ? "" : ", ") + valueOf(c);
+    }
+    connection_.engine().run(
+        "WITH RECURSIVE c(n) AS (SELECT 1 UNION ALL SELECT n + 1 FROM c WHERE "
+        "n < " +
+        std::to_string(rows) + ") INSERT INTO " + table.name() + " (" + names + ") SELECT " +
+        values + " FROM c");
+  }
+
+  std::string valueOf(const store::Column& c) const {
+    const std::string place = "(n - 1) % " + perBook_;
+    if (c.name == "CodLibro") return "1 + (n - 1) / " + perBook_;
+    if (c.name == "Folio") return "1 + " + place;
+    if (c.name == "Numero") return "CAST(1 + " + place + " AS TEXT)";
+    if (c.name.starts_with("Fecha")) return "CAST(19000101 + n % 900000 AS TEXT)";
+    if (c.name.find("Apellido") != std::string::npos)
+      return "char(65 + n * 7 % 26) || 'a' || char(97 + n * 11 % 26) || 'ez'";
+    for (const FilaDePartida& row : form_.filas)
+      if (c.name == row.enlace || c.name == row.clave) return "n";
+    return store::isText(c.type) ? "'---'" : "0";
+  }
+
+  store::Connection& connection_;
+  const FormaPartida& form_;
+  std::string perBook_;
+};
+
+/// An entry of its sacrament, to be stored; what is not known is dashes.
+template <class Record>
+Record newEntry(const DescripcionAlmacen<Record>& store, const std::string& name,
+                const std::string& surname, const DatosPartida& place) {
+  Record r;
+  ponerDatos(r, place);
+  const std::string values[] = {name, surname, surname, "20261122"};
+  for (std::size_t i = 0; i < std::size(values); ++i)
+    r.*std::get<std::string Record::*>(store.lista.columnas[3 + i].miembro) = values[i];
+  rellenarGuiones(store, r);
+  ponerOperacion(r, FDAPI::cCOperacion::ANADIR);
+  return r;
+}
+
+}  // namespace fidaleon::bench
