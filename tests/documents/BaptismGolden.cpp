@@ -121,7 +121,24 @@ std::vector<Golden> bautismos() {
                 {"AbuelaMatProvinciaParrBaut", "Sevilla"},
                 {"TelefonoPadres", "916950000"}}),
        true},
+      {"ImprimirLibroBautismo", &I::ImprimirLibroBautismo, &BAUTISMAL, PARTIDA + nina},
+      {"ImprimirLibroBautismoMenorca", &I::ImprimirLibroBautismoMenorca, &BAUTISMAL,
+       PARTIDA + FECHAS_CATALANAS + genero("la filleta", "nada")},
+      {"ImprimirIndiceLibroBautismo", &I::ImprimirIndiceLibroBautismo, &BAUTISMAL,
+       PARROQUIA + Row{{"Año", "2003"}, {"Letra", "G"}} +
+           solo(PARTIDA, {"Libro", "Folio", "Numero", "PrimerApellidoHijo", "SegundoApellidoHijo",
+                          "NombreHijo"})},
   };
+}
+
+Row duplicadaDeBautismo() {
+  return sin(PARTIDA, {"ProvinciaAbueloPaterno", "ProvinciaAbuelaPaterna", "ProvinciaAbueloMaterno",
+                       "ProvinciaAbuelaMaterna"}) +
+         PARROQUIA_EN_GETAFE +
+         Row{{"InstitucionParroco", "Andrés Gil"},
+             {"Año", "2003"},
+             {"FechaSistemaLarga", "veintidós de noviembre de 2026"},
+             {"FechaCreacionLibro", "01/01/2003"}};
 }
 
 }  // namespace fidaleon::tests

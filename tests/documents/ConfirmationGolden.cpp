@@ -64,6 +64,9 @@ const Row FIRMADA_CATALANA =
 const Row HOY_CATALAN =
     HOY + CATALANA + Row{{"FechaSistemaLarga", "vint-i-dos de novembre de 2026"}};
 
+const Row CATALANAS_AL_LADO{{"FechaConfiLargaMeno", "trenta-u de març de 2019"},
+                            {"FechaBautLargaMeno", "vint-i-quatre de maig de 2003"}};
+
 const Sacramental CONFIRMATORIO{
     "Documentos_Confirmacion",
     {"Confirmacion", "Confirmacion_Datos", "Confirmacion_Bautismo", "Libro_Confirmacion",
@@ -108,7 +111,19 @@ std::vector<Golden> confirmaciones() {
                  {"FechaBautLarga", "veinticuatro de mayo de dos mil tres"},
                  {"FechaBautLargaMeno", "vint-i-quatre de maig de 2003"}},
        true},
+      {"ImprimirLibroConfirmacion", &I::ImprimirLibroConfirmacion, &CONFIRMATORIO,
+       hoy + CATALANAS_AL_LADO},
+      {"ImprimirLibroConfirmacionMenorca", &I::ImprimirLibroConfirmacionMenorca, &CONFIRMATORIO,
+       PARTIDA + HOY_CATALAN + CATALANAS_AL_LADO},
+      {"ImprimirIndiceLibroConfirmacion", &I::ImprimirIndiceLibroConfirmacion, &CONFIRMATORIO,
+       PARROQUIA + Row{{"Año", "2003"}, {"Letra", "G"}} +
+           solo(PARTIDA,
+                {"Libro", "Folio", "Numero", "PrimerApellido", "SegundoApellido", "Nombre"})},
   };
+}
+
+Row duplicadaDeConfirmacion() {
+  return PARTIDA + HOY + Row{{"Edad", "15"}, {"Año", "2019"}, {"FechaCreacionLibro", "01/01/2003"}};
 }
 
 }  // namespace fidaleon::tests

@@ -65,6 +65,7 @@ using I = cInformes;
 }  // namespace
 
 std::vector<Golden> defunciones() {
+  const Row libro = sin(PARTIDA, {"FechaSistemaLarga"}) + RESIDENCIA;
   return {
       {"ImprimirCertificadoPartidaDefuncion", &I::ImprimirCertificadoPartidaDefuncion, &EXEQUIAL,
        CERTIFICADO + CON_PUNTOS},
@@ -79,7 +80,27 @@ std::vector<Golden> defunciones() {
        PARTIDA + RESIDENCIA + CON_PUNTOS, false, true},
       {"ImprimirPartidaDefuncionMenorca", &I::ImprimirPartidaDefuncionMenorca, &EXEQUIAL,
        PARTIDA + RESIDENCIA + CATALANA, false, true},
+      {"ImprimirLibroDefuncion", &I::ImprimirLibroDefuncion, &EXEQUIAL, libro},
+      {"ImprimirLibroDefuncionMenorca", &I::ImprimirLibroDefuncionMenorca, &EXEQUIAL,
+       libro + sin(CATALANA, {"FechaSistemaLarga"})},
+      {"ImprimirIndiceLibroDefuncion", &I::ImprimirIndiceLibroDefuncion, &EXEQUIAL,
+       PARROQUIA + Row{{"Año", "2003"}, {"Letra", "G"}} +
+           solo(PARTIDA,
+                {"Libro", "Folio", "Numero", "PrimerApellido", "SegundoApellido", "Nombre"})},
   };
+}
+
+Row duplicadaDeDefuncion() {
+  return solo(PARTIDA, {"Libro", "Folio", "Numero", "PrimerApellido", "SegundoApellido", "Nombre",
+                        "FechaDefuncionCorta", "FechaInhumacionCorta", "Consorte", "NombresHijos",
+                        "NombrePadre", "NombreMadre", "Sacramentos", "Sacerdote", "Parroquia",
+                        "DiocesisParr", "FechaDefuncionLarga", "InstitucionParroco"}) +
+         PARROQUIA_EN_GETAFE +
+         Row{{"PoblacionDefn", "Toledo"},
+             {"ProvinciaDefn", "Toledo"},
+             {"Año", "2024"},
+             {"FechaSistemaLarga", "veintidós de noviembre de 2026"},
+             {"FechaCreacionLibro", "01/01/2003"}};
 }
 
 }  // namespace fidaleon::tests

@@ -1,4 +1,5 @@
-// Every document of the entries against its golden row, and what all members do beside the row.
+// Every document of entries and books against its golden row, and what all members do beside the
+// row.
 
 #include "GoldenRows.h"
 #include "documents/Miembros.h"
@@ -47,6 +48,8 @@ TEST_P(Documents, StatementsOnTheReports_AreTheRowAndItsReadingBackInOneTransact
 
 TEST_P(Documents, DependentRowMissing_NoRowAndNoMessage) {
   const Sacramental& s = *GetParam().sacramento;
+  // An index reads no more than it prints.
+  if (std::string(GetParam().miembro).starts_with("ImprimirIndice")) return;
   for (const char* tabla : s.dependientes) {
     if (GetParam().solicitud && std::string(tabla).starts_with("Libro_")) continue;
     PartidasWorld otra;
@@ -103,12 +106,12 @@ TEST_P(Documents, AStepOnTheReportsFails_RollsBackAndNamesTheMember) {
 INSTANTIATE_TEST_SUITE_P(Entries, Documents, ::testing::ValuesIn(todos()),
                          [](const auto& caso) { return std::string(caso.param.miembro); });
 
-TEST(DocumentsTable, EveryMemberOfAnEntry_HasAGoldenRow) {
+TEST(DocumentsTable, EveryMember_HasAGoldenRow) {
   std::vector<std::string> probados;
   for (const Golden& golden : todos()) probados.emplace_back(golden.miembro);
   std::vector<std::string> escritos;
   for (const documents::Miembro& miembro : documents::miembros())
-    if (!miembro.check) escritos.emplace_back(miembro.kind.member);
+    escritos.emplace_back(miembro.kind.member);
   EXPECT_THAT(probados, ::testing::UnorderedElementsAreArray(escritos));
 }
 

@@ -1,7 +1,6 @@
-// The dialog "Ver informes duplicadas", with the rows it writes for baptism.
+// The dialog "Ver informes duplicadas", with the rows it writes for each register.
 
 #include "LibroWorld.h"
-#include "PartidaImpresa.h"
 #include "documents/frmInfDuplicadas.h"
 #include "store/FailingEngine.h"
 
@@ -13,23 +12,26 @@ using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 
-constexpr const char* POR_FECHA = "Fecha de Bautismo";
 constexpr const char* POR_CREACION = "Fecha de Creación del Libro";
-constexpr const char* POR_APELLIDOS = "Apellidos del bautizado";
 constexpr const char* NINGUNO = "¡No se ha encontrado ningún registro!";
 constexpr const char* DIALOGO = "frmInfDuplicadas";
 
-struct DuplicadasWorld : LibroWorld {
-  /// What the dialog gives as strOrden.
-  std::string mostrar(forms::ScriptedUser::Act act, const char* nodo = "Duplicadas de bautismo") {
-    frmInfDuplicadas dialogo(contexto);
-    dialogo.conBaseDatos = &con();
-    dialogo.conInformes = &conInformes();
-    dialogo.strNodo = nodo;
-    user.expectForm(DIALOGO, std::move(act));
+class DuplicatesDialog : public ::testing::TestWithParam<Registro> {
+ protected:
+  const Registro& r = GetParam();
+  LibroWorld w{r};
+
+  static std::string mostrar(LibroWorld& w, forms::ScriptedUser::Act act) {
+    frmInfDuplicadas dialogo(w.contexto);
+    dialogo.conBaseDatos = &w.con();
+    dialogo.conInformes = &w.conInformes();
+    dialogo.strNodo = w.registro.nodo;
+    w.user.expectForm(DIALOGO, std::move(act));
     dialogo.Show();
     return dialogo.strOrden;
   }
+  /// What the dialog gives as strOrden.
+  std::string mostrar(forms::ScriptedUser::Act act) { return mostrar(w, std::move(act)); }
   std::string imprimir(const std::string& orden, const std::string& ano = "2003") {
     return mostrar([=](FormDriver& u) { pedir(u, orden, ano); });
   }
@@ -41,52 +43,42 @@ struct DuplicadasWorld : LibroWorld {
   }
 };
 
-TEST(DuplicatesDialog, Opened_OffersTodaysYearAndThreeOrders) {
-  for (const char* nodo : {"Duplicadas de bautismo", "PartidasBautismo"}) {
-    DuplicadasWorld w;
-    const std::string orden = w.mostrar(
-        [](FormDriver& u) {
-          EXPECT_EQ(u.caption(), "Ver informes duplicadas");
-          EXPECT_EQ(u.text("adtpAno"), "2026");
-          EXPECT_EQ(u.text("cboInstitucion"), "San Ginés");
-          const auto& ordenes = u.get<forms::ComboBox>("cboOrden");
-          ASSERT_EQ(ordenes.listCount(), 3);
-          EXPECT_EQ(ordenes.listIndex(), -1);
-          EXPECT_EQ(ordenes.list(0), POR_FECHA);
-          EXPECT_EQ(ordenes.list(1), POR_CREACION);
-          EXPECT_EQ(ordenes.list(2), POR_APELLIDOS);
-          u.escape();
-        },
-        nodo);
-    EXPECT_EQ(orden, "");
-    EXPECT_SCRIPT_DONE(w.user);
-  }
-}
-
-TEST(DuplicatesDialog, Row_FillsItsColumnsAndNoOther) {
-  DuplicadasWorld w;
-  w.imprimir(POR_FECHA);
-  EXPECT_EQ(w.fila(), sin(PARTIDA, {"ProvinciaAbueloPaterno", "ProvinciaAbuelaPaterna",
-                                    "ProvinciaAbueloMaterno", "ProvinciaAbuelaMaterna"}) +
-                          (Row{{"InstitucionParroco", "Pedro Ruiz Sanz"},
-                               {"InstitucionNombre", "San Ginés Mártir"},
-                               {"InstitucionTipo", "Parroquia de"},
-                               {"InstitucionPoblacion", "Getafe"},
-                               {"InstitucionProvincia", "Madrid"},
-                               {"Año", "2003"},
-                               {"FechaSistemaLarga", "veintidós de noviembre de 2026"},
-                               {"FechaCreacionLibro", "01/01/2003"}}));
-  EXPECT_FALSE(w.conInformes().inTransaction());
-  EXPECT_EQ(w.user.hourglassDepth(), 0);
+TEST_P(DuplicatesDialog, Opened_OffersTodaysYearAndThreeOrders) {
+  const std::string orden = mostrar([&](FormDriver& u) {
+    EXPECT_EQ(u.caption(), "Ver informes duplicadas");
+    EXPECT_EQ(u.text("adtpAno"), "2026");
+    EXPECT_EQ(u.text("cboInstitucion"), "San Ginés");
+    const auto& ordenes = u.get<forms::ComboBox>("cboOrden");
+    ASSERT_EQ(ordenes.listCount(), 3);
+    EXPECT_EQ(ordenes.listIndex(), -1);
+    EXPECT_EQ(ordenes.list(0), r.porFecha);
+    EXPECT_EQ(ordenes.list(1), POR_CREACION);
+    EXPECT_EQ(ordenes.list(2), r.porApellidos);
+    u.escape();
+  });
+  EXPECT_EQ(orden, "");
   EXPECT_SCRIPT_DONE(w.user);
 }
 
-TEST(DuplicatesDialog, BlankInstitution_IsWrittenAsStoredButItsPlaces) {
-  DuplicadasWorld w;
+TEST_P(DuplicatesDialog, Row_FillsItsColumnsAndNoOther) {
+  PartidasWorld una;
+  frmInfDuplicadas dialogo(una.contexto);
+  dialogo.conBaseDatos = &una.con();
+  dialogo.conInformes = &una.conInformes();
+  dialogo.strNodo = std::string("Partidas") + r.sacramento.palabra;
+  una.user.expectForm(DIALOGO, [&](FormDriver& u) { pedir(u, r.porFecha, r.ano); });
+  dialogo.Show();
+  EXPECT_EQ(una.fila(r.filas().tabla), r.duplicada());
+  EXPECT_FALSE(una.conInformes().inTransaction());
+  EXPECT_EQ(una.user.hourglassDepth(), 0);
+  EXPECT_SCRIPT_DONE(una.user);
+}
+
+TEST_P(DuplicatesDialog, BlankInstitution_IsWrittenAsStoredButItsPlaces) {
   w.run("UPDATE Institucion SET Parroco=NULL, InstitucionTipo=\"\", CodMunicipio=0");
-  w.run("UPDATE Libro_Bautismo SET FechaCreacion=\"---\"");
-  w.imprimir(POR_FECHA);
-  Row fila = w.fila();
+  w.en("UPDATE {Libros} SET FechaCreacion=\"---\"");
+  imprimir(r.porFecha);
+  Row fila = w.fila(r.filas().tabla);
   EXPECT_EQ(fila["InstitucionParroco"], "");
   EXPECT_EQ(fila["InstitucionTipo"], "");
   EXPECT_EQ(fila["InstitucionPoblacion"], "---");
@@ -94,66 +86,60 @@ TEST(DuplicatesDialog, BlankInstitution_IsWrittenAsStoredButItsPlaces) {
   EXPECT_EQ(fila["FechaCreacionLibro"], "---");
 }
 
-TEST(DuplicatesDialog, Orders_ArrangeTheRowsAndNameTheFormulas) {
+TEST_P(DuplicatesDialog, Orders_ArrangeTheRowsAndNameTheFormulas) {
+  const std::string porPosicion = ",+{@Folio},+{@Numero}";
   struct {
     const char* texto;
     std::vector<std::string> nombres;
-    const char* strOrden;
+    std::string strOrden;
   } const casos[] = {
-      {POR_FECHA, {"Eva", "Ana", "Lucía", "Bea"}, "+{@FechaBautismo},+{@Folio},+{@Numero}"},
-      {POR_CREACION, {"Bea", "Eva", "Ana", "Lucía"}, "+{@FechaCreacion},+{@Folio},+{@Numero}"},
-      {POR_APELLIDOS, {"Bea", "Ana", "Lucía", "Eva"}, "+{@Nombre}"},
+      {r.porFecha, {"Eva", "Ana", "Lucía", "Bea"}, r.formula + porPosicion},
+      {POR_CREACION, {"Bea", "Eva", "Ana", "Lucía"}, "+{@FechaCreacion}" + porPosicion},
+      {r.porApellidos, {"Bea", "Ana", "Lucía", "Eva"}, "+{@Nombre}"},
   };
+  const int viejo = w.libro("Viejo", "19500101");
+  w.agregar(
+      {.apellido = "Zapata", .nombre = "Eva", .folio = "2", .numero = "9", .fecha = "20030101"});
+  w.agregar(
+      {.apellido = "Cano", .nombre = "Ana", .folio = "2", .numero = "10", .fecha = "20030524"});
+  w.agregar(
+      {.apellido = "Abad", .nombre = "Bea", .folio = "40", .libro = viejo, .fecha = "20031231"});
   for (const auto& caso : casos) {
-    DuplicadasWorld w;
-    const int viejo = w.libro("Viejo", "19500101");
-    w.agregar(
-        {.apellido = "Zapata", .nombre = "Eva", .folio = "2", .numero = "9", .fecha = "20030101"});
-    w.agregar(
-        {.apellido = "Cano", .nombre = "Ana", .folio = "2", .numero = "10", .fecha = "20030524"});
-    w.agregar(
-        {.apellido = "Abad", .nombre = "Bea", .folio = "40", .libro = viejo, .fecha = "20031231"});
-    EXPECT_EQ(w.imprimir(caso.texto), caso.strOrden);
-    EXPECT_EQ(w.columnas("NombreHijo"), caso.nombres) << caso.texto;
-    EXPECT_SCRIPT_DONE(w.user);
+    w.conInformes().Execute(std::string("DELETE * FROM ") + r.filas().tabla);
+    EXPECT_EQ(imprimir(caso.texto), caso.strOrden);
+    EXPECT_EQ(w.nombres(), caso.nombres) << caso.texto;
   }
+  EXPECT_SCRIPT_DONE(w.user);
 }
 
-TEST(DuplicatesDialog, YearAndInstitution_AreTheBoundary) {
-  DuplicadasWorld w;
+TEST_P(DuplicatesDialog, YearAndInstitution_AreTheBoundary) {
   const int ajena = w.institucion("Otra");
-  w.run("UPDATE Bautismo SET Anulada = True");
+  w.en("UPDATE {Partidas} SET Anulada = True");
   w.agregar({.nombre = "Antes", .fecha = "20021231"});
   w.agregar({.nombre = "Después", .fecha = "20040101"});
   w.agregar({.nombre = "Sin fecha", .fecha = "---"});
   w.agregar({.nombre = "Solicitud", .numero = "---", .libro = 0});
   w.agregar({.nombre = "Ajena", .libro = w.libro("Ajeno", "20030101", ajena)});
   w.agregar({.nombre = "Otro libro", .libro = w.libro("Segundo", "20030101")});
-  w.imprimir(POR_FECHA);
-  EXPECT_THAT(w.columnas("NombreHijo"), ElementsAre("Lucía", "Otro libro"));
+  imprimir(r.porFecha);
+  EXPECT_THAT(w.nombres(), ElementsAre("Lucía", "Otro libro"));
 }
 
-TEST(DuplicatesDialog, NothingChosen_IsRefusedInTurn) {
-  DuplicadasWorld w;
+TEST_P(DuplicatesDialog, NothingChosen_IsRefusedInTurn) {
   w.run("DELETE * FROM Institucion");
-  w.user.expectForm(DIALOGO, [&](FormDriver& u) {
+  mostrar([&](FormDriver& u) {
     w.user.expectMessage("¡Debe especificar una Institución!");
     u.click("cmdBoton(0)");
     u.escape();
   });
-  frmInfDuplicadas sinInstitucion(w.contexto);
-  sinInstitucion.conBaseDatos = &w.con();
-  sinInstitucion.conInformes = &w.conInformes();
-  sinInstitucion.strNodo = "Duplicadas de bautismo";
-  sinInstitucion.Show();
   EXPECT_EQ(w.user.beeps(), 1);
 
   w.institucion("San Ginés");
   const store::FailingEngine* motor = store::FailingEngine::wrap(w.conInformes());
-  const std::string orden = w.mostrar([&](FormDriver& u) {
+  const std::string orden = mostrar([&](FormDriver& u) {
     w.user.expectMessage("¡Debe especificar la forma de ordenación!");
     u.click("cmdBoton(0)");
-    u.choose("cboOrden", POR_FECHA);
+    u.choose("cboOrden", r.porFecha);
     for (const char* ano : {"", "98", "0998"}) {
       u.type("adtpAno", ano);
       w.user.expectMessage("¡Debe especificar un año de cuatro cifras!");
@@ -167,19 +153,13 @@ TEST(DuplicatesDialog, NothingChosen_IsRefusedInTurn) {
   EXPECT_SCRIPT_DONE(w.user);
 }
 
-TEST(DuplicatesDialog, YearWithoutEntries_SaysSoAndKeepsTheOrder) {
-  DuplicadasWorld w;
-  w.user.expectForm(DIALOGO, [&](FormDriver& u) {
+TEST_P(DuplicatesDialog, YearWithoutEntries_SaysSoAndKeepsTheOrder) {
+  const std::string orden = mostrar([&](FormDriver& u) {
     w.user.expectMessage(NINGUNO);
-    DuplicadasWorld::pedir(u, POR_APELLIDOS, "1999");
+    pedir(u, r.porApellidos, "1999");
     EXPECT_TRUE(u.closed());
   });
-  frmInfDuplicadas dialogo(w.contexto);
-  dialogo.conBaseDatos = &w.con();
-  dialogo.conInformes = &w.conInformes();
-  dialogo.strNodo = "Duplicadas de bautismo";
-  dialogo.Show();
-  EXPECT_EQ(dialogo.strOrden, "+{@Nombre}");
+  EXPECT_EQ(orden, "+{@Nombre}");
   EXPECT_EQ(w.filas(), 0);
   EXPECT_FALSE(w.conInformes().inTransaction());
   EXPECT_EQ(w.user.messages()[0].icon, forms::MsgIcon::Information);
@@ -202,50 +182,48 @@ class BarWatch : public forms::FormObserver {
   std::vector<std::string> seen;
 };
 
-TEST(DuplicatesDialog, Bar_CountsTheRowsAndIsReset) {
-  DuplicadasWorld w;
+TEST_P(DuplicatesDialog, Bar_CountsTheRowsAndIsReset) {
   w.agregar({});
   BarWatch watch;
-  w.mostrar([&](FormDriver& u) {
+  mostrar([&](FormDriver& u) {
     u.form().setObserver(&watch);
-    DuplicadasWorld::pedir(u, POR_FECHA, "2003");
+    pedir(u, r.porFecha, "2003");
     u.form().setObserver(nullptr);
   });
-  const std::string texto = "/2 Procesando vista preliminar ...";
+  const std::string texto = std::string("/2 ") + r.progreso;
   EXPECT_THAT(watch.seen, ElementsAre("0" + texto, "0" + texto, "1" + texto, "2" + texto,
                                       "2" + texto, "0" + texto));
   EXPECT_THAT(w.user.progressLog,
               ElementsAre("open 2 Procesando vista preliminar ...", "1", "2", "close"));
 }
 
-TEST(DuplicatesDialog, RowFails_LeavesTheTransactionOpenAndTheDialogToTryAgain) {
-  DuplicadasWorld w;
+TEST_P(DuplicatesDialog, RowFails_LeavesTheTransactionOpenAndTheDialogToTryAgain) {
   w.agregar({});
   auto* motor = store::FailingEngine::wrap(w.conInformes());
-  motor->failOn("INSERT INTO Documentos_Bautismo", store::ErrorKind::Other, 2);
+  motor->failOn("INSERT INTO Documentos_", store::ErrorKind::Other, 2);
   w.user.answerAnything(forms::Answer::Ok);
-  const std::string orden = w.mostrar([&](FormDriver& u) {
-    DuplicadasWorld::pedir(u, POR_FECHA, "2003");
+  const std::string orden = mostrar([&](FormDriver& u) {
+    pedir(u, r.porFecha, "2003");
     EXPECT_FALSE(u.closed());
     EXPECT_TRUE(w.conInformes().inTransaction());
     EXPECT_EQ(w.filas(), 1);
     EXPECT_THAT(w.user.messages().at(0).text,
-                HasSubstr("FidaleonNucleo / frmInfDuplicadas / DuplicadasBautismo)"));
-    DuplicadasWorld::pedir(u, POR_FECHA, "2003");
+                HasSubstr(std::string("FidaleonNucleo / frmInfDuplicadas / Duplicadas") +
+                          r.sacramento.palabra + ")"));
+    pedir(u, r.porFecha, "2003");
   });
   EXPECT_EQ(w.filas(), 2) << "no row of the first attempt";
   EXPECT_FALSE(w.conInformes().inTransaction());
-  EXPECT_EQ(orden, "+{@FechaBautismo},+{@Folio},+{@Numero}");
+  EXPECT_EQ(orden, std::string(r.formula) + ",+{@Folio},+{@Numero}");
   EXPECT_EQ(w.user.hourglassDepth(), 0);
   EXPECT_SCRIPT_DONE(w.user);
 }
 
-TEST(DuplicatesDialog, CancelledAfterAFailure_LeavesTheTransactionToTheConnection) {
-  DuplicadasWorld w;
-  store::FailingEngine::wrap(w.conInformes())->failOn("INSERT INTO Documentos_Bautismo");
+TEST_P(DuplicatesDialog, CancelledAfterAFailure_LeavesTheTransactionToTheConnection) {
+  store::FailingEngine::wrap(w.conInformes())->failOn("INSERT INTO Documentos_");
   w.user.answerAnything(forms::Answer::Ok);
-  const std::string orden = w.mostrar([&](FormDriver& u) {
-    DuplicadasWorld::pedir(u, POR_FECHA, "2003");
+  const std::string orden = mostrar([&](FormDriver& u) {
+    pedir(u, r.porFecha, "2003");
     u.click("cmdBoton(1)");
   });
   EXPECT_EQ(orden, "");
@@ -254,13 +232,15 @@ TEST(DuplicatesDialog, CancelledAfterAFailure_LeavesTheTransactionToTheConnectio
   EXPECT_EQ(w.filas(), 0);
 }
 
-TEST(DuplicatesDialog, LoadingFails_IsToldAndTheDialogCanBeLeft) {
-  DuplicadasWorld w;
+TEST_P(DuplicatesDialog, LoadingFails_IsToldAndTheDialogCanBeLeft) {
   store::FailingEngine::wrap(w.con())->failOn("FROM Institucion");
   w.user.answerAnything(forms::Answer::Ok);
-  w.mostrar([&](FormDriver& u) { u.escape(); });
+  mostrar([&](FormDriver& u) { u.escape(); });
   EXPECT_THAT(w.user.messages().at(0).text, HasSubstr("frmInfDuplicadas / Form_Load()"));
 }
+
+INSTANTIATE_TEST_SUITE_P(Registers, DuplicatesDialog, ::testing::ValuesIn(REGISTROS),
+                         nombreDelRegistro);
 
 }  // namespace
 }  // namespace fidaleon::tests

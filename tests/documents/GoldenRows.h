@@ -43,6 +43,13 @@ inline std::string conPuntos(std::string nota, int veces) {
   return nota;
 }
 
+/// The columns of that name alone.
+inline Row solo(const Row& row, std::initializer_list<const char*> names) {
+  Row few;
+  for (const char* name : names) few[name] = row.at(name);
+  return few;
+}
+
 inline const Row HOY{{"FechaSistemaCorta", "22/11/2026"},
                      {"FechaSistemaLarga", "veintidós de noviembre de 2026"}};
 
@@ -53,5 +60,15 @@ inline void PrintTo(const Golden& golden, std::ostream* out) {
 std::vector<Golden> bautismos();
 std::vector<Golden> confirmaciones();
 std::vector<Golden> defunciones();
+
+Row duplicadaDeBautismo();
+Row duplicadaDeConfirmacion();
+Row duplicadaDeDefuncion();
+
+/// What an index and a duplicate say of the parish of PartidasWorld.
+inline const Row PARROQUIA{{"InstitucionNombre", "San Ginés Mártir"},
+                           {"InstitucionTipo", "Parroquia de"}};
+inline const Row PARROQUIA_EN_GETAFE =
+    PARROQUIA + Row{{"InstitucionPoblacion", "Getafe"}, {"InstitucionProvincia", "Madrid"}};
 
 }  // namespace fidaleon::tests

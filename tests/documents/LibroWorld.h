@@ -1,11 +1,52 @@
 #pragma once
-// Further baptisms in the books of BautismoWorld.
+// A book of any register with further entries, for what is printed of whole books.
 
+#include <ostream>
 #include <vector>
 
-#include "BautismoWorld.h"
+#include "GoldenRows.h"
+#include "core/facade/Documentos.h"
+#include "core/statements/Sentencia.h"
 
 namespace fidaleon::tests {
+
+/// What the documents of whole books differ in from register to register.
+struct Registro {
+  const Sacramento& sacramento;
+  SinFirma libro, libroMenorca, indice;
+  const char* nodo;  // of the duplicates
+  const char* porFecha;
+  const char* formula;  // of the date
+  const char* porApellidos;
+  const char* progreso;
+  Row (*duplicada)();
+  const char* ano;  // of the entry in PartidasWorld
+
+  const FilasDocumento& filas() const { return *filasDocumento(sacramento); }
+  std::string miembro(const char* cual) const {
+    return std::string("Imprimir") + cual + sacramento.palabra;
+  }
+};
+
+inline const Registro REGISTROS[] = {
+    {BAUTISMO, &cInformes::ImprimirLibroBautismo, &cInformes::ImprimirLibroBautismoMenorca,
+     &cInformes::ImprimirIndiceLibroBautismo, "Duplicadas de bautismo", "Fecha de Bautismo",
+     "+{@FechaBautismo}", "Apellidos del bautizado", "Procesando vista preliminar ...",
+     duplicadaDeBautismo, "2003"},
+    {CONFIRMACION, &cInformes::ImprimirLibroConfirmacion,
+     &cInformes::ImprimirLibroConfirmacionMenorca, &cInformes::ImprimirIndiceLibroConfirmacion,
+     "Duplicadas de confirmación", "Fecha de Confirmación", "+{@FechaConfirmacion}",
+     "Apellidos del Confirmado", "Procesando vista preliminar ...", duplicadaDeConfirmacion,
+     "2019"},
+    {DEFUNCION, &cInformes::ImprimirLibroDefuncion, &cInformes::ImprimirLibroDefuncionMenorca,
+     &cInformes::ImprimirIndiceLibroDefuncion, "Duplicadas de defunción", "Fecha de Defunción",
+     "+{@FechaDefuncion}", "Apellidos del Difunto", "Procesando vista preliminar...",
+     duplicadaDeDefuncion, "2024"},
+};
+
+inline void PrintTo(const Registro& registro, std::ostream* out) {
+  *out << registro.sacramento.palabra;
+}
 
 struct Entrada {
   std::string apellido = "García";
@@ -16,39 +57,88 @@ struct Entrada {
   std::string fecha = "20030601";
 };
 
-struct LibroWorld : BautismoWorld {
-  /// The key of the new entry, which shares parents and marriage with the first one.
+/// The first entry of every register is Lucía García Pérez, of 24 May 2003, on 12/23a.
+struct LibroWorld : PartidasWorld {
+  explicit LibroWorld(const Registro& r) : registro(r) {
+    vaciarLibro();
+    agregar({"García", "Lucía", "12", "23a", 1, "20030524"});
+    en("UPDATE {Libros} SET Nombre=\"2003/01\"");
+  }
+
+  void en(const PlantillaSql& plantilla, const std::string& resto = "") {
+    run(sentencia(registro.sacramento, plantilla) + resto);
+  }
+  /// Where the register keeps the name.
+  const char* tablaPersona() const {
+    return &registro.sacramento == &BAUTISMO ? "Bautismo_Hijo" : registro.sacramento.tablaPartidas;
+  }
+  /// The key of the new entry; baptisms share their parents and their marriage.
   std::string agregar(const Entrada& e) {
-    run("INSERT INTO Bautismo (CodPadres, CodMadres, CodMatrimonio, CodLibro, Folio, Numero, "
-        "FechaBautismo) VALUES (1, 1, 1, " +
-        std::to_string(e.libro) + ", " + e.folio + ", \"" + e.numero + "\", \"" + e.fecha + "\")");
-    const std::string id = value("SELECT MAX(IDBautismo) AS ID FROM Bautismo");
-    run("INSERT INTO Bautismo_Hijo (CodBautismo, Nombre, PrimerApellido, SegundoApellido, Sexo) "
-        "VALUES (" +
-        id + ", \"" + e.nombre + "\", \"" + e.apellido + "\", \"Sanz\", \"Hombre\")");
+    const std::string posicion =
+        std::to_string(e.libro) + ", " + e.folio + ", \"" + e.numero + "\"";
+    const std::string persona = "\"" + e.nombre + "\", \"" + e.apellido + "\", \"Sanz\")";
+    const std::string fecha = ", \"" + e.fecha + "\")";
+    const auto ultima = [&] {
+      const Sacramento& s = registro.sacramento;
+      return value(sentencia(s, "SELECT MAX({IDPartida}) AS ID FROM {Partidas}"));
+    };
+    if (&registro.sacramento == &BAUTISMO) {
+      run("INSERT INTO Bautismo (CodPadres, CodMadres, CodMatrimonio, CodLibro, Folio, Numero, "
+          "FechaBautismo) VALUES (1, 1, 1, " +
+          posicion + fecha);
+      run("INSERT INTO Bautismo_Hijo (CodBautismo, Nombre, PrimerApellido, SegundoApellido) VALUES "
+          "(" +
+          ultima() + ", " + persona);
+      return ultima();
+    }
+    en("INSERT INTO {Partidas} (CodLibro, Folio, Numero, Nombre, PrimerApellido, "
+       "SegundoApellido) VALUES (",
+       posicion + ", " + persona);
+    const std::string id = ultima();
+    if (&registro.sacramento == &CONFIRMACION) {
+      run("INSERT INTO Confirmacion_Datos (CodConfirmacion, FechaConfirmacion) VALUES (" + id +
+          fecha);
+      run("INSERT INTO Confirmacion_Bautismo (CodConfirmacion) VALUES (" + id + ")");
+    } else {
+      run("INSERT INTO Defuncion_Datos (CodDifunto, FechaDefuncion) VALUES (" + id + fecha);
+    }
     return id;
   }
   /// The key of a further book.
   int libro(const std::string& nombre, const std::string& creacion, int institucionDelLibro = 1) {
-    run("INSERT INTO Libro_Bautismo (CodInstitucion, CodFormato, CodTipoNombre, Nombre, "
-        "FechaCreacion, Nuevo) VALUES (" +
-        std::to_string(institucionDelLibro) + ", 1, 1, \"" + nombre + "\", \"" + creacion +
-        "\", 0)");
-    return std::stoi(value("SELECT MAX(IDLibroBautismo) AS ID FROM Libro_Bautismo"));
+    en("INSERT INTO {Libros} (CodInstitucion, CodFormato, CodTipoNombre, Nombre, FechaCreacion, "
+       "Nuevo) VALUES (",
+       std::to_string(institucionDelLibro) + ", 1, 1, \"" + nombre + "\", \"" + creacion +
+           "\", 0)");
+    return std::stoi(
+        value(sentencia(registro.sacramento, "SELECT MAX({IDLibro}) AS ID FROM {Libros}")));
   }
-  /// The first entry goes, so that a test sees its own alone.
-  void vaciarLibro() { run("DELETE * FROM Bautismo"); }
+  void vaciarLibro() { en("DELETE * FROM {Partidas}"); }
 
-  void imprimirLibro() { informes.ImprimirLibroBautismo(con(), conInformes(), 1); }
-  void imprimirIndice() { informes.ImprimirIndiceLibroBautismo(con(), conInformes(), 1); }
+  void imprimir(SinFirma miembro) { (informes.*miembro)(con(), conInformes(), 1); }
+  std::int64_t filas() { return PartidasWorld::filas(registro.filas().tabla); }
   /// A column of all rows, in the order in which they were written.
   std::vector<std::string> columnas(const std::string& nombre) {
     std::vector<std::string> todas;
-    for (store::Recordset rs = conInformes().Execute("SELECT * FROM Documentos_Bautismo");
+    for (store::Recordset rs =
+             conInformes().Execute(std::string("SELECT * FROM ") + registro.filas().tabla);
          !rs.EOF_(); rs.MoveNext())
       todas.push_back(rs.text(nombre));
     return todas;
   }
+  std::vector<std::string> nombres() { return columnas(registro.filas().nombre); }
+
+  const Registro& registro;
 };
+
+/// A suite that each register goes through.
+class DeCadaRegistro : public ::testing::TestWithParam<Registro> {
+ protected:
+  LibroWorld w{GetParam()};
+};
+
+inline std::string nombreDelRegistro(const ::testing::TestParamInfo<Registro>& caso) {
+  return caso.param.sacramento.palabra;
+}
 
 }  // namespace fidaleon::tests
