@@ -7,8 +7,10 @@
 
 #include "catalogue/Documents.h"
 #include "core/contract/CcNodos.h"
+#include "core/statements/Sentencia.h"
 #include "parish/Desk.h"
 #include "parish/NewParish.h"
+#include "registers/common/FormaPartida.h"
 #include "registers/lookup/frmBuscaPadres.h"
 #include "registers/lookup/frmDetallePadres.h"
 #include "sample/SampleParish.h"
@@ -161,10 +163,12 @@ class EditionSitting {
   void documents() {
     for (const Documento& d : documentos()) {
       if (documento(*d.sacramento, d.orden, edition_.code) != &d) continue;
-      user_.pose = d.clase == ClaseDocumento::Duplicada ? chooseDuplicate() : acceptKeeper;
-      const auto report = makeReport(*desk_, d, sampleOf(d.clase));
+      const std::int32_t id = sampleOf(d);
+      if (id == 0) continue;
+      user_.pose = d.clase == ClaseDocumento::Duplicada ? chooseDuplicate(d) : acceptKeeper;
+      const auto report = makeReport(*desk_, d, id);
       user_.pose = {};
-      album_.add(documentName(d.orden), report);
+      album_.add("documento-" + std::string(edition_.name) + "-" + plainName(d.plantilla), report);
     }
   }
 
@@ -228,10 +232,6 @@ class EditionSitting {
     user_.take("detalle-padres", [&] { details.Show(); });
   }
 
-  std::string documentName(const std::string& command) const {
-    return "documento-" + edition_.name + "-" + command;
-  }
-
   std::int32_t one(const std::string& sql) {
     const auto rows = desk_->parish().Execute(sql);
     return rows.EOF_() ? 0 : static_cast<std::int32_t>(rows.Fields(0).Value().integer());
@@ -239,26 +239,38 @@ class EditionSitting {
   std::int32_t newest() {
     return one("SELECT MAX(IDBautismo) AS ID FROM Bautismo WHERE CodLibro<>0");
   }
-  std::string lastYear() {
-    return desk_->parish()
-        .Execute("SELECT FechaBautismo FROM Bautismo WHERE IDBautismo=" + std::to_string(newest()))
-        .text("FechaBautismo")
-        .substr(0, 4);
-  }
   std::int32_t request() {
     return one("SELECT MAX(IDBautismo) AS ID FROM Bautismo WHERE CodLibro=0");
   }
 
-  std::int32_t sampleOf(ClaseDocumento what) {
-    return what == ClaseDocumento::Solicitud ? request()
-           : what == ClaseDocumento::Libro   ? LAST_BOOK
-                                             : 1;
+  /// The key of what a document can be of here; 0 when there is none.
+  std::int32_t sampleOf(const Documento& d) {
+    const Sacramento& s = *d.sacramento;
+    switch (d.clase) {
+      case ClaseDocumento::Solicitud:
+        return one(sentencia(s, "SELECT MAX({IDPartida}) AS ID FROM {Partidas} WHERE CodLibro=0"));
+      case ClaseDocumento::Libro:
+        return one(sentencia(s, "SELECT MAX(CodLibro) AS ID FROM {Partidas}"));
+      case ClaseDocumento::SinLibro:
+        return 0;
+      default:
+        return one(sentencia(s, "SELECT MIN({IDPartida}) AS ID FROM {Partidas} WHERE CodLibro<>0"));
+    }
   }
-  std::function<void(forms::FormDriver&)> chooseDuplicate() {
-    return [year = lastYear()](forms::FormDriver& d) {
+  /// The last year that has entries.
+  std::string yearOf(const Sacramento& s) {
+    const FormaPartida& form = *formaPartida(s);
+    const std::string table = &s == &BAUTISMO ? s.tablaPartidas : s.palabra + std::string("_Datos");
+    const auto last =
+        desk_->parish().Execute(std::string("SELECT MAX(") + form.fecha + ") AS Dia FROM " + table +
+                                " WHERE " + form.fecha + "<\"3\"");
+    return last.text("Dia").substr(0, 4);
+  }
+  std::function<void(forms::FormDriver&)> chooseDuplicate(const Documento& document) {
+    return [year = yearOf(*document.sacramento)](forms::FormDriver& d) {
       d.chooseData("cboInstitucion", OWN);
       d.type("adtpAno", year);
-      d.choose("cboOrden", "Fecha de Bautismo");
+      d.get<forms::ComboBox>("cboOrden").setListIndex(0);
       d.click("cmdBoton(0)");
     };
   }

@@ -10,9 +10,11 @@
 #include "catalogue/BookHeader.h"
 #include "catalogue/Documents.h"
 #include "core/contract/CcNodos.h"
+#include "core/statements/Sentencia.h"
 #include "paper/ScratchTables.h"
 #include "parish/Insert.h"
 #include "parish/Parish.h"
+#include "registers/common/FormaPartida.h"
 #include "showroom/DemoScripts.h"
 #include "store/Engine.h"
 #include "window/LongRun.h"
@@ -44,20 +46,37 @@ class BookReports : public ParishTest {
     return count("SELECT COUNT(IDBautismo) FROM Bautismo WHERE CodLibro=2");
   }
   /// The rows of the scratch table that the marks fall on.
-  int marked(const Annulled& annulled) {
-    QStringList columns{"Libro",
-                        "Folio",
-                        "Numero",
-                        "InstitucionNombre",
-                        "NombreHijo",
-                        "PrimerApellidoHijo",
-                        "SegundoApellidoHijo"};
+  int marked(const Annulled& annulled, const Sacramento& sacrament = BAUTISMO) {
+    const QStringList columns = QStringList{"Libro", "Folio", "Numero"} + annulled.columns();
     paper::Printable printable({});
-    const paper::Rows rows(desk->reports(), "Documentos_Bautismo", columns, printable);
+    const paper::Rows rows(desk->reports(), filasDocumento(sacrament)->tabla, columns, printable);
     int n = 0;
     for (std::size_t i = 0; i < rows.size(); ++i)
       n += annulled.mark(paper::Row(rows, i)).isEmpty() ? 0 : 1;
     return n;
+  }
+  /// A book "VII" with three entries, two of them annulled; one shares its place with a valid one.
+  std::int32_t bookOf(const Sacramento& s) {
+    auto& con = desk->parish();
+    con.Execute(sentencia(s,
+                          "INSERT INTO {Libros} (CodInstitucion, CodFormato, CodTipoNombre, "
+                          "Nombre, FechaCreacion, Nuevo) VALUES (1, 1, 1, \"VII\", "
+                          "\"19500101\", 0)"));
+    const std::string book =
+        std::to_string(count(sentencia(s, "SELECT MAX({IDLibro}) FROM {Libros}")));
+    for (const char* entry : {"2, -1, \"Ana\"", "2, 0, \"Bea\"", "3, -1, \"Eva\""}) {
+      con.Execute(sentencia(s,
+                            "INSERT INTO {Partidas} (CodLibro, Numero, Folio, Anulada, Nombre, "
+                            "PrimerApellido, SegundoApellido) VALUES (") +
+                  book + ", \"1\", " + entry + ", \"Gil\", \"Sanz\")");
+      const std::string id =
+          std::to_string(count(sentencia(s, "SELECT MAX({IDPartida}) FROM {Partidas}")));
+      for (const FilaDePartida& row : formaPartida(s)->filas)
+        if (row.nombre)
+          con.Execute(std::string("INSERT INTO ") + row.tabla + " (" + row.clave + ") VALUES (" +
+                      id + ")");
+    }
+    return std::stoi(book);
   }
   void annul(const std::string& which) {
     desk->parish().Execute("UPDATE Bautismo SET Anulada=true WHERE " + which);
@@ -146,6 +165,21 @@ TEST_F(BookReports, onAPlaceHeldTwice_theNameOfTheChildDecides) {
       "Bautismo WHERE CodLibro=2 AND Folio=2 AND Anulada=false)");
   ASSERT_TRUE(make("libro"));
   EXPECT_EQ(marked(Annulled(desk->parish(), BAUTISMO, BOOK)), 1);
+}
+
+TEST_F(BookReports, ofTheOtherRegisters_areMarkedAndNamedAsThoseOfBaptism) {
+  for (const Sacramento* s : {&CONFIRMACION, &DEFUNCION}) {
+    const std::int32_t book = bookOf(*s);
+    for (const char* command : {"libro", "indice"}) {
+      const auto report = makeReport(*desk, *documento(*s, command, ""), book);
+      ASSERT_TRUE(report) << s->palabra;
+      EXPECT_EQ(report->rowCount(), 3u);
+      EXPECT_TRUE(report->title().endsWith(" - VII"));
+      EXPECT_EQ(marked(Annulled(desk->parish(), *s, book), *s), 2) << command;
+    }
+    EXPECT_EQ(bookHeader(desk->parish(), *s, book, false)["Poblacion"],
+              "Buitrago del Lozoya (Madrid)");
+  }
 }
 
 TEST_F(BookReports, duplicate_hasTheYearAndMarksItsAnnulledEntries) {
