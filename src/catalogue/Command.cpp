@@ -128,7 +128,7 @@ void addEntryCommands(std::vector<Command>& all) {
 
 void addRequestCommands(std::vector<Command>& all) {
   all.push_back(inToolbar("new", line("nueva-solicitud", "&Nueva solicitud…", "Ins",
-                                      "Recoge los datos de un bautismo que aún no está en un libro",
+                                      "Recoge los datos de quien aún no está inscrito en un libro",
                                       REQUESTS, Needs::Nothing, newRequest)));
   all.push_back(opening(
       inToolbar("edit", line("propiedades-solicitud", "&Propiedades…", "Return",

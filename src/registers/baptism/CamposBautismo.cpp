@@ -46,6 +46,7 @@ const V BAUTISMOS{
     .fechaDelLibro = V::FechaDelLibro::Adelanta,
     .dondeRepetida = V::DondeRepetida::EnTodas,
     .procBuscar = "BuscarPadres",
+    .procImportar = "CargarColeccionDatosImportar",
     .fijaInstitucionDeSolicitud = false,
     .cargaIncompleta =
         "¡A esta partida le falta alguna de sus fichas (bautizado, padre, madre o "

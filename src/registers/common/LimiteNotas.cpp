@@ -11,10 +11,6 @@ namespace {
 constexpr const char* FUENTE_NOTAS = "Verdana";
 constexpr double ANCHO_NOTAS = 1560;
 constexpr int LINEAS_NOTAS = 42;
-constexpr const char* MENSAJE_NOTAS =
-    "El campo de notas marginales ha sobrepasado el límite máximo \n"
-    "establecido para los documentos. Si continúa \n"
-    "introduciendo datos puede ser que algunos de los informes se impriman en varias hojas.";
 
 /// Calls `f` for each piece of the text between separators, empty ones too.
 template <class F>
@@ -59,7 +55,7 @@ void LimiteNotas::comprobar() {
   if (!MaximoLineas(ui_, notas_.text(), FUENTE_NOTAS, ANCHO_NOTAS, LINEAS_NOTAS)) return;
   avisado_ = true;
   longitudAvisada_ = longitud;
-  ui_.msgBox(MENSAJE_NOTAS, forms::MsgButtons::Ok, forms::MsgIcon::Information);
+  ui_.msgBox(aviso_, forms::MsgButtons::Ok, forms::MsgIcon::Information);
 }
 
 }  // namespace fidaleon

@@ -40,9 +40,11 @@ const V CONFIRMACIONES{
     .anularAntigua = true,
     .anularEdicion = false,
     .notasEnNueva = false,
+    .avisoNotas = AVISO_NOTAS_SEGUIDO,
     .fechaDelLibro = V::FechaDelLibro::AdelantaLaPrimera,
     .dondeRepetida = V::DondeRepetida::EnSuInstitucion,
     .procBuscar = "BuscarDatos",
+    .procImportar = "BuscarDatos",
     .fijaInstitucionDeSolicitud = true,
     .cargaIncompleta =
         "¡Se ha producido un error durante la carga de datos y no se han podido "
@@ -78,12 +80,12 @@ void frmPartidaConfirmacion::crearCampos() {
   using C = cConfirmacion;
   using Hoy = RevisionFechas::Hoy;
   const CampoTexto campos[] = {
-      {Nombre, "NOMBRE:", &C::Nombre, Clase::Nombre},
-      {PrimerApellido, "PRIMER APELLIDO:", &C::PrimerApellido, Clase::Nombre},
-      {SegundoApellido, "SEGUNDO APELLIDO:", &C::SegundoApellido, Clase::Nombre},
+      {Nombre, "NOMBRE:", &C::Nombre},
+      {PrimerApellido, "PRIMER APELLIDO:", &C::PrimerApellido},
+      {SegundoApellido, "SEGUNDO APELLIDO:", &C::SegundoApellido},
       {Parroquia, "PARROQUIA (LUGAR):", &C::Parroquia},
       {Diocesis, "DIÓCESIS:", &C::DiocesisParr},
-      {Ministro, "MINISTRO:", &C::MinistroPrinc, Clase::Nombre},
+      {Ministro, "MINISTRO:", &C::MinistroPrinc},
       {CargoMinistro, "CARGO DEL MINISTRO:", &C::CargoMinistro},
       {ParroquiaBaut, "PARROQUIA DE BAUTISMO:", &C::ParroquiaBaut},
       {DireccionBaut, "DIRECCION DE LA PARROQUIA:", &C::DireccionBaut},
@@ -93,9 +95,9 @@ void frmPartidaConfirmacion::crearCampos() {
       {Telefono, "TELÉFONO CONTACTO:", &C::TelefonoConfirmado},
       {Domicilio, "DIRECCION DE RESIDENCIA:", &C::Domicilio},
       {FeligresDe, "FELIGRESES DE LA PARROQUIA:", &C::FeligresDe},
-      {Padrino, "PADRINO (MADRINA):", &C::Padrino, Clase::Nombre},
-      {NombrePadre, "NOMBRE DEL PADRE:", &C::NombrePadre, Clase::Nombre},
-      {NombreMadre, "NOMBRE DE LA MADRE:", &C::NombreMadre, Clase::Nombre},
+      {Padrino, "PADRINO (MADRINA):", &C::Padrino},
+      {NombrePadre, "NOMBRE DEL PADRE:", &C::NombrePadre},
+      {NombreMadre, "NOMBRE DE LA MADRE:", &C::NombreMadre},
       {NotasMarginales, "NOTAS MARGINALES:", &C::NotasMarginales, Clase::Largo},
       {Observaciones, "OBSERVACIONES:", &C::Observaciones, Clase::Largo},
   };

@@ -75,7 +75,7 @@ bool frmPartida::preguntarPorVacios() {
                         : Operacion == cCOperacion::ANADIR  ? p.nueva
                         : Operacion == cCOperacion::ANTIGUA ? p.antigua
                                                             : p.edicion;
-  const bool todoBloqueado = !bloqueados_.empty();
+  const bool todoBloqueado = anulada_ && variante_.alAnular != VariantePartida::AlAnular::Posicion;
   if (cuales == Vacios::Callar || todoBloqueado || (p.unaVez && vaciosConsentidos_)) return true;
   if (!textosVacios() && (cuales == Vacios::Textos || !otrosVacios())) return true;
   return vaciosConsentidos_ = forms::ask(ui(), p.texto);

@@ -180,8 +180,8 @@ void frmPartida::mostrarLeida() {
 void frmPartida::mostrarAnulada() {
   lblPartidaAnulada.setVisible(anulada_);
   cmdPartida[ANULAR].setCaption(anulada_ ? "&Validar" : "A&nular");
-  if (Operacion == cCOperacion::EDITAR) abrirPosicion(!libroNuevo_ && !anulada_);
-  if (variante_.alAnular != VariantePartida::AlAnular::Posicion) bloquear(anulada_);
+  if (Operacion == cCOperacion::EDITAR) abrirPosicion(!libroNuevo_);
+  bloquear(anulada_);
 }
 
 /// What was locked for another reason stays so when the entry is valid again.
@@ -197,12 +197,15 @@ void frmPartida::bloquear(bool anulada) {
       control.Tag.clear();
     });
   };
+  const bool soloPosicion = variante_.alAnular == VariantePartida::AlAnular::Posicion;
+  if (!soloPosicion || Operacion == cCOperacion::EDITAR)
+    for (const CampoLibro campo : {FOLIO, NUMERO}) fijar(txtLibro[campo]);
+  if (soloPosicion) return;
   const bool quedanNotas = variante_.alAnular == VariantePartida::AlAnular::TodoMenosNotas;
   for (forms::TextBox* campo : textos_)
     if (campo != notas_ || !quedanNotas) fijar(*campo);
   for (forms::DateField* campo : fechas_) fijar(*campo);
   for (forms::TimeField* campo : horas_) fijar(*campo);
-  for (const CampoLibro campo : {FOLIO, NUMERO}) fijar(txtLibro[campo]);
   for (const auto& [indice, lista] : cboPartida.all()) fijar(*lista);
   for (forms::Button* boton :
        {&cmdAltaInstitucion, &cmdAltaLibro, &cmdAltaProvincia, &cmdAltaPoblacion}) {

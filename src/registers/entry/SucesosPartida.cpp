@@ -129,7 +129,7 @@ void frmPartida::BuscarDatos(std::size_t cual) {
   busqueda.strApellidos = apellidos.apellidos();
   busqueda.Show();
   if (busqueda.blnAceptado)
-    procedimiento("CargarColeccionDatosImportar", [&] { importar(cual, busqueda); });
+    procedimiento(variante_.procImportar, [&] { importar(cual, busqueda); });
 }
 
 void frmPartida::altaLibro() {

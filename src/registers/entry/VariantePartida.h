@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "core/contract/Sacramento.h"
+#include "registers/common/LimiteNotas.h"
 
 namespace fidaleon {
 
@@ -14,7 +15,7 @@ struct VariantePartida {
   /// Places of the two lists among those of the dialog.
   int listaInstitucion;
   int listaLibro;
-  /// Without the position.
+  /// Without the position, which follows as soon as there is one.
   struct Titulos {
     const char* nueva;
     const char* antigua;
@@ -22,6 +23,7 @@ struct VariantePartida {
     const char* deAntigua;
     const char* solicitud;
     const char* deSolicitud;
+    bool siempreConPosicion = false;  // also before a book is chosen
   } titulos;
   const char* tituloNumero;  // between folio and number
   const char* institucion;   // as the messages spell it
@@ -44,6 +46,7 @@ struct VariantePartida {
   bool anularAntigua;  // the button is there for an old entry being added
   bool anularEdicion;  // and for one being corrected
   bool notasEnNueva;   // a new entry of a new book has marginal notes
+  const char* avisoNotas = AVISO_NOTAS;
   /// A folio typed for an old book may not pass the limit either.
   bool limiteAlTeclear = false;
 
@@ -56,7 +59,9 @@ struct VariantePartida {
   enum class DondeRepetida { EnTodas, EnSuInstitucion };
   DondeRepetida dondeRepetida;
 
-  const char* procBuscar;  // under which an error in the look-up is reported
+  // Under which errors in the look-up are reported.
+  const char* procBuscar;
+  const char* procImportar;
 
   bool fijaInstitucionDeSolicitud;  // of a request being corrected
   /// Shown when rows of the entry are missing.

@@ -90,7 +90,7 @@ ParProvinciaPoblacion& frmPartida::crearMunicipio(int provincia, const char* eti
 void frmPartida::ponerNotas(int indice) {
   notas_ = &txtPartida[indice];
   notas_->setLines(LINEAS_NOTAS);
-  limiteNotas_.emplace(ui(), *notas_);
+  limiteNotas_.emplace(ui(), *notas_, variante_.avisoNotas);
 }
 
 void frmPartida::disponer(forms::Nodes paginas) {
@@ -128,7 +128,8 @@ const char* frmPartida::titulo() const {
 
 void frmPartida::refrescarTitulo() {
   const std::string folio = txtLibro[FOLIO].text();
-  const bool conPosicion = Operacion != cCOperacion::ANADIR || !folio.empty();
+  const bool conPosicion =
+      Operacion != cCOperacion::ANADIR || !folio.empty() || variante_.titulos.siempreConPosicion;
   std::string caption = titulo();
   if (!esSolicitud() && conPosicion)
     caption += ". Folio:" + folio + variante_.tituloNumero + txtLibro[NUMERO].text();

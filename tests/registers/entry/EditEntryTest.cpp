@@ -127,11 +127,20 @@ TEST_P(EditedEntry, Annulled_IsLockedAsItsRegisterSaysAndKeepsItsMark) {
   EXPECT_EQ(entries("Anulada=true"), 1);
   EXPECT_EQ(entries("NotasMarginales=\"Por error de folio\""), k.notesStayOpen ? 1 : 0);
   if (!k.annulsEdit) return;
+  forms::Contents typed;
   open(
       cCOperacion::EDITAR,
       [&](FormDriver& d) {
         d.click(button(2));
         d.type("txtLibro(1)", "7");
+        typed = forms::Contents::of(d.form());
+        cancel(d);
+      },
+      id);
+  open(
+      cCOperacion::EDITAR,
+      [&](FormDriver& d) {
+        putBack(d, typed);
         accept(d);
       },
       id);

@@ -35,6 +35,7 @@ struct EntryKind {
   const char* editCaption;
   const char* requestCaption;
   const char* position;               // the first one in a caption
+  const char* noPosition = "";        // in that of a new one, before there is a book
   const char* blanks;                 // question
   bool asksOld, asksOther, asksOnce;  // it, of blank texts; it is always asked of new entries
   bool annulsOld, annulsEdit;
@@ -135,6 +136,7 @@ inline const EntryKind DEATH_ENTRY{.s = DEFUNCION,
                                    .oldCaption = "Alta de partida de defunción antigua",
                                    .editCaption = "Propiedades de partida de defunción ",
                                    .position = ". Folio:1, número:1",
+                                   .noPosition = ". Folio:, número:",
                                    .blanks = OfDeath::blanks,
                                    .asksOld = true,
                                    .asksOther = true,
@@ -214,6 +216,12 @@ class EntryWorld : public ::testing::TestWithParam<const EntryKind*> {
   void acceptEdit(FormDriver& d) {
     if (k.asksOther) w.user.expectMessage(k.blanks, Answer::Yes);
     accept(d);
+  }
+
+  /// As a draft does it.
+  static void putBack(FormDriver& d, const forms::Contents& typed) {
+    EXPECT_THAT(forms::putBack(d.form(), typed.fields), ::testing::IsEmpty());
+    EXPECT_EQ(d.form().putBackOwnWork(typed.own), "");
   }
 
   std::int64_t entries(const std::string& condition = "") {
