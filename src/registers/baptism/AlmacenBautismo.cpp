@@ -39,7 +39,16 @@ std::string sqlLista(std::int32_t libro) {
 }
 
 std::string sqlEntera(std::int32_t /*libro*/, std::int32_t id) {
-  return sqlPartidaBautismo(id);
+  return "SELECT Bautismo.IDBautismo, " + sqlAlias(TABLA_BAUTISMO, "Bautismo") + ", " +
+         sqlAlias(TABLA_HIJO, "Bautismo_Hijo") + ", " + sqlAlias(TABLA_PADRES, "Bautismo_Padres") +
+         ", " + sqlAlias(TABLA_MADRES, "Bautismo_Madres") + ", " +
+         sqlAlias(TABLA_MATRIMONIO, "Bautismo_Matrimonio") +
+         " FROM Bautismo, Bautismo_Hijo, Bautismo_Madres, Bautismo_Padres, Bautismo_Matrimonio"
+         " WHERE IDBautismo=" +
+         std::to_string(id) +
+         " AND idBautismo=codBautismo AND Bautismo_Madres.IDMadres=Bautismo.CodMadres"
+         " AND Bautismo_Padres.IDPadres=Bautismo.CodPadres"
+         " AND Bautismo_Matrimonio.IDMatrimonio=Bautismo.CodMatrimonio";
 }
 
 /// The rows it points at are found by the keys that the entry itself holds.
@@ -132,23 +141,6 @@ const DescripcionAlmacen<cBautismo> ALMACEN_BAUTISMO{
     .actualizarCompartidas = actualizarCompartidas,
     .alLeer = alLeer,
 };
-
-std::string sqlPartidaBautismo(std::int32_t id) {
-  return "SELECT Bautismo.IDBautismo, " + sqlAlias(TABLA_BAUTISMO, "Bautismo") + ", " +
-         sqlAlias(TABLA_HIJO, "Bautismo_Hijo") + ", " + sqlAlias(TABLA_PADRES, "Bautismo_Padres") +
-         ", " + sqlAlias(TABLA_MADRES, "Bautismo_Madres") + ", " +
-         sqlAlias(TABLA_MATRIMONIO, "Bautismo_Matrimonio") +
-         " FROM Bautismo, Bautismo_Hijo, Bautismo_Madres, Bautismo_Padres, Bautismo_Matrimonio"
-         " WHERE IDBautismo=" +
-         std::to_string(id) +
-         " AND idBautismo=codBautismo AND Bautismo_Madres.IDMadres=Bautismo.CodMadres"
-         " AND Bautismo_Padres.IDPadres=Bautismo.CodPadres"
-         " AND Bautismo_Matrimonio.IDMatrimonio=Bautismo.CodMatrimonio";
-}
-
-void copiarPartidaBautismo(const store::Recordset& fila, cBautismo& record) {
-  ALMACEN_BAUTISMO.copiar(fila, record);
-}
 
 template class Almacen<cBautismo>;
 

@@ -21,9 +21,4 @@ extern const Tabla<cBautismo> TABLA_BAUTISMO;
 extern const Tabla<cBautismo> TABLA_BAUTISMO_AL_ACTUALIZAR;
 extern const Tabla<cBautismo> TABLA_HIJO;
 
-/// All columns of entry `id`, the child and the parents, under the names of the properties.
-std::string sqlPartidaBautismo(std::int32_t id);
-/// Copies the current row of that statement into the record, keys included.
-void copiarPartidaBautismo(const store::Recordset& fila, cBautismo& record);
-
 }  // namespace fidaleon

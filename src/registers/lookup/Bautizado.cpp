@@ -3,16 +3,16 @@
 #include <stdexcept>
 
 #include "core/contract/NombreYApellidos.h"
-#include "registers/baptism/TablasBautismo.h"
+#include "registers/baptism/AlmacenBautismo.h"
 #include "registers/common/Guiones.h"
 
 namespace fidaleon {
 
 Bautizado leerBautizado(FDAPI::Conexion& conexion, std::int32_t id) {
-  const store::Recordset fila = conexion.Execute(sqlPartidaBautismo(id));
+  const store::Recordset fila = conexion.Execute(ALMACEN_BAUTISMO.sqlEntera(0, id));
   if (fila.EOF_()) throw std::runtime_error("Los datos de esta partida ya no existen.");
   Bautizado b;
-  copiarPartidaBautismo(fila, b);
+  ALMACEN_BAUTISMO.copiar(fila, b);
   b.PadreEntero =
       oGuiones(nombreYApellidos({b.NombrePadres, b.PrimerApellidoPadres, b.SegundoApellidoPadres}));
   b.MadreEntera =

@@ -440,6 +440,28 @@ TEST_P(BookEntries, TypedPosition_IsCheckedAgainstTheWorkingCopy) {
   EXPECT_SCRIPT_DONE(w.user);
 }
 
+TEST_P(BookEntries, WorkNotStored_ComesBackFromItsDraft) {
+  fill(nuevo, {"Luis", "Eva"});
+  std::string work;
+  openBook(nuevo, [&](FormDriver& d) {
+    toEntries(d);
+    rename(d, 1, "Luis", "Lucas");
+    add(d, "Ana");
+    work = d.form().ownWork();
+    w.user.expectMessage(LOSE_CHANGES, Answer::Yes);
+    cancelBook(d);
+  });
+  for (const bool changedMeanwhile : {false, true}) {
+    openBook(nuevo, [&](FormDriver& d) {
+      const std::string left = d.form().putBackOwnWork(work);
+      EXPECT_EQ(left.empty(), !changedMeanwhile) << left;
+      changedMeanwhile ? cancelBook(d) : acceptBook(d);
+    });
+    EXPECT_THAT(stored(nuevo), ElementsAre("1/1 Lucas", "2/2 Eva", "3/3 Ana"));
+  }
+  EXPECT_SCRIPT_DONE(w.user);
+}
+
 INSTANTIATE_TEST_SUITE_P(Registers, BookEntries, ::testing::ValuesIn(registers()), nameOfRegister);
 
 }  // namespace fidaleon::tests
