@@ -1,7 +1,7 @@
 #include "catalogue/CensusCommands.h"
 
 #include "catalogue/CommandParts.h"
-#include "catalogue/Documents.h"
+#include "catalogue/ListReports.h"
 #include "census/common/Eliminacion.h"
 
 namespace fidaleon::app {

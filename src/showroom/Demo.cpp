@@ -1,9 +1,9 @@
 #include "showroom/Demo.h"
 
-#include "catalogue/Documents.h"
 #include "core/contract/CcNodos.h"
 #include "core/contract/FDAPI.h"
 #include "parish/NewParish.h"
+#include "printing/DocumentReport.h"
 #include "showroom/DemoPeople.h"
 #include "showroom/DemoScripts.h"
 #include "showroom/DemoWalk.h"

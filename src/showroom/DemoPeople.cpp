@@ -1,6 +1,5 @@
 #include "showroom/DemoPeople.h"
 
-#include "catalogue/Documents.h"
 #include "census/activities/frmActividad.h"
 #include "census/activities/frmActividadGrupos.h"
 #include "census/activities/frmCargo.h"
@@ -9,6 +8,7 @@
 #include "census/persons/frmPadron.h"
 #include "census/search/frmPadronBusqueda.h"
 #include "documents/frmInfActividad.h"
+#include "printing/DocumentReport.h"
 #include "showroom/DemoWalk.h"
 #include "support/frmTarea.h"
 

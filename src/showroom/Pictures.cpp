@@ -5,11 +5,11 @@
 #include <QTemporaryDir>
 #include <array>
 
-#include "catalogue/Documents.h"
 #include "core/contract/CcNodos.h"
 #include "core/statements/Sentencia.h"
 #include "parish/Desk.h"
 #include "parish/NewParish.h"
+#include "printing/DocumentReport.h"
 #include "registers/common/FormaPartida.h"
 #include "registers/lookup/frmBuscaPadres.h"
 #include "registers/lookup/frmDetallePadres.h"

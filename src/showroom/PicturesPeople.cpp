@@ -1,6 +1,5 @@
 #include "showroom/PicturesPeople.h"
 
-#include "catalogue/Documents.h"
 #include "census/activities/frmActividad.h"
 #include "census/activities/frmActividadGrupos.h"
 #include "census/activities/frmCargo.h"
@@ -13,6 +12,7 @@
 #include "census/search/frmPadronImportar.h"
 #include "census/search/frmPadronNotas.h"
 #include "documents/frmInfActividad.h"
+#include "printing/DocumentReport.h"
 #include "support/frmTarea.h"
 
 namespace fidaleon::app {

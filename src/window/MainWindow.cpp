@@ -19,9 +19,9 @@
 #include <algorithm>
 #include <chrono>
 
-#include "catalogue/Documents.h"
 #include "core/statements/Sentencia.h"
 #include "parish/WindowSettings.h"
+#include "printing/DocumentReport.h"
 #include "qt/Appearance.h"
 #include "window/PreviewDialog.h"
 #include "window/TreeModel.h"

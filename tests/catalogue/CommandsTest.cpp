@@ -4,10 +4,10 @@
 #include <set>
 #include <utility>
 
-#include "app/CommandLine.h"
 #include "catalogue/Command.h"
-#include "catalogue/Documents.h"
+#include "catalogue/ListReports.h"
 #include "core/contract/FDAPI.h"
+#include "core/facade/Documentos.h"
 #include "text/Utf8.h"
 
 namespace fidaleon::app {
@@ -145,26 +145,6 @@ TEST(Documents, anEntryIsOfferedThoseOfItsSacrament_inTheEditionOfTheParish) {
                "InformeSolicitudPartidaBautismoDatosSantiago");
   EXPECT_STREQ(documento(BAUTISMO, "volante", E::APP_FIDALEON_ZARAGOZA)->operacion,
                "InformeVolanteBautismo");
-}
-
-TEST(CommandLine, understandsItsOptions) {
-  using Task = CommandLine::Task;
-  EXPECT_EQ(CommandLine::parse({}).task, Task::Desktop);
-  EXPECT_EQ(CommandLine::parse({"--datos", "/a b"}).directory, "/a b");
-  EXPECT_EQ(CommandLine::parse({"--demo=/x"}).task, Task::Demo);
-  EXPECT_EQ(CommandLine::parse({"--demo=/x"}).directory, "/x");
-  EXPECT_EQ(CommandLine::parse({"--pictures", "/x"}).task, Task::Pictures);
-  EXPECT_EQ(CommandLine::parse({"--help"}).task, Task::Help);
-}
-
-TEST(CommandLine, saysWhatIsWrong) {
-  using Task = CommandLine::Task;
-  EXPECT_EQ(CommandLine::parse({"--deom", "x"}).complaint, "Opción desconocida: --deom");
-  EXPECT_EQ(CommandLine::parse({"suelto"}).task, Task::Wrong);
-  EXPECT_EQ(CommandLine::parse({"--demo"}).complaint, "La opción --demo necesita una carpeta.");
-  EXPECT_EQ(CommandLine::parse({"--demo="}).task, Task::Wrong);
-  EXPECT_EQ(CommandLine::parse({"--demo", "a", "--datos", "b"}).task, Task::Wrong);
-  EXPECT_EQ(CommandLine::parse({"--datos", "Bu\xF1uel"}).task, Task::Wrong);
 }
 
 }  // namespace

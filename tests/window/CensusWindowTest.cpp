@@ -1,8 +1,8 @@
 #include <QMenuBar>
 
-#include "catalogue/Documents.h"
-#include "catalogue/ReportProgress.h"
 #include "parish/Insert.h"
+#include "printing/DocumentReport.h"
+#include "printing/ReportProgress.h"
 #include "window/OpenWindow.h"
 
 namespace fidaleon::app {

@@ -10,7 +10,7 @@
 #include <QWindow>
 #include <sstream>
 
-#include "catalogue/Documents.h"
+#include "printing/DocumentReport.h"
 #include "showroom/Demo.h"
 #include "window/FirstRunWizard.h"
 #include "window/OpenWindow.h"

@@ -6,14 +6,14 @@
 #include <QProgressDialog>
 #include <QTest>
 
-#include "catalogue/Annulled.h"
-#include "catalogue/BookHeader.h"
-#include "catalogue/Documents.h"
 #include "core/contract/CcNodos.h"
 #include "core/statements/Sentencia.h"
 #include "paper/ScratchTables.h"
 #include "parish/Insert.h"
 #include "parish/Parish.h"
+#include "printing/Annulled.h"
+#include "printing/BookHeader.h"
+#include "printing/DocumentReport.h"
 #include "registers/common/FormaPartida.h"
 #include "showroom/DemoScripts.h"
 #include "store/Engine.h"

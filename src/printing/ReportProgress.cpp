@@ -1,4 +1,4 @@
-#include "catalogue/ReportProgress.h"
+#include "printing/ReportProgress.h"
 
 namespace fidaleon::app {
 

@@ -1,4 +1,4 @@
-#include "catalogue/BookHeader.h"
+#include "printing/BookHeader.h"
 
 #include <algorithm>
 #include <array>

@@ -1,15 +1,15 @@
-#include "catalogue/Documents.h"
+#include "printing/DocumentReport.h"
 
 #include <memory>
 
-#include "catalogue/Annulled.h"
-#include "catalogue/BookHeader.h"
-#include "catalogue/ReportProgress.h"
-#include "catalogue/Templates.h"
 #include "core/contract/CcNodos.h"
 #include "core/statements/Sentencia.h"
 #include "paper/ScratchTables.h"
 #include "parish/Desk.h"
+#include "printing/Annulled.h"
+#include "printing/BookHeader.h"
+#include "printing/ReportProgress.h"
+#include "printing/Templates.h"
 #include "text/Dates.h"
 #include "text/Utf8.h"
 
@@ -167,28 +167,6 @@ std::optional<paper::Report> makeReport(Desk& desk, const Documento& document, s
   const std::string subject = subjectOf(desk.reports(), document);
   const std::string title = document.titulo + (subject.empty() ? "" : " - " + subject);
   return layOut(desk, document.plantilla, title, std::move(options));
-}
-
-const std::vector<ListReport>& listReports() {
-  const auto node = [](const char* title) { return CcNodos::INFORMES + std::string(title); };
-  static const std::vector<ListReport> all{
-      {node(CcNodos::INFACTIVIDADES), CcNodos::ACTIVIDAD, "informe_actividades",
-       "Informe de actividades", &cNucleo::SelInfActividad, &cNucleo::InformeActividad},
-      {node(CcNodos::INFCOLABORADORES), CcNodos::COLABORADOR, "informe_colaboradores",
-       "Informe de colaboradores", &cNucleo::SelInfColaborador, &cNucleo::InformeColaborador},
-      {node(CcNodos::INFCOLABORADORESEXTENDIDO), "", "informe_colaboradores_ext",
-       "Informe de colaboradores (extendido)", &cNucleo::SelInfColaboradorExt,
-       &cNucleo::InformeColaboradorExt},
-      {node(CcNodos::INFAGENDA), "Tareas", "informe_agenda", "Informe de tareas",
-       &cNucleo::SelInfTareasAgenda, &cNucleo::InformeAgenda},
-  };
-  return all;
-}
-
-const ListReport* findListReport(const std::string& node) {
-  for (const ListReport& r : listReports())
-    if (r.node == node || r.list == node) return &r;
-  return nullptr;
 }
 
 std::optional<paper::Report> makeListReport(Desk& desk, const ListReport& report, Extent extent,

@@ -1,4 +1,4 @@
-#include "catalogue/Annulled.h"
+#include "printing/Annulled.h"
 
 #include <algorithm>
 

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "catalogue/ListReports.h"
 #include "catalogue/Workplace.h"
 #include "core/facade/Documentos.h"
 #include "paper/Report.h"
@@ -25,22 +26,6 @@ std::string subjectOf(store::Connection& reports, const Documento& document);
 /// `options` asks for. Throws paper::Error and store::Error.
 std::optional<paper::Report> makeReport(Desk& desk, const Documento& document, std::int32_t id,
                                         paper::ReportOptions options = {});
-
-/// A report on the people or tasks of the parish. It stands under a node of its own, and can be
-/// asked for from the list whose rows it prints.
-struct ListReport {
-  std::string node;
-  std::string list;  // empty when another report is the one of that list
-  std::string templateName;
-  const char* title;
-  void (cNucleo::*chosen)(FDAPI::Conexion& parish, FDAPI::Conexion& reports) = nullptr;
-  void (cNucleo::*entire)(FDAPI::Conexion& parish, FDAPI::Conexion& reports,
-                          FDAPI::cProgreso& progress) = nullptr;
-};
-
-const std::vector<ListReport>& listReports();
-/// By the node of the report or that of the list; null when there is none.
-const ListReport* findListReport(const std::string& node);
 
 /// Runs the operation and lays out what it wrote. Nothing when the user
 /// gave up, or when there is nothing to print, which the user has then been told. Throws as

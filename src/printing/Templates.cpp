@@ -1,4 +1,4 @@
-#include "catalogue/Templates.h"
+#include "printing/Templates.h"
 
 #include <QCoreApplication>
 
