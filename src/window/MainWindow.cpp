@@ -366,8 +366,11 @@ void MainWindow::restoreWindow() {
   if (geometry.empty() || !restoreGeometry(QByteArray::fromBase64(geometry.c_str())))
     resize(1180, 680);
   const std::string splitter = read("division");
+  // Every node can be read without drawing the tree wider.
+  tree_->resizeColumnToContents(0);
+  const int treeWidth = tree_->columnWidth(0) + 2 * tree_->frameWidth();
   if (splitter.empty() || !splitter_->restoreState(QByteArray::fromBase64(splitter.c_str())))
-    splitter_->setSizes({230, 950});
+    splitter_->setSizes({treeWidth, 1180 - treeWidth});
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
