@@ -70,6 +70,36 @@ class Engine : public ::testing::Test {
   std::unique_ptr<store::Connection> reports_ = store::memoryDatabase(store::reportsSchema());
 };
 
+TEST_F(Engine, sideTables_giveEachRowItsOwn_byKeyAndByKind) {
+  const std::string link =
+      "key='CodDocumentos_Matrimonio' of='IDDocumentos_Matrimonio' table='Documentos_Matrimonio_";
+  for (const char* place : {"A", "B", "C"})
+    insert(*reports_, {{"ParroquiaResidenciaNovio", place}}, "Documentos_Matrimonio");
+  for (const char* key : {"2", "1"})
+    insert(*reports_,
+           {{"CodDocumentos_Matrimonio", key},
+            {"NombreNovio", std::string("Luis") + key},
+            {"ParroquiaResidenciaNovio", std::string("San Gil") + key}},
+           "Documentos_Matrimonio_Novios");
+  for (const char* who : {"1", "2"})
+    insert(*reports_,
+           {{"CodDocumentos_Matrimonio", "2"},
+            {"Cod_Tipo_Persona", who},
+            {"5", std::string("sí") + who}},
+           "Documentos_Matrimonio_Cursos");
+  const std::string text = pdfText(
+      small("<template table='Documentos_Matrimonio' flow='continuous'><side name='novio' " + link +
+            "Novios'/><side name='curso' where='Cod_Tipo_Persona' is='2' " + link +
+            "Cursos'/><body><p>[{{ParroquiaResidenciaNovio}} {{novio.NombreNovio|else=-}} "
+            "{{novio.ParroquiaResidenciaNovio|else=-}} {{curso.5|else=-}}]</p></body>"
+            "</template>"));
+  EXPECT_THAT(text, HasSubstr("[A Luis1 San Gil1 -] [B Luis2 San Gil2 sí2] [C - - -]"));
+  messageOf(
+      "<template table='Documentos_Bautismo'><side name='x' table='y'/>"
+      "<body><p>a</p></body></template>",
+      ErrorKind::BrokenTemplate);
+}
+
 TEST_F(Engine, emptyTable_hasNoPages) {
   EXPECT_EQ(small(kSmall).pageCount(), 0);
 }
