@@ -3,6 +3,7 @@
 #include "core/dialogs/Guard.h"
 #include "core/statements/Citas.h"
 #include "core/statements/NombreRepetido.h"
+#include "core/statements/Sentencia.h"
 #include "text/Names.h"
 #include "text/Utf8.h"
 
@@ -13,15 +14,15 @@ namespace {
 constexpr const char* TABLA_ENCARGADOS = "Institucion_Encargado";
 constexpr std::size_t MAXIMO_ENCARGADO = 120;
 
-/// The institution whose book holds the entry. The key of a death is the only one that does not
-/// bear the name of its table.
-std::string sentenciaInstitucion(const std::string& sacramento, std::int32_t id) {
-  const std::string clave = sacramento == "Defuncion" ? "IDDifunto" : "ID" + sacramento;
-  const std::string libro =
-      "SELECT CodLibro FROM " + sacramento + " WHERE " + clave + " = " + std::to_string(id);
-  return "SELECT IDInstitucion, Nombre FROM Institucion WHERE IDInstitucion IN (SELECT "
-         "CodInstitucion FROM Libro_" +
-         sacramento + " WHERE IDLibro" + sacramento + " IN (" + libro + "))";
+/// The institution whose book holds the entry.
+std::string sentenciaInstitucion(const std::string& palabra, std::int32_t id) {
+  const Sacramento* sacramento = sacramentoDeNodo(palabra, "");
+  if (!sacramento) throw std::invalid_argument("Sacramento desconocido: " + palabra);
+  return sentencia(*sacramento,
+                   "SELECT IDInstitucion, Nombre FROM Institucion WHERE IDInstitucion IN (SELECT "
+                   "CodInstitucion FROM {Libros} WHERE {IDLibro} IN (SELECT CodLibro FROM "
+                   "{Partidas} WHERE {IDPartida} = ") +
+         std::to_string(id) + "))";
 }
 
 }  // namespace

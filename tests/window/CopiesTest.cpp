@@ -331,8 +331,8 @@ TEST_F(CopiesWindow, IncompleteEntries_AreToldOfAndRemovedBehindACopy) {
   const std::int64_t all = count("SELECT COUNT(*) FROM Bautismo");
   desk->parish().Execute("DELETE * FROM Bautismo_Hijo WHERE CodBautismo=1");
   user.expectMessage(
-      "Hay una partida a la que le falta alguna de sus fichas: no aparece en ninguna lista. ¿Desea "
-      "verla ahora?",
+      "Hay una partida a la que le falta alguna de sus fichas: puede que no aparezca en las "
+      "listas. ¿Desea verla ahora?",
       forms::Answer::Yes);
   user.expectForm("frmPartidasIncompletas", [&](forms::FormDriver& d) {
     user.expectMessage("¿Está seguro que desea eliminar la partida?", forms::Answer::Yes);

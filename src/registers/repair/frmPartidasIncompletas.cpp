@@ -43,7 +43,7 @@ frmPartidasIncompletas::frmPartidasIncompletas(Contexto& contexto)
       lblExplicacion(
           *this, "lblExplicacion",
           "A estas partidas les falta alguna de sus fichas: ocupan su folio y su número, "
-          "pero no aparecen en ninguna lista.\n"
+          "pero puede que no aparezcan en las listas.\n"
           "«Completar» les da las que faltan, en blanco, y abre la partida para "
           "rellenarlas. «Eliminar» la quita del libro."),
       msgPartidas(*this, "msgPartidas"),
