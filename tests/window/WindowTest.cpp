@@ -224,8 +224,8 @@ TEST_F(ParishTest, Wizard_GivesBackWhatItWasOfferedAndOpensAParishThatIsThere) {
 TEST_F(ParishTest, Demo_WalksTheWholeRoad) {
   std::ostringstream out;
   EXPECT_TRUE(runDemo(directory() / "demo", out)) << out.str();
-  for (const char* file : {"demo.log", "certificado.pdf", "literal.pdf", "volante.pdf", "libro.pdf",
-                           "indice.pdf", "duplicado.pdf"})
+  for (const char* file : {"demo.log", "certificado-bautismo.pdf", "libro-confirmacion.pdf",
+                           "notificacion-sin-libro.pdf", "duplicado-defuncion.pdf"})
     EXPECT_TRUE(std::filesystem::exists(directory() / "demo" / file)) << file;
   EXPECT_TRUE(runDemo(directory() / "demo", out)) << "a second time: " << out.str();
 }
