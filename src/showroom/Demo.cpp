@@ -1,9 +1,7 @@
 #include "showroom/Demo.h"
 
-#include "core/contract/CcNodos.h"
 #include "core/contract/FDAPI.h"
 #include "parish/NewParish.h"
-#include "printing/DocumentReport.h"
 #include "showroom/DemoPeople.h"
 #include "showroom/DemoRegister.h"
 #include "showroom/DemoScripts.h"

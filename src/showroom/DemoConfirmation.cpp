@@ -1,4 +1,4 @@
-#include "catalogue/Documents.h"
+#include "printing/DocumentReport.h"
 #include "documents/frmInfNotConf.h"
 #include "documents/frmInfNotConfDatos.h"
 #include "registers/confirmation/frmPartidaConfirmacion.h"

@@ -26,6 +26,9 @@ struct Deceased {
   const char* age;
   const char* death;   // "dd/mm/yyyy"
   const char* burial;  // the same
+  // Unknown until the look-up brings them.
+  const char* father = nullptr;
+  const char* mother = nullptr;
 };
 
 // The parish, its priest and its town are proposed.
@@ -42,11 +45,12 @@ DemoPerson person(const Deceased& d, bool found = false) {
                      {P::EstadoCivil, d.state},
                      {P::Consorte, d.spouse},
                      {P::DomicilioActual, "C/ del Castillo, 7"},
-                     {P::Causa, "Enfermedad"}});
+                     {P::Causa, "insuficiencia cardiaca"}});
             e.date(P::FechaDefuncion, d.death);
             e.dialog().type("txtHoraDefuncion", "06:45");
             e.text(P::DomicilioDefn, "C/ del Castillo, 7");
             e.tab(P::TAB_FAMILIA);
+            if (d.father) e.texts({{P::NombrePadre, d.father}, {P::NombreMadre, d.mother}});
             e.texts({{P::Edad, d.age},
                      {P::Sacramentos, "Penitencia, Unción de los enfermos y Viático"}});
           },
@@ -80,12 +84,13 @@ class Deaths {
   }
 
   const DemoPerson first_ = person(
-      {"Fermín", "Aldana", "Cobos", "Viudo", "Carmen Gil Soto", "93", "11/02/2025", "12/02/2025"},
+      {"Fermín", "Aldana", "Cobos", "viudo", "Carmen Gil Soto", "93", "11/02/2025", "12/02/2025"},
       true);
   const std::vector<DemoPerson> listed_{
-      person({"Amparo", "Yuste", "Bermejo", "Casada", "Tomás Heras Ruiz", "88", "04/10/2025",
-              "05/10/2025"}),
-      person({"Basilio", "Nieto", "Calvo", "Soltero", "---", "79", "20/10/2025", "21/10/2025"})};
+      person({"Amparo", "Yuste", "Bermejo", "casada", "Tomás Heras Ruiz", "88", "04/10/2025",
+              "05/10/2025", "Justo Yuste Mora", "Pilar Bermejo Díaz"}),
+      person({"Basilio", "Nieto", "Calvo", "soltero", "---", "79", "20/10/2025", "21/10/2025",
+              "Blas Nieto Roca", "Inés Calvo Gil"})};
   DemoWalk& w_;
   DemoRegisterWalk r_;
 };

@@ -1,6 +1,6 @@
 #include "showroom/DemoRegister.h"
 
-#include "catalogue/Documents.h"
+#include "printing/DocumentReport.h"
 #include "core/statements/Citas.h"
 #include "core/statements/Sentencia.h"
 #include "registers/common/FormaPartida.h"
