@@ -1,6 +1,6 @@
-#include "printing/DocumentReport.h"
 #include "documents/frmInfNotConf.h"
 #include "documents/frmInfNotConfDatos.h"
+#include "printing/DocumentReport.h"
 #include "registers/confirmation/frmPartidaConfirmacion.h"
 #include "showroom/DemoRegister.h"
 

@@ -1,8 +1,8 @@
 #include "showroom/DemoRegister.h"
 
-#include "printing/DocumentReport.h"
 #include "core/statements/Citas.h"
 #include "core/statements/Sentencia.h"
+#include "printing/DocumentReport.h"
 #include "registers/common/FormaPartida.h"
 #include "text/Utf8.h"
 

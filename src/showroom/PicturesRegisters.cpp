@@ -1,10 +1,11 @@
 #include "showroom/PicturesRegisters.h"
 
-#include "printing/DocumentReport.h"
+#include "core/statements/Citas.h"
 #include "core/statements/Sentencia.h"
 #include "documents/Duplicada.h"
 #include "documents/frmInfNotConf.h"
 #include "documents/frmInfNotConfDatos.h"
+#include "printing/DocumentReport.h"
 #include "registers/allocation/PosicionPartida.h"
 #include "registers/common/FormaPartida.h"
 #include "registers/entry/DialogoDePartida.h"
@@ -181,10 +182,13 @@ void RegisterPictures::lookUpOf(const Sacramento& s) {
   frmBuscaPadres search(context);
   search.conBaseDatos = &parish();
   search.Origen = origenLista(s);
+  const auto first = parish().Execute("SELECT * FROM Bautismo_Hijo WHERE CodBautismo=1");
   auto set = parish().Execute(
       "SELECT IDBautismo, Nombre, PrimerApellido, SegundoApellido, FechaBautismo, CodPadres, "
       "CodMadres, CodMatrimonio FROM Bautismo, Bautismo_Hijo WHERE CodBautismo=IDBautismo AND "
-      "IDBautismo<4");
+      "PrimerApellido=" +
+      entreComillas(first.text("PrimerApellido")) +
+      " AND SegundoApellido=" + entreComillas(first.text("SegundoApellido")));
   const auto key = [&](const char* column) {
     return static_cast<std::int32_t>(set.integer(column));
   };

@@ -127,10 +127,10 @@ forms::Nodes frmPartidaConfirmacion::paginas() {
 }
 
 LayoutNode frmPartidaConfirmacion::paginaConfirmacion() {
-  return page({fields(2, {item(adtpPartida[FechaConfirmacion], 2), item(txtPartida[Parroquia]),
-                          item(txtPartida[Diocesis]), item(cboPartida[ProvinciaParr]),
-                          item(cboPartida[ProvinciaParr + 1]), item(txtPartida[Ministro]),
-                          item(txtPartida[CargoMinistro])}),
+  return page({fields(2, {item(adtpPartida[FechaConfirmacion], 2), item(txtPartida[Parroquia], 2),
+                          item(txtPartida[Diocesis], 2), item(cboPartida[ProvinciaParr]),
+                          item(cboPartida[ProvinciaParr + 1]), item(txtPartida[Ministro], 2),
+                          item(txtPartida[CargoMinistro], 2)}),
                forms::stretch()});
 }
 

@@ -151,7 +151,7 @@ forms::Nodes frmPartidaDefuncion::paginas() {
   const auto familia =
       page({fields(2, {provincia(ProvinciaNaturalDe), poblacion(ProvinciaNaturalDe), texto(Edad),
                        texto(NumeroHijos), texto(NombrePadre), texto(NombreMadre),
-                       texto(NombresHijos, 2), texto(Sacramentos), texto(Sacerdote)}),
+                       texto(NombresHijos, 2), texto(Sacramentos, 2), texto(Sacerdote, 2)}),
             group(fraContacto, {fields(3, {texto(NombreContacto), texto(PrimerApellidoContacto),
                                            texto(SegundoApellidoContacto), texto(TelefonoContacto),
                                            texto(EmailContacto), texto(RelacionDifunto)})}),
