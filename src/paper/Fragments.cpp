@@ -22,6 +22,7 @@ namespace {
 constexpr qreal kDot = 0.18;       // millimetres across
 constexpr qreal kDotStep = 1.1;    // from dot to dot
 constexpr qreal kLeaderGap = 1.2;  // between text and its dots
+constexpr qreal kWithSignature = 14;
 
 /// Dots stand at whole steps from the right, so that those of several lines are in columns.
 void paintDots(QPainter& painter, qreal left, qreal right, qreal y) {
@@ -151,6 +152,23 @@ void takeHeadings(std::vector<FragmentPtr>& head, std::vector<FragmentPtr>& rest
   head.erase(from, head.end());
 }
 
+/// A signature does not stand alone on a page: the last lines above it go with it.
+void takeLinesOver(std::vector<FragmentPtr>& head, std::vector<FragmentPtr>& rest) {
+  if (rest.empty() || rest.front()->isSpace() || rest.front()->markedHeight() > 0) return;
+  const auto isText = [](const FragmentPtr& c) { return !c->isSpace() && !c->staysWithNext(); };
+  const auto last = std::find_if(head.rbegin(), head.rend(), isText);
+  if (last == head.rend()) return;
+  const FragmentPtr block = *last;
+  const qreal over = dotsOfMillimetres(kWithSignature);
+  const Fragment::Parts parts = block->height() > over ? block->split(block->height() - over, false)
+                                                       : Fragment::Parts{nullptr, block};
+  const bool leavesText = parts.head || std::any_of(last + 1, head.rend(), isText);
+  if (!parts.rest || !leavesText) return;
+  head.erase(last.base() - 1, head.end());
+  if (parts.head) head.push_back(parts.head);
+  rest.insert(rest.begin(), parts.rest);
+}
+
 }  // namespace
 
 Fragment::Parts StackFragment::split(qreal available, bool must) const {
@@ -172,7 +190,10 @@ Fragment::Parts StackFragment::split(qreal available, bool must) const {
     if (parts.rest && !c->isSpace()) rest.push_back(parts.rest);
   }
   if (!printed && !must) return {nullptr, shared_from_this()};
-  if (printed && !rest.empty()) takeHeadings(head, rest);
+  if (printed && !rest.empty()) {
+    takeLinesOver(head, rest);
+    takeHeadings(head, rest);
+  }
   return {stacked(std::move(head)), stacked(std::move(rest))};
 }
 

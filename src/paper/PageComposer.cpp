@@ -180,6 +180,15 @@ void PageComposer::put(FragmentPtr content, Column& column, Page& page, std::siz
   column.y += height;
 }
 
+/// The last row goes overleaf with the closing, where that would be signed on a page of its own.
+bool PageComposer::leavesClosingAlone(const Start& start, qreal height, qreal room) {
+  if (t_.closing.empty() || !isRow(start.item) || isRow(start.item + 1)) return false;
+  const FragmentPtr closing = bodyOf(start.item + 1);
+  if (!closing) return false;
+  const qreal both = height + closing->height();
+  return both > room && both <= bodyBottom() - bodyTop({start.item, {}, start.number + 1});
+}
+
 /// False when the next item belongs on another page.
 bool PageComposer::fill(Column& column, Page& page, Start& start) {
   for (; !atEnd(start); ++start.item, start.cuts.clear()) {
@@ -188,6 +197,7 @@ bool PageComposer::fill(Column& column, Page& page, Start& start) {
     if (!content) continue;
     const qreal room = column.bottom - column.y;
     if (content->height() <= room) {
+      if (!column.empty() && leavesClosingAlone(start, content->height(), room)) return true;
       put(std::move(content), column, page, start.item);
       continue;
     }

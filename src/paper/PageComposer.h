@@ -75,6 +75,7 @@ class PageComposer {
   bool mustStartPage(const Start& start, const Page& page) const;
   qreal placeOpening(qreal top, Page& page, Start& start);
   bool fill(Column& column, Page& page, Start& start);
+  bool leavesClosingAlone(const Start& start, qreal height, qreal room);
   void put(FragmentPtr content, Column& column, Page& page, std::size_t item);
   Page composeTo(qreal bottom, Start& start);
   Page withEvenColumns(Page page, const Start& begin, Start& start);

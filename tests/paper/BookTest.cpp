@@ -312,6 +312,22 @@ TEST_F(LongDocument, duplicate_endsWithTheSignatureOfTheParishPriest) {
   EXPECT_THAT(pageText(duplicate, 0), Not(HasSubstr("Este duplicado")));
 }
 
+TEST_F(LongDocument, signature_isNeverAloneOnAPage) {
+  for (int entries = 1; entries <= 8; ++entries) {
+    addEntries(1, "ImprimirDuplicadasBautismo");
+    const Report duplicate = open("ImprimirDuplicadasBautismo");
+    EXPECT_THAT(pageText(duplicate, duplicate.pageCount() - 1), HasSubstr("Final1")) << entries;
+  }
+  std::string notes;
+  for (int i = 0; i < 8; ++i) {
+    for (int j = 0; j < 60; ++j) notes += "anotado ";
+    reports_->Execute("DELETE FROM Documentos_Defuncion");
+    add("InformePartidaDefuncion", {{"NotasMarginales", notes}});
+    const Report entry = open("InformePartidaDefuncion");
+    EXPECT_THAT(pageText(entry, entry.pageCount() - 1), HasSubstr("anotado")) << i;
+  }
+}
+
 TEST_F(LongDocument, firstPageIsThereBeforeTheRestIsCounted) {
   addEntries(300);
   ReportOptions options;
