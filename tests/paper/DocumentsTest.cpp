@@ -279,7 +279,7 @@ INSTANTIATE_TEST_SUITE_P(
              {"horas"}},
         Said{"InformePartidaDefuncionMenorca",
              {{"Cementerio", "Cementiri vell"}, {"Edad", "1"}},
-             {"al Cementiri vell", "de 1 any d’edat", "estat civil: "},
+             {"al Cementiri vell", "d’1 any d’edat", "estat civil: "},
              {"anys"}},
         Said{"InformeIndiceLibroBautismoMenorca",
              {},
