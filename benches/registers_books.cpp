@@ -43,8 +43,10 @@ void measureList(const DescripcionAlmacen<Record>& store, const std::string& of)
   bench::ratio("colección de un libro de 20.000 " + of, bench::inTurn(5, ours, query), 2.0);
   if (found != OF_ONE_BOOK) std::printf("faltan partidas\n");
 
+  const CrearPropiedadesLibro create = propiedadesDeLibro(store.forma.sacramento);
+  if (!create) return;
   const auto open = [&] {
-    const auto dialog = propiedadesDeLibro(store.forma.sacramento)(parish.contexto);
+    const auto dialog = create(parish.contexto);
     dialog->conBaseDatos = parish.connection.get();
     dialog->lngLibro = 1;
     dialog->Load();
@@ -103,5 +105,6 @@ void measure(const DescripcionAlmacen<Record>& store, const std::string& of) {
 int main() {
   measure(ALMACEN_BAUTISMO, "bautismos");
   measure(ALMACEN_CONFIRMACION, "confirmaciones");
+  measureList(ALMACEN_MATRIMONIO, "matrimonios");
   measure(ALMACEN_DEFUNCION, "defunciones");
 }

@@ -7,6 +7,7 @@
 #include "registers/baptism/AlmacenBautismo.h"
 #include "registers/confirmation/AlmacenConfirmacion.h"
 #include "registers/death/AlmacenDefuncion.h"
+#include "registers/marriage/AlmacenMatrimonio.h"
 
 namespace fidaleon {
 
@@ -25,6 +26,9 @@ class cBaseDatos {
   }
   bool RetirarAMedias(FDAPI::Conexion& con, ColeccionDefuncion& colPartidas) {
     return defunciones(con).retirarAMedias(colPartidas);
+  }
+  bool RetirarAMedias(FDAPI::Conexion& con, ColeccionMatrimonio& colPartidas) {
+    return matrimonios(con).retirarAMedias(colPartidas);
   }
 
   // Baptism
@@ -123,6 +127,39 @@ class cBaseDatos {
     return defunciones(con).anular(lngID);
   }
 
+  // Marriage
+
+  bool GrabarBasedatosColeccionMatrimonio(FDAPI::Conexion& con, std::int32_t lngLibro,
+                                          ColeccionMatrimonio& result) {
+    return matrimonios(con).cargar(lngLibro, result);
+  }
+  bool GrabarColeccionBaseDatosMatrimonio(FDAPI::Conexion& con, ColeccionMatrimonio& colPartidas,
+                                          bool& blnSalto) {
+    return matrimonios(con).grabar(colPartidas, blnSalto);
+  }
+  bool AltaPartidaMatrimonio(FDAPI::Conexion& con, cMatrimonio& record) {
+    return matrimonios(con).alta(record);
+  }
+  bool ActualizarPartidaMatrimonio(FDAPI::Conexion& con, const cMatrimonio& record) {
+    return matrimonios(con).actualizar(record);
+  }
+  bool BorrarPartidaMatrimonio(FDAPI::Conexion& con, std::int32_t lngID) {
+    return matrimonios(con).borrar(lngID);
+  }
+  bool ActualizacionFormatoMatrimonio(FDAPI::Conexion& con, const cMatrimonio& record,
+                                      bool& blnSalto) {
+    return matrimonios(con).formato(record, blnSalto);
+  }
+  /// Fills the item that has this key.
+  bool ActualizarColeccionMatrimonio(FDAPI::Conexion& con, std::int32_t lngID,
+                                     ColeccionMatrimonio& colPartidas, std::int32_t lngLibro) {
+    return completarItem(matrimonios(con), lngLibro, lngID, colPartidas,
+                         &cMatrimonio::IDMatrimonio);
+  }
+  bool AnularDesanularPartidaMatrimonio(FDAPI::Conexion& con, std::int32_t lngID) {
+    return matrimonios(con).anular(lngID);
+  }
+
  private:
   Almacen<cBautismo> bautismos(FDAPI::Conexion& con) { return {contexto_, con, ALMACEN_BAUTISMO}; }
   Almacen<cConfirmacion> confirmaciones(FDAPI::Conexion& con) {
@@ -130,6 +167,9 @@ class cBaseDatos {
   }
   Almacen<cDefuncion> defunciones(FDAPI::Conexion& con) {
     return {contexto_, con, ALMACEN_DEFUNCION};
+  }
+  Almacen<cMatrimonio> matrimonios(FDAPI::Conexion& con) {
+    return {contexto_, con, ALMACEN_MATRIMONIO};
   }
   template <class Registro>
   static bool completarItem(Almacen<Registro> almacen, std::int32_t lngLibro, std::int32_t lngID,

@@ -111,7 +111,30 @@ struct OfDeath {
   static constexpr bool blanksOfOldToo = true;
 };
 
-using Registers = ::testing::Types<OfBaptism, OfConfirmation, OfDeath>;
+struct OfMarriage {
+  using Record = cMatrimonio;
+  static inline const Sacramento& sacrament = MATRIMONIO;
+  static inline const DescripcionAlmacen<Record>& store = ALMACEN_MATRIMONIO;
+  static constexpr auto load = &cBaseDatos::GrabarBasedatosColeccionMatrimonio;
+  static constexpr auto save = &cBaseDatos::GrabarColeccionBaseDatosMatrimonio;
+  static constexpr auto remove = &cBaseDatos::BorrarPartidaMatrimonio;
+  static constexpr auto annul = &cBaseDatos::AnularDesanularPartidaMatrimonio;
+  static constexpr std::string Record::*name = &Record::NovioNombre;
+  static constexpr std::string Record::*day = &Record::FechaMatrimonio;
+  static void put(Record& r, std::int32_t book, int folio, const std::string& number) {
+    r.IDLibro = book;
+    r.Folio = folio;
+    r.Numero = number;
+    r.NovioPrimerApellido = "García";
+    r.NovioSegundoApellido = "Pérez";
+    r.NoviaNombre = "Eva";
+    r.NoviaPrimerApellido = "Sanz";
+    r.NovioTResidenciaDomAct = 255;
+    r.NoviaFolioBaut = 12;
+  }
+};
+
+using Registers = ::testing::Types<OfBaptism, OfConfirmation, OfMarriage, OfDeath>;
 
 /// García Pérez on 10 May 1999, new to the store; what is not known is dashes.
 template <class R>

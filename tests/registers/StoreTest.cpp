@@ -3,6 +3,7 @@
 #include "registers/Registers.h"
 #include "registers/baptism/TablasBautismo.h"
 #include "registers/common/EliminarPartida.h"
+#include "registers/repair/PartidasIncompletas.h"
 #include "store/FailingEngine.h"
 
 namespace fidaleon::tests {
@@ -159,6 +160,20 @@ TYPED_TEST(RegisterStore, HalfStored_GoesAgainWhenItIsGivenUp) {
   }
 }
 
+TYPED_TEST(RegisterStore, WhicheverRowIsLost_IsGivenBackAndTheOthersAreFoundWithIt) {
+  const std::int32_t libro = this->book(true);
+  this->saved(this->record("Luis", libro, 1, "1"));
+  for (const FilaDePartida& f : TypeParam::store.forma.filas) {
+    if (!f.nombre) continue;
+    this->w.con().Execute(std::string("DELETE * FROM ") + f.tabla);
+    const auto lost = partidasIncompletas(this->w.con());
+    ASSERT_EQ(lost.size(), 1u) << f.tabla;
+    completarPartida(this->w.con(), lost.front());
+    EXPECT_TRUE(this->wholeAndOnce()) << f.tabla;
+    EXPECT_EQ(this->load(libro).size(), 1u) << f.tabla;
+  }
+}
+
 TYPED_TEST(RegisterStore, AnnulledTwice_IsAsItWas_AndRemovingSetsTheCountersBack) {
   const std::int32_t libro = this->book(false);
   const std::int32_t id = this->saved(this->record("Luis", libro, 1, "1"));
@@ -276,6 +291,66 @@ TEST_F(ConfirmationStore, EntryWithoutItsBaptism_IsListedButNotRead) {
   ColeccionConfirmacion items = load(libro);
   ASSERT_EQ(items.size(), 1u);
   EXPECT_FALSE(db.ActualizarColeccionConfirmacion(w.con(), id, items, libro));
+}
+
+class MarriageStore : public RegisterStore<OfMarriage> {
+ protected:
+  /// Those of the table that name the groom or the bride.
+  std::int64_t named(const std::string& who) {
+    return w.count("Matrimonio_Novios WHERE Nombre=\"" + who + "\"") +
+           w.count("Matrimonio_Novias WHERE Nombre=\"" + who + "\"");
+  }
+};
+
+TEST_F(MarriageStore, WithoutItsOwnRow_LeavesNothingOfTheSpouses) {
+  w.user.answerAnything(forms::Answer::Ok);
+  auto* faults = store::FailingEngine::wrap(w.con());
+  for (const char* step : {"INSERT INTO matrimonio_novias_bautismo", "INSERT INTO matrimonio ("}) {
+    faults->failOn(step, store::ErrorKind::DiskFull);
+    Records items{record("Luis", book(true), 1, "1")};
+    EXPECT_FALSE(save(items));
+    for (const FilaDePartida& f : OfMarriage::store.forma.filas)
+      EXPECT_EQ(w.count(f.tabla), 0) << f.tabla;
+  }
+  Records request{record("Luis", 0, 0, "---")};
+  request[0].InstitucionSolicitud = 256;
+  EXPECT_FALSE(save(request));
+  EXPECT_EQ(named("Luis"), 0);
+}
+
+TEST_F(MarriageStore, Changed_IsWrittenToItsOwnSpousesAndKeepsItsInstitution) {
+  saved(record("Juan", book(true), 1, "1"));
+  Records items{record("Luis", 0, 0, "---")};
+  items[0].InstitucionSolicitud = parish;
+  ASSERT_TRUE(save(items));
+  items[0].InstitucionSolicitud = 77;
+  items[0].NoviaNombre = "Rosa";
+  items[0].NovioTomo = "II";
+  ponerOperacion(items[0], FDAPI::cCOperacion::EDITARSOLICITUD);
+  ASSERT_TRUE(save(items));
+  EXPECT_EQ(named("Juan") + named("Eva") + named("Luis") + named("Rosa"), 4);
+  EXPECT_EQ(w.count("Matrimonio_Novios_RegCivil WHERE Tomo=\"II\""), 1);
+  EXPECT_EQ(w.value("SELECT InstitucionSolicitud FROM Matrimonio WHERE CodLibro=0"),
+            std::to_string(parish));
+  EXPECT_THAT(nombrePartida(w.con(), MATRIMONIO, items[0].IDMatrimonio),
+              StartsWith("Luis García Pérez y Rosa Sanz"));
+}
+
+TEST_F(MarriageStore, Deleted_LeavesTheExaminations) {
+  const std::int32_t id = saved(record("Luis", book(true), 1, "1"));
+  insertRow(w, "Matrimonio_Cursos", {{"CodMatrimonio", std::to_string(id)}});
+  EXPECT_TRUE(db.BorrarPartidaMatrimonio(w.con(), id));
+  EXPECT_EQ(w.count("Matrimonio_Cursos"), 1);
+}
+
+TEST_F(MarriageStore, SpouseWhoseKeyIsLost_IsGivenANewOneWithItsRows) {
+  const std::int32_t libro = book(true);
+  saved(record("Juan", libro, 1, "1"));
+  const std::int32_t id = saved(record("Luis", libro, 2, "2"));
+  w.con().Execute("UPDATE Matrimonio SET CodNovios=0 WHERE IDMatrimonio=" + std::to_string(id));
+  completarPartida(w.con(), partidasIncompletas(w.con()).front());
+  EXPECT_EQ(cuentaPartidasIncompletas(w.con()), 0);
+  EXPECT_EQ(load(libro).size(), 2u);
 }
 
 TEST(Columns, NumericColumn_TakesZeroForDashes) {

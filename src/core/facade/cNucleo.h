@@ -43,6 +43,7 @@ class cNucleo {
   /// marriage whoever shares them, and resets the counters of its book.
   void BorrarPartidaBautismo(FDAPI::Conexion& conBaseDatos, std::int32_t lngID);
   void BorrarPartidaConfirmacion(FDAPI::Conexion& conBaseDatos, std::int32_t lngID);
+  void BorrarPartidaMatrimonio(FDAPI::Conexion& conBaseDatos, std::int32_t lngID);
   void BorrarPartidaDefuncion(FDAPI::Conexion& conBaseDatos, std::int32_t lngID);
 
   /// Entries and requests that lack one of their rows, to be completed or removed.

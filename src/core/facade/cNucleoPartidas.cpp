@@ -13,10 +13,11 @@ namespace {
 
 using Alternar = bool (cBaseDatos::*)(FDAPI::Conexion&, std::int32_t);
 
-/// Null for a sacrament without entries.
+/// Null for what is no sacrament.
 Alternar alternarDe(const Sacramento* s) {
   if (s == &BAUTISMO) return &cBaseDatos::AnularDesanularPar;
   if (s == &CONFIRMACION) return &cBaseDatos::AnularDesanularPartidaConfirmacion;
+  if (s == &MATRIMONIO) return &cBaseDatos::AnularDesanularPartidaMatrimonio;
   if (s == &DEFUNCION) return &cBaseDatos::AnularDesanularPartidaDefuncion;
   return nullptr;
 }
@@ -106,6 +107,10 @@ void cNucleo::BorrarPartidaBautismo(FDAPI::Conexion& conBaseDatos, std::int32_t 
 
 void cNucleo::BorrarPartidaConfirmacion(FDAPI::Conexion& conBaseDatos, std::int32_t lngID) {
   borrarPreguntando(contexto_, conBaseDatos, lngID, CONFIRMACION);
+}
+
+void cNucleo::BorrarPartidaMatrimonio(FDAPI::Conexion& conBaseDatos, std::int32_t lngID) {
+  borrarPreguntando(contexto_, conBaseDatos, lngID, MATRIMONIO);
 }
 
 void cNucleo::BorrarPartidaDefuncion(FDAPI::Conexion& conBaseDatos, std::int32_t lngID) {

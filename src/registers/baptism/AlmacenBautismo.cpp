@@ -136,6 +136,7 @@ const DescripcionAlmacen<cBautismo> ALMACEN_BAUTISMO{
     .procAnular = "AnularDesanularPar",
     .avisoCargar = "¡Se ha producido un error al cargar las partidas del libro!",
     .insertarCompartidas = insertarPadres,
+    .compartidasQuedan = true,
     .sqlUltima = "SELECT * FROM {partidas} ORDER BY {idpartida} DESC",
     .retomar = retomar,
     .actualizarCompartidas = actualizarCompartidas,

@@ -28,7 +28,7 @@ struct DescripcionAlmacen {
   const Tabla<Registro>& partidaAlActualizar;
   /// Further rows of its own; the first column of each holds the entry's key.
   std::span<const Tabla<Registro>* const> propias;
-  /// Rows that it shares with others.
+  /// Rows that are found by keys in its own one, most of them shared with others.
   std::span<const Tabla<Registro>* const> compartidas = {};
 
   std::int32_t Registro::*id;
@@ -60,6 +60,8 @@ struct DescripcionAlmacen {
 
   /// Inserts the rows it shares and gives the record their keys, before its own row.
   void (*insertarCompartidas)(FDAPI::Conexion&, Registro&) = nullptr;
+  /// They stay when its own row cannot be inserted.
+  bool compartidasQuedan = false;
   /// Finds the row inserted last, its key first.
   PlantillaSql sqlUltima = "SELECT MAX({IDPartida}) AS ID FROM {Partidas}";
   /// Prepares a record that a former try has left half-stored. `fila`: the row that is there.
@@ -291,13 +293,14 @@ class Almacen {
   }
 
   void insertar(Registro& r) {
-    if (d_.insertarCompartidas) {
+    if (d_.compartidasQuedan) {
       TransaccionSinVuelta juntas(contexto_, conexion_);
       d_.insertarCompartidas(conexion_, r);
       juntas.terminar();
       return insertarPropia(conexion_, d_, r);
     }
     store::Transaction transaccion(conexion_);
+    if (d_.insertarCompartidas) d_.insertarCompartidas(conexion_, r);
     insertarPropia(conexion_, d_, r);
     transaccion.commit();
   }

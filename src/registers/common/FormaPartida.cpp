@@ -31,9 +31,23 @@ constexpr FilaDePartida DE_DEFUNCION[] = {
 };
 constexpr const char* DIFUNTO[] = {"Defuncion"};
 
+constexpr FilaDePartida DE_MATRIMONIO[] = {
+    {"novia", "Matrimonio_Novias", "IDNovias", "CodNovias", false},
+    {"registro civil de la novia", "Matrimonio_Novias_RegCivil", "CodNovias", "CodNovias", false},
+    {"bautismo de la novia", "Matrimonio_Novias_Bautismo", "CodNovias", "CodNovias", false},
+    {"novio", "Matrimonio_Novios", "IDNovios", "CodNovios", false},
+    {"registro civil del novio", "Matrimonio_Novios_RegCivil", "CodNovios", "CodNovios", false},
+    {"bautismo del novio", "Matrimonio_Novios_Bautismo", "CodNovios", "CodNovios", false},
+    {nullptr, "Matrimonio", "IDMatrimonio", "IDMatrimonio", false},
+    {"celebración", "Matrimonio_Compromiso", "CodMatrimonio", "IDMatrimonio", false},
+    {"expediente", "Matrimonio_Expediente", "CodMatrimonio", "IDMatrimonio", false},
+};
+constexpr const char* NOVIOS[] = {"Matrimonio_Novios", "Matrimonio_Novias"};
+
 constexpr FormaPartida FORMAS[] = {
     {BAUTISMO, "Bautismo", "FechaBautismo", DE_BAUTISMO, BAUTIZADO},
     {CONFIRMACION, "Confirmación", "FechaConfirmacion", DE_CONFIRMACION, CONFIRMADO},
+    {MATRIMONIO, "Matrimonio", "FechaMatrimonio", DE_MATRIMONIO, NOVIOS},
     {DEFUNCION, "Defunción", "FechaDefuncion", DE_DEFUNCION, DIFUNTO},
 };
 
@@ -90,8 +104,8 @@ std::string nombrePartida(Conexion& conexion, const Sacramento& s, std::int32_t 
   const store::Recordset partida = conexion.Execute(sqlPartida(s, lngID));
   if (!forma || partida.EOF_()) return {};
   std::string nombre;
-  for (const FilaDePartida& f : forma->filas)
-    for (const std::string_view persona : forma->personas) {
+  for (const std::string_view persona : forma->personas)
+    for (const FilaDePartida& f : forma->filas) {
       if (persona != f.tabla) continue;
       const store::Recordset fila =
           conexion.Execute(std::string("SELECT Nombre, PrimerApellido, SegundoApellido FROM ") +

@@ -71,22 +71,46 @@ PartidaIncompleta leida(Conexion& conexion, const FormaPartida& clase,
   return p;
 }
 
-/// A row that says nothing, as the registers write it.
+/// The row itself gives the key by which entries find it.
+bool daSuClave(const store::Table& tabla, const FilaDePartida& ficha) {
+  const store::Column* clave = tabla.find(ficha.clave);
+  return clave && clave->type == store::Type::Counter;
+}
+
+/// A row that says nothing, as the registers write it; without `clave` it gives itself one.
 std::string sqlFichaEnBlanco(const store::Table& tabla, const FilaDePartida& ficha,
-                             const std::string& clave) {
+                             std::int64_t clave) {
   std::string columnas, valores;
   const auto agregar = [&](const std::string& columna, const std::string& valor) {
     columnas += (columnas.empty() ? "" : ", ") + columna;
     valores += (valores.empty() ? "" : ", ") + valor;
   };
   for (const store::Column& c : tabla.columns()) {
-    if (c.type == store::Type::Counter) continue;
-    if (text::equalsNoCase(c.name, ficha.clave))
-      agregar(c.name, clave);
+    const bool esClave = text::equalsNoCase(c.name, ficha.clave);
+    if (c.type == store::Type::Counter && (!esClave || clave == 0)) continue;
+    if (esClave)
+      agregar(c.name, std::to_string(clave));
     else
       agregar(c.name, store::isText(c.type) ? entreComillas(GUIONES) : "0");
   }
   return std::string("INSERT INTO ") + ficha.tabla + " (" + columnas + ") VALUES (" + valores + ")";
+}
+
+/// The row gets the key under which the entry looks for it, so that what else bears that key is
+/// found again with it. Where the entry has none, it takes the one that the row gets.
+void ponerFicha(Conexion& conexion, const Sacramento& s, const std::string& id,
+                const FilaDePartida& f) {
+  const store::Table& tabla = *conexion.schema().find(f.tabla);
+  const std::string partida = sentencia(s, " WHERE {IDPartida}=") + id;
+  const std::int64_t clave =
+      conexion
+          .Execute(std::string("SELECT ") + f.enlace + sentencia(s, " FROM {Partidas}") + partida)
+          .integer(f.enlace);
+  conexion.Execute(sqlFichaEnBlanco(tabla, f, clave));
+  if (clave != 0 || !daSuClave(tabla, f)) return;
+  const std::string nueva =
+      conexion.Execute(std::string("SELECT MAX(") + f.clave + ") AS ID FROM " + f.tabla).text("ID");
+  conexion.Execute(sentencia(s, "UPDATE {Partidas} SET ") + f.enlace + "=" + nueva + partida);
 }
 
 }  // namespace
@@ -120,17 +144,11 @@ PartidaIncompleta releida(Conexion& conexion, const PartidaIncompleta& partida) 
 
 void completarPartida(Conexion& conexion, const PartidaIncompleta& partida) {
   const Sacramento& s = partida.clase->sacramento;
-  const std::string id = std::to_string(partida.id);
   store::Transaction transaccion(conexion);
-  for (const FilaDePartida* f : partida.faltan) {
-    conexion.Execute(sqlFichaEnBlanco(*conexion.schema().find(f->tabla), *f, id));
-    if (esPropia(*partida.clase, *f)) continue;
-    const std::string clave =
-        conexion.Execute(std::string("SELECT MAX(") + f->clave + ") AS ID FROM " + f->tabla)
-            .text("ID");
-    conexion.Execute(sentencia(s, "UPDATE {Partidas} SET ") + f->enlace + "=" + clave +
-                     sentencia(s, " WHERE {IDPartida}=") + id);
-  }
+  for (const bool conClave : {true, false})  // first those whose key others bear
+    for (const FilaDePartida* f : partida.faltan)
+      if (daSuClave(*conexion.schema().find(f->tabla), *f) == conClave)
+        ponerFicha(conexion, s, std::to_string(partida.id), *f);
   transaccion.commit();
 }
 
