@@ -1,9 +1,6 @@
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
+#include "registers/Rows.h"
 #include "registers/books/frmAltaLibro.h"
 #include "store/FailingEngine.h"
-#include "support/TestWorld.h"
 
 namespace fidaleon {
 namespace {
@@ -38,11 +35,7 @@ class AltaLibro : public ::testing::TestWithParam<std::size_t> {
   }
   std::int64_t libros() { return mundo.count(s.tablaLibros); }
   void crear(const std::string& nombre, std::int32_t institucion, bool nuevo) {
-    mundo.con().Execute(std::string("INSERT into ") + s.tablaLibros +
-                        " (codinstitucion, codFormato, codTipoNombre, nombre, fechacreacion, "
-                        "Nuevo, Cerrado, NumeroSiguiente, FolioSiguiente) values (" +
-                        std::to_string(institucion) + ", 3, 4, \"" + nombre + "\", \"20200101\", " +
-                        (nuevo ? "1" : "0") + ", 0, 1, 1)");
+    tests::insertBook(mundo, s, institucion, {nombre, nuevo});
   }
   std::string ultima() {
     return mundo.settings.read("Fidaleon", "ana\\Castellano\\ultimos", "ultimos_Institucion");
@@ -82,16 +75,14 @@ TEST_P(AltaLibro, newBook_isStoredOpenWithItsCountersAtOne) {
     EXPECT_TRUE(f.closed());
   });
   ASSERT_EQ(libros(), 1);
-  const store::Recordset fila = mundo.con().Execute(std::string("SELECT * FROM ") + s.tablaLibros);
-  EXPECT_EQ(fila.integer("CodInstitucion"), sanJuan);
-  EXPECT_EQ(fila.integer("CodFormato"), 3);
-  EXPECT_EQ(fila.integer("CodTipoNombre"), 1);
-  EXPECT_EQ(fila.text("Nombre"), "2026/01");
-  EXPECT_EQ(fila.text("FechaCreacion"), "20261122");
-  EXPECT_TRUE(fila.flag("Nuevo"));
-  EXPECT_FALSE(fila.flag("Cerrado"));
-  EXPECT_EQ(fila.text("NumeroSiguiente"), "1");
-  EXPECT_EQ(fila.integer("FolioSiguiente"), 1);
+  for (const auto& [columna, valor] : std::initializer_list<std::pair<const char*, std::string>>{
+           {"CodInstitucion", std::to_string(sanJuan)},
+           {"CodFormato", "3"},
+           {"CodTipoNombre", "1"},
+           {"FechaCreacion", "20261122"},
+           {"NumeroSiguiente", "1"},
+           {"FolioSiguiente", "1"}})
+    EXPECT_EQ(libro(columna), valor) << columna;
   EXPECT_EQ(libro("Nombre", "nuevo=true and cerrado=false"), "2026/01");
   EXPECT_EQ(ultima(), "San Juan");
   EXPECT_EQ(mundo.user.hourglassDepth(), 0);
@@ -287,42 +278,29 @@ TEST_P(AltaLibroBautismo, yearWith99Books_fallsBackToAFreeName) {
   EXPECT_SCRIPT_DONE(mundo.user);
 }
 
-TEST_P(AltaLibroBautismo, menorca_offersTwoEntriesPerFolioToNewBooks) {
+TEST_P(AltaLibroBautismo, fixedInstitution_cannotBeChangedAndMenorcaOffersTwoEntriesPerFolio) {
   mundo.entorno.installation.Aplicacion = FDAPI::cCAplicacion::APP_FIDALEON_MENORCA;
-  abrir([&](FormDriver& f) {
-    f.choose("cboInstituciones", "San Juan");
-    f.click("optNuevo");
-    f.chooseData("cboFormato", 2);
-    f.chooseData("cboFormato", 3);
-    f.click("cmdBoton(1)");
-  });
-  EXPECT_SCRIPT_DONE(mundo.user);
-}
-
-TEST_P(AltaLibroBautismo, fixedInstitution_cannotBeChanged) {
   abrir(
       [&](FormDriver& f) {
         EXPECT_EQ(f.text("cboInstituciones"), "Santa Ana");
         EXPECT_TRUE(f.locked("cboInstituciones"));
         EXPECT_FALSE(f.enabled("cmdAgregarInstitucion"));
-        EXPECT_TRUE(f.enabled("optNuevo"));
-        f.escape();
+        f.click("optNuevo");
+        for (const int formato : {2, 3}) f.chooseData("cboFormato", formato);
+        f.click("cmdBoton(1)");
       },
       santaAna);
   EXPECT_SCRIPT_DONE(mundo.user);
 }
 
 TEST_P(AltaLibroBautismo, lastInstitution_isOfferedAgain) {
-  mundo.settings.write("Fidaleon", "ana\\Castellano\\ultimos", "ultimos_Institucion", "Santa Ana");
-  abrir([&](FormDriver& f) {
-    EXPECT_EQ(f.text("cboInstituciones"), "Santa Ana");
-    f.escape();
-  });
-  mundo.settings.write("Fidaleon", "ana\\Castellano\\ultimos", "ultimos_Institucion", "Ya no está");
-  abrir([&](FormDriver& f) {
-    EXPECT_EQ(f.text("cboInstituciones"), "");
-    f.escape();
-  });
+  for (const std::string ultima : {"Ya no está", "Santa Ana"}) {
+    mundo.settings.write("Fidaleon", "ana\\Castellano\\ultimos", "ultimos_Institucion", ultima);
+    abrir([&](FormDriver& f) {
+      EXPECT_EQ(f.text("cboInstituciones"), ultima == "Santa Ana" ? ultima : "");
+      f.escape();
+    });
+  }
   EXPECT_SCRIPT_DONE(mundo.user);
 }
 

@@ -168,19 +168,32 @@ INSTANTIATE_TEST_SUITE_P(Registers, RequestedEntry,
 TEST_P(RequestedEntry, New_IsStoredOutsideAnyBookAndCorrectedThere) {
   enter("Luis");
   EXPECT_EQ(entries("codlibro=0 AND folio=0 AND numero=\"---\""), 1);
-  EXPECT_EQ(value("InstitucionSolicitud"), std::to_string(parish));
-  open(
-      cCOperacion::EDITARSOLICITUD,
-      [&](FormDriver& d) {
-        EXPECT_EQ(d.text(list(k.institution)), "San Pedro");
-        EXPECT_EQ(d.locked(list(k.institution)), &k.s != &BAUTISMO);
-        tab(d, k.name.tab);
-        d.type(name(), "Carlos");
-        accept(d);
-      },
-      std::stoi(value(k.s.clavePartida)));
+  const std::int32_t other = w.institucion("Santa Ana", town);
+  w.institucion("San Blas", town);
+  const bool moves = &k.s == &BAUTISMO;
+  for (const bool chosen : {false, true}) {
+    EXPECT_EQ(value("InstitucionSolicitud"), std::to_string(parish));
+    open(
+        cCOperacion::EDITARSOLICITUD,
+        [&](FormDriver& d) {
+          EXPECT_EQ(d.text(list(k.institution)), "San Pedro");
+          EXPECT_EQ(d.locked(list(k.institution)), !moves);
+          EXPECT_EQ(d.enabled("cmdAltaInstitucion"), moves);
+          if (chosen && moves) {
+            d.choose(list(k.institution), "San Blas");
+            w.con().Execute("DELETE * FROM Institucion WHERE Nombre=\"San Blas\"");
+            w.user.expectMessage(deleted("la institución «San Blas»"));
+            accept(d);
+            d.choose(list(k.institution), "Santa Ana");
+          }
+          tab(d, k.name.tab);
+          d.type(name(), "Carlos");
+          accept(d);
+        },
+        std::stoi(value(k.s.clavePartida)));
+  }
   EXPECT_EQ(w.value(std::string("SELECT Nombre FROM ") + k.person), "Carlos");
-  EXPECT_EQ(value("InstitucionSolicitud"), std::to_string(parish));
+  EXPECT_EQ(value("InstitucionSolicitud"), std::to_string(moves ? other : parish));
   EXPECT_SCRIPT_DONE(w.user);
 }
 

@@ -34,8 +34,9 @@ struct EntryKind {
   const char* oldCaption;
   const char* editCaption;
   const char* requestCaption;
-  const char* position;               // the first one in a caption
-  const char* noPosition = "";        // in that of a new one, before there is a book
+  const char* position;         // the first one in a caption
+  const char* noPosition = "";  // in that of a new one, before there is a book
+  const char* replaced;
   const char* blanks;                 // question
   bool asksOld, asksOther, asksOnce;  // it, of blank texts; it is always asked of new entries
   bool annulsOld, annulsEdit;
@@ -82,6 +83,7 @@ inline const EntryKind BAPTISM_ENTRY{.s = BAUTISMO,
                                      .editCaption = "Propiedades de partida de bautismo ",
                                      .requestCaption = "Agregar solicitud de bautismo",
                                      .position = ". Folio:1 número:1",
+                                     .replaced = OfBaptism::replaced,
                                      .blanks = OfBaptism::blanks,
                                      .annulsOld = true,
                                      .annulsEdit = true,
@@ -109,6 +111,7 @@ inline const EntryKind CONFIRMATION_ENTRY{.s = CONFIRMACION,
                                           .editCaption = "Propiedades de partida de confirmación ",
                                           .requestCaption = "Nueva solicitud de confirmación",
                                           .position = ". Folio:1, número:1",
+                                          .replaced = OfConfirmation::replaced,
                                           .blanks = OfConfirmation::blanks,
                                           .asksOld = true,
                                           .asksOther = true,
@@ -137,6 +140,7 @@ inline const EntryKind DEATH_ENTRY{.s = DEFUNCION,
                                    .editCaption = "Propiedades de partida de defunción ",
                                    .position = ". Folio:1, número:1",
                                    .noPosition = ". Folio:, número:",
+                                   .replaced = OfDeath::replaced,
                                    .blanks = OfDeath::blanks,
                                    .asksOld = true,
                                    .asksOther = true,
@@ -156,8 +160,11 @@ inline std::string deleted(const std::string& what) {
          "\n\nLo que ha escrito sigue aquí. Elija otro y acepte de nuevo.";
 }
 
-class EntryWorld : public ::testing::TestWithParam<const EntryKind*> {
+class EntryHands : public ::testing::Test {
  protected:
+  explicit EntryHands(const EntryKind& kind,
+                      const char* edition = FDAPI::cCAplicacion::APP_FIDALEON_MADRID)
+      : k(kind), w(edition) {}
   std::string word() const { return k.s.palabra; }
   std::string text(int i) const { return "txt" + word() + "(" + std::to_string(i) + ")"; }
   std::string list(int i) const { return "cbo" + word() + "(" + std::to_string(i) + ")"; }
@@ -234,10 +241,15 @@ class EntryWorld : public ::testing::TestWithParam<const EntryKind*> {
     return w.value("SELECT " + column + " FROM " + k.s.tablaLibros);
   }
 
-  const EntryKind& k = *GetParam();
+  const EntryKind& k;
   TestWorld w;
   std::int32_t town = w.municipio("Alcalá de Henares", "Madrid");
   std::int32_t parish = w.institucion("San Pedro", town);
+};
+
+class EntryWorld : public EntryHands, public ::testing::WithParamInterface<const EntryKind*> {
+ protected:
+  EntryWorld() : EntryHands(*GetParam()) {}
 };
 
 inline const auto EVERY_ENTRY =

@@ -118,6 +118,27 @@ TEST_P(NewEntry, PageLimitPassed_IsRefusedUntilComputedAnew) {
   EXPECT_SCRIPT_DONE(w.user);
 }
 
+TEST_P(NewEntry, Positions_FillTheFoliosAndPassOverWhatIsAnnulled) {
+  const std::int32_t two = book("De dos", true, 2);
+  const std::int32_t one = book("De una", true, 3);
+  open(cCOperacion::ANADIR, [&](FormDriver& d) {
+    const auto fill = [&](std::int32_t id, const char* title, int perFolio) {
+      for (int n = 1; n <= 5; ++n) {
+        chooseBook(d, title);
+        const int folio = (n + perFolio - 1) / perFolio;
+        EXPECT_EQ(d.text("txtLibro(1)"), std::to_string(folio)) << title;
+        EXPECT_EQ(d.text("txtLibro(2)"), std::to_string(n)) << title;
+        entry("Luis", id, folio, std::to_string(n));
+        w.con().Execute(std::string("UPDATE ") + k.s.tablaPartidas + " SET Anulada=1");
+      }
+    };
+    fill(two, "De dos", 2);
+    fill(one, "De una", 1);
+    cancel(d);
+  });
+  EXPECT_SCRIPT_DONE(w.user);
+}
+
 TEST_P(NewEntry, AnyText_IsKeptWithoutBreakingTheStatementOrTheField) {
   book("Libro 1");
   open(cCOperacion::ANADIR, [&](FormDriver& d) {
@@ -317,9 +338,13 @@ TEST_P(NewEntry, MarginalNotes_WarnOnceUntilTheyBecomeShorter) {
     d.paste(notes, lines + "sin impresora");
     w.user.printer = true;
     d.paste(notes, lines + "con impresora");
+    d.paste(notes, "corto");
+    w.user.expectMessage(warning);
+    d.paste(notes,
+            lines.substr(0, lines.size() / 42 * 40) + "lunes lunes lunes lunes lunes lunes lunes");
     cancel(d);
   });
-  EXPECT_EQ(w.user.messages().size(), 3u);
+  EXPECT_EQ(w.user.messages().size(), 4u);
 }
 
 }  // namespace fidaleon::tests

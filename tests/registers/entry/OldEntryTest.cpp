@@ -40,6 +40,35 @@ TEST_P(OldEntry, TypedPosition_IsCheckedOnLeavingTheFirstTabAndTheJumpBehindItTo
   EXPECT_SCRIPT_DONE(w.user);
 }
 
+TEST_P(OldEntry, TakenNumber_IsSaidWithItsFoliosAndReplacedWhenTheUserAgrees) {
+  const std::int32_t old = book("Antiguo", false, 1);
+  entry("A", old, 3, "12");
+  entry("B", old, 3, "12a");
+  entry("C", old, 5, "12");
+  const std::string question =
+      std::string("La partida que va a introducir coincide con otra. El numero se ") + k.replaced +
+      " por el 12b ¿Desea continuar?";
+  open(cCOperacion::ANTIGUA, [&](FormDriver& d) {
+    chooseBook(d, "Antiguo");
+    d.type("txtLibro(1)", "3");
+    d.type("txtLibro(2)", "12A");
+    EXPECT_EQ(d.text("lblNumeroRepetido"), "El 12A ya está en el folio 3");
+    d.type("txtLibro(2)", "12");
+    EXPECT_EQ(d.text("lblNumeroRepetido"), "El 12 ya está en los folios 3 y 5");
+    for (const Answer answer : {Answer::No, Answer::Yes}) {
+      w.user.expectMessage(question, answer);
+      tab(d, 1);
+      const bool agreed = answer == Answer::Yes;
+      EXPECT_EQ(w.user.messages().back().title, "Fidaleon2000");
+      EXPECT_EQ(d.text("txtLibro(2)"), agreed ? "12b" : "12");
+      EXPECT_EQ(tab(d), agreed ? 1 : 0);
+      EXPECT_EQ(d.focused() == "txtLibro(1)", !agreed);
+    }
+    cancel(d);
+  });
+  EXPECT_SCRIPT_DONE(w.user);
+}
+
 TEST_P(OldEntry, NumberOfAnotherForm_IsRefusedWhenTypedAndKeptWhenStored) {
   const std::int32_t id = entry("A", book("Antiguo", false), 1, "12 bis");
   open(cCOperacion::ANTIGUA, [&](FormDriver& d) {
@@ -55,6 +84,7 @@ TEST_P(OldEntry, NumberOfAnotherForm_IsRefusedWhenTypedAndKeptWhenStored) {
       cCOperacion::EDITAR,
       [&](FormDriver& d) {
         EXPECT_EQ(d.text("txtLibro(2)"), "12 bis");
+        EXPECT_FALSE(d.visible("lblNumeroRepetido")) << "by itself";
         tab(d, k.name.tab);
         d.type(name(), "B");
         acceptEdit(d);
