@@ -32,7 +32,9 @@ class PlantillaSql {
       Lugar{"Partidas", &Sacramento::tablaPartidas}, Lugar{"IDPartida", &Sacramento::clavePartida},
       Lugar{"Libros", &Sacramento::tablaLibros}, Lugar{"IDLibro", &Sacramento::claveLibro},
       Lugar{"Palabra", &Sacramento::palabra}};
-  static constexpr const Lugar* lugar(std::string_view nombre);
+  /// Where the place stands among them; their number when it does not. No pointer, since compilers
+  /// that check pointers cannot compare them while they compile.
+  static constexpr std::size_t lugar(std::string_view nombre);
   static constexpr bool valida(std::string_view texto);
 
   std::string_view texto() const { return texto_; }
@@ -44,15 +46,17 @@ class PlantillaSql {
   std::string_view texto_;
 };
 
-constexpr const PlantillaSql::Lugar* PlantillaSql::lugar(std::string_view nombre) {
+constexpr std::size_t PlantillaSql::lugar(std::string_view nombre) {
   const auto minuscula = [](char c) { return c >= 'A' && c <= 'Z' ? char(c - 'A' + 'a') : c; };
-  for (const Lugar& l : LUGARES) {
-    bool enMinusculas = nombre.size() == l.nombre.size();
-    for (std::size_t i = 0; enMinusculas && i < nombre.size(); ++i)
-      enMinusculas = nombre[i] == minuscula(l.nombre[i]);
-    if (nombre == l.nombre || enMinusculas) return &l;
+  std::size_t i = 0;
+  for (; i < LUGARES.size(); ++i) {
+    const std::string_view este = LUGARES[i].nombre;
+    bool enMinusculas = nombre.size() == este.size();
+    for (std::size_t j = 0; enMinusculas && j < nombre.size(); ++j)
+      enMinusculas = nombre[j] == minuscula(este[j]);
+    if (nombre == este || enMinusculas) break;
   }
-  return nullptr;
+  return i;
 }
 
 constexpr bool PlantillaSql::valida(std::string_view texto) {
@@ -62,7 +66,7 @@ constexpr bool PlantillaSql::valida(std::string_view texto) {
     const std::size_t cierra = texto.find_first_of("{}", abre + 1);
     if (texto[abre] == '}' || cierra == std::string_view::npos || texto[cierra] == '{')
       return false;
-    if (!lugar(texto.substr(abre + 1, cierra - abre - 1))) return false;
+    if (lugar(texto.substr(abre + 1, cierra - abre - 1)) == LUGARES.size()) return false;
     texto.remove_prefix(cierra + 1);
   }
 }
