@@ -236,6 +236,13 @@ class Almacen {
 
   void leerLista(std::int32_t lngLibro, Coleccion& result) {
     const forms::Hourglass reloj(contexto_.ui());
+    // Records are large: a list that grows while it is read would move all of them again and again.
+    result.reserve(static_cast<std::size_t>(
+        conexion_
+            .Execute(
+                sentencia(s(), "SELECT COUNT({IDPartida}) AS N FROM {Partidas} WHERE CodLibro=") +
+                std::to_string(lngLibro))
+            .integer("N")));
     store::Recordset filas = conexion_.Execute(d_.sqlLista(lngLibro));
     const CopiaDeFilas<Registro> copia(d_.lista, filas);
     for (; !filas.EOF_(); filas.MoveNext()) {

@@ -5,6 +5,7 @@
 
 #include "registers/common/Guiones.h"
 #include "registers/lookup/Bautizado.h"
+#include "text/Utf8.h"
 
 namespace fidaleon {
 
@@ -49,8 +50,10 @@ class Redaccion {
   }
   static std::string enLibro(const std::string& libro, const std::string& folio,
                              const std::string& numero) {
-    return "Libro " + oGuiones(libro) + ", folio " + (folio == "0" ? GUIONES : oGuiones(folio)) +
-           ", número " + oGuiones(numero);
+    // Many books bear the word in their name.
+    const bool conPalabra = text::upper(libro).starts_with("LIBRO ");
+    return (conPalabra ? "" : "Libro ") + oGuiones(libro) + ", folio " +
+           (folio == "0" ? GUIONES : oGuiones(folio)) + ", número " + oGuiones(numero);
   }
 
  private:
