@@ -63,6 +63,26 @@ struct EntryRow {
   Values more;
 };
 
+/// The groom, and Rosa García Pérez.
+inline std::int32_t insertMarriage(TestWorld& w, Values groom, Values entry) {
+  Values bride = groom;
+  bride[0].second = quoted("Rosa");
+  groom.push_back({"DNI", quoted("12345678-Z")});
+  groom.push_back({"FechaNac", quoted("19990501")});
+  for (const auto& [spouse, values] : {std::pair{"Novios", &groom}, {"Novias", &bride}}) {
+    const std::string table = std::string("Matrimonio_") + spouse;
+    const std::string key =
+        std::to_string(insertRow(w, table, *values, std::string("ID") + spouse));
+    entry.push_back({std::string("Cod") + spouse, key});
+    for (const char* of : {"_RegCivil", "_Bautismo"})
+      insertRow(w, table + of, {{std::string("Cod") + spouse, key}});
+  }
+  const std::int32_t id = insertRow(w, "Matrimonio", entry, "IDMatrimonio");
+  for (const char* table : {"Matrimonio_Compromiso", "Matrimonio_Expediente"})
+    insertRow(w, table, {{"CodMatrimonio", std::to_string(id)}});
+  return id;
+}
+
 /// García Pérez, with every row that an entry of the register has.
 inline std::int32_t insertEntry(TestWorld& w, const Sacramento& s, const EntryRow& e) {
   const Values person{{"Nombre", quoted(e.name)},
@@ -73,6 +93,7 @@ inline std::int32_t insertEntry(TestWorld& w, const Sacramento& s, const EntryRo
                {"Numero", quoted(e.number)},
                {"InstitucionSolicitud", std::to_string(e.institution)}};
   entry.insert(entry.end(), e.more.begin(), e.more.end());
+  if (&s == &MATRIMONIO) return insertMarriage(w, person, std::move(entry));
   if (&s != &BAUTISMO) {
     entry.insert(entry.end(), person.begin(), person.end());
     const std::int32_t id = insertRow(w, s.tablaPartidas, entry, s.clavePartida);

@@ -99,7 +99,8 @@ void borrarPartida(Conexion& conexion, const FormaPartida& forma, std::int32_t i
   borrarFilas(conexion, forma, partida, compartidas);
 }
 
-std::string nombrePartida(Conexion& conexion, const Sacramento& s, std::int32_t lngID) {
+std::string nombrePartida(Conexion& conexion, const Sacramento& s, std::int32_t lngID,
+                          const char* entrePersonas) {
   const FormaPartida* forma = formaPartida(s);
   const store::Recordset partida = conexion.Execute(sqlPartida(s, lngID));
   if (!forma || partida.EOF_()) return {};
@@ -110,7 +111,7 @@ std::string nombrePartida(Conexion& conexion, const Sacramento& s, std::int32_t 
       const store::Recordset fila =
           conexion.Execute(std::string("SELECT Nombre, PrimerApellido, SegundoApellido FROM ") +
                            f.tabla + " WHERE " + f.clave + "=" + partida.text(f.enlace));
-      if (!fila.EOF_()) nombre += (nombre.empty() ? "" : " y ") + nombreYApellidos(fila);
+      if (!fila.EOF_()) nombre += (nombre.empty() ? "" : entrePersonas) + nombreYApellidos(fila);
     }
   const store::Recordset libro = conexion.Execute(
       sentencia(s, "SELECT Nombre FROM {Libros} WHERE {IDLibro}=") + partida.text("CodLibro"));

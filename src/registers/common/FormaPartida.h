@@ -48,6 +48,7 @@ void borrarPartida(FDAPI::Conexion& conexion, const FormaPartida& forma, std::in
 
 /// Whose entry it is and, in a second line, where it stands: for questions about it. A request has
 /// the first alone; one that has gone has nothing.
-std::string nombrePartida(FDAPI::Conexion& conexion, const Sacramento& sacramento, std::int32_t id);
+std::string nombrePartida(FDAPI::Conexion& conexion, const Sacramento& sacramento, std::int32_t id,
+                          const char* entrePersonas = " y ");
 
 }  // namespace fidaleon

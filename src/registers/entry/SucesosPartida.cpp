@@ -127,6 +127,7 @@ void frmPartida::BuscarDatos(std::size_t cual) {
   busqueda.conBaseDatos = conBaseDatos;
   busqueda.Origen = origenLista(sacramento());
   busqueda.strApellidos = apellidos.apellidos();
+  busqueda.lngPersona = cual;
   busqueda.Show();
   if (busqueda.blnAceptado)
     procedimiento(variante_.procImportar, [&] { importar(cual, busqueda); });

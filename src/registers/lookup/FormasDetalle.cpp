@@ -3,8 +3,10 @@
 #include <memory>
 #include <stdexcept>
 
+#include "core/contract/NombreYApellidos.h"
 #include "registers/common/Guiones.h"
 #include "registers/lookup/Bautizado.h"
+#include "registers/marriage/AlmacenMatrimonio.h"
 #include "text/Utf8.h"
 
 namespace fidaleon {
@@ -113,6 +115,42 @@ Lineas deConfirmacion(Contexto& contexto, FDAPI::Conexion& conexion, std::int32_
           r.en(c.text("Domicilio"), municipio("CodMunicipioDomicilio"))};
 }
 
+/// "Luis García Pérez, DNI 12345678-Z, nacido el día 01/05/1970", as far as it is known.
+std::string contrayente(const Redaccion& r, std::initializer_list<std::string> nombre,
+                        const std::string& dni, const char* nacido, const std::string& dia) {
+  return oGuiones(nombreYApellidos(nombre)) + (enBlanco(dni) ? "" : ", DNI " + dni) +
+         (enBlanco(dia) ? "" : ", " + std::string(nacido) + " el día " + r.fecha(dia));
+}
+
+Lineas deMatrimonio(Contexto& contexto, FDAPI::Conexion& conexion, std::int32_t id) {
+  const store::Recordset fila = conexion.Execute(ALMACEN_MATRIMONIO.sqlEntera(0, id));
+  if (fila.EOF_()) throw std::runtime_error("Los datos de esta solicitud ya no existen.");
+  cMatrimonio m;
+  ALMACEN_MATRIMONIO.copiar(fila, m);
+  const Redaccion r(contexto, conexion);
+  const auto deAmbos = [](const std::string& novio, const std::string& novia) {
+    return "Novio: " + novio + "\r\nNovia: " + novia;
+  };
+  const auto bautismo = [&](const std::string& dia, const std::string& parroquia,
+                            std::int32_t municipio, const std::string& libro, std::int32_t folio,
+                            const std::string& numero) {
+    return r.cuandoYDonde("Se bautizó", dia, parroquia, municipio) + "; " +
+           Redaccion::enLibro(libro, std::to_string(folio), numero);
+  };
+  return {contrayente(r, {m.NovioNombre, m.NovioPrimerApellido, m.NovioSegundoApellido}, m.NovioDNI,
+                      "nacido", m.NovioFechaNac),
+          contrayente(r, {m.NoviaNombre, m.NoviaPrimerApellido, m.NoviaSegundoApellido}, m.NoviaDNI,
+                      "nacida", m.NoviaFechaNac),
+          deAmbos(m.NovioNombrePadre + " y " + m.NovioNombreMadre,
+                  m.NoviaNombrePadre + " y " + m.NoviaNombreMadre),
+          deAmbos(bautismo(m.NovioFechaBaut, m.NovioParroquiaBaut, m.NovioIDMunicipioBaut,
+                           m.NovioLibroBaut, m.NovioFolioBaut, m.NovioNumeroBaut),
+                  bautismo(m.NoviaFechaBaut, m.NoviaParroquiaBaut, m.NoviaIDMunicipioBaut,
+                           m.NoviaLibroBaut, m.NoviaFolioBaut, m.NoviaNumeroBaut)),
+          r.fecha(m.FechaMatrimonio) + "; padrino: " + m.Padrino + "; madrina: " + m.Madrina,
+          GUIONES};
+}
+
 constexpr FormaDetalle::Etiquetas DE_FAMILIA{"Padre:",
                                              "Madre:",
                                              "Abuelos paternos:",
@@ -125,6 +163,12 @@ constexpr FormaDetalle::Etiquetas DE_PERSONA{
 constexpr FormaDetalle::Etiquetas DE_CONFIRMACION{
     "Padre:",          "Fechas importantes:",          "Madre:",
     "Bautizado/a en:", "Datos del libro de bautismo:", "Residencia actual:"};
+constexpr FormaDetalle::Etiquetas DE_MATRIMONIO{"Nombre, DNI y fecha de nacimiento del novio:",
+                                                "Nombre, DNI y fecha de nacimiento de la novia:",
+                                                "Padres de los contrayentes:",
+                                                "Datos de bautismo de los contrayentes:",
+                                                "Fecha de matrimonio, padrino y madrina:",
+                                                "No se usa:"};
 
 constexpr FormaDetalle FORMAS[] = {
     {cCOrigen::LISTAPARTIDASBAUTISMO, "Detalles de bautismo de un hermano del bautizado.",
@@ -139,6 +183,8 @@ constexpr FormaDetalle FORMAS[] = {
      "CargarDetalleBautismo"},
     {cCOrigen::SOLICITUDCONFIRMACION, "Detalles de la solicitud de confirmación.", DE_CONFIRMACION,
      deConfirmacion, "CargarDetalleConfirmacion"},
+    {cCOrigen::SOLICITUDMATRIMONIO, "Detalles de la solicitud de matrimonio.", DE_MATRIMONIO,
+     deMatrimonio, "CargarDetalleMatrimonio"},
 };
 
 }  // namespace

@@ -6,6 +6,7 @@
 #include "registers/confirmation/cConfirmacion.h"
 #include "registers/death/cDefuncion.h"
 #include "registers/lookup/Bautizado.h"
+#include "registers/marriage/cMatrimonio.h"
 
 namespace fidaleon {
 
@@ -13,6 +14,8 @@ namespace fidaleon {
 
 /// Baptism, birth, parents and address.
 std::span<const ParImportado<cConfirmacion>> importadoDeConfirmacion();
+/// The same for the groom (0) and the bride (1).
+std::span<const ParImportado<cMatrimonio, 2>> importadoDeMatrimonio();
 /// Birth and parents.
 std::span<const ParImportado<cDefuncion>> importadoDeDefuncion();
 

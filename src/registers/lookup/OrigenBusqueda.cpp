@@ -18,7 +18,7 @@ constexpr OrigenBusqueda ORIGENES[] = {
      "CargarGridConfirmacion", "ImportarDatosConfirmacion"},
     {cCOrigen::LISTAPARTIDASMatrimonio, false, DE_PERSONA,
      &cIListas::ConfigGridBuscaPadresMatrimonio, cIListas::RUTA_BUSCA_MATRIMONIO,
-     "CargarGridMatrimonio", "ImportarDatosMatrimonioNovio"},
+     "CargarGridMatrimonio", "ImportarDatosMatrimonioNovio", "ImportarDatosMatrimonioNovia"},
     {cCOrigen::LISTAPARTIDASDEFUNCION, false, DE_PERSONA, &cIListas::ConfigGridBuscaPadresDefuncion,
      cIListas::RUTA_BUSCA_DEFUNCION, "CargarGridMatrimonio", "ImportarDatosDefuncion"},
 };

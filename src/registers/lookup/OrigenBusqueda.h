@@ -15,6 +15,7 @@ struct OrigenBusqueda {
   const char* ruta;          // where the widths of the grid are kept
   const char* nombreCargar;  // of the procedures, for error reports
   const char* nombreImportar;
+  const char* nombreImportarOtra = nullptr;  // for the second person, where there are two
 };
 
 /// Null for an origin that has no look-up.

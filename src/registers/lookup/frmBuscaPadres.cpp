@@ -99,7 +99,8 @@ void frmBuscaPadres::cargarBautizados() {
 void frmBuscaPadres::aceptar() {
   const int elegida = rejilla().row();
   if (elegida == 0) return Unload();
-  blnAceptado = procedimiento(origen_->nombreImportar, [&] {
+  const char* nombre = lngPersona == 0 ? origen_->nombreImportar : origen_->nombreImportarOtra;
+  blnAceptado = procedimiento(nombre, [&] {
     const auto id = static_cast<std::int32_t>(rejilla().rowKey(elegida));
     if (origen_->familia)
       importado = leerFamilia(*conBaseDatos, id);

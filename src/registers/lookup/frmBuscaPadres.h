@@ -24,6 +24,8 @@ class frmBuscaPadres : public Dialogo {
   /// What is shown in the caption.
   std::string strApellidos;
   std::vector<FilaBusqueda> filas;
+  /// Of those whom the entry is about: 1 is the bride.
+  std::size_t lngPersona = 0;
 
   /// A choice was accepted and its data stands below.
   bool blnAceptado = false;

@@ -11,6 +11,9 @@ const OrigenSolicitudes ORIGENES[] = {
      cCOrigen::SOLICITUDBAUTISMO, "CalcularFolioyNumeroBautismo"},
     {cCOrigen::LISTAPARTIDASCONFIRMACION, CONFIRMACION, "Solicitudes de confirmación",
      cCOrigen::SOLICITUDCONFIRMACION, "CalcularFolioyNumeroConfirmacion"},
+    {cCOrigen::LISTAPARTIDASMatrimonio, MATRIMONIO, "Solicitudes de matrimonio",
+     cCOrigen::SOLICITUDMATRIMONIO, "CalcularFolioyNumeroMatrimonio", ", CodNovios, CodNovias",
+     " Y "},
 };
 
 }  // namespace

@@ -12,6 +12,9 @@ struct OrigenSolicitudes {
   const char* titulo;
   FDAPI::cCOrigen detalle;    // how the details are shown
   const char* nombreCalculo;  // of the procedure, for error reports
+  /// More columns of the statement that lists them, and what stands between the persons.
+  const char* columnas = "";
+  const char* entrePersonas = " y ";
 };
 
 /// Null for an origin or a sacrament that has no requests.

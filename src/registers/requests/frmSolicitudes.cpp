@@ -77,16 +77,16 @@ void frmSolicitudes::listarSolicitudes() {
           .EOF_())
     return rechazarInstitucion("¡Esta Institución no tiene un libro nuevo abierto. Elija otra!");
   store::Recordset solicitudes = conBaseDatos->Execute(
-      sentencia(
-          "SELECT {IDPartida} FROM {Partidas} WHERE CodLibro = 0 AND InstitucionSolicitud = ") +
-      institucion());
+      sentencia("SELECT {IDPartida}") + origen_->columnas +
+      sentencia(" FROM {Partidas} WHERE CodLibro = 0 AND InstitucionSolicitud = ") + institucion());
   if (solicitudes.EOF_())
     return rechazarInstitucion("¡Esta Institución no tiene solicitudes para importar. Elija otra!");
   std::vector<ListaDoble::Elemento> todas;
   for (; !solicitudes.EOF_(); solicitudes.MoveNext()) {
     const auto id =
         static_cast<std::int32_t>(solicitudes.integer(origen_->sacramento.clavePartida));
-    const std::string quien = nombrePartida(*conBaseDatos, origen_->sacramento, id);
+    const std::string quien =
+        nombrePartida(*conBaseDatos, origen_->sacramento, id, origen_->entrePersonas);
     todas.push_back({id, quien.empty() ? "Solicitud " + std::to_string(id) : quien});
   }
   listas_.llenar(std::move(todas));

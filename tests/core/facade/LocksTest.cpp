@@ -105,7 +105,7 @@ TEST(FacadeLocks, HeldByAnother_CanBeTriedAgainAndOpensAsItIsNow) {
 TEST(FacadeLocks, UnknownNode_NoDialogNoLock) {
   SpyWorld w;
   for (const char* nodo : {"", "Partidas", "PartidasPadron", "LibrosBautismo", "Instituciones",
-                           "SolicitudesMatrimonio", "SolicitudesDefuncion"}) {
+                           "SolicitudesDefuncion"}) {
     w.nucleo.NuevaPartida(w.con(), w.config, nodo);
     w.nucleo.AntiguaPartida(w.con(), w.config, nodo);
     w.nucleo.PropiedadesPartida(w.con(), 1, w.config, nodo);

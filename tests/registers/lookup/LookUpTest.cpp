@@ -21,6 +21,8 @@ struct LookUp {
   const char* detailsCaption;
   int line;
   const char* text;
+  const char* import;
+  std::size_t person = 0;
 };
 
 /// A dialog with no more than the fields that a search goes by.
@@ -57,6 +59,7 @@ class LookedUp : public ::testing::TestWithParam<LookUp> {
     dialog.Origen = GetParam().origin;
     dialog.strApellidos = busqueda.apellidos();
     dialog.filas = search();
+    dialog.lngPersona = GetParam().person;
     dialog.Show();
   }
   void SetUp() override {
@@ -151,7 +154,7 @@ TEST_P(LookedUp, CancelledOrGoneMeanwhile_BringsNothing) {
     hits.click("cmdBoton(0)");
   });
   EXPECT_FALSE(again.blnAceptado);
-  EXPECT_EQ(w.user.messages().size(), 1u);
+  EXPECT_THAT(w.user.messages().back().text, ::testing::HasSubstr(GetParam().import));
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -163,7 +166,8 @@ INSTANTIATE_TEST_SUITE_P(
                              {"Juan", "García", "", "Ana", "García", ""},
                              "Detalles de bautismo de un hermano del bautizado.",
                              5,
-                             "Calle del Pez, 3"},
+                             "Calle del Pez, 3",
+                             "ImportarDatosBautismo"},
                       LookUp{CONFIRMACION,
                              cCOrigen::LISTAPARTIDASCONFIRMACION,
                              "Búsqueda por García Pérez",
@@ -171,7 +175,18 @@ INSTANTIATE_TEST_SUITE_P(
                              {"Ana", "García", "Pérez", "10/05/1999"},
                              "Detalles de bautismo del confirmado.",
                              3,
-                             "Libro Viejo, folio 4, número 12"},
+                             "Libro Viejo, folio 4, número 12",
+                             "ImportarDatosConfirmacion"},
+                      LookUp{MATRIMONIO,
+                             cCOrigen::LISTAPARTIDASMatrimonio,
+                             "Búsqueda por García Pérez",
+                             "msgBusquedaBautizado",
+                             {"Ana", "García", "Pérez", "10/05/1999"},
+                             "Detalles de bautismo del novio/a.",
+                             1,
+                             "Nació el día 01/05/1999",
+                             "ImportarDatosMatrimonioNovia",
+                             1},
                       LookUp{
                           DEFUNCION,
                           cCOrigen::LISTAPARTIDASDEFUNCION,
@@ -180,7 +195,8 @@ INSTANTIATE_TEST_SUITE_P(
                           {"Ana", "García", "Pérez", "10/05/1999"},
                           "Detalles de bautismo del difunto.",
                           4,
-                          "Se bautizó el día 10/05/1999 en Santa Ana, Alcalá de Henares (Madrid)"}),
+                          "Se bautizó el día 10/05/1999 en Santa Ana, Alcalá de Henares (Madrid)",
+                          "ImportarDatosDefuncion"}),
     [](const auto& p) { return std::string(p.param.s.palabra); });
 
 TEST(Import, Baptism_GoesWhereEachRegisterKeepsIt) {
@@ -198,6 +214,11 @@ TEST(Import, Baptism_GoesWhereEachRegisterKeepsIt) {
             "AnaViejoJuan GarcíaCalle del Pez, 3Luis");
   EXPECT_EQ(c.FolioBaut, 4);
   EXPECT_EQ(c.CodMunicipioNac, 7);
+  cMatrimonio m;
+  for (const std::size_t spouse : {0, 1}) importar(importadoDeMatrimonio(), b, m, spouse);
+  EXPECT_EQ(m.NovioNombre + m.NovioLibroBaut + m.NoviaNombrePadre + m.NoviaDomicilioActual,
+            "AnaViejoJuan GarcíaCalle del Pez, 3");
+  EXPECT_EQ(m.NovioFolioBaut * 10 + m.NoviaIDMunicipioNac, 47);
   cDefuncion d;
   importar(importadoDeDefuncion(), b, d);
   EXPECT_EQ(d.Nombre + d.NombrePadre + d.DomicilioActual, "AnaJuan García");

@@ -24,6 +24,7 @@ struct Requests {
   int line;  // of the details, and what stands there
   const char* label;
   const char* text;
+  const char* bride = "";
 };
 
 class MovedRequests : public ::testing::TestWithParam<Requests> {
@@ -33,6 +34,9 @@ class MovedRequests : public ::testing::TestWithParam<Requests> {
   }
   std::int32_t request(const std::string& name, std::int32_t institution) {
     return insertEntry(w, s, {name, 0, 0, "---", institution, {}});
+  }
+  static std::string listed(const std::string& name) {
+    return name + " García Pérez" + GetParam().bride;
   }
   /// In the tables of the register.
   std::string sql(const PlantillaSql& text) const { return sentencia(s, text); }
@@ -89,14 +93,13 @@ TEST_P(MovedRequests, ThreeOfFour_TakeTheNextPositionsAndKeepTheirKeys) {
     EXPECT_EQ(d.caption(), GetParam().caption);
     choose(d);
     EXPECT_THAT(lines(d, "lstSolicitudes(0)"),
-                ElementsAre("Luis García Pérez", "Eva García Pérez", "Ana García Pérez",
-                            "Blas García Pérez"));
+                ElementsAre(listed("Luis"), listed("Eva"), listed("Ana"), listed("Blas")));
     mark(d, "lstSolicitudes(0)", {0, 2});
     d.click("cmdMover(0)");
     d.click("cmdMover(1)");
     mark(d, "lstSolicitudes(1)", {2});
     d.click("cmdMover(2)");
-    EXPECT_THAT(lines(d, "lstSolicitudes(0)"), ElementsAre("Eva García Pérez"));
+    EXPECT_THAT(lines(d, "lstSolicitudes(0)"), ElementsAre(listed("Eva")));
     d.click("cmdBoton(0)");
     EXPECT_TRUE(d.closed());
   });
@@ -203,7 +206,7 @@ TEST_P(MovedRequests, FailureInTheMiddle_KeepsWhatWasMovedAndOffersTheRest) {
     d.click("cmdBoton(0)");
     EXPECT_THAT(w.user.messages().back().text, HasSubstr("cmdBoton_Click"));
     EXPECT_THAT(inBook(libro), ElementsAre("1/1"));
-    EXPECT_THAT(lines(d, "lstSolicitudes(1)"), ElementsAre("Eva García Pérez", "Ana García Pérez"));
+    EXPECT_THAT(lines(d, "lstSolicitudes(1)"), ElementsAre(listed("Eva"), listed("Ana")));
     faults->failOn("MAX(CInt(Numero))");
     d.click("cmdBoton(0)");
     EXPECT_THAT(w.user.messages().back().text, HasSubstr(sql("CalcularFolioyNumero{Palabra}")));
@@ -223,7 +226,8 @@ TEST_P(MovedRequests, MovedMeanwhileByAnother_KeepsItsPosition) {
     d.click("cmdMover(1)");
     w.con().Execute(sql("UPDATE {Partidas} SET CodLibro=") + std::to_string(libro) +
                     sql(", Folio=7, Numero=\"7\" WHERE {IDPartida}=") + std::to_string(luis));
-    w.user.expectMessage("¡La solicitud de Luis García Pérez ya no existe o ya está en un libro!");
+    w.user.expectMessage("¡La solicitud de " + listed("Luis") +
+                         " ya no existe o ya está en un libro!");
     d.click("cmdBoton(0)");
     EXPECT_TRUE(d.closed());
   });
@@ -274,7 +278,13 @@ INSTANTIATE_TEST_SUITE_P(
                       Requests{CONFIRMACION, cCOrigen::LISTAPARTIDASCONFIRMACION,
                                "Solicitudes de confirmación",
                                "Detalles de la solicitud de confirmación.", 4,
-                               "Datos del libro de bautismo:", "Libro ---, folio ---, número ---"}),
+                               "Datos del libro de bautismo:", "Libro ---, folio ---, número ---"},
+                      Requests{MATRIMONIO, cCOrigen::LISTAPARTIDASMatrimonio,
+                               "Solicitudes de matrimonio",
+                               "Detalles de la solicitud de matrimonio.", 0,
+                               "Nombre, DNI y fecha de nacimiento del novio:",
+                               "Luis García Pérez, DNI 12345678-Z, nacido el día 01/05/1999",
+                               " Y Rosa García Pérez"}),
     [](const auto& p) { return std::string(p.param.s.palabra); });
 
 }  // namespace fidaleon::tests
