@@ -26,6 +26,12 @@ QString weekdayOf(const QString& text, const QString& language) {
 
 QString filtered(QString value, const std::vector<Filter>& filters, const QString& language) {
   for (const Filter filter : filters) switch (filter) {
+      case Filter::Apostrophes:
+        value.replace(QLatin1String("''"), QLatin1String("'"));
+        break;
+      case Filter::Unfilled:
+        value = withoutFilling(value).toString();
+        break;
       case Filter::Upper:
         value = value.toUpper();
         break;
@@ -186,6 +192,7 @@ Binding::Place Binding::placeOf(const QString& column, const Rows& rows, const G
   }
   const QString name = column.mid(1);
   if (name == QLatin1String("Marca")) return {Place::Kind::Mark, 0};
+  if (name == QLatin1String("Fila")) return {Place::Kind::RowNumber, 0};
   if (const auto found = given.find(name); found != given.end()) {
     given_.push_back(found->second);
     return {Place::Kind::Given, static_cast<int>(given_.size()) - 1};
@@ -206,6 +213,8 @@ const QString& Binding::value(int column, const Source& source, bool ofLastRow) 
       return source.rows->value(ofLastRow ? source.lastRow : source.row, place.index);
     case Place::Kind::Mark:
       return source.mark;
+    case Place::Kind::RowNumber:
+      return rowNumber_ = QString::number((ofLastRow ? source.lastRow : source.row) + 1);
     case Place::Kind::Formula:
       return computed(place.index, source, ofLastRow);
     case Place::Kind::Given:

@@ -32,7 +32,7 @@ class Binding {
 
  private:
   struct Place {
-    enum class Kind { Row, Mark, Given, Formula };
+    enum class Kind { Row, Mark, RowNumber, Given, Formula };
     Kind kind;
     int index;
   };
@@ -47,6 +47,7 @@ class Binding {
   const ReportTemplate* t_;
   std::vector<Place> places_;
   std::vector<QString> given_;
+  mutable QString rowNumber_;
   mutable std::vector<Computed> computed_;  // two each: of a first row, of a last row
 };
 

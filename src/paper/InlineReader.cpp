@@ -23,7 +23,9 @@ QString wordingOf(const XmlNode& node, const QString& inside) {
 }
 
 bool readFilter(const QString& word, Inline& item) {
-  static const QHash<QString, Filter> filters{{QStringLiteral("upper"), Filter::Upper},
+  static const QHash<QString, Filter> filters{{QStringLiteral("apostrophes"), Filter::Apostrophes},
+                                              {QStringLiteral("unfilled"), Filter::Unfilled},
+                                              {QStringLiteral("upper"), Filter::Upper},
                                               {QStringLiteral("capital"), Filter::Capital},
                                               {QStringLiteral("letter"), Filter::Letter},
                                               {QStringLiteral("weekday"), Filter::Weekday}};
@@ -102,9 +104,11 @@ Condition changeOf(const XmlNode& node, QStringList& columns) {
 }
 
 std::optional<Condition> conditionOf(const XmlNode& node, QStringList& columns) {
-  refuseAttributes(node, {"column", "matches"});
+  refuseAttributes(node, {"column", "option", "matches"});
   const bool asks = node.name == QLatin1String("if");
-  const QString column = node.attributes.value(QStringLiteral("column"));
+  const QString option = node.attributes.value(QStringLiteral("option"));
+  const QString column = option.isEmpty() ? node.attributes.value(QStringLiteral("column"))
+                                          : QLatin1Char('@') + option;
   if (column.isEmpty()) failAt(node, QStringLiteral("falta el atributo «column»"));
   return readCondition(node,
                        {asks ? column : QString(), asks ? QString() : column,

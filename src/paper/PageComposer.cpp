@@ -30,19 +30,35 @@ PageComposer::PageComposer(const ReportTemplate& t, const Rows& rows, const Bind
 
 std::size_t PageComposer::itemCount() const {
   if (rows_.size() == 0) return 0;
-  return openings() + rows_.size() + (t_.closing.empty() ? 0 : 1);
+  return openings() + rows_.size() * t_.bodies.size() + (t_.closing.empty() ? 0 : 1);
 }
 
 bool PageComposer::isRow(std::size_t item) const {
-  return item >= openings() && item < openings() + rows_.size();
+  return item >= openings() && item < openings() + rows_.size() * t_.bodies.size();
 }
 
 std::size_t PageComposer::rowOf(std::size_t item) const {
-  return std::min(std::max(item, openings()) - openings(), rows_.size() - 1);
+  return std::min((std::max(item, openings()) - openings()) / t_.bodies.size(), rows_.size() - 1);
+}
+
+std::size_t PageComposer::bodyNumber(std::size_t item) const {
+  return (item - openings()) % t_.bodies.size();
+}
+
+bool PageComposer::beginsDocument(const Start& start, const Page& before) const {
+  return t_.flow == Flow::Page && start.cuts.empty() &&
+         (rowOf(start.item) != before.lastRow || t_.bodies[bodyNumber(start.item)].ownPages);
+}
+
+void PageComposer::skipUnwanted(Start& start) const {
+  for (; isRow(start.item) && start.cuts.empty(); ++start.item) {
+    const auto& condition = t_.bodies[bodyNumber(start.item)].condition;
+    if (!condition || holds(*condition, source(rowOf(start.item), 1))) return;
+  }
 }
 
 std::size_t PageComposer::rowsBefore(const Start& start) const {
-  return std::min(std::max(start.item, openings()) - openings(), rows_.size());
+  return std::min((std::max(start.item, openings()) - openings()) / t_.bodies.size(), rows_.size());
 }
 
 std::size_t PageComposer::firstHead(std::size_t row) const {
@@ -93,24 +109,24 @@ FragmentPtr PageComposer::furniture(const Furniture& f, const Page& page, int to
 }
 
 /// A document a few lines too long gets slightly smaller type rather than a second sheet.
-FragmentPtr PageComposer::layOutToFit(std::size_t row) const {
-  const Source from = source(row, 1);
-  FragmentPtr natural = layout_.layOut(t_.body, from, columnWidth());
+FragmentPtr PageComposer::layOutToFit(std::size_t item, int page) const {
+  const Source from = source(rowOf(item), 1);
+  const std::vector<Block>& blocks = t_.bodies[bodyNumber(item)].blocks;
+  FragmentPtr natural = layout_.layOut(blocks, from, columnWidth());
   if (t_.flow != Flow::Page || !natural) return natural;
-  const qreal room = bodyBottom() - bodyTop({row, {}, 1});
+  const qreal room = bodyBottom() - bodyTop({item, {}, page});
   if (natural->height() <= room) return natural;
   for (qreal scale = 1 - kScaleStep; scale >= t_.smallestScale; scale -= kScaleStep) {
-    FragmentPtr smaller = BlockLayout(t_, scale).layOut(t_.body, from, columnWidth());
+    FragmentPtr smaller = BlockLayout(t_, scale).layOut(blocks, from, columnWidth());
     if (smaller->height() <= room) return smaller;
   }
   return natural;
 }
 
-FragmentPtr PageComposer::bodyOf(std::size_t item) {
+FragmentPtr PageComposer::bodyOf(std::size_t item, int page) {
   if (held_ && heldItem_ == item) return held_;
-  const std::size_t row = rowOf(item);
   if (isRow(item)) {
-    held_ = layOutToFit(row);
+    held_ = layOutToFit(item, page);
   } else {
     Source whole = source(0, 1);
     whole.lastRow = rows_.size() - 1;
@@ -151,7 +167,7 @@ FragmentPtr PageComposer::withHead(FragmentPtr body, std::size_t item, bool colu
 }
 
 FragmentPtr PageComposer::remaining(const Start& start, bool columnIsEmpty) {
-  FragmentPtr left = withHead(bodyOf(start.item), start.item, columnIsEmpty);
+  FragmentPtr left = withHead(bodyOf(start.item, start.number), start.item, columnIsEmpty);
   for (const qreal cut : start.cuts)
     if (left) left = left->split(cut, true).rest;
   return left;
@@ -191,8 +207,9 @@ bool PageComposer::leavesClosingAlone(const Start& start, qreal height, qreal ro
 
 /// False when the next item belongs on another page.
 bool PageComposer::fill(Column& column, Page& page, Start& start) {
-  for (; !atEnd(start); ++start.item, start.cuts.clear()) {
-    if (mustStartPage(start, page)) return false;
+  for (;; ++start.item, start.cuts.clear()) {
+    skipUnwanted(start);
+    if (atEnd(start) || mustStartPage(start, page)) return false;
     FragmentPtr content = remaining(start, column.empty());
     if (!content) continue;
     const qreal room = column.bottom - column.y;
@@ -208,7 +225,6 @@ bool PageComposer::fill(Column& column, Page& page, Start& start) {
     start.cuts.push_back(room);
     return true;
   }
-  return false;
 }
 
 Page PageComposer::compose(Start& start) {
@@ -230,8 +246,7 @@ Page PageComposer::composeTo(qreal bottom, Start& start) {
     Column column{left, top, std::max(bottom, top), top};
     if (!fill(column, page, start)) break;
   }
-  const bool newDocument = t_.flow == Flow::Page && start.cuts.empty();
-  start.number = newDocument ? 1 : start.number + 1;
+  start.number = beginsDocument(start, page) ? 1 : start.number + 1;
   return page;
 }
 

@@ -53,11 +53,17 @@ class PageComposer {
     bool empty() const { return y <= top; }
   };
 
-  // What opens and what closes the document are items like its rows.
+  // What opens and what closes the document are items like the bodies of its rows.
   std::size_t openings() const { return t_.opening.empty() ? 0 : 1; }
   std::size_t itemCount() const;
   bool isRow(std::size_t item) const;
   std::size_t rowOf(std::size_t item) const;
+  /// Of a row's item.
+  std::size_t bodyNumber(std::size_t item) const;
+  /// Whether the next page, whose text begins at the start, is the first of a document.
+  bool beginsDocument(const Start& start, const Page& before) const;
+  /// Moves on past bodies of which nothing is to be printed.
+  void skipUnwanted(Start& start) const;
   /// The outermost heading that begins anew at the row, as all within it do; behind the last when
   /// none does.
   std::size_t firstHead(std::size_t row) const;
@@ -67,8 +73,8 @@ class PageComposer {
   qreal columnWidth() const;
   qreal bodyTop(const Start& start) const;
   qreal bodyBottom() const;
-  FragmentPtr layOutToFit(std::size_t row) const;
-  FragmentPtr bodyOf(std::size_t item);
+  FragmentPtr layOutToFit(std::size_t item, int page) const;
+  FragmentPtr bodyOf(std::size_t item, int page = 1);
   std::vector<FragmentPtr> headsOf(std::size_t row, std::size_t first) const;
   FragmentPtr withHead(FragmentPtr body, std::size_t item, bool columnIsEmpty);
   FragmentPtr remaining(const Start& start, bool columnIsEmpty);

@@ -171,6 +171,7 @@ Report::Report(store::Connection& reports, const std::filesystem::path& template
   for (const SideTable& side : layout.sides) wanted << side.of;
   Rows rows(reports, layout.table.toStdString(), wanted, printable);
   for (const SideTable& side : layout.sides) rows.add(reports, side, wanted, printable);
+  for (const QString& choice : options.choices) options.values[choice] = QStringLiteral("sí");
   const QString losses = lossesOf(rows, makePrintable(options.values, printable));
   if (!losses.isEmpty()) options.notices << losses;
   options.values[QStringLiteral("Filas")] = QString::number(rows.size());

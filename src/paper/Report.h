@@ -39,9 +39,12 @@ struct ReportOptions {
   /// written or printed; false cancels.
   std::function<bool(std::size_t done, std::size_t total)> progress;
   /// What a template prints as {{@Name}}, by name without "@": the institution and the book of a
-  /// printed book, whose rows do not hold them. "Filas", "Marcadas" and "Marca" are
+  /// printed book, whose rows do not hold them. "Fila", "Filas", "Marcadas" and "Marca" are
   /// taken. Absent is blank.
   GivenValues values;
+  /// What was chosen for this document, such as "curia": a template asks <if option="curia">, and a
+  /// block of it if="@curia".
+  QStringList choices = {};
   enum class Composition {
     Whole,     // the constructor lays out all pages
     AsNeeded,  // it lays out none: see composeMore

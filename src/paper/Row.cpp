@@ -22,7 +22,9 @@ std::string Rows::want(store::Connection& connection, const std::string& table,
                        const QString& prefix, const QStringList& wanted) {
   std::string list;
   for (const QString& name : columnsOf(connection, table)) {
-    if (!wanted.contains(prefix + name, Qt::CaseInsensitive)) continue;
+    const bool asked = wanted.contains(prefix + name, Qt::CaseInsensitive) ||
+                       (position(name) < 0 && wanted.contains(name, Qt::CaseInsensitive));
+    if (!asked) continue;
     columns_.append(prefix + name);
     list += (list.empty() ? "[" : ",[") + name.toStdString() + "]";
   }
@@ -84,6 +86,8 @@ Rows::Rows(QStringList columns, std::vector<std::vector<QString>> rows)
 int Rows::position(const QString& column) const {
   for (int i = 0; i < columns_.size(); ++i)
     if (columns_[i].compare(column, Qt::CaseInsensitive) == 0) return i;
+  for (int i = 0; i < columns_.size(); ++i)
+    if (columns_[i].endsWith(QLatin1Char('.') + column, Qt::CaseInsensitive)) return i;
   return -1;
 }
 
@@ -99,9 +103,14 @@ QString Row::value(const QString& column) const {
   return position < 0 ? QString() : rows_->value(index_, position);
 }
 
+QStringView withoutFilling(QStringView value) {
+  value = value.trimmed();
+  while (value.endsWith(QStringLiteral(" ."))) value = value.chopped(2).trimmed();
+  return value;
+}
+
 bool isBlankValue(const QString& value) {
-  QStringView rest = QStringView(value).trimmed();
-  while (rest.endsWith(QStringLiteral(" ."))) rest = rest.chopped(2).trimmed();
+  const QStringView rest = withoutFilling(value);
   return rest.isEmpty() || rest == QLatin1String(".") || rest == QLatin1String("---") ||
          rest == QLatin1String("//");
 }

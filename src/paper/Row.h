@@ -21,8 +21,9 @@ class Rows {
        Printable& printable);
   Rows(QStringList columns, std::vector<std::vector<QString>> rows);
 
-  /// Adds the columns of a side table that are wanted; a row without a side row has Null there, and
-  /// of several side rows it takes the first. To be called before the rows change their order.
+  /// Adds the columns of a side table that are wanted, with or without its name in front; a row
+  /// without a side row has Null there, and of several side rows it takes the first. To be called
+  /// before the rows change their order.
   /// Throws store::Error.
   void add(store::Connection& connection, const SideTable& side, const QStringList& wanted,
            Printable& printable);
@@ -33,7 +34,8 @@ class Rows {
   const QString& value(std::size_t row, int column) const {
     return rows_[row][static_cast<std::size_t>(column)];
   }
-  /// Position of a column whatever its case; -1 when there is none.
+  /// Position of a column whatever its case; -1 when there is none. A name that the principal table
+  /// lacks is that of the first side table that has it.
   int position(const QString& column) const;
 
   void arrange(const std::vector<std::size_t>& order);
@@ -73,6 +75,8 @@ class Row {
   std::size_t index_;
 };
 
+/// What stands before the " . . ." that fills a line up.
+QStringView withoutFilling(QStringView value);
 /// Null, blanks, "---" and "//", also where " . . ." fills the line behind them: nothing that a
 /// reader would miss.
 bool isBlankValue(const QString& value);

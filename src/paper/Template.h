@@ -3,8 +3,8 @@
 // the file. Columns are positions in ReportTemplate::columns.
 //
 // A column whose name begins with "@" is none of the table: "@Marca" is the word that marks the
-// row, "@Filas" the count of rows, a formula's name its text, any other a value that the caller
-// gives.
+// row, "@Fila" the row's number, "@Filas" the count of rows, a formula's name its text, any other a
+// value that the caller gives; one that he has only chosen is there.
 
 #include <QRegularExpression>
 #include <QSizeF>
@@ -24,10 +24,12 @@ struct Condition {
 };
 
 enum class Filter {
-  Upper,    // all capitals
-  Capital,  // first letter a capital
-  Letter,   // the letter it stands under in an index: a capital without accent; Ñ is its own
-  Weekday,  // of a date "dd/mm/yyyy", in the template's language; nothing of any other text
+  Apostrophes,  // two apostrophes, as one was typed for a statement, are one
+  Unfilled,     // without the " . . ." that fills its line
+  Upper,        // all capitals
+  Capital,      // first letter a capital
+  Letter,       // the letter it stands under in an index: a capital without accent; Ñ is its own
+  Weekday,      // of a date "dd/mm/yyyy", in the template's language; nothing of any other text
 };
 
 /// Mends the seam between a template's words and the value that follows them: of "el Presbítero D."
@@ -125,6 +127,13 @@ enum class Flow {
   Continuous,  // rows follow one another
 };
 
+/// What is printed of a row. Of several each begins a page.
+struct Body {
+  std::vector<Block> blocks;
+  std::optional<Condition> condition;  // nothing of it is printed where it does not hold
+  bool ownPages = false;               // counts its pages anew: a document of its own
+};
+
 /// A heading above the first row of each run of rows that have the same values in its columns and
 /// in those of the headings around it.
 struct GroupHead {
@@ -161,7 +170,7 @@ struct ReportTemplate {
   QStringList fonts;
   int pageColumns = 1;
   qreal pageColumnGap = 8;
-  std::vector<Block> body;
+  std::vector<Body> bodies;  // several only where each row starts a page
   // Of a continuous flow: before the first row, after the last, between two of one page column.
   std::vector<Block> opening;
   bool openingHasItsPage = false;

@@ -85,7 +85,9 @@ class Reader {
     a.done();
     if (t_.table.isEmpty()) failAt(root, QStringLiteral("falta el atributo «table»"));
     for (const XmlNode& child : root.children) readTop(child);
-    if (t_.body.empty()) failAt(root, QStringLiteral("falta el elemento «body»"));
+    if (t_.bodies.empty()) failAt(root, QStringLiteral("falta el elemento «body»"));
+    if (t_.bodies.size() > 1 && t_.flow != Flow::Page)
+      failAt(root, QStringLiteral("varios «body» necesitan flow=\"page\""));
     const bool flowing = !t_.opening.empty() || !t_.closing.empty() || !t_.between.empty() ||
                          !t_.groupHeads.empty() || t_.pageColumns > 1;
     if (flowing && t_.flow != Flow::Continuous)
@@ -221,9 +223,14 @@ class Reader {
 
   void readBody(const XmlNode& node) {
     Attributes a(node);
-    t_.marksAcross = a.flag("marks-across", true);
+    t_.marksAcross = a.flag("marks-across", t_.marksAcross);
+    Body body;
+    body.condition =
+        readCondition(node, {a.text("if"), a.text("unless"), a.text("matches")}, t_.columns);
+    body.ownPages = a.flag("own-pages", false);
     a.done();
-    for (Block& block : readBlocks(node)) t_.body.push_back(std::move(block));
+    body.blocks = readBlocks(node);
+    if (!body.blocks.empty()) t_.bodies.push_back(std::move(body));
   }
 
   void readOpening(const XmlNode& node) {

@@ -1,6 +1,7 @@
 #include "paper/XmlTree.h"
 
 #include <QFile>
+#include <QRegularExpression>
 #include <QXmlStreamReader>
 
 #include "paper/Error.h"
@@ -15,10 +16,14 @@ QString nameOf(const std::filesystem::path& file) {
   return QString::fromStdString(file.filename().string());
 }
 
+using Words = QMap<QString, QString>;
+
+XmlNode readFile(const std::filesystem::path& file, const Words& words, int depth);
+
 class TreeReader {
  public:
-  TreeReader(QFile& device, const std::filesystem::path& file, int depth)
-      : xml_(&device), file_(file), depth_(depth) {}
+  TreeReader(QFile& device, const std::filesystem::path& file, const Words& words, int depth)
+      : xml_(&device), file_(file), words_(words), depth_(depth) {}
 
   XmlNode readRoot() {
     if (xml_.readNextStartElement()) {
@@ -34,13 +39,13 @@ class TreeReader {
     XmlNode node{xml_.name().toString(), {}, {}, {}, nameOf(file_), xml_.lineNumber()};
     if (nesting > kDeepestNesting) failAt(node, QStringLiteral("demasiados elementos anidados"));
     for (const QXmlStreamAttribute& a : xml_.attributes())
-      node.attributes.insert(a.name().toString(), a.value().toString());
+      node.attributes.insert(a.name().toString(), worded(a.value().toString()));
     while (!xml_.atEnd()) {
       const auto token = xml_.readNext();
       if (token == QXmlStreamReader::EndElement) return node;
       if (token == QXmlStreamReader::Characters)
         node.children.push_back(
-            {{}, xml_.text().toString(), {}, {}, nameOf(file_), xml_.lineNumber()});
+            {{}, worded(xml_.text().toString()), {}, {}, nameOf(file_), xml_.lineNumber()});
       if (token == QXmlStreamReader::StartElement) addChild(node, readElement(nesting + 1));
     }
     failHere(notWellFormed());
@@ -55,8 +60,21 @@ class TreeReader {
     if (name.isEmpty() || name.contains(QLatin1Char('/')))
       failAt(child, QStringLiteral("«include» necesita «file», un archivo de la misma carpeta"));
     if (depth_ >= kDeepestInclude) failAt(child, QStringLiteral("demasiados «include» anidados"));
-    XmlNode included = readXml(file_.parent_path() / name.toStdString(), depth_ + 1);
+    Words words = words_;
+    words.insert(child.attributes);
+    XmlNode included = readFile(file_.parent_path() / name.toStdString(), words, depth_ + 1);
     for (XmlNode& c : included.children) parent.children.push_back(std::move(c));
+  }
+
+  QString worded(QString text) {
+    static const QRegularExpression place(QStringLiteral("\\$\\((\\w+)\\)"));
+    for (auto found = place.match(text); found.hasMatch(); found = place.match(text)) {
+      const auto word = words_.constFind(found.captured(1));
+      if (word == words_.constEnd())
+        failHere(QStringLiteral("nadie dice qué es «%1»").arg(found.captured()));
+      text.replace(found.capturedStart(), found.capturedLength(), *word);
+    }
+    return text;
   }
 
   QString notWellFormed() const {
@@ -69,8 +87,19 @@ class TreeReader {
 
   QXmlStreamReader xml_;
   std::filesystem::path file_;
+  Words words_;
   int depth_;
 };
+
+XmlNode readFile(const std::filesystem::path& file, const Words& words, int depth) {
+  QFile device(QString::fromStdString(file.string()));
+  if (!device.open(QIODevice::ReadOnly))
+    throw Error(ErrorKind::MissingTemplate,
+                QStringLiteral("No se encuentra la plantilla del documento o no se puede leer: %1.")
+                    .arg(device.fileName())
+                    .toStdString());
+  return TreeReader(device, file, words, depth).readRoot();
+}
 
 }  // namespace
 
@@ -83,14 +112,8 @@ void failAt(const XmlNode& node, const QString& message) {
                   .toStdString());
 }
 
-XmlNode readXml(const std::filesystem::path& file, int depth) {
-  QFile device(QString::fromStdString(file.string()));
-  if (!device.open(QIODevice::ReadOnly))
-    throw Error(ErrorKind::MissingTemplate,
-                QStringLiteral("No se encuentra la plantilla del documento o no se puede leer: %1.")
-                    .arg(device.fileName())
-                    .toStdString());
-  return TreeReader(device, file, depth).readRoot();
+XmlNode readXml(const std::filesystem::path& file) {
+  return readFile(file, {}, 0);
 }
 
 }  // namespace fidaleon::paper

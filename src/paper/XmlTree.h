@@ -18,8 +18,9 @@ struct XmlNode {
 };
 
 /// Reads a file; an element "include" is replaced by the children of the root of the file it
-/// names, which stands in the same directory. Throws Error: MissingTemplate, BrokenTemplate.
-XmlNode readXml(const std::filesystem::path& file, int depth = 0);
+/// names, which stands in the same directory. Its other attributes are words that the file, and
+/// what that includes, writes "$(name)". Throws Error: MissingTemplate, BrokenTemplate.
+XmlNode readXml(const std::filesystem::path& file);
 
 /// Throws Error(BrokenTemplate) that names the file and the line of the node.
 [[noreturn]] void failAt(const XmlNode& node, const QString& message);

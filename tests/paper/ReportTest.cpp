@@ -90,7 +90,7 @@ TEST_F(Engine, sideTables_giveEachRowItsOwn_byKeyAndByKind) {
   const std::string text = pdfText(
       small("<template table='Documentos_Matrimonio' flow='continuous'><side name='novio' " + link +
             "Novios'/><side name='curso' where='Cod_Tipo_Persona' is='2' " + link +
-            "Cursos'/><body><p>[{{ParroquiaResidenciaNovio}} {{novio.NombreNovio|else=-}} "
+            "Cursos'/><body><p>[{{ParroquiaResidenciaNovio}} {{NombreNovio|else=-}} "
             "{{novio.ParroquiaResidenciaNovio|else=-}} {{curso.5|else=-}}]</p></body>"
             "</template>"));
   EXPECT_THAT(text, HasSubstr("[A Luis1 San Gil1 -] [B Luis2 San Gil2 sí2] [C - - -]"));
@@ -136,6 +136,7 @@ TEST_F(Engine, wordsOfATemplate_followTheRow) {
                      {"PoblacionNac", "el Carpio"},
                      {"ProvinciaNac", "---"},
                      {"Ministro", "// . . ."},
+                     {"Padrino", "d''Ors . . ."},
                      {"Letra", "Á"},
                      {"FechaNacCorta", "01/12/2026"}});
   for (const Told& t : std::initializer_list<Told>{
@@ -149,14 +150,18 @@ TEST_F(Engine, wordsOfATemplate_followTheRow) {
            {"hij<m>o</m><f>a</f> de D. {{NombreHijo}}", "hija de D. Eva"},
            {"<if column='@Lugar'>{{@Lugar|upper}}</if>", "EN EL CARPIO"},
            {"{{Letra|letter}} {{FechaNacCorta|weekday|capital}}", "A Martes"},
+           {"{{Padrino|apostrophes|unfilled}}<if option='curia'>, a curia</if>", "d'Ors, a curia"},
        }) {
+    ReportOptions chosen;
+    chosen.choices << QStringLiteral("curia");
     const Report r = small(
         "<template table='Documentos_Bautismo'><gender column='Sexo' feminine='^Mujer$'/>"
         "<formula name='Lugar'><clause>en {{PoblacionNac}}</clause></formula>"
         "<join before='\\bde\\s' value='(?-i:el)\\s' cut='yes' put='del '/>"
         "<join before='D\\.\\s' value='D\\.\\s' cut='yes'/>"
         "<body><p>" +
-        std::string(t.words) + "</p></body></template>");
+            std::string(t.words) + "</p></body></template>",
+        chosen);
     EXPECT_EQ(text::trim(pdfText(r)), t.printed) << t.words;
   }
 }
@@ -286,6 +291,18 @@ TEST_F(Engine, continuousRows_areNotCutWhereTheyFitOnAPage) {
   EXPECT_THAT(text, HasSubstr("Folios 2 de 10 n2f fin n3f fin"));
 }
 
+TEST_F(Engine, bodies_beginAPageEach_whereTheirConditionHolds) {
+  for (const char* name : {"Ana", "Eva"}) child(name);
+  folder_.write("pieza.xml", "<x><p>$(de) {{$(de)|upper}}</p></x>");
+  const std::string text = pdfText(
+      small("<template table='Documentos_Bautismo'><footer><p>{{@Pagina}} de {{@Paginas}}</p>"
+            "</footer><body if='@Fila' matches='1'><p>uno</p></body><body if='Libro'><p>dos</p>"
+            "</body><body><include file='pieza.xml' de='NombreHijo'/></body>"
+            "<body own-pages='yes' unless='@Fila' matches='2'><p>aparte</p></body></template>"));
+  EXPECT_EQ(text::trim(text),
+            "1 de 2 uno 2 de 2 NombreHijo ANA 1 de 1 aparte 1 de 1 NombreHijo EVA");
+}
+
 TEST_F(Engine, progressThatSaysNo_cancels) {
   for (int i = 0; i < 5; ++i) child("Ana");
   std::size_t seen = 0;
@@ -399,6 +416,7 @@ TEST_F(Engine, brokenTemplates_areNamedWithFileAndReason) {
                                      {"<p size='grande'>a</p>", "no es una medida"},
                                      {"suelto", "texto fuera"},
                                      {"<include file='../x.xml'/>", "include"},
+                                     {"<p>$(quien)</p>", "$(quien)"},
                                      {"<p>sin cerrar", "línea"},
                                      {"", "falta el elemento «body»"}}) {
     const std::string message = messageOf(wrap(b.body), ErrorKind::BrokenTemplate);
