@@ -263,7 +263,8 @@ TEST_P(MovedRequests, Deleted_GoesWithAllItsRowsAndTouchesNoBook) {
   w.con().Execute(sql("UPDATE {Libros} SET FolioSiguiente=9"));
   eliminarSolicitud(w.contexto, w.con(), luis, s);
   for (const store::Table& t : w.con().schema().tables()) {
-    if (!t.name().starts_with(s.tablaPartidas)) continue;
+    // The answers of an examination have rows of their own, and only where there are any.
+    if (!t.name().starts_with(s.tablaPartidas) || t.name().ends_with("_Cursos")) continue;
     EXPECT_EQ(w.count(t.name()), 1) << t.name();
   }
   EXPECT_EQ(w.value(sql("SELECT FolioSiguiente FROM {Libros}")), "9");
