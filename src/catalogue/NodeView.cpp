@@ -1,5 +1,7 @@
 #include "catalogue/NodeView.h"
 
+#include <algorithm>
+
 #include "catalogue/CensusLists.h"
 #include "core/contract/CcNodos.h"
 #include "core/statements/Sentencia.h"
@@ -64,25 +66,61 @@ void describeBooks(NodeView& v, const Sacramento& s) {
                {"Cerrado", "Estado", ColumnKind::Flag, 9, "Cerrado|Abierto"}};
 }
 
+/// Whom an entry is about: the table that bears the name.
+struct Person {
+  const char* table;
+  const char* title;        // over the name
+  const char* prefix = "";  // of its columns, where there are two persons
+  int width = 18;           // at most
+};
+
 /// Where the entries and requests of a register keep what their lists show.
 struct Register {
   const Sacramento& sacrament;
-  const char* person;  // table that bears the name
-  const char* beside;  // table that is joined to the entry's own, by its `key`
-  const char* key;
+  std::vector<Person> persons;
+  const char* beside;  // tables that are joined to the entry's own
+  PlantillaSql joined;
   const char* day;  // table and column
   const char* dayTitle;
-  const char* otherDay;
+  const char* otherDay;  // null where there is none
   const char* otherTitle;
 };
 
-constexpr Register REGISTERS[] = {
-    {BAUTISMO, "Bautismo_Hijo", "Bautismo_Hijo", "CodBautismo", "Bautismo.FechaBautismo",
-     "Bautismo", "Bautismo_Hijo.FechaNac", "Nacimiento"},
-    {CONFIRMACION, "Confirmacion", "Confirmacion_Datos", "CodConfirmacion",
-     "Confirmacion_Datos.FechaConfirmacion", "Confirmación", "Confirmacion.FechaNac", "Nacimiento"},
-    {DEFUNCION, "Defuncion", "Defuncion_Datos", "CodDifunto", "Defuncion_Datos.FechaDefuncion",
-     "Defunción", "Defuncion_Datos.FechaInhumacion", "Inhumación"},
+const Register REGISTERS[] = {
+    {BAUTISMO,
+     {{"Bautismo_Hijo", "Nombre"}},
+     "Bautismo_Hijo",
+     "Bautismo_Hijo.CodBautismo={Partidas}.{IDPartida}",
+     "Bautismo.FechaBautismo",
+     "Bautismo",
+     "Bautismo_Hijo.FechaNac",
+     "Nacimiento"},
+    {CONFIRMACION,
+     {{"Confirmacion", "Nombre"}},
+     "Confirmacion_Datos",
+     "Confirmacion_Datos.CodConfirmacion={Partidas}.{IDPartida}",
+     "Confirmacion_Datos.FechaConfirmacion",
+     "Confirmación",
+     "Confirmacion.FechaNac",
+     "Nacimiento"},
+    {MATRIMONIO,
+     {{"Matrimonio_Novios", "Novio", "Novio", 13}, {"Matrimonio_Novias", "Novia", "Novia", 13}},
+     "Matrimonio_Compromiso, Matrimonio_Novios, Matrimonio_Novias",
+     "Matrimonio_Compromiso.CodMatrimonio={Partidas}.{IDPartida} AND "
+     "Matrimonio_Novios.IDNovios={Partidas}.CodNovios AND "
+     "Matrimonio_Novias.IDNovias={Partidas}.CodNovias",
+     "Matrimonio_Compromiso.FechaMatrimonio",
+     "Matrimonio",
+     nullptr,
+     nullptr},
+    {DEFUNCION,
+     {{"Defuncion", "Nombre"}},
+     "Defuncion_Datos",
+     "Defuncion_Datos.CodDifunto={Partidas}.{IDPartida}",
+     "Defuncion_Datos.FechaDefuncion",
+     "Defunción",
+     "Defuncion_Datos.FechaInhumacion",
+     "Inhumación"},
 };
 
 std::string columnOf(const char* qualified) {
@@ -90,20 +128,38 @@ std::string columnOf(const char* qualified) {
   return name.substr(name.find('.') + 1);
 }
 
+constexpr struct {
+  const char* column;
+  const char* title;  // null: that of the person
+  int width;
+} NAMES[] = {{"Nombre", nullptr, 18},
+             {"PrimerApellido", "Primer apellido", 15},
+             {"SegundoApellido", "Segundo apellido", 15}};
+
 /// ", Bautismo_Hijo.Nombre, ... FROM Bautismo, Bautismo_Hijo, `tables` WHERE ..." up to what joins
 /// the tables of one entry.
 std::string personOf(const Register& r, const std::string& columns, const std::string& tables) {
-  const std::string person = r.person;
-  return ", " + person + ".Nombre, " + person + ".PrimerApellido, " + person +
-         ".SegundoApellido, " + r.day + ", " + r.otherDay + columns +
-         sentencia(r.sacrament, " FROM {Partidas}, ") + r.beside + tables + " WHERE " + r.beside +
-         "." + r.key + sentencia(r.sacrament, "={Partidas}.{IDPartida} AND ");
+  std::string names;
+  for (const Person& person : r.persons)
+    for (const auto& name : NAMES) {
+      names += std::string(", ") + person.table + "." + name.column;
+      if (*person.prefix) names += std::string(" AS ") + person.prefix + name.column;
+    }
+  return names + ", " + r.day + (r.otherDay ? std::string(", ") + r.otherDay : "") + columns +
+         sentencia(r.sacrament, " FROM {Partidas}, ") + r.beside + tables + " WHERE " +
+         sentencia(r.sacrament, r.joined) + " AND ";
 }
 
-std::vector<ColumnView> namesOf() {
-  return {{"Nombre", "Nombre", ColumnKind::Text, 18, {}},
-          {"PrimerApellido", "Primer apellido", ColumnKind::Text, 15, {}},
-          {"SegundoApellido", "Segundo apellido", ColumnKind::Text, 15, {}}};
+std::vector<ColumnView> namesOf(const Register& r) {
+  std::vector<ColumnView> columns;
+  for (const Person& person : r.persons)
+    for (const auto& name : NAMES)
+      columns.push_back({std::string(person.prefix) + name.column,
+                         name.title ? name.title : person.title,
+                         ColumnKind::Text,
+                         std::min(name.width, person.width),
+                         {}});
+  return columns;
 }
 
 ColumnView day(const char* column, const char* title) {
@@ -131,12 +187,11 @@ void describeEntries(NodeView& v, const Register& r) {
   v.columns = {{"Libro", "Libro", ColumnKind::Text, 10, {}},
                {"Folio", "Folio", ColumnKind::Number, 6, {}},
                {"Numero", "Número", ColumnKind::Number, 8, {}}};
-  for (ColumnView& name : namesOf()) v.columns.push_back(std::move(name));
-  for (const ColumnView& last : {day(r.day, r.dayTitle),
-                                 day(r.otherDay, r.otherTitle),
-                                 ColumnView{"Anulada", "Anulada", ColumnKind::Flag, 9, "Anulada|"},
-                                 {"Institucion", "Institución", ColumnKind::Text, 22, {}}})
-    v.columns.push_back(last);
+  for (ColumnView& name : namesOf(r)) v.columns.push_back(std::move(name));
+  v.columns.push_back(day(r.day, r.dayTitle));
+  if (r.otherDay) v.columns.push_back(day(r.otherDay, r.otherTitle));
+  v.columns.push_back({"Anulada", "Anulada", ColumnKind::Flag, 9, "Anulada|"});
+  v.columns.push_back({"Institucion", "Institución", ColumnKind::Text, 22, {}});
 }
 
 void describeRequests(NodeView& v, const Register& r) {
@@ -150,11 +205,10 @@ void describeRequests(NodeView& v, const Register& r) {
                                "{Partidas}.CodLibro=0 AND "
                                "Institucion.IDInstitucion={Partidas}.InstitucionSolicitud ORDER BY "
                                "{Partidas}.{IDPartida}");
-  v.columns = namesOf();
-  for (const ColumnView& last : {day(r.otherDay, r.otherTitle),
-                                 day(r.day, r.dayTitle),
-                                 {"Institucion", "Institución", ColumnKind::Text, 28, {}}})
-    v.columns.push_back(last);
+  v.columns = namesOf(r);
+  if (r.otherDay) v.columns.push_back(day(r.otherDay, r.otherTitle));
+  v.columns.push_back(day(r.day, r.dayTitle));
+  v.columns.push_back({"Institucion", "Institución", ColumnKind::Text, 28, {}});
 }
 
 void describeInstitutions(NodeView& v) {

@@ -22,6 +22,7 @@ template <class Registro>
 struct Enlaces {
   std::vector<Enlace<Registro, std::string, forms::TextBox>> textos;
   std::vector<Enlace<Registro, std::int32_t, forms::TextBox>> numeros;
+  std::vector<Enlace<Registro, std::uint8_t, forms::TextBox>> bytes;
   std::vector<Enlace<Registro, std::string, forms::DateField>> fechas;
   std::vector<Enlace<Registro, std::string, forms::TimeField>> horas;
   std::vector<Enlace<Registro, std::int32_t, ParProvinciaPoblacion>> municipios;
@@ -32,8 +33,10 @@ struct Enlaces {
   /// is shown as.
   void mostrar(const Registro& r, const char* cero = "") const {
     mostrarSi(r, cero, [](const auto&) { return true; });
+    for (const auto& [campo, m] : bytes) campo->setText(r.*m == 0 ? cero : std::to_string(r.*m));
   }
-  /// Shows what `llenar` puts into a record and leaves the other fields as they are.
+  /// Shows what `llenar` puts into a record and leaves the other fields, and all bytes, as they
+  /// are.
   template <class Llenar>
   void mostrarLoQue(Llenar&& llenar) const {
     Registro r;

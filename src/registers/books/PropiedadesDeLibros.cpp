@@ -7,6 +7,8 @@
 #include "registers/confirmation/frmPartidaConfirmacion.h"
 #include "registers/death/AlmacenDefuncion.h"
 #include "registers/death/frmPartidaDefuncion.h"
+#include "registers/marriage/AlmacenMatrimonio.h"
+#include "registers/marriage/frmPartidaMatrimonio.h"
 
 namespace fidaleon {
 
@@ -33,6 +35,10 @@ frmPropiedadesLibroConfirmacion::frmPropiedadesLibroConfirmacion(Contexto& conte
     : frmPropiedadesLibro(contexto, CONFIRMACION,
                           partidas<frmPartidaConfirmacion>(contexto, ALMACEN_CONFIRMACION)) {}
 
+frmPropiedadesLibroMatrimonio::frmPropiedadesLibroMatrimonio(Contexto& contexto)
+    : frmPropiedadesLibro(contexto, MATRIMONIO,
+                          partidas<frmPartidaMatrimonio>(contexto, ALMACEN_MATRIMONIO)) {}
+
 frmPropiedadesLibroDefuncion::frmPropiedadesLibroDefuncion(Contexto& contexto)
     : frmPropiedadesLibro(contexto, DEFUNCION,
                           partidas<frmPartidaDefuncion>(contexto, ALMACEN_DEFUNCION)) {}
@@ -40,6 +46,7 @@ frmPropiedadesLibroDefuncion::frmPropiedadesLibroDefuncion(Contexto& contexto)
 CrearPropiedadesLibro propiedadesDeLibro(const Sacramento& sacramento) {
   if (&sacramento == &BAUTISMO) return crear<frmPropiedadesLibroBautismo>;
   if (&sacramento == &CONFIRMACION) return crear<frmPropiedadesLibroConfirmacion>;
+  if (&sacramento == &MATRIMONIO) return crear<frmPropiedadesLibroMatrimonio>;
   if (&sacramento == &DEFUNCION) return crear<frmPropiedadesLibroDefuncion>;
   return nullptr;
 }

@@ -132,6 +132,11 @@ class frmPropiedadesLibroConfirmacion : public frmPropiedadesLibro {
   explicit frmPropiedadesLibroConfirmacion(Contexto& contexto);
 };
 
+class frmPropiedadesLibroMatrimonio : public frmPropiedadesLibro {
+ public:
+  explicit frmPropiedadesLibroMatrimonio(Contexto& contexto);
+};
+
 class frmPropiedadesLibroDefuncion : public frmPropiedadesLibro {
  public:
   explicit frmPropiedadesLibroDefuncion(Contexto& contexto);

@@ -19,7 +19,7 @@ bool cambia(const forms::KeyPress& tecla) {
 }  // namespace
 
 void RevisionFechas::vigilar(forms::DateField& campo, std::string nombre, Hoy hoy) {
-  Fecha& fecha = fechas_.emplace_back(Fecha{&campo, std::move(nombre), hoy});
+  Fecha& fecha = fechas_.emplace_back(Fecha{&campo, std::move(nombre), hoy, hoy == Hoy::FUTURO});
   campo.onChange = [&fecha] { fecha.tocada = true; };
   campo.onKeyPress = [&fecha](forms::KeyPress& tecla) {
     fecha.tocada = fecha.tocada || cambia(tecla);
@@ -36,7 +36,15 @@ void RevisionFechas::enEsteOrden(const forms::DateField& primero, const forms::D
 }
 
 void RevisionFechas::permitirFuturo(const forms::DateField& campo) {
-  de(campo).hoy = Hoy::FUTURO;
+  de(campo).futuro = true;
+}
+
+void RevisionFechas::proponerHoy(const forms::DateField& campo, Hoy hoy) {
+  Fecha& f = de(campo);
+  if (f.tocada) return;
+  f.campo->setStored(contexto_.hoy());
+  f.hoy = hoy;
+  f.tocada = false;
 }
 
 void RevisionFechas::empezar(bool conHoy, const std::function<bool(const forms::Control&)>& queda) {
@@ -80,7 +88,7 @@ RevisionFechas::Reparos RevisionFechas::imposibles() const {
     const std::string fecha = f.campo->stored();
     if (fecha.empty()) continue;
     if (fecha < PRIMER_DIA) reparar(f, "anterior al año 1500");
-    if (f.hoy != Hoy::FUTURO && fecha > contexto_.hoy()) reparar(f, "posterior a hoy");
+    if (!f.futuro && fecha > contexto_.hoy()) reparar(f, "posterior a hoy");
   }
   for (const auto& [primero, despues] : ordenes_)
     if (!despues->campo->stored().empty() && primero->campo->stored() > despues->campo->stored())

@@ -30,6 +30,8 @@ class RevisionFechas {
   void enEsteOrden(const forms::DateField& primero, const forms::DateField& despues);
   void permitirFuturo(const forms::DateField& campo);
 
+  /// Puts today where nobody has put a date; it counts as untouched.
+  void proponerHoy(const forms::DateField& campo, Hoy hoy);
   /// Puts today, or nothing, into all fields but those that stay; they count as untouched from now
   /// on.
   void empezar(bool conHoy, const std::function<bool(const forms::Control&)>& queda = {});
@@ -42,6 +44,7 @@ class RevisionFechas {
     forms::DateField* campo;
     std::string nombre;
     Hoy hoy;
+    bool futuro;
     bool tocada = false;
   };
   struct Orden {

@@ -74,22 +74,8 @@ void frmPartidaDefuncion::importar(std::size_t, const frmBuscaPadres& de) {
   importarBautizado(importadoDeDefuncion(), de.bautizado);
 }
 
-/// As long as a parent's name is not known, the surname that came from that side stands for it.
-void frmPartidaDefuncion::proponerProgenitor(Texto apellido, Texto progenitor) {
-  forms::TextBox& campo = txtPartida[apellido];
-  campo.onLostFocus = [this, &campo, progenitor, antes = campo.onLostFocus](forms::Control* c) {
-    antes(c);
-    const bool alta = esAlta() && !esSolicitud();
-    const std::string escrito = text::trim(campo.text());
-    if (!alta || c == &cmdPartida[CANCELAR] || escrito.empty()) return;
-    if (!text::trim(txtPartida[progenitor].text()).empty()) return;
-    txtPartida[progenitor].setText("--- " + escrito + " ---");
-  };
-}
-
 void frmPartidaDefuncion::preestablecer() {
-  const store::Recordset fila = conBaseDatos->Execute(
-      "SELECT * FROM institucion WHERE nombre=" + entreComillas(cboPartida[Institucion].text()));
+  const store::Recordset fila = filaDeInstitucion();
   if (fila.EOF_()) return;
   txtPartida[Parroquia].setText(fila.text("InstitucionNombre"));
   txtPartida[DiocesisParr].setText(fila.text("Diocesis"));

@@ -61,7 +61,6 @@ class frmPartidaDefuncion : public frmPartidaDe<cDefuncion> {
   // Fields and layout
   void crearCampos();
   forms::Nodes paginas();
-  void proponerProgenitor(Texto apellido, Texto progenitor);
 
   // The record
   std::span<const FilaLeida<cDefuncion>> filas() const override;

@@ -31,6 +31,7 @@ bool enBlanco(const forms::TextBox& campo) {
 }  // namespace
 
 void frmPartida::aceptar() {
+  completarCampos();
   if (faltaInstitucionOLibro() || !elecciones_->siguen() || faltaPosicion()) return;
   if (!mst_MouseDown()) return;
   if (pasaLimite()) {
@@ -52,7 +53,8 @@ bool frmPartida::pasaLimite() const {
 }
 
 bool frmPartida::ComprobarCampos() {
-  if (faltaNombre() || !fechasRevisadas_.aceptar() || !preguntarPorVacios()) return false;
+  if (faltaNombre() || pasaDeSuLimite() || !fechasRevisadas_.aceptar() || !preguntarPorVacios())
+    return false;
   rellenarGuiones();
   return true;
 }
@@ -66,6 +68,19 @@ bool frmPartida::faltaNombre() {
       setFocus(*campo);
       return true;
     }
+  return false;
+}
+
+bool frmPartida::pasaDeSuLimite() {
+  for (const auto& [campo, maximo] : limites_) {
+    if (text::toInteger(campo->text()).value_or(0) <= maximo) continue;
+    const std::string& etiqueta = campo->label()->caption();
+    forms::warn(ui(), "«" + etiqueta.substr(0, etiqueta.find(':')) + "» no puede pasar de " +
+                          std::to_string(maximo) + ".");
+    mstPartida.setTab(campo->page());
+    setFocus(*campo);
+    return true;
+  }
   return false;
 }
 

@@ -57,6 +57,7 @@ void frmPartida::cargar() {
   if (esSolicitud()) prepararSolicitud();
   if (Operacion == cCOperacion::ANADIR || Operacion == cCOperacion::ANTIGUA) prepararAlta();
   if (Operacion == cCOperacion::EDITAR) prepararEdicion();
+  alCargar();
   refrescarTitulo();
   // An update of a row that is gone would lose what is typed for it.
   if (!incompleta_) return;
@@ -84,7 +85,9 @@ void frmPartida::vigilarElecciones() {
 void frmPartida::mostrarModo() {
   cmdPartida[ANULAR].setVisible((Operacion == cCOperacion::ANTIGUA && variante_.anularAntigua) ||
                                 (Operacion == cCOperacion::EDITAR && variante_.anularEdicion));
-  notas_->setVisible(Operacion != cCOperacion::ANADIR || variante_.notasEnNueva);
+  const bool sinNotas = esSolicitud() ? !variante_.notasEnSolicitud
+                                      : Operacion == cCOperacion::ANADIR && !variante_.notasEnNueva;
+  notas_->setVisible(!sinNotas);
 }
 
 void frmPartida::limpiarCampos(bool quedaLaSerie) {
@@ -102,6 +105,7 @@ void frmPartida::limpiarCampos(bool quedaLaSerie) {
   fechasRevisadas_.empezar(Operacion == cCOperacion::ANADIR, queda);
   anulada_ = false;
   mostrarAnulada();
+  LimpiarDatos();
 }
 
 void frmPartida::prepararAlta() {
@@ -120,6 +124,7 @@ void frmPartida::prepararAlta() {
       mostrarModo();
       fechasRevisadas_.empezar(false);
       abrirPosicion(true);
+      preestablecer();
     }
     libro().setLocked(true);
     cmdAltaLibro.setEnabled(false);
@@ -207,11 +212,13 @@ void frmPartida::bloquear(bool anulada) {
   for (forms::DateField* campo : fechas_) fijar(*campo);
   for (forms::TimeField* campo : horas_) fijar(*campo);
   for (const auto& [indice, lista] : cboPartida.all()) fijar(*lista);
-  for (forms::Button* boton :
-       {&cmdAltaInstitucion, &cmdAltaLibro, &cmdAltaProvincia, &cmdAltaPoblacion}) {
-    if (!boton->enabled()) continue;
-    boton->setEnabled(false);
-    bloqueados_.push_back([boton] { boton->setEnabled(true); });
+  std::vector<forms::Control*> apagados{&cmdAltaInstitucion, &cmdAltaLibro, &cmdAltaProvincia,
+                                        &cmdAltaPoblacion};
+  apagados.insert(apagados.end(), marcas_.begin(), marcas_.end());
+  for (forms::Control* control : apagados) {
+    if (!control->enabled()) continue;
+    control->setEnabled(false);
+    bloqueados_.push_back([control] { control->setEnabled(true); });
   }
 }
 

@@ -3,6 +3,7 @@
 #include "registers/baptism/frmPartidaBautismo.h"
 #include "registers/confirmation/frmPartidaConfirmacion.h"
 #include "registers/death/frmPartidaDefuncion.h"
+#include "registers/marriage/frmPartidaMatrimonio.h"
 
 namespace fidaleon {
 
@@ -18,6 +19,7 @@ std::unique_ptr<frmPartida> crear(Contexto& contexto) {
 CrearPartida dialogoDePartida(const Sacramento* sacramento) {
   if (sacramento == &BAUTISMO) return crear<frmPartidaBautismo>;
   if (sacramento == &CONFIRMACION) return crear<frmPartidaConfirmacion>;
+  if (sacramento == &MATRIMONIO) return crear<frmPartidaMatrimonio>;
   if (sacramento == &DEFUNCION) return crear<frmPartidaDefuncion>;
   return nullptr;
 }

@@ -71,6 +71,11 @@ bool frmPartida::marcadaParaBorrar(std::int64_t id) const {
   });
 }
 
+store::Recordset frmPartida::filaDeInstitucion() const {
+  return conBaseDatos->Execute("SELECT * FROM institucion WHERE nombre=" +
+                               entreComillas(institucion().text()));
+}
+
 bool frmPartida::faltaInstitucionOLibro() {
   std::string mensaje;
   forms::ComboBox* falta = &institucion();

@@ -114,6 +114,18 @@ void frmPartida::persona(int nombre, int primerApellido, int segundoApellido) {
     };
 }
 
+void frmPartida::proponerProgenitor(int apellido, int progenitor) {
+  forms::TextBox& campo = txtPartida[apellido];
+  campo.onLostFocus = [this, &campo, progenitor, antes = campo.onLostFocus](forms::Control* c) {
+    antes(c);
+    const std::string escrito = text::trim(campo.text());
+    const bool propone = esAlta() || variante_.progenitorAlCorregir;
+    if (!propone || c == &cmdPartida[CANCELAR] || escrito.empty()) return;
+    if (!text::trim(txtPartida[progenitor].text()).empty()) return;
+    txtPartida[progenitor].setText("--- " + escrito + " ---");
+  };
+}
+
 void frmPartida::BuscarDatos(std::size_t cual) {
   BusquedaPorApellidos& apellidos = personas_[cual].busqueda;
   if (!apellidos.toca()) return;

@@ -46,6 +46,9 @@ struct VariantePartida {
   bool anularAntigua;  // the button is there for an old entry being added
   bool anularEdicion;  // and for one being corrected
   bool notasEnNueva;   // a new entry of a new book has marginal notes
+  bool notasEnSolicitud = true;
+  /// Surnames stand for unknown parents also where an entry is corrected.
+  bool progenitorAlCorregir = false;
   const char* avisoNotas = AVISO_NOTAS;
   /// A folio typed for an old book may not pass the limit either.
   bool limiteAlTeclear = false;

@@ -132,7 +132,8 @@ void frmPartida::refrescarTitulo() {
       Operacion != cCOperacion::ANADIR || !folio.empty() || variante_.titulos.siempreConPosicion;
   std::string caption = titulo();
   if (!esSolicitud() && conPosicion)
-    caption += ". Folio:" + folio + variante_.tituloNumero + txtLibro[NUMERO].text();
+    caption += (caption.ends_with('.') ? " Folio:" : ". Folio:") + folio + variante_.tituloNumero +
+               txtLibro[NUMERO].text();
   setCaption(caption);
 }
 

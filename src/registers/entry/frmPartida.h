@@ -6,6 +6,7 @@
 #include <optional>
 #include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "core/dialogs/Dialogo.h"
@@ -101,6 +102,13 @@ class frmPartida : public Dialogo {
   /// A text that may stay blank without being asked about.
   void puedeFaltar(int indice) { prescindibles_.insert(&txtPartida[indice]); }
   void fechaDelSacramento(int indice) { fechaSacramento_ = &adtpPartida[indice]; }
+  /// A number too large for its column is refused.
+  void limitar(int indice, std::int64_t maximo) {
+    limites_.push_back({&txtPartida[indice], maximo});
+  }
+  /// As long as a parent's name is not known, the surname that came from that side stands for it.
+  void proponerProgenitor(int apellido, int progenitor);
+  void crearMarca(forms::CheckBox& marca) { marcas_.push_back(&marca); }
   /// Stays as it is from one entry of a series to the next.
   void serie(const forms::Control& campo) { serie_.insert(&campo); }
   RevisionFechas& revision() { return fechasRevisadas_; }
@@ -112,6 +120,8 @@ class frmPartida : public Dialogo {
   bool esSolicitud() const;
   bool esAlta() const;
   bool desdeLista() const { return Origen == origenLista(sacramento()); }
+  /// The chosen institution's row, which may have gone.
+  store::Recordset filaDeInstitucion() const;
   /// Looks for a person unless this pair of surnames has been looked for.
   void BuscarDatos(std::size_t persona);
 
@@ -136,6 +146,12 @@ class frmPartida : public Dialogo {
   virtual std::int32_t bautismoPropio() const { return 0; }
   /// Another institution was chosen for a new entry, or the next one of a series begins.
   virtual void preestablecer() {}
+  /// The fields were emptied, but for those of a series.
+  virtual void LimpiarDatos() {}
+  /// The dialog has been filled in its mode and is about to be shown.
+  virtual void alCargar() {}
+  /// Acceptance begins: completes what follows from other fields.
+  virtual void completarCampos() {}
 
   // For frmPartidaDe.
   /// What all entries have, as it stands in the fields; `leidos` as the record has it.
@@ -201,6 +217,7 @@ class frmPartida : public Dialogo {
   bool pasaLimite() const;
   bool ComprobarCampos();
   bool faltaNombre();
+  bool pasaDeSuLimite();
   bool preguntarPorVacios();
   bool textosVacios() const;
   bool otrosVacios() const;
@@ -223,6 +240,8 @@ class frmPartida : public Dialogo {
   const forms::DateField* fechaSacramento_ = nullptr;
   std::set<const forms::Control*> serie_;
   std::set<const forms::Control*> prescindibles_;
+  std::vector<std::pair<forms::TextBox*, std::int64_t>> limites_;
+  std::vector<forms::CheckBox*> marcas_;
   std::vector<std::function<void()>> bloqueados_;  // unlocks what the annulment has locked
 
   std::optional<Elecciones> elecciones_;

@@ -54,7 +54,7 @@ class frmPartidaDe : public frmPartida {
     int indice;
     const char* etiqueta;
     std::string Registro::*miembro;
-    const char* nombre;  // "fecha de bautismo"
+    std::string nombre;  // "fecha de bautismo"
     RevisionFechas::Hoy hoy;
   };
   struct CampoMunicipio {
@@ -76,6 +76,11 @@ class frmPartidaDe : public frmPartida {
     campo.setMaxLength(std::numeric_limits<std::int32_t>::digits10);
     enlaces_.numeros.push_back({&campo, miembro});
   }
+  void byte(int indice, const char* etiqueta, std::uint8_t Registro::*miembro) {
+    forms::TextBox& campo = crearTexto(txtPartida, indice, etiqueta, Clase::Cifras);
+    limitar(indice, std::numeric_limits<std::uint8_t>::max());
+    enlaces_.bytes.push_back({&campo, miembro});
+  }
   void fechas(std::span<const CampoFecha> campos) {
     for (const CampoFecha& c : campos)
       enlaces_.fechas.push_back({&crearFecha(c.indice, c.etiqueta, c.nombre, c.hoy), c.miembro});
@@ -94,6 +99,12 @@ class frmPartidaDe : public frmPartida {
   void lista(int indice, const char* etiqueta, std::string Registro::*miembro) {
     enlaces_.listas.push_back({&crearLista(indice, etiqueta), miembro});
   }
+
+  // What the sacrament keeps beside its record.
+  /// A correction is about to be stored, or put into the list; false gives it up.
+  virtual bool antesDeCorregir(Registro&) { return true; }
+  /// A new entry stands in its tables, with its keys. Not when it was put into a list.
+  virtual void trasAlta(const Registro&) {}
 
   // What the sacrament knows of its record.
   /// That of the entry first, then those that hang on it, in the order in which they are read.
@@ -163,6 +174,8 @@ class frmPartidaDe : public frmPartida {
     for (const auto& [campo, m] : enlaces_.textos) partida.*m = valorDe(*campo);
     for (const auto& [campo, m] : enlaces_.numeros)
       partida.*m = static_cast<std::int32_t>(text::toInteger(campo->text()).value_or(0));
+    for (const auto& [campo, m] : enlaces_.bytes)
+      partida.*m = static_cast<std::uint8_t>(text::toInteger(campo->text()).value_or(0));
     for (const auto& [campo, m] : enlaces_.fechas) partida.*m = valorDe(*campo, registro_.*m);
     for (const auto& [campo, m] : enlaces_.horas) partida.*m = valorDe(*campo, registro_.*m);
     for (const auto& [par, m] : enlaces_.municipios) partida.*m = par->valor();
@@ -194,10 +207,12 @@ class frmPartidaDe : public frmPartida {
     DatosPartida d = datosDe(registro_);
     d.id = intentada.Estado ? 0 : datosDe(intentada).id;
     ponerDatos(registro_, d);
+    if (intentada.Estado) trasAlta(intentada);
     return intentada.Estado;
   }
   bool guardarEdicion(Registro partida) {
     completarEdicion(partida);
+    if (!antesDeCorregir(partida)) return false;
     if (!ComprobarCambios(partida)) return true;
     Coleccion corregida{std::move(partida)};
     if (!desdeLista()) return grabar(corregida);

@@ -1,0 +1,143 @@
+// What a marriage proposes, completes and works out by itself.
+
+#include <algorithm>
+
+#include "registers/common/Guiones.h"
+#include "registers/lookup/Importacion.h"
+#include "registers/marriage/frmPartidaMatrimonio.h"
+#include "text/Dates.h"
+#include "text/Utf8.h"
+
+namespace fidaleon {
+
+using FDAPI::cCOperacion;
+using forms::TextBox;
+
+namespace {
+
+constexpr std::size_t CIFRAS_DNI = 10;
+constexpr std::size_t CIFRAS_CP = 5;
+
+constexpr const char* DNI_DUDOSO =
+    "¡Si ha introducido un DNI, separe la letra de los números con un -. Si está ya separada, el "
+    "DNI introducido no es correcto. Si no ha introducido un DNI continue!";
+
+bool enBlanco(const TextBox& campo) {
+  return fidaleon::enBlanco(text::trim(campo.text()));
+}
+
+void conCeros(TextBox& campo, std::size_t cifras) {
+  const std::string escrito = text::trim(campo.text());
+  const std::size_t longitud = text::length(escrito);
+  if (longitud < cifras) campo.setText(std::string(cifras - longitud, '0') + escrito);
+}
+
+/// Full years between two days "yyyymmdd"; 0 when one is not known.
+int anios(const std::string& desde, const std::string& hasta) {
+  if (desde.empty() || hasta.empty()) return 0;
+  return std::max(0, (std::stoi(hasta) - std::stoi(desde)) / 10000);
+}
+
+}  // namespace
+
+void frmPartidaMatrimonio::crearSucesos() {
+  for (const int c : CONTRAYENTES) {
+    forms::DateField& nacimiento = adtpPartida[c + FechaNac];
+    nacimiento.onChange = [this, c, antes = nacimiento.onChange] {
+      antes();
+      CalcularEdad(c, "");
+    };
+    txtPartida[c + Edad].onChange = [this, c] { edadTecleada(c) = !calculando_; };
+  }
+  for (const int dni : {NOVIO + DNI, NOVIA + DNI, int{DNITestigo}, DNITestigo + OtroTestigo})
+    txtPartida[dni].onLostFocus = [this, dni](forms::Control* siguiente) {
+      if (siguiente != &cmdPartida[CANCELAR]) completarDNI(txtPartida[dni]);
+    };
+  txtPartida[CPCompromiso].onLostFocus = [this](forms::Control*) { completarCP(); };
+  chkLugar.onClick = [this] { chkLugar_Click(); };
+  for (const auto& [indice, lista] : cboPartida.all())
+    lista->onLostFocus = [this](forms::Control*) { proponerExhorto(); };
+}
+
+void frmPartidaMatrimonio::importar(std::size_t persona, const frmBuscaPadres& de) {
+  importarBautizado(importadoDeMatrimonio(), de.bautizado, persona);
+}
+
+void frmPartidaMatrimonio::preestablecer() {
+  const store::Recordset fila = filaDeInstitucion();
+  if (fila.EOF_()) return;
+  for (const int campo : {int{Parroquia}, NOVIO + ParroquiaBaut, NOVIA + ParroquiaBaut})
+    txtPartida[campo].setText(fila.text("InstitucionNombre"));
+  for (const int campo : {int{Diocesis}, NOVIO + DiocesisBaut, NOVIA + DiocesisBaut})
+    txtPartida[campo].setText(fila.text("Diocesis"));
+  const bool dudosa = Operacion != cCOperacion::ANADIR;  // the wedding was, or will be, another day
+  revision().proponerHoy(adtpPartida[FechaMatrimonio],
+                         dudosa ? RevisionFechas::Hoy::DUDOSO : RevisionFechas::Hoy::NORMAL);
+  const std::array sinProponer{&cboPartida[NOVIO + ProvinciaActual + 1],
+                               &cboPartida[NOVIO + ProvinciaAnterior + 1],
+                               &cboPartida[NOVIA + ProvinciaActual + 1]};
+  for (const auto& [par, miembro] : enlaces_.municipios)
+    if (std::ranges::find(sinProponer, &par->poblacion()) == sinProponer.end())
+      par->poner(static_cast<std::int32_t>(fila.integer("CodMunicipio")));
+}
+
+void frmPartidaMatrimonio::LimpiarDatos() {
+  txtPartida[ExpedInst].setText("esta parroquia");
+  for (const int c : CONTRAYENTES) {
+    txtPartida[c + Religion].setText("católica");
+    txtPartida[c + EstadoCivil].setText(c == NOVIA ? "soltera" : "soltero");
+    txtPartida[c + Nacionalidad].setText("española");
+    edadTecleada(c) = false;
+  }
+}
+
+void frmPartidaMatrimonio::alCargar() {
+  chkLugar.setValue(!enBlanco(txtPartida[Demarcacion]));
+  chkLugar_Click();
+}
+
+void frmPartidaMatrimonio::chkLugar_Click() {
+  TextBox& demarcacion = txtPartida[Demarcacion];
+  demarcacion.label()->setCaption(chkLugar.value() ? "Demarcación parroquial:" : "Parroquia:");
+  demarcacion.setEnabled(chkLugar.value());
+  if (!chkLugar.value()) demarcacion.setText(GUIONES);
+}
+
+void frmPartidaMatrimonio::completarCampos() {
+  for (const int c : CONTRAYENTES) CalcularEdad(c, "0");
+  completarCP();
+}
+
+/// An age that was typed, or that an old entry gives without the day of birth, stays.
+void frmPartidaMatrimonio::CalcularEdad(int contrayente, const char* siFalta) {
+  const std::string nacimiento = adtpPartida[contrayente + FechaNac].stored();
+  const std::string boda = adtpPartida[FechaMatrimonio].stored();
+  TextBox& edad = txtPartida[contrayente + Edad];
+  const bool seSabe = !nacimiento.empty() && !boda.empty();
+  if (!seSabe && edadTecleada(contrayente) && !enBlanco(edad)) return;
+  const int cumplidos = anios(nacimiento, boda);
+  calculando_ = true;
+  edad.setText(cumplidos == 0 ? siFalta : std::to_string(cumplidos));
+  calculando_ = false;
+  edadTecleada(contrayente) = false;
+}
+
+void frmPartidaMatrimonio::completarDNI(TextBox& campo) {
+  if (campo.locked() || enBlanco(campo)) return;
+  conCeros(campo, CIFRAS_DNI);
+  if (!contexto_.fidaleon()->CIF_NIF_Valido(text::trim(campo.text())))
+    forms::warn(ui(), DNI_DUDOSO);
+}
+
+void frmPartidaMatrimonio::completarCP() {
+  if (!enBlanco(txtPartida[CPCompromiso])) conCeros(txtPartida[CPCompromiso], CIFRAS_CP);
+}
+
+/// The exhorto goes to where a spouse lives.
+void frmPartidaMatrimonio::proponerExhorto() {
+  for (const int c : CONTRAYENTES)
+    if (text::trim(txtPartida[c + PoblacionExhorto].text()).empty())
+      txtPartida[c + PoblacionExhorto].setText(cboPartida[c + ProvinciaActual + 1].text());
+}
+
+}  // namespace fidaleon
