@@ -63,13 +63,12 @@ TEST(Commands, whatTakesRowsAway_isMarkedAndHasTheDeleteKey) {
 }
 
 TEST(Commands, booksOfferWhatTheirRegisterHas) {
-  const Ids common{"nuevo-libro", "cerrar-libro", "eliminar-libro"};
-  Ids baptism = common;
-  baptism.insert({"propiedades-libro", "ver-partidas", "libro", "indice"});
+  const Ids baptism{"nuevo-libro",  "cerrar-libro", "eliminar-libro", "propiedades-libro",
+                    "ver-partidas", "libro",        "indice"};
   EXPECT_EQ(given(at("LibrosBautismo", 1)), baptism);
-  EXPECT_EQ(given(at("LibrosMatrimonio", 1)), common);
   for (const char* id : {"propiedades-libro", "ver-partidas"})
-    EXPECT_TRUE(given(at("LibrosDefuncion", 1)).contains(id));
+    for (const char* other : {"LibrosMatrimonio", "LibrosDefuncion"})
+      EXPECT_TRUE(given(at(other, 1)).contains(id)) << other;
 }
 
 TEST(Commands, noTwoThatApplyShareAKeyOrAnId) {
