@@ -55,7 +55,7 @@ void measureList(const DescripcionAlmacen<Record>& store, const std::string& of)
   Parish parish(store.forma, OF_ONE_BOOK, OF_ONE_BOOK);
   std::size_t found = 0;
   const auto ours = [&] {
-    std::vector<Record> items;
+    PartidasListadas<Record> items;
     Almacen(parish.contexto, *parish.connection, store).cargar(1, items);
     found = items.size();
   };

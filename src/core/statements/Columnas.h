@@ -161,6 +161,8 @@ class CopiaDeFilas {
                  columnas_[i].miembro);
     }
   }
+  /// Where the columns stand in the rows.
+  const std::vector<int>& lugares() const { return lugares_; }
 
  private:
   int lugar(std::string_view nombre) const {

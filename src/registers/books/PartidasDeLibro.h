@@ -1,6 +1,5 @@
 #pragma once
 
-#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <functional>
@@ -82,7 +81,9 @@ class PartidasDe final : public PartidasDeLibro {
   }
   std::size_t cuenta() const override { return coleccion_.size(); }
   PartidaEnLista partida(std::size_t posicion) const override {
-    return enLista(coleccion_.at(posicion));
+    if (const Registro* r = coleccion_.tocada(posicion)) return enLista(*r);
+    return {static_cast<std::int32_t>(coleccion_.numero(posicion, 0)), true, FDAPI::cCOperacion{},
+            coleccion_.numero(posicion, d_.lista.columnas.size() - 1) != 0};
   }
   void anular(std::size_t posicion, bool anulada) override {
     coleccion_.at(posicion).*d_.anulada = anulada;
@@ -92,9 +93,11 @@ class PartidasDe final : public PartidasDeLibro {
     ponerOperacion(coleccion_.at(posicion), FDAPI::cCOperacion::Borrar);
   }
   std::vector<std::string> celdas(std::size_t posicion, FDAPI::cFidaleon& fidaleon) const override {
+    // All that the list reads but the key before and the mark of annulment behind.
+    const std::size_t columnas = d_.lista.columnas.size();
     std::vector<std::string> celdas;
-    for (const Columna<Registro>& c : enRejilla())
-      celdas.push_back(valorTexto(coleccion_.at(posicion), c));
+    celdas.reserve(columnas);
+    for (std::size_t c = 1; c + 1 < columnas; ++c) celdas.push_back(coleccion_.texto(posicion, c));
     celdas.back() = fidaleon.stringdate(celdas.back());
     return celdas;
   }
@@ -127,7 +130,8 @@ class PartidasDe final : public PartidasDeLibro {
   std::string pendiente() const override {
     std::string texto;
     for (std::size_t i = 0; i < coleccion_.size(); ++i) {
-      const Registro& r = coleccion_[i];
+      if (!coleccion_.tocada(i)) continue;
+      const Registro& r = *coleccion_.tocada(i);
       const FDAPI::cCOperacion operacion = operacionDe(r);
       if (r.Estado && operacion == FDAPI::cCOperacion{}) continue;
       Apunte apunte;
@@ -154,13 +158,20 @@ class PartidasDe final : public PartidasDeLibro {
   PartidaEnLista enLista(const Registro& r) const {
     return {r.*d_.id, r.Estado, operacionDe(r), r.*d_.anulada};
   }
-  /// All that the list reads but the key before and the mark of annulment behind.
-  std::span<const Columna<Registro>> enRejilla() const {
-    return d_.lista.columnas.subspan(1, d_.lista.columnas.size() - 2);
+  /// The item that an entry to be put back is, or the one whose place it would take.
+  std::optional<std::size_t> lugarDe(const Registro& r) const {
+    for (std::size_t i = 0; i < coleccion_.size(); ++i) {
+      const bool es = r.Estado ? partida(i).id == r.*d_.id : mismoLugar(i, r);
+      if (es) return i;
+    }
+    return std::nullopt;
   }
-  bool mismoLugar(const Registro& a, const Registro& b) const {
-    const Tabla<Registro> lugar{d_.lista.nombre, "", "", enRejilla().first(2)};
-    return mismaFila(lugar, a, b);
+  /// Folio and number.
+  bool mismoLugar(std::size_t posicion, const Registro& r) const {
+    const auto igual = [&](std::size_t c) {
+      return coleccion_.texto(posicion, c) == valorTexto(r, d_.lista.columnas[c]);
+    };
+    return igual(1) && igual(2);
   }
 
   bool leer(FDAPI::Conexion& conBaseDatos, Registro& r) {
@@ -174,19 +185,14 @@ class PartidasDe final : public PartidasDeLibro {
                const std::function<bool(const PartidaEnLista&)>& tomar) {
     Registro r = leido(apunte);
     if (operacionDe(r) == FDAPI::cCOperacion::Borrar || !tomar(enLista(r))) return false;
-    const auto otra = std::find_if(coleccion_.begin(), coleccion_.end(), [&](const Registro& c) {
-      return r.Estado ? c.*d_.id == r.*d_.id : mismoLugar(c, r);
-    });
-    const bool esta = otra != coleccion_.end();
-    if (esta != r.Estado) return false;
-    if (!esta) {
+    const std::optional<std::size_t> otra = lugarDe(r);
+    if (otra.has_value() != r.Estado) return false;
+    if (!otra) {
       coleccion_.push_back(std::move(r));
       return true;
     }
-    const auto posicion = static_cast<std::size_t>(otra - coleccion_.begin());
-    if (!completar(conBaseDatos, posicion) || leidas_[posicion] != apunte.valor("Leida"))
-      return false;
-    coleccion_[posicion] = std::move(r);
+    if (!completar(conBaseDatos, *otra) || leidas_[*otra] != apunte.valor("Leida")) return false;
+    coleccion_.at(*otra) = std::move(r);
     return true;
   }
 
@@ -232,7 +238,7 @@ class PartidasDe final : public PartidasDeLibro {
   Contexto& contexto_;
   const DescripcionAlmacen<Registro>& d_;
   std::int32_t libro_ = 0;
-  std::vector<Registro> coleccion_;
+  PartidasListadas<Registro> coleccion_;
   std::map<std::size_t, std::string> leidas_;  // by place, of those read whole
 };
 

@@ -1,9 +1,11 @@
 #pragma once
 // The store of the entries of a sacrament: its tables are described, what is done to them is one.
 
+#include <algorithm>
 #include <cstdint>
 #include <span>
 #include <string>
+#include <type_traits>
 #include <utility>
 #include <vector>
 
@@ -15,6 +17,7 @@
 #include "registers/common/GuardarEntera.h"
 #include "registers/common/Guiones.h"
 #include "registers/common/Operacion.h"
+#include "registers/common/PartidasListadas.h"
 #include "store/Transaction.h"
 
 namespace fidaleon {
@@ -125,9 +128,11 @@ class Almacen {
   Almacen(Contexto& contexto, FDAPI::Conexion& conexion, const DescripcionAlmacen<Registro>& d)
       : contexto_(contexto), conexion_(conexion), d_(d) {}
 
-  /// The entries of a book in the order of their positions, with the columns of the list.
-  bool cargar(std::int32_t lngLibro, Coleccion& result) {
-    result.clear();
+  /// The entries of a book in the order of their positions, with the columns of the list. `result`:
+  /// a Coleccion or a PartidasListadas.
+  template <class Lista>
+  bool cargar(std::int32_t lngLibro, Lista& result) {
+    result = {};
     if (!d_.avisoCargar)
       return guardado(nombre("GrabarBasedatosColeccion"), [&] { leerLista(lngLibro, result); });
     try {
@@ -153,23 +158,26 @@ class Almacen {
   /// Does to the tables what each item says, each in one transaction. An item that went through is
   /// marked as done, so that a second call after a failure stores nothing twice. `blnSalto`: an old
   /// book's next free position is not the one after its last.
-  bool grabar(Coleccion& coleccion, bool& blnSalto) {
+  template <class Lista>
+  bool grabar(Lista& coleccion, bool& blnSalto) {
     const forms::Hourglass reloj(contexto_.ui());
     const std::string procedimiento = nombre("GrabarColeccionBaseDatos", d_.procGrabar);
-    for (Registro& item : coleccion)
-      if (pendiente(item) && !grabarEntera(procedimiento, item, blnSalto)) return false;
-    return true;
+    return cadaTocada(coleccion, [&](Registro& item) {
+      return !pendiente(item) || grabarEntera(procedimiento, item, blnSalto);
+    });
   }
 
   /// Deletes the items that reached the tables without all their rows and were not stored since.
-  bool retirarAMedias(Coleccion& coleccion) {
+  template <class Lista>
+  bool retirarAMedias(Lista& coleccion) {
     bool retiradas = true;
-    for (Registro& item : coleccion) {
-      if (item.Estado || item.*d_.id == 0) continue;
+    cadaTocada(coleccion, [&](Registro& item) {
+      if (item.Estado || item.*d_.id == 0) return true;
       ponerOperacion(item, FDAPI::cCOperacion::Borrar);
       bool blnSalto = false;
       retiradas = grabarEntera("RetirarAMedias", item, blnSalto) && retiradas;
-    }
+      return true;
+    });
     return retiradas;
   }
 
@@ -234,21 +242,36 @@ class Almacen {
     return guarded(contexto_, "cBaseDatos", procedimiento, std::forward<Body>(body));
   }
 
-  void leerLista(std::int32_t lngLibro, Coleccion& result) {
+  template <class Lista>
+  void leerLista(std::int32_t lngLibro, Lista& result) {
     const forms::Hourglass reloj(contexto_.ui());
-    // Records are large: a list that grows while it is read would move all of them again and again.
-    result.reserve(static_cast<std::size_t>(
+    const auto cuantas = static_cast<std::size_t>(
         conexion_
             .Execute(
                 sentencia(s(), "SELECT COUNT({IDPartida}) AS N FROM {Partidas} WHERE CodLibro=") +
                 std::to_string(lngLibro))
-            .integer("N")));
+            .integer("N"));
     store::Recordset filas = conexion_.Execute(d_.sqlLista(lngLibro));
     const CopiaDeFilas<Registro> copia(d_.lista, filas);
-    for (; !filas.EOF_(); filas.MoveNext()) {
-      copia.a(result.emplace_back());
-      result.back().Estado = true;
+    if constexpr (std::is_same_v<Lista, Coleccion>) {
+      // Records are large: a list that grows while it is read would move all of them.
+      result.reserve(cuantas);
+      for (; !filas.EOF_(); filas.MoveNext()) {
+        copia.a(result.emplace_back());
+        result.back().Estado = true;
+      }
+    } else {
+      result.empezar(d_.lista.columnas, cuantas);
+      for (; !filas.EOF_(); filas.MoveNext()) result.fila(filas, copia.lugares());
     }
+  }
+  template <class Hacer>
+  static bool cadaTocada(Coleccion& coleccion, Hacer&& hacer) {
+    return std::all_of(coleccion.begin(), coleccion.end(), hacer);
+  }
+  template <class Hacer>
+  static bool cadaTocada(PartidasListadas<Registro>& lista, Hacer&& hacer) {
+    return lista.cadaTocada(hacer);
   }
 
   bool pendiente(const Registro& item) const {

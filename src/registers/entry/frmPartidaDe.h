@@ -35,7 +35,7 @@ class frmPartidaDe : public frmPartida {
  public:
   using Coleccion = std::vector<Registro>;
   /// The list of the book; not owned, only with the origin of that list.
-  Coleccion* colPartidas = nullptr;
+  PartidasListadas<Registro>* colPartidas = nullptr;
 
  protected:
   /// The descriptions are not owned.
@@ -142,7 +142,10 @@ class frmPartidaDe : public frmPartida {
   std::vector<PartidaDeColeccion> coleccion() const final {
     std::vector<PartidaDeColeccion> partidas;
     partidas.reserve(colPartidas->size());
-    for (const Registro& r : *colPartidas) partidas.push_back({datosDe(r), r.Estado, borrada(r)});
+    for (std::size_t i = 0; i < colPartidas->size(); ++i) {
+      const Registro r = colPartidas->copia(i);
+      partidas.push_back({datosDe(r), r.Estado, borrada(r)});
+    }
     return partidas;
   }
   static bool borrada(const Registro& r) { return operacionDe(r) == FDAPI::cCOperacion::Borrar; }
@@ -236,7 +239,7 @@ class frmPartidaDe : public frmPartida {
   bool repetidaEnColeccion(const Registro& partida) const {
     if (!desdeLista()) return false;
     for (std::size_t i = 0; i < colPartidas->size(); ++i) {
-      const Registro& item = (*colPartidas)[i];
+      const Registro item = colPartidas->copia(i);
       const bool esElMismo = !esAlta() && i == lngPosicion;
       if (!esElMismo && !borrada(item) && mismosDatos(item, partida)) return true;
     }
