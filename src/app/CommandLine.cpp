@@ -10,20 +10,25 @@ namespace {
 struct Option {
   const char* name;
   CommandLine::Task task;
+  const char* needs;
 };
 
-constexpr std::array<Option, 3> WITH_DIRECTORY{{
-    {"--datos", CommandLine::Task::Desktop},
-    {"--demo", CommandLine::Task::Demo},
-    {"--pictures", CommandLine::Task::Pictures},
+constexpr std::array<Option, 5> OPTIONS{{
+    {"--datos", CommandLine::Task::Desktop, "una carpeta"},
+    {"--demo", CommandLine::Task::Demo, "una carpeta"},
+    {"--pictures", CommandLine::Task::Pictures, "una carpeta"},
+    {"--tabla", CommandLine::Task::Table, "un archivo"},
+    // Goes with the one above.
+    {"--codigos", CommandLine::Task::Table, "una página de códigos, como 850 o 1252"},
 }};
+constexpr const Option& CODE_PAGE = OPTIONS.back();
 
 CommandLine wrong(const std::string& complaint) {
-  return {CommandLine::Task::Wrong, {}, complaint};
+  return {CommandLine::Task::Wrong, {}, complaint, {}};
 }
 
 const Option* optionNamed(const std::string& name) {
-  for (const Option& o : WITH_DIRECTORY)
+  for (const Option& o : OPTIONS)
     if (name == o.name) return &o;
   return nullptr;
 }
@@ -35,21 +40,27 @@ CommandLine CommandLine::parse(const std::vector<std::string>& arguments) {
   bool given = false;
   for (std::size_t i = 0; i < arguments.size(); ++i) {
     const std::string& argument = arguments[i];
-    if (argument == "--help" || argument == "-h") return {Task::Help, {}, {}};
+    if (argument == "--help" || argument == "-h") return {Task::Help, {}, {}, {}};
     const std::size_t sign = argument.find('=');
     const Option* option = optionNamed(argument.substr(0, sign));
     if (!option) return wrong("Opción desconocida: " + argument);
-    if (given) return wrong("Solo puede darse una opción a la vez.");
     if (sign == std::string::npos && ++i == arguments.size())
-      return wrong("La opción " + argument + " necesita una carpeta.");
-    const std::string directory =
-        sign == std::string::npos ? arguments[i] : argument.substr(sign + 1);
-    if (directory.empty()) return wrong("La opción " + argument + " necesita una carpeta.");
-    if (!isReadable(directory)) return wrong(UNREADABLE_NAME);
+      return wrong("La opción " + argument + " necesita " + option->needs + ".");
+    const std::string value = sign == std::string::npos ? arguments[i] : argument.substr(sign + 1);
+    if (value.empty()) return wrong("La opción " + argument + " necesita " + option->needs + ".");
+    if (option == &CODE_PAGE) {
+      line.codePage = value;
+      continue;
+    }
+    if (given) return wrong("Solo puede darse una opción a la vez.");
+    // A table may come from a disk that names its files in another way.
+    if (option->task != Task::Table && !isReadable(value)) return wrong(UNREADABLE_NAME);
     line.task = option->task;
-    line.directory = directory;
+    line.path = value;
     given = true;
   }
+  if (!line.codePage.empty() && line.task != Task::Table)
+    return wrong("La opción --codigos solo va con --tabla.");
   return line;
 }
 
@@ -66,6 +77,12 @@ std::string CommandLine::help() {
          "                              y las personas, los grupos y sus informes; deja en la\n"
          "                              carpeta la parroquia, los documentos y un registro\n"
          "  fidaleon --pictures CARPETA guarda una imagen de cada diálogo y de cada documento\n"
+         "  fidaleon --tabla ARCHIVO    escribe una tabla de dBase o FoxPro como CSV en UTF-8, con "
+         "sus\n"
+         "                              memos y sin lo borrado; lo dudoso, por el canal de "
+         "errores\n"
+         "           --codigos PÁGINA   con --tabla: léela con esta página de códigos (850, "
+         "1252...)\n"
          "  fidaleon --help             muestra esta ayuda\n";
 }
 

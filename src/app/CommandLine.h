@@ -8,10 +8,11 @@ namespace fidaleon::app {
 
 /// What the program was asked to do.
 struct CommandLine {
-  enum class Task { Desktop, Demo, Pictures, Help, Wrong };
+  enum class Task { Desktop, Demo, Pictures, Table, Help, Wrong };
   Task task = Task::Desktop;
-  std::filesystem::path directory;  // of the data, the demo or the pictures; empty: the default
-  std::string complaint;            // of Wrong, in Spanish
+  std::filesystem::path path;  // the folder, or the file of Table; empty: the default
+  std::string complaint;       // of Wrong, in Spanish
+  std::string codePage;        // of Table; empty: what the table says
 
   static CommandLine parse(const std::vector<std::string>& arguments);
   static std::string help();

@@ -4,6 +4,7 @@
 #include <iostream>
 
 #include "app/CommandLine.h"
+#include "dbase/Csv.h"
 #include "qt/Spanish.h"
 #include "showroom/Demo.h"
 #include "showroom/Pictures.h"
@@ -29,12 +30,30 @@ class Application : public QApplication {
 int runTask(const CommandLine& line) {
   switch (line.task) {
     case CommandLine::Task::Demo:
-      return runDemo(line.directory, std::cout) ? 0 : 1;
+      return runDemo(line.path, std::cout) ? 0 : 1;
     case CommandLine::Task::Pictures:
-      return renderPictures(line.directory, std::cout) ? 0 : 1;
+      return renderPictures(line.path, std::cout) ? 0 : 1;
     default:
-      return Desktop().run(line.directory);
+      return Desktop().run(line.path);
   }
+}
+
+/// Needs neither a parish nor the toolkit.
+int printTable(const CommandLine& line) {
+  try {
+    dbase::Table table = dbase::Table::open(
+        line.path, line.codePage,
+        [](const dbase::Doubt& doubt) { std::cerr << doubt.sentence() << "\n"; });
+    dbase::writeCsv(table, std::cout);
+    if (table.deleted() > 0)
+      std::cerr << "Registros borrados, que no se muestran: " << table.deleted() << ".\n";
+    if (std::cout.flush()) return 0;
+    std::cerr << "No se ha podido escribir todo.\n";
+  } catch (const dbase::Error& error) {
+    std::cout.flush();
+    std::cerr << error.what() << "\n";
+  }
+  return 1;
 }
 
 bool needsNoWindow(const CommandLine& line) {
@@ -53,6 +72,7 @@ int runProgram(int argc, char** argv) {
     std::cerr << line.complaint << "\nfidaleon --help muestra las opciones.\n";
     return 2;
   }
+  if (line.task == CommandLine::Task::Table) return printTable(line);
   if (needsNoWindow(line)) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
   } else if (qEnvironmentVariableIsEmpty("DISPLAY") &&

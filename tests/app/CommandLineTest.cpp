@@ -8,9 +8,9 @@ namespace {
 TEST(CommandLine, understandsItsOptions) {
   using Task = CommandLine::Task;
   EXPECT_EQ(CommandLine::parse({}).task, Task::Desktop);
-  EXPECT_EQ(CommandLine::parse({"--datos", "/a b"}).directory, "/a b");
+  EXPECT_EQ(CommandLine::parse({"--datos", "/a b"}).path, "/a b");
   EXPECT_EQ(CommandLine::parse({"--demo=/x"}).task, Task::Demo);
-  EXPECT_EQ(CommandLine::parse({"--demo=/x"}).directory, "/x");
+  EXPECT_EQ(CommandLine::parse({"--demo=/x"}).path, "/x");
   EXPECT_EQ(CommandLine::parse({"--pictures", "/x"}).task, Task::Pictures);
   EXPECT_EQ(CommandLine::parse({"--help"}).task, Task::Help);
 }
