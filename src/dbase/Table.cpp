@@ -9,7 +9,7 @@ namespace fidaleon::dbase {
 
 namespace {
 
-constexpr std::size_t kPiece = 256 * 1024;
+constexpr std::size_t kPiece = 64 * 1024;
 constexpr char kLive = ' ';
 constexpr char kDeleted = '*';
 
@@ -52,7 +52,7 @@ struct Table::Reader {
   std::string_view beyondAnnounced(std::uint64_t at);
   bool isLive(std::string_view record);
   bool flag(std::string_view record, int bit) const;
-  void convert(std::string_view record, Row& row);
+  void convert(std::string_view record, std::int64_t number, Row& row);
   void convert(std::string_view record, const Field& field, Row& row, Cell& cell);
 
   Told told;
@@ -63,6 +63,7 @@ struct Table::Reader {
   Conversion conversion;
   std::int64_t record = 0;  // of the record read last
   std::int64_t deleted = 0;
+  std::vector<bool> skipped;  // columns; may be shorter than those
   bool ended = false;
   bool toldOfMore = false;
 };
@@ -145,12 +146,15 @@ bool Table::Reader::flag(std::string_view bytes, int bit) const {
   return (static_cast<unsigned char>(flags) >> (bit % 8) & 1) != 0;
 }
 
-void Table::Reader::convert(std::string_view bytes, Row& row) {
-  row.record_ = record;
+void Table::Reader::convert(std::string_view bytes, std::int64_t number, Row& row) {
+  row.record_ = number;
   row.texts_.clear();
   row.cells_.resize(header.fields.size());
   for (std::size_t i = 0; i < header.fields.size(); ++i)
-    convert(bytes, header.fields[i], row, row.cells_[i]);
+    if (i < skipped.size() && skipped[i])
+      row.cells_[i] = Cell();
+    else
+      convert(bytes, header.fields[i], row, row.cells_[i]);
   // Only now do the texts stay where they are.
   const char* text = row.texts_.data();
   for (Cell& cell : row.cells_) {
@@ -171,7 +175,7 @@ void Table::Reader::convert(std::string_view bytes, const Field& field, Row& row
   }
   if (const char* doubt = conversion.convert(field, value, row.texts_, cell)) {
     const bool lost = cell.isMissing() && field.letter != 'M' && field.letter != 'G';
-    tell(doubt + (lost ? " (" + shown(value) + ")" : std::string()), record, field.name);
+    tell(doubt + (lost ? " (" + shown(value) + ")" : std::string()), row.record_, field.name);
   }
 }
 
@@ -214,9 +218,23 @@ bool Table::next(Row& row) {
     const std::string_view bytes = reader_->nextRecord();
     if (bytes.empty()) return false;
     if (!reader_->isLive(bytes)) continue;
-    reader_->convert(bytes, row);
+    reader_->convert(bytes, reader_->record, row);
     return true;
   }
+}
+
+bool Table::at(std::int64_t record, Row& row) {
+  Reader& r = *reader_;
+  const std::uint64_t size = r.header.recordSize;
+  const std::uint64_t at = r.header.size + static_cast<std::uint64_t>(record - 1) * size;
+  if (record < 1 || !r.file.holds(at, size)) return false;
+  r.convert(r.file.at(at, size), record, row);
+  return true;
+}
+
+void Table::only(const std::vector<std::size_t>& columns) {
+  reader_->skipped.assign(fields().size(), true);
+  for (const std::size_t column : columns) reader_->skipped[column] = false;
 }
 
 std::int64_t Table::deleted() const {

@@ -58,6 +58,10 @@ class Table {
 
   /// The next row that is not deleted; false at the end. Throws Error when the file cannot be read.
   bool next(Row& row);
+  /// Any record by its number, deleted or not, out of the turn of next(); false when there is none.
+  bool at(std::int64_t record, Row& row);
+  /// From now on the other columns are not looked at, and are missing.
+  void only(const std::vector<std::size_t>& columns);
   /// Deleted ones met so far.
   std::int64_t deleted() const;
 

@@ -23,6 +23,7 @@ class LegacyTable {
     d.resize(11, '\0');
     d += letter + std::string(4, '\0') + char(width) + char(decimals) + std::string(14, '\0');
     descriptors_ += d;
+    hasMemos_ |= letter == 'M';
     columns_.push_back({letter, static_cast<std::size_t>(width)});
     return *this;
   }
@@ -54,7 +55,7 @@ class LegacyTable {
   }
   void write(const std::filesystem::path& folder, const std::string& name) const {
     std::ofstream(folder / (name + ".DBF"), std::ios::binary) << dbf();
-    if (!memoBlocks_.empty())
+    if (hasMemos_)
       std::ofstream(folder / (name + (memos == Memos::Fpt ? ".FPT" : ".DBT")), std::ios::binary)
           << memoFile();
   }
@@ -90,6 +91,7 @@ class LegacyTable {
   }
 
   std::vector<Column> columns_;
+  bool hasMemos_ = false;
   std::string descriptors_, records_, memoBlocks_;
   std::size_t count_ = 0;
 };

@@ -4,6 +4,8 @@
 #include <string>
 
 #include "core/contract/Contexto.h"
+#include "import/Etiquetas.h"
+#include "import/ResultadoImportacion.h"
 #include "registers/common/Anulacion.h"
 
 namespace fidaleon {
@@ -82,6 +84,29 @@ class cNucleo {
   /// Asks, and refuses a book that holds entries.
   void EliminarLibro(FDAPI::Conexion& conBaseDatos, std::int32_t IDlng,
                      const FDAPI::cConfig& objConfig, const std::string& strNodoPadre);
+
+  // The older program
+  /// Reads its four registers into old books (import/cImportarInpar.h): each whose folder is given.
+  /// Nothing is locked and nothing is asked. A flag says whether the parish behind it is used;
+  /// `lngFolio...` is the key of the books' format, `bytOrdenNombre` 0 when the given name stands
+  /// first in a full name, `strAno00` what stands in front of a year "00".
+  void ImportarInparGP(
+      FDAPI::Conexion& conBaseDatos, const FDAPI::ColEtiqueta& colEtiqueta,
+      const std::string& strRuta1, const std::string& strRuta2, const std::string& strRuta3,
+      const std::string& strRuta4, std::int32_t lngIDInstitucion, const std::string& strAno00,
+      FDAPI::cProgreso& abpProgreso, bool blnBautismo, const std::string& strParroquiaBaut,
+      const std::string& strDiocesisBaut, std::int32_t lngMunicipioBaut, bool blnConfirmacion,
+      const std::string& strParroquiaConf, const std::string& strDiocesisConf,
+      std::int32_t lngMunicipioConf, bool blnMatrimonio, const std::string& strParroquiaMatr,
+      const std::string& strDiocesisMatr, std::int32_t lngMunicipioMatr, bool blnDefuncion,
+      const std::string& strParroquiaDefn, const std::string& strDiocesisDefn,
+      std::int32_t lngMunicipioDefn, std::uint8_t bytOrdenNombre, std::int32_t lngFolioBaut,
+      std::int32_t lngFolioConf, std::int32_t lngFolioMatr, std::int32_t lngFolioDefn);
+  /// What the user has said besides, for the imports that follow: the code page, empty for what the
+  /// tables say; whether everything is only counted and nothing written.
+  void OpcionesImportacion(const std::string& strCodigos, bool blnEnsayo);
+  /// What came of the last one.
+  const ResultadoImportacion& UltimaImportacion() const { return ultimaImportacion_; }
 
   // Setup
   /// Asks for the data that documents need of every institution. False when the user gave up
@@ -247,6 +272,9 @@ class cNucleo {
                    const std::string& strNodo, FDAPI::cCOperacion operacion, const char* cuales);
 
   Contexto contexto_;
+  std::string codigosImportacion_;
+  bool ensayoImportacion_ = false;
+  ResultadoImportacion ultimaImportacion_;
 };
 
 }  // namespace fidaleon
