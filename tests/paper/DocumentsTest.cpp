@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <regex>
 
 #include "paper/PdfText.h"
 #include "paper/Report.h"
@@ -23,7 +24,20 @@ using ::testing::Not;
 class Documents : public ::testing::TestWithParam<const Documento*> {
  protected:
   bool isBook() const { return std::string_view(document.orden) == "libro"; }
-  int shortest() const { return isBook() ? 2 : 1; }  // a book has a title page
+  std::size_t sheets() const {
+    return readTemplate(FIDALEON_TEMPLATES, document.plantilla).bodies.size();
+  }
+  /// A book has a title page; a document of several sheets leaves out those that are not wanted.
+  bool isShortest(int pages) const {
+    return sheets() > 1 ? pages > 0 : pages == (isBook() ? 2 : 1);
+  }
+  /// Printed on the document that leaves no fact of its row out.
+  bool isFact(const std::string& column) const {
+    return std::string_view(document.plantilla) == "expediente_matrimonio_madrid" &&
+           !std::regex_match(column, std::regex(".*Corta|Letra|Año|CodDoc.*|TestigosParroquia|"
+                                                "NombreJuzgado|.*SujetoDerecho|Institucion[AET].+"
+                                                "|Novi[oa]Nacionalidad"));
+  }
   bool hasNotes() const {
     return readTemplate(FIDALEON_TEMPLATES, document.plantilla)
         .columns.contains(QStringLiteral("NotasMarginales"));
@@ -39,13 +53,13 @@ TEST_P(Documents, fullRow_printsOnItsPage_withItsValues) {
   const Values row = fullRow(document.operacion);
   insert(*reports_, document.operacion, row);
   const Report r = report();
-  EXPECT_EQ(r.pageCount(), shortest());
+  EXPECT_TRUE(isShortest(r.pageCount())) << r.pageCount();
   const std::string text = text::replaceAll(pdfText(r), "- ", "-");  // broken at a hyphen
   const FilasDocumento& person = *filasDocumento(*document.sacramento);
   const std::vector<std::string> expected{person.nombre, person.primerApellido,
                                           person.segundoApellido, "NombrePadre", "NombreMadre"};
   for (const auto& [column, value] : row) {
-    if (std::count(expected.begin(), expected.end(), column) == 0) continue;
+    if (!isFact(column) && std::count(expected.begin(), expected.end(), column) == 0) continue;
     EXPECT_THAT(text, HasSubstr(value)) << column;
   }
   EXPECT_THAT(text, Not(HasSubstr("---")));
@@ -54,7 +68,7 @@ TEST_P(Documents, fullRow_printsOnItsPage_withItsValues) {
 TEST_P(Documents, blankRow_printsOnItsPage_withoutDashesOrLooseEnds) {
   insert(*reports_, document.operacion, blankRow(document.operacion));
   const Report r = report();
-  EXPECT_EQ(r.pageCount(), shortest());
+  EXPECT_TRUE(isShortest(r.pageCount())) << r.pageCount();
   for (const char* unread : {"{{", "---", ", ,", " ,", "D. .", "Dª. ."})
     EXPECT_THAT(pdfText(r), Not(HasSubstr(unread)));
 }
@@ -80,8 +94,8 @@ TEST_P(Documents, longNotes_goOnOverleaf_withoutLosingAWord) {
 TEST_P(Documents, columnsOfTheTemplate_areFilledByItsMember) {
   const std::vector<std::string> filled = columnsOf(document.operacion);
   for (const QString& column : readTemplate(FIDALEON_TEMPLATES, document.plantilla).columns) {
-    if (column.startsWith('@')) continue;
-    const std::string name = column.toStdString();
+    if (column.startsWith('@') || column.startsWith(QLatin1String("examen"))) continue;
+    const std::string name = column.section('.', -1).toStdString();
     const bool found = std::any_of(filled.begin(), filled.end(), [&](const std::string& f) {
       return text::equalsNoCase(f, name) || text::equalsNoCase(f, "[" + name + "]");
     });

@@ -1,5 +1,6 @@
 #include "paper/Rows.h"
 
+#include <algorithm>
 #include <map>
 #include <set>
 
@@ -7,6 +8,7 @@
 #include "documents/Miembros.h"
 #include "documents/NotificacionSinLibro.h"
 #include "documents/TextRules.h"
+#include "store/schema/Schema.h"
 #include "text/Utf8.h"
 
 namespace fidaleon::paper::test {
@@ -18,6 +20,13 @@ bool endsIn(const std::string& s, const std::string& tail) {
 
 const std::map<std::string, std::string>& believable() {
   static const std::map<std::string, std::string> values{
+      {"CodDocumentos_Matrimonio", "1"},
+      {"EdadNovio", "33"},
+      {"EdadNovia", "31"},
+      {"TResidenciaDomActNovio", "4"},
+      {"TResidenciaDomActNovia", "7"},
+      {"FolioBautNovio", "98"},
+      {"FolioBautNovia", "21"},
       {"Libro", "Libro XXIII de Bautismos"},
       {"Folio", "137"},
       {"Numero", "12a"},
@@ -208,10 +217,32 @@ void adapt(const std::string& operation, Values& row) {
       if (c == "NotasMarginales") v = documents::paddedNotes(v);
 }
 
+std::vector<std::string> columnsIn(const std::string& table) {
+  std::vector<std::string> names;
+  for (const store::Column& c : store::reportsSchema().find(table)->columns())
+    if (c.type != store::Type::Counter) names.push_back(c.name);
+  return names;
+}
+
+/// The tables of the operation's rows.
+std::vector<std::string> tablesOf(const std::string& operation) {
+  const std::string table = filasDocumento(*documento(operation)->sacramento)->tabla;
+  std::vector<std::string> tables{table};
+  for (const char* beside : {"_Novios", "_Novias", "_Otros"})
+    if (store::reportsSchema().find(table + beside)) tables.push_back(table + beside);
+  return tables;
+}
+
 }  // namespace
 
 std::vector<std::string> columnsOf(const std::string& operation) {
   const Documento& d = *documento(operation);
+  if (const auto tables = tablesOf(operation); tables.size() > 1) {
+    std::set<std::string> names;
+    for (const std::string& table : tables)
+      for (const std::string& column : columnsIn(table)) names.insert(column);
+    return {names.begin(), names.end()};
+  }
   if (d.clase == ClaseDocumento::SinLibro) return documents::columnasNotificacion();
   const documents::Columns* columns = nullptr;
   if (d.clase == ClaseDocumento::Duplicada) {
@@ -230,15 +261,19 @@ std::vector<std::string> columnsOf(const std::string& operation) {
 
 Values fullRow(const std::string& operation) {
   Values row;
-  for (const std::string& column : columnsOf(operation))
-    row.emplace_back(column, believable().at(column));
+  // What has no value of its own here is known by its name.
+  for (const std::string& column : columnsOf(operation)) {
+    const auto found = believable().find(column);
+    row.emplace_back(column, found == believable().end() ? column : found->second);
+  }
   adapt(operation, row);
   return row;
 }
 
 Values blankRow(const std::string& operation) {
   Values row;
-  for (const std::string& column : columnsOf(operation)) row.emplace_back(column, "---");
+  for (const std::string& column : columnsOf(operation))
+    row.emplace_back(column, column.starts_with("CodDocumentos") ? "1" : "---");
   return row;
 }
 
@@ -253,7 +288,15 @@ Values with(Values row, const std::string& column, const std::string& value) {
 }
 
 void insert(store::Connection& reports, const std::string& operation, const Values& row) {
-  insert(reports, row, filasDocumento(*documento(operation)->sacramento)->tabla);
+  const auto tables = tablesOf(operation);
+  if (tables.size() == 1) return insert(reports, row, tables.front());
+  for (const std::string& table : tables) {
+    const auto columns = columnsIn(table);
+    Values own;
+    for (const auto& value : row)
+      if (std::count(columns.begin(), columns.end(), value.first) != 0) own.push_back(value);
+    insert(reports, own, table);
+  }
 }
 
 void insert(store::Connection& reports, const Values& row, const std::string& table) {
