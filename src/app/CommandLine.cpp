@@ -13,12 +13,13 @@ struct Option {
   const char* needs;
 };
 
-constexpr std::array<Option, 5> OPTIONS{{
+constexpr std::array<Option, 6> OPTIONS{{
     {"--datos", CommandLine::Task::Desktop, "una carpeta"},
     {"--demo", CommandLine::Task::Demo, "una carpeta"},
     {"--pictures", CommandLine::Task::Pictures, "una carpeta"},
     {"--tabla", CommandLine::Task::Table, "un archivo"},
-    // Goes with the one above.
+    {"--import", CommandLine::Task::Import, "un archivo"},
+    // Goes with --tabla.
     {"--codigos", CommandLine::Task::Table, "una página de códigos, como 850 o 1252"},
 }};
 constexpr const Option& CODE_PAGE = OPTIONS.back();
@@ -53,8 +54,9 @@ CommandLine CommandLine::parse(const std::vector<std::string>& arguments) {
       continue;
     }
     if (given) return wrong("Solo puede darse una opción a la vez.");
-    // A table may come from a disk that names its files in another way.
-    if (option->task != Task::Table && !isReadable(value)) return wrong(UNREADABLE_NAME);
+    // A file may come from a disk that names its files in another way.
+    const bool isFile = option->task == Task::Table || option->task == Task::Import;
+    if (!isFile && !isReadable(value)) return wrong(UNREADABLE_NAME);
     line.task = option->task;
     line.path = value;
     given = true;
@@ -83,6 +85,9 @@ std::string CommandLine::help() {
          "errores\n"
          "           --codigos PÁGINA   con --tabla: léela con esta página de códigos (850, "
          "1252...)\n"
+         "  fidaleon --import ARCHIVO   trae los registros del programa anterior como diga ese "
+         "archivo\n"
+         "                              de texto (manual, capítulo 15)\n"
          "  fidaleon --help             muestra esta ayuda\n";
 }
 

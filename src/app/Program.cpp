@@ -4,6 +4,7 @@
 #include <iostream>
 
 #include "app/CommandLine.h"
+#include "app/Import.h"
 #include "dbase/Csv.h"
 #include "qt/Spanish.h"
 #include "showroom/Demo.h"
@@ -73,6 +74,7 @@ int runProgram(int argc, char** argv) {
     return 2;
   }
   if (line.task == CommandLine::Task::Table) return printTable(line);
+  if (line.task == CommandLine::Task::Import) return importRegisters(line.path);
   if (needsNoWindow(line)) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
   } else if (qEnvironmentVariableIsEmpty("DISPLAY") &&

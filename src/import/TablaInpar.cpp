@@ -90,6 +90,8 @@ void TablaInpar::copiar(dbase::Table& claves, const RegistroInpar& registro) {
 }
 
 const dbase::Row& TablaInpar::at(std::int64_t registro) {
+  // What is doubtful in a row is told each time that it is read.
+  if (registro == fila_.record()) return fila_;
   if (!tabla_->at(registro, fila_)) throw dbase::Error("La tabla se ha cortado mientras se leía.");
   return fila_;
 }

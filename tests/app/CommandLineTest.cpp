@@ -12,6 +12,8 @@ TEST(CommandLine, understandsItsOptions) {
   EXPECT_EQ(CommandLine::parse({"--demo=/x"}).task, Task::Demo);
   EXPECT_EQ(CommandLine::parse({"--demo=/x"}).path, "/x");
   EXPECT_EQ(CommandLine::parse({"--pictures", "/x"}).task, Task::Pictures);
+  EXPECT_EQ(CommandLine::parse({"--tabla", "x.dbf", "--codigos=437"}).codePage, "437");
+  EXPECT_EQ(CommandLine::parse({"--import", "x.txt"}).task, Task::Import);
   EXPECT_EQ(CommandLine::parse({"--help"}).task, Task::Help);
 }
 
@@ -20,6 +22,7 @@ TEST(CommandLine, saysWhatIsWrong) {
   EXPECT_EQ(CommandLine::parse({"--deom", "x"}).complaint, "Opción desconocida: --deom");
   EXPECT_EQ(CommandLine::parse({"suelto"}).task, Task::Wrong);
   EXPECT_EQ(CommandLine::parse({"--demo"}).complaint, "La opción --demo necesita una carpeta.");
+  EXPECT_EQ(CommandLine::parse({"--codigos", "850"}).task, Task::Wrong);
   EXPECT_EQ(CommandLine::parse({"--demo="}).task, Task::Wrong);
   EXPECT_EQ(CommandLine::parse({"--demo", "a", "--datos", "b"}).task, Task::Wrong);
   EXPECT_EQ(CommandLine::parse({"--datos", "Bu\xF1uel"}).task, Task::Wrong);

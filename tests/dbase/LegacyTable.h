@@ -1,6 +1,7 @@
 #pragma once
 // Tables as older programs left them, byte by byte.
 
+#include <algorithm>
 #include <cstdint>
 #include <filesystem>
 #include <fstream>
