@@ -12,6 +12,7 @@
 #include "registers/cBaseDatos.h"
 #include "registers/confirmation/frmPartidaConfirmacion.h"
 #include "registers/death/frmPartidaDefuncion.h"
+#include "registers/marriage/frmPartidaMatrimonio.h"
 
 namespace fidaleon::tests {
 
@@ -52,6 +53,14 @@ struct OfBaptism {
   static constexpr const char* blanks =
       "Tiene campos sin rellenar. Estos campos se rellenarán con guiones. ¿Desea continuar?";
   static constexpr bool blanksOfOldToo = false;
+  /// A birth and a wedding are not of today.
+  static void settle(forms::FormDriver& d) {
+    if (d.text("adtpBautismo(1)") != "22/11/2026") return;
+    d.tab("mstBautismo", D::TAB_BAUTIZADO);
+    d.type("adtpBautismo(0)", "01/11/2026");
+    d.tab("mstBautismo", D::TAB_MATRIMONIO);
+    d.type("adtpBautismo(1)", "");
+  }
 };
 
 struct OfConfirmation {
@@ -81,6 +90,7 @@ struct OfConfirmation {
   static constexpr const char* blanks =
       "Tiene campos sin rellenar. Estos campos se rellenaran con guiones. ¿Desea continuar?";
   static constexpr bool blanksOfOldToo = true;
+  static void settle(forms::FormDriver&) {}
 };
 
 struct OfDeath {
@@ -109,10 +119,17 @@ struct OfDeath {
   static constexpr const char* replaced = "reemplazara";
   static constexpr const char* blanks = OfConfirmation::blanks;
   static constexpr bool blanksOfOldToo = true;
+  /// A death is hardly ever of today.
+  static void settle(forms::FormDriver& d) {
+    if (d.text("adtpDefuncion(1)") != "22/11/2026") return;
+    d.tab("mstDefuncion", D::TAB_DIFUNTO);
+    d.type("adtpDefuncion(1)", "20/11/2026");
+  }
 };
 
 struct OfMarriage {
   using Record = cMatrimonio;
+  using Book = frmPropiedadesLibroMatrimonio;
   static inline const Sacramento& sacrament = MATRIMONIO;
   static inline const DescripcionAlmacen<Record>& store = ALMACEN_MATRIMONIO;
   static constexpr auto load = &cBaseDatos::GrabarBasedatosColeccionMatrimonio;
@@ -130,7 +147,25 @@ struct OfMarriage {
     r.NoviaNombre = "Eva";
     r.NoviaPrimerApellido = "Sanz";
     r.NovioTResidenciaDomAct = 255;
+    r.NovioEdad = r.NoviaEdad = "0";
     r.NoviaFolioBaut = 12;
+  }
+  using D = frmPartidaMatrimonio;
+  static constexpr Place nameField{D::TAB_PERSONALES, D::Nombre};
+  static constexpr Place dayField{D::TAB_COMPROMISO, D::FechaMatrimonio};
+  static constexpr const char* movesTheBook = "22/11/2026";  // the date of one begun in 1900
+  static constexpr const char* replaced = "reemplazará";
+  static constexpr const char* blanks = OfConfirmation::blanks;
+  static constexpr bool blanksOfOldToo = true;
+  /// Names the bride; the wedding was not today.
+  static void settle(forms::FormDriver& d) {
+    d.tab("mstMatrimonio", D::TAB_PERSONALES + D::TABS_DE_NOVIA);
+    int field = D::NOVIA + D::Nombre;
+    for (const char* bride : {"Rosa", "Sanz", "Gil"})
+      d.type("txtMatrimonio(" + std::to_string(field++) + ")", bride);
+    const std::string day = "adtpMatrimonio(" + std::to_string(D::FechaMatrimonio) + ")";
+    d.tab("mstMatrimonio", D::TAB_COMPROMISO);
+    if (d.text(day) == "22/11/2026") d.type(day, "21/11/2026");
   }
 };
 
@@ -159,6 +194,8 @@ struct Register {
   bool blanksOfOldToo;
   const char* movesTheBook;
   const char* replaced;
+  /// Makes today go where it cannot be, and names a second person.
+  void (*settle)(forms::FormDriver&);
   std::string childTable;  // a row that the list of a book needs
   std::string childKey;
   std::string emptySign;  // an update that leaves the sign of an item read whole empty
@@ -184,6 +221,7 @@ Register registerOf(const char* emptySign) {
           R::blanksOfOldToo,
           R::movesTheBook,
           R::replaced,
+          &R::settle,
           child.nombre,
           child.columnas[0].nombre,
           emptySign,
@@ -202,6 +240,7 @@ inline const std::vector<Register>& registers() {
   static const std::vector<Register> all{
       registerOf<OfBaptism>("UPDATE Bautismo_Hijo SET Sexo=\"\""),
       registerOf<OfConfirmation>("UPDATE Confirmacion SET Parroquia=\"\""),
+      registerOf<OfMarriage>("UPDATE Matrimonio SET Parroquia=\"\""),
       registerOf<OfDeath>("UPDATE Defuncion SET Parroquia=\"\"")};
   return all;
 }

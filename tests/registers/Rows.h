@@ -65,6 +65,7 @@ struct EntryRow {
 
 /// The groom, and Rosa García Pérez.
 inline std::int32_t insertMarriage(TestWorld& w, Values groom, Values entry) {
+  groom.push_back({"Edad", quoted("0")});
   Values bride = groom;
   bride[0].second = quoted("Rosa");
   groom.push_back({"DNI", quoted("12345678-Z")});

@@ -119,8 +119,9 @@ bool frmPartida::otrosVacios() const {
 
 void frmPartida::rellenarGuiones() {
   cargando_ = true;
+  // What an edition does not show is stored so without being written.
   for (forms::TextBox* campo : textos_)
-    if (enBlanco(*campo)) campo->setText(GUIONES);
+    if (campo->visible() && enBlanco(*campo)) campo->setText(GUIONES);
   cargando_ = false;
 }
 

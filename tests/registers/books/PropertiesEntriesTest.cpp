@@ -156,7 +156,7 @@ TEST_P(BookEntries, AnnulAndValidate_ShowAtOnceAndAreStoredOnAcceptance) {
     d.row("msgPartidas", 2);
     EXPECT_EQ(d.text("cmdPartidas(2)"), "Anular");
     d.click("cmdPartidas(2)");
-    EXPECT_EQ(grid(d).cell(2, 6), "SI");
+    EXPECT_EQ(annulled(d, 2), "SI");
     EXPECT_EQ(d.text("cmdPartidas(2)"), "Anular") << "by the value before the change";
     EXPECT_FALSE(d.enabled("cmdPartidas(3)"));
     EXPECT_TRUE(d.enabled("cmdPartidas(1)"));
@@ -181,7 +181,7 @@ TEST_P(BookEntries, AnnulAndValidate_ShowAtOnceAndAreStoredOnAcceptance) {
     d.row("msgPartidas", 2);
     EXPECT_EQ(d.text("cmdPartidas(2)"), "Validar");
     d.click("cmdPartidas(2)");
-    EXPECT_EQ(grid(d).cell(2, 6), "NO");
+    EXPECT_EQ(annulled(d, 2), "NO");
     EXPECT_EQ(d.text("cmdPartidas(2)"), "Validar");
     acceptBook(d);
   });
@@ -198,7 +198,7 @@ TEST_P(BookEntries, AnnulledByAnotherDeskMeanwhile_IsToldAndNotValidated) {
     w.con().Execute(sql("UPDATE {Partidas} SET Anulada=1 WHERE Folio=2"));
     w.user.expectMessage("Otro puesto ya ha anulado esta partida: no se ha cambiado nada.");
     d.click("cmdPartidas(2)");
-    EXPECT_EQ(grid(d).cell(2, 6), "SI");
+    EXPECT_EQ(annulled(d, 2), "SI");
     EXPECT_EQ(d.text("cmdPartidas(2)"), "Validar");
     cancelBook(d);  // nothing to lose
   });
@@ -251,7 +251,7 @@ TEST_P(BookEntries, EntryHeldElsewhere_IsReadOnlyUntilItIsFree) {
     d.click("cmdPartidas(2)");
     remove(d, 2);
     EXPECT_THAT(shown(d), ElementsAre("1/1 Luis", "2/2 Eva"));
-    EXPECT_EQ(grid(d).cell(2, 6), "NO");
+    EXPECT_EQ(annulled(d, 2), "NO");
     EXPECT_EQ(w.user.messages().size(), 3u);
     w.user.expectForm(r.dialog, [&](FormDriver& e) {
       w.con().Execute("UPDATE " + nameTable() + " SET Nombre=\"Elena\" WHERE Nombre=\"Eva\"");
@@ -287,7 +287,7 @@ TEST_P(BookEntries, EntryThatLostARow_IsNotOpenedHalfRead) {
       w.user.expectMessage("¡No se han podido leer todos los datos de esta partida!");
       d.click(boton);
     }
-    EXPECT_EQ(grid(d).cell(1, 6), "NO");
+    EXPECT_EQ(annulled(d, 1), "NO");
     cancelBook(d);
   });
   EXPECT_SCRIPT_DONE(w.user);

@@ -5,6 +5,7 @@
 namespace fidaleon::tests {
 
 using ::testing::ElementsAre;
+using ::testing::ElementsAreArray;
 using ::testing::HasSubstr;
 
 class BookData : public PropertiesWorld {
@@ -22,6 +23,7 @@ TEST_P(BookData, Dialog_ShowsTheBookAndItsEntries) {
   const std::int32_t nuevo = book({"2003/01", true, 2, false, "20030115"});
   setType(nuevo, 1);
   fill(nuevo, {"Luis", "Eva", "Ana"}, 2);
+  const bool marriage = &r.sacrament == &MATRIMONIO;
   openBook(nuevo, [&](FormDriver& d) {
     EXPECT_EQ(d.caption(), "2003/01 (Libro Nuevo)");
     EXPECT_EQ(d.text("txtInstitucion"), "San Pedro");
@@ -33,13 +35,16 @@ TEST_P(BookData, Dialog_ShowsTheBookAndItsEntries) {
     EXPECT_EQ(d.text("txtFolios"), "2") << "two entries on one folio count once";
     EXPECT_EQ(d.text("dtpFecha"), "15/01/2003");
     const forms::Grid& g = grid(d);
-    const std::vector<std::string> headers{"Folio",       "Número", "Nombre", "1er Apellido",
-                                           "2º Apellido", "Fecha",  "Anulada"};
-    const std::vector<std::string> first{"1", "1", "Luis", "García", "Pérez", "10/05/1999", "NO"};
-    for (int c = 0; c < 7; ++c) {
-      EXPECT_EQ(g.header(c), headers[static_cast<std::size_t>(c)]);
-      EXPECT_EQ(g.cell(1, c), first[static_cast<std::size_t>(c)]);
-    }
+    const Rows persons = marriage ? Rows{"Nombre Novio=Luis",          "1er Apellido Novio=García",
+                                         "2º Apellido Novio=Pérez",    "Nombre Novia=Eva",
+                                         "1er Apellido Novia=Sanz",    "2º Apellido Novia=---",
+                                         "Fecha Matrimonio=10/05/1999"}
+                                  : Rows{"Nombre=Luis", "1er Apellido=García", "2º Apellido=Pérez",
+                                         "Fecha=10/05/1999"};
+    Rows cells;
+    for (int c = 0; c < g.columns(); ++c) cells.push_back(g.header(c) + "=" + g.cell(1, c));
+    EXPECT_THAT(Rows(cells.begin() + 2, cells.end() - 1), ElementsAreArray(persons));
+    EXPECT_EQ(cells[0] + cells[1] + cells.back(), "Folio=1Número=1Anulada=NO");
     d.tab("mstLibro", 1);
     EXPECT_EQ(d.focused(), "cmdPartidas(0)");
     d.tab("mstLibro", 0);
@@ -49,7 +54,9 @@ TEST_P(BookData, Dialog_ShowsTheBookAndItsEntries) {
     EXPECT_TRUE(d.closed()) << "nothing was changed, nothing is asked";
   });
   EXPECT_EQ(w.settings.read("Fidaleon",
-                            "ana\\Castellano\\Grids\\Propiedades Libros\\PropiedadesLibro", "2"),
+                            "ana\\Castellano\\Grids\\Propiedades Libros\\PropiedadesLibro" +
+                                std::string(marriage ? "Matrimonio" : ""),
+                            "2"),
             "2222");
   EXPECT_SCRIPT_DONE(w.user);
 }

@@ -163,7 +163,8 @@ class RequestedEntry : public EntryWorld {
   }
 };
 INSTANTIATE_TEST_SUITE_P(Registers, RequestedEntry,
-                         ::testing::Values(&BAPTISM_ENTRY, &CONFIRMATION_ENTRY), wordOf);
+                         ::testing::Values(&BAPTISM_ENTRY, &CONFIRMATION_ENTRY, &MARRIAGE_ENTRY),
+                         wordOf);
 
 TEST_P(RequestedEntry, New_IsStoredOutsideAnyBookAndCorrectedThere) {
   enter("Luis");
@@ -200,7 +201,8 @@ TEST_P(RequestedEntry, New_IsStoredOutsideAnyBookAndCorrectedThere) {
 TEST_P(RequestedEntry, WithoutInstitution_IsRefusedInItsOwnWords) {
   open(cCOperacion::ANADIRSOLICITUD, [&](FormDriver& d) {
     w.user.expectMessage(
-        "¡Antes de introducir datos en la solicitud, tiene que elegir una Institución!");
+        std::string("¡Antes de introducir datos en la solicitud, tiene que elegir una ") +
+        k.institutionWord + "!");
     tab(d, 1);
     cancel(d);
   });

@@ -42,28 +42,16 @@ struct EntryKind {
   bool annulsOld, annulsEdit;
   bool annulledIsLocked, notesStayOpen;
   const char* nextPlace;  // what stands there for the next entry
+  bool nextAtName;        // which is begun with the name
   /// The date of an old book of 1950 after its first entry, of 1961, its second, of 1970, and its
   /// third, of 1930.
   std::array<const char*, 3> bookDates;
-  int commits;                  // of a new entry
-  void (*settle)(FormDriver&);  // makes today go where it cannot be
+  int commits;  // of a new entry
+  /// Makes today go where it cannot be, and names a second person.
+  void (*settle)(FormDriver&);
+  const char* secondPerson = "";  // as questions have it behind the first
+  const char* institutionWord = "Institución";
 };
-
-/// A birth and a wedding are not of today.
-inline void settleBaptism(FormDriver& d) {
-  if (d.text("adtpBautismo(1)") != "22/11/2026") return;
-  d.tab("mstBautismo", frmPartidaBautismo::TAB_BAUTIZADO);
-  d.type("adtpBautismo(0)", "01/11/2026");
-  d.tab("mstBautismo", frmPartidaBautismo::TAB_MATRIMONIO);
-  d.type("adtpBautismo(1)", "");
-}
-
-/// A death is hardly ever of today.
-inline void settleDeath(FormDriver& d) {
-  if (d.text("adtpDefuncion(1)") != "22/11/2026") return;
-  d.tab("mstDefuncion", frmPartidaDefuncion::TAB_DIFUNTO);
-  d.type("adtpDefuncion(1)", "20/11/2026");
-}
 
 using DB = frmPartidaBautismo;
 inline const EntryKind BAPTISM_ENTRY{.s = BAUTISMO,
@@ -91,7 +79,7 @@ inline const EntryKind BAPTISM_ENTRY{.s = BAUTISMO,
                                      .nextPlace = "",
                                      .bookDates = {"19610705", "19700705", "19700705"},
                                      .commits = 3,
-                                     .settle = settleBaptism};
+                                     .settle = OfBaptism::settle};
 
 using DC = frmPartidaConfirmacion;
 inline const EntryKind CONFIRMATION_ENTRY{.s = CONFIRMACION,
@@ -119,8 +107,10 @@ inline const EntryKind CONFIRMATION_ENTRY{.s = CONFIRMACION,
                                           .annulledIsLocked = true,
                                           .notesStayOpen = true,
                                           .nextPlace = "San Juan",
+                                          .nextAtName = true,
                                           .bookDates = {"19610705", "19610705", "19610705"},
-                                          .commits = 2};
+                                          .commits = 2,
+                                          .settle = OfConfirmation::settle};
 
 using DD = frmPartidaDefuncion;
 inline const EntryKind DEATH_ENTRY{.s = DEFUNCION,
@@ -150,7 +140,41 @@ inline const EntryKind DEATH_ENTRY{.s = DEFUNCION,
                                    .nextPlace = "San Pedro",
                                    .bookDates = {"19500101", "19500101", "19500101"},
                                    .commits = 2,
-                                   .settle = settleDeath};
+                                   .settle = OfDeath::settle};
+
+using DM = frmPartidaMatrimonio;
+inline const EntryKind MARRIAGE_ENTRY{.s = MATRIMONIO,
+                                      .institution = DM::Institucion,
+                                      .book = DM::Libro,
+                                      .name = OfMarriage::nameField,
+                                      .where = {DM::TAB_COMPROMISO, DM::Parroquia},
+                                      .day = OfMarriage::dayField,
+                                      .born = {DM::TAB_PERSONALES, DM::ProvinciaNac},
+                                      .bornColumn = "CodMunicipioNac",
+                                      .notes = {DM::TAB_NOTAS, DM::NotasMarginales},
+                                      .remarks = DM::Observaciones,
+                                      .person = "matrimonio_novios",
+                                      .lastRow = "matrimonio_expediente",
+                                      .newCaption = "Alta de partida de matrimonio nueva",
+                                      .oldCaption = "Alta de partida de matrimonio antigua",
+                                      .editCaption = "Propiedades de partida de matrimonio ",
+                                      .requestCaption = "Nueva solicitud de matrimonio",
+                                      .position = ". Folio:1, número:1",
+                                      .noPosition = ".",
+                                      .replaced = OfMarriage::replaced,
+                                      .blanks = OfMarriage::blanks,
+                                      .asksOld = true,
+                                      .asksOther = true,
+                                      .annulsOld = true,
+                                      .annulledIsLocked = true,
+                                      .notesStayOpen = true,
+                                      .nextPlace = "San Pedro",
+                                      .nextAtName = true,
+                                      .bookDates = {"19610705", "19610705", "19610705"},
+                                      .commits = 2,
+                                      .settle = OfMarriage::settle,
+                                      .secondPerson = " y de Rosa Sanz Gil",
+                                      .institutionWord = "institución"};
 
 inline constexpr const char* FURTHER_ENTRY = "¿Desea dar de alta nuevas partidas?";
 
@@ -202,13 +226,12 @@ class EntryHands : public ::testing::Test {
   }
   void typePerson(FormDriver& d, const std::string& who, const std::string& first = "García",
                   const std::string& second = "Pérez") const {
-    if (k.settle) k.settle(d);
+    k.settle(d);
     tab(d, k.name.tab);
     d.type(text(k.name.index), who);
     d.type(text(k.name.index + 1), first);
     d.type(text(k.name.index + 2), second);
   }
-  bool series() const { return std::string(k.nextPlace) == "San Juan"; }
   void accept(FormDriver& d) const { d.click(button(0)); }
   void cancel(FormDriver& d) const { d.click(button(1)); }
   void acceptNew(FormDriver& d, Answer further) { acceptAfter(d, true, FURTHER_ENTRY, further); }
@@ -253,7 +276,7 @@ class EntryWorld : public EntryHands, public ::testing::WithParamInterface<const
 };
 
 inline const auto EVERY_ENTRY =
-    ::testing::Values(&BAPTISM_ENTRY, &CONFIRMATION_ENTRY, &DEATH_ENTRY);
+    ::testing::Values(&BAPTISM_ENTRY, &CONFIRMATION_ENTRY, &MARRIAGE_ENTRY, &DEATH_ENTRY);
 inline std::string wordOf(const ::testing::TestParamInfo<const EntryKind*>& info) {
   return info.param->s.palabra;
 }

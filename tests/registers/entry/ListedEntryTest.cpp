@@ -35,10 +35,9 @@ TEST_P(ListedEntry, SamePersonInTheWorkingCopy_AsksTheExistenceQuestion) {
     EXPECT_EQ(e.text("lblNumeroRepetido"), "El 1 ya está en el folio 1");
     typePerson(e, "Ana");
     if (k.asksOld && !k.asksOnce) w.user.expectMessage(k.blanks, Answer::Yes);
-    w.user.expectMessage(
-        "La partida de Ana García Pérez ya existe en el libro correspondiente, ¿Quiere "
-        "continuar?",
-        Answer::No);
+    w.user.expectMessage(std::string("La partida de Ana García Pérez") + k.secondPerson +
+                             " ya existe en el libro correspondiente, ¿Quiere continuar?",
+                         Answer::No);
     accept(e);
     cancel(e);
   });

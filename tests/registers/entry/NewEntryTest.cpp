@@ -24,9 +24,9 @@ TEST_P(NewEntry, UsualOne_IsStoredAndFollowedByTheNext) {
     EXPECT_EQ(d.text("txtLibro(1)"), "2");
     EXPECT_EQ(d.text(name()), "");
     EXPECT_EQ(d.text(text(k.where.index)), k.nextPlace);
-    EXPECT_EQ(d.text(date(k.day.index)), series() ? "20/11/2026" : "22/11/2026");
-    EXPECT_EQ(tab(d), series() ? k.name.tab : 0);
-    EXPECT_EQ(d.focused() == name(), series());
+    EXPECT_EQ(d.text(date(k.day.index)), &k.s == &CONFIRMACION ? "20/11/2026" : "22/11/2026");
+    EXPECT_EQ(tab(d), k.nextAtName ? k.name.tab : 0);
+    EXPECT_EQ(d.focused() == name(), k.nextAtName);
     cancel(d);
   });
   EXPECT_EQ(entries("Folio=1 AND Numero=\"1\" AND Parroquia=\"San Juan\""), 1);
@@ -39,7 +39,7 @@ TEST_P(NewEntry, RequiredFields_AreAskedForOneByOneAndBlanksAfterThem) {
   book("Libro 1");
   open(cCOperacion::ANADIR, [&](FormDriver& d) {
     chooseBook(d, "Libro 1");
-    if (k.settle) k.settle(d);
+    k.settle(d);
     w.user.expectMessage("Falta rellenar el campo «NOMBRE».");
     accept(d);
     EXPECT_EQ(d.focused(), name());
@@ -62,7 +62,8 @@ TEST_P(NewEntry, WithoutInstitutionOrBook_TabsAndAcceptanceAreRefused) {
   book("Cerrado", true, 3, "19900101", true);
   open(cCOperacion::ANADIR, [&](FormDriver& d) {
     w.user.expectMessage(
-        "¡Antes de introducir datos en la partida, tiene que elegir una Institución!");
+        std::string("¡Antes de introducir datos en la partida, tiene que elegir una ") +
+        k.institutionWord + "!");
     tab(d, 1);
     EXPECT_EQ(tab(d), 0);
     EXPECT_EQ(d.focused(), list(k.institution));
@@ -86,10 +87,9 @@ TEST_P(NewEntry, SamePersonAgain_AsksTheExistenceQuestion) {
       w.user.expectForm("frmBuscaPadres", [](FormDriver& hits) { hits.click("cmdBoton(1)"); });
     typePerson(d, "Luis");
     if (!k.asksOnce) w.user.expectMessage(k.blanks, Answer::Yes);
-    w.user.expectMessage(
-        "La partida de Luis García Pérez ya existe en el libro correspondiente, ¿Quiere "
-        "continuar?",
-        Answer::No);
+    w.user.expectMessage(std::string("La partida de Luis García Pérez") + k.secondPerson +
+                             " ya existe en el libro correspondiente, ¿Quiere continuar?",
+                         Answer::No);
     accept(d);
     EXPECT_FALSE(d.closed());
     cancel(d);
@@ -313,7 +313,7 @@ TEST_P(NewEntry, BookAndTownAddedFromInside_CanBeChosenAtOnce) {
 TEST_P(NewEntry, MarginalNotes_WarnOnceUntilTheyBecomeShorter) {
   book("Libro 1", false);
   const char* warning =
-      &k.s == &CONFIRMACION
+      &k.s == &CONFIRMACION || &k.s == &MATRIMONIO
           ? "El campo de notas marginales ha sobrepasado el límite máximo establecido para  los "
             "documentos. Si continúa introduciendo datos puede ser que algunos de los informes se "
             "impriman en varias hojas."

@@ -74,8 +74,9 @@ TEST_P(IncompleteEntries, Removed_GoWithAllTheirRows) {
                 ::testing::StartsWith("Libro Libro 1, folio 2, número 2. Le falta: " + lost() +
                                       ".\nSe perderá lo que queda de "));
     EXPECT_THAT(question.below,
-                EndsWith(&r.sacrament == &BAUTISMO ? "padre: Juan García; madre: Ana Pérez."
-                                                   : "Luis García Pérez."));
+                EndsWith(&r.sacrament == &BAUTISMO     ? "padre: Juan García; madre: Ana Pérez."
+                         : &r.sacrament == &MATRIMONIO ? "novia: Eva Sanz."
+                                                       : "Luis García Pérez."));
     EXPECT_EQ(question.byEnter, Answer::No);
     EXPECT_EQ(entries(), 3);
     w.user.expectMessage(sure, Answer::Yes);
