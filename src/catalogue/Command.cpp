@@ -204,6 +204,30 @@ void addDocumentCommands(std::vector<Command>& all) {
   add(document("notificacion", "&Notificación a la parroquia de bautismo…", "Ctrl+N",
                "Pide que se anote al margen de la partida de bautismo, con acuse de recibo",
                ENTRIES));
+  add(document("comunicacion", "Co&municación a las parroquias de bautismo…", "Ctrl+N",
+               "Una hoja para la parroquia de bautismo de cada contrayente, con acuse de recibo",
+               ENTRIES));
+  add(document("registro-civil", "&Notificación al Registro Civil…", "Ctrl+R",
+               "Certificación del matrimonio para que el Registro Civil lo inscriba", ENTRIES));
+  add(document("estado", "E&stado del expediente…", "", "Qué consta del expediente del matrimonio",
+               ENTRIES));
+  add(inToolbar("print",
+                document("expediente", "&Expediente matrimonial…", "Ctrl+P",
+                         "El expediente entero, con sus declaraciones y diligencias", REQUESTS)));
+  add(document("expediente-1", "Expediente (formato &1)…", "Ctrl+1",
+               "El expediente y, detrás, su estado", REQUESTS));
+  add(document("expediente-2", "Expediente (formato &2)…", "Ctrl+2",
+               "Los mismos datos en otra disposición", REQUESTS));
+  add(document("expediente-3", "Expediente (formato &3)…", "Ctrl+3",
+               "Según se tramite en la parroquia o se envíe a la curia", REQUESTS));
+  add(document("exhorto", "Ex&horto de amonestaciones…", "Ctrl+H",
+               "Pide a las parroquias de residencia que publiquen las amonestaciones", REQUESTS));
+  add(document("atestado", "&Atestado para otras diócesis…", "",
+               "Da fe de la libertad de los contrayentes para casarse en otra diócesis", REQUESTS));
+  add(document("resumen", "&Resumen (Allegato V), página 1…", "",
+               "Resumen del expediente: las personas y sus pruebas", REQUESTS));
+  add(document("resumen-2", "Resumen (Allegato V), pá&gina 2…", "",
+               "Resumen del expediente: amonestaciones, licencias y firmas", REQUESTS));
   add(inToolbar("print", document("datos", "&Datos de la solicitud…", "Ctrl+P",
                                   "Hoja con los datos de la solicitud", REQUESTS)));
   add(inToolbar("print", document("libro", "&Libro entero…", "Ctrl+P",

@@ -9,20 +9,23 @@ namespace fidaleon::documents {
 
 /// How a column's value comes about; "field" is a field of the record set.
 enum class Source {
-  Stored,           // the field as it is, Null as empty
-  Printable,        // the field through ValorImprimible
-  PrintableUpper,   // the same in capitals
-  DashesIfEmpty,    // the field, "---" when it is empty
-  PaddedNotes,      // the field with its dotted line
-  ShortDate,        // the date in the field, "dd/mm/yyyy"
-  LongDate,         // in words, in the wording of the document
-  LongDateMenorca,  // in words, in Catalan whatever the document's wording
-  LongDateSpanish,  // in words, in Spanish whatever the document's wording
-  LongDateAndYear,  // in Spanish, the year in words too
-  AgeAt,            // whole years from the date in the field to the one in `until`
+  Stored,                // the field as it is, Null as empty
+  Printable,             // the field through ValorImprimible
+  PrintableUpper,        // the same in capitals
+  DashesIfEmpty,         // the field, "---" when it is empty
+  PaddedNotes,           // the field with its dotted line
+  PrintablePaddedNotes,  // the same through ValorImprimible
+  ShortDate,             // the date in the field, "dd/mm/yyyy"
+  LongDate,              // in words, in the wording of the document
+  LongDateMenorca,       // in words, in Catalan whatever the document's wording
+  LongDateSpanish,       // in words, in Spanish whatever the document's wording
+  LongDateAndYear,       // in Spanish, the year in words too
+  AgeAt,                 // whole years from the date in the field to the one in `until`
   AgeToday,
   Town,           // name of the municipality whose key is in the field
   Province,       // name of its province
+  TownOrText,     // the same where the field, a text, may hold the name itself
+  ProvinceIfKey,  // and its province, "---" for such a name
   ChildWord,      // "al niño", "a la niña" and their like
   BornWord,       // "nacido", "nacida" and their like
   FormOfAddress,  // "D.", "Dª."
@@ -39,7 +42,7 @@ enum class Source {
 };
 
 /// Which quotes stand around the value in the statement.
-enum class Quoting { Double, Single };
+enum class Quoting { Double, Single, None };
 
 struct Column {
   const char* name;  // as the statement writes it, with brackets where it needs them

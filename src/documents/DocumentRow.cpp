@@ -1,8 +1,10 @@
 #include "documents/DocumentRow.h"
 
 #include <algorithm>
+#include <map>
 
 #include "core/statements/Citas.h"
+#include "text/Numbers.h"
 #include "text/Utf8.h"
 
 namespace fidaleon::documents {
@@ -30,18 +32,59 @@ bool isFixed(Source source) {
 }
 
 void appendQuoted(std::string& statement, const std::string& value, Quoting quoting) {
-  citarEn(statement, value, quoting == Quoting::Single ? '\'' : '"');
+  if (quoting == Quoting::None)
+    statement += value;
+  else
+    citarEn(statement, value, quoting == Quoting::Single ? '\'' : '"');
 }
+
+/// 0 for a text that is no number: nothing is found by it.
+std::int32_t keyIn(const std::string& text) {
+  return static_cast<std::int32_t>(text::toInteger(text).value_or(0));
+}
+
+class RecordsetSource : public FieldSource {
+ public:
+  explicit RecordsetSource(const store::Recordset& records) : records_(records) {
+    for (int i = 0; i < records.FieldCount(); ++i) places_.emplace(records.FieldName(i), i);
+  }
+  std::string text(std::string_view name) const override { return records_.text(name); }
+  std::int64_t integer(std::string_view name) const override { return records_.integer(name); }
+  /// A name that the record set spells or qualifies in another way comes last: it knows it all the
+  /// same.
+  int place(std::string_view name) const override {
+    const auto found = places_.find(name);
+    return found == places_.end() ? records_.FieldCount() : found->second;
+  }
+
+ private:
+  const store::Recordset& records_;
+  std::map<std::string, int, std::less<>> places_;
+};
 
 }  // namespace
 
 RowStatements::RowStatements(const DocumentKind& kind, const Signature& signature, Lookups& lookups,
                              const store::Recordset& entry)
+    : kind_(kind),
+      signature_(signature),
+      lookups_(lookups),
+      ofRecordset_(std::make_unique<RecordsetSource>(entry)),
+      entry_(*ofRecordset_) {
+  resolveColumns();
+}
+
+RowStatements::RowStatements(const DocumentKind& kind, const Signature& signature, Lookups& lookups,
+                             const FieldSource& entry)
     : kind_(kind), signature_(signature), lookups_(lookups), entry_(entry) {
+  resolveColumns();
+}
+
+void RowStatements::resolveColumns() {
   writeHead();
-  columns_.reserve(kind.columns.size());
-  fields_.reserve(kind.columns.size());
-  for (const Column& column : kind.columns) {
+  columns_.reserve(kind_.columns.size());
+  fields_.reserve(kind_.columns.size());
+  for (const Column& column : kind_.columns) {
     Filled& filled = columns_.emplace_back(Filled{&column, NO_FIELD, NO_FIELD, {}});
     if (isFixed(column.source)) {
       appendQuoted(filled.fixed, fixedValue(column), column.quoting);
@@ -73,19 +116,9 @@ std::size_t RowStatements::fieldOf(const char* name, bool isKey) {
   return fields_.size() - 1;
 }
 
-/// A name that the record set spells or qualifies in another way comes last: it knows it all the
-/// same.
 void RowStatements::orderFields() {
-  std::vector<std::pair<std::string, int>> places;
-  for (int i = 0; i < entry_.FieldCount(); ++i) places.emplace_back(entry_.FieldName(i), i);
-  std::stable_sort(places.begin(), places.end(),
-                   [](const auto& a, const auto& b) { return a.first < b.first; });
   for (std::size_t i = 0; i < fields_.size(); ++i) {
-    const auto found = std::lower_bound(
-        places.begin(), places.end(), fields_[i].name,
-        [](const auto& place, std::string_view name) { return place.first < name; });
-    const bool known = found != places.end() && found->first == fields_[i].name;
-    fields_[i].place = known ? found->second : entry_.FieldCount();
+    fields_[i].place = entry_.place(fields_[i].name);
     inOrder_.push_back(i);
   }
   std::stable_sort(inOrder_.begin(), inOrder_.end(), [&](std::size_t a, std::size_t b) {
@@ -155,6 +188,8 @@ std::string RowStatements::rowValue(const Column& column, const Field& field, co
       return field.text.empty() ? BLANK : field.text;
     case Source::PaddedNotes:
       return paddedNotes(field.text);
+    case Source::PrintablePaddedNotes:
+      return paddedNotes(ValorImprimible(field.text));
     case Source::ShortDate:
       return lookups_.shortDate(field.text);
     case Source::LongDate:
@@ -173,6 +208,11 @@ std::string RowStatements::rowValue(const Column& column, const Field& field, co
       return ValorImprimible(lookups_.town(field.key));
     case Source::Province:
       return ValorImprimible(lookups_.province(field.key));
+    case Source::TownOrText:
+      return ValorImprimible(text::toInteger(field.text) ? lookups_.town(keyIn(field.text))
+                                                         : field.text);
+    case Source::ProvinceIfKey:
+      return ValorImprimible(lookups_.province(keyIn(field.text)));
     case Source::ChildWord:
       return kind_.words->child(field.text);
     case Source::BornWord:

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -30,6 +31,16 @@ struct Signature {
   const store::Recordset* institution = nullptr;
 };
 
+/// Where the fields of a row come from, by the names that the columns give them.
+class FieldSource {
+ public:
+  virtual ~FieldSource() = default;
+  virtual std::string text(std::string_view name) const = 0;
+  virtual std::int64_t integer(std::string_view name) const = 0;
+  /// Fields are asked for in the order of their places.
+  virtual int place(std::string_view) const { return 0; }
+};
+
 /// The INSERTs of one run over a record set. What does not change from row to row is worked out
 /// once, and each field is read once a row, in the order in which the record set has it.
 class RowStatements {
@@ -37,21 +48,24 @@ class RowStatements {
   /// All must outlive this object.
   RowStatements(const DocumentKind& kind, const Signature& signature, Lookups& lookups,
                 const store::Recordset& entry);
+  RowStatements(const DocumentKind& kind, const Signature& signature, Lookups& lookups,
+                const FieldSource& entry);
   RowStatements(const RowStatements&) = delete;
   RowStatements& operator=(const RowStatements&) = delete;
 
-  /// The INSERT that carries the current row of the record set into the document's table; stands
-  /// until the next call. Throws store::Error for a field that the record set does not have.
+  /// The INSERT that carries what the entry has now into the document's table; stands until the
+  /// next call. Throws store::Error for a field that it does not have.
   const std::string& current();
 
  private:
   struct Field {
     std::string_view name;
-    int place;   // in the record set
+    int place;   // in the entry
     bool isKey;  // of a municipality
     std::string text;
     std::int32_t key = 0;
   };
+  void resolveColumns();
   void writeHead();
   /// The number of a field that a column takes.
   std::size_t fieldOf(const char* name, bool isKey);
@@ -63,7 +77,8 @@ class RowStatements {
   const DocumentKind& kind_;
   const Signature& signature_;
   Lookups& lookups_;
-  const store::Recordset& entry_;
+  std::unique_ptr<const FieldSource> ofRecordset_;  // only where the entry is a record set
+  const FieldSource& entry_;
   static constexpr std::size_t NO_FIELD = static_cast<std::size_t>(-1);
   struct Filled {
     const Column* column;

@@ -5,6 +5,7 @@
 #include "documents/BautismoStatements.h"
 #include "documents/ConfirmacionDocumentos.h"
 #include "documents/DefuncionDocumentos.h"
+#include "documents/MatrimonioPartes.h"
 
 namespace fidaleon::documents {
 
@@ -43,6 +44,23 @@ const std::vector<Duplicada>& duplicadas() {
        {"DuplicadasConfirmacion", "Documentos_Confirmacion", Wording::Castellano, nullptr,
         confirmacionDuplicate()},
        confirmacionDuplicateStatement},
+      {MATRIMONIO,
+       CcNodos::INFDUPLICADASMATRIMONIO,
+       {{{"Fecha de Matrimonio",
+          " ORDER BY FechaMatrimonio, Matrimonio.Folio, VAL(Matrimonio.Numero)",
+          "+{@FechaMatrimonio},+{@Folio},+{@Numero}"},
+         {"Fecha de Creación del Libro",
+          " ORDER BY Libro_Matrimonio.FechaCreacion, Matrimonio.Folio, VAL(Matrimonio.Numero)",
+          "+{@FechaCreacion},+{@Folio},+{@Numero}"},
+         {"Apellidos del Matrimonio",
+          " ORDER BY Matrimonio_Novios.PrimerApellido, Matrimonio_Novios.SegundoApellido, "
+          "Matrimonio_Novias.PrimerApellido, Matrimonio_Novias.SegundoApellido ",
+          "+{@Nombre}"}}},
+       {"DuplicadasMatrimonio", "Documentos_Matrimonio", Wording::Castellano, nullptr,
+        Cargar_Documentos_Matrimonio().matrimonio.columns},
+       matrimonioDuplicateStatement,
+       PROCESANDO,
+       Cargar_Documentos_Matrimonio},
       {DEFUNCION,
        CcNodos::INFDUPLICADASDEFUNCION,
        {{{"Fecha de Defunción",

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "core/contract/Sacramento.h"
+#include "documents/CargadorMatrimonio.h"
 #include "documents/DocumentRow.h"
 #include "documents/ProgresoImpresion.h"
 
@@ -28,6 +29,8 @@ struct Duplicada {
   /// Reads all entries of a year in the books of an institution, without an order.
   std::string (*sentencia)(std::int32_t ano, std::int32_t idInstitucion);
   const char* progreso = PROCESANDO;  // beside the bar
+  /// Writes the rows, and has its own transaction; null where `documento` is all there is.
+  const CargadorMatrimonio& (*cargador)() = nullptr;
 };
 
 const std::vector<Duplicada>& duplicadas();

@@ -11,15 +11,6 @@
 
 namespace fidaleon {
 
-namespace {
-
-bool hayPartidas(FDAPI::Conexion& conFidaleon, const std::string& check) {
-  const store::Recordset rs = conFidaleon.Execute(check);
-  return !rs.EOF_() && rs.Fields(0).Value().integer() != 0;
-}
-
-}  // namespace
-
 void cInformes::escribir(const char* miembro, FDAPI::Conexion& conFidaleon,
                          FDAPI::Conexion& conInformes, std::int32_t lngID,
                          const documents::Signature& signature) {
@@ -28,7 +19,7 @@ void cInformes::escribir(const char* miembro, FDAPI::Conexion& conFidaleon,
     store::Transaction transaction(conInformes);
     documents::Lookups lookups(contexto_, conFidaleon);
     const forms::Hourglass hourglass(contexto_.ui());
-    if (!escrito.check || hayPartidas(conFidaleon, escrito.check + std::to_string(lngID))) {
+    if (!escrito.check || documents::hayPartidas(conFidaleon, escrito.check, lngID)) {
       store::Recordset entries = conFidaleon.Execute(escrito.rows(lngID));
       documents::RowStatements rows(escrito.kind, signature, lookups, entries);
       const auto fidaleon = contexto_.fidaleon();

@@ -8,6 +8,10 @@
 
 namespace fidaleon {
 
+namespace documents {
+struct CargadorMatrimonio;
+}
+
 /// Writes the finished rows that the main program's templates print: one member per document and
 /// edition. Each reads an entry of `conFidaleon` by its key and adds one row to a table of
 /// `conInformes`, within a transaction; an entry that is not there adds none and is no error.
@@ -50,15 +54,49 @@ class cInformes {
   /// Asks for keeper and date first and prints the date alone; today's when the user gave up.
   Documento ImprimirPartidaDefuncion, ImprimirPartidaDefuncionMenorca;
 
+  // Marriage: Documentos_Matrimonio and the three tables beside it, one row in each for each
+  // marriage, in Madrid also Documentos_Matrimonio_Cursos. The loader asks by itself for what the
+  // document needs (keeper, exhorto, date, court); a dialog that is cancelled leaves no rows. An
+  // error while rows are being written is told as "number  - description".
+  Documento ImprimirCertificadoLiteralPartidaMatrimonio,
+      ImprimirCertificadoLiteralPartidaMatrimonioMenorca, ImprimirCertificadoPartidaMatrimonio,
+      ImprimirCertificadoPartidaMatrimonioMenorca;
+  Documento ImprimirPartidaMatrimonio, ImprimirPartidaMatrimonioMenorca, ImprimirVolanteMatrimonio,
+      ImprimirVolanteMatrimonioMenorca;
+  Documento ImprimirComunicacionMatrimonio, ImprimirComunicacionMatrimonioMenorca,
+      ImprimirComunicacionMatrimonioSantiago;
+  /// To the civil registry. The base one is Santiago's in the editions that address it to a court.
+  void ImprimirNotificacionMatrimonio(FDAPI::Conexion& conFidaleon, FDAPI::Conexion& conInformes,
+                                      std::int32_t lngID, const FDAPI::cConfig& gobjConfig);
+  void ImprimirNotificacionMatrimonioMenorca(FDAPI::Conexion& conFidaleon,
+                                             FDAPI::Conexion& conInformes, std::int32_t lngID,
+                                             const FDAPI::cConfig& gobjConfig);
+  Documento ImprimirEstadoExpMatr, ImprimirEstadoExpMatrMenorca;
+  // Of the dossier: a marriage that names no institution of its request has no row here.
+  Documento InformeExhortoMatrimonio, InformeExhortoMatrimonioMenorca, InformeAtestadoFueraDiocesis;
+  /// These three leave two rows: the dossier, then its state.
+  Documento ImprimirExpedienteFormato1, ImprimirExpedienteFormato2,
+      ImprimirExpedienteMatrimonialMenorca;
+  Documento ImprimirExpedienteFormatoMadrid;
+  /// Asks by which way the dossier goes, and hands that back for the choice of the template.
+  void ImprimirExpedienteFormato3(FDAPI::Conexion& conFidaleon, FDAPI::Conexion& conInformes,
+                                  std::int32_t lngID, bool& blnTramitaParroquia,
+                                  bool& blnEnviaCuria, bool& blnEnviaCuriaAntes);
+  /// The question alone; all are false when the user has cancelled.
+  void InformeExpedienteFormato3Plantilla(bool& blnTramitaParroquia, bool& blnEnviaCuria,
+                                          bool& blnEnviaCuriaAntes);
+  Documento ImprimirResumenMatrimonio, ImprimirResumenMatrimonio2;
+
   // A whole book by its key, one row for each entry, annulled ones too. A book without entries has
   // none and is told to nobody. The host's progress display is open while rows are being written; a
   // user who stops it there leaves the table as it was.
   Documento ImprimirLibroBautismo, ImprimirLibroBautismoMenorca;
   Documento ImprimirLibroConfirmacion, ImprimirLibroConfirmacionMenorca;
+  Documento ImprimirLibroMatrimonio, ImprimirLibroMatrimonioMenorca;
   Documento ImprimirLibroDefuncion, ImprimirLibroDefuncionMenorca;
   /// The same for all editions. Año is the year of the book on every row.
   Documento ImprimirIndiceLibroBautismo, ImprimirIndiceLibroConfirmacion,
-      ImprimirIndiceLibroDefuncion;
+      ImprimirIndiceLibroMatrimonio, ImprimirIndiceLibroDefuncion;
 
   // People and groups of the parish: Informe_Colaboradores. SelInf... asks what to print and writes
   // it; it says so when the table stays empty. Informe... writes all there is. An error, or a user
@@ -104,6 +142,10 @@ class cInformes {
   /// With the date that the user chooses with the keeper of the entry's institution.
   void escribirConFecha(const char* miembro, const char* sacramento, FDAPI::Conexion& conFidaleon,
                         FDAPI::Conexion& conInformes, std::int32_t lngID);
+  /// The same of a marriage, with the loader of documents::miembrosMatrimonio or another.
+  void cargarMatrimonio(const char* miembro, FDAPI::Conexion& conFidaleon,
+                        FDAPI::Conexion& conInformes, std::int32_t lngID,
+                        const documents::CargadorMatrimonio* cargador = nullptr);
   /// Asks what to print.
   void elegirInforme(const char* miembro, FDAPI::Conexion& conFidaleon,
                      FDAPI::Conexion& conInformes, FDAPI::cCOrigen modo);

@@ -12,6 +12,22 @@ namespace {
 
 constexpr int DIGITOS_ANO = 4;
 
+/// The bar of the dialog, and the host's display over it.
+class BarraYVentana : public FDAPI::cProgreso {
+ public:
+  BarraYVentana(forms::Progress& barra, FDAPI::cFidaleon& fidaleon, std::int64_t cuenta)
+      : barra_(barra), ventana_(fidaleon, cuenta) {}
+  void Cargar(std::int64_t, const std::string&, int, int) override {}
+  void setValue(std::int64_t fila) override {
+    barra_.setValue(fila);
+    ventana_.avanzar(static_cast<std::int32_t>(fila));
+  }
+
+ private:
+  forms::Progress& barra_;
+  documents::ProgresoImpresion ventana_;
+};
+
 }  // namespace
 
 frmInfDuplicadas::frmInfDuplicadas(Contexto& contexto)
@@ -81,26 +97,26 @@ void frmInfDuplicadas::cancelar() {
 
 void frmInfDuplicadas::imprimir(const documents::OrdenDuplicada& orden, std::int32_t ano,
                                 std::int32_t idInstitucion) {
-  empezarTransaccion();
+  if (!duplicada_->cargador) empezarTransaccion();
   strOrden = orden.strOrden;
   store::Recordset entries =
       conBaseDatos->Execute(duplicada_->sentencia(ano, idInstitucion) + orden.sql);
   const bool hay = !entries.EOF_();
-  if (hay)
-    escribirODeshacer(entries, idInstitucion);
-  else
+  if (!hay)
     forms::warn(ui(), "¡No se ha encontrado ningún registro!", forms::MsgIcon::Information);
-  terminarTransaccion();
+  else if (!escribirODeshacer(entries, idInstitucion))
+    return;
+  if (transaccionAbierta_) terminarTransaccion();
   if (hay) abpProgreso.setValue(0);
   Unload();
 }
 
 /// A user who stops the work keeps nothing of it, and is back in the dialog.
-void frmInfDuplicadas::escribirODeshacer(store::Recordset& entries, std::int32_t idInstitucion) {
+bool frmInfDuplicadas::escribirODeshacer(store::Recordset& entries, std::int32_t idInstitucion) {
   try {
-    escribir(entries, idInstitucion);
+    return escribir(entries, idInstitucion);
   } catch (const forms::Cancelled&) {
-    conInformes->RollbackTrans();
+    if (transaccionAbierta_) conInformes->RollbackTrans();
     transaccionAbierta_ = false;
     strOrden.clear();
     abpProgreso.setValue(0);
@@ -108,22 +124,31 @@ void frmInfDuplicadas::escribirODeshacer(store::Recordset& entries, std::int32_t
   }
 }
 
-void frmInfDuplicadas::escribir(store::Recordset& entries, std::int32_t idInstitucion) {
-  const store::Recordset institucion = conBaseDatos->Execute(
-      "SELECT * FROM Institucion WHERE IDInstitucion=" + std::to_string(idInstitucion));
+bool frmInfDuplicadas::escribir(store::Recordset& entries, std::int32_t idInstitucion) {
   const std::int64_t cuenta = entries.RecordCount();
   abpProgreso.Cargar(cuenta, duplicada_->progreso);
   abpProgreso.setValue(0);
+  const auto fidaleon = contexto_.fidaleon();
+  BarraYVentana progreso(abpProgreso, *fidaleon, cuenta);
+  if (!duplicada_->cargador)
+    escribirFilas(entries, idInstitucion, progreso);
+  else if (!documents::cargarDocumentos(contexto_, duplicada_->cargador(), entries,
+                                        cCTipoDocumento::DuplicadasMatrimonio, *conBaseDatos,
+                                        *conInformes, &progreso))
+    return false;
+  abpProgreso.setValue(cuenta);
+  return true;
+}
+
+void frmInfDuplicadas::escribirFilas(store::Recordset& entries, std::int32_t idInstitucion,
+                                     FDAPI::cProgreso& progreso) {
+  const store::Recordset institucion = conBaseDatos->Execute(
+      "SELECT * FROM Institucion WHERE IDInstitucion=" + std::to_string(idInstitucion));
   const documents::Signature signature{"", contexto_.hoy(), &institucion};
   documents::Lookups lookups(contexto_, *conBaseDatos);
   documents::RowStatements rows(duplicada_->documento, signature, lookups, entries);
-  const auto fidaleon = contexto_.fidaleon();
-  documents::ProgresoImpresion ventana(*fidaleon, cuenta);
-  documents::escribirFilas(rows, entries, *conInformes, [&](std::int32_t fila) {
-    abpProgreso.setValue(fila);
-    ventana.avanzar(fila);
-  });
-  abpProgreso.setValue(cuenta);
+  documents::escribirFilas(rows, entries, *conInformes,
+                           [&](std::int32_t fila) { progreso.setValue(fila); });
 }
 
 /// What a failed attempt of this dialog left must not be printed beside the rows of the next one.

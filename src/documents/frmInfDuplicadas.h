@@ -18,8 +18,9 @@ namespace fidaleon {
 /// back and the dialog stays.
 ///
 /// An error while rows are being written leaves the transaction on conInformes open, with some of
-/// the rows in it. The dialog stays, and takes them back before it tries again; once it has been
-/// closed, that is for the owner of the connection to do.
+/// the rows in it; the loader of marriages takes its own back. The dialog stays, and takes them
+/// back before it tries again; once it has been closed, that is for the owner of the connection to
+/// do.
 class frmInfDuplicadas : public Dialogo {
  public:
   explicit frmInfDuplicadas(Contexto& contexto);
@@ -52,8 +53,11 @@ class frmInfDuplicadas : public Dialogo {
   std::optional<std::int32_t> ano() const;
   void imprimir(const documents::OrdenDuplicada& orden, std::int32_t ano,
                 std::int32_t idInstitucion);
-  void escribirODeshacer(store::Recordset& entries, std::int32_t idInstitucion);
-  void escribir(store::Recordset& entries, std::int32_t idInstitucion);
+  /// False when an error, which has been told, has taken the rows back.
+  bool escribirODeshacer(store::Recordset& entries, std::int32_t idInstitucion);
+  bool escribir(store::Recordset& entries, std::int32_t idInstitucion);
+  void escribirFilas(store::Recordset& entries, std::int32_t idInstitucion,
+                     FDAPI::cProgreso& progreso);
   void empezarTransaccion();
   void terminarTransaccion();
 

@@ -16,8 +16,8 @@ QString field(const store::Recordset& entry, const char* name) {
   return QString::fromStdString(entry.text(name)).trimmed();
 }
 
-QString printed(const paper::Row& row, const char* column) {
-  return row.value(QString::fromLatin1(column)).trimmed();
+QString printed(const paper::Row& row, const QString& column) {
+  return row.value(column).trimmed();
 }
 
 std::string annulledEntries(const Sacramento& s, std::int32_t book) {
@@ -54,6 +54,13 @@ bool isShared(store::Connection& parish, const Sacramento& s, const store::Recor
               .EOF_();
 }
 
+QStringList personColumns(const PersonaDocumento& person) {
+  QStringList columns;
+  for (const char* own : {person.nombre, person.primerApellido, person.segundoApellido})
+    columns << QString::fromStdString(person.columna(own));
+  return columns;
+}
+
 }  // namespace
 
 QString annulledMark(bool catalan) {
@@ -74,19 +81,19 @@ Annulled::Annulled(store::Connection& parish, const Sacramento& sacrament, std::
 }
 
 QStringList Annulled::columns() const {
-  return {"InstitucionNombre", columns_.nombre, columns_.primerApellido, columns_.segundoApellido};
+  return QStringList{columns_.institucion} + personColumns(columns_.persona);
 }
 
 QString Annulled::mark(const paper::Row& row) const {
   QStringList at{printed(row, "Folio"), printed(row, "Numero")};
-  if (allBooks_) at << printed(row, "InstitucionNombre") << printed(row, "Libro");
+  if (allBooks_) at << printed(row, columns_.institucion) << printed(row, "Libro");
   const auto found = places_.find(joined(at));
   if (found == places_.end()) return {};
   const Place& place = found->second;
   if (!place.shared) return word_;
-  const QString person =
-      joined({printed(row, columns_.nombre), printed(row, columns_.primerApellido),
-              printed(row, columns_.segundoApellido)});
+  QStringList name;
+  for (const QString& column : personColumns(columns_.persona)) name << printed(row, column);
+  const QString person = joined(name);
   const bool isOne =
       std::find(place.persons.begin(), place.persons.end(), person) != place.persons.end();
   return isOne ? word_ : QString();

@@ -1,6 +1,7 @@
 #include "printing/DocumentReport.h"
 
 #include <memory>
+#include <utility>
 
 #include "core/contract/CcNodos.h"
 #include "core/statements/Sentencia.h"
@@ -67,27 +68,41 @@ struct Run {
   paper::ReportOptions& options;
 };
 
-void writeSigned(Run& r, const PasoFirmado& step) {
-  cNucleo& nucleo = r.desk.nucleo();
-  std::string keeper, date;
-  nucleo.SelecEncargado(r.desk.parish(), r.document.sacramento->palabra, r.id, date, keeper);
-  if (keeper.empty()) r.options.notices << withoutKeeper(date);
-  startAfresh(r.desk.reports());
-  (nucleo.*step.operacion)(r.desk.parish(), r.desk.reports(), r.id, keeper, date);
-}
+/// Runs the operation of the document over the empty tables.
+struct Writer {
+  Run& r;
 
-void writeRows(Run& r) {
-  if (const auto* step = std::get_if<PasoFirmado>(&r.document.paso)) return writeSigned(r, *step);
-  startAfresh(r.desk.reports());
-  if (const auto* step = std::get_if<PasoSimple>(&r.document.paso))
-    (r.desk.nucleo().*step->operacion)(r.desk.parish(), r.desk.reports(), r.id);
-  else if (r.document.clase == ClaseDocumento::Duplicada)
-    r.desk.nucleo().ImprimirDuplicadas(
-        r.desk.parish(), r.desk.reports(),
-        CcNodos::PARTIDAS + std::string(r.document.sacramento->palabra), r.options.order);
-  else if (r.document.clase == ClaseDocumento::SinLibro)
-    r.desk.nucleo().ImprimirPartidaSinLibro(r.desk.parish(), r.desk.reports(), r.desk.config());
-}
+  template <class... Arguments, class... Given>
+  void run(const PasoDocumento<Arguments...>& step, Given&&... given) const {
+    startAfresh(r.desk.reports());
+    (r.desk.nucleo().*step.operacion)(r.desk.parish(), r.desk.reports(), r.id,
+                                      std::forward<Given>(given)...);
+  }
+
+  void operator()(const PasoSimple& step) const { run(step); }
+  void operator()(const PasoConConfig& step) const { run(step, r.desk.config()); }
+  void operator()(const PasoFirmado& step) const {
+    std::string keeper, date;
+    r.desk.nucleo().SelecEncargado(r.desk.parish(), r.document.sacramento->palabra, r.id, date,
+                                   keeper);
+    if (keeper.empty()) r.options.notices << withoutKeeper(date);
+    run(step, keeper, date);
+  }
+  void operator()(const PasoConVias& step) const {
+    bool inParish = false, toCuria = false, toCuriaBefore = false;
+    run(step, inParish, toCuria, toCuriaBefore);
+  }
+  /// The class has an operation of its own.
+  void operator()(std::monostate) const {
+    startAfresh(r.desk.reports());
+    if (r.document.clase == ClaseDocumento::Duplicada)
+      r.desk.nucleo().ImprimirDuplicadas(
+          r.desk.parish(), r.desk.reports(),
+          CcNodos::PARTIDAS + std::string(r.document.sacramento->palabra), r.options.order);
+    else if (r.document.clase == ClaseDocumento::SinLibro)
+      r.desk.nucleo().ImprimirPartidaSinLibro(r.desk.parish(), r.desk.reports(), r.desk.config());
+  }
+};
 
 /// A request names its own institution, and its paper bears another's head all the same.
 void sayWhoseHead(Run& r) {
@@ -137,7 +152,7 @@ std::string known(const store::Recordset& row, const char* column) {
 }
 
 /// "García Pérez, Juan"
-std::string personOf(const store::Recordset& row, const FilasDocumento& columns) {
+std::string personOf(const store::Recordset& row, const PersonaDocumento& columns) {
   const std::string surnames =
       text::trim(known(row, columns.primerApellido) + " " + known(row, columns.segundoApellido));
   const std::string name = known(row, columns.nombre);
@@ -148,19 +163,25 @@ std::string personOf(const store::Recordset& row, const FilasDocumento& columns)
 
 std::string subjectOf(store::Connection& reports, const Documento& document) {
   const FilasDocumento* columns = filasDocumento(*document.sacramento);
-  const auto row = reports.Execute(std::string("SELECT * FROM ") + columns->tabla);
+  const auto rowOf = [&](const char* table) {
+    return reports.Execute(std::string("SELECT * FROM ") + table);
+  };
+  const auto row = rowOf(columns->tabla);
   if (row.EOF_()) return {};
   if (document.clase == ClaseDocumento::Libro) return known(row, "Libro");
   if (document.clase == ClaseDocumento::Duplicada) return known(row, "Año");
   // Of one of several notices a title must not tell the name.
   if (document.clase == ClaseDocumento::SinLibro && row.RecordCount() > 1) return {};
-  return personOf(row, *columns);
+  const std::string person = personOf(rowOf(columns->persona.tabla), columns->persona);
+  if (!columns->conyuge) return person;
+  const std::string spouse = personOf(rowOf(columns->conyuge->tabla), *columns->conyuge);
+  return person.empty() || spouse.empty() ? person + spouse : person + " y " + spouse;
 }
 
 std::optional<paper::Report> makeReport(Desk& desk, const Documento& document, std::int32_t id,
                                         paper::ReportOptions options) {
   Run run{desk, document, id, options};
-  writeRows(run);
+  std::visit(Writer{run}, document.paso);
   takeBackUnfinished(desk.reports());
   sayWhoseHead(run);
   addOfTheParish(run);

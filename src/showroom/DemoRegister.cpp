@@ -170,9 +170,9 @@ void DemoRegisterWalk::document(const std::string& command, const DemoPerson& pe
   if (keeper) w_.user().expectForm("frmEncargado", demo::chooseKeeper);
   const Documento& d = documentOf(command);
   const auto report = makeReport(w_.desk(), d, idOf(person));
-  const FilasDocumento* rows = filasDocumento(r_.sacrament);
-  const auto row = w_.desk().reports().Execute(std::string("SELECT * FROM ") + rows->tabla);
-  w_.check(row.text(rows->nombre) == person.name, std::string("el documento es de ") + person.name);
+  const PersonaDocumento& printed = filasDocumento(r_.sacrament)->persona;
+  const auto row = w_.desk().reports().Execute(std::string("SELECT * FROM ") + printed.tabla);
+  w_.check(row.text(printed.nombre) == person.name, std::string("el documento es de ") + person.name);
   if (d.firmado())
     w_.check(row.text("InstitucionEncargado") == demo::PRIEST, "lo firma el encargado elegido");
   w_.save(report, 1, fileOf(command), "partidas");
@@ -187,9 +187,9 @@ void DemoRegisterWalk::duplicate(const std::string& year, std::size_t rows,
   w_.user().expectForm("frmInfDuplicadas",
                        [&](FormDriver& d) { demo::chooseDuplicate(d, year, r_.bySurnames); });
   const auto report = makeReport(w_.desk(), documentOf("duplicadas"), 0);
-  const FilasDocumento* columns = filasDocumento(r_.sacrament);
-  const auto leading = w_.desk().reports().Execute(std::string("SELECT * FROM ") + columns->tabla);
-  w_.check(leading.text(columns->nombre) == first, "las partidas van por apellidos");
+  const PersonaDocumento& printed = filasDocumento(r_.sacrament)->persona;
+  const auto leading = w_.desk().reports().Execute(std::string("SELECT * FROM ") + printed.tabla);
+  w_.check(leading.text(printed.nombre) == first, "las partidas van por apellidos");
   w_.save(report, rows, fileOf("duplicado"), "partidas");
 }
 

@@ -110,7 +110,8 @@ void RegisterPictures::entriesOf(const Sacramento& s) {
 void RegisterPictures::documents() {
   const std::string edition = desk_.entorno().installation.Aplicacion;
   for (const Documento& d : documentos()) {
-    if (documento(*d.sacramento, d.orden, edition) != &d) continue;
+    if (documento(*d.sacramento, d.orden, edition) != &d || !dialogoDePartida(d.sacramento))
+      continue;
     user_.pose = poseFor(d);
     const auto report = makeReport(desk_, d, sampleOf(d));
     user_.pose = {};

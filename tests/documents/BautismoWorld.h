@@ -81,6 +81,18 @@ struct BautismoWorld : TestWorld {
       if (!rs.Fields(i).Value().isNull()) row[rs.FieldName(i)] = rs.Fields(i).Value().text();
     return row;
   }
+  /// All rows, without the keys that tie tables together.
+  std::vector<Row> todas(const std::string& tabla) {
+    std::vector<Row> rows;
+    for (store::Recordset rs = conInformes().Execute("SELECT * FROM " + tabla); !rs.EOF_();
+         rs.MoveNext()) {
+      Row& row = rows.emplace_back();
+      for (int i = 0; i < rs.FieldCount(); ++i)
+        if (!rs.Fields(i).Value().isNull() && !rs.FieldName(i).ends_with("Documentos_Matrimonio"))
+          row[rs.FieldName(i)] = rs.Fields(i).Value().text();
+    }
+    return rows;
+  }
   std::string columna(const std::string& nombre) { return fila()[nombre]; }
 
   std::int32_t getafe = 0;

@@ -68,13 +68,14 @@ TEST_P(DuplicatesDialog, Row_FillsItsColumnsAndNoOther) {
   dialogo.strNodo = std::string("Partidas") + r.sacramento.palabra;
   una.user.expectForm(DIALOGO, [&](FormDriver& u) { pedir(u, r.porFecha, r.ano); });
   dialogo.Show();
-  EXPECT_EQ(una.fila(r.filas().tabla), r.duplicada());
+  EXPECT_THAT(una.todas(r.filas().tabla), ElementsAre(r.duplicada()));
   EXPECT_FALSE(una.conInformes().inTransaction());
   EXPECT_EQ(una.user.hourglassDepth(), 0);
   EXPECT_SCRIPT_DONE(una.user);
 }
 
 TEST_P(DuplicatesDialog, BlankInstitution_IsWrittenAsStoredButItsPlaces) {
+  if (r.porCargador()) return;  // whose columns are in a table of their own
   w.run("UPDATE Institucion SET Parroco=NULL, InstitucionTipo=\"\", CodMunicipio=0");
   w.en("UPDATE {Libros} SET FechaCreacion=\"---\"");
   imprimir(r.porFecha);
@@ -105,7 +106,7 @@ TEST_P(DuplicatesDialog, Orders_ArrangeTheRowsAndNameTheFormulas) {
   w.agregar(
       {.apellido = "Abad", .nombre = "Bea", .folio = "40", .libro = viejo, .fecha = "20031231"});
   for (const auto& caso : casos) {
-    w.conInformes().Execute(std::string("DELETE * FROM ") + r.filas().tabla);
+    w.vaciarInformes();
     EXPECT_EQ(imprimir(caso.texto), caso.strOrden);
     EXPECT_EQ(w.nombres(), caso.nombres) << caso.texto;
   }
@@ -197,19 +198,21 @@ TEST_P(DuplicatesDialog, Bar_CountsTheRowsAndIsReset) {
               ElementsAre("open 2 Procesando vista preliminar ...", "1", "2", "close"));
 }
 
-TEST_P(DuplicatesDialog, RowFails_LeavesTheTransactionOpenAndTheDialogToTryAgain) {
+TEST_P(DuplicatesDialog, RowFails_LeavesTheTransactionToItsOwnerAndTheDialogToTryAgain) {
   w.agregar({});
   auto* motor = store::FailingEngine::wrap(w.conInformes());
-  motor->failOn("INSERT INTO Documentos_", store::ErrorKind::Other, 2);
+  motor->failOn(r.insercion(), store::ErrorKind::Other, 2);
   w.user.answerAnything(forms::Answer::Ok);
   const std::string orden = mostrar([&](FormDriver& u) {
     pedir(u, r.porFecha, "2003");
     EXPECT_FALSE(u.closed());
-    EXPECT_TRUE(w.conInformes().inTransaction());
-    EXPECT_EQ(w.filas(), 1);
-    EXPECT_THAT(w.user.messages().at(0).text,
-                HasSubstr(std::string("FidaleonNucleo / frmInfDuplicadas / Duplicadas") +
-                          r.sacramento.palabra + ")"));
+    EXPECT_EQ(w.conInformes().inTransaction(), !r.porCargador());
+    EXPECT_EQ(w.filas(), r.porCargador() ? 0 : 1);
+    EXPECT_THAT(
+        w.user.messages().at(0).text,
+        HasSubstr(r.porCargador() ? "  - "
+                                  : std::string("FidaleonNucleo / frmInfDuplicadas / Duplicadas") +
+                                        r.sacramento.palabra + ")"));
     pedir(u, r.porFecha, "2003");
   });
   EXPECT_EQ(w.filas(), 2) << "no row of the first attempt";
@@ -227,8 +230,8 @@ TEST_P(DuplicatesDialog, CancelledAfterAFailure_LeavesTheTransactionToTheConnect
     u.click("cmdBoton(1)");
   });
   EXPECT_EQ(orden, "");
-  EXPECT_TRUE(w.conInformes().inTransaction());
-  w.conInformes().RollbackTrans();
+  EXPECT_EQ(w.conInformes().inTransaction(), !r.porCargador());
+  if (!r.porCargador()) w.conInformes().RollbackTrans();
   EXPECT_EQ(w.filas(), 0);
 }
 

@@ -6,6 +6,7 @@
 #include <variant>
 #include <vector>
 
+#include "DialogosDocumento.h"
 #include "PartidasWorld.h"
 
 namespace fidaleon::tests {
@@ -23,18 +24,25 @@ struct Sacramental {
   const char* parroquia;               // column of its parish
   const char* conNotas;                // table of the marginal notes
   std::vector<const char*> solicitud;  // makes a request of the entry
+  bool porCargador = false;            // the loader of marriages tells of its errors by itself
 };
+
+using ConConfig = void (cInformes::*)(FDAPI::Conexion&, FDAPI::Conexion&, std::int32_t,
+                                      const FDAPI::cConfig&);
+using ConVias = void (cInformes::*)(FDAPI::Conexion&, FDAPI::Conexion&, std::int32_t, bool&, bool&,
+                                    bool&);
 
 struct Golden {
   const char* miembro;
-  std::variant<Firmado, SinFirma> imprimir;
+  std::variant<Firmado, SinFirma, ConConfig, ConVias> imprimir;
   const Sacramental* sacramento;
   Row fila;
   bool solicitud = false;
-  bool preguntaFecha = false;     // asks for keeper and date, and is told 3 November
-  const char* lectura = nullptr;  // the statement behind the row
+  std::vector<std::string> detras = {};  // statements behind the row
+  std::map<std::string, Row> companeras = {};
+  int filas = 1;
 
-  void ejecutar(PartidasWorld& w) const;
+  void ejecutar(PartidasWorld& w, bool hayQueImprimir = true) const;
 };
 
 /// A note with its dotted line.
@@ -60,10 +68,12 @@ inline void PrintTo(const Golden& golden, std::ostream* out) {
 std::vector<Golden> bautismos();
 std::vector<Golden> confirmaciones();
 std::vector<Golden> defunciones();
+std::vector<Golden> matrimonios();
 
 Row duplicadaDeBautismo();
 Row duplicadaDeConfirmacion();
 Row duplicadaDeDefuncion();
+Row duplicadaDeMatrimonio();
 
 /// What an index and a duplicate say of the parish of PartidasWorld.
 inline const Row PARROQUIA{{"InstitucionNombre", "San Ginés Mártir"},

@@ -7,6 +7,7 @@
 #include "GoldenRows.h"
 #include "core/facade/Documentos.h"
 #include "core/statements/Sentencia.h"
+#include "registers/common/FormaPartida.h"
 
 namespace fidaleon::tests {
 
@@ -23,6 +24,9 @@ struct Registro {
   const char* ano;  // of the entry in PartidasWorld
 
   const FilasDocumento& filas() const { return *filasDocumento(sacramento); }
+  /// The loader of marriages has its own transaction, and tells of its errors by itself.
+  bool porCargador() const { return &sacramento == &MATRIMONIO; }
+  std::string insercion() const { return std::string("INSERT INTO ") + filas().tabla + " ("; }
   std::string miembro(const char* cual) const {
     return std::string("Imprimir") + cual + sacramento.palabra;
   }
@@ -38,6 +42,10 @@ inline const Registro REGISTROS[] = {
      "Duplicadas de confirmación", "Fecha de Confirmación", "+{@FechaConfirmacion}",
      "Apellidos del Confirmado", "Procesando vista preliminar ...", duplicadaDeConfirmacion,
      "2019"},
+    {MATRIMONIO, &cInformes::ImprimirLibroMatrimonio, &cInformes::ImprimirLibroMatrimonioMenorca,
+     &cInformes::ImprimirIndiceLibroMatrimonio, "Duplicadas de matrimonio", "Fecha de Matrimonio",
+     "+{@FechaMatrimonio}", "Apellidos del Matrimonio", "Procesando vista preliminar ...",
+     duplicadaDeMatrimonio, "2020"},
     {DEFUNCION, &cInformes::ImprimirLibroDefuncion, &cInformes::ImprimirLibroDefuncionMenorca,
      &cInformes::ImprimirIndiceLibroDefuncion, "Duplicadas de defunción", "Fecha de Defunción",
      "+{@FechaDefuncion}", "Apellidos del Difunto", "Procesando vista preliminar...",
@@ -69,9 +77,7 @@ struct LibroWorld : PartidasWorld {
     run(sentencia(registro.sacramento, plantilla) + resto);
   }
   /// Where the register keeps the name.
-  const char* tablaPersona() const {
-    return &registro.sacramento == &BAUTISMO ? "Bautismo_Hijo" : registro.sacramento.tablaPartidas;
-  }
+  const char* tablaPersona() const { return formaPartida(registro.sacramento)->personas.front(); }
   /// The key of the new entry; baptisms share their parents and their marriage.
   std::string agregar(const Entrada& e) {
     const std::string posicion =
@@ -91,6 +97,7 @@ struct LibroWorld : PartidasWorld {
           ultima() + ", " + persona);
       return ultima();
     }
+    if (registro.porCargador()) return casar(posicion, persona, fecha);
     en("INSERT INTO {Partidas} (CodLibro, Folio, Numero, Nombre, PrimerApellido, "
        "SegundoApellido) VALUES (",
        posicion + ", " + persona);
@@ -102,6 +109,22 @@ struct LibroWorld : PartidasWorld {
     } else {
       run("INSERT INTO Defuncion_Datos (CodDifunto, FechaDefuncion) VALUES (" + id + fecha);
     }
+    return id;
+  }
+  /// The groom, and the bride of PartidasWorld.
+  std::string casar(const std::string& posicion, const std::string& persona,
+                    const std::string& fecha) {
+    run("INSERT INTO Matrimonio_Novios (Nombre, PrimerApellido, SegundoApellido) VALUES (" +
+        persona);
+    const std::string novio = value("SELECT MAX(IDNovios) AS ID FROM Matrimonio_Novios");
+    for (const char* ficha : {"Bautismo", "RegCivil"})
+      run(std::string("INSERT INTO Matrimonio_Novios_") + ficha + " (CodNovios) VALUES (" + novio +
+          ")");
+    run("INSERT INTO Matrimonio (CodNovios, CodNovias, CodLibro, Folio, Numero) VALUES (" + novio +
+        ", 1, " + posicion + ")");
+    const std::string id = value("SELECT MAX(IDMatrimonio) AS ID FROM Matrimonio");
+    run("INSERT INTO Matrimonio_Compromiso (CodMatrimonio, FechaMatrimonio) VALUES (" + id + fecha);
+    run("INSERT INTO Matrimonio_Expediente (CodMatrimonio) VALUES (" + id + ")");
     return id;
   }
   /// The key of a further book.
@@ -117,16 +140,24 @@ struct LibroWorld : PartidasWorld {
 
   void imprimir(SinFirma miembro) { (informes.*miembro)(con(), conInformes(), 1); }
   std::int64_t filas() { return PartidasWorld::filas(registro.filas().tabla); }
+  void vaciarInformes() {
+    for (const char* tabla : {registro.filas().tabla, registro.filas().persona.tabla})
+      conInformes().Execute(std::string("DELETE * FROM ") + tabla);
+  }
+  /// The table that holds a column.
+  std::string tablaDe(const std::string& columna) const {
+    const PersonaDocumento& p = registro.filas().persona;
+    return columna == p.nombre || columna == p.primerApellido ? p.tabla : registro.filas().tabla;
+  }
   /// A column of all rows, in the order in which they were written.
   std::vector<std::string> columnas(const std::string& nombre) {
     std::vector<std::string> todas;
-    for (store::Recordset rs =
-             conInformes().Execute(std::string("SELECT * FROM ") + registro.filas().tabla);
+    for (store::Recordset rs = conInformes().Execute("SELECT * FROM " + tablaDe(nombre));
          !rs.EOF_(); rs.MoveNext())
       todas.push_back(rs.text(nombre));
     return todas;
   }
-  std::vector<std::string> nombres() { return columnas(registro.filas().nombre); }
+  std::vector<std::string> nombres() { return columnas(registro.filas().persona.nombre); }
 
   const Registro& registro;
 };

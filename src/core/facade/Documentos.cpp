@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "core/contract/FDAPI.h"
+#include "documents/MiembrosMatrimonio.h"
 
 namespace fidaleon {
 
@@ -16,6 +17,8 @@ constexpr auto SIN_LIBRO = ClaseDocumento::SinLibro;
 constexpr const char* COMUN = "";
 constexpr const char* MENORCA = FDAPI::cCAplicacion::APP_FIDALEON_MENORCA;
 constexpr const char* SANTIAGO = FDAPI::cCAplicacion::APP_FIDALEON_SANTIAGO;
+constexpr const char* CON_JUZGADO = documents::EDICION_CON_JUZGADO;
+constexpr const char* MADRID = FDAPI::cCAplicacion::APP_FIDALEON_MADRID;
 
 using N = cNucleo;
 using I = cInformes;
@@ -170,6 +173,116 @@ const Documento TODOS[] = {
      "duplicado_confirmacion",
      "Duplicado de confirmaciones"},
 
+    {&MATRIMONIO, PARTIDA, "certificado", COMUN, "InformeCertificadoPartidaMatrimonio",
+     PasoSimple{&N::InformeCertificadoPartidaMatrimonio, &I::ImprimirCertificadoPartidaMatrimonio},
+     "certificado_matrimonio", "Certificado de matrimonio"},
+    {&MATRIMONIO, PARTIDA, "certificado", MENORCA, "InformeCertificadoPartidaMatrimonioMenorca",
+     PasoSimple{&N::InformeCertificadoPartidaMatrimonioMenorca,
+                &I::ImprimirCertificadoPartidaMatrimonioMenorca},
+     "certificado_matrimonio_menorca", "Certificado de matrimonio"},
+    {&MATRIMONIO, PARTIDA, "literal", COMUN, "InformeCertificadoLiteralPartidaMatrimonio",
+     PasoSimple{&N::InformeCertificadoLiteralPartidaMatrimonio,
+                &I::ImprimirCertificadoLiteralPartidaMatrimonio},
+     "certificado_literal_matrimonio", "Certificado literal de matrimonio"},
+    {&MATRIMONIO, PARTIDA, "literal", MENORCA, "InformeCertificadoLiteralPartidaMatrimonioMenorca",
+     PasoSimple{&N::InformeCertificadoLiteralPartidaMatrimonioMenorca,
+                &I::ImprimirCertificadoLiteralPartidaMatrimonioMenorca},
+     "certificado_literal_matrimonio_menorca", "Certificado literal de matrimonio"},
+    {&MATRIMONIO, PARTIDA, "partida", COMUN, "InformePartidaMatrimonio",
+     PasoSimple{&N::InformePartidaMatrimonio, &I::ImprimirPartidaMatrimonio}, "partida_matrimonio",
+     "Partida de matrimonio"},
+    {&MATRIMONIO, PARTIDA, "partida", MENORCA, "InformePartidaMatrimonioMenorca",
+     PasoSimple{&N::InformePartidaMatrimonioMenorca, &I::ImprimirPartidaMatrimonioMenorca},
+     "partida_matrimonio_menorca", "Partida de matrimonio"},
+    {&MATRIMONIO, PARTIDA, "volante", COMUN, "InformeVolanteMatrimonio",
+     PasoSimple{&N::InformeVolanteMatrimonio, &I::ImprimirVolanteMatrimonio}, "volante_matrimonio",
+     "Volante de matrimonio"},
+    {&MATRIMONIO, PARTIDA, "volante", MENORCA, "InformeVolanteMatrimonioMenorca",
+     PasoSimple{&N::InformeVolanteMatrimonioMenorca, &I::ImprimirVolanteMatrimonioMenorca},
+     "volante_matrimonio_menorca", "Volante de matrimonio"},
+    {&MATRIMONIO, PARTIDA, "comunicacion", COMUN, "InformeComunicacionMatrimonio",
+     PasoSimple{&N::InformeComunicacionMatrimonio, &I::ImprimirComunicacionMatrimonio},
+     "comunicacion_matrimonio", "Comunicación de matrimonio"},
+    {&MATRIMONIO, PARTIDA, "comunicacion", MENORCA, "InformeComunicacionMatrimonioMenorca",
+     PasoSimple{&N::InformeComunicacionMatrimonioMenorca,
+                &I::ImprimirComunicacionMatrimonioMenorca},
+     "comunicacion_matrimonio_menorca", "Comunicación de matrimonio"},
+    {&MATRIMONIO, PARTIDA, "comunicacion", SANTIAGO, "InformeComunicacionMatrimonioSantiago",
+     PasoSimple{&N::InformeComunicacionMatrimonioSantiago,
+                &I::ImprimirComunicacionMatrimonioSantiago},
+     "comunicacion_matrimonio_santiago", "Comunicación de matrimonio"},
+    {&MATRIMONIO, PARTIDA, "registro-civil", COMUN, "InformeNotificacionMatrimonio",
+     PasoConConfig{&N::InformeNotificacionMatrimonio, &I::ImprimirNotificacionMatrimonio},
+     "notificacion_matrimonio", "Notificación de matrimonio"},
+    {&MATRIMONIO, PARTIDA, "registro-civil", MENORCA, "InformeNotificacionMatrimonioMenorca",
+     PasoConConfig{&N::InformeNotificacionMatrimonioMenorca,
+                   &I::ImprimirNotificacionMatrimonioMenorca},
+     "notificacion_matrimonio_menorca", "Notificación de matrimonio"},
+    // These two write the rows of Santiago.
+    {&MATRIMONIO, PARTIDA, "registro-civil", SANTIAGO, "InformeNotificacionMatrimonio",
+     PasoConConfig{&N::InformeNotificacionMatrimonio, &I::ImprimirNotificacionMatrimonio},
+     "notificacion_matrimonio_santiago", "Notificación de matrimonio"},
+    {&MATRIMONIO, PARTIDA, "registro-civil", CON_JUZGADO, "InformeNotificacionMatrimonio",
+     PasoConConfig{&N::InformeNotificacionMatrimonio, &I::ImprimirNotificacionMatrimonio},
+     "notificacion_matrimonio_santiago", "Notificación de matrimonio"},
+    {&MATRIMONIO, PARTIDA, "estado", COMUN, "InformeEstadoExpMatr",
+     PasoSimple{&N::InformeEstadoExpMatr, &I::ImprimirEstadoExpMatr},
+     "estado_expediente_matrimonio", "Estado de expediente matrimonial", false},
+    {&MATRIMONIO, PARTIDA, "estado", MENORCA, "InformeEstadoExpMatrMenorca",
+     PasoSimple{&N::InformeEstadoExpMatrMenorca, &I::ImprimirEstadoExpMatrMenorca},
+     "estado_expediente_matrimonio_menorca", "Estado de expediente matrimonial", false},
+    {&MATRIMONIO, SOLICITUD, "exhorto", COMUN, "InformeExhortoMatrimonio",
+     PasoSimple{&N::InformeExhortoMatrimonio, &I::InformeExhortoMatrimonio}, "exhorto_matrimonio",
+     "Exhorto de amonestaciones"},
+    {&MATRIMONIO, SOLICITUD, "exhorto", MENORCA, "InformeExhortoMatrimonioMenorca",
+     PasoSimple{&N::InformeExhortoMatrimonioMenorca, &I::InformeExhortoMatrimonioMenorca},
+     "exhorto_matrimonio_menorca", "Exhorto de amonestaciones"},
+    {&MATRIMONIO, SOLICITUD, "atestado", COMUN, "InformeAtestadoFueraDiocesis",
+     PasoSimple{&N::InformeAtestadoFueraDiocesis, &I::InformeAtestadoFueraDiocesis},
+     "atestado_fuera_diocesis", "Atestado para otras Diócesis"},
+    {&MATRIMONIO, SOLICITUD, "expediente", MADRID, "InformeExpedienteFormatoMadrid",
+     PasoSimple{&N::InformeExpedienteFormatoMadrid, &I::ImprimirExpedienteFormatoMadrid},
+     "expediente_matrimonio_madrid", "Expediente matrimonial en Madrid"},
+    {&MATRIMONIO, SOLICITUD, "expediente", MENORCA, "InformeExpedienteMatrimonialMenorca",
+     PasoSimple{&N::InformeExpedienteMatrimonialMenorca, &I::ImprimirExpedienteMatrimonialMenorca},
+     "expediente_matrimonio_menorca", "Expediente matrimonial"},
+    {&MATRIMONIO, SOLICITUD, "expediente-1", COMUN, "InformeExpedienteFormato1",
+     PasoSimple{&N::InformeExpedienteFormato1, &I::ImprimirExpedienteFormato1},
+     "expediente_matrimonio_1", "Expediente matrimonial (formato 1)"},
+    // The rows of the first, under a template of its own.
+    {&MATRIMONIO, SOLICITUD, "expediente-2", COMUN, "InformeExpedienteFormato2",
+     PasoSimple{&N::InformeExpedienteFormato2, &I::ImprimirExpedienteFormato1},
+     "expediente_matrimonio_2", "Expediente matrimonial (formato 2)"},
+    {&MATRIMONIO, SOLICITUD, "expediente-3", COMUN, "InformeExpedienteFormato3",
+     PasoConVias{&N::InformeExpedienteFormato3, &I::ImprimirExpedienteFormato3},
+     "expediente_matrimonio_3", "Expediente matrimonial (formato 3)"},
+    {&MATRIMONIO, SOLICITUD, "resumen", COMUN, "InformeResumenMatrimonio",
+     PasoSimple{&N::InformeResumenMatrimonio, &I::ImprimirResumenMatrimonio},
+     "resumen_matrimonio_1", "Resumen de matrimonio (Allegato V). Página 1"},
+    {&MATRIMONIO, SOLICITUD, "resumen-2", COMUN, "InformeResumenMatrimonio2",
+     PasoSimple{&N::InformeResumenMatrimonio2, &I::ImprimirResumenMatrimonio2},
+     "resumen_matrimonio_2", "Resumen de matrimonio (Allegato V). Página 2"},
+    {&MATRIMONIO, LIBRO, "libro", COMUN, "InformeLibroMatrimonio",
+     PasoSimple{&N::InformeLibroMatrimonio, &I::ImprimirLibroMatrimonio}, "libro_matrimonio",
+     "Libro de matrimonios"},
+    {&MATRIMONIO, LIBRO, "libro", MENORCA, "InformeLibroMatrimonioMenorca",
+     PasoSimple{&N::InformeLibroMatrimonioMenorca, &I::ImprimirLibroMatrimonioMenorca},
+     "libro_matrimonio_menorca", "Libro de matrimonios"},
+    {&MATRIMONIO, LIBRO, "indice", COMUN, "InformeIndiceLibroMatrimonio",
+     PasoSimple{&N::InformeIndiceLibroMatrimonio, &I::ImprimirIndiceLibroMatrimonio},
+     "indice_libro_matrimonio", "Índice del libro de matrimonios"},
+    {&MATRIMONIO, LIBRO, "indice", MENORCA, "InformeIndiceLibroMatrimonio",
+     PasoSimple{&N::InformeIndiceLibroMatrimonio, &I::ImprimirIndiceLibroMatrimonio},
+     "indice_libro_matrimonio_menorca", "Índice del libro de matrimonios"},
+    {&MATRIMONIO,
+     DUPLICADA,
+     "duplicadas",
+     COMUN,
+     "ImprimirDuplicadasMatrimonio",
+     {},
+     "duplicado_matrimonio",
+     "Duplicado de matrimonios"},
+
     {&DEFUNCION, LIBRO, "libro", COMUN, "InformeLibroDefuncion",
      PasoSimple{&N::InformeLibroDefuncion, &I::ImprimirLibroDefuncion}, "libro_defuncion",
      "Libro de defunciones"},
@@ -192,10 +305,25 @@ const Documento TODOS[] = {
      "Duplicado de defunciones"},
 };
 
+constexpr PersonaDocumento NOVIA{"Documentos_Matrimonio_Novias", "novia", "NombreNovia",
+                                 "PrimerApellidoNovia", "SegundoApellidoNovia"};
+
+constexpr PersonaDocumento sola(const char* tabla) {
+  return {tabla, nullptr, "Nombre", "PrimerApellido", "SegundoApellido"};
+}
+
 constexpr FilasDocumento FILAS[] = {
-    {&BAUTISMO, "Documentos_Bautismo", "NombreHijo", "PrimerApellidoHijo", "SegundoApellidoHijo"},
-    {&CONFIRMACION, "Documentos_Confirmacion", "Nombre", "PrimerApellido", "SegundoApellido"},
-    {&DEFUNCION, "Documentos_Defuncion", "Nombre", "PrimerApellido", "SegundoApellido"},
+    {&BAUTISMO,
+     "Documentos_Bautismo",
+     {"Documentos_Bautismo", nullptr, "NombreHijo", "PrimerApellidoHijo", "SegundoApellidoHijo"}},
+    {&CONFIRMACION, "Documentos_Confirmacion", sola("Documentos_Confirmacion")},
+    {&MATRIMONIO,
+     "Documentos_Matrimonio",
+     {"Documentos_Matrimonio_Novios", "novio", "NombreNovio", "PrimerApellidoNovio",
+      "SegundoApellidoNovio"},
+     &NOVIA,
+     "otros.InstitucionNombre"},
+    {&DEFUNCION, "Documentos_Defuncion", sola("Documentos_Defuncion")},
 };
 
 }  // namespace

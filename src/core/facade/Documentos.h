@@ -3,6 +3,7 @@
 // program, its templates, titles and file names all come from these lines.
 
 #include <span>
+#include <string>
 #include <string_view>
 #include <variant>
 
@@ -30,6 +31,11 @@ struct PasoDocumento {
 using PasoSimple = PasoDocumento<>;
 /// Takes the keeper of the archive, who signs, and the date.
 using PasoFirmado = PasoDocumento<const std::string&, const std::string&>;
+/// Takes the configuration of the program.
+using PasoConConfig = PasoDocumento<const FDAPI::cConfig&>;
+/// Hands back by which way the dossier goes: handled in the parish, sent to the curia, sent there
+/// before the banns.
+using PasoConVias = PasoDocumento<bool&, bool&, bool&>;
 
 /// One document of one sacrament in one edition.
 struct Documento {
@@ -38,7 +44,8 @@ struct Documento {
   const char* orden;    // the command that asks for it
   const char* edicion;  // code; empty: of all that have no line of their own
   const char* operacion;
-  std::variant<std::monostate, PasoSimple, PasoFirmado> paso;  // none: the class has its own way
+  std::variant<std::monostate, PasoSimple, PasoFirmado, PasoConConfig, PasoConVias>
+      paso;  // none: the class has its own way
   const char* plantilla;
   const char* titulo;
   bool bloquea = true;  // the entry or the book, while the document is being written
@@ -57,14 +64,27 @@ const Documento* documento(const Sacramento& sacramento, std::string_view orden,
 /// word follows. Null when there is none.
 const Documento* documento(std::string_view operacion);
 
-/// How the rows of a sacrament's documents tell whom they are of.
-struct FilasDocumento {
-  const Sacramento* sacramento;
-  const char* tabla;  // the principal one, where there are several
-  // Columns of the person in whose name the entry stands.
+/// Somebody whom a document is of.
+struct PersonaDocumento {
+  const char* tabla;
+  const char* lado;  // what templates call that table where it is not the principal one
   const char* nombre;
   const char* primerApellido;
   const char* segundoApellido;
+
+  /// As a row of a template has it: "novio.NombreNovio".
+  std::string columna(const char* suya) const {
+    return lado ? std::string(lado) + "." + suya : suya;
+  }
+};
+
+/// How the rows of a sacrament's documents tell whom they are of.
+struct FilasDocumento {
+  const Sacramento* sacramento;
+  const char* tabla;         // the principal one, where there are several
+  PersonaDocumento persona;  // in whose name the entry stands
+  const PersonaDocumento* conyuge = nullptr;
+  const char* institucion = "InstitucionNombre";  // as a row of a template has it
 };
 /// Null for a sacrament without documents.
 const FilasDocumento* filasDocumento(const Sacramento& sacramento);

@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <stdexcept>
+#include <utility>
 
 #include "core/facade/Documentos.h"
 #include "core/facade/Operacion.h"
@@ -27,7 +28,7 @@ template <class... Argumentos, class... Dados>
 void informe(Contexto& contexto,
              void (cNucleo::*cual)(FDAPI::Conexion&, FDAPI::Conexion&, std::int32_t, Argumentos...),
              FDAPI::Conexion& conFidaleon, FDAPI::Conexion& conInformes, std::int32_t lngID,
-             const Dados&... argumentos) {
+             Dados&&... argumentos) {
   const Documento& documento = lineaDe(cual);
   operacion(contexto, documento.operacion, [&] {
     std::optional<SesionBloqueos> sesion;
@@ -36,7 +37,7 @@ void informe(Contexto& contexto,
       return;
     cInformes informes(contexto);
     const auto miembro = std::get<PasoDocumento<Argumentos...>>(documento.paso).miembro;
-    (informes.*miembro)(conFidaleon, conInformes, lngID, argumentos...);
+    (informes.*miembro)(conFidaleon, conInformes, lngID, std::forward<Dados>(argumentos)...);
   });
 }
 

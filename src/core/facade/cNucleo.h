@@ -4,6 +4,7 @@
 #include <string>
 
 #include "core/contract/Contexto.h"
+#include "documents/CargaDatosExhorto.h"
 #include "import/Etiquetas.h"
 #include "import/ResultadoImportacion.h"
 #include "registers/common/Anulacion.h"
@@ -139,10 +140,11 @@ class cNucleo {
   // No row for a book without entries.
   Informe InformeLibroBautismo, InformeLibroBautismoMenorca;
   Informe InformeLibroConfirmacion, InformeLibroConfirmacionMenorca;
+  Informe InformeLibroMatrimonio, InformeLibroMatrimonioMenorca;
   Informe InformeLibroDefuncion, InformeLibroDefuncionMenorca;
   // By name, with the letter of each surname and the year of the book; the same in all editions.
   Informe InformeIndiceLibroBautismo, InformeIndiceLibroBautismoMenorca;
-  Informe InformeIndiceLibroConfirmacion, InformeIndiceLibroDefuncion;
+  Informe InformeIndiceLibroConfirmacion, InformeIndiceLibroMatrimonio, InformeIndiceLibroDefuncion;
 
   /// Asks for institution, year and order, and writes the rows of the year's duplicate of a
   /// sacrament. `strNodo` is "Duplicadas de bautismo" and its like, or the node of the entries.
@@ -208,6 +210,41 @@ class cNucleo {
                                std::int32_t lngID);
   void InformePartidaDefuncionMenorca(FDAPI::Conexion& conFidaleon, FDAPI::Conexion& conInformes,
                                       std::int32_t lngID);
+
+  // Marriage: Documentos_Matrimonio and the tables beside it. Each asks by itself for what it needs
+  // (keeper, exhorto, date, court), and writes nothing when the user gives up.
+  Informe InformeCertificadoLiteralPartidaMatrimonio,
+      InformeCertificadoLiteralPartidaMatrimonioMenorca, InformeCertificadoPartidaMatrimonio,
+      InformeCertificadoPartidaMatrimonioMenorca;
+  Informe InformePartidaMatrimonio, InformePartidaMatrimonioMenorca, InformeVolanteMatrimonio,
+      InformeVolanteMatrimonioMenorca;
+  /// To the parishes of baptism.
+  Informe InformeComunicacionMatrimonio, InformeComunicacionMatrimonioMenorca,
+      InformeComunicacionMatrimonioSantiago;
+  /// To the civil registry.
+  using InformeConConfig = void(FDAPI::Conexion& conFidaleon, FDAPI::Conexion& conInformes,
+                                std::int32_t lngID, const FDAPI::cConfig& gobjConfig);
+  InformeConConfig InformeNotificacionMatrimonio, InformeNotificacionMatrimonioMenorca;
+  /// Take no lock.
+  Informe InformeEstadoExpMatr, InformeEstadoExpMatrMenorca;
+  // The dossier, of a marriage that names the institution of its request.
+  Informe InformeExhortoMatrimonio, InformeExhortoMatrimonioMenorca, InformeAtestadoFueraDiocesis;
+  /// Both write the same two rows: the dossier, then its state.
+  Informe InformeExpedienteFormato1, InformeExpedienteFormato2;
+  Informe InformeExpedienteMatrimonialMenorca, InformeExpedienteFormatoMadrid;
+  /// Asks by which way the dossier goes, which decides what the template shows. All three are
+  /// false when the user gives up.
+  void InformeExpedienteFormato3(FDAPI::Conexion& conFidaleon, FDAPI::Conexion& conInformes,
+                                 std::int32_t lngID, bool& blnTramitaParroquia, bool& blnEnviaCuria,
+                                 bool& blnEnviaCuriaAntes);
+  /// The question alone, without a lock.
+  void InformeExpedienteFormato3Plantilla(bool& blnTramitaParroquia, bool& blnEnviaCuria,
+                                          bool& blnEnviaCuriaAntes);
+  Informe InformeResumenMatrimonio, InformeResumenMatrimonio2;
+  /// Asks for the parishes that an exhorto goes to, and stores them with the spouses when the user
+  /// says so and nobody else holds the marriage. `strDatos` is filled also when the user cancels.
+  void CargaDatosExhorto(DatosExhorto& strDatos, bool& blnCancelar, FDAPI::Conexion& conFidaleon,
+                         std::int16_t lngID);
 
   /// Notices to parishes of baptism that stand in no book: asks for them and writes one row of
   /// Documentos_Confirmacion for each, none when the user gave up.

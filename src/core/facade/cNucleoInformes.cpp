@@ -48,6 +48,10 @@ INFORME(InformeLibroConfirmacion)
 INFORME(InformeLibroConfirmacionMenorca)
 INFORME(InformeIndiceLibroConfirmacion)
 
+INFORME(InformeLibroMatrimonio)
+INFORME(InformeLibroMatrimonioMenorca)
+INFORME(InformeIndiceLibroMatrimonio)
+
 INFORME(InformeLibroDefuncion)
 INFORME(InformeLibroDefuncionMenorca)
 INFORME(InformeIndiceLibroDefuncion)
@@ -69,8 +73,71 @@ INFORME_FIRMADO(InformeCertificadoLiteralPartidaDefuncionMenorca)
 INFORME(InformePartidaDefuncion)
 INFORME(InformePartidaDefuncionMenorca)
 
+INFORME(InformeCertificadoLiteralPartidaMatrimonio)
+INFORME(InformeCertificadoLiteralPartidaMatrimonioMenorca)
+INFORME(InformeCertificadoPartidaMatrimonio)
+INFORME(InformeCertificadoPartidaMatrimonioMenorca)
+INFORME(InformePartidaMatrimonio)
+INFORME(InformePartidaMatrimonioMenorca)
+INFORME(InformeVolanteMatrimonio)
+INFORME(InformeVolanteMatrimonioMenorca)
+INFORME(InformeComunicacionMatrimonio)
+INFORME(InformeComunicacionMatrimonioMenorca)
+INFORME(InformeComunicacionMatrimonioSantiago)
+INFORME(InformeEstadoExpMatr)
+INFORME(InformeEstadoExpMatrMenorca)
+INFORME(InformeExhortoMatrimonio)
+INFORME(InformeExhortoMatrimonioMenorca)
+INFORME(InformeAtestadoFueraDiocesis)
+INFORME(InformeExpedienteFormato1)
+INFORME(InformeExpedienteFormato2)
+INFORME(InformeExpedienteMatrimonialMenorca)
+INFORME(InformeExpedienteFormatoMadrid)
+INFORME(InformeResumenMatrimonio)
+INFORME(InformeResumenMatrimonio2)
+
 #undef INFORME
 #undef INFORME_FIRMADO
+
+void cNucleo::InformeNotificacionMatrimonio(FDAPI::Conexion& conFidaleon,
+                                            FDAPI::Conexion& conInformes, std::int32_t lngID,
+                                            const FDAPI::cConfig& gobjConfig) {
+  informe(contexto_, &cNucleo::InformeNotificacionMatrimonio, conFidaleon, conInformes, lngID,
+          gobjConfig);
+}
+
+void cNucleo::InformeNotificacionMatrimonioMenorca(FDAPI::Conexion& conFidaleon,
+                                                   FDAPI::Conexion& conInformes, std::int32_t lngID,
+                                                   const FDAPI::cConfig& gobjConfig) {
+  informe(contexto_, &cNucleo::InformeNotificacionMatrimonioMenorca, conFidaleon, conInformes,
+          lngID, gobjConfig);
+}
+
+void cNucleo::InformeExpedienteFormato3(FDAPI::Conexion& conFidaleon, FDAPI::Conexion& conInformes,
+                                        std::int32_t lngID, bool& blnTramitaParroquia,
+                                        bool& blnEnviaCuria, bool& blnEnviaCuriaAntes) {
+  blnTramitaParroquia = blnEnviaCuria = blnEnviaCuriaAntes = false;
+  informe(contexto_, &cNucleo::InformeExpedienteFormato3, conFidaleon, conInformes, lngID,
+          blnTramitaParroquia, blnEnviaCuria, blnEnviaCuriaAntes);
+}
+
+void cNucleo::InformeExpedienteFormato3Plantilla(bool& blnTramitaParroquia, bool& blnEnviaCuria,
+                                                 bool& blnEnviaCuriaAntes) {
+  cInformes(contexto_).InformeExpedienteFormato3Plantilla(blnTramitaParroquia, blnEnviaCuria,
+                                                          blnEnviaCuriaAntes);
+}
+
+void cNucleo::CargaDatosExhorto(DatosExhorto& strDatos, bool& blnCancelar,
+                                FDAPI::Conexion& conFidaleon, std::int16_t lngID) {
+  blnCancelar = true;
+  operacion(contexto_, "CargaDatosExhorto", [&] {
+    SesionBloqueos sesion(contexto_, conFidaleon);
+    fidaleon::CargaDatosExhorto(contexto_, strDatos, blnCancelar, conFidaleon, lngID, [&] {
+      sesion.registroPorClave(MATRIMONIO.tablaPartidas, "IdMatrimonio", lngID);
+      return sesion.efectuar();
+    });
+  });
+}
 
 void cNucleo::ImprimirDuplicadas(FDAPI::Conexion& conBaseDatos, FDAPI::Conexion& conInformes,
                                  const std::string& strNodo, std::string& strOrden) {
