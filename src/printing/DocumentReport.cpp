@@ -91,6 +91,9 @@ struct Writer {
   void operator()(const PasoConVias& step) const {
     bool inParish = false, toCuria = false, toCuriaBefore = false;
     run(step, inParish, toCuria, toCuriaBefore);
+    for (const auto& [chosen, option] :
+         {std::pair{inParish, "tramita"}, {toCuria, "curia"}, {toCuriaBefore, "curia-antes"}})
+      if (chosen) r.options.choices << QString::fromLatin1(option);
   }
   /// The class has an operation of its own.
   void operator()(std::monostate) const {

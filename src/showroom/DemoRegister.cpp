@@ -172,7 +172,8 @@ void DemoRegisterWalk::document(const std::string& command, const DemoPerson& pe
   const auto report = makeReport(w_.desk(), d, idOf(person));
   const PersonaDocumento& printed = filasDocumento(r_.sacrament)->persona;
   const auto row = w_.desk().reports().Execute(std::string("SELECT * FROM ") + printed.tabla);
-  w_.check(row.text(printed.nombre) == person.name, std::string("el documento es de ") + person.name);
+  w_.check(row.text(printed.nombre) == person.name,
+           std::string("el documento es de ") + person.name);
   if (d.firmado())
     w_.check(row.text("InstitucionEncargado") == demo::PRIEST, "lo firma el encargado elegido");
   w_.save(report, 1, fileOf(command), "partidas");
