@@ -66,9 +66,11 @@ Record newEntry(const DescripcionAlmacen<Record>& store, const std::string& name
                 const std::string& surname, const DatosPartida& place) {
   Record r;
   ponerDatos(r, place);
-  const std::string values[] = {name, surname, surname, "20261122"};
-  for (std::size_t i = 0; i < std::size(values); ++i)
-    r.*std::get<std::string Record::*>(store.lista.columnas[3 + i].miembro) = values[i];
+  const auto listed = store.lista.columnas;  // key, place, names, day, mark
+  for (std::size_t i = 3; i < listed.size() - 1; ++i)
+    r.*std::get<std::string Record::*>(listed[i].miembro) = i == listed.size() - 2 ? "20261122"
+                                                            : i % 3 == 0           ? name
+                                                                                   : surname;
   rellenarGuiones(store, r);
   ponerOperacion(r, FDAPI::cCOperacion::ANADIR);
   return r;

@@ -15,6 +15,7 @@
 #include "registers/cBaseDatos.h"
 #include "registers/confirmation/frmPartidaConfirmacion.h"
 #include "registers/death/frmPartidaDefuncion.h"
+#include "registers/marriage/frmPartidaMatrimonio.h"
 #include "store/sqlite/SqliteEngine.h"
 
 namespace {
@@ -128,6 +129,6 @@ void measure(const DescripcionAlmacen<Record>& store, const std::string& of) {
 int main() {
   measure(ALMACEN_BAUTISMO, "bautismos");
   measure(ALMACEN_CONFIRMACION, "confirmaciones");
-  measureList(ALMACEN_MATRIMONIO, "matrimonios");
+  measure(ALMACEN_MATRIMONIO, "matrimonios");
   measure(ALMACEN_DEFUNCION, "defunciones");
 }

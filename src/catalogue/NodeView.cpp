@@ -1,7 +1,5 @@
 #include "catalogue/NodeView.h"
 
-#include <algorithm>
-
 #include "catalogue/CensusLists.h"
 #include "core/contract/CcNodos.h"
 #include "core/statements/Sentencia.h"
@@ -71,7 +69,6 @@ struct Person {
   const char* table;
   const char* title;        // over the name
   const char* prefix = "";  // of its columns, where there are two persons
-  int width = 18;           // at most
 };
 
 /// Where the entries and requests of a register keep what their lists show.
@@ -104,7 +101,7 @@ const Register REGISTERS[] = {
      "Confirmacion.FechaNac",
      "Nacimiento"},
     {MATRIMONIO,
-     {{"Matrimonio_Novios", "Novio", "Novio", 13}, {"Matrimonio_Novias", "Novia", "Novia", 13}},
+     {{"Matrimonio_Novios", "Novio", "Novio"}, {"Matrimonio_Novias", "Novia", "Novia"}},
      "Matrimonio_Compromiso, Matrimonio_Novios, Matrimonio_Novias",
      "Matrimonio_Compromiso.CodMatrimonio={Partidas}.{IDPartida} AND "
      "Matrimonio_Novios.IDNovios={Partidas}.CodNovios AND "
@@ -132,9 +129,11 @@ constexpr struct {
   const char* column;
   const char* title;  // null: that of the person
   int width;
-} NAMES[] = {{"Nombre", nullptr, 18},
-             {"PrimerApellido", "Primer apellido", 15},
-             {"SegundoApellido", "Segundo apellido", 15}};
+  const char* shortTitle;  // where there are two persons
+  int shortWidth;
+} NAMES[] = {{"Nombre", nullptr, 18, nullptr, 13},
+             {"PrimerApellido", "Primer apellido", 15, "1.er apellido", 12},
+             {"SegundoApellido", "Segundo apellido", 15, "2.º apellido", 12}};
 
 /// ", Bautismo_Hijo.Nombre, ... FROM Bautismo, Bautismo_Hijo, `tables` WHERE ..." up to what joins
 /// the tables of one entry.
@@ -153,12 +152,15 @@ std::string personOf(const Register& r, const std::string& columns, const std::s
 std::vector<ColumnView> namesOf(const Register& r) {
   std::vector<ColumnView> columns;
   for (const Person& person : r.persons)
-    for (const auto& name : NAMES)
+    for (const auto& name : NAMES) {
+      const bool two = *person.prefix != 0;
+      const char* title = two ? name.shortTitle : name.title;
       columns.push_back({std::string(person.prefix) + name.column,
-                         name.title ? name.title : person.title,
+                         title ? title : person.title,
                          ColumnKind::Text,
-                         std::min(name.width, person.width),
+                         two ? name.shortWidth : name.width,
                          {}});
+    }
   return columns;
 }
 

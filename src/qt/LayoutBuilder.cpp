@@ -266,7 +266,6 @@ void LayoutBuilder::addField(const LayoutNode& node, QGridLayout& grid, int row,
   const bool inFront = text && !front;
   const int first = 2 * pair + (inFront ? 0 : 1);
   const int columns = 2 * span - (inFront ? 0 : 1);
-  if (isElastic(*node.control)) grid.setRowStretch(row, 1);
   if (QBoxLayout* cell = withBeside(widget, node, parent))
     return grid.addLayout(cell, row, first, 1, columns);
   const Qt::Alignment place =

@@ -66,7 +66,7 @@ LayoutNode frmPartidaMatrimonio::paginaSacramentales(int c) {
 LayoutNode frmPartidaMatrimonio::paginaOtros(int c) {
   return page(
       {grupo("DOMICILIO ACTUAL:", 2,
-             {en(c + DomicilioActual), en(c + TResidenciaDomAct), provincia(c + ProvinciaActual),
+             {en(c + TResidenciaDomAct), en(c + DomicilioActual), provincia(c + ProvinciaActual),
               poblacion(c + ProvinciaActual)}),
        grupo("DOMICILIO ANTERIOR:", 2,
              {en(c + DomicilioAnterior, 2), provincia(c + ProvinciaAnterior),
