@@ -271,6 +271,9 @@ void addWindowCommands(std::vector<Command>& all) {
   add(Menu::File, line("volver-a-una-copia", "&Volver a una copia…", "",
                        "Deja la parroquia como estaba cuando se hizo una copia", 0, Needs::Nothing,
                        [](Workplace& w, const Choice&) { w.returnToCopy(); }));
+  add(Menu::File, line("traer-datos", "&Traer datos del programa anterior…", "",
+                       "Lee los registros de las tablas de dBase y hace con ellos libros antiguos",
+                       0, Needs::Nothing, [](Workplace& w, const Choice&) { w.importLegacy(); }));
   add(Menu::File, still(line("salir", "&Salir", "Ctrl+Q", "Cierra el programa", 0, Needs::Nothing,
                              [](Workplace& w, const Choice&) { w.leave(); })));
   add(Menu::Help, still(line("acerca-de", "&Acerca de Fidaleon…", "", "", 0, Needs::Nothing,

@@ -47,6 +47,8 @@ class Workplace {
   virtual void backUp() = 0;
   /// Lets the user return the parish to a copy saved earlier.
   virtual void returnToCopy() = 0;
+  /// Lets the user bring the registers of the older program into books.
+  virtual void importLegacy() = 0;
   virtual void about() = 0;
   /// Lets the user make a parish, and works on that one from then on.
   virtual void newParish() = 0;

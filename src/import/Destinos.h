@@ -61,7 +61,8 @@ struct TablaDestino {
 
 /// One register of the older program and what becomes of it.
 struct RegistroInpar {
-  std::string palabra;  // "Bautismo"
+  std::string palabra;  // of its tables here: "Defuncion"
+  std::string titulo;   // "Defunción"
   std::string tabla;    // "BAUT"
   int etapa = 1;        // place among the stage labels, from 1
   std::string columnaLibro, columnaFolio, columnaNumero, columnaFecha;  // folio: may be none

@@ -75,6 +75,7 @@ const TablaDestino HIJO = {"Bautismo_Hijo",
 const RegistroInpar& inparBautismo() {
   static const RegistroInpar registro = {
       .palabra = "Bautismo",
+      .titulo = "Bautismo",
       .tabla = "BAUT",
       .etapa = 1,
       .columnaLibro = "Libro_B",

@@ -57,6 +57,7 @@ const TablaDestino BAUTISMO = {"Confirmacion_Bautismo",
 const RegistroInpar& inparConfirmacion() {
   static const RegistroInpar registro = {
       .palabra = "Confirmacion",
+      .titulo = "Confirmación",
       .tabla = "CONF",
       .etapa = 2,
       .columnaLibro = "Libro_C",

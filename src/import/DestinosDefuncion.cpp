@@ -55,6 +55,7 @@ const TablaDestino DATOS = {"Defuncion_Datos",
 const RegistroInpar& inparDefuncion() {
   static const RegistroInpar registro = {
       .palabra = "Defuncion",
+      .titulo = "Defunción",
       .tabla = "DEFU",
       .etapa = 4,
       .columnaLibro = "Libro_D",

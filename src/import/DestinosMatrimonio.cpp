@@ -131,6 +131,7 @@ std::vector<TablaDestino> tablas() {
 const RegistroInpar& inparMatrimonio() {
   static const RegistroInpar registro = {
       .palabra = "Matrimonio",
+      .titulo = "Matrimonio",
       .tabla = "MATR",
       .etapa = 3,
       .columnaLibro = "Libro_M",

@@ -55,7 +55,7 @@ Libros::Libros(Contexto& contexto, FDAPI::Conexion& conexion, const RegistroInpa
 void Libros::importar(FDAPI::cProgreso& progreso) {
   auto libros = tabla_.conexion().Execute(registro_.sqlLibros);
   const std::int64_t cuantos = libros.RecordCount();
-  progreso.Cargar(cuantos, registro_.palabra, 1, 0);
+  progreso.Cargar(cuantos, registro_.titulo, 1, 0);
   progreso.setValue(0);
   for (std::int64_t hechos = 0; !libros.EOF_(); libros.MoveNext()) {
     libro(libros.Fields(0).Value());

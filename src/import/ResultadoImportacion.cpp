@@ -11,7 +11,7 @@ void linea(std::string& texto, const char* que, std::int64_t cuantos) {
 }
 
 void describir(const RegistroImportado& r, bool ensayo, std::string& texto) {
-  texto += r.palabra + " (tabla " + r.tabla + ")\n";
+  texto += r.titulo + " (tabla " + r.tabla + ")\n";
   linea(texto, ensayo ? "Libros que se harán" : "Libros hechos", r.libros);
   linea(texto, "Partidas leídas", r.leidas);
   linea(texto, ensayo ? "Partidas que se escribirán" : "Partidas escritas enteras", r.escritas);
@@ -58,9 +58,12 @@ std::string ResultadoImportacion::texto() const {
     todo += "\n";
     describir(r, ensayo, todo);
   }
-  todo += completa() ? "\nTodo lo leído está entero.\n"
-                     : "\nATENCIÓN: no todo lo leído está entero. Mire lo que se dice arriba.\n";
-  return todo;
+  const bool cortes = std::any_of(registros.begin(), registros.end(),
+                                  [](const RegistroImportado& r) { return r.cortados > 0; });
+  if (!completa())
+    return todo + "\nATENCIÓN: no están todas las partidas leídas. Mire lo que se dice arriba.\n";
+  return todo + "\nEstán todas las partidas leídas" +
+         (cortes ? ", y arriba se dice qué valores se han cortado.\n" : ".\n");
 }
 
 }  // namespace fidaleon

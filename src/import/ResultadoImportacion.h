@@ -15,7 +15,7 @@ struct IncidenciaInpar {
 
 /// What came of one register.
 struct RegistroImportado {
-  std::string palabra;  // "Bautismo"
+  std::string titulo;  // "Defunción"
   std::string tabla;    // "BAUT"
   std::int64_t libros = 0;
   std::int64_t leidas = 0;       // rows of the older program that are not deleted

@@ -190,8 +190,11 @@ void Traductor::fecha(const Paso& paso, const dbase::Row& fila) {
   if (!dia) return texto(paso, fila, textoDe(celda));
   const std::string puesta = conSiglo(*dia, reglas_.strAno00);
   if (puesta != text::toStored(*dia)) {
+    const auto leida = text::parseStored(puesta);
     ++resultado_.siglos;
-    anotar(fila, paso, "la fecha " + text::toShort(*dia) + " queda como " + puesta);
+    anotar(fila, paso,
+           "la fecha " + text::toShort(*dia) + " queda como " +
+               (leida ? text::toShort(*leida) : puesta));
   }
   citarEn(sql_, puesta);
 }
@@ -245,7 +248,8 @@ std::string Traductor::lineas(const Paso& paso, const dbase::Row& fila) const {
 }
 
 void Traductor::anotar(const dbase::Row& fila, const Paso& paso, const std::string& que) {
-  resultado_.anotar({fila.record(), tabla_.tabla + "." + paso.destino->columna + " " + que, false});
+  resultado_.anotar(
+      {fila.record(), tabla_.tabla + "." + paso.destino->columna + ": " + que, false});
 }
 
 }  // namespace fidaleon

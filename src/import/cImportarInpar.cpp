@@ -28,7 +28,7 @@ void cImportarInpar::registro(const char* procedimiento, const RegistroInpar& re
   resultado_.ensayo = blnEnsayo;
   if (resultado_.cancelada) return;
   RegistroImportado& r = resultado_.registros.emplace_back();
-  r.palabra = registro.palabra;
+  r.titulo = registro.titulo;
   r.tabla = registro.tabla;
   guarded(contexto_, "cImportarInpar", procedimiento, [&] {
     const forms::Hourglass reloj(contexto_.ui());

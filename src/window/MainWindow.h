@@ -87,6 +87,7 @@ class MainWindow : public QMainWindow, private Workplace {
   void saveList() override;
   void backUp() override;
   void returnToCopy() override;
+  void importLegacy() override;
   void about() override;
   void newParish() override;
   void openParish() override;

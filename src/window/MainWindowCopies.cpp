@@ -18,6 +18,7 @@
 #include "text/Utf8.h"
 #include "window/CarefulQuestion.h"
 #include "window/CopyReturn.h"
+#include "window/ImportDialog.h"
 #include "window/ListExport.h"
 #include "window/MainWindow.h"
 
@@ -103,6 +104,11 @@ void MainWindow::returnToCopy() {
   if (!returned) return;
   setScope(0, {});
   showParishName();
+}
+
+// Makes its own copy, when it comes to writing, while nobody else is there.
+void MainWindow::importLegacy() {
+  ImportDialog(desk_, this).exec();
 }
 
 void MainWindow::depart(Departure departure) {

@@ -191,7 +191,7 @@ TEST_F(Import, Confirmation_StandsInFolioOneAndTheBookGoesOnInFolioTwo) {
             "2|0|Eva|Gil|Falta|---|0|Luis|---|Mayor 1|0|---|---|0|---|---|---|2|1|7|0");
   EXPECT_EQ(last("Confirmacion_Bautismo"), "2|---|---|---|0|XII|33|4");
   EXPECT_THAT(nucleo.UltimaImportacion().texto(),
-              HasSubstr("CONF, registro 1: Confirmacion_Bautismo.FolioBaut solo admite números: "
+              HasSubstr("CONF, registro 1: Confirmacion_Bautismo.FolioBaut: solo admite números: "
                         "«33 v»"));
 }
 

@@ -1,0 +1,64 @@
+#include "window/ImportReport.h"
+
+#include <QDialogButtonBox>
+#include <QFileDialog>
+#include <QLabel>
+#include <QMessageBox>
+#include <QPlainTextEdit>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "files/Durable.h"
+#include "qt/Appearance.h"
+#include "text/SystemErrors.h"
+
+namespace fidaleon::app {
+
+ImportReport::ImportReport(const std::string& text, const QString& saved, QWidget* parent)
+    : QDialog(parent), text_(text) {
+  setWindowTitle(tr("Informe de la importación"));
+  auto* layout = new QVBoxLayout(this);
+  auto* view = new QPlainTextEdit(QString::fromStdString(text), this);
+  view->setReadOnly(true);
+  view->setAccessibleName(tr("Informe"));
+  layout->addWidget(view);
+  if (!saved.isEmpty()) {
+    auto* where = new QLabel(tr("Se ha guardado en «%1».").arg(saved), this);
+    where->setWordWrap(true);
+    where->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    layout->addWidget(where);
+  }
+  auto* buttons = new QDialogButtonBox(this);
+  auto* close = buttons->addButton(tr("&Cerrar"), QDialogButtonBox::RejectRole);
+  connect(buttons->addButton(tr("&Imprimir…"), QDialogButtonBox::ActionRole), &QPushButton::clicked,
+          this, [this] { print(); });
+  connect(buttons->addButton(tr("&Guardar como…"), QDialogButtonBox::ActionRole),
+          &QPushButton::clicked, this, [this] { save(); });
+  connect(close, &QPushButton::clicked, this, &QDialog::accept);
+  close->setDefault(true);
+  layout->addWidget(buttons);
+  resize(qt::charsWidth(*this, 100), 480);
+}
+
+void ImportReport::print() {
+  QPrinter printer(QPrinter::HighResolution);
+  if (QPrintDialog(&printer, this).exec() != QDialog::Accepted) return;
+  QPlainTextEdit(QString::fromStdString(text_)).print(&printer);
+}
+
+void ImportReport::save() {
+  const QString file = QFileDialog::getSaveFileName(this, tr("Guardar el informe"),
+                                                    "importacion.txt", tr("Textos (*.txt)"));
+  if (file.isEmpty()) return;
+  try {
+    files::replace(file.toStdString(), text_);
+  } catch (const std::filesystem::filesystem_error& e) {
+    QMessageBox::warning(
+        this, windowTitle(),
+        tr("No se ha podido guardar: ") + QString::fromStdString(text::systemReason(e.code())));
+  }
+}
+
+}  // namespace fidaleon::app
