@@ -97,6 +97,7 @@ void writeTable(const fs::path& folder, int rows) {
       if (c.letter == 'M') value = padded(std::to_string(1 + i), 10, true);
       if (name == "PADRE" || name == "MADRE") value = "Juan P\x82rez L\xA2pez";
       if (name == "POBL_PADRE") value = "Pueblo " + std::to_string(i % 50);
+      if (name == "PROV_PADRE") value = "Provincia " + std::to_string(i % 5);
       record += padded(value, c.width, c.letter == 'N');
     }
     table << record;

@@ -16,7 +16,7 @@ struct IncidenciaInpar {
 /// What came of one register.
 struct RegistroImportado {
   std::string titulo;  // "Defunción"
-  std::string tabla;    // "BAUT"
+  std::string tabla;   // "BAUT"
   std::int64_t libros = 0;
   std::int64_t leidas = 0;       // rows of the older program that are not deleted
   std::int64_t escritas = 0;     // entries written whole
