@@ -115,7 +115,9 @@ FragmentPtr PageComposer::layOutToFit(std::size_t item, int page) const {
   FragmentPtr natural = layout_.layOut(blocks, from, columnWidth());
   if (t_.flow != Flow::Page || !natural) return natural;
   const qreal room = bodyBottom() - bodyTop({item, {}, page});
-  if (natural->height() <= room) return natural;
+  // Smaller type takes as much less height as width.
+  const qreal least = natural->height() * t_.smallestScale * t_.smallestScale;
+  if (natural->height() <= room || least > room) return natural;
   for (qreal scale = 1 - kScaleStep; scale >= t_.smallestScale; scale -= kScaleStep) {
     FragmentPtr smaller = BlockLayout(t_, scale).layOut(blocks, from, columnWidth());
     if (smaller->height() <= room) return smaller;

@@ -67,6 +67,7 @@ class TreeReader {
   }
 
   QString worded(QString text) {
+    if (!text.contains(QLatin1String("$("))) return text;
     static const QRegularExpression place(QStringLiteral("\\$\\((\\w+)\\)"));
     for (auto found = place.match(text); found.hasMatch(); found = place.match(text)) {
       const auto word = words_.constFind(found.captured(1));
