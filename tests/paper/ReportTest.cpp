@@ -172,16 +172,6 @@ TEST_F(Engine, wordWiderThanTheLine_isBrokenNotCut) {
   EXPECT_EQ(std::count(text.begin(), text.end(), 'x'), 400);
 }
 
-TEST_F(Engine, samePage_isPaintedTheSameTwice) {
-  child("Ana");
-  EXPECT_EQ(small(kSmall).pageImage(0, 96), small(kSmall).pageImage(0, 96));
-}
-
-TEST_F(Engine, pageImage_hasTheSizeOfTheSheet) {
-  child("Ana");
-  EXPECT_EQ(small(kSmall).pageImage(0, 254).size(), QSize(2100, 2970));
-}
-
 TEST_F(Engine, pdf_isA4WithTitleAndEmbeddedFonts) {
   child("Añón");
   const auto file = folder_.path() / "a.pdf";

@@ -6,6 +6,7 @@
 
 #include "documents/Duplicada.h"
 #include "documents/Miembros.h"
+#include "documents/MiembrosMatrimonio.h"
 #include "documents/NotificacionSinLibro.h"
 #include "documents/TextRules.h"
 #include "store/schema/Schema.h"
@@ -233,16 +234,23 @@ std::vector<std::string> tablesOf(const std::string& operation) {
   return tables;
 }
 
+/// What the edition of the loader that the operation runs writes.
+std::vector<std::string> columnsOfMarriage(const std::string& operation) {
+  const documents::CargadorMatrimonio* loader = &documents::Cargar_Documentos_Matrimonio();
+  for (const auto& m : documents::miembrosMatrimonio())
+    if (operation == m.nombre || "Imprimir" + operation.substr(7) == m.nombre) loader = &m.cargador;
+  std::set<std::string> names;
+  for (const auto& column : loader->matrimonio.columns) names.insert(column.name);
+  for (const auto& beside : loader->companeras)
+    for (const auto& column : beside.columns) names.insert(column.name);
+  return {names.begin(), names.end()};
+}
+
 }  // namespace
 
 std::vector<std::string> columnsOf(const std::string& operation) {
   const Documento& d = *documento(operation);
-  if (const auto tables = tablesOf(operation); tables.size() > 1) {
-    std::set<std::string> names;
-    for (const std::string& table : tables)
-      for (const std::string& column : columnsIn(table)) names.insert(column);
-    return {names.begin(), names.end()};
-  }
+  if (d.sacramento == &MATRIMONIO) return columnsOfMarriage(operation);
   if (d.clase == ClaseDocumento::SinLibro) return documents::columnasNotificacion();
   const documents::Columns* columns = nullptr;
   if (d.clase == ClaseDocumento::Duplicada) {
