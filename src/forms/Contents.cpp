@@ -22,7 +22,10 @@ std::string labelOf(const Control& control) {
   if (const auto* option = dynamic_cast<const OptionButton*>(&control)) caption = option->caption();
   caption = text::trim(text::replaceAll(caption, "&", ""));
   if (caption.ends_with(':')) caption.pop_back();
-  return caption.empty() ? control.name() : caption;
+  if (caption.empty()) return control.name();
+  // Tabs within a tab ask the same of several persons.
+  const TabStrip* strip = control.strip();
+  return strip && strip->strip() ? strip->caption(control.page()) + ": " + caption : caption;
 }
 
 std::string allLines(const ListBox& list) {

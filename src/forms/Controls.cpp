@@ -79,6 +79,18 @@ void TabStrip::setCaption(int tab, std::string caption) {
   changed(Change::Tab);
 }
 
+void TabStrip::setNote(int tab, std::string note) {
+  if (tabs_.at(tab).note == note) return;
+  tabs_.at(tab).note = std::move(note);
+  changed(Change::Tab);
+}
+
+int TabStrip::next(int tab, bool backwards) const {
+  do tab += backwards ? -1 : 1;
+  while (tab >= 0 && tab < tabCount() && !tabs_.at(tab).visible);
+  return tab < tabCount() ? tab : -1;
+}
+
 void TabStrip::setTabVisible(int tab, bool on) {
   tabs_.at(tab).visible = on;
   changed(Change::Tab);

@@ -68,7 +68,10 @@ class TextBox : public Control {
   /// Lines shown; more than one makes the field multi-line (line break is CR LF in `text()`).
   int lines() const { return lines_; }
   void setLines(int n) { lines_ = n; }
-  bool multiline() const { return lines_ > 1; }
+  /// As high as its text, and never less than its lines.
+  bool grows() const { return grows_; }
+  void setGrows(bool on) { grows_ = on; }
+  bool multiline() const { return lines_ > 1 || grows_; }
   bool password() const { return password_; }
   void setPassword(bool on) { password_ = on; }
   /// Only the digits 0-9 can be typed or entered.
@@ -114,6 +117,7 @@ class TextBox : public Control {
   bool locked_ = false;
   int maxLength_ = 0;
   int lines_ = 1;
+  bool grows_ = false;
   bool password_ = false;
   bool digitsOnly_ = false;
   QuoteRule quoteRule_ = QuoteRule::Replace;
@@ -326,13 +330,22 @@ class Grid : public Control {
   int updates_ = 0;
 };
 
-/// A row of tabs; what lies on each is said by the layout.
+/// A row of tabs, or a list of them where they are many; what lies on each is said by the layout.
 class TabStrip : public Control {
  public:
+  static constexpr int MOST_IN_A_ROW = 8;
+
   TabStrip(Form& form, std::string name, std::vector<std::string> captions);
   int tabCount() const { return static_cast<int>(tabs_.size()); }
   const std::string& caption(int tab) const { return tabs_.at(tab).caption; }
   void setCaption(int tab, std::string caption);
+  /// What the tab is about at the moment, such as the name of a person; shown beside its caption.
+  const std::string& note(int tab) const { return tabs_.at(tab).note; }
+  void setNote(int tab, std::string note);
+  /// Too many to be read in one row.
+  bool isList() const { return tabCount() > MOST_IN_A_ROW; }
+  /// The next one that can be seen; -1 when there is none that far.
+  int next(int tab, bool backwards) const;
   bool tabVisible(int tab) const { return tabs_.at(tab).visible; }
   void setTabVisible(int tab, bool on);
   int tab() const { return tab_; }
@@ -352,6 +365,7 @@ class TabStrip : public Control {
   struct Page {
     std::string caption;
     bool visible = true;
+    std::string note = {};
   };
   std::vector<Page> tabs_;
   int tab_ = 0;

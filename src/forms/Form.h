@@ -110,7 +110,10 @@ class Form {
   const LayoutNode& layout() const { return layout_; }
   /// Mnemonic letter of a control on this form, 0 when none is left: its own "&" first, then the
   /// first free letter of its caption or label. Unique among the controls of one tab.
-  char32_t mnemonic(const Control& control) const;
+  char32_t mnemonic(const Control& control) const { return mnemonicOf(control, -1); }
+  /// The same of a tab: the letter that its caption marks, and where tabs stand in a list the first
+  /// free one.
+  char32_t mnemonic(const TabStrip& strip, int tab) const { return mnemonicOf(strip, tab); }
 
   void setObserver(FormObserver* observer) { observer_ = observer; }
 
@@ -136,6 +139,7 @@ class Form {
   void settleFocus(Control* target);
   void rescueFocus(Control& lost);
   void assignMnemonics() const;
+  char32_t mnemonicOf(const Control& control, int tab) const;
   bool mayBeThrownAway();
 
   UserInterface& ui_;
@@ -155,7 +159,12 @@ class Form {
   bool disposable_ = false;
   Contents saved_;
   FormObserver* observer_ = nullptr;
-  mutable std::vector<std::pair<const Control*, char32_t>> mnemonics_;
+  struct Mnemonic {
+    const Control* control;
+    int tab;  // of a strip, -1 for the control itself
+    char32_t letter;
+  };
+  mutable std::vector<Mnemonic> mnemonics_;
   mutable bool mnemonicsKnown_ = false;
 };
 

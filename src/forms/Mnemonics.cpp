@@ -55,43 +55,47 @@ void Form::assignMnemonics() const {
       return !apart && entry.second == letter;
     });
   };
-  const auto take = [&](const Control& c, char32_t letter) {
+  const auto take = [&](const Control& c, char32_t letter, int tab = -1) {
     taken.push_back({{c.strip(), c.page()}, letter});
-    mnemonics_.push_back({&c, letter});
+    mnemonics_.push_back({&c, tab, letter});
   };
   const std::vector<Control*> order = tabOrder();
+  const auto assign = [&](const Control& control, const std::string& caption, int tab = -1) {
+    for (char32_t letter : candidates(caption)) {
+      if (clashes(control, letter)) continue;
+      take(control, letter, tab);
+      return;
+    }
+  };
   // Letters that tabs bear themselves are theirs alone.
   for (const Control* control : order)
     if (const auto* tabs = dynamic_cast<const TabStrip*>(control))
       for (int tab = 0; tab < tabs->tabCount(); ++tab)
-        if (const char32_t own = ownMnemonic(tabs->caption(tab)))
-          taken.push_back({{tabs->strip(), tabs->page()}, own});
+        if (const char32_t own = ownMnemonic(tabs->caption(tab))) take(*tabs, own, tab);
   for (const Control* control : order)
     if (const char32_t own = ownMnemonic(mnemonicText(*control))) take(*control, own);
-  const auto assign = [&](const Control& control) {
-    for (char32_t letter : candidates(mnemonicText(control))) {
-      if (clashes(control, letter)) continue;
-      take(control, letter);
-      return;
-    }
-  };
-  const auto open = [&](const Control& control) {
+  const auto open = [&](const Control& control, int tab = -1) {
     return std::none_of(mnemonics_.begin(), mnemonics_.end(),
-                        [&](const auto& entry) { return entry.first == &control; });
+                        [&](const Mnemonic& m) { return m.control == &control && m.tab == tab; });
   };
+  for (const Control* control : order)
+    if (const auto* tabs = dynamic_cast<const TabStrip*>(control); tabs && tabs->isList())
+      for (int tab = 0; tab < tabs->tabCount(); ++tab)
+        if (open(*tabs, tab)) assign(*tabs, tabs->caption(tab), tab);
   // Buttons and what stands outside the tabs choose before the many fields of the tabs.
   for (const Control* control : order)
-    if (open(*control) && !control->strip()) assign(*control);
+    if (open(*control) && !control->strip()) assign(*control, mnemonicText(*control));
   for (const Control* control : order)
-    if (open(*control)) assign(*control);
+    if (open(*control)) assign(*control, mnemonicText(*control));
   mnemonicsKnown_ = true;
 }
 
-char32_t Form::mnemonic(const Control& control) const {
+char32_t Form::mnemonicOf(const Control& control, int tab) const {
   if (!mnemonicsKnown_) assignMnemonics();
-  const auto found = std::find_if(mnemonics_.begin(), mnemonics_.end(),
-                                  [&](const auto& entry) { return entry.first == &control; });
-  return found == mnemonics_.end() ? 0 : found->second;
+  const auto found = std::find_if(mnemonics_.begin(), mnemonics_.end(), [&](const Mnemonic& m) {
+    return m.control == &control && m.tab == tab;
+  });
+  return found == mnemonics_.end() ? 0 : found->letter;
 }
 
 }  // namespace fidaleon::forms

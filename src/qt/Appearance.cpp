@@ -64,6 +64,11 @@ QColor warningColour(const QPalette& palette) {
   return isDark(palette) ? QColor(255, 138, 128) : QColor(176, 0, 32);
 }
 
+QColor restingColour(const QPalette& palette) {
+  return mix(palette.color(QPalette::Active, QPalette::Highlight),
+             palette.color(QPalette::Active, QPalette::Base), 0.25);
+}
+
 QColor lockedColour(const QPalette& palette) {
   return mix(palette.color(QPalette::Active, QPalette::Window),
              palette.color(QPalette::Active, QPalette::Base), 0.75);

@@ -16,6 +16,8 @@ bool isDark(const QPalette& palette);
 QColor warningColour(const QPalette& palette);
 /// Background of a field that can be read and copied but not changed.
 QColor lockedColour(const QPalette& palette);
+/// Background of what is chosen in a list that has not the focus.
+QColor restingColour(const QPalette& palette);
 
 /// Width of `n` letters of mean size in the widget's font, without any frame.
 int charsWidth(const QWidget& widget, double n);

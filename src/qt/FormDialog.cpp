@@ -6,10 +6,10 @@
 #include <QLayout>
 #include <QScopedValueRollback>
 #include <QScreen>
-#include <QScrollArea>
 
 #include "qt/Appearance.h"
 #include "qt/LayoutBuilder.h"
+#include "qt/PageScroll.h"
 #include "qt/Text.h"
 #include "qt/views/PlainViews.h"
 #include "qt/views/TabsView.h"
@@ -66,15 +66,6 @@ int wishedHeight(const forms::Form& form, const QWidget& window, int atLeast) {
     return control->visible() && dynamic_cast<const forms::Grid*>(control);
   });
   return rows ? atLeast + window.fontMetrics().height() * 12 : atLeast;
-}
-
-/// Scrolls every page around a field that has just been reached.
-void reveal(QWidget* field) {
-  for (QWidget* around = field->parentWidget(); around; around = around->parentWidget()) {
-    if (auto* area = qobject_cast<QScrollArea*>(around))
-      area->ensureWidgetVisible(field, 0, field->fontMetrics().height());
-    if (around->isWindow()) return;
-  }
 }
 
 }  // namespace
@@ -191,7 +182,7 @@ void FormDialog::userWent(QWidget* now) {
   if (settling_ || !now || form_.isUnloaded()) return;
   ControlView* view = viewAt(now);
   if (!view || !view->control().canTakeFocus()) return;
-  if (&view->control() == form_.activeControl()) return reveal(now);
+  if (&view->control() == form_.activeControl()) return reveal(*now);
   {
     const Settling asking(settling_);
     form_.moveFocus(view->control());
@@ -205,7 +196,9 @@ void FormDialog::pushFocus() {
   const Settling pushing(settling_);
   if (focusWidget() != view->focusWidget() || !view->focusWidget()->hasFocus())
     view->focusWidget()->setFocus(reason_);
-  reveal(view->focusWidget());
+  // A question stands above its field.
+  if (const ControlView* label = viewOf(view->control().label())) reveal(*label->widget());
+  reveal(*view->focusWidget());
 }
 
 bool FormDialog::focusNextPrevChild(bool next) {
@@ -253,10 +246,18 @@ void FormDialog::keyPressEvent(QKeyEvent* event) {
   }
 }
 
+/// The innermost tabs around the focus; at their end those around them, which go round.
 void FormDialog::switchTab(bool backwards) {
-  for (auto& [control, view] : views_) {
-    auto* tabs = dynamic_cast<TabsView*>(view.get());
-    if (tabs && control->reachable()) return tabs->askNext(backwards);
+  const Control* at = form_.activeControl();
+  const auto* strip = dynamic_cast<const forms::TabStrip*>(at);
+  if (at && !strip) strip = at->strip();
+  for (const Control* control : form_.controls())
+    if (!strip && control->reachable()) strip = dynamic_cast<const forms::TabStrip*>(control);
+  for (; strip; strip = strip->strip()) {
+    int tab = strip->next(strip->tab(), backwards);
+    if (tab < 0 && !strip->strip())
+      tab = strip->next(backwards ? strip->tabCount() : -1, backwards);
+    if (tab >= 0) return static_cast<TabsView*>(viewOf(strip))->choose(tab);
   }
 }
 

@@ -35,10 +35,16 @@ bool isWide(const forms::Control& control) {
          dynamic_cast<const forms::Label*>(&control);
 }
 
+bool growsWithItsText(const forms::Control& control) {
+  const auto* text = dynamic_cast<const forms::TextBox*>(&control);
+  return text && text->grows();
+}
+
 /// A text of a few lines keeps its height; what may hold more takes what there is.
 bool isElastic(const forms::Control& control) {
   const auto* text = dynamic_cast<const forms::TextBox*>(&control);
-  return isTall(control) && !(text && text->lines() <= MEMO_FIXED_UP_TO);
+  return isTall(control) &&
+         !(growsWithItsText(control) || (text && text->lines() <= MEMO_FIXED_UP_TO));
 }
 
 /// Whether a part of the layout uses what height is left.
@@ -216,8 +222,11 @@ QBoxLayout* LayoutBuilder::withBeside(QWidget* first, const LayoutNode& node, QW
 void LayoutBuilder::addItem(const LayoutNode& node, QBoxLayout& box, QWidget* parent) {
   const bool tall = isTall(*node.control);
   QBoxLayout* line = tall ? static_cast<QBoxLayout*>(new QVBoxLayout) : new QHBoxLayout;
-  box.addLayout(line, tall ? 1 : 0);
-  if (QWidget* front = label(*node.control, parent)) line->addWidget(front);
+  box.addLayout(line, tall && !growsWithItsText(*node.control) ? 1 : 0);
+  if (QWidget* front = label(*node.control, parent)) {
+    line->addWidget(front);
+    if (tall) static_cast<QLabel*>(front)->setWordWrap(true);
+  }
   QWidget* widget = control(*node.control, parent);
   if (auto* text = qobject_cast<QLabel*>(widget)) text->setWordWrap(true);
   QBoxLayout* cell = withBeside(widget, node, parent);

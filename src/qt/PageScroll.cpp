@@ -29,4 +29,12 @@ QSize PageScroll::minimumSizeHint() const {
           std::min(content.height(), lines)};
 }
 
+void reveal(QWidget& field) {
+  for (QWidget* around = field.parentWidget(); around; around = around->parentWidget()) {
+    if (auto* area = qobject_cast<QScrollArea*>(around))
+      area->ensureWidgetVisible(&field, 0, field.fontMetrics().height());
+    if (around->isWindow()) return;
+  }
+}
+
 }  // namespace fidaleon::qt

@@ -16,4 +16,7 @@ class PageScroll : public QScrollArea {
   QSize room_;
 };
 
+/// Scrolls every page around a field that has just been reached, or in which one types.
+void reveal(QWidget& field);
+
 }  // namespace fidaleon::qt

@@ -16,7 +16,8 @@ constexpr int DOCUMENT_DPI = 100;
 forms::TabStrip* tabsOf(const forms::Form& form) {
   forms::TabStrip* strip = nullptr;
   for (forms::Control* control : form.controls())
-    if (auto* found = dynamic_cast<forms::TabStrip*>(control)) strip = found;
+    if (auto* found = dynamic_cast<forms::TabStrip*>(control); found && !found->strip())
+      strip = found;
   return strip;
 }
 

@@ -57,6 +57,7 @@ class Sweep {
     for (TabStrip* strip : strips) {
       for (int tab = 0; tab < strip->tabCount(); ++tab) {
         if (!strip->tabVisible(tab)) continue;
+        if (strip->strip()) strip->strip()->setTab(strip->page());
         strip->setTab(tab);
         settle();
         look();

@@ -1,9 +1,12 @@
 #include "qt/views/MemoView.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QPlainTextEdit>
 #include <QTextBlock>
+#include <QtMath>
 
 #include "qt/Appearance.h"
+#include "qt/PageScroll.h"
 #include "qt/Text.h"
 #include "text/Utf8.h"
 
@@ -26,15 +29,33 @@ MemoView::MemoView(forms::TextBox& box, QWidget* parent)
     : TextView(box), edit_(new QPlainTextEdit(parent)) {
   edit_->setTabChangesFocus(true);
   edit_->setAcceptDrops(false);
-  const double frame = 2 * (edit_->frameWidth() + edit_->document()->documentMargin());
-  const double height = edit_->fontMetrics().lineSpacing() * box.lines() + frame;
-  edit_->setMinimumHeight(static_cast<int>(height) + 1);
+  edit_->setMinimumHeight(heightOf(box.lines()));
   if (box.lines() <= MEMO_FIXED_UP_TO) edit_->setMaximumHeight(edit_->minimumHeight());
   edit_->setMinimumWidth(charsWidth(*edit_, 16));
   connect(edit_, &QPlainTextEdit::textChanged, this, [this] { userEdited(); });
   connect(edit_, &QPlainTextEdit::cursorPositionChanged, this, [this] { selectionMoved(); });
   connect(edit_, &QPlainTextEdit::selectionChanged, this, [this] { selectionMoved(); });
+  if (box.grows()) {
+    edit_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    const auto* layout = edit_->document()->documentLayout();
+    connect(layout, &QAbstractTextDocumentLayout::documentSizeChanged, this, [this] { grow(); });
+    connect(edit_, &QPlainTextEdit::cursorPositionChanged, this, [this] {
+      if (edit_->hasFocus()) reveal(*edit_);
+    });
+    grow();
+  }
   watch();
+}
+
+int MemoView::heightOf(int lines) const {
+  const double frame = 2 * (edit_->frameWidth() + edit_->document()->documentMargin());
+  return static_cast<int>(edit_->fontMetrics().lineSpacing() * lines + frame) + 1;
+}
+
+// The layout of such a document counts in lines, those that were wrapped too.
+void MemoView::grow() {
+  edit_->setFixedHeight(
+      heightOf(std::max(box().lines(), qCeil(edit_->document()->size().height()))));
 }
 
 QWidget* MemoView::widget() const {

@@ -24,6 +24,9 @@ class MemoView : public TextView {
   void showLocked() override;
 
  private:
+  int heightOf(int lines) const;
+  void grow();
+
   QPlainTextEdit* edit_;
 };
 

@@ -1,47 +1,23 @@
 #pragma once
 
-#include <QTabBar>
-#include <QTabWidget>
-#include <functional>
-
 #include "qt/views/ControlView.h"
 
 namespace fidaleon::qt {
 
-/// A row of tabs that asks before it switches.
-class AskingTabBar : public QTabBar {
- public:
-  using QTabBar::QTabBar;
-  /// By the arrow keys, which stay on the row of tabs.
-  std::function<void(int tab)> step;
-  /// In any other way.
-  std::function<void(int tab)> ask;
-
- protected:
-  bool event(QEvent* event) override;
-  void mousePressEvent(QMouseEvent* event) override;
-  void keyPressEvent(QKeyEvent* event) override;
-  void wheelEvent(QWheelEvent* event) override;
-};
-
+/// Tabs and their pages: whoever shows them asks before it switches.
 class TabsView : public ControlView {
  public:
-  TabsView(forms::TabStrip& strip, QWidget* parent);
-  QWidget* widget() const override;
-  QWidget* focusWidget() const override;
-  void refresh(forms::Change what) override;
-  void addPage(QWidget* page);
-  /// The next tab that can be seen, around the end.
-  void askNext(bool backwards);
+  explicit TabsView(forms::TabStrip& strip) : ControlView(strip), strip_(strip) {}
+  virtual void addPage(QWidget* page) = 0;
   /// Brings the tab to the front and the focus to its first field, unless the form has sent it
   /// somewhere else.
   void choose(int tab);
 
+ protected:
+  forms::TabStrip& strip() const { return strip_; }
+
  private:
-  class Pages;
   forms::TabStrip& strip_;
-  AskingTabBar* bar_;
-  Pages* pages_;
 };
 
 }  // namespace fidaleon::qt

@@ -10,7 +10,8 @@
 #include "qt/views/ListBoxView.h"
 #include "qt/views/MemoView.h"
 #include "qt/views/PlainViews.h"
-#include "qt/views/TabsView.h"
+#include "qt/views/TabListView.h"
+#include "qt/views/TabRowView.h"
 
 namespace fidaleon::qt {
 
@@ -29,6 +30,8 @@ std::unique_ptr<ControlView> makeView(forms::Control& control, QWidget* parent) 
   std::unique_ptr<ControlView> made;
   auto* text = dynamic_cast<forms::TextBox*>(&control);
   if (text && text->multiline()) made = std::make_unique<MemoView>(*text, parent);
+  auto* tabs = dynamic_cast<forms::TabStrip*>(&control);
+  if (tabs && tabs->isList()) made = std::make_unique<TabListView>(*tabs, parent);
   tryMake<forms::DateField, DateView>(made, control, parent) ||
       tryMake<forms::TextBox, LineView>(made, control, parent) ||
       tryMake<forms::ComboBox, ComboView>(made, control, parent) ||
@@ -37,7 +40,7 @@ std::unique_ptr<ControlView> makeView(forms::Control& control, QWidget* parent) 
       tryMake<forms::OptionButton, OptionView>(made, control, parent) ||
       tryMake<forms::Button, ButtonView>(made, control, parent) ||
       tryMake<forms::Grid, GridView>(made, control, parent) ||
-      tryMake<forms::TabStrip, TabsView>(made, control, parent) ||
+      tryMake<forms::TabStrip, TabRowView>(made, control, parent) ||
       tryMake<forms::Frame, FrameView>(made, control, parent) ||
       tryMake<forms::Label, LabelView>(made, control, parent) ||
       tryMake<forms::Progress, ProgressView>(made, control, parent);

@@ -17,6 +17,7 @@ frmDetallePadres::frmDetallePadres(Contexto& contexto)
     linea.setLocked(true);
     linea.setWidthChars(80);
     linea.setLines(2);
+    linea.setGrows(true);
     lineas.push_back(forms::item(linea));
   }
   cmdCerrar.setCancel(true);
