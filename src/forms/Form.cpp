@@ -156,9 +156,12 @@ void Form::focusFirst() {
 }
 
 bool Form::focusFirstOn(const TabStrip& strip) {
-  for (Control* control : tabOrder())
-    if (control->strip() == &strip && control->page() == strip.tab() && control->reachable())
-      return moveFocus(*control);
+  for (Control* control : tabOrder()) {
+    if (control->strip() != &strip || control->page() != strip.tab() || !control->reachable())
+      continue;
+    const auto* inner = dynamic_cast<const TabStrip*>(control);
+    return (inner && focusFirstOn(*inner)) || moveFocus(*control);
+  }
   return false;
 }
 

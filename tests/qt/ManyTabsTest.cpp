@@ -42,8 +42,8 @@ TEST(ManyTabs, Keyboard_ReachesEachOfThemAndTheTabsWithin) {
   FormDialog dialog(form);
   dialog.show();
   ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
-  const auto key = [](Qt::Key key, Qt::KeyboardModifiers with = {}) {
-    QTest::keyClick(QApplication::focusWidget(), key, with);
+  const auto key = [](Qt::Key pressed, Qt::KeyboardModifiers with = {}) {
+    QTest::keyClick(QApplication::focusWidget(), pressed, with);
   };
   auto& list = dynamic_cast<QListWidget&>(*dialog.fieldOf(form.strip));
   form.strip.setNote(1, "Luis García");
@@ -58,7 +58,9 @@ TEST(ManyTabs, Keyboard_ReachesEachOfThemAndTheTabsWithin) {
   for (int tab = 0; tab < 10; ++tab) {
     letters.insert(form.mnemonic(form.strip, tab));
     key(Qt::Key(form.mnemonic(form.strip, tab)), Qt::AltModifier);
-    if (tab != 2) EXPECT_EQ(form.activeControl(), &form.boxes[tab]);
+    if (tab != 2) {
+      EXPECT_EQ(form.activeControl(), &form.boxes[tab]);
+    }
   }
   EXPECT_EQ(letters.size(), 10u);
   key(Qt::Key_PageDown, Qt::ControlModifier);

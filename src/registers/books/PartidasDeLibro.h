@@ -202,6 +202,7 @@ class PartidasDe final : public PartidasDeLibro {
     apunte.poner("Guardada", r.Estado);
     for (const auto& [nombre, miembro] : d_.claves) apunte.poner(nombre, r.*miembro);
     for (const auto& [nombre, miembro] : d_.signos) apunte.poner(nombre, r.*miembro);
+    if (d_.enEspera) apunte.poner("EnEspera", r.*d_.enEspera);
   }
   Registro leido(const Apunte& apunte) const {
     Registro r;
@@ -211,6 +212,7 @@ class PartidasDe final : public PartidasDeLibro {
     for (const auto& [nombre, miembro] : d_.claves)
       r.*miembro = static_cast<std::int32_t>(apunte.numero(nombre));
     for (const auto& [nombre, miembro] : d_.signos) r.*miembro = apunte.numero(nombre) != 0;
+    if (d_.enEspera) r.*d_.enEspera = apunte.valor("EnEspera");
     ponerOperacion(r, static_cast<FDAPI::cCOperacion>(apunte.numero("Operacion")));
     return r;
   }

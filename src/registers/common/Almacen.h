@@ -73,6 +73,11 @@ struct DescripcionAlmacen {
   void (*actualizarCompartidas)(FDAPI::Conexion&, const Registro&) = nullptr;
   /// Completes a record whose columns and keys are all known.
   void (*alLeer)(Registro&) = nullptr;
+  /// What waits with an entry that a list adds until it has a key, empty when nothing does; and how
+  /// it is stored then.
+  std::string Registro::*enEspera = nullptr;
+  void (*guardarEnEspera)(FDAPI::Conexion&, const Registro&) = nullptr;
+  const char* procEnEspera = nullptr;
 
   template <class Hacer>
   void cadaTabla(Hacer&& hacer) const {
@@ -278,7 +283,8 @@ class Almacen {
     using enum FDAPI::cCOperacion;
     const FDAPI::cCOperacion operacion = operacionDe(item);
     if (!item.Estado) return operacion != Borrar || item.*d_.id != 0;
-    return operacion == Borrar || operacion == EDITAR || operacion == EDITARSOLICITUD;
+    return operacion == Borrar || operacion == EDITAR || operacion == EDITARSOLICITUD ||
+           algoEnEspera(item);
   }
 
   bool grabarEntera(const std::string& procedimiento, Registro& item, bool& blnSalto) {
@@ -298,14 +304,22 @@ class Almacen {
     }
     if (borrar) r.*d_.id = 0;
     marcarHecha(r, !borrar);
-    return true;
+    return borrar || guardarEnEspera(r);
   }
 
   bool grabarAlta(Registro& r, bool& blnSalto) {
     const bool antiguo = operacionDe(r) == FDAPI::cCOperacion::ANTIGUA || enLibroAntiguo(r);
     if (!alta(r)) return false;
     marcarHecha(r, true);
-    return !antiguo || formato(r, blnSalto);
+    return (!antiguo || formato(r, blnSalto)) && guardarEnEspera(r);
+  }
+
+  bool algoEnEspera(const Registro& r) const { return d_.enEspera && !(r.*d_.enEspera).empty(); }
+  bool guardarEnEspera(Registro& r) {
+    if (!algoEnEspera(r)) return true;
+    const bool hecho = guardado(d_.procEnEspera, [&] { d_.guardarEnEspera(conexion_, r); });
+    if (hecho) (r.*d_.enEspera).clear();
+    return hecho;
   }
 
   static void marcarHecha(Registro& r, bool estado) {

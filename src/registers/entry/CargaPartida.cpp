@@ -174,6 +174,17 @@ void frmPartida::prepararEdicion() {
   mostrarAnulada();
 }
 
+void frmPartida::seguirCorrigiendo() {
+  libroNuevo_ = Operacion == cCOperacion::ANADIR;
+  Operacion = esSolicitud() ? cCOperacion::EDITARSOLICITUD : cCOperacion::EDITAR;
+  lngID = datos().id;
+  for (forms::ComboBox* lista : {&institucion(), &libro()}) lista->setLocked(true);
+  for (forms::Button* boton : {&cmdAltaInstitucion, &cmdAltaLibro}) boton->setEnabled(false);
+  mostrarModo();
+  mostrarAnulada();
+  refrescarTitulo();
+}
+
 void frmPartida::mostrarLeida() {
   mostrarRegistro();
   const DatosPartida leidos = datos();
@@ -209,6 +220,7 @@ void frmPartida::bloquear(bool anulada) {
   const bool quedanNotas = variante_.alAnular == VariantePartida::AlAnular::TodoMenosNotas;
   for (forms::TextBox* campo : textos_)
     if (campo != notas_ || !quedanNotas) fijar(*campo);
+  for (forms::TextBox* campo : anexos_) fijar(*campo);
   for (forms::DateField* campo : fechas_) fijar(*campo);
   for (forms::TimeField* campo : horas_) fijar(*campo);
   for (const auto& [indice, lista] : cboPartida.all()) fijar(*lista);

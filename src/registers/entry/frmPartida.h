@@ -109,6 +109,8 @@ class frmPartida : public Dialogo {
   /// As long as a parent's name is not known, the surname that came from that side stands for it.
   void proponerProgenitor(int apellido, int progenitor);
   void crearMarca(forms::CheckBox& marca) { marcas_.push_back(&marca); }
+  /// A field of something that is kept beside the record: an annulment locks it too.
+  void crearAnexo(forms::TextBox& campo) { anexos_.push_back(&campo); }
   /// Stays as it is from one entry of a series to the next.
   void serie(const forms::Control& campo) { serie_.insert(&campo); }
   RevisionFechas& revision() { return fechasRevisadas_; }
@@ -161,6 +163,8 @@ class frmPartida : public Dialogo {
   /// "codlibro=1 OR codlibro=2", the books that the repeated-entry check looks in; empty for none.
   std::string librosDondeRepetida() const;
   bool marcadaParaBorrar(std::int64_t id) const;
+  /// The new entry is stored, and something beside it is not: it is gone on with as a correction.
+  void seguirCorrigiendo();
 
  private:
   struct Persona {
@@ -242,6 +246,7 @@ class frmPartida : public Dialogo {
   std::set<const forms::Control*> prescindibles_;
   std::vector<std::pair<forms::TextBox*, std::int64_t>> limites_;
   std::vector<forms::CheckBox*> marcas_;
+  std::vector<forms::TextBox*> anexos_;
   std::vector<std::function<void()>> bloqueados_;  // unlocks what the annulment has locked
 
   std::optional<Elecciones> elecciones_;

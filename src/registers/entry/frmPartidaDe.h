@@ -103,8 +103,9 @@ class frmPartidaDe : public frmPartida {
   // What the sacrament keeps beside its record.
   /// A correction is about to be stored, or put into the list; false gives it up.
   virtual bool antesDeCorregir(Registro&) { return true; }
-  /// A new entry stands in its tables, with its keys. Not when it was put into a list.
-  virtual void trasAlta(const Registro&) {}
+  /// A new entry stands in its tables, with its keys. Not when it was put into a list. False when
+  /// what belongs to it could not be stored.
+  virtual bool trasAlta(const Registro&) { return true; }
 
   // What the sacrament knows of its record.
   /// That of the entry first, then those that hang on it, in the order in which they are read.
@@ -210,8 +211,10 @@ class frmPartidaDe : public frmPartida {
     DatosPartida d = datosDe(registro_);
     d.id = intentada.Estado ? 0 : datosDe(intentada).id;
     ponerDatos(registro_, d);
-    if (intentada.Estado) trasAlta(intentada);
-    return intentada.Estado;
+    if (!intentada.Estado || trasAlta(intentada)) return intentada.Estado;
+    registro_ = intentada;
+    seguirCorrigiendo();
+    return false;
   }
   bool guardarEdicion(Registro partida) {
     completarEdicion(partida);

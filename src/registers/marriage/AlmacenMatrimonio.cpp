@@ -4,6 +4,7 @@
 
 #include <array>
 
+#include "registers/marriage/Examenes.h"
 #include "registers/marriage/TablasMatrimonio.h"
 
 namespace fidaleon {
@@ -106,6 +107,11 @@ void retomar(M& m, const store::Recordset& fila) {
   m.IDNovias = static_cast<std::int32_t>(fila.integer("CodNovias"));
 }
 
+void guardarExamenesEnEspera(Conexion& conexion, const M& m) {
+  GrabarExamenes(conexion, FDAPI::cCOperacion::EDITAR, m.IDMatrimonio,
+                 examenesDeTexto(m.ExamenesEnEspera));
+}
+
 }  // namespace
 
 const DescripcionAlmacen<M> ALMACEN_MATRIMONIO{
@@ -125,6 +131,9 @@ const DescripcionAlmacen<M> ALMACEN_MATRIMONIO{
     .insertarCompartidas = insertarContrayentes,
     .retomar = retomar,
     .actualizarCompartidas = actualizarContrayentes,
+    .enEspera = &M::ExamenesEnEspera,
+    .guardarEnEspera = guardarExamenesEnEspera,
+    .procEnEspera = "GrabarExamenes",
 };
 
 template class Almacen<M>;

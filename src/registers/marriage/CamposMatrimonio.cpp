@@ -15,7 +15,7 @@ const V MATRIMONIOS{
     .sacramento = MATRIMONIO,
     .pestanas = {"GENERAL", "NOVIO (D. Personales)", "NOVIO (D. Sacramentales)", "NOVIO (Otros)",
                  "NOVIA (D. Personales)", "NOVIA (D. Sacramentales)", "NOVIA (Otros)",
-                 "EXPEDIENTES", "COMPROMISO", "N.MARGINALES"},
+                 "EXPEDIENTES", "COMPROMISO", "N.MARGINALES", "EXAMENES (CONTRAYENTES/TESTIGOS)"},
     .listaInstitucion = P::Institucion,
     .listaLibro = P::Libro,
     .titulos = {.nueva = "Alta de partida de matrimonio nueva.",
@@ -81,6 +81,7 @@ frmPartidaMatrimonio::frmPartidaMatrimonio(Contexto& contexto)
   ponerNotas(NotasMarginales);
   fechaDelSacramento(FechaMatrimonio);
   mostrarEdicion();
+  crearExamenes();
   disponer(paginas());
   crearSucesos();
 }

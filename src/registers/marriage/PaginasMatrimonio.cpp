@@ -20,6 +20,7 @@ forms::Nodes frmPartidaMatrimonio::paginas() {
   paginas.push_back(paginaExpedientes());
   paginas.push_back(paginaCompromiso());
   paginas.push_back(page({fields(1, {en(NotasMarginales), en(Observaciones)})}));
+  paginas.push_back(examenes_ ? examenes_->pagina() : page({}));
   return paginas;
 }
 

@@ -78,6 +78,11 @@ std::string frmPartidaMatrimonio::sqlRepetida(const M& m) {
          condicionIguales<M>(MISMOS, m);
 }
 
+bool frmPartidaMatrimonio::ComprobarCambios(M& nuevo) const {
+  return frmPartidaDe::ComprobarCambios(nuevo) ||
+         registro_.ExamenesEnEspera != nuevo.ExamenesEnEspera;
+}
+
 bool frmPartidaMatrimonio::mismosDatos(const M& a, const M& b) const {
   return iguales<M>(MISMOS, a, b);
 }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core/contract/NombreYApellidos.h"
 #include "registers/common/Guiones.h"
 #include "registers/lookup/Importacion.h"
 #include "registers/marriage/frmPartidaMatrimonio.h"
@@ -49,6 +50,10 @@ void frmPartidaMatrimonio::crearSucesos() {
     };
     txtPartida[c + Edad].onChange = [this, c] { edadTecleada(c) = !calculando_; };
   }
+  for (const int persona :
+       {NOVIO + Nombre, NOVIA + Nombre, int{NombreTestigo}, NombreTestigo + OtroTestigo})
+    for (const int campo : {persona, persona + 1, persona + 2})
+      txtPartida[campo].onChange = [this] { nombrarPestanas(); };
   for (const int dni : {NOVIO + DNI, NOVIA + DNI, int{DNITestigo}, DNITestigo + OtroTestigo})
     txtPartida[dni].onLostFocus = [this, dni](forms::Control* siguiente) {
       if (siguiente != &cmdPartida[CANCELAR]) completarDNI(txtPartida[dni]);
@@ -89,9 +94,11 @@ void frmPartidaMatrimonio::LimpiarDatos() {
     txtPartida[c + Nacionalidad].setText("española");
     edadTecleada(c) = false;
   }
+  if (examenes_) examenes_->mostrar(respuestasEnBlanco());
 }
 
 void frmPartidaMatrimonio::alCargar() {
+  if (examenes_) cargarExamenes();
   chkLugar.setValue(!enBlanco(txtPartida[Demarcacion]));
   chkLugar_Click();
 }
@@ -106,6 +113,25 @@ void frmPartidaMatrimonio::chkLugar_Click() {
 void frmPartidaMatrimonio::completarCampos() {
   for (const int c : CONTRAYENTES) CalcularEdad(c, "0");
   completarCP();
+  if (examenes_ && esAlta() && desdeLista())
+    registro_.ExamenesEnEspera = textoDeExamenes(examenes_->respuestas());
+}
+
+/// Who it is about stands on the tabs of each person.
+void frmPartidaMatrimonio::nombrarPestanas() {
+  const auto quien = [this](int nombre) {
+    return nombreYApellidos(
+        {txtPartida[nombre].text(), txtPartida[nombre + 1].text(), txtPartida[nombre + 2].text()});
+  };
+  for (const int c : CONTRAYENTES)
+    for (const Pestana pestana : {TAB_PERSONALES, TAB_SACRAMENTALES, TAB_OTROS})
+      mstPartida.setNote(pestana + (c == NOVIA ? TABS_DE_NOVIA : 0), quien(c + Nombre));
+  if (!examenes_) return;
+  for (const auto& [pestana, nombre] : {std::pair{EXAMEN_NOVIO, NOVIO + Nombre},
+                                        {EXAMEN_NOVIA, NOVIA + Nombre},
+                                        {EXAMEN_TESTIGO1, int{NombreTestigo}},
+                                        {EXAMEN_TESTIGO2, NombreTestigo + OtroTestigo}})
+    examenes_->mstExamenes.setNote(pestana, quien(nombre));
 }
 
 /// An age that was typed, or that an old entry gives without the day of birth, stays.

@@ -155,6 +155,10 @@ struct cMatrimonio {
 
   /// Of no use.
   std::string Encargado;
+
+  /// The answers of the examinations of an entry that the list of its book adds, until it has a key
+  /// under which they can be stored; see textoDeExamenes().
+  std::string ExamenesEnEspera;
 };
 
 /// The working copy of a book's list. Whoever lists the book owns it; dialogs change it in place.

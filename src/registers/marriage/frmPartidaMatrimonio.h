@@ -1,8 +1,10 @@
 #pragma once
 
 #include <array>
+#include <optional>
 
 #include "registers/entry/frmPartidaDe.h"
+#include "registers/marriage/PanelExamenes.h"
 #include "registers/marriage/cMatrimonio.h"
 
 namespace fidaleon {
@@ -106,7 +108,8 @@ class frmPartidaMatrimonio : public frmPartidaDe<cMatrimonio> {
     TABS_DE_NOVIA = 3,
     TAB_EXPEDIENTES = 7,
     TAB_COMPROMISO,
-    TAB_NOTAS
+    TAB_NOTAS,
+    TAB_EXAMENES  // in one edition
   };
 
   forms::TimeField txtHoraMatrimonio;
@@ -136,6 +139,14 @@ class frmPartidaMatrimonio : public frmPartidaDe<cMatrimonio> {
   void completarEdicion(cMatrimonio& m) const override;
   std::string sqlRepetida(const cMatrimonio& m) override;
   bool mismosDatos(const cMatrimonio& a, const cMatrimonio& b) const override;
+  bool ComprobarCambios(cMatrimonio& nuevo) const override;
+
+  // The examinations
+  void crearExamenes();
+  void cargarExamenes();
+  bool antesDeCorregir(cMatrimonio& m) override;
+  bool trasAlta(const cMatrimonio& m) override;
+  bool grabarExamenes(FDAPI::cCOperacion operacion, std::int32_t id);
 
   // The sacrament's own
   void importar(std::size_t persona, const frmBuscaPadres& de) override;
@@ -149,9 +160,11 @@ class frmPartidaMatrimonio : public frmPartidaDe<cMatrimonio> {
   void completarDNI(forms::TextBox& campo);
   void completarCP();
   void proponerExhorto();
+  void nombrarPestanas();
 
   bool& edadTecleada(int contrayente) { return edadTecleada_[contrayente == NOVIA ? 1 : 0]; }
 
+  std::optional<PanelExamenes> examenes_;
   std::array<bool, 2> edadTecleada_{};
   bool calculando_ = false;
 };
