@@ -63,6 +63,7 @@ class Sweep {
         look();
       }
       strip->setTab(0);
+      if (strip->strip()) strip->strip()->setTab(0);
     }
   }
 
