@@ -21,7 +21,9 @@ struct Dossier : Form {
   explicit Dossier(UserInterface& ui) : Form(ui, "frmExpediente") {
     Nodes pages;
     for (int i = 0; i < 9; ++i) pages.push_back(page({item(boxes.add(i, "Nombre"))}));
-    for (int i = 9; i < 11; ++i) boxes.add(i, std::string(300, '?')).setGrows(true);
+    std::string question;
+    while (question.size() < 300) question += "¿ Cuándo ? ";
+    for (int i = 9; i < 11; ++i) boxes.add(i, question).setGrows(true);
     pages.push_back(page({tabs(inner, {page({item(boxes[9])}), page({item(boxes[10])})})}));
     strip.setTabVisible(2, false);
     setLayout(column({tabs(strip, std::move(pages))}));

@@ -23,10 +23,16 @@ QString withoutCr(QString text) {
   return text.remove(u'\r');
 }
 
+/// A line or two are enough: it has no room to keep for scroll bars.
+class Memo : public QPlainTextEdit {
+ public:
+  using QPlainTextEdit::QPlainTextEdit;
+  QSize minimumSizeHint() const override { return minimumSize(); }
+};
+
 }  // namespace
 
-MemoView::MemoView(forms::TextBox& box, QWidget* parent)
-    : TextView(box), edit_(new QPlainTextEdit(parent)) {
+MemoView::MemoView(forms::TextBox& box, QWidget* parent) : TextView(box), edit_(new Memo(parent)) {
   edit_->setTabChangesFocus(true);
   edit_->setAcceptDrops(false);
   edit_->setMinimumHeight(heightOf(box.lines()));

@@ -14,7 +14,7 @@ namespace fidaleon::qt {
 namespace {
 
 constexpr int MARKED = Qt::UserRole, NOTE = Qt::UserRole + 1;
-constexpr int WIDEST = 26;  // letters of a line; a longer caption takes two
+constexpr int LEAST = 22, WIDEST = 26;  // letters of a line; a longer caption takes two
 constexpr int LEAST_ROWS = 5;
 
 QFont bold(QFont font) {
@@ -32,11 +32,14 @@ class TabListView::Delegate : public QStyledItemDelegate {
 
   QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
     const QFontMetrics metrics(bold(option.font));
-    const int widest = metrics.averageCharWidth() * WIDEST;
-    const QRect caption =
-        metrics.boundingRect(QRect(0, 0, widest, metrics.lineSpacing() * 2), Qt::TextWordWrap,
-                             index.data(Qt::DisplayRole).toString());
-    return {caption.width() + 2 * margin(metrics), 2 * metrics.lineSpacing() + margin(metrics)};
+    const QString caption = index.data(Qt::DisplayRole).toString();
+    int room = metrics.averageCharWidth() * WIDEST;
+    const auto taken = [&] {
+      return metrics.boundingRect(QRect(0, 0, room, 0), Qt::TextWordWrap, caption);
+    };
+    while (taken().height() > 2 * metrics.lineSpacing()) room += metrics.averageCharWidth();
+    const int width = std::max(taken().width(), metrics.averageCharWidth() * LEAST);
+    return {width + 2 * margin(metrics), 2 * metrics.lineSpacing() + margin(metrics)};
   }
 
   void paint(QPainter* painter, const QStyleOptionViewItem& option,

@@ -2,6 +2,16 @@
 
 namespace fidaleon {
 
+namespace {
+
+std::vector<std::string> titulos() {
+  std::vector<std::string> titulos;
+  for (const PaginaExamen& pagina : PAGINAS_DE_EXAMEN) titulos.emplace_back(pagina.titulo);
+  return titulos;
+}
+
+}  // namespace
+
 PanelExamenes::Pagina::Pagina(forms::Form& form, const PaginaExamen& de)
     : respuestas(form, std::string("txtExamen") + de.nombre),
       apartados(form, std::string("fraExamen") + de.nombre) {
@@ -11,7 +21,7 @@ PanelExamenes::Pagina::Pagina(forms::Form& form, const PaginaExamen& de)
 }
 
 PanelExamenes::PanelExamenes(forms::Form& form)
-    : mstExamenes(form, "mstExamenes", {}),
+    : mstExamenes(form, "mstExamenes", titulos()),
       paginas_{Pagina(form, PAGINAS_DE_EXAMEN[0]), Pagina(form, PAGINAS_DE_EXAMEN[1]),
                Pagina(form, PAGINAS_DE_EXAMEN[2]), Pagina(form, PAGINAS_DE_EXAMEN[3]),
                Pagina(form, PAGINAS_DE_EXAMEN[4])} {
