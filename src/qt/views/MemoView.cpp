@@ -4,6 +4,7 @@
 #include <QPlainTextEdit>
 #include <QTextBlock>
 #include <QtMath>
+#include <functional>
 
 #include "qt/Appearance.h"
 #include "qt/PageScroll.h"
@@ -28,6 +29,13 @@ class Memo : public QPlainTextEdit {
  public:
   using QPlainTextEdit::QPlainTextEdit;
   QSize minimumSizeHint() const override { return minimumSize(); }
+  std::function<void()> resized;
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override {
+    QPlainTextEdit::resizeEvent(event);
+    if (resized) resized();
+  }
 };
 
 }  // namespace
@@ -43,8 +51,8 @@ MemoView::MemoView(forms::TextBox& box, QWidget* parent) : TextView(box), edit_(
   connect(edit_, &QPlainTextEdit::selectionChanged, this, [this] { selectionMoved(); });
   if (box.grows()) {
     edit_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    const auto* layout = edit_->document()->documentLayout();
-    connect(layout, &QAbstractTextDocumentLayout::documentSizeChanged, this, [this] { grow(); });
+    static_cast<Memo*>(edit_)->resized = [this] { grow(); };
+    connect(edit_, &QPlainTextEdit::textChanged, this, [this] { grow(); });
     connect(edit_, &QPlainTextEdit::cursorPositionChanged, this, [this] {
       if (edit_->hasFocus()) reveal(*edit_);
     });
@@ -58,10 +66,13 @@ int MemoView::heightOf(int lines) const {
   return static_cast<int>(edit_->fontMetrics().lineSpacing() * lines + frame) + 1;
 }
 
-// The layout of such a document counts in lines, those that were wrapped too.
+// Lines are only broken when somebody asks for their room.
 void MemoView::grow() {
-  edit_->setFixedHeight(
-      heightOf(std::max(box().lines(), qCeil(edit_->document()->size().height()))));
+  const auto* layout = edit_->document()->documentLayout();
+  double height = heightOf(0);
+  for (QTextBlock block = edit_->document()->begin(); block.isValid(); block = block.next())
+    height += layout->blockBoundingRect(block).height();
+  edit_->setFixedHeight(std::max(heightOf(box().lines()), qCeil(height)));
 }
 
 QWidget* MemoView::widget() const {
