@@ -120,7 +120,7 @@ class CensusWriter {
   std::string occupation(const Inhabitant& p, int age) const {
     if (p.married && !p.who.woman) return p.home->trade;
     if (p.married) return std::string(sample::TRADES[count_ % 4 + 13]);
-    return age < 17 ? "Colegio público" : "Estudiante";
+    return age < 17 ? "colegio público" : "estudiante";
   }
 
   Insert satellite(const char* table, std::int32_t id) const {

@@ -158,7 +158,7 @@ cDefuncion Entries::death(const Burial& b, const Place& place) const {
 
 void Entries::putFamily(cDefuncion& r, const Burial& b) const {
   r.DomicilioActual = r.DomicilioDefn = "C/ Mayor, " + std::to_string(3 + b.age % 40);
-  r.EstadoCivil = b.couple < 0 ? "Soltero" : b.widowed ? "Viudo" : "Casado";
+  r.EstadoCivil = b.couple < 0 ? "soltero" : b.widowed ? "viudo" : "casado";
   if (b.person.woman) r.EstadoCivil.back() = 'a';
   r.NumeroHijos = "0";
   if (b.couple < 0) return;
@@ -173,7 +173,7 @@ void Entries::putFamily(cDefuncion& r, const Burial& b) const {
     r.NombreContacto = child.name;
     r.ApellidoContacto = c.father.first;
     r.Apellido2Contacto = c.mother.first;
-    r.RelacionDifunto = child.girl ? "Hija" : "Hijo";
+    r.RelacionDifunto = child.girl ? "hija" : "hijo";
   }
   r.NumeroHijos = std::to_string(children);
   r.NombreHijos = names;

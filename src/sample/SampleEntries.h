@@ -1,11 +1,13 @@
 #pragma once
 
+#include <array>
 #include <string>
 #include <vector>
 
 #include "registers/baptism/cBautismo.h"
 #include "registers/confirmation/cConfirmacion.h"
 #include "registers/death/cDefuncion.h"
+#include "registers/marriage/cMatrimonio.h"
 #include "sample/SamplePopulation.h"
 
 namespace fidaleon::app::sample {
@@ -22,6 +24,7 @@ struct Place {
 struct Surroundings {
   std::string parish;
   std::string diocese;
+  std::string postcode;
   std::int32_t institution = 0;
   std::int32_t town = 0;
   std::vector<std::int32_t> towns;  // keys, in the order of TOWNS
@@ -38,6 +41,9 @@ class Entries {
   cConfirmacion confirmation(const Confirmation& c, const Place& place,
                              const Place* baptised) const;
   cDefuncion death(const Burial& b, const Place& place) const;
+  /// Groom and bride: where their baptisms stand in the books of the parish, if they do.
+  cMatrimonio marriage(const Marriage& m, const Place& place,
+                       std::array<const Place*, 2> baptised) const;
 
  private:
   const Couple& coupleOf(int position) const;
@@ -48,6 +54,9 @@ class Entries {
   void putMarriage(cBautismo& r, const Couple& c) const;
   void putBaptism(cConfirmacion& r, const Confirmation& c, const Place* baptised) const;
   void putFamily(cDefuncion& r, const Burial& b) const;
+  void putSpouse(cMatrimonio& r, std::size_t which, const Marriage& m, const Place* baptised) const;
+  void putCelebration(cMatrimonio& r, const Marriage& m) const;
+  void putWitnesses(cMatrimonio& r, const Marriage& m) const;
 
   const Population& people_;
   const Surroundings& at_;

@@ -138,9 +138,9 @@ const std::array<std::string_view, 56> SURNAMES{
      "Crespo",  "Pastor",  "Nieto",   "Arribas", "Yagüe",    "Zamora",       "Ureña",
      "Toribio", "Solís",   "Rojo",    "Quesada", "Olmedo",   "Llorente",     "Jordán"}};
 const std::array<std::string_view, 18> TRADES{
-    {"Labrador", "Jornalero", "Herrero", "Carpintero", "Maestro", "Comerciante", "Panadero",
-     "Albañil", "Ganadero", "Molinero", "Zapatero", "Guarda forestal", "Conductor",
-     "Administrativo", "Enfermero", "Electricista", "Funcionario", "Veterinario"}};
+    {"labrador", "jornalero", "herrero", "carpintero", "maestro", "comerciante", "panadero",
+     "albañil", "ganadero", "molinero", "zapatero", "guarda forestal", "conductor",
+     "administrativo", "enfermero", "electricista", "funcionario", "veterinario"}};
 const std::array<std::string_view, 14> STREETS{
     {"C/ Real", "C/ Mayor", "Plaza de la Constitución", "C/ de la Iglesia", "C/ del Arco",
      "Travesía del Horno", "C/ de la Fuente", "Camino de las Eras", "C/ San Roque",

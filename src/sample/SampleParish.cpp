@@ -1,16 +1,21 @@
 #include "sample/SampleParish.h"
 
+#include <array>
 #include <vector>
 
+#include "core/contract/FDAPI.h"
 #include "core/statements/Citas.h"
+#include "core/statements/Sentencia.h"
 #include "parish/Insert.h"
 #include "registers/allocation/ActualizacionFormato.h"
 #include "registers/baptism/AlmacenBautismo.h"
 #include "registers/books/LibroNuevo.h"
 #include "registers/confirmation/AlmacenConfirmacion.h"
 #include "registers/death/AlmacenDefuncion.h"
+#include "registers/marriage/AlmacenMatrimonio.h"
 #include "sample/SampleCensus.h"
 #include "sample/SampleEntries.h"
+#include "sample/SampleExaminations.h"
 #include "sample/SampleNames.h"
 #include "sample/SamplePopulation.h"
 
@@ -18,7 +23,8 @@ namespace fidaleon::app {
 namespace {
 
 constexpr std::uint32_t SEED = 1924;
-constexpr int NEW_BOOK_YEAR = 2014;
+constexpr int NEW_BOOK_YEAR = 2002;  // closed when the next one was opened
+constexpr int OPEN_BOOK_YEAR = 2014;
 constexpr int REQUESTS = 5;
 constexpr int CONFIRMATION_REQUESTS = 7;
 constexpr int ENTRIES_PER_FOLIO = 4;  // of format 1, the old book's
@@ -29,19 +35,24 @@ constexpr int YEAR_NAME = 1;
 
 using sample::Place;
 
-/// The books of one register: an old one, and the open new one that follows it.
-struct Shelf {
-  LibroNuevo old, current;
-  std::int32_t oldKey = 0, newKey = 0;
-  int inOld = 0, inNew = 0;
+/// One book while it is being filled.
+struct Book {
+  LibroNuevo made;
+  int perFolio = 1;
+  std::int32_t key = 0;
+  int filled = 0;
 
+  Place next() {
+    ++filled;
+    return {key, 1 + (filled - 1) / perFolio, std::to_string(filled), made.nombre};
+  }
+};
+
+/// The books of one register.
+struct Shelf {
+  Book old, closed, open;
   Place next(int year) {
-    if (year >= NEW_BOOK_YEAR) {
-      ++inNew;
-      return {newKey, inNew, std::to_string(inNew), current.nombre};
-    }
-    ++inOld;
-    return {oldKey, 1 + (inOld - 1) / ENTRIES_PER_FOLIO, std::to_string(inOld), old.nombre};
+    return (year < NEW_BOOK_YEAR ? old : year < OPEN_BOOK_YEAR ? closed : open).next();
   }
 };
 
@@ -54,10 +65,11 @@ class Writer {
     writeTowns();
     writeInstitutions();
     people_ = sample::makePopulation(SEED, homeTown(), parish_.name, today_);
-    around_ = {parish_.name, std::string(home_.diocese), own_, ownTown_, towns_};
+    around_ = {parish_.name, std::string(home_.diocese), postcode(), own_, ownTown_, towns_};
     writeBaptisms();
     writeConfirmations();
     writeBurials();
+    writeMarriages();
     writeBaptismRequests();
     writeConfirmationRequests();
     fillSampleCensus(con_, {people_, towns_, own_, ownTown_, parish_.name, postcode()}, today_);
@@ -114,21 +126,32 @@ class Writer {
     return (code.size() < 2 ? "0" + code : code) + "730";
   }
 
-  std::int32_t book(const Sacramento& sacrament, const LibroNuevo& made) {
-    insertarLibro(con_, sacrament, made);
-    return ultimoLibro(con_, sacrament);
+  Book oldBook(const std::string& name) const {
+    return {{own_, OLD_FORMAT, OPEN_NAME, name, std::to_string(NEW_BOOK_YEAR - 1) + "1231", false},
+            ENTRIES_PER_FOLIO};
   }
-  LibroNuevo oldBook(const std::string& name) const {
-    return {own_, OLD_FORMAT, OPEN_NAME, name, std::to_string(NEW_BOOK_YEAR - 1) + "1231", false};
+  Book newBook(int since) const {
+    const std::string year = std::to_string(since);
+    return {{own_, NEW_FORMAT, YEAR_NAME, year + "/01", year + "0101", true}};
   }
-  LibroNuevo newBook() const {
-    const std::string year = std::to_string(NEW_BOOK_YEAR);
-    return {own_, NEW_FORMAT, YEAR_NAME, year + "/01", year + "0101", true};
+  Shelf open(const Sacramento& sacrament, const std::string& nameOfOld) {
+    Shelf shelf{oldBook(nameOfOld), newBook(NEW_BOOK_YEAR), newBook(OPEN_BOOK_YEAR)};
+    for (Book* b : {&shelf.old, &shelf.open, &shelf.closed}) {
+      insertarLibro(con_, sacrament, b->made);
+      b->key = ultimoLibro(con_, sacrament);
+    }
+    return shelf;
+  }
+  /// The counters of the old book as its last entry leaves them.
+  void close(const Sacramento& sacrament, const Shelf& shelf) {
+    bool jump = false;
+    actualizacionFormato(con_, sacrament, shelf.old.key, jump);
+    con_.Execute(sentencia(sacrament, "UPDATE {Libros} SET Cerrado=true WHERE {IDLibro}=") +
+                 std::to_string(shelf.closed.key));
   }
 
   void writeBaptisms() {
-    Shelf shelf{oldBook("Libro XIV"), newBook()};
-    open(BAUTISMO, shelf);
+    Shelf shelf = open(BAUTISMO, "Libro XIV");
     for (const sample::Baptism& b : people_.baptisms) {
       places_.push_back(shelf.next(b.day.year));
       write(ALMACEN_BAUTISMO, entries().baptism(b, places_.back()));
@@ -137,30 +160,31 @@ class Writer {
   }
 
   void writeConfirmations() {
-    Shelf shelf{oldBook("Libro VI"), newBook()};
-    open(CONFIRMACION, shelf);
+    Shelf shelf = open(CONFIRMACION, "Libro VI");
     for (const sample::Confirmation& c : people_.confirmations)
-      write(ALMACEN_CONFIRMACION, entries().confirmation(c, shelf.next(c.day.year), placeOf(c)));
+      write(ALMACEN_CONFIRMACION,
+            entries().confirmation(c, shelf.next(c.day.year), placeOf(c.baptism)));
     close(CONFIRMACION, shelf);
   }
 
   void writeBurials() {
-    Shelf shelf{oldBook("Libro IX"), newBook()};
-    open(DEFUNCION, shelf);
+    Shelf shelf = open(DEFUNCION, "Libro IX");
     for (const sample::Burial& b : people_.burials)
       write(ALMACEN_DEFUNCION, entries().death(b, shelf.next(b.death.year)));
     close(DEFUNCION, shelf);
   }
 
-  void open(const Sacramento& sacrament, Shelf& shelf) {
-    shelf.oldKey = book(sacrament, shelf.old);
-    shelf.newKey = book(sacrament, shelf.current);
+  void writeMarriages() {
+    Shelf shelf = open(MATRIMONIO, "Libro XI");
+    for (const sample::Marriage& m : people_.marriages)
+      write(ALMACEN_MATRIMONIO, entries().marriage(m, shelf.next(m.day.year), placesOf(m)));
+    close(MATRIMONIO, shelf);
+    for (const sample::Marriage& m : people_.engaged)
+      write(ALMACEN_MATRIMONIO, entries().marriage(m, {}, placesOf(m)));
+    if (parish_.edition == FDAPI::cCAplicacion::APP_FIDALEON_MADRID)
+      fillSampleExaminations(con_, people_.engaged.back(), parish_.name);
   }
-  /// The counters of the old book as its last entry leaves them.
-  void close(const Sacramento& sacrament, const Shelf& shelf) {
-    bool jump = false;
-    actualizacionFormato(con_, sacrament, shelf.oldKey, jump);
-  }
+
   template <class Record>
   void write(const DescripcionAlmacen<Record>& store, Record entry) {
     rellenarGuiones(store, entry);
@@ -200,14 +224,17 @@ class Writer {
       c.street = parents.street;
       c.baptismParish = parish_.name;
       c.baptismTown = homeTown();
-      write(ALMACEN_CONFIRMACION, entries().confirmation(c, {}, placeOf(c)));
+      write(ALMACEN_CONFIRMACION, entries().confirmation(c, {}, placeOf(c.baptism)));
       --left;
     }
   }
 
   sample::Entries entries() const { return {people_, around_}; }
-  const Place* placeOf(const sample::Confirmation& c) const {
-    return c.baptism < 0 ? nullptr : &places_[static_cast<std::size_t>(c.baptism)];
+  const Place* placeOf(int baptism) const {
+    return baptism < 0 ? nullptr : &places_[static_cast<std::size_t>(baptism)];
+  }
+  std::array<const Place*, 2> placesOf(const sample::Marriage& m) const {
+    return {placeOf(m.groom.baptism), placeOf(m.bride.baptism)};
   }
 
   store::Connection& con_;

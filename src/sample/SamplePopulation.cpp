@@ -2,18 +2,17 @@
 
 #include <algorithm>
 #include <deque>
-#include <random>
 
+#include "sample/SampleDice.h"
 #include "sample/SampleNames.h"
+#include "sample/SampleWeddings.h"
 #include "text/Utf8.h"
 
 namespace fidaleon::app::sample {
 namespace {
 
-constexpr int FIRST_YEAR = 1924;
 constexpr int FOUNDERS = 12;
 constexpr int YEARS_BETWEEN_FOUNDERS = 2;
-constexpr int NEW_NAMES_FROM = 1988;
 // The bishop, or somebody for him, comes every so many years and confirms all who are of age.
 constexpr int FIRST_VISIT = 1940;
 constexpr int YEARS_BETWEEN_VISITS = 4;
@@ -31,30 +30,9 @@ constexpr std::array<Confirmer, 6> CONFIRMERS{
      {"D. Prudencio Tamames Ortiz", "Vicario episcopal"}}};
 
 constexpr std::array<std::string_view, 10> CAUSES{
-    {"Parada cardiorrespiratoria", "Neumonía", "Insuficiencia cardíaca", "Ancianidad",
-     "Enfermedad de corazón", "Derrame cerebral", "Bronquitis crónica", "Cáncer",
-     "Insuficiencia renal", "Accidente"}};
-
-constexpr std::array<std::string_view, 7> MINISTERS{
-    {"Anselmo Carrascosa Ruipérez", "Hilario Zorita Manzano", "Cosme Peñalba Ortún",
-     "Evaristo Montalvo Rincón", "Jacinto Olivares Bermejo", "Abilio Santacana Prieto",
-     "Rogelio Villamor Escribano"}};
-
-/// Numbers that are the same on every machine: the distributions of the library are not.
-class Dice {
- public:
-  explicit Dice(std::uint32_t seed) : engine_(seed) {}
-  int upTo(int n) { return static_cast<int>(engine_() % static_cast<std::uint32_t>(n)); }
-  int between(int low, int high) { return low + upTo(high - low + 1); }
-  bool oneIn(int n) { return upTo(n) == 0; }
-  template <class List>
-  std::string pick(const List& list) {
-    return std::string(list[static_cast<std::size_t>(upTo(static_cast<int>(list.size())))]);
-  }
-
- private:
-  std::mt19937 engine_;
-};
+    {"parada cardiorrespiratoria", "neumonía", "insuficiencia cardíaca", "ancianidad",
+     "enfermedad de corazón", "derrame cerebral", "bronquitis crónica", "cáncer",
+     "insuficiencia renal", "accidente"}};
 
 text::Date visitOf(int year) {
   return {year, 4 + year % 3, 1 + year * 7 % 28};
@@ -65,16 +43,6 @@ text::Date visitAfter(const text::Date& day) {
   int year = FIRST_VISIT;
   while (visitOf(year) < day) year += YEARS_BETWEEN_VISITS;
   return visitOf(year);
-}
-
-text::Date daysAfter(text::Date d, int days) {
-  static constexpr int LENGTH[] = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
-  d.day += days;
-  while (d.day > LENGTH[d.month - 1]) {
-    d.day -= LENGTH[d.month - 1];
-    if (++d.month > 12) d.month = 1, ++d.year;
-  }
-  return d;
 }
 
 class Builder {
@@ -93,6 +61,7 @@ class Builder {
                      [](const Baptism& a, const Baptism& b) { return a.day < b.day; });
     confirm();
     bury();
+    makeWeddings(made_, home_, parish_, last_);
     return std::move(made_);
   }
 
@@ -108,12 +77,7 @@ class Builder {
     return p;
   }
 
-  std::string givenName(bool woman, int year) {
-    if (year >= NEW_NAMES_FROM) return woman ? dice_.pick(GIRLS_NEW) : dice_.pick(BOYS_NEW);
-    std::string name = woman ? dice_.pick(GIRLS_OLD) : dice_.pick(BOYS_OLD);
-    if (woman && dice_.oneIn(3) && name != "María") name = "María " + name;
-    return name;
-  }
+  std::string givenName(bool woman, int year) { return dice_.givenName(woman, year); }
 
   std::string ancestor(bool woman, const std::string& first) {
     return givenName(woman, 1900) + " " + first + " " + dice_.pick(SURNAMES);
@@ -320,6 +284,7 @@ class Builder {
       }
     std::stable_sort(made_.burials.begin(), made_.burials.end(),
                      [](const Burial& a, const Burial& b) { return a.death < b.death; });
+    made_.burials[made_.burials.size() / 2].annulled = true;
     findWidowed();
   }
 
@@ -346,11 +311,7 @@ class Builder {
     }
   }
 
-  std::string ministerOf(int year) const {
-    const int era =
-        (year - FIRST_YEAR) * static_cast<int>(MINISTERS.size()) / (last_.year - FIRST_YEAR + 1);
-    return std::string(MINISTERS[static_cast<std::size_t>(era)]);
-  }
+  std::string ministerOf(int year) const { return ministerIn(year, last_.year); }
 
   Dice dice_;
   int home_;

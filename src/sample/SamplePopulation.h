@@ -79,6 +79,38 @@ struct Burial {
   bool annulled = false;
 };
 
+/// Groom or bride.
+struct Spouse {
+  Person person;
+  int baptism = -1;  // position in Population::baptisms, -1 for one baptised elsewhere
+  text::Date birth, baptised, confirmed;
+  std::string father, mother;
+  std::string baptismParish;
+  int baptismTown = 0;
+  std::string trade;
+  bool widowed = false;
+  // Home before the wedding, and the parish that has to publish the banns there.
+  std::string street;
+  int town = 0;
+  std::string homeParish;
+};
+
+/// One marriage of the parish, or one that is being prepared. What an old book does not say, or a
+/// dossier not yet, is empty.
+struct Marriage {
+  Spouse groom, bride;
+  bool detailed = false;  // with the papers that are asked for since 1960
+  text::Date day;
+  std::string hour;
+  std::string street;  // the new home
+  std::string godfather, godmother, witnesses;
+  Person first, second;  // witnesses of the dossier
+  std::string celebrant;
+  std::string nihilObstat;
+  std::string marginalNotes, remarks;
+  bool annulled = false;
+};
+
 /// The people of the sample parish: couples, their children, and the children of those. The same
 /// seed gives the same people.
 struct Population {
@@ -86,6 +118,8 @@ struct Population {
   std::vector<Baptism> baptisms;            // in the order of the day of baptism
   std::vector<Confirmation> confirmations;  // in the order of their days
   std::vector<Burial> burials;              // in the order of the day of death
+  std::vector<Marriage> marriages;          // in the order of their days
+  std::vector<Marriage> engaged;            // the further the dossier, the later
 };
 
 /// `home` is the position of the parish's town in TOWNS; nothing happens after `last`.

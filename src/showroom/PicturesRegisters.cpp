@@ -153,16 +153,12 @@ void RegisterPictures::bookOf(const Sacramento& s) {
     user_.take(named(s, name),
                [&] { nucleo().PropiedadesLibro(parish(), id, config(), node("Libros", s)); });
   };
-  const std::int32_t current = openBook(s);
-  const auto setClosed = [&](const char* closed) {
-    parish().Execute(sentencia(s, "UPDATE {Libros} SET Cerrado=") + closed +
-                     sentencia(s, " WHERE {IDLibro}=") + std::to_string(current));
+  const auto firstBook = [&](const char* which) {
+    return one(sentencia(s, "SELECT {IDLibro} FROM {Libros} WHERE ") + which);
   };
-  open("libro-nuevo-abierto", current);
-  open("libro-antiguo", one(sentencia(s, "SELECT {IDLibro} FROM {Libros} WHERE Nuevo=false")));
-  setClosed("true");
-  open("libro-nuevo-cerrado", current);
-  setClosed("false");
+  open("libro-nuevo-abierto", openBook(s));
+  open("libro-antiguo", firstBook("Nuevo=false"));
+  open("libro-nuevo-cerrado", firstBook("Cerrado=true"));
 }
 
 void RegisterPictures::moveRequestsOf(const Sacramento& s) {
@@ -271,7 +267,7 @@ std::int32_t RegisterPictures::one(const std::string& sql) {
 }
 
 std::int32_t RegisterPictures::openBook(const Sacramento& s) {
-  return one(sentencia(s, "SELECT {IDLibro} FROM {Libros} WHERE Nuevo=true"));
+  return one(sentencia(s, "SELECT {IDLibro} FROM {Libros} WHERE Nuevo=true AND Cerrado=false"));
 }
 
 std::int32_t RegisterPictures::newest(const Sacramento& s) {

@@ -240,7 +240,7 @@ TEST_F(Drafts, OfABook_BringsBackItsListAndTheEntryOverIt) {
     p.give("propiedades-libro");
   });
   const auto next = program();
-  const std::string over = "Agregar partida de bautismo antigua. Folio:23 número:92";
+  const std::string over = "Agregar partida de bautismo antigua. Folio:21 número:84";
   next->user.expectMessage(question(over), Answer::Yes);
   next->user.expectMessage("También se estaba escribiendo en «" + over +
                                "». Vuelva a abrirla desde esta ventana y se pondrá lo que falta.",
