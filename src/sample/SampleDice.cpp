@@ -1,5 +1,6 @@
 #include "sample/SampleDice.h"
 
+#include <algorithm>
 #include <array>
 
 #include "sample/SampleNames.h"
@@ -24,8 +25,8 @@ std::string Dice::givenName(bool woman, int year) {
 }
 
 std::string ministerIn(int year, int lastYear) {
-  const int era =
-      (year - FIRST_YEAR) * static_cast<int>(MINISTERS.size()) / (lastYear - FIRST_YEAR + 1);
+  const int era = (std::min(year, lastYear) - FIRST_YEAR) * static_cast<int>(MINISTERS.size()) /
+                  (lastYear - FIRST_YEAR + 1);
   return std::string(MINISTERS[static_cast<std::size_t>(era)]);
 }
 

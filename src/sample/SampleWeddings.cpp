@@ -167,7 +167,7 @@ class Weddings {
     const auto& all = people_.baptisms;
     for (auto b = all.begin() + (woman ? nextGirl_ : nextBoy_); b != all.end(); ++b) {
       const int age = text::yearsBetween(b->birth, last_);
-      if (b->girl != woman || b->annulled || b->ownCouple >= 0 || age < 23 || age > 36) continue;
+      if (b->girl != woman || b->annulled || b->ownCouple >= 0 || age < 20 || age > 48) continue;
       (woman ? nextGirl_ : nextBoy_) = b - all.begin() + 1;
       return fromHere(b);
     }

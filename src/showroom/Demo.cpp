@@ -34,6 +34,7 @@ class Demo : private DemoWalk {
     step("Se piden los datos que necesitan los documentos", [this] { setUp(); });
     walkBaptism(*this);
     walkConfirmation(*this);
+    walkMarriage(*this);
     walkDeath(*this);
     walkPeople(*this);
     step("Se comprueba que no queda ningún bloqueo", [this] { noLocks(); });

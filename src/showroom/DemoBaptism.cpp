@@ -15,8 +15,7 @@ constexpr DemoRegister BAPTISMS{
     P::Libro,
     "Tiene campos sin rellenar. Estos campos se rellenarán con guiones. ¿Desea continuar?",
     "msgBusquedaPadres",
-    "Bautismo_Hijo",
-    "CodBautismo",
+    "SELECT CodBautismo FROM Bautismo_Hijo WHERE Nombre=",
     "Apellidos del bautizado"};
 
 /// A child as the short scripts enter it.
@@ -107,7 +106,7 @@ void typeAll(EntryHands& e) {
            {P::Observaciones, "Sin observaciones."}});
 }
 
-DemoPerson person(const Child& child, bool found = false) {
+DemoPerson person(const Child& child, int found = 0) {
   return {child.name,
           [child, found](EntryHands& e) {
             typeNames(e, child);
@@ -125,23 +124,29 @@ DemoPerson request(const Child& child) {
   return asked;
 }
 
+struct Named {
+  const char* name;
+  const char* first;
+  const char* second;
+};
+
 /// As the paper has it: the parents are known by name alone.
-DemoPerson fromPaper() {
-  return {"Fermín",
-          [](EntryHands& e) {
-            typeNames(e, {"Fermín", "Aldana", "Cobos", "Hombre", "07/07/1931", ""});
+DemoPerson fromPaper(const Child& child, const Named& father, const Named& mother) {
+  return {child.name,
+          [=](EntryHands& e) {
+            typeNames(e, child);
             e.tab(P::TAB_PADRE);
-            e.texts({{P::NombrePadre, "Eusebio"},
-                     {P::PrimerApellidoPadre, "Aldana"},
-                     {P::SegundoApellidoPadre, "Marín"}});
+            e.texts({{P::NombrePadre, father.name},
+                     {P::PrimerApellidoPadre, father.first},
+                     {P::SegundoApellidoPadre, father.second}});
             e.tab(P::TAB_MADRE);
-            e.texts({{P::NombreMadre, "Rosalía"},
-                     {P::PrimerApellidoMadre, "Cobos"},
-                     {P::SegundoApellidoMadre, "Peña"}});
+            e.texts({{P::NombreMadre, mother.name},
+                     {P::PrimerApellidoMadre, mother.first},
+                     {P::SegundoApellidoMadre, mother.second}});
             forgetWedding(e);
-            typeBaptism(e, "12/07/1931");
+            typeBaptism(e, child.baptism);
           },
-          false, true};
+          0, true};
 }
 
 class Baptisms {
@@ -167,7 +172,8 @@ class Baptisms {
     w_.step("Se imprime el duplicado del año para la diócesis",
             [this] { r_.duplicate("2023", 2, second_.name); });
     w_.step("Se da de alta un libro antiguo", [this] { r_.oldBook("Libro XXI", "01/01/1931"); });
-    w_.step("Se copia del papel una partida suya", [this] { r_.oldEntry(fromPaper()); });
+    w_.step("Se copian del papel partidas suyas, una detrás de otra",
+            [this] { r_.oldEntries(old_); });
   }
 
  private:
@@ -194,14 +200,14 @@ class Baptisms {
                   e.tab(P::TAB_BAUTISMO);
                   e.text(P::Madrina, GODMOTHER);
                 },
-                false, true});
+                0, true});
     w_.check(w_.single("SELECT Madrina FROM Bautismo WHERE IDBautismo=1") == GODMOTHER,
              std::string("la madrina corregida es ") + GODMOTHER);
   }
 
-  const DemoPerson first_{"Íñigo", typeAll, false, true};
+  const DemoPerson first_{"Íñigo", typeAll, 0, true};
   const DemoPerson second_ =
-      person({"Candela", "Lozano", "Muñoz", "Mujer", "02/02/2023", "16/04/2023"}, true);
+      person({"Candela", "Lozano", "Muñoz", "Mujer", "02/02/2023", "16/04/2023"}, 1);
   const std::vector<DemoPerson> listed_{
       person({"Bruno", "Vela", "Cano", "Hombre", "03/07/2023", "10/09/2023"}),
       person({"Alma", "Rey", "Pardo", "Mujer", "12/08/2023", "17/09/2023"})};
@@ -209,6 +215,14 @@ class Baptisms {
       request({"Hugo", "Soto", "Mena", "Hombre", "05/01/2024", ""}),
       request({"Vera", "Gil", "Robles", "Mujer", "19/01/2024", ""}),
       request({"Teo", "Peña", "Luna", "Hombre", "02/02/2024", ""})};
+  // The first is buried later on; the others marry.
+  const std::vector<DemoPerson> old_{
+      fromPaper({"Fermín", "Aldana", "Cobos", "Hombre", "07/07/1931", "12/07/1931"},
+                {"Eusebio", "Aldana", "Marín"}, {"Rosalía", "Cobos", "Peña"}),
+      fromPaper({"Alejandro", "Rubio", "Serrano", "Hombre", "12/04/1995", "07/05/1995"},
+                {"Fernando", "Rubio", "Gómez"}, {"Carmen", "Serrano", "Ortiz"}),
+      fromPaper({"Marta", "Benítez", "Olmo", "Mujer", "03/09/1997", "05/10/1997"},
+                {"Ángel", "Benítez", "Mora"}, {"Pilar", "Olmo", "Herranz"})};
   DemoWalk& w_;
   DemoRegisterWalk r_;
 };

@@ -17,9 +17,13 @@ constexpr const char* DAY = "17/05/2025";
 constexpr const char* MINISTER = "Jerónimo Valdivieso Arce";
 constexpr const char* SPONSOR = "Leandro Lozano Castaño";
 
-constexpr DemoRegister CONFIRMATIONS{
-    CONFIRMACION,           P::Institucion, P::Libro,         BLANKS,
-    "msgBusquedaBautizado", "Confirmacion", "IDConfirmacion", "Apellidos del Confirmado"};
+constexpr DemoRegister CONFIRMATIONS{CONFIRMACION,
+                                     P::Institucion,
+                                     P::Libro,
+                                     BLANKS,
+                                     "msgBusquedaBautizado",
+                                     "SELECT IDConfirmacion FROM Confirmacion WHERE Nombre=",
+                                     "Apellidos del Confirmado"};
 
 struct Youth {
   const char* name;
@@ -105,7 +109,7 @@ class Confirmations {
   }
 
   void complete() {
-    r_.correct({requested_.front().name, typeCelebration, false, true});
+    r_.correct({requested_.front().name, typeCelebration, 0, true});
     w_.check(one("Ministro", "Confirmacion_Datos", requested_.front()) == MINISTER,
              "el ministro está guardado");
   }
@@ -158,7 +162,7 @@ class Confirmations {
          e.tab(P::TAB_PERSONALES);  // leaving the surnames brings the baptism
          e.text(P::Padrino, SPONSOR);
        },
-       true},
+       1},
       person({"Lucía", "Herranz", "Bravo", "14/11/2009", "Santa María la Mayor", "02/10/2009",
               "Andrés Herranz Soto", "Nuria Bravo Gil", "Sofía Bravo Gil"}),
       person({"Darío", "Ponce", "Vega", "20/06/2010", "San Juan Bautista", "11/05/2010",

@@ -13,8 +13,7 @@ constexpr DemoRegister DEATHS{
     P::Libro,
     "Tiene campos sin rellenar. Estos campos se rellenaran con guiones. ¿Desea continuar?",
     "msgBusquedaBautizado",
-    "Defuncion",
-    "IDDifunto",
+    "SELECT IDDifunto FROM Defuncion WHERE Nombre=",
     "Apellidos del Difunto"};
 
 struct Deceased {
@@ -32,7 +31,7 @@ struct Deceased {
 };
 
 // The parish, its priest and its town are proposed.
-DemoPerson person(const Deceased& d, bool found = false) {
+DemoPerson person(const Deceased& d, int found = 0) {
   return {d.name,
           [d](EntryHands& e) {
             e.tab(P::TAB_PARROQUIA);
@@ -85,7 +84,7 @@ class Deaths {
 
   const DemoPerson first_ = person(
       {"Fermín", "Aldana", "Cobos", "viudo", "Carmen Gil Soto", "93", "11/02/2025", "12/02/2025"},
-      true);
+      1);
   const std::vector<DemoPerson> listed_{
       person({"Amparo", "Yuste", "Bermejo", "casada", "Tomás Heras Ruiz", "88", "04/10/2025",
               "05/10/2025", "Justo Yuste Mora", "Pilar Bermejo Díaz"}),

@@ -16,6 +16,7 @@ namespace {
 
 constexpr const char* FURTHER_ENTRIES = "¿Desea dar de alta nuevas partidas?";
 constexpr const char* FURTHER_REQUESTS = "¿Desea dar de alta nuevas solicitudes?";
+constexpr const char* NOWHERE = "0/---";  // the position of a request
 constexpr const char* LOSE_CHANGES =
     "Ha realizado cambios en las partidas del libro. ¿Desea cerrar el formulario y perder así "
     "todos los cambios realizados?";
@@ -38,14 +39,9 @@ void DemoRegisterWalk::oldBook(const std::string& name, const std::string& begun
       "está el libro antiguo «" + name + "»");
 }
 
-void DemoRegisterWalk::chooseBook(EntryHands& entry) {
-  entry.chooseFirst(r_.institution);
-  entry.chooseFirst(r_.book);
-}
-
 void DemoRegisterWalk::accept(FormDriver& d, const DemoPerson& person, const char* further,
                               Answer answer) {
-  if (person.found)
+  for (int i = 0; i < person.found; ++i)
     w_.user().expectForm("frmBuscaPadres", [this](FormDriver& list) {
       list.row(r_.found, 1);
       list.click("cmdBoton(0)");
@@ -66,30 +62,36 @@ void DemoRegisterWalk::typeOne(const DemoPerson& person, const char* further) {
   });
 }
 
-void DemoRegisterWalk::newEntries(const std::vector<DemoPerson>& people, int place) {
+void DemoRegisterWalk::typeSeries(const std::vector<DemoPerson>& people) {
   w_.user().expectForm(form(), [this, &people](FormDriver& d) {
     EntryHands entry(d, r_.sacrament);
-    chooseBook(entry);
+    entry.chooseFirst(r_.institution);
+    entry.chooseFirst(r_.book);
     for (const DemoPerson& p : people)
       accept(d, p, FURTHER_ENTRIES, &p == &people.back() ? Answer::No : Answer::Yes);
   });
+}
+
+void DemoRegisterWalk::newEntries(const std::vector<DemoPerson>& people, int place) {
+  typeSeries(people);
   nucleo().NuevaPartida(parish(), config(), node("Partidas"));
   checkPlaces(people, place);
 }
 
-void DemoRegisterWalk::checkPlaces(const std::vector<DemoPerson>& people, int place) {
-  for (const DemoPerson& p : people) {
-    const std::string next = std::to_string(place++);
-    w_.check(position(idOf(p)) == next + "/" + next,
-             std::string("la partida de ") + p.name + " está en el folio " + next);
-  }
+void DemoRegisterWalk::oldEntries(const std::vector<DemoPerson>& people) {
+  typeSeries(people);
+  nucleo().AntiguaPartida(parish(), config(), node("Partidas"));
+  checkPlaces(people, 1, static_cast<int>(people.size()));
 }
 
-void DemoRegisterWalk::oldEntry(const DemoPerson& person) {
-  typeOne(person, FURTHER_ENTRIES);
-  nucleo().AntiguaPartida(parish(), config(), node("Partidas"));
-  w_.check(position(idOf(person)) == "1/1",
-           std::string("la partida de ") + person.name + " es la primera del libro antiguo");
+void DemoRegisterWalk::checkPlaces(const std::vector<DemoPerson>& people, int place, int perFolio) {
+  for (const DemoPerson& p : people) {
+    const std::string folio = std::to_string(1 + (place - 1) / perFolio);
+    const std::string number = std::to_string(place++);
+    w_.check(position(idOf(p)) == folio + "/" + number, std::string("la partida de ") + p.name +
+                                                            " está en el folio " + folio +
+                                                            ", con el número " + number);
+  }
 }
 
 void DemoRegisterWalk::correct(const DemoPerson& person) {
@@ -101,8 +103,12 @@ void DemoRegisterWalk::correct(const DemoPerson& person) {
     person.type(entry);
     entry.accept();
   });
-  nucleo().PropiedadesPartida(parish(), id, config(), node("Partidas"));
-  w_.check(position(id) == before, "la partida sigue en su folio y su número");
+  if (before == NOWHERE)
+    nucleo().PropiedadesSolicitudes(parish(), id, config(), node("Solicitudes"));
+  else
+    nucleo().PropiedadesPartida(parish(), id, config(), node("Partidas"));
+  w_.check(position(id) == before, before == NOWHERE ? "sigue fuera de los libros"
+                                                     : "la partida sigue en su folio y su número");
 }
 
 void DemoRegisterWalk::annul(const DemoPerson& person) {
@@ -146,7 +152,7 @@ void DemoRegisterWalk::requests(const std::vector<DemoPerson>& people) {
   for (const DemoPerson& p : people) {
     typeOne(p, FURTHER_REQUESTS);
     nucleo().NuevaSolicitud(parish(), config(), node("Solicitudes"));
-    w_.check(position(idOf(p)) == "0/---",
+    w_.check(position(idOf(p)) == NOWHERE,
              std::string("la solicitud de ") + p.name + " no está en ningún libro");
   }
 }
@@ -166,8 +172,10 @@ std::string DemoRegisterWalk::fileOf(const std::string& command) const {
   return command + "-" + text::lower(r_.sacrament.palabra);
 }
 
-void DemoRegisterWalk::document(const std::string& command, const DemoPerson& person, bool keeper) {
+void DemoRegisterWalk::document(const std::string& command, const DemoPerson& person, bool keeper,
+                                const std::vector<std::pair<const char*, Hands>>& further) {
   if (keeper) w_.user().expectForm("frmEncargado", demo::chooseKeeper);
+  for (const auto& [asked, hands] : further) w_.user().expectForm(asked, hands);
   const Documento& d = documentOf(command);
   const auto report = makeReport(w_.desk(), d, idOf(person));
   const PersonaDocumento& printed = filasDocumento(r_.sacrament)->persona;
@@ -195,8 +203,7 @@ void DemoRegisterWalk::duplicate(const std::string& year, std::size_t rows,
 }
 
 std::int32_t DemoRegisterWalk::idOf(const DemoPerson& person) {
-  const std::string id = w_.single(std::string("SELECT ") + r_.entryOfPerson + " FROM " +
-                                   r_.person + " WHERE Nombre=" + entreComillas(person.name));
+  const std::string id = w_.single(r_.byName + entreComillas(person.name));
   return id.empty() ? 0 : std::stoi(id);
 }
 

@@ -3,6 +3,7 @@
 
 #include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "core/facade/Documentos.h"
@@ -17,11 +18,9 @@ struct DemoRegister {
   // Lists of its entry dialog.
   int institution;
   int book;
-  const char* blanks;  // what is asked about fields that were left blank
-  const char* found;   // grid of its look-up
-  // Table that bears the name, and the column of the entry there.
-  const char* person;
-  const char* entryOfPerson;
+  const char* blanks;      // what is asked about fields that were left blank
+  const char* found;       // grid of its look-up
+  const char* byName;      // statement that gives the key of the entry of a name
   const char* bySurnames;  // order of the duplicate
 };
 
@@ -29,7 +28,7 @@ struct DemoRegister {
 struct DemoPerson {
   const char* name;
   std::function<void(demo::EntryHands&)> type;
-  bool found = false;    // the look-up finds a baptism, and it is chosen
+  int found = 0;         // look-ups that find a baptism; it is chosen
   bool unasked = false;  // fields are filled, or nobody asks about those that are not
 };
 
@@ -43,7 +42,9 @@ class DemoRegisterWalk {
   /// One after the other without closing the dialog, as a series is typed; the first one comes to
   /// stand at this place of the open book.
   void newEntries(const std::vector<DemoPerson>& people, int place);
-  void oldEntry(const DemoPerson& person);
+  /// The same in the old book; they fill its first folio.
+  void oldEntries(const std::vector<DemoPerson>& people);
+  /// An entry, or a request as long as it stands in no book.
   void correct(const DemoPerson& person);
   void annul(const DemoPerson& person);
 
@@ -56,8 +57,10 @@ class DemoRegisterWalk {
   /// They come to stand from `place` on.
   void moveRequests(const std::vector<DemoPerson>& people, int place);
 
-  /// Of one entry; `keeper` when it asks who signs.
-  void document(const std::string& command, const DemoPerson& person, bool keeper);
+  using Hands = std::function<void(forms::FormDriver&)>;
+  /// Of one entry; `keeper` when it asks who signs. `further` forms are answered behind that.
+  void document(const std::string& command, const DemoPerson& person, bool keeper,
+                const std::vector<std::pair<const char*, Hands>>& further = {});
   void printBook(const std::string& command, std::size_t rows);
   /// By surnames; `first` is the name of the one who leads them.
   void duplicate(const std::string& year, std::size_t rows, const std::string& first);
@@ -69,16 +72,15 @@ class DemoRegisterWalk {
   std::string count(const std::string& condition = "true");
 
  private:
-  using Hands = std::function<void(forms::FormDriver&)>;
   std::string node(const char* what) const { return std::string(what) + r_.sacrament.palabra; }
   std::string form() const { return node("frmPartida"); }
   /// Types an entry and accepts it; the answer is to the question for a further one.
   void accept(forms::FormDriver& dialog, const DemoPerson& person, const char* further,
               forms::Answer answer);
   void typeOne(const DemoPerson& person, const char* further);
-  void chooseBook(demo::EntryHands& entry);
+  void typeSeries(const std::vector<DemoPerson>& people);
   void openBook(const std::vector<DemoPerson>& people, const Hands& end);
-  void checkPlaces(const std::vector<DemoPerson>& people, int place);
+  void checkPlaces(const std::vector<DemoPerson>& people, int place, int perFolio = 1);
   std::string everything();
   std::string fileOf(const std::string& command) const;
   const Documento& documentOf(const std::string& command);
@@ -95,5 +97,7 @@ void walkBaptism(DemoWalk& walk);
 /// Finds what walkBaptism has entered.
 void walkConfirmation(DemoWalk& walk);
 void walkDeath(DemoWalk& walk);
+/// Finds what walkBaptism has copied into the old book.
+void walkMarriage(DemoWalk& walk);
 
 }  // namespace fidaleon::app

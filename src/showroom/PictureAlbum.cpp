@@ -1,6 +1,7 @@
 #include "showroom/PictureAlbum.h"
 
 #include <QWidget>
+#include <algorithm>
 #include <ostream>
 #include <utility>
 
@@ -35,10 +36,12 @@ void PictureAlbum::add(const std::string& name, QWidget& widget) {
   add(name, widget.grab().toImage());
 }
 
-void PictureAlbum::add(const std::string& name, const std::optional<paper::Report>& report) {
+void PictureAlbum::add(const std::string& name, const std::optional<paper::Report>& report,
+                       int most) {
   if (!report) return miss(name, "el documento no tiene filas");
-  add(name, report->pageImage(0, DOCUMENT_DPI));
-  if (report->pageCount() > 1) add(name + "-2", report->pageImage(1, DOCUMENT_DPI));
+  for (int page = 0; page < std::min(most, report->pageCount()); ++page)
+    add(page == 0 ? name : name + "-" + std::to_string(page + 1),
+        report->pageImage(page, DOCUMENT_DPI));
 }
 
 void PictureAlbum::add(const std::string& name, forms::Form& form) {

@@ -22,8 +22,8 @@ class PictureAlbum {
 
   void add(const std::string& name, const QImage& picture);
   void add(const std::string& name, QWidget& widget);
-  /// The first page, and the second of a document that has one.
-  void add(const std::string& name, const std::optional<paper::Report>& report);
+  /// The first pages.
+  void add(const std::string& name, const std::optional<paper::Report>& report, int most = 2);
   /// Every tab of the form, or the form itself when it has none.
   void add(const std::string& name, forms::Form& form);
   void miss(const std::string& name, const std::string& why);

@@ -98,7 +98,8 @@ class EditionSitting {
     window.resize(1200, 700);
     for (const char* node :
          {"PartidasBautismo", "SolicitudesBautismo", "LibrosBautismo", "PartidasConfirmacion",
-          "SolicitudesConfirmacion", "PartidasDefuncion", CcNodos::INFDUPLICADASBAUTISMO,
+          "SolicitudesConfirmacion", "PartidasMatrimonio", "SolicitudesMatrimonio",
+          "PartidasDefuncion", CcNodos::INFDUPLICADASBAUTISMO,
           CcNodos::INFNOTIFICACIONCONFIRMACIONPARR, "Instituciones", "Municipios", CcNodos::PADRON,
           CcNodos::COLABORADOR, CcNodos::ACTIVIDAD, CcNodos::CARGO, "Tareas"}) {
       window.showNode(node);

@@ -3,6 +3,7 @@
 #include "core/statements/Citas.h"
 #include "core/statements/Sentencia.h"
 #include "documents/Duplicada.h"
+#include "documents/frmInfFormato3.h"
 #include "documents/frmInfNotConf.h"
 #include "documents/frmInfNotConfDatos.h"
 #include "printing/DocumentReport.h"
@@ -13,6 +14,7 @@
 #include "registers/lookup/frmDetallePadres.h"
 #include "registers/requests/OrigenSolicitudes.h"
 #include "showroom/DemoScripts.h"
+#include "store/schema/Schema.h"
 #include "text/Utf8.h"
 
 namespace fidaleon::app {
@@ -22,6 +24,7 @@ using demo::at;
 using forms::FormDriver;
 
 constexpr std::int32_t OWN = 1;  // of the two institutions
+constexpr int PAGES_OF_A_DOSSIER = 14;
 
 /// "bautismo-partida-nueva"
 std::string named(const Sacramento& s, const char* what) {
@@ -32,16 +35,18 @@ std::string node(const char* what, const Sacramento& s) {
   return std::string(what) + s.palabra;
 }
 
-void acceptKeeper(FormDriver& d) {
-  d.click("cmdBoton(0)");
-}
-
 std::string lastYear(store::Connection& parish, const Sacramento& s) {
   const std::string day = formaPartida(s)->fecha;
-  const std::string table = &s == &BAUTISMO ? s.tablaPartidas : sentencia(s, "{Palabra}_Datos");
-  return parish.Execute("SELECT " + day + " FROM " + table + " ORDER BY " + day + " DESC")
-      .text(day)
-      .substr(0, 4);
+  std::string last;
+  for (const FilaDePartida& row : formaPartida(s)->filas)
+    if (parish.schema().find(row.tabla)->find(day))
+      last = parish
+                 .Execute("SELECT " + day + " FROM " + row.tabla + " WHERE " + row.clave +
+                          " IN (SELECT " + row.enlace +
+                          sentencia(s, " FROM {Partidas} WHERE CodLibro<>0) ORDER BY ") + day +
+                          " DESC")
+                 .text(day);
+  return last.substr(0, 4);
 }
 
 void typeNotice(FormDriver& d) {
@@ -115,7 +120,8 @@ void RegisterPictures::documents() {
     user_.pose = poseFor(d);
     const auto report = makeReport(desk_, d, sampleOf(d));
     user_.pose = {};
-    album_.add(documentName(d), report);
+    album_.add(documentName(d), report,
+               d.clase == ClaseDocumento::Solicitud ? PAGES_OF_A_DOSSIER : 2);
   }
 }
 
@@ -134,6 +140,7 @@ void RegisterPictures::others() {
       nucleo().ImprimirDuplicadas(parish(), desk_.reports(), d.nodo, order);
     });
   notices();
+  ofDossiers();
 }
 
 void RegisterPictures::newBooks() {
@@ -225,6 +232,21 @@ void RegisterPictures::notices() {
              [&] { nucleo().ImprimirPartidaSinLibro(parish(), desk_.reports(), config()); });
 }
 
+/// What the documents of a marriage ask before they are printed.
+void RegisterPictures::ofDossiers() {
+  const std::int32_t dossier = request(MATRIMONIO);
+  user_.take("matrimonio-exhorto",
+             [&] { nucleo().InformeExhortoMatrimonio(parish(), desk_.reports(), dossier); });
+  user_.take("matrimonio-fecha-de-impresion", [&] {
+    nucleo().InformeVolanteMatrimonio(parish(), desk_.reports(), newest(MATRIMONIO));
+  });
+  user_.take("matrimonio-formato-3", [&] {
+    bool inParish = false, toCuria = false, toCuriaBefore = false;
+    nucleo().InformeExpedienteFormato3(parish(), desk_.reports(), dossier, inParish, toCuria,
+                                       toCuriaBefore);
+  });
+}
+
 std::string RegisterPictures::documentName(const Documento& d) const {
   return "documento-" + edition_ + "-" + plainName(d.plantilla);
 }
@@ -258,7 +280,16 @@ std::function<void(FormDriver&)> RegisterPictures::poseFor(const Documento& d) {
       addNotice(user_, list);
       list.click(at("cmdNotificacion", frmInfNotConf::IMPRIMIR));
     };
-  return acceptKeeper;
+  return [this](FormDriver& dialog) { acceptAsked(dialog); };
+}
+
+/// Whatever the document asks, one form after the other.
+void RegisterPictures::acceptAsked(FormDriver& d) {
+  user_.pose = [this](FormDriver& next) { acceptAsked(next); };
+  if (d.form().name() == "frmInfFormato3")
+    for (const auto way : {frmInfFormato3::TRAMITA, frmInfFormato3::CURIA})
+      d.click(at("chkOpcion", way));
+  d.click("cmdBoton(0)");
 }
 
 std::int32_t RegisterPictures::one(const std::string& sql) {

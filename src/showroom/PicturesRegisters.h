@@ -29,6 +29,8 @@ class RegisterPictures {
   void lookUpOf(const Sacramento& sacrament);
   void detailsOf(const Sacramento& sacrament);
   void notices();
+  void ofDossiers();
+  void acceptAsked(forms::FormDriver& dialog);
   std::string documentName(const Documento& document) const;
   std::int32_t sampleOf(const Documento& document);
   std::function<void(forms::FormDriver&)> poseFor(const Documento& document);
