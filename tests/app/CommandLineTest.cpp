@@ -2,8 +2,7 @@
 
 #include "app/CommandLine.h"
 
-namespace fidaleon::app {
-namespace {
+namespace fidaleon::app::CommandLineTest {
 
 TEST(CommandLine, understandsItsOptions) {
   using Task = CommandLine::Task;
@@ -28,5 +27,4 @@ TEST(CommandLine, saysWhatIsWrong) {
   EXPECT_EQ(CommandLine::parse({"--datos", "Bu\xF1uel"}).task, Task::Wrong);
 }
 
-}  // namespace
-}  // namespace fidaleon::app
+}  // namespace fidaleon::app::CommandLineTest

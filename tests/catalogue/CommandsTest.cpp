@@ -10,8 +10,7 @@
 #include "core/facade/Documentos.h"
 #include "text/Utf8.h"
 
-namespace fidaleon::app {
-namespace {
+namespace fidaleon::app::CommandsTest {
 
 Choice at(const char* node, std::int32_t id = 0, bool annulled = false) {
   return {findNode(node), id, annulled};
@@ -146,5 +145,4 @@ TEST(Documents, anEntryIsOfferedThoseOfItsSacrament_inTheEditionOfTheParish) {
                "InformeVolanteBautismo");
 }
 
-}  // namespace
-}  // namespace fidaleon::app
+}  // namespace fidaleon::app::CommandsTest

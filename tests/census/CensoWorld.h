@@ -2,9 +2,6 @@
 // A parish with people, groups and offices.
 
 #include <cstdint>
-#include <memory>
-#include <string>
-#include <vector>
 
 #include "support/TestWorld.h"
 

@@ -3,8 +3,7 @@
 #include "census/Manos.h"
 #include "text/Utf8.h"
 
-namespace fidaleon::tests {
-namespace {
+namespace fidaleon::tests::EliminarTest {
 
 struct Borrado {
   std::string nombre;
@@ -151,5 +150,4 @@ TEST_F(DosPapeles, PersonRemoved_StaysACollaboratorAndTheSacramentsOfAllAreBlank
   EXPECT_EQ(user.progressLog[0], "open 7 Eliminando empadronado ...");
 }
 
-}  // namespace
-}  // namespace fidaleon::tests
+}  // namespace fidaleon::tests::EliminarTest

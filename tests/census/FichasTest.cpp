@@ -5,8 +5,7 @@
 #include "census/Manos.h"
 #include "support/Mantenimiento.h"
 
-namespace fidaleon::tests {
-namespace {
+namespace fidaleon::tests::FichasTest {
 
 using support::Catalogo;
 
@@ -314,6 +313,7 @@ bool fallaAlAbrir(const Ficha& f, bool edicion, int n) {
   FichasWorld w(f);
   const std::int32_t id = edicion ? w.guardada() : 0;
   w.user.answerAnything(Answer::Ok);
+  w.mayBreakOff = true;
   w.fallos().failOn("", store::ErrorKind::Other, n);
   bool abierta = false, dicho = false;
   try {
@@ -389,5 +389,4 @@ std::string nombreDe(const ::testing::TestParamInfo<Ficha>& info) {
 INSTANTIATE_TEST_SUITE_P(Censo, Fichas, ::testing::ValuesIn(FICHAS), nombreDe);
 INSTANTIATE_TEST_SUITE_P(Censo, FichasConFallos, ::testing::ValuesIn(FICHAS), nombreDe);
 
-}  // namespace
-}  // namespace fidaleon::tests
+}  // namespace fidaleon::tests::FichasTest

@@ -11,11 +11,6 @@
 
 namespace fidaleon::tests {
 
-using FDAPI::cCOrigen;
-using forms::Answer;
-using forms::FormDriver;
-using ::testing::HasSubstr;
-using Act = forms::ScriptedUser::Act;
 /// Names of controls, with what is typed or chosen in them or seen there.
 using Campos = std::vector<std::pair<std::string, std::string>>;
 using Sentencias = std::vector<std::string>;
@@ -142,7 +137,6 @@ struct ManosWorld : CensoWorld {
 
   /// All that a test must leave behind.
   void comprobarFinal() {
-    EXPECT_SCRIPT_DONE(user);
     EXPECT_FALSE(con().inTransaction());
     if (!std::filesystem::exists(directory.path())) return;
     for (const char* tabla : {"Padron", "Padron_Actividad", "Actividad", "Grupo", "Cargo", "Tareas",

@@ -2,8 +2,7 @@
 
 #include "core/statements/Sentencia.h"
 
-namespace fidaleon {
-namespace {
+namespace fidaleon::ContractSentenciaTest {
 
 static_assert(PlantillaSql::valida("SELECT {IDPartida} FROM {Partidas} WHERE a=1"));
 static_assert(!PlantillaSql::valida("SELECT {IDBautismo} FROM {Partidas}"));
@@ -24,5 +23,4 @@ TEST(Sentencia, placesOfEachSacrament_areItsTablesAndKeys) {
             "Libro_Defuncion_Defuncion");
 }
 
-}  // namespace
-}  // namespace fidaleon
+}  // namespace fidaleon::ContractSentenciaTest

@@ -7,40 +7,23 @@ namespace fidaleon::tests {
 
 namespace {
 
-const Row INSTITUCION{
-    {"InstitucionNombre", "San Ginés Mártir"}, {"InstitucionTipo", "Parroquia de"},
-    {"InstitucionDiocesis", "Getafe"},         {"InstitucionPoblacion", "Getafe"},
-    {"InstitucionProvincia", "Madrid"},        {"NotasMarginales", "Confirmada en 2018"},
-};
+const Row INSTITUCION = row(R"(
+    InstitucionNombre=San Ginés Mártir; InstitucionTipo=Parroquia de; InstitucionDiocesis=Getafe
+    InstitucionPoblacion=Getafe; InstitucionProvincia=Madrid; NotasMarginales=Confirmada en 2018)");
 
-const Row FIRMADA = INSTITUCION + Row{{"InstitucionEncargado", FIRMA},
-                                      {"FechaSistemaCorta", "03/11/2026"},
-                                      {"FechaSistemaLarga", "tres de noviembre de 2026"}};
+const Row FIRMADA = INSTITUCION + FIRMA_DEL_TRES;
 
 const Row SOLICITUD = sin(PARTIDA, {"Libro"}) + INSTITUCION +
-                      Row{{"Folio", "0"}, {"Numero", "---"}, {"InstitucionTipo", "PARROQUIA DE"}};
+                      row("Folio=0; Numero=---; InstitucionTipo=PARROQUIA DE");
 
-const Row VOLANTE = Row{{"Libro", "2003/01"},
-                        {"Folio", "12"},
-                        {"Numero", "23a"},
-                        {"PrimerApellidoHijo", "García"},
-                        {"SegundoApellidoHijo", "Pérez"},
-                        {"NombreHijo", "Lucía"},
-                        {"FechaNacCorta", "01/04/2003"},
-                        {"FechaNacLarga", "uno de abril de 2003"},
-                        {"FechaBautismoCorta", "24/05/2003"},
-                        {"FechaBautismoLarga", "veinticuatro de mayo de 2003"},
-                        {"NombrePadre", "Luis"},
-                        {"PrimerApellidoPadre", "García"},
-                        {"SegundoApellidoPadre", "Mora"},
-                        {"NombreMadre", "Ana"},
-                        {"PrimerApellidoMadre", "Pérez"},
-                        {"SegundoApellidoMadre", "Ruiz"},
-                        {"InstitucionDomicilio", "Calle Mayor, 1"},
-                        {"InstitucionCP", "28901"},
-                        {"FechaSisteLargMeno", "vint-i-dos de novembre de 2026"},
-                        {"FechaBauLargaMeno", "vint-i-quatre de maig de 2003"},
-                        {"FechaNacLargaMeno", "u d'abril de 2003"}} +
+const Row VOLANTE = row(R"(
+    Libro=2003/01; Folio=12; Numero=23a; PrimerApellidoHijo=García; SegundoApellidoHijo=Pérez
+    NombreHijo=Lucía; FechaNacCorta=01/04/2003; FechaNacLarga=uno de abril de 2003
+    FechaBautismoCorta=24/05/2003; FechaBautismoLarga=veinticuatro de mayo de 2003
+    NombrePadre=Luis; PrimerApellidoPadre=García; SegundoApellidoPadre=Mora; NombreMadre=Ana
+    PrimerApellidoMadre=Pérez; SegundoApellidoMadre=Ruiz; InstitucionDomicilio=Calle Mayor, 1
+    InstitucionCP=28901; FechaSisteLargMeno=vint-i-dos de novembre de 2026
+    FechaBauLargaMeno=vint-i-quatre de maig de 2003; FechaNacLargaMeno=u d'abril de 2003)") +
                     INSTITUCION + HOY + genero("a la niña", "hija");
 
 const Sacramental BAUTISMAL{
@@ -61,28 +44,18 @@ std::vector<Golden> bautismos() {
        PARTIDA + FIRMADA + Row{{"Sexo", "Dª."}}},
       // Keeps the Spanish dates and adds the Catalan ones.
       {"ImprimirCertificadoPartidaBautismoMenorca", &I::ImprimirCertificadoPartidaBautismoMenorca,
-       &BAUTISMAL,
-       PARTIDA + FIRMADA +
-           Row{{"Sexo", "Dª."},
-               {"FechaNacLargaMeno", "u d'abril de 2003"},
-               {"FechaSisteLargMeno", "tres de novembre de 2026"},
-               {"FechaBauLargaMeno", "vint-i-quatre de maig de 2003"}}},
+       &BAUTISMAL, PARTIDA + FIRMADA + row(R"(
+    Sexo=Dª.; FechaNacLargaMeno=u d'abril de 2003; FechaSisteLargMeno=tres de novembre de 2026
+    FechaBauLargaMeno=vint-i-quatre de maig de 2003)")},
       {"ImprimirCertificadoLiteralPartidaBautismo", &I::ImprimirCertificadoLiteralPartidaBautismo,
        &BAUTISMAL, PARTIDA + FIRMADA + nina},
       {"ImprimirCertificadoLiteralPartidaBautismoMenorca",
        &I::ImprimirCertificadoLiteralPartidaBautismoMenorca, &BAUTISMAL,
-       PARTIDA + sin(FIRMADA, {"FechaSistemaLarga"}) + nina +
-           Row{{"FechaSisteLargMeno", "tres de novembre de 2026"},
-               {"FechaNacLargaMeno", "u d'abril de 2003"},
-               {"DiocesisMatrimonio", "Toledo"},
-               {"ProfesionPadrino", "Fuster"},
-               {"NaturalPadrino", "Maó"},
-               {"EstatPadrino", "Casat"},
-               {"ProfesionMadrina", "---"},
-               {"NaturalMadrina", "---"},
-               {"EstatMadrina", "---"},
-               {"MadreProfesion", "---"},
-               {"PadreProfesion", "Maestro"}}},
+       PARTIDA + sin(FIRMADA, {"FechaSistemaLarga"}) + nina + row(R"(
+    FechaSisteLargMeno=tres de novembre de 2026; FechaNacLargaMeno=u d'abril de 2003
+    DiocesisMatrimonio=Toledo; ProfesionPadrino=Fuster; NaturalPadrino=Maó; EstatPadrino=Casat
+    ProfesionMadrina=---; NaturalMadrina=---; EstatMadrina=---; MadreProfesion=---
+    PadreProfesion=Maestro)")},
       {"ImprimirPartidaBautismo", &I::ImprimirPartidaBautismo, &BAUTISMAL,
        PARTIDA + nina + Row{{"NotasMarginales", conPuntos("Confirmada en 2018", 291)}}},
       {"ImprimirPartidaBautismoMenorca", &I::ImprimirPartidaBautismoMenorca, &BAUTISMAL,
@@ -103,27 +76,14 @@ std::vector<Golden> bautismos() {
        true},
       {"ImprimirSolicitudPartidaBautismoDatosSantiago",
        &I::ImprimirSolicitudPartidaBautismoDatosSantiago, &BAUTISMAL,
-       sin(SOLICITUD, {"InstitucionTipo"}) + HOY + genero("La niña", "nacida") +
-           (Row{{"InstitucionNombre", "San Ginés"},
-                {"EdadPadrino", "30"},
-                {"ParroquiaDomicilioPadrino", "San José"},
-                {"EdadMadrina", "---"},
-                {"ParroquiaDomicilioMadrina", "---"},
-                {"PadreParroquiaBaut", "Santa Cruz"},
-                {"PadreProfesion", "Maestro"},
-                {"PadreProvinciaParrBaut", "Sevilla"},
-                {"MadreParroquiaBaut", "San Pedro"},
-                {"MadreProfesion", ""},
-                {"MadreProvinciaParrBaut", "Toledo"},
-                {"AbueloPatParroquiaBaut", "Santa Ana"},
-                {"AbueloPatProvinciaParrBaut", "Toledo"},
-                {"AbuelaPatParroquiaBaut", ""},
-                {"AbuelaPatProvinciaParrBaut", "---"},
-                {"AbueloMatParroquiaBaut", "San Juan"},
-                {"AbueloMatProvinciaParrBaut", "Madrid"},
-                {"AbuelaMatParroquiaBaut", "San Blas"},
-                {"AbuelaMatProvinciaParrBaut", "Sevilla"},
-                {"TelefonoPadres", "916950000"}}),
+       sin(SOLICITUD, {"InstitucionTipo"}) + HOY + genero("La niña", "nacida") + (row(R"(
+    InstitucionNombre=San Ginés; EdadPadrino=30; ParroquiaDomicilioPadrino=San José
+    EdadMadrina=---; ParroquiaDomicilioMadrina=---; PadreParroquiaBaut=Santa Cruz
+    PadreProfesion=Maestro; PadreProvinciaParrBaut=Sevilla; MadreParroquiaBaut=San Pedro
+    MadreProfesion=; MadreProvinciaParrBaut=Toledo; AbueloPatParroquiaBaut=Santa Ana
+    AbueloPatProvinciaParrBaut=Toledo; AbuelaPatParroquiaBaut=; AbuelaPatProvinciaParrBaut=---
+    AbueloMatParroquiaBaut=San Juan; AbueloMatProvinciaParrBaut=Madrid
+    AbuelaMatParroquiaBaut=San Blas; AbuelaMatProvinciaParrBaut=Sevilla; TelefonoPadres=916950000)")),
        true},
       {"ImprimirLibroBautismo", &I::ImprimirLibroBautismo, &BAUTISMAL, PARTIDA + nina},
       {"ImprimirLibroBautismoMenorca", &I::ImprimirLibroBautismoMenorca, &BAUTISMAL,
@@ -138,11 +98,9 @@ std::vector<Golden> bautismos() {
 Row duplicadaDeBautismo() {
   return sin(PARTIDA, {"ProvinciaAbueloPaterno", "ProvinciaAbuelaPaterna", "ProvinciaAbueloMaterno",
                        "ProvinciaAbuelaMaterna"}) +
-         PARROQUIA_EN_GETAFE +
-         Row{{"InstitucionParroco", "Andrés Gil"},
-             {"Año", "2003"},
-             {"FechaSistemaLarga", "veintidós de noviembre de 2026"},
-             {"FechaCreacionLibro", "01/01/2003"}};
+         PARROQUIA_EN_GETAFE + row(R"(
+    InstitucionParroco=Andrés Gil; Año=2003; FechaSistemaLarga=veintidós de noviembre de 2026
+    FechaCreacionLibro=01/01/2003)");
 }
 
 }  // namespace fidaleon::tests

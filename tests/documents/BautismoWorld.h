@@ -2,9 +2,9 @@
 // One baptism in a book, and the rows that its documents leave.
 
 #include <map>
-#include <string>
 
 #include "documents/cInformes.h"
+#include "support/Fields.h"
 #include "support/TestWorld.h"
 
 namespace fidaleon::tests {
@@ -18,47 +18,32 @@ struct BautismoWorld : TestWorld {
     ecija = municipio("Écija", "Sevilla");
     toledo = municipio("Toledo", "Toledo");
     parroquia = institucion("San Ginés", getafe, "Getafe");
-    run("UPDATE Institucion SET InstitucionNombre=\"San Ginés Mártir\", CP=\"28901\" WHERE "
-        "IDInstitucion=" +
-        std::to_string(parroquia));
-    run("INSERT INTO Libro_Bautismo (CodInstitucion, CodFormato, CodTipoNombre, Nombre, "
-        "FechaCreacion, Nuevo, Cerrado, NumeroSiguiente, FolioSiguiente) VALUES (" +
-        std::to_string(parroquia) + ", 3, 1, \"2003/01\", \"20030101\", 1, 0, 1, 1)");
-    run("INSERT INTO Bautismo_Padres (Nombre, PrimerApellido, SegundoApellido, CodMunicipio, "
-        "Abuelo, CodMunicipioAbuelo, Abuela, CodMunicipioAbuela, PadreParroquiaBaut, "
-        "PadreCodMunicipioParrBaut, PadreProfesion, AbueloPatParroquiaBaut, "
-        "AbueloPatCodMunicipioParrBaut, AbuelaPatParroquiaBaut, AbuelaPatCodMunicipioParrBaut) "
-        "VALUES (\"Luis\", \"García\", \"Mora\", " +
-        std::to_string(getafe) + ", \"Antonio García\", " + std::to_string(ecija) +
-        ", \"Rosa Mora\", 0, \"Santa Cruz\", " + std::to_string(ecija) +
-        ", \"Maestro\", \"Santa Ana\", " + std::to_string(toledo) + ", \"\", 0)");
-    run("INSERT INTO Bautismo_Madres (Nombre, PrimerApellido, SegundoApellido, CodMunicipio, "
-        "Abuelo, CodMunicipioAbuelo, Abuela, CodMunicipioAbuela, MadreParroquiaBaut, "
-        "MadreCodMunicipioParrBaut, MadreProfesion, AbueloMatParroquiaBaut, "
-        "AbueloMatCodMunicipioParrBaut, AbuelaMatParroquiaBaut, AbuelaMatCodMunicipioParrBaut) "
-        "VALUES (\"Ana\", \"Pérez\", \"Ruiz\", " +
-        std::to_string(toledo) + ", \"Juan Pérez\", " + std::to_string(getafe) +
-        ", \"Elena Ruiz\", " + std::to_string(toledo) + ", \"San Pedro\", " +
-        std::to_string(toledo) + ", \"\", \"San Juan\", " + std::to_string(getafe) +
-        ", \"San Blas\", " + std::to_string(ecija) + ")");
-    run("INSERT INTO Bautismo_Matrimonio (Parroquia, FechaMatr, CodMunicipioMatr, "
-        "DireccionPadres, CodMunicipioPadres, DiocesisMatrimonio, TelefonoPadres) VALUES "
-        "(\"Santa María\", \"---\", " +
-        std::to_string(toledo) + ", \"Calle Real, 7\", " + std::to_string(getafe) +
-        ", \"Toledo\", \"916950000\")");
-    run("INSERT INTO Bautismo (CodPadres, CodMadres, CodMatrimonio, InstitucionSolicitud, "
-        "FechaBautismo, Padrino, Madrina, Ministro, Parroquia, CodMunicipio, Diocesis, "
-        "NotasMarginales, CodLibro, Folio, Numero, Anulada, EdadPadrino, EdadMadrina, "
-        "ParroquiaDomicilioPadrino, ParroquiaDomicilioMadrina, ProfesionPadrino, NaturalPadrino, "
-        "EstatPadrino, ProfesionMadrina) VALUES (1, 1, 1, 0, \"20030524\", \"Pablo Mora\", "
-        "\"Inés Ruiz\", \"José Vidal\", \"San Ginés\", " +
-        std::to_string(getafe) +
-        ", \"Getafe\", \"Confirmada en 2018\", 1, 12, \"23a\", 0, \"30\", \"\", \"San José\", "
-        "\"---\", \"Fuster\", \"Maó\", \"Casat\", \"\")");
-    run("INSERT INTO Bautismo_Hijo (CodBautismo, Nombre, PrimerApellido, SegundoApellido, Sexo, "
-        "FechaNac, HoraNac, DireccionNac, CodMunicipioNac) VALUES (1, \"Lucía\", \"García\", "
-        "\"Pérez\", \"Mujer\", \"20030401\", \"09:30\", \"Calle Real, 7\", " +
-        std::to_string(toledo) + ")");
+    run("UPDATE Institucion SET InstitucionNombre=\"San Ginés Mártir\", CP=\"28901\"");
+    // Getafe is 1, Écija 2, Toledo 3.
+    insert(con(), "Libro_Bautismo", R"(CodInstitucion=1; CodFormato=3; CodTipoNombre=1
+        Nombre=2003/01; FechaCreacion=20030101; Nuevo=TRUE; NumeroSiguiente=1; FolioSiguiente=1)");
+    insert(con(), "Bautismo_Padres", R"(Nombre=Luis; PrimerApellido=García; SegundoApellido=Mora
+        CodMunicipio=1; Abuelo=Antonio García; CodMunicipioAbuelo=2; Abuela=Rosa Mora
+        CodMunicipioAbuela=0; PadreParroquiaBaut=Santa Cruz; PadreCodMunicipioParrBaut=2
+        PadreProfesion=Maestro; AbueloPatParroquiaBaut=Santa Ana; AbueloPatCodMunicipioParrBaut=3
+        AbuelaPatParroquiaBaut=; AbuelaPatCodMunicipioParrBaut=0)");
+    insert(con(), "Bautismo_Madres", R"(Nombre=Ana; PrimerApellido=Pérez; SegundoApellido=Ruiz
+        CodMunicipio=3; Abuelo=Juan Pérez; CodMunicipioAbuelo=1; Abuela=Elena Ruiz
+        CodMunicipioAbuela=3; MadreParroquiaBaut=San Pedro; MadreCodMunicipioParrBaut=3
+        MadreProfesion=; AbueloMatParroquiaBaut=San Juan; AbueloMatCodMunicipioParrBaut=1
+        AbuelaMatParroquiaBaut=San Blas; AbuelaMatCodMunicipioParrBaut=2)");
+    insert(con(), "Bautismo_Matrimonio", R"(Parroquia=Santa María; FechaMatr=---
+        CodMunicipioMatr=3; DireccionPadres=Calle Real, 7; CodMunicipioPadres=1
+        DiocesisMatrimonio=Toledo; TelefonoPadres=916950000)");
+    insert(con(), "Bautismo", R"(CodPadres=1; CodMadres=1; CodMatrimonio=1
+        InstitucionSolicitud=0; FechaBautismo=20030524; Padrino=Pablo Mora; Madrina=Inés Ruiz
+        Ministro=José Vidal; Parroquia=San Ginés; CodMunicipio=1; Diocesis=Getafe
+        NotasMarginales=Confirmada en 2018; CodLibro=1; Folio=12; Numero=23a; EdadPadrino=30
+        EdadMadrina=; ParroquiaDomicilioPadrino=San José; ParroquiaDomicilioMadrina=---
+        ProfesionPadrino=Fuster; NaturalPadrino=Maó; EstatPadrino=Casat; ProfesionMadrina=)");
+    insert(con(), "Bautismo_Hijo", R"(CodBautismo=1; Nombre=Lucía; PrimerApellido=García
+        SegundoApellido=Pérez; Sexo=Mujer; FechaNac=20030401; HoraNac=09:30
+        DireccionNac=Calle Real, 7; CodMunicipioNac=3)");
   }
 
   void run(const std::string& sql) { con().Execute(sql); }

@@ -3,12 +3,7 @@
 #include "LibroWorld.h"
 #include "store/FailingEngine.h"
 
-namespace fidaleon::tests {
-namespace {
-
-using ::testing::Each;
-using ::testing::ElementsAre;
-using ::testing::UnorderedElementsAre;
+namespace fidaleon::tests::BookRowsTest {
 
 using BookRows = DeCadaRegistro;
 
@@ -95,5 +90,4 @@ TEST(BaptismBook, DependentRowMissing_HidesTheEntryFromTheBook) {
   EXPECT_THAT(w.nombres(), UnorderedElementsAre("Lucía", "Sin madre"));
 }
 
-}  // namespace
-}  // namespace fidaleon::tests
+}  // namespace fidaleon::tests::BookRowsTest

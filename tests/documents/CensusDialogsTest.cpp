@@ -3,42 +3,36 @@
 #include "CensoInformes.h"
 #include "store/FailingEngine.h"
 
-namespace fidaleon::tests {
-namespace {
+namespace fidaleon::tests::CensusDialogsTest {
 
-using forms::FormDriver;
-using ::testing::Contains;
-using ::testing::ElementsAre;
-using ::testing::HasSubstr;
-using ::testing::IsEmpty;
+constexpr const char *NINGUNO = "¡No se ha encontrado ningún registro!", *ACEPTAR = "cmdBoton(0)",
+                     *CANCELAR = "cmdBoton(1)", *AGREGAR = "cmdMover(0)", *TODAS = "cmdMover(1)",
+                     *SIN_ACTIVIDAD = "chkSinActividad", *DESDE = "adtpFecha(0)",
+                     *HASTA = "adtpFecha(1)";
 
-constexpr const char* INFORME = "frmInfActividad";
-constexpr const char* AGENDA = "frmInfAgenda";
-constexpr const char* NINGUNO = "¡No se ha encontrado ningún registro!";
-constexpr const char* ACEPTAR = "cmdBoton(0)";
-constexpr const char* CANCELAR = "cmdBoton(1)";
-constexpr const char* DISPONIBLES = "lstListas(0)";
-constexpr const char* SELECCIONADAS = "lstListas(1)";
-constexpr const char* AGREGAR = "cmdMover(0)";
-constexpr const char* AGREGAR_TODAS = "cmdMover(1)";
-constexpr const char* SIN_ACTIVIDAD = "chkSinActividad";
-
-std::vector<std::string> textos(FormDriver& u, const char* lista) {
-  std::vector<std::string> todos;
-  const auto& list = u.get<forms::ListControl>(lista);
-  for (int i = 0; i < list.listCount(); ++i) todos.push_back(list.list(i));
-  return todos;
-}
-
-void agregar(FormDriver& u, const std::string& texto) {
-  auto& list = u.get<forms::ListBox>(DISPONIBLES);
-  for (int i = 0; i < list.listCount(); ++i) list.setSelected(i, list.list(i) == texto);
-  u.click(AGREGAR);
-}
+struct Dialogo : ::testing::Test, CensoInformes {
+  /// The button tells this, and the dialog stays.
+  void rehusa(FormDriver& u, const char* boton, const char* mensaje) {
+    user.expectMessage(mensaje);
+    u.click(boton);
+    EXPECT_FALSE(u.closed()) << mensaje;
+  }
+  static void acepta(FormDriver& u) {
+    u.click(ACEPTAR);
+    EXPECT_TRUE(u.closed());
+  }
+  static std::string disponibles(FormDriver& u) { return ManosWorld::lineas(u, "lstListas(0)"); }
+  static std::string elegidas(FormDriver& u) { return ManosWorld::lineas(u, "lstListas(1)"); }
+  static void agrega(FormDriver& u, const std::string& texto) {
+    auto& list = u.get<forms::ListBox>("lstListas(0)");
+    for (int i = 0; i < list.listCount(); ++i) list.setSelected(i, list.list(i) == texto);
+    u.click(AGREGAR);
+  }
+};
 
 /// Two groups of the choir of San Ginés and one of the charity of Ajena.
-struct DialogWorld : CensoInformes {
-  DialogWorld() {
+struct GroupsDialog : Dialogo {
+  GroupsDialog() {
     ajena = institucion("Ajena");
     const std::int32_t coro = actividad("Coro");
     colaborador("Ana", "Aguda", grupo(coro, "Voces agudas"));
@@ -46,340 +40,218 @@ struct DialogWorld : CensoInformes {
     colaborador("Luz", "Caridad", grupo(actividad("Cáritas", ajena), "Acogida"));
     colaborador("Pío", "Suelto");
   }
-  void actividades(forms::ScriptedUser::Act act) {
-    user.expectForm(INFORME, std::move(act));
+  void actividades(Act act) {
+    user.expectForm("frmInfActividad", std::move(act));
     informes.SelInfActividad(con(), conInformes());
   }
-  void colaboradores(forms::ScriptedUser::Act act) {
-    user.expectForm(INFORME, std::move(act));
+  void colaboradores(Act act) {
+    user.expectForm("frmInfActividad", std::move(act));
     informes.SelInfColaborador(con(), conInformes());
   }
   std::int32_t ajena = 0;
 };
 
-TEST(ActivityDialog, Opened_OffersAllInstitutionsAndNothingElse) {
-  DialogWorld w;
-  w.actividades([](FormDriver& u) {
+TEST_F(GroupsDialog, OfActivities_OffersAllInstitutionsAndTheChosenOnesAreTheBoundary) {
+  actividades([&](FormDriver& u) {
     EXPECT_EQ(u.caption(), "Informe de actividades");
-    EXPECT_THAT(textos(u, DISPONIBLES), ElementsAre("Ajena", "San Ginés"));
-    EXPECT_THAT(textos(u, SELECCIONADAS), IsEmpty());
+    EXPECT_EQ(disponibles(u) + "/" + elegidas(u), "Ajena|San Ginés/");
     for (const char* ajeno : {"cboInstitucion", "cboActividad", SIN_ACTIVIDAD})
       EXPECT_FALSE(u.visible(ajeno)) << ajeno;
-    u.escape();
+    rehusa(u, ACEPTAR, "¡Debe seleccionar una institución de la lista!");
+    rehusa(u, AGREGAR, "¡Debe seleccionar algun elemento de la lista!");
+    rehusa(u, "cmdMover(3)", "¡No existen elementos para quitar!");
+    agrega(u, "San Ginés");
+    acepta(u);
   });
-  EXPECT_THAT(w.filas(), IsEmpty());
-  EXPECT_SCRIPT_DONE(w.user);
-}
-
-TEST(ActivityDialog, ChosenInstitutions_AreTheBoundary) {
-  DialogWorld w;
-  w.actividades([](FormDriver& u) {
-    agregar(u, "San Ginés");
-    u.click(ACEPTAR);
-    EXPECT_TRUE(u.closed());
-  });
-  EXPECT_THAT(w.lineas({"NombreActividad", "NombreGrupo", "Colaboradores"}),
+  EXPECT_THAT(lineas({"NombreActividad", "NombreGrupo", "Colaboradores"}),
               ElementsAre("Coro Voces agudas 1", "Coro Voces graves 1"));
-  w.actividades([](FormDriver& u) {
-    u.click(AGREGAR_TODAS);
-    u.click(ACEPTAR);
+  EXPECT_EQ(user.beeps(), 3);
+  con().BeginTrans();
+  for (int i = 0; i < 1500; ++i) institucion("Parroquia " + std::to_string(i));
+  con().CommitTrans();
+  actividades([&](FormDriver& u) {
+    u.click(TODAS);
+    rehusa(u, TODAS, "¡No existen elementos para agregar!");
+    acepta(u);
   });
-  EXPECT_EQ(w.filas().size(), 5u) << "three more beside those of the first run";
-  EXPECT_EQ(w.user.hourglassDepth(), 0);
-  EXPECT_SCRIPT_DONE(w.user);
+  EXPECT_EQ(filas().size(), 5u) << "three more beside those of the first run";
+  EXPECT_EQ(user.hourglassDepth(), 0);
 }
 
-TEST(ActivityDialog, NoInstitution_IsRefused) {
-  DialogWorld w;
-  const auto* motor = store::FailingEngine::wrap(w.conInformes());
-  w.actividades([&](FormDriver& u) {
-    w.user.expectMessage("¡Debe seleccionar una institución de la lista!");
+TEST_F(GroupsDialog, EmptyTable_KeepsTheDialog_ButOldRowsPassForNew) {
+  institucion("Vacía");
+  actividades([&](FormDriver& u) {
+    agrega(u, "Vacía");
+    rehusa(u, ACEPTAR, NINGUNO);
+    EXPECT_EQ(u.get<forms::ListBox>("lstListas(1)").selCount(), 0) << "marks are the user's";
+    insert(conInformes(), "Informe_Colaboradores", "NombreGrupo=Viejo");
+    acepta(u);
+  });
+  EXPECT_EQ(user.messages()[0].icon, forms::MsgIcon::Information);
+}
+
+TEST_F(GroupsDialog, ARowFails_TakesBackAllAndKeepsTheDialogToTryAgain) {
+  fallanInformes("INSERT INTO Informe_Colaboradores", 2);
+  actividades([&](FormDriver& u) {
+    u.click(TODAS);
     u.click(ACEPTAR);
     EXPECT_FALSE(u.closed());
-    u.click(CANCELAR);
-  });
-  EXPECT_THAT(motor->executed(), IsEmpty());
-  EXPECT_EQ(w.user.beeps(), 1);
-  EXPECT_SCRIPT_DONE(w.user);
-}
-
-TEST(ActivityDialog, MovingNothing_IsToldInTheListsOwnWords) {
-  DialogWorld w;
-  w.actividades([&](FormDriver& u) {
-    w.user.expectMessage("¡Debe seleccionar algun elemento de la lista!");
-    u.click(AGREGAR);
-    w.user.expectMessage("¡No existen elementos para quitar!");
-    u.click("cmdMover(3)");
-    u.click(AGREGAR_TODAS);
-    w.user.expectMessage("¡No existen elementos para agregar!");
-    u.click(AGREGAR_TODAS);
-    u.escape();
-  });
-  EXPECT_SCRIPT_DONE(w.user);
-}
-
-TEST(ActivityDialog, EmptyTable_KeepsTheDialog_ButOldRowsPassForNew) {
-  DialogWorld w;
-  const std::int32_t vacia = w.institucion("Vacía");
-  ASSERT_NE(vacia, 0);
-  w.actividades([&](FormDriver& u) {
-    agregar(u, "Vacía");
-    w.user.expectMessage(NINGUNO);
-    u.click(ACEPTAR);
-    EXPECT_FALSE(u.closed());
-    EXPECT_EQ(u.get<forms::ListBox>(SELECCIONADAS).selCount(), 0) << "marks are the user's";
-    w.conInformes().Execute("INSERT INTO Informe_Colaboradores (NombreGrupo) VALUES (\"Viejo\")");
-    u.click(ACEPTAR);
-    EXPECT_TRUE(u.closed());
-  });
-  EXPECT_EQ(w.user.messages()[0].icon, forms::MsgIcon::Information);
-  EXPECT_SCRIPT_DONE(w.user);
-}
-
-TEST(ActivityDialog, InstitutionsOfAWholeDiocese_CanAllBeChosen) {
-  DialogWorld w;
-  w.con().BeginTrans();
-  for (int i = 0; i < 1500; ++i) w.institucion("Parroquia " + std::to_string(i));
-  w.con().CommitTrans();
-  w.actividades([](FormDriver& u) {
-    u.click(AGREGAR_TODAS);
-    u.click(ACEPTAR);
-    EXPECT_TRUE(u.closed());
-  });
-  EXPECT_EQ(w.filas().size(), 3u);
-  EXPECT_SCRIPT_DONE(w.user);
-}
-
-TEST(ActivityDialog, ARowFails_TakesBackAllAndKeepsTheDialogToTryAgain) {
-  DialogWorld w;
-  store::FailingEngine::wrap(w.conInformes())
-      ->failOn("INSERT INTO Informe_Colaboradores", store::ErrorKind::Other, 2);
-  w.user.answerAnything(forms::Answer::Ok);
-  w.actividades([&](FormDriver& u) {
-    u.click(AGREGAR_TODAS);
-    u.click(ACEPTAR);
-    EXPECT_FALSE(u.closed());
-    EXPECT_THAT(w.filas(), IsEmpty());
+    EXPECT_THAT(filas(), IsEmpty());
     EXPECT_EQ(u.get<forms::Progress>("abpProgreso").value(), 0);
-    u.click(ACEPTAR);
-    EXPECT_TRUE(u.closed());
+    acepta(u);
   });
-  EXPECT_EQ(w.filas().size(), 3u);
-  ASSERT_EQ(w.user.messages().size(), 1u) << "a failure is not an empty report";
-  EXPECT_THAT(w.user.messages()[0].text, HasSubstr("cInformes / RellenarInformeActividad)"));
-  EXPECT_SCRIPT_DONE(w.user);
+  EXPECT_EQ(filas().size(), 3u);
+  ASSERT_EQ(user.messages().size(), 1u) << "a failure is not an empty report";
+  EXPECT_THAT(user.messages()[0].text, HasSubstr("cInformes / RellenarInformeActividad)"));
 }
 
-TEST(CollaboratorDialog, Titles_TellTheModes) {
-  DialogWorld w;
-  w.colaboradores([](FormDriver& u) {
+TEST_F(GroupsDialog, OfCollaborators_LeadsFromInstitutionAndActivityToTheGroups) {
+  colaboradores([&](FormDriver& u) {
     EXPECT_EQ(u.caption(), "Informe de colaboradores");
     EXPECT_TRUE(u.visible(SIN_ACTIVIDAD));
-    u.escape();
+    EXPECT_EQ(disponibles(u), "");
+    const char* falta = "¡Debe seleccionar una actividad de la lista!";
+    rehusa(u, ACEPTAR, falta);
+    EXPECT_EQ(u.focused(), "cboInstitucion");
+    u.choose("cboInstitucion", "San Ginés");
+    rehusa(u, ACEPTAR, falta);
+    EXPECT_EQ(u.focused(), "cboActividad");
+    EXPECT_EQ(ManosWorld::lineas(u, "cboActividad"), "Coro");
+    u.choose("cboActividad", "Coro");
+    EXPECT_EQ(disponibles(u), "Voces agudas|Voces graves");
+    agrega(u, "Voces graves");
+    u.choose("cboInstitucion", "Ajena");
+    EXPECT_EQ(ManosWorld::lineas(u, "cboActividad"), "Cáritas");
+    EXPECT_EQ(disponibles(u) + elegidas(u), "");
+    u.click(CANCELAR);
   });
-  w.user.expectForm(INFORME, [](FormDriver& u) {
+  EXPECT_THAT(filas(), IsEmpty());
+  user.expectForm("frmInfActividad", [](FormDriver& u) {
     EXPECT_EQ(u.caption(), "Informe de colaboradores (extendido)");
     EXPECT_TRUE(u.visible("cboActividad"));
     u.close();
   });
-  w.informes.SelInfColaboradorExt(w.con(), w.conInformes());
-  EXPECT_SCRIPT_DONE(w.user);
+  informes.SelInfColaboradorExt(con(), conInformes());
 }
 
-TEST(CollaboratorDialog, InstitutionAndActivity_LeadToTheGroups) {
-  DialogWorld w;
-  w.colaboradores([](FormDriver& u) {
-    EXPECT_THAT(textos(u, DISPONIBLES), IsEmpty());
-    u.choose("cboInstitucion", "San Ginés");
-    EXPECT_THAT(textos(u, "cboActividad"), ElementsAre("Coro"));
-    u.choose("cboActividad", "Coro");
-    EXPECT_THAT(textos(u, DISPONIBLES), ElementsAre("Voces agudas", "Voces graves"));
-    agregar(u, "Voces graves");
-    u.choose("cboInstitucion", "Ajena");
-    EXPECT_THAT(textos(u, "cboActividad"), ElementsAre("Cáritas"));
-    EXPECT_THAT(textos(u, DISPONIBLES), IsEmpty());
-    EXPECT_THAT(textos(u, SELECCIONADAS), IsEmpty());
-    u.escape();
-  });
-  EXPECT_SCRIPT_DONE(w.user);
-}
-
-TEST(CollaboratorDialog, WhatIsChosen_IsTheBoundary) {
+TEST_F(GroupsDialog, WhatIsChosen_IsTheBoundary) {
   const struct {
     const char* grupo;
     bool sinActividad;
     std::vector<std::string> apellidos;
-  } casos[] = {{nullptr, false, {"Aguda", "Grave"}},
+  } casos[] = {{"", false, {"Aguda", "Grave"}},
                {"Voces graves", false, {"Grave"}},
                {"Voces graves", true, {"Grave", "Caridad", "Suelto"}}};
   for (const auto& caso : casos) {
-    DialogWorld w;
-    w.colaboradores([&](FormDriver& u) {
+    conInformes().Execute("DELETE * FROM Informe_Colaboradores");
+    colaboradores([&](FormDriver& u) {
       u.choose("cboInstitucion", "San Ginés");
       u.choose("cboActividad", "Coro");
-      if (caso.grupo) agregar(u, caso.grupo);
+      if (*caso.grupo) agrega(u, caso.grupo);
       if (caso.sinActividad) u.click(SIN_ACTIVIDAD);
-      u.click(ACEPTAR);
-      EXPECT_TRUE(u.closed());
+      acepta(u);
     });
-    EXPECT_EQ(w.lineas({"Apellido1"}), caso.apellidos);
-    EXPECT_SCRIPT_DONE(w.user);
+    EXPECT_EQ(lineas({"Apellido1"}), caso.apellidos);
   }
 }
 
-TEST(CollaboratorDialog, NoInstitutionOrNoActivity_IsRefusedAlike) {
-  DialogWorld w;
-  w.colaboradores([&](FormDriver& u) {
-    const std::string falta = "¡Debe seleccionar una actividad de la lista!";
-    w.user.expectMessage(falta);
-    u.click(ACEPTAR);
-    EXPECT_EQ(u.focused(), "cboInstitucion");
-    u.choose("cboInstitucion", "Ajena");
-    w.user.expectMessage(falta);
-    u.click(ACEPTAR);
-    EXPECT_EQ(u.focused(), "cboActividad");
-    u.click(CANCELAR);
-  });
-  EXPECT_THAT(w.filas(), IsEmpty());
-  EXPECT_SCRIPT_DONE(w.user);
-}
-
-TEST(CollaboratorDialog, StoreFails_IsToldUnderTheProcedureAndTheDialogCanBeLeft) {
-  const struct {
-    const char* parte;
-    const char* procedimiento;
-  } casos[] = {{"FROM Actividad WHERE", "frmInfActividad / cboInstitucion_Click())"},
-               {"FROM Grupo WHERE", "frmInfActividad / cboActividad_Click())"},
-               {"WHERE IDInstitucion =", "frmInfActividad / cmdBoton_Click())"},
-               {"FROM Padron", "cInformes / RellenarInformeColaborador)"}};
-  for (const auto& caso : casos) {
-    DialogWorld w;
-    store::FailingEngine::wrap(w.con())->failOn(caso.parte);
-    w.user.answerAnything(forms::Answer::Ok);
-    w.colaboradores([&](FormDriver& u) {
+TEST_F(GroupsDialog, StoreFails_IsToldUnderTheProcedureAndTheDialogCanBeLeft) {
+  const std::pair<const char*, const char*> casos[] = {
+      {"FROM Actividad WHERE", "frmInfActividad / cboInstitucion_Click())"},
+      {"FROM Grupo WHERE", "frmInfActividad / cboActividad_Click())"},
+      {"WHERE IDInstitucion =", "frmInfActividad / cmdBoton_Click())"},
+      {"FROM Padron", "cInformes / RellenarInformeColaborador)"}};
+  user.answerAnything(Answer::Ok);
+  for (const auto& [parte, procedimiento] : casos) {
+    const std::size_t antes = user.messages().size();
+    fallos().failOn(parte);
+    colaboradores([&](FormDriver& u) {
       u.choose("cboInstitucion", "San Ginés");
       u.get<forms::ComboBox>("cboActividad").selectText("Coro");
       u.click(ACEPTAR);
       u.escape();
     });
-    EXPECT_THAT(w.user.messages().at(0).text, HasSubstr(caso.procedimiento));
-    EXPECT_THAT(w.filas(), IsEmpty());
-    EXPECT_FALSE(w.conInformes().inTransaction());
+    EXPECT_THAT(user.messages().at(antes).text, HasSubstr(procedimiento));
+    EXPECT_THAT(filas(), IsEmpty());
+    EXPECT_FALSE(conInformes().inTransaction());
   }
 }
 
-struct AgendaWorld : CensoInformes {
-  AgendaWorld() {
+struct AgendaDialog : Dialogo {
+  AgendaDialog() {
     for (const char* dia : {"20261121", "20261122", "20261130"}) tarea(dia, "1800", dia);
   }
-  void agenda(forms::ScriptedUser::Act act) {
-    user.expectForm(AGENDA, std::move(act));
+  void agenda(Act act) {
+    user.expectForm("frmInfAgenda", std::move(act));
     informes.SelInfTareasAgenda(con(), conInformes());
   }
   std::vector<std::string> dias() { return lineas({"Fecha"}, "Tareas_Agenda"); }
 };
 
-TEST(AgendaDialog, Accepted_WritesTheTasksOfToday) {
-  AgendaWorld w;
-  w.agenda([](FormDriver& u) {
+TEST_F(AgendaDialog, DaysOfTodayOrTyped_AreIncludedEachInATransactionOfItsOwn) {
+  agenda([](FormDriver& u) {
     EXPECT_EQ(u.caption(), "Informe de tareas");
-    EXPECT_EQ(u.text("adtpFecha(0)"), "22/11/2026");
-    EXPECT_EQ(u.text("adtpFecha(1)"), "22/11/2026");
+    EXPECT_EQ(u.text(DESDE) + u.text(HASTA), "22/11/202622/11/2026");
     u.enter();
   });
-  EXPECT_THAT(w.dias(), ElementsAre("22/11/2026"));
-  EXPECT_FALSE(w.conInformes().inTransaction());
-  EXPECT_SCRIPT_DONE(w.user);
-}
-
-TEST(AgendaDialog, BothDays_AreIncluded_EachRowInATransactionOfItsOwn) {
-  AgendaWorld w;
-  const auto* motor = store::FailingEngine::wrap(w.conInformes());
-  w.agenda([](FormDriver& u) {
-    u.type("adtpFecha(0)", "21/11/2026");
-    u.type("adtpFecha(1)", "30/11/2026");
-    u.click(ACEPTAR);
+  EXPECT_THAT(dias(), ElementsAre("22/11/2026"));
+  const auto* motor = store::FailingEngine::wrap(conInformes());
+  agenda([](FormDriver& u) {
+    u.type(DESDE, "21/11/2026");
+    u.type(HASTA, "30/11/2026");
+    acepta(u);
   });
-  EXPECT_THAT(w.dias(), ElementsAre("21/11/2026", "22/11/2026", "30/11/2026"));
+  EXPECT_THAT(dias(), ElementsAre("22/11/2026", "21/11/2026", "22/11/2026", "30/11/2026"));
   EXPECT_EQ(std::count(motor->executed().begin(), motor->executed().end(), "COMMIT"), 3);
-  EXPECT_SCRIPT_DONE(w.user);
 }
 
-TEST(AgendaDialog, FirstDayBehindTheSecond_IsToldAndSetsTheSecond) {
+TEST_F(AgendaDialog, FirstDayBehindTheSecond_IsToldAndSetsTheSecondButDoesNotHoldOneWhoCancels) {
   const char* const mensaje = "¡La segunda fecha debe de ser igual o mayor a la primera!";
-  AgendaWorld w;
-  w.agenda([&](FormDriver& u) {
-    w.user.expectMessage(mensaje);
-    u.type("adtpFecha(0)", "30/11/2026");
-    u.focus("adtpFecha(1)");
-    EXPECT_EQ(u.text("adtpFecha(1)"), "30/11/2026");
-    w.user.expectMessage(mensaje);
-    u.type("adtpFecha(1)", "29/11/2026");
-    u.click(ACEPTAR);
-    EXPECT_FALSE(u.closed()) << "what was changed is seen first";
-    EXPECT_EQ(u.text("adtpFecha(1)"), "30/11/2026");
-    EXPECT_EQ(u.focused(), "adtpFecha(1)");
-    u.click(ACEPTAR);
-    EXPECT_TRUE(u.closed());
-  });
-  EXPECT_THAT(w.dias(), ElementsAre("30/11/2026"));
-  EXPECT_EQ(w.user.beeps(), 2);
-  EXPECT_SCRIPT_DONE(w.user);
-}
-
-TEST(AgendaDialog, CancelledWithDaysOutOfOrder_IsNotHeldBack) {
-  AgendaWorld w;
-  w.agenda([](FormDriver& u) {
-    u.type("adtpFecha(0)", "30/11/2026");
+  agenda([](FormDriver& u) {
+    u.type(DESDE, "30/11/2026");
     u.click(CANCELAR);
   });
-  EXPECT_THAT(w.dias(), IsEmpty());
-  EXPECT_SCRIPT_DONE(w.user);
-}
-
-TEST(AgendaDialog, NoDay_IsRefused) {
-  AgendaWorld w;
-  w.agenda([&](FormDriver& u) {
-    u.type("adtpFecha(1)", "");
-    w.user.expectMessage("Falta rellenar el campo «Hasta».");
-    u.click(ACEPTAR);
-    EXPECT_EQ(u.focused(), "adtpFecha(1)");
-    u.escape();
+  EXPECT_THAT(dias(), IsEmpty());
+  agenda([&](FormDriver& u) {
+    user.expectMessage(mensaje);
+    u.type(DESDE, "30/11/2026");
+    u.focus(HASTA);
+    EXPECT_EQ(u.text(HASTA), "30/11/2026");
+    u.type(HASTA, "29/11/2026");
+    rehusa(u, ACEPTAR, mensaje);  // what was changed is seen first
+    EXPECT_EQ(u.text(HASTA), "30/11/2026");
+    EXPECT_EQ(u.focused(), HASTA);
+    acepta(u);
   });
-  EXPECT_SCRIPT_DONE(w.user);
+  EXPECT_THAT(dias(), ElementsAre("30/11/2026"));
+  EXPECT_EQ(user.beeps(), 2);
 }
 
-TEST(AgendaDialog, NoTasks_KeepsTheDialog_ButOldRowsPassForNew) {
-  AgendaWorld w;
-  w.agenda([&](FormDriver& u) {
-    u.type("adtpFecha(1)", "01/01/2027");
-    u.type("adtpFecha(0)", "01/01/2027");
-    w.user.expectMessage(NINGUNO);
-    u.click(ACEPTAR);
-    EXPECT_FALSE(u.closed());
-    w.conInformes().Execute("INSERT INTO Tareas_Agenda (Nombre) VALUES (\"Vieja\")");
-    u.click(ACEPTAR);
-    EXPECT_TRUE(u.closed());
+TEST_F(AgendaDialog, NoDayOrNoTasks_KeepTheDialog_ButOldRowsPassForNew) {
+  agenda([&](FormDriver& u) {
+    u.type(HASTA, "");
+    rehusa(u, ACEPTAR, "Falta rellenar el campo «Hasta».");
+    EXPECT_EQ(u.focused(), HASTA);
+    u.type(HASTA, "01/01/2027");
+    u.type(DESDE, "01/01/2027");
+    rehusa(u, ACEPTAR, NINGUNO);
+    insert(conInformes(), "Tareas_Agenda", "Nombre=Vieja");
+    acepta(u);
   });
-  EXPECT_SCRIPT_DONE(w.user);
 }
 
-TEST(AgendaDialog, ARowFails_LeavesThoseBeforeItAndTheDialog) {
-  AgendaWorld w;
-  store::FailingEngine::wrap(w.conInformes())
-      ->failOn("INSERT INTO Tareas_Agenda", store::ErrorKind::Other, 2);
-  w.user.answerAnything(forms::Answer::Ok);
-  w.agenda([&](FormDriver& u) {
-    u.type("adtpFecha(0)", "21/11/2026");
+TEST_F(AgendaDialog, ARowFails_LeavesThoseBeforeItAndTheDialog) {
+  fallanInformes("INSERT INTO Tareas_Agenda", 2);
+  agenda([&](FormDriver& u) {
+    u.type(DESDE, "21/11/2026");
     u.click(ACEPTAR);
     EXPECT_FALSE(u.closed());
     u.escape();
   });
-  EXPECT_THAT(w.dias(), ElementsAre("21/11/2026"));
-  EXPECT_FALSE(w.conInformes().inTransaction());
-  EXPECT_THAT(w.user.messages().at(0).text, HasSubstr("frmInfAgenda / cmdBoton_Click())"));
-  EXPECT_EQ(w.user.hourglassDepth(), 0);
+  EXPECT_THAT(dias(), ElementsAre("21/11/2026"));
+  EXPECT_FALSE(conInformes().inTransaction());
+  EXPECT_THAT(user.messages().at(0).text, HasSubstr("frmInfAgenda / cmdBoton_Click())"));
+  EXPECT_EQ(user.hourglassDepth(), 0);
 }
 
-}  // namespace
-}  // namespace fidaleon::tests
+}  // namespace fidaleon::tests::CensusDialogsTest

@@ -3,16 +3,9 @@
 #include "CensoInformes.h"
 #include "store/FailingEngine.h"
 
-namespace fidaleon::tests {
-namespace {
+namespace fidaleon::tests::CensusRowsTest {
 
-using ::testing::Contains;
-using ::testing::ElementsAre;
-using ::testing::HasSubstr;
-using ::testing::IsEmpty;
-using ::testing::Pair;
-
-struct CollaboratorRows : CensoInformes {
+struct CollaboratorRows : ::testing::Test, CensoInformes {
   CollaboratorRows() { coro = grupo(actividad("Coro"), "Voces blancas"); }
   std::vector<Fila> imprimir() {
     informes.InformeColaborador(con(), conInformes(), progreso);
@@ -21,163 +14,86 @@ struct CollaboratorRows : CensoInformes {
   std::int32_t coro = 0;
 };
 
-const Fila COMPLETA{{"InstitucionNombre", "San Ginés"},
-                    {"InstitucionTipo", "Parroquia de"},
-                    {"NombreActividad", "Coro"},
-                    {"NombreGrupo", "Voces blancas"},
-                    {"Nombre", "Ana"},
-                    {"Apellido1", "Sanz"},
-                    {"Apellido2", "Gil"},
-                    {"Direccion", "Calle Mayor, 3 C.P.: 28013"},
-                    {"PoblacionProvincia", "Getafe (Madrid)"},
-                    {"Telefono1", "915550101"},
-                    {"Telefono2", "600100200"},
-                    {"Email", "ana@correo.es"},
-                    {"Comentarios", "Canta d'oído"},
-                    {"FechaNacimiento", "15/03/1970"},
-                    {"NombresPadres", "Luis y Carmen"},
-                    {"FechaBautismo", "10/04/1970"},
-                    {"ParroquiaBaut", "San Ginés"},
-                    {"DireccionBaut", "Arenal, 13"},
-                    {"PoblacionProvinciaBaut", "Toledo (Toledo)"},
-                    {"Profesion", "(Maestra)"}};
+const Fila COMPLETA = row(R"(
+    InstitucionNombre=San Ginés; InstitucionTipo=Parroquia de; NombreActividad=Coro
+    NombreGrupo=Voces blancas; Nombre=Ana; Apellido1=Sanz; Apellido2=Gil
+    Direccion=Calle Mayor, 3 C.P.: 28013; PoblacionProvincia=Getafe (Madrid); Telefono1=915550101
+    Telefono2=600100200; Email=ana@correo.es; Comentarios=Canta d'oído; FechaNacimiento=15/03/1970
+    NombresPadres=Luis y Carmen; FechaBautismo=10/04/1970; ParroquiaBaut=San Ginés
+    DireccionBaut=Arenal, 13; PoblacionProvinciaBaut=Toledo (Toledo); Profesion=(Maestra))");
 
-TEST(CollaboratorRow, AllKnown_FillsItsColumnsAndNoOther) {
-  CollaboratorRows w;
-  w.colaborador("Ana", "Sanz", w.coro);
-  w.run("UPDATE Padron SET CodMunicipio=" + std::to_string(w.municipio("Getafe", "Madrid")) +
-        ", Telefono2=\"600100200\", CorreoElectronico=\"ana@correo.es\", Comentarios=\"Canta "
-        "d'oído\", [Profesion/Colegio]=\"Maestra\"");
-  w.run("UPDATE Padron_Bautismo SET CodMunicipioParrBaut=" +
-        std::to_string(w.municipio("Toledo", "Toledo")));
-  EXPECT_THAT(w.imprimir(), ElementsAre(COMPLETA));
-  EXPECT_FALSE(w.conInformes().inTransaction());
-  EXPECT_EQ(w.user.hourglassDepth(), 0);
-  EXPECT_SCRIPT_DONE(w.user);
+TEST_F(CollaboratorRows, AllKnown_FillsItsColumnsAndNoOther) {
+  colaborador("Ana", "Sanz", coro);
+  run("UPDATE Padron SET CodMunicipio=" + std::to_string(municipio("Getafe", "Madrid")) +
+      ", Telefono2=\"600100200\", CorreoElectronico=\"ana@correo.es\", Comentarios=\"Canta "
+      "d'oído\", [Profesion/Colegio]=\"Maestra\"");
+  run("UPDATE Padron_Bautismo SET CodMunicipioParrBaut=" +
+      std::to_string(municipio("Toledo", "Toledo")));
+  EXPECT_THAT(imprimir(), ElementsAre(COMPLETA));
+  EXPECT_FALSE(conInformes().inTransaction());
+  EXPECT_EQ(user.hourglassDepth(), 0);
+  run("UPDATE Padron SET Comentarios='Llamada \"Nana\"'");
+  EXPECT_EQ(imprimir().back().at("Comentarios"), "Llamada \"Nana\"");
 }
 
-TEST(CollaboratorRow, NothingKnown_PrintsDashesButForDatesPlacesAndParents) {
-  CollaboratorRows w;
-  w.colaborador("Ana", "Sanz", w.coro);
-  w.run(
-      "UPDATE Padron SET Direccion=\"Calle Mayor, 3\", CPostal=\" \", Telefono=\"\", "
+TEST_F(CollaboratorRows, NothingKnown_PrintsDashesButForDatesPlacesAndParents) {
+  colaborador("Ana", "Sanz", coro);
+  run("UPDATE Padron SET Direccion=\"Calle Mayor, 3\", CPostal=\" \", Telefono=\"\", "
       "Telefono2=NULL, CorreoElectronico=\"  \", Comentarios=NULL, [Profesion/Colegio]=\" \"");
-  w.run("UPDATE Padron_Nacimiento SET FechaNacimiento=\"\", NombrePadre=\"\", NombreMadre=NULL");
-  w.run(
-      "UPDATE Padron_Bautismo SET FechaBautizo=NULL, ParroquiaBaut=\"\", "
+  run("UPDATE Padron_Nacimiento SET FechaNacimiento=\"\", NombrePadre=\"\", NombreMadre=NULL");
+  run("UPDATE Padron_Bautismo SET FechaBautizo=NULL, ParroquiaBaut=\"\", "
       "DireccionParrBaut=NULL, CodMunicipioParrBaut=999");
-  w.run("UPDATE Institucion SET InstitucionTipo=\"\"");
-  Fila esperada = COMPLETA;
-  esperada["Direccion"] = "Calle Mayor, 3";
-  for (const char* columna : {"Telefono1", "Telefono2", "Email", "Comentarios", "ParroquiaBaut",
-                              "DireccionBaut", "InstitucionTipo"})
-    esperada[columna] = "---";
-  for (const char* columna : {"PoblacionProvincia", "FechaNacimiento", "NombresPadres",
-                              "FechaBautismo", "PoblacionProvinciaBaut", "Profesion"})
-    esperada[columna] = "";
-  EXPECT_THAT(w.imprimir(), ElementsAre(esperada));
+  run("UPDATE Institucion SET InstitucionTipo=\"\"");
+  EXPECT_THAT(imprimir(), ElementsAre(row(R"(
+      InstitucionNombre=San Ginés; InstitucionTipo=---; NombreActividad=Coro
+      NombreGrupo=Voces blancas; Nombre=Ana; Apellido1=Sanz; Apellido2=Gil
+      Direccion=Calle Mayor, 3; PoblacionProvincia=; Telefono1=---; Telefono2=---; Email=---
+      Comentarios=---; FechaNacimiento=; NombresPadres=; FechaBautismo=; ParroquiaBaut=---
+      DireccionBaut=---; PoblacionProvinciaBaut=; Profesion=)")));
 }
 
-TEST(CollaboratorRow, HalfKnown_JoinsWhatThereIs) {
-  CollaboratorRows w;
-  w.colaborador("Ana", "Sanz", w.coro);
-  w.run("INSERT INTO Municipio (Nombre, CodProvincia) VALUES (\" Lisboa \", 999)");
-  w.run("UPDATE Padron SET CodMunicipio=" + w.value("SELECT MAX(IDMunicipio) FROM Municipio"));
-  w.run("UPDATE Padron_Nacimiento SET NombrePadre=\"\"");
-  const Fila fila = w.imprimir().at(0);
-  EXPECT_EQ(fila.at("PoblacionProvincia"), "Lisboa");
-  EXPECT_EQ(fila.at("NombresPadres"), "Carmen");
-  w.run("UPDATE Padron_Nacimiento SET NombrePadre=\"Luis\", NombreMadre=\"Inés\"");
-  EXPECT_EQ(w.imprimir().back().at("NombresPadres"), "Luis e Inés");
+TEST_F(CollaboratorRows, HalfKnown_JoinsWhatThereIs) {
+  colaborador("Ana", "Sanz", coro);
+  insert(con(), "Municipio", "Nombre= Lisboa ; CodProvincia=999");
+  run("UPDATE Padron SET CodMunicipio=" + value("SELECT MAX(IDMunicipio) FROM Municipio"));
+  run("UPDATE Padron_Nacimiento SET NombrePadre=\"\"");
+  const Row fila = imprimir().at(0);
+  EXPECT_EQ(fila.at("PoblacionProvincia") + "/" + fila.at("NombresPadres"), "Lisboa/Carmen");
+  run("UPDATE Padron_Nacimiento SET NombrePadre=\"Luis\", NombreMadre=\"Inés\"");
+  EXPECT_EQ(imprimir().back().at("NombresPadres"), "Luis e Inés");
 }
 
-TEST(CollaboratorRows, EachInstitution_ListsItsMembersThenThoseOfNoActivityThere) {
-  CollaboratorRows w;
-  const std::int32_t ajena = w.institucion("Ajena");
-  const std::int32_t caritas = w.grupo(w.actividad("Cáritas", ajena), "Acogida");
-  const std::int32_t dos = w.colaborador("Ana", "Dos", w.coro);
-  w.miembro(dos, caritas, 1);
-  w.colaborador("Eva", "Una", caritas);
-  w.colaborador("Luz", "Ninguna");
-  w.persona("Pío", "Censo", "Gil");
-  w.imprimir();
-  EXPECT_THAT(w.lineas({"InstitucionNombre", "NombreActividad", "NombreGrupo", "Apellido1"}),
+TEST_F(CollaboratorRows, EachInstitution_ListsItsMembersThenThoseOfNoActivityThere) {
+  EXPECT_THAT(imprimir(), IsEmpty());
+  EXPECT_THAT(progreso.sucesos, IsEmpty()) << "of nobody";
+  const std::int32_t caritas = grupo(actividad("Cáritas", institucion("Ajena")), "Acogida");
+  miembro(colaborador("Ana", "Dos", coro), caritas, 1);
+  colaborador("Eva", "Una", caritas);
+  colaborador("Luz", "Ninguna");
+  persona("Pío", "Censo", "Gil");
+  const std::vector<Row> una = imprimir();
+  EXPECT_THAT(lineas({"InstitucionNombre", "NombreActividad", "NombreGrupo", "Apellido1"}),
               ElementsAre("Ajena Cáritas Acogida Dos", "Ajena Cáritas Acogida Una",
                           "Ajena Sin actividad asociada Sin grupo Ninguna",
                           "San Ginés Coro Voces blancas Dos",
                           "San Ginés Sin actividad asociada Sin grupo Una",
                           "San Ginés Sin actividad asociada Sin grupo Ninguna"));
-  EXPECT_THAT(w.progreso.sucesos, ElementsAre("Cargar 6 Procesando vista preliminar ... 1 0", "0",
-                                              "1", "2", "3", "4", "5", "6", "6"));
-}
-
-TEST(CollaboratorRows, Extended_WritesTheSameRows) {
-  CollaboratorRows w, ext;
-  w.colaborador("Ana", "Sanz", w.coro);
-  ext.colaborador("Ana", "Sanz", ext.coro);
-  ext.informes.InformeColaboradorExt(ext.con(), ext.conInformes(), ext.progreso);
-  EXPECT_EQ(ext.filas(), w.imprimir());
-  EXPECT_EQ(ext.progreso.sucesos, w.progreso.sucesos);
-}
-
-TEST(CollaboratorRows, OfNobody_LeaveTheProgressAlone) {
-  CollaboratorRows w;
-  EXPECT_THAT(w.imprimir(), IsEmpty());
-  EXPECT_THAT(w.progreso.sucesos, IsEmpty());
-  EXPECT_FALSE(w.conInformes().inTransaction());
-  EXPECT_SCRIPT_DONE(w.user);
-}
-
-TEST(CollaboratorRows, ARowFails_TakesBackAllAndTellsTheWriter) {
-  CollaboratorRows w;
-  w.colaborador("Ana", "Sanz", w.coro);
-  w.colaborador("Eva", "Sanz", w.coro);
-  w.conInformes().Execute("INSERT INTO Informe_Colaboradores (Nombre) VALUES (\"Anterior\")");
-  store::FailingEngine::wrap(w.conInformes())
-      ->failOn("INSERT INTO Informe_Colaboradores", store::ErrorKind::DiskFull, 2);
-  w.user.answerAnything(forms::Answer::Ok);
-  w.imprimir();
-  EXPECT_THAT(w.lineas({"Nombre"}), ElementsAre("Anterior"));
-  EXPECT_FALSE(w.conInformes().inTransaction());
-  ASSERT_EQ(w.user.messages().size(), 1u);
-  EXPECT_THAT(w.user.messages()[0].text,
-              HasSubstr("FidaleonNucleo / cInformes / RellenarInformeColaborador)"));
-  EXPECT_EQ(w.user.hourglassDepth(), 0);
-}
-
-TEST(CollaboratorRows, ADoubleQuoteInAValue_IsPrintedAsItStands) {
-  CollaboratorRows w;
-  w.colaborador("Ana", "Sanz", w.coro);
-  w.run("UPDATE Padron SET Comentarios='Llamada \"Nana\"'");
-  EXPECT_THAT(w.imprimir(), ElementsAre(Contains(Pair("Comentarios", "Llamada \"Nana\""))));
-}
-
-TEST(CollaboratorRows, ReadingFails_IsToldUnderTheOperation) {
-  CollaboratorRows w;
-  store::FailingEngine::wrap(w.con())->failOn("FROM Institucion");
-  w.user.answerAnything(forms::Answer::Ok);
-  w.informes.InformeColaboradorExt(w.con(), w.conInformes(), w.progreso);
-  EXPECT_THAT(w.user.messages().at(0).text, HasSubstr("cInformes / InformeColaboradorExt)"));
-}
-
-TEST(CollaboratorRows, StoppedByTheUser_LeaveNothing) {
-  CollaboratorRows w;
-  w.colaborador("Ana", "Sanz", w.coro);
-  w.colaborador("Eva", "Sanz", w.coro);
-  w.progreso.hasta = 1;
-  w.user.expectMessage("Operación cancelada. No queda nada de ella.");
-  EXPECT_THAT(w.imprimir(), IsEmpty());
-  EXPECT_FALSE(w.conInformes().inTransaction());
-  EXPECT_SCRIPT_DONE(w.user);
+  const auto sucesos = std::exchange(progreso.sucesos, {});
+  EXPECT_THAT(sucesos, ElementsAre("Cargar 6 Procesando vista preliminar ... 1 0", "0", "1", "2",
+                                   "3", "4", "5", "6", "6"));
+  conInformes().Execute("DELETE * FROM Informe_Colaboradores");
+  informes.InformeColaboradorExt(con(), conInformes(), progreso);
+  EXPECT_EQ(filas(), una) << "the extended one writes the same rows";
+  EXPECT_EQ(progreso.sucesos, sucesos);
 }
 
 TEST(ActivityRows, CountTheMembersOfEachGroup_InOrder) {
   CensoInformes w;
-  const std::int32_t ajena = w.institucion("Ajena");
   const std::int32_t coro = w.actividad("Coro");
-  const std::int32_t grupos[] = {w.grupo(coro, "Voces graves"), w.grupo(coro, "Voces agudas"),
-                                 w.grupo(w.actividad("Catequesis"), "Primero"),
-                                 w.grupo(w.actividad("Zapatería", ajena), "Taller")};
+  const std::int32_t grupos[] = {
+      w.grupo(coro, "Voces graves"), w.grupo(coro, "Voces agudas"),
+      w.grupo(w.actividad("Catequesis"), "Primero"),
+      w.grupo(w.actividad("Zapatería", w.institucion("Ajena")), "Taller")};
   w.grupo(coro, "Sin nadie");
   for (const std::int32_t uno : grupos) w.colaborador("Ana", "Sanz", uno);
   w.colaborador("Eva", "Sanz", grupos[0]);
@@ -185,28 +101,10 @@ TEST(ActivityRows, CountTheMembersOfEachGroup_InOrder) {
   EXPECT_THAT(w.lineas({"InstitucionNombre", "NombreActividad", "NombreGrupo", "Colaboradores"}),
               ElementsAre("Ajena Zapatería Taller 1", "San Ginés Catequesis Primero 1",
                           "San Ginés Coro Voces agudas 1", "San Ginés Coro Voces graves 2"));
-  EXPECT_EQ(w.filas()[0], (Fila{{"InstitucionTipo", "Parroquia de"},
-                                {"InstitucionNombre", "Ajena"},
-                                {"NombreActividad", "Zapatería"},
-                                {"NombreGrupo", "Taller"},
-                                {"Colaboradores", "1"}}));
+  EXPECT_EQ(w.filas()[0], row("InstitucionTipo=Parroquia de; InstitucionNombre=Ajena; "
+                              "NombreActividad=Zapatería; NombreGrupo=Taller; Colaboradores=1"));
   EXPECT_THAT(w.progreso.sucesos, ElementsAre("Cargar 4 Procesando vista preliminar ... 1 0", "0",
                                               "1", "2", "3", "4", "4"));
-  EXPECT_FALSE(w.conInformes().inTransaction());
-  EXPECT_SCRIPT_DONE(w.user);
-}
-
-TEST(ActivityRows, ARowOrTheCommitFails_TakesBackAll) {
-  for (const char* parte : {"INSERT INTO Informe_Colaboradores", "COMMIT"}) {
-    CensoInformes w;
-    w.colaborador("Ana", "Sanz", w.grupo(w.actividad("Coro"), "Uno"));
-    store::FailingEngine::wrap(w.conInformes())->failOn(parte);
-    w.user.answerAnything(forms::Answer::Ok);
-    w.informes.InformeActividad(w.con(), w.conInformes(), w.progreso);
-    EXPECT_THAT(w.filas(), IsEmpty()) << parte;
-    EXPECT_FALSE(w.conInformes().inTransaction()) << parte;
-    EXPECT_THAT(w.user.messages().at(0).text, HasSubstr("cInformes / RellenarInformeActividad)"));
-  }
 }
 
 TEST(AgendaRows, OfTheYear_AreCutByPosition) {
@@ -225,33 +123,66 @@ TEST(AgendaRows, OfTheYear_AreCutByPosition) {
   EXPECT_THAT(w.progreso.sucesos, ElementsAre("Cargar 4 Procesando vista preliminar ... 1 0", "0",
                                               "1", "2", "3", "4", "4"));
   EXPECT_FALSE(w.conInformes().inTransaction());
-  EXPECT_SCRIPT_DONE(w.user);
 }
 
-TEST(AgendaRows, ARowFails_LeavesTheTransactionToTheConnection) {
+struct Informe {
+  const char* nombre;
+  void (cInformes::*imprimir)(FDAPI::Conexion&, FDAPI::Conexion&, FDAPI::cProgreso&);
+  const char *tabla, *quienFalla;
+  bool quedaAbierta;  // the transaction is left to the connection
+};
+
+class CensusReport : public ::testing::TestWithParam<Informe> {
+ protected:
+  CensusReport() {
+    const std::int32_t coro = w.grupo(w.actividad("Coro"), "Voces blancas");
+    for (const char* una : {"Ana", "Eva"}) w.colaborador(una, "Sanz", coro);
+    w.colaborador("Luz", "Sanz", w.grupo(w.actividad("Cáritas"), "Acogida"));
+    for (const char* dia : {"20260101", "20260102"}) w.tarea(dia, "0930", "Misa");
+    insert(w.conInformes(), i.tabla, "Nombre=Anterior");
+  }
+  void imprimir() { (w.informes.*i.imprimir)(w.con(), w.conInformes(), w.progreso); }
+  const Informe& i = GetParam();
   CensoInformes w;
-  w.tarea("20260101", "0930", "Misa");
-  w.tarea("20260102", "0930", "Coro");
-  store::FailingEngine::wrap(w.conInformes())
-      ->failOn("INSERT INTO Tareas_Agenda", store::ErrorKind::Other, 2);
-  w.user.answerAnything(forms::Answer::Ok);
-  w.informes.InformeAgenda(w.con(), w.conInformes(), w.progreso);
-  EXPECT_THAT(w.user.messages().at(0).text, HasSubstr("cInformes / InformeAgenda)"));
-  ASSERT_TRUE(w.conInformes().inTransaction());
-  w.conInformes().RollbackTrans();
-  EXPECT_THAT(w.filas("Tareas_Agenda"), IsEmpty());
+};
+
+TEST_P(CensusReport, ARowTheCommitOrTheReadingFails_IsToldAndNothingIsLeft) {
+  for (const bool lectura : {false, true})
+    for (const char* parte : {"INSERT INTO", "COMMIT"}) {
+      if (lectura)
+        w.fallos().failOn("SELECT");
+      else
+        w.fallanInformes(parte, *parte == 'I' ? 2 : 1);
+      w.user.answerAnything(Answer::Ok);
+      imprimir();
+      EXPECT_THAT(w.user.messages().back().text,
+                  HasSubstr(std::string("FidaleonNucleo / cInformes / ") +
+                            (lectura ? i.nombre : i.quienFalla) + ")"));
+      EXPECT_EQ(w.conInformes().inTransaction(), i.quedaAbierta && !lectura);
+      if (w.conInformes().inTransaction()) w.conInformes().RollbackTrans();
+      EXPECT_THAT(w.lineas({"Nombre"}, i.tabla), ElementsAre("Anterior"));
+      EXPECT_EQ(w.user.hourglassDepth(), 0);
+    }
 }
 
-TEST(AgendaRows, StoppedByTheUser_LeaveNothing) {
-  CensoInformes w;
-  w.tarea("20260101", "0930", "Misa");
+TEST_P(CensusReport, StoppedByTheUser_LeavesNothing) {
   w.progreso.hasta = 1;
   w.user.expectMessage("Operación cancelada. No queda nada de ella.");
-  w.informes.InformeAgenda(w.con(), w.conInformes(), w.progreso);
-  EXPECT_THAT(w.filas("Tareas_Agenda"), IsEmpty());
+  imprimir();
+  EXPECT_THAT(w.lineas({"Nombre"}, i.tabla), ElementsAre("Anterior"));
   EXPECT_FALSE(w.conInformes().inTransaction());
-  EXPECT_SCRIPT_DONE(w.user);
 }
 
-}  // namespace
-}  // namespace fidaleon::tests
+INSTANTIATE_TEST_SUITE_P(
+    Reports, CensusReport,
+    ::testing::Values(Informe{"InformeColaborador", &cInformes::InformeColaborador,
+                              "Informe_Colaboradores", "RellenarInformeColaborador", false},
+                      Informe{"InformeColaboradorExt", &cInformes::InformeColaboradorExt,
+                              "Informe_Colaboradores", "RellenarInformeColaborador", false},
+                      Informe{"InformeActividad", &cInformes::InformeActividad,
+                              "Informe_Colaboradores", "RellenarInformeActividad", false},
+                      Informe{"InformeAgenda", &cInformes::InformeAgenda, "Tareas_Agenda",
+                              "InformeAgenda", true}),
+    [](const auto& caso) { return std::string(caso.param.nombre); });
+
+}  // namespace fidaleon::tests::CensusRowsTest

@@ -6,59 +6,26 @@ namespace fidaleon::tests {
 
 namespace {
 
-const Row PARTIDA{
-    {"Nombre", "Lucía"},
-    {"PrimerApellido", "García"},
-    {"SegundoApellido", "Pérez"},
-    {"Domicilio", "Calle Real, 7"},
-    {"ProvinciaDomicilio", "Sevilla"},
-    {"PoblacionDomicilio", "Écija"},
-    {"FechaNacCorta", "01/04/2003"},
-    {"FechaNacLarga", "uno de abril de 2003"},
-    {"ProvinciaNac", "Toledo"},
-    {"PoblacionNac", "Toledo"},
-    {"FeligresDe", "San José"},
-    {"NombrePadre", "Luis García Mora"},
-    {"NombreMadre", "Ana Pérez Ruiz"},
-    {"Parroquia", "Santa Ana"},
-    {"ProvinciaParr", "Madrid"},
-    {"PoblacionParr", "Getafe"},
-    {"DiocesisParr", "Getafe"},
-    {"Libro", "Libro IV"},
-    {"Folio", "8"},
-    {"Numero", "4b"},
-    {"FechaConfirmacionCorta", "31/03/2019"},
-    {"FechaConfirmacionLarga", "treinta y uno de marzo de 2019"},
-    {"Padrino", "Eva Ruiz"},
-    {"Ministro", "Juan Soto"},
-    {"CargoMinistro", "Obispo"},
-    {"FechaBautCorta", "24/05/2003"},
-    {"FechaBautLarga", "veinticuatro de mayo de 2003"},
-    {"ParroquiaBaut", "San Ginés"},
-    {"DireccionBaut", "Calle Mayor, 1"},
-    {"ProvinciaBaut", "Toledo"},
-    {"PoblacionBaut", "Toledo"},
-    {"LibroBaut", "2003/01"},
-    {"FolioBaut", "12"},
-    {"NumeroBaut", "23a"},
-    {"InstitucionNombre", "San Ginés Mártir"},
-    {"InstitucionTipo", "Parroquia de"},
-    {"InstitucionDiocesis", "Getafe"},
-    {"InstitucionDomicilio", "Calle Mayor, 1"},
-    {"InstitucionCP", "28901"},
-    {"InstitucionPoblacion", "Getafe"},
-    {"InstitucionProvincia", "Madrid"},
-    {"InstitucionParroco", "Andrés Gil"},
-    {"InstitucionEncargado", "Rosa Sanz"},
-    {"NotasMarginales", "Se casó en 2030"},
-};
+const Row PARTIDA = row(R"(
+    Nombre=Lucía; PrimerApellido=García; SegundoApellido=Pérez; Domicilio=Calle Real, 7
+    ProvinciaDomicilio=Sevilla; PoblacionDomicilio=Écija; FechaNacCorta=01/04/2003
+    FechaNacLarga=uno de abril de 2003; ProvinciaNac=Toledo; PoblacionNac=Toledo
+    FeligresDe=San José; NombrePadre=Luis García Mora; NombreMadre=Ana Pérez Ruiz
+    Parroquia=Santa Ana; ProvinciaParr=Madrid; PoblacionParr=Getafe; DiocesisParr=Getafe
+    Libro=Libro IV; Folio=8; Numero=4b; FechaConfirmacionCorta=31/03/2019
+    FechaConfirmacionLarga=treinta y uno de marzo de 2019; Padrino=Eva Ruiz; Ministro=Juan Soto
+    CargoMinistro=Obispo; FechaBautCorta=24/05/2003; FechaBautLarga=veinticuatro de mayo de 2003
+    ParroquiaBaut=San Ginés; DireccionBaut=Calle Mayor, 1; ProvinciaBaut=Toledo
+    PoblacionBaut=Toledo; LibroBaut=2003/01; FolioBaut=12; NumeroBaut=23a
+    InstitucionNombre=San Ginés Mártir; InstitucionTipo=Parroquia de; InstitucionDiocesis=Getafe
+    InstitucionDomicilio=Calle Mayor, 1; InstitucionCP=28901; InstitucionPoblacion=Getafe
+    InstitucionProvincia=Madrid; InstitucionParroco=Andrés Gil; InstitucionEncargado=Rosa Sanz
+    NotasMarginales=Se casó en 2030)");
 
-const Row FIRMADA = PARTIDA + Row{{"InstitucionEncargado", FIRMA},
-                                  {"FechaSistemaCorta", "03/11/2026"},
-                                  {"FechaSistemaLarga", "tres de noviembre de 2026"}};
-const Row CATALANA{{"FechaNacLarga", "u d'abril de 2003"},
-                   {"FechaConfirmacionLarga", "trenta-u de març de 2019"},
-                   {"FechaBautLarga", "vint-i-quatre de maig de 2003"}};
+const Row FIRMADA = PARTIDA + FIRMA_DEL_TRES;
+const Row CATALANA = row(R"(
+    FechaNacLarga=u d'abril de 2003; FechaConfirmacionLarga=trenta-u de març de 2019
+    FechaBautLarga=vint-i-quatre de maig de 2003)");
 const Row FIRMADA_CATALANA =
     FIRMADA + CATALANA + Row{{"FechaSistemaLarga", "tres de novembre de 2026"}};
 const Row HOY_CATALAN =
@@ -113,10 +80,9 @@ std::vector<Golden> confirmaciones() {
        false,
        {lectura}},
       {"ImprimirSolicitudConfirmacion", &I::ImprimirSolicitudConfirmacion, &CONFIRMATORIO,
-       hoy + Row{{"Folio", "0"},
-                 {"Numero", "---"},
-                 {"FechaBautLarga", "veinticuatro de mayo de dos mil tres"},
-                 {"FechaBautLargaMeno", "vint-i-quatre de maig de 2003"}},
+       hoy + row(R"(
+    Folio=0; Numero=---; FechaBautLarga=veinticuatro de mayo de dos mil tres
+    FechaBautLargaMeno=vint-i-quatre de maig de 2003)"),
        true},
       {"ImprimirLibroConfirmacion", &I::ImprimirLibroConfirmacion, &CONFIRMATORIO,
        hoy + CATALANAS_AL_LADO},
@@ -130,7 +96,7 @@ std::vector<Golden> confirmaciones() {
 }
 
 Row duplicadaDeConfirmacion() {
-  return PARTIDA + HOY + Row{{"Edad", "15"}, {"Año", "2019"}, {"FechaCreacionLibro", "01/01/2003"}};
+  return PARTIDA + HOY + row("Edad=15; Año=2019; FechaCreacionLibro=01/01/2003");
 }
 
 }  // namespace fidaleon::tests

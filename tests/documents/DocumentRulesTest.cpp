@@ -1,11 +1,10 @@
 // Rules of single columns: blanks, ages, words of gender, padding.
 
-#include "PartidasWorld.h"
+#include "GoldenRows.h"
 #include "documents/TextRules.h"
 #include "store/FailingEngine.h"
 
-namespace fidaleon::tests {
-namespace {
+namespace fidaleon::tests::DocumentRulesTest {
 
 constexpr const char* FECHA = "20261103";
 
@@ -17,52 +16,47 @@ TEST(BaptismDocuments, EachPlace_IsAskedForOnce) {
   EXPECT_LE(motor->executed().size(), 1u + 2u * 4u);
 }
 
-TEST(BaptismDocuments, EmptyNote_IsDashedInCertificatesEmptyInRequestPaddedInEntry) {
+TEST(BaptismDocuments, WhatIsNotKnown_IsPrintedAsEachDocumentHasIt) {
+  using I = cInformes;
+  const char *sinNota = "UPDATE Bautismo SET NotasMarginales=NULL",
+             *sinSexo = "UPDATE Bautismo_Hijo SET Sexo='---'",
+             *sinHora = "UPDATE Bautismo_Hijo SET HoraNac=''";
+  const struct {
+    const char* cambio;
+    std::variant<Firmado, SinFirma> imprimir;
+    const char* columnas;
+  } casos[] = {
+      {sinNota, &I::ImprimirCertificadoPartidaBautismo, "NotasMarginales=---"},
+      {sinNota, &I::ImprimirVolanteBautismo, "NotasMarginales="},
+      {sinSexo, &I::ImprimirCertificadoPartidaBautismo, "Sexo=D./Dª"},
+      {sinSexo, &I::ImprimirCertificadoLiteralPartidaBautismo,
+       "Al niño/A la niña=al niño; Nacido/Nacida=nacido"},
+      {sinSexo, &I::ImprimirVolanteBautismo, "Al niño/A la niña=a la niña; Nacido/Nacida=hija"},
+      {sinHora, &I::ImprimirPartidaBautismo, "HoraNac=---"},
+      {sinHora, &I::ImprimirCertificadoLiteralPartidaBautismo, "HoraNac="},
+      {"UPDATE Municipio SET Nombre='' WHERE Nombre='Getafe'", &I::ImprimirPartidaBautismo,
+       "PoblacionBaut=---; ProvinciaBaut=Madrid"},
+      {"UPDATE Municipio SET Nombre='  Toledo' WHERE Nombre='Toledo'", &I::ImprimirPartidaBautismo,
+       "PoblacionNac=  Toledo"},
+  };
+  for (const auto& caso : casos) {
+    BautismoWorld w;
+    w.run(caso.cambio);
+    if (const auto* firmado = std::get_if<Firmado>(&caso.imprimir))
+      (w.informes.**firmado)(w.con(), w.conInformes(), 1, "", FECHA);
+    else
+      (w.informes.*std::get<SinFirma>(caso.imprimir))(w.con(), w.conInformes(), 1);
+    Row fila = w.fila();
+    for (const auto& [columna, valor] : fields(caso.columnas))
+      EXPECT_EQ(fila[columna], valor) << caso.cambio << " " << columna;
+  }
+}
+
+TEST(BaptismDocuments, EmptyNote_IsPaddedInTheEntry) {
   BautismoWorld w;
   w.run("UPDATE Bautismo SET NotasMarginales=NULL");
-  w.informes.ImprimirCertificadoPartidaBautismo(w.con(), w.conInformes(), 1, "", FECHA);
-  EXPECT_EQ(w.columna("NotasMarginales"), "---");
-  w.conInformes().Execute("DELETE * FROM Documentos_Bautismo");
   w.informes.ImprimirPartidaBautismo(w.con(), w.conInformes(), 1);
   EXPECT_EQ(w.columna("NotasMarginales").size(), 600u);
-  w.conInformes().Execute("DELETE * FROM Documentos_Bautismo");
-  w.informes.ImprimirVolanteBautismo(w.con(), w.conInformes(), 1);
-  EXPECT_EQ(w.columna("NotasMarginales"), "");
-}
-
-TEST(BaptismDocuments, SexUnknown_CountsAsBoyExceptInVolante) {
-  BautismoWorld w;
-  w.run("UPDATE Bautismo_Hijo SET Sexo=\"---\"");
-  w.informes.ImprimirCertificadoPartidaBautismo(w.con(), w.conInformes(), 1, "", FECHA);
-  EXPECT_EQ(w.columna("Sexo"), "D./Dª");
-  w.conInformes().Execute("DELETE * FROM Documentos_Bautismo");
-  w.informes.ImprimirCertificadoLiteralPartidaBautismo(w.con(), w.conInformes(), 1, "", FECHA);
-  EXPECT_EQ(w.columna("Al niño/A la niña"), "al niño");
-  EXPECT_EQ(w.columna("Nacido/Nacida"), "nacido");
-  w.conInformes().Execute("DELETE * FROM Documentos_Bautismo");
-  w.informes.ImprimirVolanteBautismo(w.con(), w.conInformes(), 1);
-  EXPECT_EQ(w.columna("Al niño/A la niña"), "a la niña");
-  EXPECT_EQ(w.columna("Nacido/Nacida"), "hija");
-}
-
-TEST(BaptismDocuments, EmptyHour_IsDashedInTheEntryOnly) {
-  BautismoWorld w;
-  w.run("UPDATE Bautismo_Hijo SET HoraNac=\"\"");
-  w.informes.ImprimirPartidaBautismo(w.con(), w.conInformes(), 1);
-  EXPECT_EQ(w.columna("HoraNac"), "---");
-  w.conInformes().Execute("DELETE * FROM Documentos_Bautismo");
-  w.informes.ImprimirCertificadoLiteralPartidaBautismo(w.con(), w.conInformes(), 1, "", FECHA);
-  EXPECT_EQ(w.columna("HoraNac"), "");
-}
-
-TEST(BaptismDocuments, TownWithoutName_IsDashed_LeadingBlanksStay) {
-  BautismoWorld w;
-  w.run("UPDATE Municipio SET Nombre=\"\" WHERE IDMunicipio=" + std::to_string(w.getafe));
-  w.run("UPDATE Municipio SET Nombre=\"  Toledo\" WHERE IDMunicipio=" + std::to_string(w.toledo));
-  w.informes.ImprimirPartidaBautismo(w.con(), w.conInformes(), 1);
-  EXPECT_EQ(w.columna("PoblacionBaut"), "---");
-  EXPECT_EQ(w.columna("ProvinciaBaut"), "Madrid");
-  EXPECT_EQ(w.columna("PoblacionNac"), "  Toledo");
 }
 
 TEST(BaptismDocuments, BlankKeeperAndDate_AreWrittenAsTheyCome) {
@@ -87,7 +81,7 @@ TEST(ConfirmationDocuments, AgeWithoutABirth_IsDashed_FolioOfAnUnknownBaptismIsS
 TEST(DeathDocuments, KeeperCancelled_TheEntryPrintsWithTodaysDate_EmptyHourIsDashed) {
   PartidasWorld w;
   w.run("UPDATE Defuncion_Datos SET HoraDefuncion=\"\"");
-  w.user.expectForm("frmEncargado", [](forms::FormDriver& u) {
+  w.user.expectForm("frmEncargado", [](FormDriver& u) {
     u.type("adtpFecha", "03/11/2026");
     u.escape();
   });
@@ -95,7 +89,6 @@ TEST(DeathDocuments, KeeperCancelled_TheEntryPrintsWithTodaysDate_EmptyHourIsDas
   const Row fila = w.fila("Documentos_Defuncion");
   EXPECT_EQ(fila.at("FechaSistemaLarga"), "veintidós de noviembre de 2026");
   EXPECT_EQ(fila.at("HoraDefuncion"), "---");
-  EXPECT_SCRIPT_DONE(w.user);
 }
 
 TEST(TextRules, PaddedNotes_ReachAtLeast600Characters) {
@@ -123,5 +116,4 @@ TEST(TextRules, GenderTest_IsExact) {
   EXPECT_STREQ(documents::formOfAddress("mujer"), "D./Dª");
 }
 
-}  // namespace
-}  // namespace fidaleon::tests
+}  // namespace fidaleon::tests::DocumentRulesTest

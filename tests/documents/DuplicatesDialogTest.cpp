@@ -4,13 +4,7 @@
 #include "documents/frmInfDuplicadas.h"
 #include "store/FailingEngine.h"
 
-namespace fidaleon::tests {
-namespace {
-
-using forms::FormDriver;
-using ::testing::ElementsAre;
-using ::testing::HasSubstr;
-using ::testing::IsEmpty;
+namespace fidaleon::tests::DuplicatesDialogTest {
 
 constexpr const char* POR_CREACION = "Fecha de Creación del Libro";
 constexpr const char* NINGUNO = "¡No se ha encontrado ningún registro!";
@@ -21,7 +15,7 @@ class DuplicatesDialog : public ::testing::TestWithParam<Registro> {
   const Registro& r = GetParam();
   LibroWorld w{r};
 
-  static std::string mostrar(LibroWorld& w, forms::ScriptedUser::Act act) {
+  static std::string mostrar(LibroWorld& w, Act act) {
     frmInfDuplicadas dialogo(w.contexto);
     dialogo.conBaseDatos = &w.con();
     dialogo.conInformes = &w.conInformes();
@@ -31,7 +25,7 @@ class DuplicatesDialog : public ::testing::TestWithParam<Registro> {
     return dialogo.strOrden;
   }
   /// What the dialog gives as strOrden.
-  std::string mostrar(forms::ScriptedUser::Act act) { return mostrar(w, std::move(act)); }
+  std::string mostrar(Act act) { return mostrar(w, std::move(act)); }
   std::string imprimir(const std::string& orden, const std::string& ano = "2003") {
     return mostrar([=](FormDriver& u) { pedir(u, orden, ano); });
   }
@@ -57,7 +51,6 @@ TEST_P(DuplicatesDialog, Opened_OffersTodaysYearAndThreeOrders) {
     u.escape();
   });
   EXPECT_EQ(orden, "");
-  EXPECT_SCRIPT_DONE(w.user);
 }
 
 TEST_P(DuplicatesDialog, Row_FillsItsColumnsAndNoOther) {
@@ -71,7 +64,6 @@ TEST_P(DuplicatesDialog, Row_FillsItsColumnsAndNoOther) {
   EXPECT_THAT(una.todas(r.filas().tabla), ElementsAre(r.duplicada()));
   EXPECT_FALSE(una.conInformes().inTransaction());
   EXPECT_EQ(una.user.hourglassDepth(), 0);
-  EXPECT_SCRIPT_DONE(una.user);
 }
 
 TEST_P(DuplicatesDialog, BlankInstitution_IsWrittenAsStoredButItsPlaces) {
@@ -110,7 +102,6 @@ TEST_P(DuplicatesDialog, Orders_ArrangeTheRowsAndNameTheFormulas) {
     EXPECT_EQ(imprimir(caso.texto), caso.strOrden);
     EXPECT_EQ(w.nombres(), caso.nombres) << caso.texto;
   }
-  EXPECT_SCRIPT_DONE(w.user);
 }
 
 TEST_P(DuplicatesDialog, YearAndInstitution_AreTheBoundary) {
@@ -151,7 +142,6 @@ TEST_P(DuplicatesDialog, NothingChosen_IsRefusedInTurn) {
   });
   EXPECT_EQ(orden, "");
   EXPECT_THAT(motor->executed(), IsEmpty());
-  EXPECT_SCRIPT_DONE(w.user);
 }
 
 TEST_P(DuplicatesDialog, YearWithoutEntries_SaysSoAndKeepsTheOrder) {
@@ -165,7 +155,6 @@ TEST_P(DuplicatesDialog, YearWithoutEntries_SaysSoAndKeepsTheOrder) {
   EXPECT_FALSE(w.conInformes().inTransaction());
   EXPECT_EQ(w.user.messages()[0].icon, forms::MsgIcon::Information);
   EXPECT_EQ(w.user.beeps(), 1);
-  EXPECT_SCRIPT_DONE(w.user);
 }
 
 /// Notes what the bar shows.
@@ -202,7 +191,7 @@ TEST_P(DuplicatesDialog, RowFails_LeavesTheTransactionToItsOwnerAndTheDialogToTr
   w.agregar({});
   auto* motor = store::FailingEngine::wrap(w.conInformes());
   motor->failOn(r.insercion(), store::ErrorKind::Other, 2);
-  w.user.answerAnything(forms::Answer::Ok);
+  w.user.answerAnything(Answer::Ok);
   const std::string orden = mostrar([&](FormDriver& u) {
     pedir(u, r.porFecha, "2003");
     EXPECT_FALSE(u.closed());
@@ -219,12 +208,11 @@ TEST_P(DuplicatesDialog, RowFails_LeavesTheTransactionToItsOwnerAndTheDialogToTr
   EXPECT_FALSE(w.conInformes().inTransaction());
   EXPECT_EQ(orden, std::string(r.formula) + ",+{@Folio},+{@Numero}");
   EXPECT_EQ(w.user.hourglassDepth(), 0);
-  EXPECT_SCRIPT_DONE(w.user);
 }
 
 TEST_P(DuplicatesDialog, CancelledAfterAFailure_LeavesTheTransactionToTheConnection) {
   store::FailingEngine::wrap(w.conInformes())->failOn("INSERT INTO Documentos_");
-  w.user.answerAnything(forms::Answer::Ok);
+  w.user.answerAnything(Answer::Ok);
   const std::string orden = mostrar([&](FormDriver& u) {
     pedir(u, r.porFecha, "2003");
     u.click("cmdBoton(1)");
@@ -237,7 +225,7 @@ TEST_P(DuplicatesDialog, CancelledAfterAFailure_LeavesTheTransactionToTheConnect
 
 TEST_P(DuplicatesDialog, LoadingFails_IsToldAndTheDialogCanBeLeft) {
   store::FailingEngine::wrap(w.con())->failOn("FROM Institucion");
-  w.user.answerAnything(forms::Answer::Ok);
+  w.user.answerAnything(Answer::Ok);
   mostrar([&](FormDriver& u) { u.escape(); });
   EXPECT_THAT(w.user.messages().at(0).text, HasSubstr("frmInfDuplicadas / Form_Load()"));
 }
@@ -245,5 +233,4 @@ TEST_P(DuplicatesDialog, LoadingFails_IsToldAndTheDialogCanBeLeft) {
 INSTANTIATE_TEST_SUITE_P(Registers, DuplicatesDialog, ::testing::ValuesIn(REGISTROS),
                          nombreDelRegistro);
 
-}  // namespace
-}  // namespace fidaleon::tests
+}  // namespace fidaleon::tests::DuplicatesDialogTest

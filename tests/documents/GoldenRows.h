@@ -4,7 +4,6 @@
 
 #include <ostream>
 #include <variant>
-#include <vector>
 
 #include "DialogosDocumento.h"
 #include "PartidasWorld.h"
@@ -58,6 +57,9 @@ inline Row solo(const Row& row, std::initializer_list<const char*> names) {
   return few;
 }
 
+inline const Row FIRMA_DEL_TRES =
+    row("InstitucionEncargado=Pedro Ruiz; FechaSistemaCorta=03/11/2026; FechaSistemaLarga=tres de "
+        "noviembre de 2026");
 inline const Row HOY{{"FechaSistemaCorta", "22/11/2026"},
                      {"FechaSistemaLarga", "veintidós de noviembre de 2026"}};
 

@@ -2,7 +2,6 @@
 // A book of any register with further entries, for what is printed of whole books.
 
 #include <ostream>
-#include <vector>
 
 #include "GoldenRows.h"
 #include "core/facade/Documentos.h"

@@ -4,13 +4,7 @@
 #include "documents/frmInfNotConf.h"
 #include "store/FailingEngine.h"
 
-namespace fidaleon::tests {
-
-namespace {
-
-using forms::Answer;
-using forms::FormDriver;
-using ::testing::HasSubstr;
+namespace fidaleon::tests::NoticesTest {
 
 constexpr const char* TABLA = "Documentos_Confirmacion";
 constexpr const char *AGREGAR = "cmdNotificacion(0)", *MODIFICAR = "cmdNotificacion(1)",
@@ -28,7 +22,6 @@ struct Notices : ::testing::Test {
     dialogo.conBaseDatos = &w.con();
     dialogo.conInformes = &w.conInformes();
     dialogo.Show();
-    EXPECT_SCRIPT_DONE(w.user);
   }
   static void elegir(FormDriver& u) {
     u.choose("cboInstitucion", "San Ginés");
@@ -69,28 +62,14 @@ TEST_F(Notices, Printed_LeaveARowWithTheDataOfTheInstitutionAndLongDates) {
     EXPECT_EQ(u.get<forms::Grid>("msgNotificacion").cell(1, 1), "15/03/2004");
     u.click(IMPRIMIR);
   });
-  EXPECT_EQ(w.fila(TABLA), (Row{{"Nombre", "Lucía"},
-                                {"PrimerApellido", "García"},
-                                {"SegundoApellido", "Pérez"},
-                                {"InstitucionNombre", "San Ginés Mártir"},
-                                {"InstitucionTipo", "Parroquia de"},
-                                {"InstitucionPoblacion", "Getafe"},
-                                {"InstitucionProvincia", "Madrid"},
-                                {"InstitucionDiocesis", "Getafe"},
-                                {"InstitucionDomicilio", "Calle Mayor, 1"},
-                                {"LibroBaut", "II"},
-                                {"FolioBaut", "12"},
-                                {"NumeroBaut", "3b"},
-                                {"Padrino", "Eva ''la'' Ruiz"},
-                                {"Ministro", "Juan Soto"},
-                                {"FechaConfirmacionLarga", "lunes, 15 de marzo de 2004"},
-                                {"FechaBautLarga", "jueves, 24 de mayo de 1990"},
-                                {"ParroquiaBaut", "San Blas"},
-                                {"ProvinciaBaut", "Sevilla"},
-                                {"PoblacionBaut", "Écija"},
-                                {"FechaSistemaLarga", "domingo, 22 de noviembre de 2026"},
-                                {"DireccionBaut", "Calle Sol, 2"},
-                                {"Edad", "catorce"}}));
+  EXPECT_EQ(w.fila(TABLA), (row(R"(
+    Nombre=Lucía; PrimerApellido=García; SegundoApellido=Pérez; InstitucionNombre=San Ginés Mártir
+    InstitucionTipo=Parroquia de; InstitucionPoblacion=Getafe; InstitucionProvincia=Madrid
+    InstitucionDiocesis=Getafe; InstitucionDomicilio=Calle Mayor, 1; LibroBaut=II; FolioBaut=12
+    NumeroBaut=3b; Padrino=Eva ''la'' Ruiz; Ministro=Juan Soto
+    FechaConfirmacionLarga=lunes, 15 de marzo de 2004; FechaBautLarga=jueves, 24 de mayo de 1990
+    ParroquiaBaut=San Blas; ProvinciaBaut=Sevilla; PoblacionBaut=Écija
+    FechaSistemaLarga=domingo, 22 de noviembre de 2026; DireccionBaut=Calle Sol, 2; Edad=catorce)")));
 }
 
 TEST_F(Notices, BlankFields_AreDashedAfterAQuestion_UnknownPlacesAndDatesToo) {
@@ -205,6 +184,4 @@ TEST_F(Notices, ARowFails_NoneIsLeft_AndTheListStays) {
   EXPECT_FALSE(w.conInformes().inTransaction());
 }
 
-}  // namespace
-
-}  // namespace fidaleon::tests
+}  // namespace fidaleon::tests::NoticesTest

@@ -8,11 +8,10 @@ namespace fidaleon::tests {
 struct PartidasWorld : BautismoWorld {
   PartidasWorld() {
     run("UPDATE Institucion SET Parroco=\"Andrés Gil\", EncargadoArchivo=\"Rosa Sanz\"");
-    run("INSERT INTO Institucion_Encargado (CodInstitucion, Nombre) VALUES (1, \"Pedro Ruiz\")");
+    insert(con(), "Institucion_Encargado", "CodInstitucion=1; Nombre=Pedro Ruiz");
     for (const char* libro : {"Libro_Confirmacion", "Libro_Matrimonio", "Libro_Defuncion"})
-      run(std::string("INSERT INTO ") + libro +
-          " (CodInstitucion, CodFormato, CodTipoNombre, Nombre, FechaCreacion, Nuevo) VALUES (1, "
-          "3, 1, \"Libro IV\", \"20030101\", 1)");
+      insert(con(), libro, R"(CodInstitucion=1; CodFormato=3; CodTipoNombre=1; Nombre=Libro IV
+          FechaCreacion=20030101; Nuevo=TRUE)");
     confirmar();
     casar();
     enterrar();
@@ -80,33 +79,27 @@ struct PartidasWorld : BautismoWorld {
   }
 
   void confirmar() {
-    run("INSERT INTO Confirmacion (InstitucionSolicitud, Nombre, PrimerApellido, SegundoApellido, "
-        "FechaNac, CodMunicipioNac, NombrePadre, NombreMadre, Domicilio, CodMunicipioDomicilio, "
-        "FeligresDe, Parroquia, CodMunicipioParr, DiocesisParr, NotasMarginales, CodLibro, Folio, "
-        "Numero, Anulada) VALUES (0, \"Lucía\", \"García\", \"Pérez\", \"20030401\", " +
-        std::to_string(toledo) + ", \"Luis García Mora\", \"Ana Pérez Ruiz\", \"Calle Real, 7\", " +
-        std::to_string(ecija) + ", \"San José\", \"Santa Ana\", " + std::to_string(getafe) +
-        ", \"Getafe\", \"Se casó en 2030\", 1, 8, \"4b\", 0)");
-    run("INSERT INTO Confirmacion_Datos (CodConfirmacion, FechaConfirmacion, Padrino, Ministro, "
-        "CargoMinistro) VALUES (1, \"20190331\", \"Eva Ruiz\", \"Juan Soto\", \"Obispo\")");
-    run("INSERT INTO Confirmacion_Bautismo (CodConfirmacion, FechaBaut, ParroquiaBaut, "
-        "DireccionBaut, CodMunicipioBaut, LibroBaut, FolioBaut, NumeroBaut) VALUES (1, "
-        "\"20030524\", \"San Ginés\", \"Calle Mayor, 1\", " +
-        std::to_string(toledo) + ", \"2003/01\", 12, \"23a\")");
+    insert(con(), "Confirmacion", R"(InstitucionSolicitud=0; Nombre=Lucía; PrimerApellido=García
+        SegundoApellido=Pérez; FechaNac=20030401; CodMunicipioNac=3; NombrePadre=Luis García Mora
+        NombreMadre=Ana Pérez Ruiz; Domicilio=Calle Real, 7; CodMunicipioDomicilio=2
+        FeligresDe=San José; Parroquia=Santa Ana; CodMunicipioParr=1; DiocesisParr=Getafe
+        NotasMarginales=Se casó en 2030; CodLibro=1; Folio=8; Numero=4b)");
+    insert(con(), "Confirmacion_Datos", R"(CodConfirmacion=1; FechaConfirmacion=20190331
+        Padrino=Eva Ruiz; Ministro=Juan Soto; CargoMinistro=Obispo)");
+    insert(con(), "Confirmacion_Bautismo", R"(CodConfirmacion=1; FechaBaut=20030524
+        ParroquiaBaut=San Ginés; DireccionBaut=Calle Mayor, 1; CodMunicipioBaut=3
+        LibroBaut=2003/01; FolioBaut=12; NumeroBaut=23a)");
   }
   void enterrar() {
-    run("INSERT INTO Defuncion (Nombre, PrimerApellido, SegundoApellido, CodMunicipioNaturalDe, "
-        "DomicilioActual, CodMunicipioActual, EstadoCivil, Consorte, NumeroHijos, NombresHijos, "
-        "NombrePadre, NombreMadre, Parroquia, CodMunicipioParr, DiocesisParr, NotasMarginales, "
-        "CodLibro, Folio, Numero, Anulada, Parroco) VALUES (\"Antonio\", \"García\", \"Lara\", " +
-        std::to_string(ecija) + ", \"Calle Real, 7\", " + std::to_string(getafe) +
-        ", \"casado\", \"Rosa Mora\", \"2\", \"Luis y Eva\", \"Juan García\", \"Inés Lara\", "
-        "\"Santa Ana\", " +
-        std::to_string(getafe) + ", \"Getafe\", \"Cremado\", 1, 3, \"7\", 0, \"José Vidal\")");
-    run("INSERT INTO Defuncion_Datos (CodDifunto, Causa, Edad, FechaDefuncion, HoraDefuncion, "
-        "DomicilioDefn, CodMunicipioDefn, FechaInhumacion, Cementerio, Sacramentos, Sacerdote) "
-        "VALUES (1, \"Infarto\", \"81\", \"20240229\", \"04:15\", \"Hospital\", " +
-        std::to_string(toledo) + ", \"20240301\", \"San José\", \"Unción\", \"José Vidal\")");
+    insert(con(), "Defuncion", R"(Nombre=Antonio; PrimerApellido=García; SegundoApellido=Lara
+        CodMunicipioNaturalDe=2; DomicilioActual=Calle Real, 7; CodMunicipioActual=1
+        EstadoCivil=casado; Consorte=Rosa Mora; NumeroHijos=2; NombresHijos=Luis y Eva
+        NombrePadre=Juan García; NombreMadre=Inés Lara; Parroquia=Santa Ana; CodMunicipioParr=1
+        DiocesisParr=Getafe; NotasMarginales=Cremado; CodLibro=1; Folio=3; Numero=7
+        Parroco=José Vidal)");
+    insert(con(), "Defuncion_Datos", R"(CodDifunto=1; Causa=Infarto; Edad=81
+        FechaDefuncion=20240229; HoraDefuncion=04:15; DomicilioDefn=Hospital; CodMunicipioDefn=3
+        FechaInhumacion=20240301; Cementerio=San José; Sacramentos=Unción; Sacerdote=José Vidal)");
   }
 };
 

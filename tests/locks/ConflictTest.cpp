@@ -2,8 +2,7 @@
 
 #include "locks/LockEntry.h"
 
-namespace fidaleon::locks {
-namespace {
+namespace fidaleon::locks::ConflictTest {
 
 const std::vector<LockEntry> ALL{{Kind::Table, "Bautismo", "", 0},
                                  {Kind::SharedTable, "Bautismo", "", 0},
@@ -41,5 +40,4 @@ TEST(Lines, AreReadBackAndDamagedOnesPassedOver) {
   EXPECT_TRUE(decode(wrong).empty());
 }
 
-}  // namespace
-}  // namespace fidaleon::locks
+}  // namespace fidaleon::locks::ConflictTest

@@ -1,6 +1,3 @@
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include <chrono>
 #include <fstream>
 
@@ -8,13 +5,12 @@
 #include "locks/ProcesarBloqueos.h"
 #include "support/TestWorld.h"
 
-namespace fidaleon::tests {
-namespace {
+namespace fidaleon::tests::ProcessTest {
 
 struct Workstation {
   explicit Workstation(const TempDirectory& directory, const char* name)
       : session(user, clock, name, name) {
-    user.answerAnything(forms::Answer::Ok);
+    user.answerAnything(Answer::Ok);
     session.Inicializar(directory.path().string());
   }
   long lock(const std::string& table, const std::string& record = {}) {
@@ -40,8 +36,7 @@ TEST(TwoProcesses, OneHolds_TheOtherIsRefusedUntilItIsKilled) {
   Workstation here(directory, "despacho");
   EXPECT_EQ(here.lock("Bautismo", "7"), FDAPI::BloqueoRegistro);
   ASSERT_FALSE(here.user.messages().empty());
-  EXPECT_THAT(here.user.messages()[0].text,
-              ::testing::HasSubstr("sacristia, en el equipo sacristia"));
+  EXPECT_THAT(here.user.messages()[0].text, HasSubstr("sacristia, en el equipo sacristia"));
   EXPECT_EQ(here.lock("Bautismo", "8"), 0);
   holder.kill();
   const auto start = std::chrono::steady_clock::now();
@@ -99,5 +94,4 @@ TEST(TwoProcesses, UnderOneExclusiveLock_WorkOneAfterTheOther) {
   EXPECT_EQ(n, 2 * EACH);
 }
 
-}  // namespace
-}  // namespace fidaleon::tests
+}  // namespace fidaleon::tests::ProcessTest

@@ -1,14 +1,10 @@
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include <filesystem>
 #include <fstream>
 
 #include "locks/SharedDirectory.h"
 #include "support/TestWorld.h"
 
-namespace fidaleon::tests {
-namespace {
+namespace fidaleon::tests::SessionTest {
 
 namespace fs = std::filesystem;
 using FDAPI::DefinicionBloqueo;
@@ -58,7 +54,7 @@ class Session : public ::testing::Test {
   }
   void lastMessage(const std::string& part) const {
     ASSERT_FALSE(w.user.messages().empty());
-    EXPECT_THAT(w.user.messages().back().text, ::testing::HasSubstr(part));
+    EXPECT_THAT(w.user.messages().back().text, HasSubstr(part));
   }
   TestWorld w;
 };
@@ -73,11 +69,10 @@ TEST_F(Session, TwoOfOneProcess_ConflictAndTheUserIsTold) {
   first->LiberarBloqueos();
   EXPECT_EQ(take(*second, {record("Bautismo", "7")}), 0);
   EXPECT_EQ(second->lngUltimoBloqueoError(), 0);
-  EXPECT_SCRIPT_DONE(w.user);
 }
 
 TEST_F(Session, EachRefusal_HasItsKind) {
-  w.user.answerAnything(forms::Answer::Ok);
+  w.user.answerAnything(Answer::Ok);
   auto other = w.otherSession();
   ASSERT_EQ(take(*other, {whole("Bautismo"), shared("Provincia"), record("Institucion", "2")}), 0);
   EXPECT_EQ(take(*open(), {record("Bautismo", "1")}), FDAPI::BloqueoRegistro);
@@ -105,8 +100,7 @@ TEST_F(Session, RefusedToWhoGoesOnAllTheSame_SaysWhatIsLeftAndWhoHasIt) {
   mine->AlRehusar(FDAPI::BloqueoCompartido, "Solo se puede consultar");
   w.user.expectMessage("Solo se puede consultar: los municipios los tiene " + luis + ".");
   EXPECT_EQ(take(*mine, {sharedRecord("Municipio", "1")}), FDAPI::BloqueoCompartido);
-  EXPECT_SCRIPT_DONE(w.user);
-  w.user.answerAnything(forms::Answer::Ok);
+  w.user.answerAnything(Answer::Ok);
   EXPECT_NE(mine->lngEfectuarBloqueos(), 0);
   lastMessage("Inténtelo de nuevo");  // it was said for one attempt
   other->LiberarBloqueos();
@@ -115,19 +109,19 @@ TEST_F(Session, RefusedToWhoGoesOnAllTheSame_SaysWhatIsLeftAndWhoHasIt) {
 }
 
 TEST_F(Session, Refused_TakesNothingNewAndKeepsWhatItHad) {
-  w.user.answerAnything(forms::Answer::Ok);
+  w.user.answerAnything(Answer::Ok);
   auto other = w.otherSession();
   auto mine = open();
   ASSERT_EQ(take(*other, {record("Bautismo", "9")}), 0);
   ASSERT_EQ(take(*mine, {shared("Municipio")}), 0);
   EXPECT_NE(take(*mine, {whole("Confirmacion"), record("Bautismo", "9")}), 0);
   EXPECT_EQ(take(*w.otherSession(), {whole("Confirmacion")}), 0);
-  w.otherUser.answerAnything(forms::Answer::Ok);
+  w.otherUser.answerAnything(Answer::Ok);
   EXPECT_EQ(take(*w.otherSession(), {whole("Municipio")}), FDAPI::BloqueoTabla);
 }
 
 TEST_F(Session, RefusedDefinitions_AreTriedAgainButGiveWayToNewOnes) {
-  w.user.answerAnything(forms::Answer::Ok);
+  w.user.answerAnything(Answer::Ok);
   auto other = w.otherSession();
   auto mine = open();
   ASSERT_EQ(take(*other, {whole("Bautismo")}), 0);
@@ -142,12 +136,12 @@ TEST_F(Session, OnlyTesting_HoldsNothing) {
   EXPECT_EQ(mine->lngEfectuarBloqueos(true), 0);
   EXPECT_EQ(take(*w.otherSession(), {whole("Bautismo")}), 0);
   EXPECT_EQ(mine->lngEfectuarBloqueos(), 0);
-  w.otherUser.answerAnything(forms::Answer::Ok);
+  w.otherUser.answerAnything(Answer::Ok);
   EXPECT_EQ(take(*w.otherSession(), {whole("Bautismo")}), FDAPI::BloqueoTabla);
 }
 
 TEST_F(Session, Releasing_IsByTableOrByTableAndCounter) {
-  w.otherUser.answerAnything(forms::Answer::Ok);
+  w.otherUser.answerAnything(Answer::Ok);
   auto mine = open();
   DefinicionBloqueo third = record("Grupo", "30");
   third.lngContador = 3;
@@ -172,7 +166,7 @@ TEST_F(Session, Dropped_LeavesNoLockAndNoFile) {
 }
 
 TEST_F(Session, RecordsOfAStatement_AreThoseOfTheMomentOfTaking) {
-  w.otherUser.answerAnything(forms::Answer::Ok);
+  w.otherUser.answerAnything(Answer::Ok);
   auto mine = open();
   mine->DefinirBloqueo(record("Institucion", "SELECT IDInstitucion FROM Institucion", &w.con()));
   const std::string id = std::to_string(w.institucion("San Pedro"));
@@ -194,7 +188,6 @@ TEST_F(Session, RecordThatIsGone_IsToldAndTakesNothing) {
   EXPECT_EQ(take(*open(), {d}), 0);
   d.strSQLExisteRegistro += d.strRegistro;  // the whole statement serves as well
   EXPECT_EQ(take(*open(), {d}), 0);
-  EXPECT_SCRIPT_DONE(w.user);
 }
 
 TEST_F(Session, StatementWithoutConnectionOrThatFails_Throws) {
@@ -209,7 +202,7 @@ TEST_F(Session, StatementWithoutConnectionOrThatFails_Throws) {
 }
 
 TEST_F(Session, DirectoryThatIsMissingOrNotWritable_FailsTheSession) {
-  w.user.answerAnything(forms::Answer::Ok);
+  w.user.answerAnything(Answer::Ok);
   auto mine = w.host.create_cProcesarBloqueos();
   EXPECT_EQ(take(*mine, {whole("Bautismo")}), FDAPI::BloqueoSesion);
   mine->Inicializar((w.directory.path() / "no" / "existe").string());
@@ -232,7 +225,7 @@ TEST_F(Session, LeftOrDamagedFiles_AreSwept) {
 
 // It may be another account's, or this program may have no file descriptor left.
 TEST_F(Session, FileOfAnotherSessionThatCannotBeOpened_CountsAsHeld) {
-  w.user.answerAnything(forms::Answer::Ok);
+  w.user.answerAnything(Answer::Ok);
   const fs::path left =
       w.directory.path() / (std::string(locks::SharedDirectory::SESSION_PREFIX) + "ajeno.1.2");
   fs::create_symlink("no-se-sigue", left);
@@ -255,9 +248,8 @@ TEST_F(Session, GuardFileRemovedUnderneath_IsMadeAgain) {
   auto mine = open();
   ASSERT_EQ(take(*mine, {whole("Bautismo")}), 0);
   fs::remove(w.directory.path() / locks::SharedDirectory::GUARD_FILE);
-  w.otherUser.answerAnything(forms::Answer::Ok);
+  w.otherUser.answerAnything(Answer::Ok);
   EXPECT_EQ(take(*w.otherSession(), {whole("Bautismo")}), FDAPI::BloqueoTabla);
 }
 
-}  // namespace
-}  // namespace fidaleon::tests
+}  // namespace fidaleon::tests::SessionTest

@@ -1,8 +1,5 @@
 // Where workstations meet, and where they cannot see each other.
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include <filesystem>
 #include <fstream>
 #include <system_error>
@@ -10,12 +7,10 @@
 #include "locks/SharedDirectory.h"
 #include "support/TestWorld.h"
 
-namespace fidaleon::tests {
-namespace {
+namespace fidaleon::tests::SharedDirectoryTest {
 
 namespace fs = std::filesystem;
 using namespace locks;
-using ::testing::HasSubstr;
 
 constexpr std::chrono::milliseconds SHORT{20};
 
@@ -201,5 +196,4 @@ TEST(LocksOfADisk, ReachOtherMachinesOnlyWhereTheSystemPassesThemOn) {
   EXPECT_EQ(reachOf(TempDirectory().path()), ALL);
 }
 
-}  // namespace
-}  // namespace fidaleon::tests
+}  // namespace fidaleon::tests::SharedDirectoryTest

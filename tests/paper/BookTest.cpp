@@ -12,8 +12,7 @@
 #include "paper/Rows.h"
 #include "text/Utf8.h"
 
-namespace fidaleon::paper::test {
-namespace {
+namespace fidaleon::paper::test::BookTest {
 
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
@@ -422,5 +421,4 @@ TEST_F(LongDocument, flowElementsInADocumentOfSinglePages_areRefused) {
   }
 }
 
-}  // namespace
-}  // namespace fidaleon::paper::test
+}  // namespace fidaleon::paper::test::BookTest

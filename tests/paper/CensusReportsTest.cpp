@@ -9,8 +9,7 @@
 #include "paper/Report.h"
 #include "paper/Rows.h"
 
-namespace fidaleon::paper::test {
-namespace {
+namespace fidaleon::paper::test::CensusReportsTest {
 
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
@@ -244,5 +243,4 @@ TEST_F(CensusReport, orderOfTheTemplate_givesWayToTheOneAskedFor) {
   EXPECT_EQ(pdfText(Report(*reports_, folder.path(), "prueba", "x", options)), "a b");
 }
 
-}  // namespace
-}  // namespace fidaleon::paper::test
+}  // namespace fidaleon::paper::test::CensusReportsTest

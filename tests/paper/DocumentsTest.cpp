@@ -15,8 +15,7 @@
 #include "store/schema/Schema.h"
 #include "text/Utf8.h"
 
-namespace fidaleon::paper::test {
-namespace {
+namespace fidaleon::paper::test::DocumentsTest {
 
 using ::testing::HasSubstr;
 using ::testing::Not;
@@ -321,5 +320,4 @@ TEST(ScratchTables, emptied_leaveNoRowAnywhere) {
   EXPECT_FALSE(reports->inTransaction());
 }
 
-}  // namespace
-}  // namespace fidaleon::paper::test
+}  // namespace fidaleon::paper::test::DocumentsTest

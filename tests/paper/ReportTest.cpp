@@ -13,8 +13,7 @@
 #include "paper/Rows.h"
 #include "text/Utf8.h"
 
-namespace fidaleon::paper::test {
-namespace {
+namespace fidaleon::paper::test::ReportTest {
 
 using ::testing::HasSubstr;
 using ::testing::Not;
@@ -430,5 +429,4 @@ TEST_F(Engine, tableThatDoesNotExist_isAStoreError) {
   EXPECT_THROW(Report(*reports_, folder_.path(), "prueba", "x"), store::Error);
 }
 
-}  // namespace
-}  // namespace fidaleon::paper::test
+}  // namespace fidaleon::paper::test::ReportTest

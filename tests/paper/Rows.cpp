@@ -10,6 +10,7 @@
 #include "documents/NotificacionSinLibro.h"
 #include "documents/TextRules.h"
 #include "store/schema/Schema.h"
+#include "support/Fields.h"
 #include "text/Utf8.h"
 
 namespace fidaleon::paper::test {
@@ -20,159 +21,69 @@ bool endsIn(const std::string& s, const std::string& tail) {
 }
 
 const std::map<std::string, std::string>& believable() {
-  static const std::map<std::string, std::string> values{
-      {"CodDocumentos_Matrimonio", "1"},
-      {"EdadNovio", "33"},
-      {"EdadNovia", "31"},
-      {"TResidenciaDomActNovio", "4"},
-      {"TResidenciaDomActNovia", "7"},
-      {"FolioBautNovio", "98"},
-      {"FolioBautNovia", "21"},
-      {"Libro", "Libro XXIII de Bautismos"},
-      {"Folio", "137"},
-      {"Numero", "12a"},
-      {"PrimerApellidoHijo", "Fernández de Córdoba"},
-      {"SegundoApellidoHijo", "Ruiz-Castañeda"},
-      {"NombreHijo", "María del Carmen Inmaculada"},
-      {"FechaBautismoCorta", "12/10/1987"},
-      {"ParroquiaBaut", "Nuestra Señora de la Asunción"},
-      {"PoblacionBaut", "Alcalá de Henares"},
-      {"ProvinciaBaut", "Madrid"},
-      {"Diocesis", "Madrid-Alcalá"},
-      {"FechaBautismoLarga", "12 de octubre de 1987"},
-      {"Ministro", "José Ignacio Gutiérrez Peñalver"},
-      {"[Al niño/A la niña]", "a la niña"},
-      {"[Nacido/Nacida]", "nacida"},
-      {"FechaNacCorta", "03/09/1987"},
-      {"FechaNacLarga", "3 de septiembre de 1987"},
-      {"HoraNac", "14:35"},
-      {"DireccionNac", "Hospital Universitario Príncipe de Asturias"},
-      {"PoblacionNac", "Alcalá de Henares"},
-      {"ProvinciaNac", "Madrid"},
-      {"NombrePadre", "Francisco Javier"},
-      {"PrimerApellidoPadre", "Fernández de Córdoba"},
-      {"SegundoApellidoPadre", "Muñoz"},
-      {"PoblacionPadre", "Priego de Córdoba"},
-      {"ProvinciaPadre", "Córdoba"},
-      {"NombreMadre", "Ana María"},
-      {"PrimerApellidoMadre", "Ruiz-Castañeda"},
-      {"SegundoApellidoMadre", "Gómez"},
-      {"PoblacionMadre", "Sigüenza"},
-      {"ProvinciaMadre", "Guadalajara"},
-      {"DireccionPadres", "calle Mayor, 24, 3.º izquierda"},
-      {"PoblacionPadres", "Alcalá de Henares"},
-      {"ProvinciaPadres", "Madrid"},
-      {"ParroquiaMatr", "Santa María la Mayor"},
-      {"PoblacionMatr", "Alcalá de Henares"},
-      {"ProvinciaMatr", "Madrid"},
-      {"FechaMatrCorta", "08/06/1985"},
-      {"FechaMatrLarga", "8 de junio de 1985"},
-      {"AbueloPaterno", "Antonio Fernández de Córdoba Lara"},
-      {"PoblacionAbueloPaterno", "Priego de Córdoba"},
-      {"AbuelaPaterna", "Dolores Muñoz Serrano"},
-      {"PoblacionAbuelaPaterna", "Cabra"},
-      {"AbueloMaterno", "Manuel Ruiz-Castañeda Ortega"},
-      {"PoblacionAbueloMaterno", "Sigüenza"},
-      {"AbuelaMaterna", "Pilar Gómez Íñiguez"},
-      {"PoblacionAbuelaMaterna", "Atienza"},
-      {"Padrino", "Luis Alfonso Ruiz-Castañeda Gómez"},
-      {"Madrina", "Mercedes Fernández de Córdoba Muñoz"},
-      {"ProvinciaAbueloPaterno", "Córdoba"},
-      {"ProvinciaAbuelaPaterna", "Córdoba"},
-      {"ProvinciaAbueloMaterno", "Guadalajara"},
-      {"ProvinciaAbuelaMaterna", "Guadalajara"},
-      {"InstitucionNombre", "Nuestra Señora de la Asunción"},
-      {"InstitucionTipo", "Parroquia de"},
-      {"InstitucionDiocesis", "Madrid-Alcalá"},
-      {"InstitucionDomicilio", "plaza de los Santos Niños, 1"},
-      {"InstitucionCP", "28801"},
-      {"InstitucionPoblacion", "Alcalá de Henares"},
-      {"InstitucionProvincia", "Madrid"},
-      {"InstitucionEncargado", "Juan Bautista Espínola Yagüe"},
-      {"NotasMarginales",
-       "Recibió la Confirmación el 20 de mayo de 2001 en esta parroquia. Contrajo matrimonio "
-       "canónico con D. Ángel Núñez Güell el 14 de julio de 2012 en la parroquia de San Pedro."},
-      {"FechaSistemaCorta", "22/11/2026"},
-      {"FechaSistemaLarga", "22 de noviembre de 2026"},
-      {"FechaSisteLargMeno", "22 de novembre de 2026"},
-      {"FechaNacLargaMeno", "3 de setembre de 1987"},
-      {"FechaBauLargaMeno", "12 d’octubre de 1987"},
-      {"Sexo", "Dª."},
-      {"DiocesisMatrimonio", "Madrid-Alcalá"},
-      {"ProfesionPadrino", "mestre"},
-      {"NaturalPadrino", "Ciutadella"},
-      {"EstatPadrino", "casat"},
-      {"ProfesionMadrina", "metgessa"},
-      {"NaturalMadrina", "Ferreries"},
-      {"EstatMadrina", "soltera"},
-      {"MadreProfesion", "arquitecta"},
-      {"PadreProfesion", "fuster"},
-      {"EdadPadrino", "34"},
-      {"ParroquiaDomicilioPadrino", "San Isidro Labrador"},
-      {"EdadMadrina", "29"},
-      {"ParroquiaDomicilioMadrina", "San Juan de Ávila"},
-      {"PadreParroquiaBaut", "La Asunción"},
-      {"PadreProvinciaParrBaut", "Córdoba"},
-      {"MadreParroquiaBaut", "San Vicente"},
-      {"MadreProvinciaParrBaut", "Guadalajara"},
-      {"AbueloPatParroquiaBaut", "La Asunción"},
-      {"AbueloPatProvinciaParrBaut", "Córdoba"},
-      {"AbuelaPatParroquiaBaut", "Santo Domingo"},
-      {"AbuelaPatProvinciaParrBaut", "Córdoba"},
-      {"AbueloMatParroquiaBaut", "San Vicente"},
-      {"AbueloMatProvinciaParrBaut", "Guadalajara"},
-      {"AbuelaMatParroquiaBaut", "La Trinidad"},
-      {"AbuelaMatProvinciaParrBaut", "Guadalajara"},
-      {"TelefonoPadres", "918 880 000"},
-      {"Año", "1987"},
-      {"Letra", "F"},
-      {"InstitucionParroco", "Andrés Quiñones Bermúdez"},
-      {"FechaCreacionLibro", "07/01/1985"},
-      {"Nombre", "María del Carmen Inmaculada"},
-      {"PrimerApellido", "Fernández de Córdoba"},
-      {"SegundoApellido", "Ruiz-Castañeda"},
-      {"Domicilio", "calle Mayor, 24, 3.º izquierda"},
-      {"PoblacionDomicilio", "Alcalá de Henares"},
-      {"ProvinciaDomicilio", "Madrid"},
-      {"FeligresDe", "San Isidro Labrador"},
-      {"Parroquia", "Nuestra Señora de la Asunción"},
-      {"PoblacionParr", "Alcalá de Henares"},
-      {"ProvinciaParr", "Madrid"},
-      {"DiocesisParr", "Madrid-Alcalá"},
-      {"FechaConfirmacionCorta", "20/05/2001"},
-      {"FechaConfirmacionLarga", "20 de mayo de 2001"},
-      {"FechaConfiLargaMeno", "20 de maig de 2001"},
-      {"CargoMinistro", "Obispo de Alcalá de Henares"},
-      {"FechaBautCorta", "12/10/1987"},
-      {"FechaBautLarga", "12 de octubre de 1987"},
-      {"FechaBautLargaMeno", "12 d’octubre de 1987"},
-      {"DireccionBaut", "plaza de los Santos Niños, 1"},
-      {"LibroBaut", "XXIII"},
-      {"FolioBaut", "98"},
-      {"NumeroBaut", "7"},
-      {"Edad", "13"},
-      {"FechaInhumacionCorta", "16/03/2004"},
-      {"FechaInhumacionLarga", "16 de marzo de 2004"},
-      {"Cementerio", "Nuestra Señora de la Almudena"},
-      {"EstadoCivil", "viuda"},
-      {"Consorte", "Ángel Núñez Güell"},
-      {"DomicilioActual", "calle de Santiago, 8"},
-      {"PoblacionActual", "Alcalá de Henares"},
-      {"ProvinciaActual", "Madrid"},
-      {"DomicilioDefn", "Hospital Universitario Príncipe de Asturias"},
-      {"PoblacionDefn", "Alcalá de Henares"},
-      {"ProvinciaDefn", "Madrid"},
-      {"FechaDefuncionCorta", "15/03/2004"},
-      {"FechaDefuncionLarga", "15 de marzo de 2004"},
-      {"HoraDefuncion", "04:15"},
-      {"Causa", "insuficiencia cardiaca"},
-      {"PoblacionNaturalDe", "Priego de Córdoba"},
-      {"ProvinciaNaturalDe", "Córdoba"},
-      {"NumeroHijos", "2"},
-      {"NombresHijos", "Luis y Pilar"},
-      {"Sacramentos", "Penitencia y Unción de los Enfermos"},
-      {"Sacerdote", "José Ignacio Gutiérrez Peñalver"},
-  };
+  static const std::map<std::string, std::string> values = tests::row(R"(
+    CodDocumentos_Matrimonio=1; EdadNovio=33; EdadNovia=31; TResidenciaDomActNovio=4
+    TResidenciaDomActNovia=7; FolioBautNovio=98; FolioBautNovia=21
+    Libro=Libro XXIII de Bautismos; Folio=137; Numero=12a; PrimerApellidoHijo=Fernández de Córdoba
+    SegundoApellidoHijo=Ruiz-Castañeda; NombreHijo=María del Carmen Inmaculada
+    FechaBautismoCorta=12/10/1987; ParroquiaBaut=Nuestra Señora de la Asunción
+    PoblacionBaut=Alcalá de Henares; ProvinciaBaut=Madrid; Diocesis=Madrid-Alcalá
+    FechaBautismoLarga=12 de octubre de 1987; Ministro=José Ignacio Gutiérrez Peñalver
+    [Al niño/A la niña]=a la niña; [Nacido/Nacida]=nacida; FechaNacCorta=03/09/1987
+    FechaNacLarga=3 de septiembre de 1987; HoraNac=14:35
+    DireccionNac=Hospital Universitario Príncipe de Asturias; PoblacionNac=Alcalá de Henares
+    ProvinciaNac=Madrid; NombrePadre=Francisco Javier; PrimerApellidoPadre=Fernández de Córdoba
+    SegundoApellidoPadre=Muñoz; PoblacionPadre=Priego de Córdoba; ProvinciaPadre=Córdoba
+    NombreMadre=Ana María; PrimerApellidoMadre=Ruiz-Castañeda; SegundoApellidoMadre=Gómez
+    PoblacionMadre=Sigüenza; ProvinciaMadre=Guadalajara
+    DireccionPadres=calle Mayor, 24, 3.º izquierda; PoblacionPadres=Alcalá de Henares
+    ProvinciaPadres=Madrid; ParroquiaMatr=Santa María la Mayor; PoblacionMatr=Alcalá de Henares
+    ProvinciaMatr=Madrid; FechaMatrCorta=08/06/1985; FechaMatrLarga=8 de junio de 1985
+    AbueloPaterno=Antonio Fernández de Córdoba Lara; PoblacionAbueloPaterno=Priego de Córdoba
+    AbuelaPaterna=Dolores Muñoz Serrano; PoblacionAbuelaPaterna=Cabra
+    AbueloMaterno=Manuel Ruiz-Castañeda Ortega; PoblacionAbueloMaterno=Sigüenza
+    AbuelaMaterna=Pilar Gómez Íñiguez; PoblacionAbuelaMaterna=Atienza
+    Padrino=Luis Alfonso Ruiz-Castañeda Gómez; Madrina=Mercedes Fernández de Córdoba Muñoz
+    ProvinciaAbueloPaterno=Córdoba; ProvinciaAbuelaPaterna=Córdoba
+    ProvinciaAbueloMaterno=Guadalajara; ProvinciaAbuelaMaterna=Guadalajara
+    InstitucionNombre=Nuestra Señora de la Asunción; InstitucionTipo=Parroquia de
+    InstitucionDiocesis=Madrid-Alcalá; InstitucionDomicilio=plaza de los Santos Niños, 1
+    InstitucionCP=28801; InstitucionPoblacion=Alcalá de Henares; InstitucionProvincia=Madrid
+    InstitucionEncargado=Juan Bautista Espínola Yagüe
+    NotasMarginales=Recibió la Confirmación el 20 de mayo de 2001 en esta parroquia. Contrajo matrimonio canónico con D. Ángel Núñez Güell el 14 de julio de 2012 en la parroquia de San Pedro.
+    FechaSistemaCorta=22/11/2026; FechaSistemaLarga=22 de noviembre de 2026
+    FechaSisteLargMeno=22 de novembre de 2026; FechaNacLargaMeno=3 de setembre de 1987
+    FechaBauLargaMeno=12 d’octubre de 1987; Sexo=Dª.; DiocesisMatrimonio=Madrid-Alcalá
+    ProfesionPadrino=mestre; NaturalPadrino=Ciutadella; EstatPadrino=casat
+    ProfesionMadrina=metgessa; NaturalMadrina=Ferreries; EstatMadrina=soltera
+    MadreProfesion=arquitecta; PadreProfesion=fuster; EdadPadrino=34
+    ParroquiaDomicilioPadrino=San Isidro Labrador; EdadMadrina=29
+    ParroquiaDomicilioMadrina=San Juan de Ávila; PadreParroquiaBaut=La Asunción
+    PadreProvinciaParrBaut=Córdoba; MadreParroquiaBaut=San Vicente
+    MadreProvinciaParrBaut=Guadalajara; AbueloPatParroquiaBaut=La Asunción
+    AbueloPatProvinciaParrBaut=Córdoba; AbuelaPatParroquiaBaut=Santo Domingo
+    AbuelaPatProvinciaParrBaut=Córdoba; AbueloMatParroquiaBaut=San Vicente
+    AbueloMatProvinciaParrBaut=Guadalajara; AbuelaMatParroquiaBaut=La Trinidad
+    AbuelaMatProvinciaParrBaut=Guadalajara; TelefonoPadres=918 880 000; Año=1987; Letra=F
+    InstitucionParroco=Andrés Quiñones Bermúdez; FechaCreacionLibro=07/01/1985
+    Nombre=María del Carmen Inmaculada; PrimerApellido=Fernández de Córdoba
+    SegundoApellido=Ruiz-Castañeda; Domicilio=calle Mayor, 24, 3.º izquierda
+    PoblacionDomicilio=Alcalá de Henares; ProvinciaDomicilio=Madrid
+    FeligresDe=San Isidro Labrador; Parroquia=Nuestra Señora de la Asunción
+    PoblacionParr=Alcalá de Henares; ProvinciaParr=Madrid; DiocesisParr=Madrid-Alcalá
+    FechaConfirmacionCorta=20/05/2001; FechaConfirmacionLarga=20 de mayo de 2001
+    FechaConfiLargaMeno=20 de maig de 2001; CargoMinistro=Obispo de Alcalá de Henares
+    FechaBautCorta=12/10/1987; FechaBautLarga=12 de octubre de 1987
+    FechaBautLargaMeno=12 d’octubre de 1987; DireccionBaut=plaza de los Santos Niños, 1
+    LibroBaut=XXIII; FolioBaut=98; NumeroBaut=7; Edad=13; FechaInhumacionCorta=16/03/2004
+    FechaInhumacionLarga=16 de marzo de 2004; Cementerio=Nuestra Señora de la Almudena
+    EstadoCivil=viuda; Consorte=Ángel Núñez Güell; DomicilioActual=calle de Santiago, 8
+    PoblacionActual=Alcalá de Henares; ProvinciaActual=Madrid
+    DomicilioDefn=Hospital Universitario Príncipe de Asturias; PoblacionDefn=Alcalá de Henares
+    ProvinciaDefn=Madrid; FechaDefuncionCorta=15/03/2004; FechaDefuncionLarga=15 de marzo de 2004
+    HoraDefuncion=04:15; Causa=insuficiencia cardiaca; PoblacionNaturalDe=Priego de Córdoba
+    ProvinciaNaturalDe=Córdoba; NumeroHijos=2; NombresHijos=Luis y Pilar
+    Sacramentos=Penitencia y Unción de los Enfermos; Sacerdote=José Ignacio Gutiérrez Peñalver)");
   return values;
 }
 

@@ -7,8 +7,7 @@
 #include "parish/Preferences.h"
 #include "store/Open.h"
 
-namespace fidaleon::app {
-namespace {
+namespace fidaleon::app::OpeningTest {
 
 using store::ErrorKind;
 
@@ -48,8 +47,8 @@ TEST_F(Opening, FirstRun_MakesBothDatabasesTheTownAndTheLastValues) {
 
 TEST_F(Opening, FirstRun_GivenUpInTheSetup_EndsTheProgram) {
   create(Content::Empty);
-  user.expectForm("frmDatosSetup", [](forms::FormDriver& d) { d.click("cmdBoton(1)"); });
-  user.answerAnything(forms::Answer::Yes);
+  user.expectForm("frmDatosSetup", [](FormDriver& d) { d.click("cmdBoton(1)"); });
+  user.answerAnything(Answer::Yes);
   EXPECT_FALSE(desk->setUp());
 }
 
@@ -124,7 +123,7 @@ TEST_F(Opening, FirstRun_WhatIsMissingOrUnreadableIsNamed) {
   EXPECT_EQ(missing([](NewParish& p) { p.name = "  "; }), "Escriba el nombre de la parroquia.");
   EXPECT_EQ(missing([](NewParish& p) { p.province = 0; }), "Elija la provincia de la parroquia.");
   const auto noText = directory() / "Parroquia de Bu\xF1uel";
-  EXPECT_THAT(missing([&](NewParish& p) { p.directory = noText; }), ::testing::HasSubstr("UTF-8"));
+  EXPECT_THAT(missing([&](NewParish& p) { p.directory = noText; }), HasSubstr("UTF-8"));
   EXPECT_THROW(openParish(ParishFiles(noText)), store::Error);
 }
 
@@ -148,7 +147,7 @@ TEST_F(Opening, EveryFault_SaysSomethingAndLetsTheUserOut) {
 TEST_F(Opening, Missing_OffersANewParish) {
   EXPECT_EQ(failure(), ErrorKind::Missing);
   EXPECT_TRUE(offers(Remedy::NewParish));
-  EXPECT_THAT(fault.text, ::testing::HasSubstr(files().parish().string()));
+  EXPECT_THAT(fault.text, HasSubstr(files().parish().string()));
   EXPECT_FALSE(offers(Remedy::ReturnToCopy));
   std::filesystem::create_directory(directory() / "copias");
   write(directory() / "copias" / "a mano.copia", "x");
@@ -210,5 +209,4 @@ TEST_F(Opening, Edition_IsTheParishs) {
   EXPECT_EQ(opened("Madrid"), EditionDoubt::Unknown);
 }
 
-}  // namespace
-}  // namespace fidaleon::app
+}  // namespace fidaleon::app::OpeningTest

@@ -1,10 +1,5 @@
 #pragma once
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-#include <memory>
-
 #include "forms/ScriptedUser.h"
 #include "parish/Desk.h"
 #include "parish/NewParish.h"
@@ -14,6 +9,21 @@
 #include "support/TestWorld.h"
 
 namespace fidaleon::app {
+
+using ::testing::AllOf;
+using ::testing::Contains;
+using ::testing::Each;
+using ::testing::ElementsAre;
+using ::testing::EndsWith;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+using ::testing::Not;
+using ::testing::StartsWith;
+using tests::Answer;
+using tests::FormDriver;
+using tests::FullDisk;
+using tests::OtherProcess;
+using tests::TempDirectory;
 
 /// A parish in a directory of its own that goes with the test.
 class ParishTest : public ::testing::Test {
@@ -43,7 +53,7 @@ class ParishTest : public ::testing::Test {
   }
   std::int64_t rowsOf(const std::string& sql) { return desk->parish().Execute(sql).RecordCount(); }
 
-  tests::TempDirectory dir_;
+  TempDirectory dir_;
   forms::ScriptedUser user;
   support::MemorySettings settings;
   support::FixedClock clock{{2026, 5, 20}};

@@ -14,8 +14,7 @@
 #include "store/sqlite/SqliteEngine.h"
 #include "support/FileSettings.h"
 
-namespace fidaleon::app {
-namespace {
+namespace fidaleon::app::PowerCutTest {
 
 namespace fs = std::filesystem;
 using tests::DiskRecorder;
@@ -251,7 +250,7 @@ class PowerCut : public ::testing::TestWithParam<Case> {
     return lost;
   }
 
-  tests::TempDirectory owner_;
+  TempDirectory owner_;
   const fs::path dir_ = owner_.path();
   const fs::path folder_ = dir_ / "disco";
 };
@@ -267,5 +266,4 @@ TEST_P(PowerCut, OnADiskThatIgnoresSyncs_IsFoundOut) {
 INSTANTIATE_TEST_SUITE_P(While, PowerCut, ::testing::ValuesIn(CASES),
                          [](const auto& each) { return each.param.name; });
 
-}  // namespace
-}  // namespace fidaleon::app
+}  // namespace fidaleon::app::PowerCutTest

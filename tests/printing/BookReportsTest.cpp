@@ -20,8 +20,7 @@
 #include "window/LongRun.h"
 #include "window/PreviewDialog.h"
 
-namespace fidaleon::app {
-namespace {
+namespace fidaleon::app::BookReportsTest {
 
 constexpr std::int32_t BOOK = 2;
 
@@ -32,14 +31,14 @@ class BookReports : public ParishTest {
   std::optional<paper::Report> make(const char* command, paper::ReportOptions options = {}) {
     return makeReport(*desk, *documento(BAUTISMO, command, ""), BOOK, std::move(options));
   }
-  static void ask(forms::FormDriver& d, const std::string& year) {
+  static void ask(FormDriver& d, const std::string& year) {
     d.chooseData("cboInstitucion", 1);
     d.type("adtpAno", year);
     d.choose("cboOrden", "Fecha de Bautismo");
     d.click("cmdBoton(0)");
   }
   std::optional<paper::Report> duplicate(const std::string& year) {
-    user.expectForm("frmInfDuplicadas", [year](forms::FormDriver& d) { ask(d, year); });
+    user.expectForm("frmInfDuplicadas", [year](FormDriver& d) { ask(d, year); });
     return make("duplicadas");
   }
   std::int64_t entriesOfBook() {
@@ -115,7 +114,7 @@ TEST_F(BookReports, bookAndIndex_haveEachEntryOnce) {
 
 TEST_F(BookReports, bookWithoutEntries_isNothing) {
   desk->parish().Execute("DELETE FROM Bautismo WHERE CodLibro=2");
-  user.answerAnything(forms::Answer::Ok);
+  user.answerAnything(Answer::Ok);
   EXPECT_FALSE(make("libro"));
 }
 
@@ -124,7 +123,7 @@ TEST_F(BookReports, annulledEntry_isMarkedOnEachOfItsOwnDocuments) {
     const Sacramento& s = *d.sacramento;
     desk->parish().Execute(sentencia(s, "UPDATE {Partidas} SET Anulada=") + annulled);
     const bool asks = d.firmado() || (&s == &DEFUNCION && d.orden == std::string("partida"));
-    if (asks) user.expectForm("frmEncargado", [](forms::FormDriver& u) { u.escape(); });
+    if (asks) user.expectForm("frmEncargado", [](FormDriver& u) { u.escape(); });
     const auto report = makeReport(*desk, d, 1);
     EXPECT_TRUE(report) << d.plantilla;
     return report ? report->pageImage(0, 40) : QImage();
@@ -139,7 +138,7 @@ TEST_F(BookReports, requestOfAConfirmation_saysWhoseHeadItBears_andWantsABook) {
   const Documento& request = *documento(CONFIRMACION, "datos", "");
   const QStringList notices = makeReport(*desk, request, 1)->notices();
   ASSERT_EQ(notices.size(), 1);
-  EXPECT_THAT(notices.front().toStdString(), ::testing::HasSubstr("El membrete es el de «"));
+  EXPECT_THAT(notices.front().toStdString(), HasSubstr("El membrete es el de «"));
   desk->parish().Execute("DELETE FROM Libro_Confirmacion");
   user.expectMessage(
       "Esta solicitud no se puede imprimir mientras no haya una institución y un libro de ese "
@@ -210,11 +209,11 @@ TEST_F(BookReports, duplicate_hasTheYearAndMarksItsAnnulledEntries) {
   const std::int64_t entries = count("SELECT COUNT(IDBautismo) FROM Bautismo WHERE " + ofYear);
   EXPECT_EQ(static_cast<std::int64_t>(report->rowCount()), entries);
   EXPECT_EQ(marked(Annulled(desk->parish(), BAUTISMO)), entries);
-  EXPECT_THAT(user.problems(), ::testing::IsEmpty());
+  EXPECT_THAT(user.problems(), IsEmpty());
 }
 
 TEST_F(BookReports, duplicate_ofAYearWithoutEntriesIsNothing) {
-  user.answerAnything(forms::Answer::Ok);
+  user.answerAnything(Answer::Ok);
   EXPECT_FALSE(duplicate("1801"));
   ASSERT_EQ(user.messages().size(), 1u);
   EXPECT_EQ(user.messages().front().text, "¡No se ha encontrado ningún registro!");
@@ -222,8 +221,8 @@ TEST_F(BookReports, duplicate_ofAYearWithoutEntriesIsNothing) {
 
 TEST_F(BookReports, duplicate_thatFailsInTheMiddle_leavesNoTransactionAndNoRow) {
   failAtTheSecondRow();
-  user.answerAnything(forms::Answer::Ok);
-  user.expectForm("frmInfDuplicadas", [](forms::FormDriver& d) {
+  user.answerAnything(Answer::Ok);
+  user.expectForm("frmInfDuplicadas", [](FormDriver& d) {
     ask(d, "2015");
     d.form().Unload();
   });
@@ -239,14 +238,14 @@ TEST_F(BookReports, stoppedWhileItsRowsAreWritten_isNothingAndCanBeAskedForAgain
       if (stops && position > 2) throw forms::Cancelled();
     }
   } impatient;
-  impatient.answerAnything(forms::Answer::Ok);
+  impatient.answerAnything(Answer::Ok);
   desk = std::make_unique<Desk>(files(), "Secretaría", impatient, settings, clock);
   EXPECT_FALSE(make("libro"));
   ASSERT_EQ(impatient.messages().size(), 1u);
   EXPECT_EQ(impatient.messages().front().text, forms::Cancelled().what());
   EXPECT_FALSE(desk->reports().inTransaction());
   desk->parish().Execute("UPDATE Bautismo SET FechaBautismo=\"20150101\"");
-  impatient.expectForm("frmInfDuplicadas", [&](forms::FormDriver& d) {
+  impatient.expectForm("frmInfDuplicadas", [&](FormDriver& d) {
     ask(d, "2015");
     EXPECT_FALSE(d.closed());
     EXPECT_FALSE(desk->reports().inTransaction());
@@ -282,14 +281,14 @@ TEST_F(BookReports, header_namesInstitutionDioceseAndTown) {
 }
 
 TEST_F(BookReports, certificateWithoutKeeper_isSaidAboveItsPage) {
-  user.expectForm("frmEncargado", [](forms::FormDriver& d) { d.escape(); });
+  user.expectForm("frmEncargado", [](FormDriver& d) { d.escape(); });
   auto report = make("certificado");
   ASSERT_TRUE(report);
   PreviewDialog preview(std::move(*report));
   preview.show();
   const auto* notice = preview.findChild<QLabel*>("notices");
   ASSERT_TRUE(notice && notice->isVisible());
-  EXPECT_THAT(notice->text().toStdString(), ::testing::HasSubstr("no dice quién lo firma"));
+  EXPECT_THAT(notice->text().toStdString(), HasSubstr("no dice quién lo firma"));
   const auto unsaid = make("partida");
   EXPECT_TRUE(unsaid->notices().isEmpty());
 }
@@ -333,5 +332,4 @@ TEST_F(BookReports, longRun_stopsWhenTheUserAsksAndCanBeTriedAgain) {
   EXPECT_FALSE(run.isRunning());
 }
 
-}  // namespace
-}  // namespace fidaleon::app
+}  // namespace fidaleon::app::BookReportsTest

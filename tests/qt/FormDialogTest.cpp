@@ -21,8 +21,7 @@
 #include "qt/FormDialog.h"
 #include "qt/SampleForm.h"
 
-namespace fidaleon::qt {
-namespace {
+namespace fidaleon::qt::FormDialogTest {
 
 using namespace forms;
 using testing::Contains;
@@ -442,5 +441,4 @@ TEST_F(FormDialogTest, ArrowsInOptions_ChooseTheNeighbour) {
   EXPECT_TRUE(form.newBook.value());
 }
 
-}  // namespace
-}  // namespace fidaleon::qt
+}  // namespace fidaleon::qt::FormDialogTest

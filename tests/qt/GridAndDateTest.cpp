@@ -15,8 +15,7 @@
 #include "qt/FormDialog.h"
 #include "qt/SampleForm.h"
 
-namespace fidaleon::qt {
-namespace {
+namespace fidaleon::qt::GridAndDateTest {
 
 using namespace forms;
 
@@ -117,5 +116,4 @@ TEST_F(GridAndDateTest, WrongDateLeft_MessageAndTheTextStaysForMending) {
   EXPECT_THAT(user.problems(), testing::IsEmpty());
 }
 
-}  // namespace
-}  // namespace fidaleon::qt
+}  // namespace fidaleon::qt::GridAndDateTest

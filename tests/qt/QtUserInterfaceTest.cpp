@@ -16,8 +16,7 @@
 #include "qt/QtUserInterface.h"
 #include "qt/SampleForm.h"
 
-namespace fidaleon::qt {
-namespace {
+namespace fidaleon::qt::QtUserInterfaceTest {
 
 using namespace forms;
 using testing::Contains;
@@ -166,5 +165,4 @@ TEST(QtUserInterface, PrinterWidths_GrowWithTheTextInTwips) {
   EXPECT_EQ(ui.printerTextWidth("", "Arial"), 0);
 }
 
-}  // namespace
-}  // namespace fidaleon::qt
+}  // namespace fidaleon::qt::QtUserInterfaceTest

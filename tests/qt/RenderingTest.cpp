@@ -13,8 +13,7 @@
 #include "qt/SampleForm.h"
 #include "qt/Text.h"
 
-namespace fidaleon::qt {
-namespace {
+namespace fidaleon::qt::RenderingTest {
 
 using namespace forms;
 using testing::Contains;
@@ -105,5 +104,4 @@ TEST(Captions, MarkGoesToTheLetterOfTheForm) {
   EXPECT_EQ(markedCaption("Padres && hijos", U'H'), "Padres && &hijos");
 }
 
-}  // namespace
-}  // namespace fidaleon::qt
+}  // namespace fidaleon::qt::RenderingTest

@@ -6,8 +6,7 @@
 #include "qt/SampleForm.h"
 #include "qt/Watchdog.h"
 
-namespace fidaleon::qt {
-namespace {
+namespace fidaleon::qt::WatchdogTest {
 
 TEST(Watchdog, WindowThatNobodyAnswers_IsNamedAndClosed) {
   const tests::Watchdog watchdog(100);
@@ -23,5 +22,4 @@ TEST(Watchdog, WindowThatNobodyAnswers_IsNamedAndClosed) {
   EXPECT_NONFATAL_FAILURE(menu.exec(), "nobody answers QMenu");
 }
 
-}  // namespace
-}  // namespace fidaleon::qt
+}  // namespace fidaleon::qt::WatchdogTest

@@ -6,9 +6,6 @@
 
 namespace fidaleon::tests {
 
-using forms::Answer;
-using forms::FormDriver;
-
 inline constexpr const char* LOSE_CHANGES =
     "Ha realizado cambios en las partidas del libro. ¿Desea cerrar el formulario y perder así "
     "todos los cambios realizados?";
@@ -31,12 +28,21 @@ class PropertiesWorld : public ::testing::TestWithParam<Register> {
   std::string nameTable() const { return formaPartida(r.sacrament)->personas[0]; }
 
   /// The caller's part; `act` works on the dialog.
-  void openBook(std::int32_t id, forms::ScriptedUser::Act act) {
+  void openBook(std::int32_t id, Act act) {
     w.user.expectForm(r.properties, std::move(act));
     const auto dialog = r.openBook(w.contexto);
     dialog->conBaseDatos = &w.con();
     dialog->lngLibro = id;
     dialog->Show();
+  }
+
+  /// Works on the list of its entries and accepts.
+  void changeBook(std::int32_t id, const Act& act) {
+    openBook(id, [&](FormDriver& d) {
+      toEntries(d);
+      act(d);
+      acceptBook(d);
+    });
   }
 
   static forms::Grid& grid(FormDriver& d) { return d.get<forms::Grid>("msgPartidas"); }

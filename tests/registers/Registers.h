@@ -1,9 +1,7 @@
 #pragma once
 // What tests have to know of each register, so that one suite holds for all of them.
 
-#include <memory>
 #include <ostream>
-#include <string>
 #include <variant>
 
 #include "registers/Rows.h"

@@ -2,9 +2,7 @@
 // Books, entries and requests of any register as they stand in the tables, put there without a
 // dialog or the store.
 
-#include <string>
 #include <utility>
-#include <vector>
 
 #include "core/statements/Sentencia.h"
 #include "support/TestWorld.h"

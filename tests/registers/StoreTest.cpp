@@ -8,9 +8,6 @@
 
 namespace fidaleon::tests {
 
-using ::testing::HasSubstr;
-using ::testing::StartsWith;
-
 template <class R>
 class RegisterStore : public ::testing::Test {
  protected:
@@ -128,7 +125,7 @@ TYPED_TEST(RegisterStore, StoringThatFailsAtAnyStep_IsReportedAndLaterEndsWithOn
   for (const FilaDePartida& f : TypeParam::store.forma.filas)
     steps.push_back("INSERT INTO " + std::string(f.tabla) + " (");
   for (const std::string& step : steps) {
-    this->w.user.answerAnything(forms::Answer::Ok);
+    this->w.user.answerAnything(Answer::Ok);
     auto* faults = store::FailingEngine::wrap(this->w.con());
     faults->failOn(step, store::ErrorKind::DiskFull);
     std::vector<typename TypeParam::Record> items{this->record("Luis", libro, 1, "1")};
@@ -147,7 +144,7 @@ TYPED_TEST(RegisterStore, StoringThatFailsAtAnyStep_IsReportedAndLaterEndsWithOn
 
 TYPED_TEST(RegisterStore, HalfStored_GoesAgainWhenItIsGivenUp) {
   const std::int32_t libro = this->book(true);
-  this->w.user.answerAnything(forms::Answer::Ok);
+  this->w.user.answerAnything(Answer::Ok);
   auto* faults = store::FailingEngine::wrap(this->w.con());
   for (const auto* table : TypeParam::store.propias) {
     faults->failOn("INSERT INTO " + std::string(table->nombre), store::ErrorKind::DiskFull);
@@ -258,11 +255,10 @@ TEST_F(BaptismStore, Deleting_SparesSharedRowsThroughTheStoreButNotThroughTheFac
   ASSERT_TRUE(db.BorrarPartidaBautismo(w.con(), three));
   EXPECT_EQ(w.count("Bautismo_Padres WHERE IDPadres=1"), 1) << "two others still use it";
   EXPECT_EQ(w.count("Bautismo_Madres"), 2);
-  w.user.expectMessage("¿Está seguro que desea eliminar la partida?", forms::Answer::Yes);
+  w.user.expectMessage("¿Está seguro que desea eliminar la partida?", Answer::Yes);
   borrarPreguntando(w.contexto, w.con(), two, BAUTISMO);
   EXPECT_EQ(w.count("Bautismo_Padres WHERE IDPadres=1"), 0);
   EXPECT_TRUE(load(libro).empty()) << "the entry left has lost its father's row";
-  EXPECT_SCRIPT_DONE(w.user);
 }
 
 class ConfirmationStore : public RegisterStore<OfConfirmation> {};
@@ -278,7 +274,7 @@ TEST_F(ConfirmationStore, Request_KeepsItsInstitutionAndRefusesAKeyThatDoesNotFi
   EXPECT_EQ(w.value("SELECT InstitucionSolicitud FROM Confirmacion"), std::to_string(parish));
   c.InstitucionSolicitud = 256;
   items = {c};
-  w.user.answerAnything(forms::Answer::Ok);
+  w.user.answerAnything(Answer::Ok);
   EXPECT_FALSE(save(items));
   EXPECT_THAT(w.user.messages().back().text, HasSubstr("AltaPartidaConfirmacion"));
   EXPECT_TRUE(wholeAndOnce());
@@ -303,7 +299,7 @@ class MarriageStore : public RegisterStore<OfMarriage> {
 };
 
 TEST_F(MarriageStore, WithoutItsOwnRow_LeavesNothingOfTheSpouses) {
-  w.user.answerAnything(forms::Answer::Ok);
+  w.user.answerAnything(Answer::Ok);
   auto* faults = store::FailingEngine::wrap(w.con());
   for (const char* step : {"INSERT INTO matrimonio_novias_bautismo", "INSERT INTO matrimonio ("}) {
     faults->failOn(step, store::ErrorKind::DiskFull);

@@ -6,8 +6,7 @@
 #include "sample/SamplePopulation.h"
 #include "support/Identidad.h"
 
-namespace fidaleon::app {
-namespace {
+namespace fidaleon::app::SampleParishTest {
 
 class SampleParish : public ParishTest {
  protected:
@@ -103,5 +102,4 @@ TEST(SamplePopulation, LivesFitTogether) {
   }
 }
 
-}  // namespace
-}  // namespace fidaleon::app
+}  // namespace fidaleon::app::SampleParishTest

@@ -5,8 +5,7 @@
 #include "setup/frmDatosSetup.h"
 #include "setup/frmEncargado.h"
 
-namespace fidaleon::tests {
-namespace {
+namespace fidaleon::tests::SetupTest {
 
 constexpr const char *PARROCO = "txtDatos(0)", *ENCARGADO = "txtDatos(1)",
                      *DIOCESIS = "txtDatos(2)", *VICARIA = "txtDatos(3)",
@@ -241,5 +240,4 @@ TEST_F(Encargados, InstitutionOrKeepersInUse_CanBeChosenButNotAdded) {
   }
 }
 
-}  // namespace
-}  // namespace fidaleon::tests
+}  // namespace fidaleon::tests::SetupTest

@@ -19,8 +19,7 @@
 #include "store/schema/Schema.h"
 #include "store/sqlite/NetworkDisk.h"
 
-namespace fidaleon::store {
-namespace {
+namespace fidaleon::store::DatabaseFilesTest {
 
 namespace fs = std::filesystem;
 
@@ -452,5 +451,4 @@ TEST_F(Files, LookedAtWhileItIsOpen_KeepsItsLocks) {
   }
 }
 
-}  // namespace
-}  // namespace fidaleon::store
+}  // namespace fidaleon::store::DatabaseFilesTest

@@ -5,8 +5,7 @@
 #include "store/ForwardingEngine.h"
 #include "store/Open.h"
 
-namespace fidaleon::store {
-namespace {
+namespace fidaleon::store::RecordsetTest {
 
 class Recordsets : public testing::Test {
  protected:
@@ -166,5 +165,4 @@ TEST_F(Recordsets, FailingStatement_FailsOnceAndLeavesTheRest) {
   EXPECT_FALSE(connection->inTransaction());
 }
 
-}  // namespace
-}  // namespace fidaleon::store
+}  // namespace fidaleon::store::RecordsetTest

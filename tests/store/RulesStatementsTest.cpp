@@ -6,8 +6,7 @@
 #include "store/Error.h"
 #include "store/Open.h"
 
-namespace fidaleon::store {
-namespace {
+namespace fidaleon::store::RulesStatementsTest {
 
 std::string rowsOf(Recordset&& set) {
   std::string all;
@@ -199,5 +198,4 @@ TEST_F(Registers, FieldsOfTwoTables_ByBareAndByQualifiedName) {
   EXPECT_THROW(row.Fields(-1), Error);
 }
 
-}  // namespace
-}  // namespace fidaleon::store
+}  // namespace fidaleon::store::RulesStatementsTest

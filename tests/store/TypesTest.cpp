@@ -8,8 +8,7 @@
 #include "store/FailingEngine.h"
 #include "store/Open.h"
 
-namespace fidaleon::store {
-namespace {
+namespace fidaleon::store::TypesTest {
 
 class Types : public testing::Test {
  protected:
@@ -203,5 +202,4 @@ TEST_F(Types, MoreShapesThanPlansKept_GoOnWorking) {
   EXPECT_EQ(open.RecordCount(), 4);
 }
 
-}  // namespace
-}  // namespace fidaleon::store
+}  // namespace fidaleon::store::TypesTest

@@ -1,6 +1,3 @@
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include "store/FailingEngine.h"
 #include "store/schema/Schema.h"
 #include "support/Catalogos.h"
@@ -10,8 +7,7 @@
 #include "support/frmProvincia.h"
 #include "text/Utf8.h"
 
-namespace fidaleon::support {
-namespace {
+namespace fidaleon::support::CatalogueDialogsTest {
 
 using forms::FormDriver;
 using tests::TestWorld;
@@ -260,5 +256,4 @@ INSTANTIATE_TEST_SUITE_P(
                      "¿Seguro que quiere eliminar el municipio?", eliminarMunicipio}),
     [](const auto& row) { return std::string(row.param.table); });
 
-}  // namespace
-}  // namespace fidaleon::support
+}  // namespace fidaleon::support::CatalogueDialogsTest

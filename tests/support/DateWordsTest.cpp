@@ -3,8 +3,7 @@
 #include "support/FechasLetra.h"
 #include "support/Informes.h"
 
-namespace fidaleon::support {
-namespace {
+namespace fidaleon::support::DateWordsTest {
 
 TEST(DateWords, Spanish) {
   Informes i;
@@ -52,5 +51,4 @@ TEST(NumberWords, AsTheyAreSpelt) {
   for (const auto& [n, words] : cases) EXPECT_EQ(numeroEnCastellano(n), words);
 }
 
-}  // namespace
-}  // namespace fidaleon::support
+}  // namespace fidaleon::support::DateWordsTest

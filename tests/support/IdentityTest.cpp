@@ -2,8 +2,7 @@
 
 #include "support/Identidad.h"
 
-namespace fidaleon::support {
-namespace {
+namespace fidaleon::support::IdentityTest {
 
 TEST(Identity, Letters) {
   EXPECT_EQ(letraNIF("12345678"), "Z");
@@ -34,5 +33,4 @@ TEST(Identity, NumbersOfEntities) {
       EXPECT_FALSE(cifValido(letter + std::string(rest))) << letter << rest;
 }
 
-}  // namespace
-}  // namespace fidaleon::support
+}  // namespace fidaleon::support::IdentityTest

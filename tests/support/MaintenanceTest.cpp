@@ -1,11 +1,7 @@
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include "support/Mantenimiento.h"
 #include "support/TestWorld.h"
 
-namespace fidaleon::support {
-namespace {
+namespace fidaleon::support::MaintenanceTest {
 
 class Maintenance : public ::testing::Test {
  protected:
@@ -34,5 +30,4 @@ TEST_F(Maintenance, WhileOthersUseTheTable_OneMayAddAndCorrectButNotDelete) {
   EXPECT_TRUE(commands.eliminar(Catalogo::Institucion, id));
 }
 
-}  // namespace
-}  // namespace fidaleon::support
+}  // namespace fidaleon::support::MaintenanceTest

@@ -1,14 +1,10 @@
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include <fstream>
 #include <sstream>
 
 #include "support/FileSettings.h"
 #include "support/TestWorld.h"
 
-namespace fidaleon::support {
-namespace {
+namespace fidaleon::support::SettingsTest {
 
 namespace fs = std::filesystem;
 
@@ -129,5 +125,4 @@ TEST_F(SettingsFile, DefaultPlace_FollowsTheConfigurationFolder) {
   EXPECT_EQ(FileSettings::defaultFile(), "/tmp/casa/.config/fidaleon/ajustes.ini");
 }
 
-}  // namespace
-}  // namespace fidaleon::support
+}  // namespace fidaleon::support::SettingsTest

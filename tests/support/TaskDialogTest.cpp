@@ -1,12 +1,8 @@
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include "support/Mantenimiento.h"
 #include "support/TestWorld.h"
 #include "support/frmTarea.h"
 
-namespace fidaleon::support {
-namespace {
+namespace fidaleon::support::TaskDialogTest {
 
 using forms::FormDriver;
 
@@ -99,5 +95,4 @@ TEST_F(Tasks, Deleting_AsksAndIsRefusedWhileAnotherIsAtIt) {
   }
 }
 
-}  // namespace
-}  // namespace fidaleon::support
+}  // namespace fidaleon::support::TaskDialogTest

@@ -7,6 +7,7 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "core/contract/Contexto.h"
 #include "files/Machine.h"
@@ -18,6 +19,28 @@
 
 namespace fidaleon::tests {
 
+using FDAPI::cCOperacion;
+using FDAPI::cCOrigen;
+using forms::Answer;
+using forms::FormDriver;
+using forms::Key;
+using forms::KeyPress;
+using ::testing::AllOf;
+using ::testing::Contains;
+using ::testing::Each;
+using ::testing::ElementsAre;
+using ::testing::EndsWith;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+using ::testing::Not;
+using ::testing::Pair;
+using ::testing::StartsWith;
+using ::testing::UnorderedElementsAre;
+using Act = forms::ScriptedUser::Act;
+
+/// Fails the test with what went against the script.
+#define EXPECT_SCRIPT_DONE(user) EXPECT_THAT((user).problems(), ::testing::ElementsAre())
+
 /// Members are in the order in which they need each other. `config` may be changed at any time;
 /// set `entorno.installation` before the act to change the edition.
 struct TestWorld {
@@ -25,9 +48,17 @@ struct TestWorld {
       : entorno{user, host, settings, clock, {aplicacion, {}}}, contexto(entorno) {
     contexto.gobjConfig = &config;
   }
+  /// What was expected has come, and nothing else.
+  ~TestWorld() {
+    if (!mayBreakOff) {
+      EXPECT_SCRIPT_DONE(user);
+    }
+    EXPECT_SCRIPT_DONE(otherUser);
+  }
   TestWorld(const TestWorld&) = delete;
   TestWorld& operator=(const TestWorld&) = delete;
 
+  bool mayBreakOff = false;  // of what is expected, some may never come
   TempDirectory directory;
   FDAPI::cConfig config{"Fidaleon", "", "ana", "Castellano", false};
   forms::ScriptedUser user;
@@ -124,8 +155,5 @@ struct TestWorld {
   FDAPI::cConfig otherConfig_{"Fidaleon", "", "luis", "Castellano", false};
   support::HostSupport otherSupport_{otherUser, settings, clock, otherConfig_, "SACRISTIA"};
 };
-
-/// Fails the test with what went against the script.
-#define EXPECT_SCRIPT_DONE(user) EXPECT_THAT((user).problems(), ::testing::ElementsAre())
 
 }  // namespace fidaleon::tests

@@ -8,8 +8,7 @@
 #include "text/Numbers.h"
 #include "text/Utf8.h"
 
-namespace fidaleon::text {
-namespace {
+namespace fidaleon::text::TextTest {
 
 TEST(Utf8, Positions_CountLetters) {
   EXPECT_EQ(length("Ñoño 😀"), 6U);
@@ -133,5 +132,4 @@ TEST(Names, FileName_HoldsNothingThatAFileSystemRefuses) {
   EXPECT_EQ(fileName("ñññ", 5), "ññ");
 }
 
-}  // namespace
-}  // namespace fidaleon::text
+}  // namespace fidaleon::text::TextTest

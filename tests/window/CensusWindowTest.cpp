@@ -5,10 +5,7 @@
 #include "printing/ReportProgress.h"
 #include "window/OpenWindow.h"
 
-namespace fidaleon::app {
-namespace {
-
-using forms::FormDriver;
+namespace fidaleon::app::CensusWindowTest {
 
 class CensusWindow : public OpenWindow<> {
  protected:
@@ -49,7 +46,7 @@ TEST_F(CensusWindow, ACollaboratorDeleted_LeavesTheListAndNotTheCensus) {
   const std::int32_t person = someoneWith(2);
   ASSERT_TRUE(window->chooseRow(person));
   const int before = shown();
-  user.answerAnything(forms::Answer::Yes);
+  user.answerAnything(Answer::Yes);
   give("eliminar-colaborador");
   EXPECT_EQ(shown(), before - 1);
   EXPECT_NE(window->choice().id, person);
@@ -66,21 +63,21 @@ TEST_F(CensusWindow, ACollaboratorTakenFromTheCensus_IsAskedForWhatOthersLose) {
   const auto before = communions();
   ASSERT_GT(before, 0);
   ASSERT_TRUE(window->chooseRow(someoneWith(1)));
-  user.answerAnything(forms::Answer::No);
+  user.answerAnything(Answer::No);
   give("eliminar-empadronado");
-  EXPECT_THAT(user.messages().back().text, ::testing::StartsWith("ADVERTENCIA"));
+  EXPECT_THAT(user.messages().back().text, StartsWith("ADVERTENCIA"));
   ASSERT_TRUE(window->chooseRow(someoneWith(2)));
   give("eliminar-empadronado");
-  EXPECT_THAT(user.messages().back().text, ::testing::HasSubstr("TODAS"));
+  EXPECT_THAT(user.messages().back().text, HasSubstr("TODAS"));
   EXPECT_EQ(communions(), before);
-  user.answerAnything(forms::Answer::Yes);
+  user.answerAnything(Answer::Yes);
   give("eliminar-empadronado");
   EXPECT_EQ(communions(), 0);
 }
 
 TEST_F(CensusWindow, WhatIsDeletedIsNamed_AndEnterLeavesIt) {
   open("PartidasBautismo");
-  user.answerAnything(forms::Answer::No);
+  user.answerAnything(Answer::No);
   const std::pair<const char*, const char*> commands[] = {
       {"PartidasBautismo", "eliminar-partida"},
       {"SolicitudesBautismo", "eliminar-solicitud"},
@@ -102,7 +99,7 @@ TEST_F(CensusWindow, WhatIsDeletedIsNamed_AndEnterLeavesIt) {
     ASSERT_FALSE(user.messages().empty()) << command;
     const forms::Message& asked = user.messages().back();
     const bool refused = asked.buttons == forms::MsgButtons::Ok;
-    EXPECT_EQ(asked.byEnter, refused ? forms::Answer::None : forms::Answer::No) << asked.text;
+    EXPECT_EQ(asked.byEnter, refused ? Answer::None : Answer::No) << asked.text;
     EXPECT_EQ(asked.icon, forms::MsgIcon::Exclamation) << asked.text;
     std::string row;
     for (int column = 0; column < window->table().model()->columnCount(); ++column)
@@ -140,8 +137,7 @@ TEST(ReportProgress, EachStretchIsShownAndTheLastOneIsClosed) {
     progress.Cargar(5, "Dos", 1, 0);
     EXPECT_TRUE(progress.began());
   }
-  EXPECT_THAT(user.progressLog,
-              ::testing::ElementsAre("open 2 Uno", "2", "close", "open 5 Dos", "close"));
+  EXPECT_THAT(user.progressLog, ElementsAre("open 2 Uno", "2", "close", "open 5 Dos", "close"));
 }
 
 /// Asks to stop as soon as it is shown how far the work has come.
@@ -155,7 +151,7 @@ TEST_F(CensusWindow, ReportStopped_LeavesNothingAndTheNextIsWhole) {
   Desk other(files(), "Secretaría", impatient, settings, clock);
   impatient.expectMessage("Operación cancelada. No queda nada de ella.");
   EXPECT_FALSE(makeListReport(other, listReports()[1], Extent::Entire));
-  EXPECT_THAT(impatient.problems(), ::testing::IsEmpty());
+  EXPECT_THAT(impatient.problems(), IsEmpty());
   EXPECT_EQ(impatient.progressLog.back(), "close");
   EXPECT_TRUE(makeListReport(*desk, listReports()[1], Extent::Entire));
 }
@@ -197,5 +193,4 @@ TEST_F(CensusWindow, TasksOpenAtTheNextOneTodayIncluded) {
   EXPECT_EQ(window->table().currentIndex().row(), 0);
 }
 
-}  // namespace
-}  // namespace fidaleon::app
+}  // namespace fidaleon::app::CensusWindowTest

@@ -44,8 +44,6 @@ inline void answerNext(const QString& button, QString* text = nullptr) {
   });
 }
 
-using tests::FullDisk;
-
 /// A parish without people, and its copies.
 class Copies : public ParishTest {
  protected:

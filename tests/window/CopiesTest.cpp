@@ -11,12 +11,7 @@
 #include "window/CopiesFixture.h"
 #include "window/OpenWindow.h"
 
-namespace fidaleon::app {
-namespace {
-
-using ::testing::ElementsAre;
-using ::testing::HasSubstr;
-using ::testing::IsEmpty;
+namespace fidaleon::app::CopiesTest {
 
 TEST(CopyName, SaysWhenAndBeforeWhat_AndSorts) {
   const CopyName first{NOON, 1, "Eliminar en Partidas, Bautismo"};
@@ -186,7 +181,7 @@ TEST_F(Copies, Pruned_OnlyOursGo) {
   const auto left = namesIn(folder());
   // Thirty, and the first of March as the newest of its week.
   EXPECT_EQ(left.size(), 30 + 1 + staying.size());
-  for (const std::string& name : staying) EXPECT_THAT(left, ::testing::Contains(name));
+  for (const std::string& name : staying) EXPECT_THAT(left, Contains(name));
 }
 
 TEST_F(Copies, BeforeACommand_StayOnlyWhenItChangedSomething) {
@@ -246,7 +241,7 @@ class CopiesWindow : public OpenWindow<Copies> {
     open("SolicitudesBautismo");
     before = shown();
   }
-  void deleteRequest(forms::Answer answer) {
+  void deleteRequest(Answer answer) {
     user.expectMessage("¿Está seguro que desea eliminar la solicitud?", answer);
     give("eliminar-solicitud");
   }
@@ -254,9 +249,9 @@ class CopiesWindow : public OpenWindow<Copies> {
 };
 
 TEST_F(CopiesWindow, Deleting_LeavesACopyThatNamesTheCommand) {
-  deleteRequest(forms::Answer::No);
+  deleteRequest(Answer::No);
   EXPECT_THAT(namesIn(folder()), IsEmpty());
-  deleteRequest(forms::Answer::Yes);
+  deleteRequest(Answer::Yes);
   const auto all = copies.list();
   ASSERT_EQ(all.size(), 1U);
   EXPECT_EQ(all[0].before, "Eliminar en Solicitudes, Bautismo");
@@ -281,7 +276,7 @@ TEST_F(CopiesWindow, WhenTheParishIsGone_NothingIsBegunAndItCanBeOpenedAgain) {
   give("eliminar-solicitud");
   EXPECT_EQ(window->departure().to, Departure::To::Parish);
   fs::rename(aside, files().parish());
-  deleteRequest(forms::Answer::Yes);
+  deleteRequest(Answer::Yes);
   EXPECT_EQ(shown(), before - 1) << "it is back";
 }
 
@@ -297,7 +292,7 @@ class CopiesBook : public CopiesWindow {
         count("SELECT IDLibroBautismo FROM Libro_Bautismo WHERE Nuevo=false"))));
   }
   void acceptBook(bool withoutAnEntry) {
-    user.expectForm("frmPropiedadesLibroBautismo", [=](forms::FormDriver& d) {
+    user.expectForm("frmPropiedadesLibroBautismo", [=](FormDriver& d) {
       if (withoutAnEntry) {
         d.tab("mstLibro", 1);
         d.row("msgPartidas", 1);
@@ -333,9 +328,9 @@ TEST_F(CopiesWindow, IncompleteEntries_AreToldOfAndRemovedBehindACopy) {
   user.expectMessage(
       "Hay una partida a la que le falta alguna de sus fichas: puede que no aparezca en las "
       "listas. ¿Desea verla ahora?",
-      forms::Answer::Yes);
-  user.expectForm("frmPartidasIncompletas", [&](forms::FormDriver& d) {
-    user.expectMessage("¿Está seguro que desea eliminar la partida?", forms::Answer::Yes);
+      Answer::Yes);
+  user.expectForm("frmPartidasIncompletas", [&](FormDriver& d) {
+    user.expectMessage("¿Está seguro que desea eliminar la partida?", Answer::Yes);
     d.click("cmdBoton(1)");
   });
   window->tellOfIncompleteEntries();
@@ -347,7 +342,7 @@ TEST_F(CopiesWindow, IncompleteEntries_AreToldOfAndRemovedBehindACopy) {
 TEST_F(CopiesBook, WithoutACopy_KeepsItsEntriesUntilToldToGoOn) {
   const std::int64_t all = entries();
   std::ofstream(folder()) << "x";
-  user.answerAnything(forms::Answer::Yes);
+  user.answerAnything(Answer::Yes);
   QString text;
   answerNext({}, &text);
   acceptBook(true);
@@ -360,5 +355,4 @@ TEST_F(CopiesBook, WithoutACopy_KeepsItsEntriesUntilToldToGoOn) {
   EXPECT_EQ(entries(), all - 1);
 }
 
-}  // namespace
-}  // namespace fidaleon::app
+}  // namespace fidaleon::app::CopiesTest

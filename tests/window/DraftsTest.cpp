@@ -9,14 +9,7 @@
 #include "window/LastWords.h"
 #include "window/MainWindow.h"
 
-namespace fidaleon::app {
-namespace {
-
-using forms::Answer;
-using forms::FormDriver;
-using ::testing::HasSubstr;
-using ::testing::IsEmpty;
-using ::testing::Not;
+namespace fidaleon::app::DraftsTest {
 
 constexpr const char* NEW_ENTRY = "frmPartidaBautismo";
 constexpr const char* BOOK = "frmPropiedadesLibroBautismo";
@@ -59,7 +52,7 @@ class Drafts : public ParishTest {
   }
   /// Lets a program type, and kills it there: `typing` must call the driver's form and then die().
   void killWhile(const std::function<void(Program&)>& typing) {
-    tests::OtherProcess other([&](auto&) { typing(*program()); });
+    OtherProcess other([&](auto&) { typing(*program()); });
     ASSERT_TRUE(WIFSIGNALED(other.end())) << "was not killed";
   }
   static void die(Program& p) {
@@ -308,9 +301,7 @@ TEST_F(Drafts, Files_AreTheOwnersAlone_AndLinksAreNotFollowed) {
   EXPECT_EQ(fs::file_size(precious), 8u);
   std::string left;
   for (const DraftFolder::Left& l : DraftFolder(folder()).left()) left += l.content + ".";
-  EXPECT_THAT(left,
-              ::testing::AllOf(HasSubstr("uno."), HasSubstr("dos."), Not(HasSubstr("no tocar"))));
+  EXPECT_THAT(left, AllOf(HasSubstr("uno."), HasSubstr("dos."), Not(HasSubstr("no tocar"))));
 }
 
-}  // namespace
-}  // namespace fidaleon::app
+}  // namespace fidaleon::app::DraftsTest

@@ -6,8 +6,7 @@
 #include "qt/FormSweep.h"
 #include "window/OpenWindow.h"
 
-namespace fidaleon::app {
-namespace {
+namespace fidaleon::app::EveryFormTest {
 
 /// Looks each form through instead of working with it.
 class Inspector : public forms::ScriptedUser {
@@ -27,7 +26,7 @@ class Inspector : public forms::ScriptedUser {
 TEST_F(ParishTest, EveryFormACommandOpens_PassesTheSweep) {
   create();
   Inspector inspector;
-  inspector.answerAnything(forms::Answer::No);
+  inspector.answerAnything(Answer::No);
   Desk looked(files(), "Secretaría", inspector, settings, clock);
   MainWindow window(looked);
   for (const NodeView& node : nodeViews()) {
@@ -37,9 +36,8 @@ TEST_F(ParishTest, EveryFormACommandOpens_PassesTheSweep) {
           applies(command, window.choice()))
         window.action(command.id)->trigger();
   }
-  EXPECT_THAT(inspector.found, ::testing::IsEmpty());
+  EXPECT_THAT(inspector.found, IsEmpty());
   EXPECT_GE(inspector.seen(), 17u);
 }
 
-}  // namespace
-}  // namespace fidaleon::app
+}  // namespace fidaleon::app::EveryFormTest

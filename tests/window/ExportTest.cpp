@@ -18,13 +18,8 @@
 #include "window/OpenWindow.h"
 #include "window/RowsFilter.h"
 
-namespace fidaleon::app {
-namespace {
+namespace fidaleon::app::ExportTest {
 
-using ::testing::ElementsAre;
-using ::testing::HasSubstr;
-using ::testing::IsEmpty;
-using ::testing::StartsWith;
 using Kind = ListCell::Kind;
 
 ListTable sample() {
@@ -140,7 +135,7 @@ TEST_F(ParishTest, ReplacedFile_IsTheNewOneOrTheOldOne) {
   EXPECT_EQ(replaceFile(file, "dos"), "");
   EXPECT_EQ(content(), "dos");
   {
-    const tests::FullDisk full(1000);
+    const FullDisk full(1000);
     EXPECT_THAT(replaceFile(file, std::string(100000, 'x')), HasSubstr("el disco"));
   }
   EXPECT_EQ(content(), "dos");
@@ -235,5 +230,4 @@ TEST_F(SavedList, ByTheWindow_IsWrittenAndTheFolderRemembered) {
   }
 }
 
-}  // namespace
-}  // namespace fidaleon::app
+}  // namespace fidaleon::app::ExportTest

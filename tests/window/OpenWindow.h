@@ -13,7 +13,7 @@ template <class Parish = ParishTest>
 class OpenWindow : public Parish {
  protected:
   void SetUp() override { open("PartidasBautismo"); }
-  void TearDown() override { EXPECT_THAT(this->user.problems(), ::testing::IsEmpty()); }
+  void TearDown() override { EXPECT_THAT(this->user.problems(), IsEmpty()); }
   void open(const char* node, Content content = Content::Sample) {
     window.reset();
     this->desk.reset();

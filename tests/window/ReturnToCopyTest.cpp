@@ -14,11 +14,7 @@
 #include "window/CopyReturn.h"
 #include "window/MainWindow.h"
 
-namespace fidaleon::app {
-namespace {
-
-using ::testing::HasSubstr;
-using ::testing::IsEmpty;
+namespace fidaleon::app::ReturnToCopyTest {
 
 class Returning : public Copies {
  protected:
@@ -27,7 +23,7 @@ class Returning : public Copies {
     addOffice("Sacristán");
     copy = make();
     addOffice("Organista");
-    user.answerAnything(forms::Answer::Ok);
+    user.answerAnything(Answer::Ok);
   }
   bool returnTo(const fs::path& file) {
     const ParishFiles parish = files();
@@ -227,5 +223,4 @@ TEST_P(ReturnOnAFullDisk, ChangesNothing) {
 
 INSTANTIATE_TEST_SUITE_P(Journals, ReturnOnAFullDisk, ::testing::Values("WAL", "DELETE"));
 
-}  // namespace
-}  // namespace fidaleon::app
+}  // namespace fidaleon::app::ReturnToCopyTest

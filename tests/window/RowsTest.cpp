@@ -5,8 +5,7 @@
 #include "store/Open.h"
 #include "window/RowsFilter.h"
 
-namespace fidaleon::app {
-namespace {
+namespace fidaleon::app::RowsTest {
 
 /// A list of entries whose surnames, numbers and dates are awkward on purpose.
 class Rows : public ::testing::Test {
@@ -65,8 +64,6 @@ class Rows : public ::testing::Test {
   RowsModel model;
   RowsFilter shown;
 };
-
-using ::testing::ElementsAre;
 
 TEST_F(Rows, KeepsTheContractOfModels) {
   QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::Fatal);
@@ -181,11 +178,9 @@ TEST(Nodes, EveryListRunsAndHasItsColumns) {
     const auto rows = con->Execute(v.node.SQLSelect);
     std::vector<std::string> names;
     for (int f = 0; f < rows.FieldCount(); ++f) names.push_back(rows.FieldName(f));
-    for (const ColumnView& c : v.columns)
-      EXPECT_THAT(names, ::testing::Contains(c.field)) << v.node.Nombre;
-    EXPECT_THAT(names, ::testing::Contains(v.key)) << v.node.Nombre;
+    for (const ColumnView& c : v.columns) EXPECT_THAT(names, Contains(c.field)) << v.node.Nombre;
+    EXPECT_THAT(names, Contains(v.key)) << v.node.Nombre;
   }
 }
 
-}  // namespace
-}  // namespace fidaleon::app
+}  // namespace fidaleon::app::RowsTest

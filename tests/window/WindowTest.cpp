@@ -15,8 +15,7 @@
 #include "window/FirstRunWizard.h"
 #include "window/OpenWindow.h"
 
-namespace fidaleon::app {
-namespace {
+namespace fidaleon::app::WindowTest {
 
 class Window : public OpenWindow<> {
  protected:
@@ -60,8 +59,7 @@ TEST_F(Window, Annulling_AsksAndOneKeyLeadsThereAndBack) {
       count("SELECT MAX(IDBautismo) FROM Bautismo WHERE CodLibro<>0 AND Anulada=false"));
   ASSERT_TRUE(window->chooseRow(id));
   user.expectMessage(
-      "La partida quedará anulada: conservará su folio y su número. ¿Desea anularla?",
-      forms::Answer::Yes);
+      "La partida quedará anulada: conservará su folio y su número. ¿Desea anularla?", Answer::Yes);
   const auto key = [&] {
     ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
     QTest::keyClick(window->windowHandle(), Qt::Key_U, Qt::ControlModifier);
@@ -93,7 +91,7 @@ TEST_F(Window, InsertKey_AddsFromTheListAndFromTheTree) {
   ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
   for (QWidget* view : views) {
     view->setFocus();
-    user.expectForm("frmMunicipio", [](forms::FormDriver& d) { d.click("cmdBoton(1)"); });
+    user.expectForm("frmMunicipio", [](FormDriver& d) { d.click("cmdBoton(1)"); });
     QTest::keyClick(window->windowHandle(), Qt::Key_Insert);
   }
 }
@@ -101,7 +99,7 @@ TEST_F(Window, InsertKey_AddsFromTheListAndFromTheTree) {
 TEST_F(Window, WhatIsAddedIsChosen) {
   window->showNode("Municipios");
   const int before = shown();
-  user.expectForm("frmMunicipio", [](forms::FormDriver& d) {
+  user.expectForm("frmMunicipio", [](FormDriver& d) {
     d.type("txtNombre", "Aldea del Ñandú");
     d.choose("cboProvincia", "Madrid");
     d.click("cmdBoton(0)");
@@ -159,7 +157,7 @@ TEST_F(Window, EntriesOfABook_AreItsOwnUntilTheLimitIsTakenAway) {
 
 TEST_F(Window, Document_HoldsItsEntryAloneAndNothingWhenThatIsGone) {
   const Documento* slip = documento("InformeVolanteBautismo");
-  user.answerAnything(forms::Answer::Ok);
+  user.answerAnything(Answer::Ok);
   EXPECT_FALSE(makeReport(*desk, *slip, 999999));
   for (int i = 0; i < 2; ++i) EXPECT_EQ(makeReport(*desk, *slip, 1)->rowCount(), 1u);
 }
@@ -238,5 +236,4 @@ TEST_F(ParishTest, Demo_LeavesAnotherParishAlone) {
   EXPECT_EQ(desk->parishName(), "San Blas");
 }
 
-}  // namespace
-}  // namespace fidaleon::app
+}  // namespace fidaleon::app::WindowTest

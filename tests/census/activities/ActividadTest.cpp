@@ -4,8 +4,7 @@
 #include "census/activities/frmActividad.h"
 #include "census/activities/frmActividadGrupos.h"
 
-namespace fidaleon::tests {
-namespace {
+namespace fidaleon::tests::ActividadTest {
 
 constexpr const char *ACEPTAR = "cmdActividad(0)", *AGREGAR = "cmdActividad(2)",
                      *MODIFICAR = "cmdActividad(3)", *QUITAR = "cmdActividad(4)",
@@ -328,5 +327,4 @@ TEST_F(Actividades, CollaboratorAdded_IsMarkedAmongTheAvailableAndTheSelectedSta
   editar(desdeColaborador, false, cCOrigen::COLABORADOR);
 }
 
-}  // namespace
-}  // namespace fidaleon::tests
+}  // namespace fidaleon::tests::ActividadTest

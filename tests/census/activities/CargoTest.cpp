@@ -3,8 +3,7 @@
 #include "census/Manos.h"
 #include "census/activities/frmCargo.h"
 
-namespace fidaleon::tests {
-namespace {
+namespace fidaleon::tests::CargoTest {
 
 constexpr const char *ACEPTAR = "cmdCargo(0)", *AGREGAR = "cmdCargo(2)", *NOMBRE = "txtCargo(0)",
                      *LISTA = "cboCargo";
@@ -59,5 +58,4 @@ TEST_F(Cargos, Chosen_IsTheOneOfTheListOrTheOneAddedOrNone) {
   EXPECT_EQ(elegir(pone(ACEPTAR)) + elegir(pone("cmdCargo(1)", LISTA, "Monitor")), "00");
 }
 
-}  // namespace
-}  // namespace fidaleon::tests
+}  // namespace fidaleon::tests::CargoTest

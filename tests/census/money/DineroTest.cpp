@@ -12,8 +12,7 @@
 #include "forms/ScriptedUser.h"
 #include "text/Utf8.h"
 
-namespace fidaleon::tests {
-namespace {
+namespace fidaleon::tests::DineroTest {
 
 using forms::Key;
 using forms::KeyPress;
@@ -199,5 +198,4 @@ TEST(Importe, Text_IsReadExactlyAndWrittenShortOrRefusedBeyondTheRange) {
     }
 }
 
-}  // namespace
-}  // namespace fidaleon::tests
+}  // namespace fidaleon::tests::DineroTest

@@ -3,8 +3,7 @@
 #include "census/Manos.h"
 #include "census/persons/frmPadron.h"
 
-namespace fidaleon::tests {
-namespace {
+namespace fidaleon::tests::PersonaTest {
 
 using P = frmPadron;
 
@@ -377,5 +376,4 @@ TEST_F(Personas, Notes_AreListedInShortAndOnlyAChosenOneIsChangedOrRemoved) {
   EXPECT_EQ(filas("SELECT IDNota,Nombre FROM Padron_NotasPersonales"), "1|Vieja/2|Cambiada");
 }
 
-}  // namespace
-}  // namespace fidaleon::tests
+}  // namespace fidaleon::tests::PersonaTest

@@ -8,10 +8,7 @@
 #include "census/search/frmPadronImportar.h"
 #include "census/search/frmPadronNotas.h"
 
-namespace fidaleon::tests {
-namespace {
-
-using FDAPI::cCOperacion;
+namespace fidaleon::tests::BusquedaTest {
 
 constexpr const char *DETALLES = "cmdBotones(0)", *SELECCIONAR = "cmdBotones(1)",
                      *CANCELAR = "cmdBotones(2)", *REJILLA = "msgBusquedaPadron",
@@ -321,5 +318,4 @@ TEST_F(Notas, NewNote_NeedsATitleOfItsOwnAndIsPutBehindTheOthers) {
   EXPECT_EQ(refrescos, 1);
 }
 
-}  // namespace
-}  // namespace fidaleon::tests
+}  // namespace fidaleon::tests::BusquedaTest

@@ -1,8 +1,5 @@
 // A workstation that dies with a book open, or half way through an entry.
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include <chrono>
 #include <csignal>
 
@@ -10,8 +7,7 @@
 #include "store/FailingEngine.h"
 #include "support/TestWorld.h"
 
-namespace fidaleon::tests {
-namespace {
+namespace fidaleon::tests::BooksKilledTest {
 
 constexpr const char* DIALOG = "frmPropiedadesLibroBautismo";
 
@@ -21,7 +17,7 @@ class Sleeper : public forms::ScriptedUser {
   explicit Sleeper(int pipe) : pipe_(pipe) {}
   void showModal(forms::Form& form) override {
     std::vector<std::string> problems;
-    forms::FormDriver d(form, problems);
+    FormDriver d(form, problems);
     if (form.name() == DIALOG) {
       form.focusFirst();
       d.tab("mstLibro", 1);
@@ -54,20 +50,20 @@ struct Station {
 /// Whether the book can be changed.
 bool bookIsFree(const std::filesystem::path& file) {
   forms::ScriptedUser user;
-  user.answerAnything(forms::Answer::Ok);
+  user.answerAnything(Answer::Ok);
   Station station(user, file);
   bool free = false;
-  user.expectForm(DIALOG, [&](forms::FormDriver& d) {
+  user.expectForm(DIALOG, [&](FormDriver& d) {
     free = d.enabled("cmdBoton(0)");
     if (free) {
       d.tab("mstLibro", 1);
-      user.expectForm("frmPartidaBautismo", [](forms::FormDriver& e) { e.escape(); });
+      user.expectForm("frmPartidaBautismo", [](FormDriver& e) { e.escape(); });
       d.click("cmdPartidas(0)");
     }
     d.escape();
   });
   station.openBook();
-  EXPECT_THAT(user.problems(), ::testing::IsEmpty());
+  EXPECT_THAT(user.problems(), IsEmpty());
   return free;
 }
 
@@ -178,5 +174,4 @@ TEST_F(KilledHalfWay, InTheListOfABook_NoEntryIsHalfThere) {
   EXPECT_GT(death, 12);
 }
 
-}  // namespace
-}  // namespace fidaleon::tests
+}  // namespace fidaleon::tests::BooksKilledTest

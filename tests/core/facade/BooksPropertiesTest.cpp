@@ -4,12 +4,7 @@
 #include "core/contract/Sacramento.h"
 #include "core/facade/FacadeWorld.h"
 
-namespace fidaleon::tests {
-namespace {
-
-using forms::Answer;
-using forms::FormDriver;
-using ::testing::ElementsAre;
+namespace fidaleon::tests::BooksPropertiesTest {
 
 constexpr const char* DIALOGO = "frmPropiedadesLibroBautismo";
 constexpr const char* NODO = "LibrosBautismo";
@@ -42,7 +37,6 @@ TEST(FacadeBooks, PropiedadesLibro_SharesWhatTheNameRestsOnAndHoldsTheBook) {
                   "Libro_Bautismo [1] existe [SELECT IDLibroBautismo FROM Libro_Bautismo WHERE "
                   "IDLibroBautismo=1]",
                   "efectuar", "en " + w.directory.path().string(), "liberar", "liberar"));
-  EXPECT_SCRIPT_DONE(w.user);
 }
 
 TEST(FacadeBooks, ActionsOnEntries_DefineTheirOwnLocks) {
@@ -70,7 +64,6 @@ TEST(FacadeBooks, ActionsOnEntries_DefineTheirOwnLocks) {
     cancelarLibro(u);
   });
   w.nucleo.PropiedadesLibro(w.con(), 1, w.config, NODO);
-  EXPECT_SCRIPT_DONE(w.user);
 }
 
 TEST(FacadeBooks, RefusedLocks_LeaveWhatTheirValueLeaves) {
@@ -93,7 +86,6 @@ TEST(FacadeBooks, RefusedLocks_LeaveWhatTheirValueLeaves) {
         cancelarLibro(u);
       });
     w.nucleo.PropiedadesLibro(w.con(), 1, w.config, NODO);
-    EXPECT_SCRIPT_DONE(w.user);
   }
 }
 
@@ -123,8 +115,6 @@ TEST(FacadeBooks, BookOpenInOne_IsReadOnlyInTheOther) {
   });
   w.nucleo.PropiedadesLibro(w.con(), 1, w.config, NODO);
   w.esperarLibre();
-  EXPECT_SCRIPT_DONE(w.user);
-  EXPECT_SCRIPT_DONE(w.otherUser);
 }
 
 TEST(FacadeBooks, EntryOpenFromTheTree_KeepsTheListReadOnly) {
@@ -141,8 +131,6 @@ TEST(FacadeBooks, EntryOpenFromTheTree_KeepsTheListReadOnly) {
     cancelar(u);
   });
   w.nucleo.PropiedadesPartida(w.con(), 1, w.config, "PartidasBautismo");
-  EXPECT_SCRIPT_DONE(w.user);
-  EXPECT_SCRIPT_DONE(w.otherUser);
 }
 
 TEST(FacadeBooks, InstitutionHeldElsewhere_FixesTheNameButTheBookIsStillHeld) {
@@ -161,9 +149,8 @@ TEST(FacadeBooks, InstitutionHeldElsewhere_FixesTheNameButTheBookIsStillHeld) {
     });
     otro.nucleo.PropiedadesLibro(w.con(), 1, otro.config, NODO);
     ASSERT_EQ(w.otherUser.messages().size(), 2u);
-    EXPECT_THAT(
-        w.otherUser.messages()[1].text,
-        ::testing::StartsWith("Solo se puede consultar: el libro de bautismo lo tiene ana"));
+    EXPECT_THAT(w.otherUser.messages()[1].text,
+                StartsWith("Solo se puede consultar: el libro de bautismo lo tiene ana"));
     u.type("dtpFecha", "2/1/2003");
     u.click("cmdBoton(0)");
     EXPECT_TRUE(u.closed());
@@ -171,9 +158,6 @@ TEST(FacadeBooks, InstitutionHeldElsewhere_FixesTheNameButTheBookIsStillHeld) {
   w.nucleo.PropiedadesLibro(w.con(), 1, w.config, NODO);
   EXPECT_EQ(w.value("SELECT FechaCreacion FROM Libro_Bautismo"), "20030102");
   EXPECT_EQ(w.value("SELECT Nombre FROM Libro_Bautismo"), "2003/01");
-  EXPECT_SCRIPT_DONE(w.user);
-  EXPECT_SCRIPT_DONE(w.otherUser);
 }
 
-}  // namespace
-}  // namespace fidaleon::tests
+}  // namespace fidaleon::tests::BooksPropertiesTest

@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include "../../../benches/BookStress.h"
 #include "support/TestWorld.h"
 

@@ -2,10 +2,6 @@
 // The library as the main program has it, over a parish with one baptism; with real locks, or with
 // lock sessions that note what they are told and answer what the test wants.
 
-#include <memory>
-#include <string>
-#include <vector>
-
 #include "core/facade/cNucleo.h"
 #include "documents/BautismoWorld.h"
 
@@ -71,14 +67,7 @@ struct WithFacade : World {
   std::string directorio() { return "en " + this->directory.path().string(); }
   /// Another workstation takes the record; it keeps it as long as the session lives.
   std::unique_ptr<FDAPI::cProcesarBloqueos> ocupar(const char* tabla, const char* registro = "") {
-    auto otra = this->otherSession();
-    FDAPI::DefinicionBloqueo b;
-    b.strTabla = tabla;
-    b.strRegistro = registro;
-    b.conBd = &this->con();
-    otra->DefinirBloqueo(b);
-    EXPECT_EQ(otra->lngEfectuarBloqueos(), 0) << tabla;
-    return otra;
+    return this->otherHolds(tabla, *registro ? std::stoi(registro) : 0);
   }
   /// No lock is left on what the operations use.
   void esperarLibre(const Sacramento& registro = BAUTISMO) {
@@ -108,7 +97,7 @@ struct WithSpy : World {
 
 using SpyWorld = WithSpy<BautismoWorld>;
 
-inline void cancelar(forms::FormDriver& u) {
+inline void cancelar(FormDriver& u) {
   u.click("cmdBautismo(1)");
 }
 

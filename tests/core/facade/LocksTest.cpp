@@ -3,22 +3,17 @@
 #include "core/facade/FacadeWorld.h"
 #include "store/FailingEngine.h"
 
-namespace fidaleon::tests {
-namespace {
-
-using ::testing::ElementsAre;
-using ::testing::IsEmpty;
+namespace fidaleon::tests::LocksTest {
 
 TEST(FacadeLocks, NuevoLibro_LocksTheTableOfItsKind) {
   for (const char* palabra : {"Bautismo", "Confirmacion", "Matrimonio", "Defuncion"}) {
     SpyWorld w;
     w.user.expectForm(std::string("frmAltaLibro") + palabra,
-                      [](forms::FormDriver& u) { u.click("cmdBoton(1)"); });
+                      [](FormDriver& u) { u.click("cmdBoton(1)"); });
     w.nucleo.NuevoLibro(w.con(), w.config, std::string("Libros") + palabra);
     EXPECT_THAT(w.bloqueos(), ElementsAre("Institucion compartida", "Libros_Formato compartida",
                                           "Libros_TipoNombre compartida",
                                           std::string("Libro_") + palabra, "efectuar", "liberar"));
-    EXPECT_SCRIPT_DONE(w.user);
   }
 }
 
@@ -32,7 +27,6 @@ TEST(FacadeLocks, Refused_EndsSilentlyAndGivesNothingBack) {
     orden(w);
     EXPECT_EQ(w.bloqueos().back(), "efectuar");
     EXPECT_EQ(w.filas(), 0);
-    EXPECT_SCRIPT_DONE(w.user);
   }
 }
 
@@ -47,16 +41,16 @@ TEST(FacadeLocks, Books_AreLockedAfterTheQuestionAndGivenBackUnlessRefused) {
       "IDLibroBautismo=1]";
   for (const std::function<void(SpyWorld&)>& orden : {std::function(cerrar), {eliminar}}) {
     SpyWorld hecho;
-    hecho.user.answerAnything(forms::Answer::Yes);
+    hecho.user.answerAnything(Answer::Yes);
     orden(hecho);
     EXPECT_THAT(hecho.bloqueos(), ElementsAre(libro, "efectuar", "liberar"));
     SpyWorld sinPermiso;
-    sinPermiso.user.answerAnything(forms::Answer::No);
+    sinPermiso.user.answerAnything(Answer::No);
     orden(sinPermiso);
     EXPECT_THAT(sinPermiso.bloqueos(), ElementsAre("liberar"));
     SpyWorld rehusado;
     rehusado.spy.answers = {FDAPI::BloqueoRegistro};
-    rehusado.user.answerAnything(forms::Answer::Yes);
+    rehusado.user.answerAnything(Answer::Yes);
     orden(rehusado);
     EXPECT_THAT(rehusado.bloqueos(), ElementsAre(libro, "efectuar"));
     EXPECT_EQ(rehusado.count("Libro_Bautismo WHERE Cerrado = false"), 1);
@@ -64,7 +58,7 @@ TEST(FacadeLocks, Books_AreLockedAfterTheQuestionAndGivenBackUnlessRefused) {
     auto* fallos = store::FailingEngine::wrap(roto.con());
     fallos->failOn("update libro", store::ErrorKind::ReadOnly);
     fallos->failOn("delete * from libro", store::ErrorKind::ReadOnly);
-    roto.user.answerAnything(forms::Answer::Yes);
+    roto.user.answerAnything(Answer::Yes);
     orden(roto);
     EXPECT_THAT(roto.bloqueos(), ElementsAre(libro, "efectuar", "liberar"));
   }
@@ -73,8 +67,8 @@ TEST(FacadeLocks, Books_AreLockedAfterTheQuestionAndGivenBackUnlessRefused) {
 TEST(FacadeLocks, HeldByAnother_CanBeTriedAgainAndOpensAsItIsNow) {
   FacadeWorld w;
   auto otra = w.ocupar("Bautismo", "1");
-  w.user.answerAnything(forms::Answer::Ok);
-  w.user.expectForm("frmPartidaBautismo", [&](forms::FormDriver& u) {
+  w.user.answerAnything(Answer::Ok);
+  w.user.expectForm("frmPartidaBautismo", [&](FormDriver& u) {
     EXPECT_EQ(u.text("lblSoloLectura"),
               "Solo se puede consultar: lo tiene luis, en el equipo SACRISTIA, desde el 22/11/2026 "
               "a las 10:30.");
@@ -88,7 +82,7 @@ TEST(FacadeLocks, HeldByAnother_CanBeTriedAgainAndOpensAsItIsNow) {
     u.click("cmdReintentar");
     EXPECT_TRUE(u.closed());
   });
-  w.user.expectForm("frmPartidaBautismo", [&](forms::FormDriver& u) {
+  w.user.expectForm("frmPartidaBautismo", [&](FormDriver& u) {
     EXPECT_EQ(u.text("txtBautismo(7)"), "Rosario");
     EXPECT_EQ(u.form().find("cmdReintentar"), nullptr);
     u.tab("mstBautismo", 1);
@@ -99,7 +93,6 @@ TEST(FacadeLocks, HeldByAnother_CanBeTriedAgainAndOpensAsItIsNow) {
   EXPECT_EQ(w.user.messages().size(), 2u) << "once on opening, once on the try in vain";
   EXPECT_EQ(w.value("SELECT Nombre FROM bautismo_hijo"), "Rosa");
   w.esperarLibre();
-  EXPECT_SCRIPT_DONE(w.user);
 }
 
 TEST(FacadeLocks, UnknownNode_NoDialogNoLock) {
@@ -124,8 +117,6 @@ TEST(FacadeLocks, UnknownNode_NoDialogNoLock) {
   }
   EXPECT_THAT(w.spy.log, IsEmpty());
   EXPECT_EQ(w.count("Bautismo"), 1);
-  EXPECT_SCRIPT_DONE(w.user);
 }
 
-}  // namespace
-}  // namespace fidaleon::tests
+}  // namespace fidaleon::tests::LocksTest

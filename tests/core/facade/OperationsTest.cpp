@@ -3,11 +3,7 @@
 #include "core/contract/Sacramento.h"
 #include "core/facade/FacadeWorld.h"
 
-namespace fidaleon::tests {
-namespace {
-
-using forms::Answer;
-using forms::FormDriver;
+namespace fidaleon::tests::OperationsTest {
 
 constexpr const char* NODO = "PartidasBautismo";
 
@@ -24,7 +20,6 @@ TEST(FacadeDialogs, Clipboard_IsKept) {
     w.user.expectForm("frmPartidaBautismo", acto);
     w.nucleo.PropiedadesPartida(w.con(), 1, w.config, NODO);
     EXPECT_EQ(w.user.clipboardText(), texto);
-    EXPECT_SCRIPT_DONE(w.user);
   }
 }
 
@@ -49,7 +44,6 @@ TEST(FacadeBooks, ClosingAndDeleting_ReachTheirOwnTable) {
     EXPECT_EQ(w.count(tabla), 0) << tabla;
   }
   w.esperarLibre();
-  EXPECT_SCRIPT_DONE(w.user);
 }
 
 TEST(FacadeKeeper, Chosen_IsRememberedForNextTime) {
@@ -77,7 +71,6 @@ TEST(FacadeKeeper, Chosen_IsRememberedForNextTime) {
   EXPECT_EQ(w.value("SELECT Encargado FROM Ultimos"), "Rosa O'Hara")
       << "cancelling forgets nothing";
   w.esperarLibre();
-  EXPECT_SCRIPT_DONE(w.user);
 }
 
 TEST(FacadeSetup, Result_SaysWhetherTheDataAreThere) {
@@ -90,8 +83,6 @@ TEST(FacadeSetup, Result_SaysWhetherTheDataAreThere) {
   w.user.expectForm("frmDatosSetup", [](FormDriver& u) { u.click("cmdBoton(1)"); });
   w.nucleo.DatosSetup(w.con(), completo);
   EXPECT_FALSE(completo);
-  EXPECT_SCRIPT_DONE(w.user);
 }
 
-}  // namespace
-}  // namespace fidaleon::tests
+}  // namespace fidaleon::tests::OperationsTest

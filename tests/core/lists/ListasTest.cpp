@@ -1,17 +1,10 @@
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include "core/contract/Sacramento.h"
 #include "core/lists/cIListas.h"
 #include "forms/Form.h"
 #include "registers/Rows.h"
 #include "support/TestWorld.h"
 
-namespace fidaleon {
-namespace {
-
-using FDAPI::cCOrigen;
-using ::testing::ElementsAre;
+namespace fidaleon::tests::ListasTest {
 
 struct Ventana : forms::Form {
   explicit Ventana(forms::UserInterface& ui)
@@ -37,7 +30,7 @@ class Listas : public ::testing::Test {
     listas.fillFormatoLibro(ventana.lista, origen, mundo.con(), nuevo);
     return datos(ventana.lista);
   }
-  void libro(const std::string& nombre) { tests::insertBook(mundo, BAUTISMO, 1, {nombre}); }
+  void libro(const std::string& nombre) { insertBook(mundo, BAUTISMO, 1, {nombre}); }
   std::string nombre(std::int64_t tipo, const Sacramento& s = BAUTISMO) {
     return listas.ObtenerNombreLibro(mundo.con(), tipo, 1, s.byte, error);
   }
@@ -46,7 +39,7 @@ class Listas : public ::testing::Test {
                                std::to_string(columna), "nada");
   }
 
-  tests::TestWorld mundo;
+  TestWorld mundo;
   cIListas listas{mundo.contexto};
   Ventana ventana{mundo.user};
   bool error = false;
@@ -87,15 +80,14 @@ TEST_F(Listas, BookNameOfAYearWith99Books_IsRefused) {
   EXPECT_TRUE(error);
   EXPECT_EQ(mundo.user.beeps(), 1);
   EXPECT_EQ(mundo.user.messages().at(0).icon, forms::MsgIcon::Exclamation);
-  EXPECT_SCRIPT_DONE(mundo.user);
 }
 
 TEST_F(Listas, BookNameThatCannotBeLookedUp_IsReportedAndFails) {
-  mundo.user.answerAnything(forms::Answer::Ok);
+  mundo.user.answerAnything(Answer::Ok);
   EXPECT_EQ(listas.ObtenerNombreLibro(mundo.conInformes(), 2, 1, BAUTISMO.byte, error), "");
   EXPECT_TRUE(error);
   ASSERT_FALSE(mundo.user.messages().empty());
-  EXPECT_THAT(mundo.user.messages()[0].text, ::testing::HasSubstr("ObtenerNombreLibro()"));
+  EXPECT_THAT(mundo.user.messages()[0].text, HasSubstr("ObtenerNombreLibro()"));
 }
 
 TEST_F(Listas, Grid_KeepsStoredWidthsAndWritesMissingOnes) {
@@ -125,5 +117,4 @@ TEST_F(Listas, Provinces_AreFilledAnewWithTheirChoiceKept) {
   EXPECT_THAT(datos(ventana.otra), ElementsAre(1));
 }
 
-}  // namespace
-}  // namespace fidaleon
+}  // namespace fidaleon::tests::ListasTest

@@ -1,15 +1,9 @@
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include "core/lists/RegistryKey.h"
 #include "support/FileSettings.h"
 #include "support/MemorySettings.h"
 #include "support/TestWorld.h"
 
-namespace fidaleon {
-namespace {
-
-using ::testing::ElementsAre;
+namespace fidaleon::tests::RegistryTest {
 
 using Almacen = support::MemorySettings;
 
@@ -36,13 +30,13 @@ TEST(RegistryKey, ValuesAndKeysUnderIt_AreListedOnceAndDeleted) {
 }
 
 TEST(RegistryKey, OnTheSettingsFile_KeepsWhatIsWrittenAndForgetsWhatIsDeleted) {
-  const tests::TempDirectory carpeta;
+  const TempDirectory carpeta;
   const auto fichero = carpeta.path() / "ajustes.ini";
   {
     support::FileSettings ajustes(fichero);
     RegistryKey clave(ajustes);
     clave.CreateKey("Fidaleon", "Instalación\\Ruta");
-    EXPECT_THAT(clave.ValueNames(), ::testing::IsEmpty());
+    EXPECT_THAT(clave.ValueNames(), IsEmpty());
     clave.Value("Disco", "C:\\Fidaleon = \"uno\"");
     clave.Value("Sobra", "1");
     clave.DeleteValue("Sobra");
@@ -56,5 +50,4 @@ TEST(RegistryKey, OnTheSettingsFile_KeepsWhatIsWrittenAndForgetsWhatIsDeleted) {
   EXPECT_EQ(clave.Value("Disco"), "C:\\Fidaleon = \"uno\"");
 }
 
-}  // namespace
-}  // namespace fidaleon
+}  // namespace fidaleon::tests::RegistryTest

@@ -7,8 +7,7 @@
 #include "registers/allocation/PosicionLibre.h"
 #include "store/FailingEngine.h"
 
-namespace fidaleon::tests {
-namespace {
+namespace fidaleon::tests::PositionsTest {
 
 class ConLibro : public ::testing::TestWithParam<const Sacramento*> {
  protected:
@@ -123,5 +122,4 @@ TEST_P(Subida, storeThatFailsHalfWay_leavesTheCountersAsLastWritten) {
   EXPECT_FALSE(mundo.con().inTransaction());
 }
 
-}  // namespace
-}  // namespace fidaleon::tests
+}  // namespace fidaleon::tests::PositionsTest

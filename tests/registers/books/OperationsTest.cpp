@@ -2,11 +2,7 @@
 #include "registers/books/OperacionesLibro.h"
 #include "store/FailingEngine.h"
 
-namespace fidaleon {
-namespace {
-
-using forms::Answer;
-using ::testing::HasSubstr;
+namespace fidaleon::tests::OperationsTest {
 
 constexpr const char* PREGUNTA_CERRAR =
     "Si cierra este libro no podrá introducir más partidas. ¿Desea cerrarlo?";
@@ -15,10 +11,10 @@ constexpr const char* PREGUNTA_ELIMINAR = "¿Seguro que quiere eliminar el libro
 class OperacionesLibro : public ::testing::TestWithParam<std::size_t> {
  protected:
   const Sacramento& s = SACRAMENTOS.at(GetParam());
-  tests::TestWorld mundo;
+  TestWorld mundo;
 
   std::int32_t libro(bool nuevo, bool cerrado = false) {
-    return tests::insertBook(mundo, s, 1, {"Libro", nuevo, 3, cerrado});
+    return insertBook(mundo, s, 1, {"Libro", nuevo, 3, cerrado});
   }
   bool cerrado() {
     return mundo.con().Execute(std::string("SELECT * FROM ") + s.tablaLibros).flag("Cerrado");
@@ -33,14 +29,7 @@ class OperacionesLibro : public ::testing::TestWithParam<std::size_t> {
   void eliminar(std::int32_t id) { eliminarLibro(mundo.contexto, mundo.con(), id, s); }
   /// Another workstation holds the book.
   std::unique_ptr<FDAPI::cProcesarBloqueos> ocuparLibro(std::int32_t id) {
-    auto otra = mundo.otherSession();
-    FDAPI::DefinicionBloqueo b;
-    b.strTabla = s.tablaLibros;
-    b.strRegistro = std::to_string(id);
-    b.conBd = mundo.parish.get();
-    otra->DefinirBloqueo(b);
-    EXPECT_EQ(otra->lngEfectuarBloqueos(), 0);
-    return otra;
+    return mundo.otherHolds(s.tablaLibros, id);
   }
 };
 
@@ -66,7 +55,6 @@ TEST_P(OperacionesLibro, openNewBook_isClosedAfterAsking) {
   cerrar(id);
   mundo.user.expectMessage("¡No se puede cerrar un libro antiguo!");
   cerrar(libro(false));
-  EXPECT_SCRIPT_DONE(mundo.user);
 }
 
 TEST_P(OperacionesLibro, bookWithEntries_isNotDeletedEvenIfTheyCameWhileTheQuestionStood) {
@@ -77,7 +65,6 @@ TEST_P(OperacionesLibro, bookWithEntries_isNotDeletedEvenIfTheyCameWhileTheQuest
     eliminar(id);
   }
   EXPECT_EQ(libros(), 1);
-  EXPECT_SCRIPT_DONE(mundo.user);
 }
 
 TEST_P(OperacionesLibro, emptyBook_isDeletedAfterAsking) {
@@ -91,7 +78,6 @@ TEST_P(OperacionesLibro, emptyBook_isDeletedAfterAsking) {
   EXPECT_EQ(libros(), 1);
   EXPECT_EQ(mundo.value(std::string("SELECT ") + s.claveLibro + " FROM " + s.tablaLibros),
             std::to_string(id + 1));
-  EXPECT_SCRIPT_DONE(mundo.user);
 }
 
 TEST_P(OperacionesLibro, bookHeldByAnotherOrGone_isLeftAlone) {
@@ -124,5 +110,4 @@ TEST_P(OperacionesLibro, storeThatFails_isReportedUnderTheNameOfTheOperation) {
   EXPECT_EQ(libros(), 1);
 }
 
-}  // namespace
-}  // namespace fidaleon
+}  // namespace fidaleon::tests::OperationsTest

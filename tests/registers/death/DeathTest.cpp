@@ -49,12 +49,11 @@ TEST_F(Death, New_BeginsWithTheInstitutionAndStoresWhatIsKnown) {
             "2026112007:1520261122");
   EXPECT_EQ(stored("Causa") + stored("NumeroHijos") + stored("RelacionDifunto"), "---2Hija");
   EXPECT_EQ(stored("NotasMarginales") + stored("NombreContacto"), "------");
-  EXPECT_SCRIPT_DONE(w.user);
 }
 
 TEST_F(Death, BurialBeforeTheDeath_IsAskedAboutAndNothingStored) {
   book("Libro 1");
-  open(cCOperacion::ANADIR, [&](FormDriver& d) {
+  openAndCancel(cCOperacion::ANADIR, [&](FormDriver& d) {
     chooseBook(d, "Libro 1");
     typePerson(d, "Ana");
     d.type("adtpDefuncion(1)", "22/11/2026");
@@ -62,7 +61,6 @@ TEST_F(Death, BurialBeforeTheDeath_IsAskedAboutAndNothingStored) {
     d.type("adtpDefuncion(0)", "21/11/2026");
     w.user.expectMessage("Hay fechas que no pueden ser. ¿Desea guardarlas así?", Answer::No);
     accept(d);
-    cancel(d);
   });
   EXPECT_EQ(w.count("Defuncion"), 0);
 }
@@ -74,7 +72,7 @@ TEST_F(Death, BaptismFound_BringsBirthAndParentsAndNothingElse) {
       {"Ana", insertBook(w, BAUTISMO, parish, {"B", false, 1, false, "19500101"}), 4, "12"});
   w.con().Execute("UPDATE Bautismo_Hijo SET CodMunicipioNac=" +
                   std::to_string(w.municipio("Getafe", "Madrid")));
-  open(cCOperacion::ANADIR, [&](FormDriver& d) {
+  openAndCancel(cCOperacion::ANADIR, [&](FormDriver& d) {
     chooseBook(d, "Libro 1");
     w.user.expectForm("frmBuscaPadres", [](FormDriver& hits) {
       EXPECT_EQ(hits.caption(), "Búsqueda por García Pérez");
@@ -87,36 +85,29 @@ TEST_F(Death, BaptismFound_BringsBirthAndParentsAndNothingElse) {
     EXPECT_EQ(d.text("cboDefuncion(7)"), "Getafe");
     EXPECT_EQ(d.text("cboDefuncion(3)"), "Alcalá de Henares");
     EXPECT_EQ(d.text(text(P::DomicilioActual)), "");
-    cancel(d);
   });
-  EXPECT_SCRIPT_DONE(w.user);
 }
 
 TEST_F(Death, Corrected_AsksOnlyForBlankTexts) {
   const std::int32_t id = entry("Ana", book("Libro 1"), 1, "1");
   for (const char* cause : {"Vejez", "Pulmonía"})
-    open(
-        cCOperacion::EDITAR,
-        [&](FormDriver& d) {
-          tab(d, P::TAB_DIFUNTO);
-          d.type(text(P::Causa), cause);
-          if (cause == std::string("Vejez")) w.user.expectMessage(k.blanks, Answer::Yes);
-          accept(d);  // the second time the lists and dates alone are blank
-        },
-        id);
+    edit(id, [&](FormDriver& d) {
+      tab(d, P::TAB_DIFUNTO);
+      d.type(text(P::Causa), cause);
+      if (cause == std::string("Vejez")) w.user.expectMessage(k.blanks, Answer::Yes);
+      accept(d);  // the second time the lists and dates alone are blank
+    });
   EXPECT_EQ(stored("Causa") + stored("EstadoCivil"), "Pulmonía---");
-  EXPECT_SCRIPT_DONE(w.user);
 }
 
 TEST_F(Death, FirstEntryOfAnOldBook_TakesItsDateBack) {
   book("Libro 1", false, 3, "19500101");
   w.user.answerAnything(Answer::Yes);
-  open(cCOperacion::ANTIGUA, [&](FormDriver& d) {
+  openAndCancel(cCOperacion::ANTIGUA, [&](FormDriver& d) {
     chooseBook(d, "Libro 1");
     typePerson(d, "Ana");
     d.type("adtpDefuncion(1)", "01/01/1890");
     accept(d);
-    cancel(d);
   });
   EXPECT_EQ(w.value("SELECT FechaCreacion FROM Libro_Defuncion"), "18900101");
 }
@@ -126,22 +117,18 @@ TEST_F(Death, TypedFolioAboveTheLimit_IsRefusedUnlessItStoodThere) {
   const std::int32_t id = entry("Ana", book("Libro 1", false), 1, "1");
   w.con().Execute("UPDATE Defuncion SET Folio=9");
   const char* limit = "¡Ha llegado al límite de folios establecidos para un libro!";
-  open(
-      cCOperacion::EDITAR,
-      [&](FormDriver& d) {
-        d.type("txtLibro(1)", "7");
-        tab(d, P::TAB_NOTAS);
-        w.user.expectMessage(limit);
-        accept(d);
-        EXPECT_EQ(tab(d), 0);
-        d.type("txtLibro(1)", "9");
-        w.user.expectMessage(k.blanks, Answer::Yes);
-        accept(d);
-        EXPECT_TRUE(d.closed());
-      },
-      id);
+  edit(id, [&](FormDriver& d) {
+    d.type("txtLibro(1)", "7");
+    tab(d, P::TAB_NOTAS);
+    w.user.expectMessage(limit);
+    accept(d);
+    EXPECT_EQ(tab(d), 0);
+    d.type("txtLibro(1)", "9");
+    w.user.expectMessage(k.blanks, Answer::Yes);
+    accept(d);
+    EXPECT_TRUE(d.closed());
+  });
   EXPECT_EQ(stored("Folio"), "9");
-  EXPECT_SCRIPT_DONE(w.user);
 }
 
 }  // namespace fidaleon::tests

@@ -18,54 +18,41 @@ class EditedEntry : public EntryWorld {
 INSTANTIATE_TEST_SUITE_P(Registers, EditedEntry, EVERY_ENTRY, wordOf);
 
 TEST_P(EditedEntry, Correction_IsStoredAndThePositionIsNotForTheUser) {
-  open(
-      cCOperacion::EDITAR,
-      [&](FormDriver& d) {
-        EXPECT_EQ(d.caption(), k.editCaption + std::string("nueva") + k.position);
-        EXPECT_EQ(d.visible(button(2)), k.annulsEdit);
-        for (const std::string& fixed :
-             {std::string("txtLibro(1)"), list(k.institution), list(k.book)})
-          EXPECT_TRUE(d.locked(fixed)) << fixed;
-        EXPECT_EQ(d.text(list(k.book)), "Libro 1");
-        rename(d, "Luis María");
-        acceptEdit(d);
-        EXPECT_TRUE(d.closed());
-      },
-      id);
+  edit(id, [&](FormDriver& d) {
+    EXPECT_EQ(d.caption(), k.editCaption + std::string("nueva") + k.position);
+    EXPECT_EQ(d.visible(button(2)), k.annulsEdit);
+    for (const std::string& fixed : {std::string("txtLibro(1)"), list(k.institution), list(k.book)})
+      EXPECT_TRUE(d.locked(fixed)) << fixed;
+    EXPECT_EQ(d.text(list(k.book)), "Libro 1");
+    rename(d, "Luis María");
+    acceptEdit(d);
+    EXPECT_TRUE(d.closed());
+  });
   EXPECT_EQ(stored(), "Luis María");
   EXPECT_EQ(entries(), 1);
-  EXPECT_SCRIPT_DONE(w.user);
 }
 
 TEST_P(EditedEntry, NothingChangedOrCancelled_WritesNothing) {
   store::FailingEngine::wrap(w.con())->failAlwaysOn("UPDATE");
-  open(
-      cCOperacion::EDITAR, [&](FormDriver& d) { acceptEdit(d); }, id);
-  open(
-      cCOperacion::EDITAR,
-      [&](FormDriver& d) {
-        rename(d, "Otro");
-        cancel(d);
-      },
-      id);
+  edit(id, [&](FormDriver& d) { acceptEdit(d); });
+  edit(id, [&](FormDriver& d) {
+    rename(d, "Otro");
+    cancel(d);
+  });
   EXPECT_EQ(stored(), "Luis");
-  EXPECT_SCRIPT_DONE(w.user);
 }
 
 TEST_P(EditedEntry, FailingUpdate_KeepsTheDialogOpen) {
   store::FailingEngine::wrap(w.con())->failOn(std::string("UPDATE ") + k.lastRow,
                                               store::ErrorKind::Busy);
   w.user.answerAnything(Answer::Yes);
-  open(
-      cCOperacion::EDITAR,
-      [&](FormDriver& d) {
-        rename(d, "Otro");
-        accept(d);
-        EXPECT_FALSE(d.closed());
-        accept(d);
-        EXPECT_TRUE(d.closed());
-      },
-      id);
+  edit(id, [&](FormDriver& d) {
+    rename(d, "Otro");
+    accept(d);
+    EXPECT_FALSE(d.closed());
+    accept(d);
+    EXPECT_TRUE(d.closed());
+  });
   EXPECT_EQ(stored(), "Otro");
 }
 
@@ -80,20 +67,16 @@ TEST_P(EditedEntry, FailingLoad_ShowsNothingThatCouldBeAccepted) {
   dialog->Show();
   EXPECT_TRUE(dialog->isUnloaded());
   ASSERT_FALSE(w.user.messages().empty());
-  EXPECT_THAT(w.user.messages()[0].text,
-              ::testing::HasSubstr("frmPartida" + word() + " / Form_Load"));
+  EXPECT_THAT(w.user.messages()[0].text, HasSubstr("frmPartida" + word() + " / Form_Load"));
 }
 
 TEST_P(EditedEntry, RowOfItGone_MayBeReadButNotChanged) {
   w.con().Execute(std::string("DELETE * FROM ") + k.lastRow);
   w.user.answerAnything(Answer::Ok);
-  open(
-      cCOperacion::EDITAR,
-      [&](FormDriver& d) {
-        EXPECT_FALSE(d.enabled(button(0)));
-        cancel(d);
-      },
-      id);
+  edit(id, [&](FormDriver& d) {
+    EXPECT_FALSE(d.enabled(button(0)));
+    cancel(d);
+  });
   EXPECT_EQ(w.user.messages().size(), 1u);
 }
 
@@ -102,50 +85,37 @@ TEST_P(EditedEntry, Annulled_IsLockedAsItsRegisterSaysAndKeepsItsMark) {
   if (!k.annulsEdit)
     w.con().Execute(std::string("UPDATE ") + k.s.tablaPartidas + " SET Anulada=1");
   else
-    open(
-        cCOperacion::EDITAR,
-        [&](FormDriver& d) {
-          if (k.asksOther) w.user.expectMessage(k.blanks, Answer::Yes);
-          d.click(button(2));
-          EXPECT_EQ(d.text(button(2)), "&Validar");
-          accept(d);
-        },
-        id);
-  open(
-      cCOperacion::EDITAR,
-      [&](FormDriver& d) {
-        EXPECT_EQ(d.caption(), k.editCaption + std::string("antigua") + k.position);
-        EXPECT_TRUE(d.visible("lblPartidaAnulada"));
-        EXPECT_TRUE(d.locked("txtLibro(1)"));
-        EXPECT_EQ(d.locked(name()), k.annulledIsLocked);
-        tab(d, k.notes.tab);
-        EXPECT_EQ(d.locked(text(k.notes.index)), !k.notesStayOpen);
-        if (k.notesStayOpen) d.type(text(k.notes.index), "Por error de folio");
-        accept(d);
-      },
-      id);
+    edit(id, [&](FormDriver& d) {
+      if (k.asksOther) w.user.expectMessage(k.blanks, Answer::Yes);
+      d.click(button(2));
+      EXPECT_EQ(d.text(button(2)), "&Validar");
+      accept(d);
+    });
+  edit(id, [&](FormDriver& d) {
+    EXPECT_EQ(d.caption(), k.editCaption + std::string("antigua") + k.position);
+    EXPECT_TRUE(d.visible("lblPartidaAnulada"));
+    EXPECT_TRUE(d.locked("txtLibro(1)"));
+    EXPECT_EQ(d.locked(name()), k.annulledIsLocked);
+    tab(d, k.notes.tab);
+    EXPECT_EQ(d.locked(text(k.notes.index)), !k.notesStayOpen);
+    if (k.notesStayOpen) d.type(text(k.notes.index), "Por error de folio");
+    accept(d);
+  });
   EXPECT_EQ(entries("Anulada=true"), 1);
   EXPECT_EQ(entries("NotasMarginales=\"Por error de folio\""), k.notesStayOpen ? 1 : 0);
   if (!k.annulsEdit) return;
   forms::Contents typed;
-  open(
-      cCOperacion::EDITAR,
-      [&](FormDriver& d) {
-        d.click(button(2));
-        d.type("txtLibro(1)", "7");
-        typed = forms::Contents::of(d.form());
-        cancel(d);
-      },
-      id);
-  open(
-      cCOperacion::EDITAR,
-      [&](FormDriver& d) {
-        putBack(d, typed);
-        accept(d);
-      },
-      id);
+  edit(id, [&](FormDriver& d) {
+    d.click(button(2));
+    d.type("txtLibro(1)", "7");
+    typed = forms::Contents::of(d.form());
+    cancel(d);
+  });
+  edit(id, [&](FormDriver& d) {
+    putBack(d, typed);
+    accept(d);
+  });
   EXPECT_EQ(entries("Anulada=false AND Folio=7"), 1);
-  EXPECT_SCRIPT_DONE(w.user);
 }
 
 class RequestedEntry : public EntryWorld {
@@ -195,31 +165,27 @@ TEST_P(RequestedEntry, New_IsStoredOutsideAnyBookAndCorrectedThere) {
   }
   EXPECT_EQ(w.value(std::string("SELECT Nombre FROM ") + k.person), "Carlos");
   EXPECT_EQ(value("InstitucionSolicitud"), std::to_string(moves ? other : parish));
-  EXPECT_SCRIPT_DONE(w.user);
 }
 
 TEST_P(RequestedEntry, WithoutInstitution_IsRefusedInItsOwnWords) {
-  open(cCOperacion::ANADIRSOLICITUD, [&](FormDriver& d) {
+  openAndCancel(cCOperacion::ANADIRSOLICITUD, [&](FormDriver& d) {
     w.user.expectMessage(
         std::string("¡Antes de introducir datos en la solicitud, tiene que elegir una ") +
         k.institutionWord + "!");
     tab(d, 1);
-    cancel(d);
   });
-  EXPECT_SCRIPT_DONE(w.user);
 }
 
 TEST_P(RequestedEntry, InstitutionBeyondOneByte_IsReportedAndNothingWritten) {
   w.con().Execute("INSERT INTO Institucion (IDInstitucion, Nombre) VALUES (300, \"Lejana\")");
   w.user.answerAnything(Answer::Yes);
-  open(cCOperacion::ANADIRSOLICITUD, [&](FormDriver& d) {
+  openAndCancel(cCOperacion::ANADIRSOLICITUD, [&](FormDriver& d) {
     d.choose(list(k.institution), "Lejana");
     typePerson(d, "Luis");
     accept(d);
     EXPECT_FALSE(d.closed());
-    cancel(d);
   });
-  EXPECT_THAT(w.user.messages().back().text, ::testing::HasSubstr("255"));
+  EXPECT_THAT(w.user.messages().back().text, HasSubstr("255"));
   EXPECT_EQ(entries(), 0);
   EXPECT_EQ(w.count("bautismo_padres"), 0);
 }

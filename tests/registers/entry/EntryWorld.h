@@ -3,7 +3,6 @@
 // entries of all registers is proved once, for each EntryKind.
 
 #include <array>
-#include <string>
 
 #include "registers/Registers.h"
 #include "registers/entry/DialogoDePartida.h"
@@ -11,11 +10,6 @@
 #include "support/TestWorld.h"
 
 namespace fidaleon::tests {
-
-using FDAPI::cCOperacion;
-using FDAPI::cCOrigen;
-using forms::Answer;
-using forms::FormDriver;
 
 /// What a test has to know of a register's entry dialog.
 struct EntryKind {
@@ -206,7 +200,7 @@ class EntryHands : public ::testing::Test {
   }
 
   /// Shows the dialog as the tree does; `act` works on it.
-  void open(cCOperacion operation, forms::ScriptedUser::Act act, std::int32_t id = 0) {
+  void open(cCOperacion operation, Act act, std::int32_t id = 0) {
     w.user.expectForm("frmPartida" + word(), std::move(act));
     const auto dialog = dialogoDePartida(&k.s)(w.contexto);
     dialog->conBaseDatos = &w.con();
@@ -216,6 +210,15 @@ class EntryHands : public ::testing::Test {
         operation == cCOperacion::ANADIRSOLICITUD || operation == cCOperacion::EDITARSOLICITUD;
     if (!request) dialog->Origen = cCOrigen::PRINCIPAL;
     dialog->Show();
+  }
+
+  void edit(std::int32_t id, Act act) { open(cCOperacion::EDITAR, std::move(act), id); }
+  /// The user gives up at the end.
+  void openAndCancel(cCOperacion operation, const Act& act) {
+    open(operation, [&](FormDriver& d) {
+      act(d);
+      cancel(d);
+    });
   }
 
   void tab(FormDriver& d, int index) const { d.tab("mst" + word(), index); }
@@ -250,7 +253,7 @@ class EntryHands : public ::testing::Test {
 
   /// As a draft does it.
   static void putBack(FormDriver& d, const forms::Contents& typed) {
-    EXPECT_THAT(forms::putBack(d.form(), typed.fields), ::testing::IsEmpty());
+    EXPECT_THAT(forms::putBack(d.form(), typed.fields), IsEmpty());
     EXPECT_EQ(d.form().putBackOwnWork(typed.own), "");
   }
 

@@ -7,7 +7,7 @@ namespace fidaleon::tests {
 class ListedEntry : public EntryWorld {
  protected:
   /// Adds an entry to the list; `act` works on its dialog.
-  void add(std::int32_t libro, forms::ScriptedUser::Act act) {
+  void add(std::int32_t libro, Act act) {
     const auto openBook = propiedadesDeLibro(k.s)(w.contexto);
     openBook->conBaseDatos = &w.con();
     openBook->lngLibro = libro;
@@ -43,7 +43,6 @@ TEST_P(ListedEntry, SamePersonInTheWorkingCopy_AsksTheExistenceQuestion) {
   });
   EXPECT_EQ(entries(), 1);
   EXPECT_EQ(bookValue("FolioSiguiente"), "2");
-  EXPECT_SCRIPT_DONE(w.user);
 }
 
 TEST_P(ListedEntry, InANewBook_GoesForwardExceptInMenorca) {
@@ -56,7 +55,6 @@ TEST_P(ListedEntry, InANewBook_GoesForwardExceptInMenorca) {
       cancel(e);
     });
   }
-  EXPECT_SCRIPT_DONE(w.user);
 }
 
 }  // namespace fidaleon::tests

@@ -13,7 +13,7 @@ TEST_P(OldEntry, TypedPosition_IsCheckedOnLeavingTheFirstTabAndTheJumpBehindItTo
   entry("B", old, 3, "3");
   w.con().Execute(std::string("UPDATE ") + k.s.tablaLibros +
                   " SET FolioSiguiente=2, NumeroSiguiente=\"2\"");
-  open(cCOperacion::ANTIGUA, [&](FormDriver& d) {
+  openAndCancel(cCOperacion::ANTIGUA, [&](FormDriver& d) {
     chooseBook(d, "Antiguo");
     EXPECT_FALSE(d.locked("txtLibro(1)"));
     d.type("txtLibro(1)", "1");
@@ -35,9 +35,7 @@ TEST_P(OldEntry, TypedPosition_IsCheckedOnLeavingTheFirstTabAndTheJumpBehindItTo
         (&k.s == &MATRIMONIO ? "" : "\n") + "la correspondiente al folio 4, número 4!");
     accept(d);
     EXPECT_EQ(d.text("txtLibro(1)"), "4");
-    cancel(d);
   });
-  EXPECT_SCRIPT_DONE(w.user);
 }
 
 TEST_P(OldEntry, TakenNumber_IsSaidWithItsFoliosAndReplacedWhenTheUserAgrees) {
@@ -48,7 +46,7 @@ TEST_P(OldEntry, TakenNumber_IsSaidWithItsFoliosAndReplacedWhenTheUserAgrees) {
   const std::string question =
       std::string("La partida que va a introducir coincide con otra. El numero se ") + k.replaced +
       " por el 12b ¿Desea continuar?";
-  open(cCOperacion::ANTIGUA, [&](FormDriver& d) {
+  openAndCancel(cCOperacion::ANTIGUA, [&](FormDriver& d) {
     chooseBook(d, "Antiguo");
     d.type("txtLibro(1)", "3");
     d.type("txtLibro(2)", "12A");
@@ -64,35 +62,28 @@ TEST_P(OldEntry, TakenNumber_IsSaidWithItsFoliosAndReplacedWhenTheUserAgrees) {
       EXPECT_EQ(tab(d), agreed ? 1 : 0);
       EXPECT_EQ(d.focused() == "txtLibro(1)", !agreed);
     }
-    cancel(d);
   });
-  EXPECT_SCRIPT_DONE(w.user);
 }
 
 TEST_P(OldEntry, NumberOfAnotherForm_IsRefusedWhenTypedAndKeptWhenStored) {
   const std::int32_t id = entry("A", book("Antiguo", false), 1, "12 bis");
-  open(cCOperacion::ANTIGUA, [&](FormDriver& d) {
+  openAndCancel(cCOperacion::ANTIGUA, [&](FormDriver& d) {
     chooseBook(d, "Antiguo");
     d.type("txtLibro(2)", "12 bis");
     EXPECT_EQ(d.text("txtLibro(2)"), "12b");
     EXPECT_EQ(w.user.beeps(), 3);
     d.paste("txtLibro(2)", "12 bis");
     EXPECT_EQ(d.text("txtLibro(2)"), "12b");
-    cancel(d);
   });
-  open(
-      cCOperacion::EDITAR,
-      [&](FormDriver& d) {
-        EXPECT_EQ(d.text("txtLibro(2)"), "12 bis");
-        EXPECT_FALSE(d.visible("lblNumeroRepetido")) << "by itself";
-        tab(d, k.name.tab);
-        d.type(name(), "B");
-        acceptEdit(d);
-      },
-      id);
+  edit(id, [&](FormDriver& d) {
+    EXPECT_EQ(d.text("txtLibro(2)"), "12 bis");
+    EXPECT_FALSE(d.visible("lblNumeroRepetido")) << "by itself";
+    tab(d, k.name.tab);
+    d.type(name(), "B");
+    acceptEdit(d);
+  });
   EXPECT_EQ(value("Numero"), "12 bis");
   EXPECT_EQ(w.count(std::string(k.person) + " WHERE Nombre=\"B\""), 1);
-  EXPECT_SCRIPT_DONE(w.user);
 }
 
 TEST_P(OldEntry, Dates_MoveTheBookByTheRuleOfItsRegister) {
@@ -113,13 +104,12 @@ TEST_P(OldEntry, Dates_MoveTheBookByTheRuleOfItsRegister) {
     EXPECT_EQ(bookValue("FechaCreacion"), k.bookDates[row++]) << day;
   }
   EXPECT_EQ(bookValue("FolioSiguiente"), "4");
-  EXPECT_SCRIPT_DONE(w.user);
 }
 
 TEST_P(OldEntry, AnnulledBeforeItIsStored_IsPutBackWholeAndStoredSo) {
   book("Antiguo", false);
   forms::Contents typed;
-  open(cCOperacion::ANTIGUA, [&](FormDriver& d) {
+  openAndCancel(cCOperacion::ANTIGUA, [&](FormDriver& d) {
     chooseBook(d, "Antiguo");
     typePerson(d, "Eva");
     EXPECT_EQ(d.visible(button(2)), k.annulsOld);
@@ -132,25 +122,22 @@ TEST_P(OldEntry, AnnulledBeforeItIsStored_IsPutBackWholeAndStoredSo) {
     EXPECT_EQ(d.enabled("cmdAltaPoblacion"), !k.annulledIsLocked);
     EXPECT_EQ(d.locked(text(k.notes.index)), !k.notesStayOpen);
     typed = forms::Contents::of(d.form());
-    cancel(d);
   });
   if (!k.annulsOld) return;
-  open(cCOperacion::ANTIGUA, [&](FormDriver& d) {
+  openAndCancel(cCOperacion::ANTIGUA, [&](FormDriver& d) {
     putBack(d, typed);
     EXPECT_EQ(d.text(name()), "Eva");
     w.user.expectMessage(FURTHER_ENTRY, Answer::Yes);
     accept(d);
     EXPECT_FALSE(d.locked(name())) << "the next one is valid";
-    cancel(d);
   });
   EXPECT_EQ(entries("Anulada=true AND Folio=1"), 1);
-  EXPECT_SCRIPT_DONE(w.user);
 }
 
 TEST_P(OldEntry, EmptyPosition_IsAskedForUnlessThereIsNoBook) {
   book("Antiguo", false);
   const char* empty = "¡Debe introducir datos en el campo folio!";
-  open(cCOperacion::ANTIGUA, [&](FormDriver& d) {
+  openAndCancel(cCOperacion::ANTIGUA, [&](FormDriver& d) {
     d.choose(list(k.institution), "San Pedro");
     d.focus("txtLibro(1)");
     w.user.expectMessage(empty);
@@ -162,9 +149,7 @@ TEST_P(OldEntry, EmptyPosition_IsAskedForUnlessThereIsNoBook) {
     w.user.expectMessage(empty);
     d.focus("txtLibro(2)");
     EXPECT_EQ(d.focused(), "txtLibro(1)");
-    cancel(d);
   });
-  EXPECT_SCRIPT_DONE(w.user);
 }
 
 }  // namespace fidaleon::tests

@@ -7,11 +7,6 @@
 
 namespace fidaleon::tests {
 
-using FDAPI::cCOrigen;
-using forms::FormDriver;
-using ::testing::ElementsAre;
-using ::testing::IsEmpty;
-
 struct LookUp {
   const Sacramento& s;
   cCOrigen origin;
@@ -53,7 +48,7 @@ class LookedUp : public ::testing::TestWithParam<LookUp> {
     for (const FilaBusqueda& f : search(request)) ids.push_back(f.IDBautismo);
     return ids;
   }
-  void show(frmBuscaPadres& dialog, forms::ScriptedUser::Act act) {
+  void show(frmBuscaPadres& dialog, Act act) {
     w.user.expectForm("frmBuscaPadres", std::move(act));
     dialog.conBaseDatos = &w.con();
     dialog.Origen = GetParam().origin;
@@ -139,7 +134,6 @@ TEST_P(LookedUp, Hits_AreShownWithTheirDetailsAndTheChosenOneIsTaken) {
   } else {
     EXPECT_EQ(dialog.bautizado.IDBautismo, ana);
   }
-  EXPECT_SCRIPT_DONE(w.user);
 }
 
 TEST_P(LookedUp, CancelledOrGoneMeanwhile_BringsNothing) {
@@ -147,7 +141,7 @@ TEST_P(LookedUp, CancelledOrGoneMeanwhile_BringsNothing) {
   frmBuscaPadres dialog(w.contexto);
   show(dialog, [](FormDriver& hits) { hits.click("cmdBoton(1)"); });
   EXPECT_FALSE(dialog.blnAceptado);
-  w.user.answerAnything(forms::Answer::Ok);
+  w.user.answerAnything(Answer::Ok);
   frmBuscaPadres again(w.contexto);
   show(again, [&](FormDriver& hits) {
     w.con().Execute("DELETE * FROM Bautismo");

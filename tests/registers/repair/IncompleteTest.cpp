@@ -5,9 +5,6 @@
 
 namespace fidaleon::tests {
 
-using ::testing::ElementsAre;
-using ::testing::EndsWith;
-
 class IncompleteEntries : public PropertiesWorld {
  protected:
   void SetUp() override {
@@ -21,7 +18,7 @@ class IncompleteEntries : public PropertiesWorld {
     w.con().Execute("DELETE * FROM " + r.childTable + " WHERE " + r.childKey + "=" +
                     std::to_string(id));
   }
-  void show(forms::ScriptedUser::Act act) {
+  void show(Act act) {
     w.user.expectForm("frmPartidasIncompletas", std::move(act));
     frmPartidasIncompletas dialog(w.contexto);
     dialog.conBaseDatos = &w.con();
@@ -61,7 +58,6 @@ TEST_P(IncompleteEntries, Completed_HaveTheirRowsAgainAndAreOpened) {
     EXPECT_EQ(grid(d).rowCount(), 2);
     cancelBook(d);
   });
-  EXPECT_SCRIPT_DONE(w.user);
 }
 
 TEST_P(IncompleteEntries, Removed_GoWithAllTheirRows) {
@@ -70,9 +66,8 @@ TEST_P(IncompleteEntries, Removed_GoWithAllTheirRows) {
     w.user.expectMessage(sure, Answer::No);
     d.click("cmdBoton(1)");
     const auto& question = w.user.messages().back();
-    EXPECT_THAT(question.below,
-                ::testing::StartsWith("Libro Libro 1, folio 2, número 2. Le falta: " + lost() +
-                                      ".\nSe perderá lo que queda de "));
+    EXPECT_THAT(question.below, StartsWith("Libro Libro 1, folio 2, número 2. Le falta: " + lost() +
+                                           ".\nSe perderá lo que queda de "));
     EXPECT_THAT(question.below,
                 EndsWith(&r.sacrament == &BAUTISMO     ? "padre: Juan García; madre: Ana Pérez."
                          : &r.sacrament == &MATRIMONIO ? "novia: Eva Sanz."
@@ -86,7 +81,6 @@ TEST_P(IncompleteEntries, Removed_GoWithAllTheirRows) {
   });
   for (const FilaDePartida& f : formaPartida(r.sacrament)->filas)
     EXPECT_EQ(w.count(f.tabla), text::equalsNoCase(f.tabla, r.childTable) ? 1 : 2) << f.tabla;
-  EXPECT_SCRIPT_DONE(w.user);
 }
 
 TEST_P(IncompleteEntries, HeldOrMendedElsewhere_AreLeftAlone) {
@@ -107,7 +101,7 @@ TEST_P(IncompleteEntries, HeldOrMendedElsewhere_AreLeftAlone) {
     EXPECT_EQ(grid(d).rowCount(), 1);
     d.click("cmdBoton(2)");
   });
-  EXPECT_THAT(opened, ::testing::IsEmpty());
+  EXPECT_THAT(opened, IsEmpty());
   EXPECT_EQ(entries(), 2);
 }
 

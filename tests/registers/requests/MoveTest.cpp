@@ -9,13 +9,6 @@
 
 namespace fidaleon::tests {
 
-using FDAPI::cCOrigen;
-using forms::Answer;
-using forms::FormDriver;
-using ::testing::ElementsAre;
-using ::testing::HasSubstr;
-using ::testing::IsEmpty;
-
 struct Requests {
   const Sacramento& s;
   cCOrigen origin;
@@ -40,7 +33,7 @@ class MovedRequests : public ::testing::TestWithParam<Requests> {
   }
   /// In the tables of the register.
   std::string sql(const PlantillaSql& text) const { return sentencia(s, text); }
-  void open(forms::ScriptedUser::Act act) {
+  void open(Act act) {
     w.user.expectForm("frmSolicitudes", std::move(act));
     frmSolicitudes dialog(w.contexto);
     dialog.conBaseDatos = &w.con();
@@ -109,7 +102,6 @@ TEST_P(MovedRequests, ThreeOfFour_TakeTheNextPositionsAndKeepTheirKeys) {
             1);
   EXPECT_EQ(outside(), 2);
   EXPECT_EQ(w.user.hourglassDepth(), 0);
-  EXPECT_SCRIPT_DONE(w.user);
 }
 
 TEST_P(MovedRequests, Positions_FollowTheLastRowOfTheLastFolio) {
@@ -123,7 +115,6 @@ TEST_P(MovedRequests, Positions_FollowTheLastRowOfTheLastFolio) {
   open(moveAll);
   EXPECT_THAT(inBook(libro), ElementsAre("3/12", "2/40", "3/41", "4/42"));
   EXPECT_EQ(w.value(sql("SELECT FolioSiguiente FROM {Libros}")), "9");
-  EXPECT_SCRIPT_DONE(w.user);
 }
 
 TEST_P(MovedRequests, InstitutionsWithoutBookOrRequests_AreRefused) {
@@ -144,7 +135,6 @@ TEST_P(MovedRequests, InstitutionsWithoutBookOrRequests_AreRefused) {
     d.escape();
   });
   EXPECT_EQ(w.user.beeps(), 4);
-  EXPECT_SCRIPT_DONE(w.user);
 }
 
 TEST_P(MovedRequests, NothingChosenOrBookClosed_MovesNothing) {
@@ -165,7 +155,6 @@ TEST_P(MovedRequests, NothingChosenOrBookClosed_MovesNothing) {
     d.click("cmdBoton(1)");
   });
   EXPECT_EQ(outside(), 1);
-  EXPECT_SCRIPT_DONE(w.user);
 }
 
 TEST_P(MovedRequests, Details_AreThoseOfTheMarkedRequest) {
@@ -190,7 +179,6 @@ TEST_P(MovedRequests, Details_AreThoseOfTheMarkedRequest) {
     d.click("cmdDetalles");
     d.click("cmdBoton(1)");
   });
-  EXPECT_SCRIPT_DONE(w.user);
 }
 
 TEST_P(MovedRequests, FailureInTheMiddle_KeepsWhatWasMovedAndOffersTheRest) {
@@ -214,7 +202,6 @@ TEST_P(MovedRequests, FailureInTheMiddle_KeepsWhatWasMovedAndOffersTheRest) {
     EXPECT_TRUE(d.closed());
   });
   EXPECT_THAT(inBook(libro), ElementsAre("1/1", "2/2", "3/3"));
-  EXPECT_SCRIPT_DONE(w.user);
 }
 
 TEST_P(MovedRequests, MovedMeanwhileByAnother_KeepsItsPosition) {
@@ -232,19 +219,12 @@ TEST_P(MovedRequests, MovedMeanwhileByAnother_KeepsItsPosition) {
     EXPECT_TRUE(d.closed());
   });
   EXPECT_THAT(inBook(libro), ElementsAre("7/7", "8/8"));
-  EXPECT_SCRIPT_DONE(w.user);
 }
 
 TEST_P(MovedRequests, BookOpenElsewhere_NothingIsMoved) {
   const std::int32_t libro = book(true, 3);
   request("Luis", parish);
-  const auto other = w.otherSession();
-  FDAPI::DefinicionBloqueo held;
-  held.strTabla = s.tablaLibros;
-  held.strRegistro = std::to_string(libro);
-  held.conBd = &w.con();
-  other->DefinirBloqueo(held);
-  ASSERT_EQ(other->lngEfectuarBloqueos(), 0);
+  const auto other = w.otherHolds(s.tablaLibros, libro);
   w.user.answerAnything(Answer::Ok);
   open([&](FormDriver& d) {
     moveAll(d);
@@ -253,7 +233,6 @@ TEST_P(MovedRequests, BookOpenElsewhere_NothingIsMoved) {
     d.click("cmdBoton(1)");
   });
   EXPECT_THAT(inBook(libro), IsEmpty());
-  EXPECT_SCRIPT_DONE(w.user);
 }
 
 TEST_P(MovedRequests, Deleted_GoesWithAllItsRowsAndTouchesNoBook) {
@@ -268,7 +247,6 @@ TEST_P(MovedRequests, Deleted_GoesWithAllItsRowsAndTouchesNoBook) {
     EXPECT_EQ(w.count(t.name()), 1) << t.name();
   }
   EXPECT_EQ(w.value(sql("SELECT FolioSiguiente FROM {Libros}")), "9");
-  EXPECT_SCRIPT_DONE(w.user);
 }
 
 INSTANTIATE_TEST_SUITE_P(
