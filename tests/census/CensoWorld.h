@@ -3,6 +3,7 @@
 
 #include <cstdint>
 
+#include "support/Fields.h"
 #include "support/TestWorld.h"
 
 namespace fidaleon::tests {
@@ -30,26 +31,21 @@ struct CensoWorld : TestWorld {
         "AñoNacimiento",
         citar({nombre, primerApellido, segundoApellido, dni, "Calle Mayor, 3"}) +
             ",0,\"28013\",\"915550101\",'','','','','','','',''," + texto(parroquia) + ",'','',''");
-    const auto fila = [&](const char* tabla, const std::string& valores) {
-      con().Execute(std::string("INSERT INTO Padron_") + tabla + " VALUES (" + texto(id) + "," +
-                    valores + ")");
+    const auto fila = [&](const char* tabla, const std::string& resto) {
+      insert(con(), std::string("Padron_") + tabla, "CodPadron=" + texto(id) + "; " + resto);
     };
-    fila("Nacimiento (CodPadron,FechaNacimiento,CodMunicipioNac,NombrePadre,NombreMadre)",
-         "'19700315',0,'Luis','Carmen'");
-    fila("Bautismo (CodPadron,FechaBautizo,CodMunicipioParrBaut,ParroquiaBaut,DireccionParrBaut)",
-         "'19700410',0,'San Ginés','Arenal, 13'");
-    fila("Comunion (CodPadron,AñoComunion,ParroquiaCom)", "'1979','San Ginés'");
-    fila(
-        "Confirmacion (CodPadron,FechaConfirmacion,CodMunicipioParrConf,ParroquiaConf,"
-        "DireccionParrConf)",
-        "'',0,'',''");
-    fila(
-        "Matrimonio (CodPadron,FechaMatrimonio,CodMunicipioParrMatr,ParroquiaMatr,"
-        "DireccionParrMatr)",
-        "'',0,'',''");
-    fila("Defuncion (CodPadron,FechaDefuncion,Nicho,ImporteEur,Importe,Pagado)",
-         "'','','6,01','1.000',FALSE");
-    for (const Tipo tipo : tipos) fila("TipoPersona (CodPadron,CodTipoPersona)", texto(tipo));
+    fila("Nacimiento",
+         "FechaNacimiento=19700315; CodMunicipioNac=0; NombrePadre=Luis; NombreMadre=Carmen");
+    fila("Bautismo",
+         "FechaBautizo=19700410; CodMunicipioParrBaut=0; ParroquiaBaut=San Ginés; "
+         "DireccionParrBaut=Arenal, 13");
+    fila("Comunion", "AñoComunion=1979; ParroquiaCom=San Ginés");
+    fila("Confirmacion",
+         "FechaConfirmacion=; CodMunicipioParrConf=0; ParroquiaConf=; DireccionParrConf=");
+    fila("Matrimonio",
+         "FechaMatrimonio=; CodMunicipioParrMatr=0; ParroquiaMatr=; DireccionParrMatr=");
+    fila("Defuncion", "FechaDefuncion=; Nicho=; ImporteEur=6,01; Importe=1.000; Pagado=FALSE");
+    for (const Tipo tipo : tipos) fila("TipoPersona", "CodTipoPersona=" + texto(tipo));
     return id;
   }
   std::int32_t colaborador(const std::string& nombre, const std::string& apellido) {

@@ -33,49 +33,41 @@ const Sacramental BAUTISMAL{
     "Bautismo",
     {"UPDATE Bautismo SET CodLibro = 0, Folio = 0, Numero = \"---\", InstitucionSolicitud = 1"}};
 
-using I = cInformes;
-
 }  // namespace
 
 std::vector<Golden> bautismos() {
   const Row nina = genero("a la niña", "nacida");
   return {
-      {"ImprimirCertificadoPartidaBautismo", &I::ImprimirCertificadoPartidaBautismo, &BAUTISMAL,
+      {MIEMBRO(ImprimirCertificadoPartidaBautismo), &BAUTISMAL,
        PARTIDA + FIRMADA + Row{{"Sexo", "Dª."}}},
       // Keeps the Spanish dates and adds the Catalan ones.
-      {"ImprimirCertificadoPartidaBautismoMenorca", &I::ImprimirCertificadoPartidaBautismoMenorca,
-       &BAUTISMAL, PARTIDA + FIRMADA + row(R"(
+      {MIEMBRO(ImprimirCertificadoPartidaBautismoMenorca), &BAUTISMAL, PARTIDA + FIRMADA + row(R"(
     Sexo=Dª.; FechaNacLargaMeno=u d'abril de 2003; FechaSisteLargMeno=tres de novembre de 2026
     FechaBauLargaMeno=vint-i-quatre de maig de 2003)")},
-      {"ImprimirCertificadoLiteralPartidaBautismo", &I::ImprimirCertificadoLiteralPartidaBautismo,
-       &BAUTISMAL, PARTIDA + FIRMADA + nina},
-      {"ImprimirCertificadoLiteralPartidaBautismoMenorca",
-       &I::ImprimirCertificadoLiteralPartidaBautismoMenorca, &BAUTISMAL,
+      {MIEMBRO(ImprimirCertificadoLiteralPartidaBautismo), &BAUTISMAL, PARTIDA + FIRMADA + nina},
+      {MIEMBRO(ImprimirCertificadoLiteralPartidaBautismoMenorca), &BAUTISMAL,
        PARTIDA + sin(FIRMADA, {"FechaSistemaLarga"}) + nina + row(R"(
     FechaSisteLargMeno=tres de novembre de 2026; FechaNacLargaMeno=u d'abril de 2003
     DiocesisMatrimonio=Toledo; ProfesionPadrino=Fuster; NaturalPadrino=Maó; EstatPadrino=Casat
     ProfesionMadrina=---; NaturalMadrina=---; EstatMadrina=---; MadreProfesion=---
     PadreProfesion=Maestro)")},
-      {"ImprimirPartidaBautismo", &I::ImprimirPartidaBautismo, &BAUTISMAL,
+      {MIEMBRO(ImprimirPartidaBautismo), &BAUTISMAL,
        PARTIDA + nina + Row{{"NotasMarginales", conPuntos("Confirmada en 2018", 291)}}},
-      {"ImprimirPartidaBautismoMenorca", &I::ImprimirPartidaBautismoMenorca, &BAUTISMAL,
+      {MIEMBRO(ImprimirPartidaBautismoMenorca), &BAUTISMAL,
        PARTIDA + FECHAS_CATALANAS + genero("la filleta", "nada") +
            Row{{"NotasMarginales", "Confirmada en 2018"}}},
-      {"ImprimirVolanteBautismo",
-       &I::ImprimirVolanteBautismo,
+      {MIEMBRO(ImprimirVolanteBautismo),
        &BAUTISMAL,
        VOLANTE,
        false,
        {"SELECT MAX(Folio) AS ID FROM Documentos_Bautismo"}},
-      {"ImprimirSolicitudPartidaBautismoDatos", &I::ImprimirSolicitudPartidaBautismoDatos,
+      {MIEMBRO(ImprimirSolicitudPartidaBautismoDatos),
        &BAUTISMAL, SOLICITUD + HOY + genero("La niña", "nacida"), true},
-      {"ImprimirSolicitudPartidaBautismoDatosMenorca",
-       &I::ImprimirSolicitudPartidaBautismoDatosMenorca, &BAUTISMAL,
+      {MIEMBRO(ImprimirSolicitudPartidaBautismoDatosMenorca), &BAUTISMAL,
        SOLICITUD + HOY + FECHAS_CATALANAS + genero("La filla", "nada") +
            Row{{"FechaSistemaLarga", "vint-i-dos de novembre de 2026"}},
        true},
-      {"ImprimirSolicitudPartidaBautismoDatosSantiago",
-       &I::ImprimirSolicitudPartidaBautismoDatosSantiago, &BAUTISMAL,
+      {MIEMBRO(ImprimirSolicitudPartidaBautismoDatosSantiago), &BAUTISMAL,
        sin(SOLICITUD, {"InstitucionTipo"}) + HOY + genero("La niña", "nacida") + (row(R"(
     InstitucionNombre=San Ginés; EdadPadrino=30; ParroquiaDomicilioPadrino=San José
     EdadMadrina=---; ParroquiaDomicilioMadrina=---; PadreParroquiaBaut=Santa Cruz
@@ -85,10 +77,10 @@ std::vector<Golden> bautismos() {
     AbueloMatParroquiaBaut=San Juan; AbueloMatProvinciaParrBaut=Madrid
     AbuelaMatParroquiaBaut=San Blas; AbuelaMatProvinciaParrBaut=Sevilla; TelefonoPadres=916950000)")),
        true},
-      {"ImprimirLibroBautismo", &I::ImprimirLibroBautismo, &BAUTISMAL, PARTIDA + nina},
-      {"ImprimirLibroBautismoMenorca", &I::ImprimirLibroBautismoMenorca, &BAUTISMAL,
+      {MIEMBRO(ImprimirLibroBautismo), &BAUTISMAL, PARTIDA + nina},
+      {MIEMBRO(ImprimirLibroBautismoMenorca), &BAUTISMAL,
        PARTIDA + FECHAS_CATALANAS + genero("la filleta", "nada")},
-      {"ImprimirIndiceLibroBautismo", &I::ImprimirIndiceLibroBautismo, &BAUTISMAL,
+      {MIEMBRO(ImprimirIndiceLibroBautismo), &BAUTISMAL,
        PARROQUIA + Row{{"Año", "2003"}, {"Letra", "G"}} +
            solo(PARTIDA, {"Libro", "Folio", "Numero", "PrimerApellidoHijo", "SegundoApellidoHijo",
                           "NombreHijo"})},

@@ -44,8 +44,6 @@ const Sacramental CONFIRMATORIO{
     {"UPDATE Confirmacion SET CodLibro = 0, Folio = 0, Numero = \"---\", InstitucionSolicitud = "
      "2"}};
 
-using I = cInformes;
-
 }  // namespace
 
 std::vector<Golden> confirmaciones() {
@@ -53,42 +51,36 @@ std::vector<Golden> confirmaciones() {
   const Row hoy = PARTIDA + HOY;
   return {
       // The age is the one at the confirmation, a day before a birthday.
-      {"ImprimirCertificadoPartidaConfirmacion", &I::ImprimirCertificadoPartidaConfirmacion,
-       &CONFIRMATORIO, FIRMADA + Row{{"Edad", "15"}}},
-      {"ImprimirCertificadoPartidaConfirmacionMenorca",
-       &I::ImprimirCertificadoPartidaConfirmacionMenorca, &CONFIRMATORIO,
+      {MIEMBRO(ImprimirCertificadoPartidaConfirmacion), &CONFIRMATORIO,
+       FIRMADA + Row{{"Edad", "15"}}},
+      {MIEMBRO(ImprimirCertificadoPartidaConfirmacionMenorca), &CONFIRMATORIO,
        FIRMADA_CATALANA + Row{{"Edad", "15"}}},
-      {"ImprimirCertificadoLiteralPartidaConfirmacion",
-       &I::ImprimirCertificadoLiteralPartidaConfirmacion, &CONFIRMATORIO, FIRMADA},
-      {"ImprimirCertificadoLiteralPartidaConfirmacionMenorca",
-       &I::ImprimirCertificadoLiteralPartidaConfirmacionMenorca, &CONFIRMATORIO, FIRMADA_CATALANA},
-      {"ImprimirPartidaConfirmacion", &I::ImprimirPartidaConfirmacion, &CONFIRMATORIO,
+      {MIEMBRO(ImprimirCertificadoLiteralPartidaConfirmacion), &CONFIRMATORIO, FIRMADA},
+      {MIEMBRO(ImprimirCertificadoLiteralPartidaConfirmacionMenorca), &CONFIRMATORIO,
+       FIRMADA_CATALANA},
+      {MIEMBRO(ImprimirPartidaConfirmacion), &CONFIRMATORIO,
        hoy + Row{{"NotasMarginales", conPuntos("Se casó en 2030", 293)}}},
-      {"ImprimirPartidaConfirmacionMenorca", &I::ImprimirPartidaConfirmacionMenorca, &CONFIRMATORIO,
-       PARTIDA + HOY_CATALAN},
+      {MIEMBRO(ImprimirPartidaConfirmacionMenorca), &CONFIRMATORIO, PARTIDA + HOY_CATALAN},
       // The age is today's, and nobody signs as keeper.
-      {"ImprimirNotificacionConfirmacion",
-       &I::ImprimirNotificacionConfirmacion,
+      {MIEMBRO(ImprimirNotificacionConfirmacion),
        &CONFIRMATORIO,
        sin(hoy, {"InstitucionEncargado"}) + Row{{"Edad", "23"}},
        false,
        {lectura}},
-      {"ImprimirNotificacionConfirmacionMenorca",
-       &I::ImprimirNotificacionConfirmacionMenorca,
+      {MIEMBRO(ImprimirNotificacionConfirmacionMenorca),
        &CONFIRMATORIO,
        sin(PARTIDA + HOY_CATALAN, {"InstitucionEncargado"}) + Row{{"Edad", "23"}},
        false,
        {lectura}},
-      {"ImprimirSolicitudConfirmacion", &I::ImprimirSolicitudConfirmacion, &CONFIRMATORIO,
+      {MIEMBRO(ImprimirSolicitudConfirmacion), &CONFIRMATORIO,
        hoy + row(R"(
     Folio=0; Numero=---; FechaBautLarga=veinticuatro de mayo de dos mil tres
     FechaBautLargaMeno=vint-i-quatre de maig de 2003)"),
        true},
-      {"ImprimirLibroConfirmacion", &I::ImprimirLibroConfirmacion, &CONFIRMATORIO,
-       hoy + CATALANAS_AL_LADO},
-      {"ImprimirLibroConfirmacionMenorca", &I::ImprimirLibroConfirmacionMenorca, &CONFIRMATORIO,
+      {MIEMBRO(ImprimirLibroConfirmacion), &CONFIRMATORIO, hoy + CATALANAS_AL_LADO},
+      {MIEMBRO(ImprimirLibroConfirmacionMenorca), &CONFIRMATORIO,
        PARTIDA + HOY_CATALAN + CATALANAS_AL_LADO},
-      {"ImprimirIndiceLibroConfirmacion", &I::ImprimirIndiceLibroConfirmacion, &CONFIRMATORIO,
+      {MIEMBRO(ImprimirIndiceLibroConfirmacion), &CONFIRMATORIO,
        PARROQUIA + Row{{"Año", "2003"}, {"Letra", "G"}} +
            solo(PARTIDA,
                 {"Libro", "Folio", "Numero", "PrimerApellido", "SegundoApellido", "Nombre"})},

@@ -35,30 +35,24 @@ const Row CON_PUNTOS{{"NotasMarginales", conPuntos("Cremado", 297)}};
 const Sacramental EXEQUIAL{
     "Documentos_Defuncion", {"Defuncion_Datos"}, "Parroquia", "Defuncion", {}};
 
-using I = cInformes;
-
 }  // namespace
 
 std::vector<Golden> defunciones() {
   const Row libro = sin(PARTIDA, {"FechaSistemaLarga"}) + RESIDENCIA;
   return {
-      {"ImprimirCertificadoPartidaDefuncion", &I::ImprimirCertificadoPartidaDefuncion, &EXEQUIAL,
-       CERTIFICADO + CON_PUNTOS},
-      {"ImprimirCertificadoPartidaDefuncionMenorca", &I::ImprimirCertificadoPartidaDefuncionMenorca,
-       &EXEQUIAL, CERTIFICADO + CATALANA},
-      {"ImprimirCertificadoLiteralPartidaDefuncion", &I::ImprimirCertificadoLiteralPartidaDefuncion,
-       &EXEQUIAL, CERTIFICADO + RESIDENCIA},
-      {"ImprimirCertificadoLiteralPartidaDefuncionMenorca",
-       &I::ImprimirCertificadoLiteralPartidaDefuncionMenorca, &EXEQUIAL,
+      {MIEMBRO(ImprimirCertificadoPartidaDefuncion), &EXEQUIAL, CERTIFICADO + CON_PUNTOS},
+      {MIEMBRO(ImprimirCertificadoPartidaDefuncionMenorca), &EXEQUIAL, CERTIFICADO + CATALANA},
+      {MIEMBRO(ImprimirCertificadoLiteralPartidaDefuncion), &EXEQUIAL, CERTIFICADO + RESIDENCIA},
+      {MIEMBRO(ImprimirCertificadoLiteralPartidaDefuncionMenorca), &EXEQUIAL,
        CERTIFICADO + RESIDENCIA + CATALANA},
-      {"ImprimirPartidaDefuncion", &I::ImprimirPartidaDefuncion, &EXEQUIAL,
+      {MIEMBRO(ImprimirPartidaDefuncion), &EXEQUIAL,
        PARTIDA + RESIDENCIA + CON_PUNTOS},
-      {"ImprimirPartidaDefuncionMenorca", &I::ImprimirPartidaDefuncionMenorca, &EXEQUIAL,
+      {MIEMBRO(ImprimirPartidaDefuncionMenorca), &EXEQUIAL,
        PARTIDA + RESIDENCIA + CATALANA},
-      {"ImprimirLibroDefuncion", &I::ImprimirLibroDefuncion, &EXEQUIAL, libro},
-      {"ImprimirLibroDefuncionMenorca", &I::ImprimirLibroDefuncionMenorca, &EXEQUIAL,
+      {MIEMBRO(ImprimirLibroDefuncion), &EXEQUIAL, libro},
+      {MIEMBRO(ImprimirLibroDefuncionMenorca), &EXEQUIAL,
        libro + sin(CATALANA, {"FechaSistemaLarga"})},
-      {"ImprimirIndiceLibroDefuncion", &I::ImprimirIndiceLibroDefuncion, &EXEQUIAL,
+      {MIEMBRO(ImprimirIndiceLibroDefuncion), &EXEQUIAL,
        PARROQUIA + Row{{"Año", "2003"}, {"Letra", "G"}} +
            solo(PARTIDA,
                 {"Libro", "Folio", "Numero", "PrimerApellido", "SegundoApellido", "Nombre"})},

@@ -8,14 +8,6 @@ namespace fidaleon::tests::DocumentRulesTest {
 
 constexpr const char* FECHA = "20261103";
 
-TEST(BaptismDocuments, EachPlace_IsAskedForOnce) {
-  BautismoWorld w;
-  const store::FailingEngine* motor = store::FailingEngine::wrap(w.con());
-  w.informes.ImprimirPartidaBautismo(w.con(), w.conInformes(), 1);
-  // Three towns by name and province, and the key 0, which needs no statement.
-  EXPECT_LE(motor->executed().size(), 1u + 2u * 4u);
-}
-
 TEST(BaptismDocuments, WhatIsNotKnown_IsPrintedAsEachDocumentHasIt) {
   using I = cInformes;
   const char *sinNota = "UPDATE Bautismo SET NotasMarginales=NULL",

@@ -74,12 +74,6 @@ TEST_P(Documents, DependentRowMissing_NoRowAndNoMessage) {
   }
 }
 
-TEST_P(Documents, CalledTwice_LeavesTwoRows) {
-  imprimir();
-  imprimir();
-  EXPECT_EQ(filas(), 2 * GetParam().filas);
-}
-
 TEST_P(Documents, QuotesAndScriptsOfAnyKind_ArriveAsTheyAreStored) {
   const Sacramental& s = *GetParam().sacramento;
   w.run(std::string("UPDATE ") + s.conNotas +

@@ -14,6 +14,9 @@ using Firmado = void (cInformes::*)(FDAPI::Conexion&, FDAPI::Conexion&, std::int
                                     const std::string&, const std::string&);
 using SinFirma = void (cInformes::*)(FDAPI::Conexion&, FDAPI::Conexion&, std::int32_t);
 
+/// The name of a member and the member.
+#define MIEMBRO(nombre) #nombre, &cInformes::nombre
+
 inline constexpr const char* FIRMA = "Pedro Ruiz";
 
 /// What the entries of a sacrament are made of.

@@ -5,11 +5,10 @@
 #include <utility>
 
 #include "core/statements/Sentencia.h"
+#include "support/Fields.h"
 #include "support/TestWorld.h"
 
 namespace fidaleon::tests {
-
-using Values = std::vector<std::pair<std::string, std::string>>;
 
 inline std::string quoted(const std::string& text) {
   return entreComillas(text);
@@ -102,20 +101,13 @@ inline std::int32_t insertEntry(TestWorld& w, const Sacramento& s, const EntryRo
         insertRow(w, table, {{"CodConfirmacion", std::to_string(id)}});
     return id;
   }
-  const auto parent = [&](const char* name, const std::string& table) {
-    return std::to_string(insertRow(
-        w, "Bautismo_" + table,
-        {{"Nombre", quoted(name)}, {"PrimerApellido", quoted("García")}, {"Abuelo", "\"---\""}},
-        "ID" + table));
-  };
-  entry.push_back({"CodPadres", parent("Juan", "Padres")});
-  entry.push_back({"CodMadres", parent("Ana", "Madres")});
-  entry.push_back(
-      {"CodMatrimonio", std::to_string(insertRow(w, "Bautismo_Matrimonio",
-                                                 {{"Parroquia", quoted("San Juan")},
-                                                  {"FechaMatr", quoted("19980606")},
-                                                  {"DireccionPadres", quoted("Calle del Pez, 3")}},
-                                                 "IDMatrimonio"))});
+  insert(w.con(), "Bautismo_Padres", "Nombre=Juan; PrimerApellido=García; Abuelo=---");
+  insert(w.con(), "Bautismo_Madres", "Nombre=Ana; PrimerApellido=García; Abuelo=---");
+  insert(w.con(), "Bautismo_Matrimonio",
+         "Parroquia=San Juan; FechaMatr=19980606; DireccionPadres=Calle del Pez, 3");
+  for (const char* own : {"Padres", "Madres", "Matrimonio"})
+    entry.push_back({std::string("Cod") + own,
+                     w.value(std::string("SELECT MAX(ID") + own + ") AS ID FROM Bautismo_" + own)});
   const std::int32_t id = insertRow(w, s.tablaPartidas, entry, s.clavePartida);
   Values child = person;
   child.push_back({"CodBautismo", std::to_string(id)});

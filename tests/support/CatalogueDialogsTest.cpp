@@ -35,7 +35,6 @@ class Catalogues : public ::testing::Test {
     u.click("cmdBoton(0)");
     EXPECT_FALSE(u.closed()) << message;
   }
-  void TearDown() override { EXPECT_SCRIPT_DONE(w.user); }
   TestWorld w;
 };
 
@@ -200,7 +199,6 @@ struct CatalogueRow {
 
 class CatalogueInUse : public ::testing::TestWithParam<CatalogueRow> {
  protected:
-  void TearDown() override { EXPECT_SCRIPT_DONE(w.user); }
   bool eliminar() { return GetParam().eliminar(*w.contexto.fidaleon(), w.user, w.con(), id); }
   tests::TestWorld w;
   const std::int32_t town = w.municipio("Getafe", "Provincia de prueba");

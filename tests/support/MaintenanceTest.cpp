@@ -5,7 +5,6 @@ namespace fidaleon::support::MaintenanceTest {
 
 class Maintenance : public ::testing::Test {
  protected:
-  void TearDown() override { EXPECT_SCRIPT_DONE(w.user); }
   tests::TestWorld w;
   Mantenimiento commands{w.contexto, w.con()};
 };

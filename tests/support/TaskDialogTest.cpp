@@ -8,7 +8,6 @@ using forms::FormDriver;
 
 class Tasks : public ::testing::Test {
  protected:
-  void TearDown() override { EXPECT_SCRIPT_DONE(w.user); }
   std::string row() {
     std::string all;
     for (const char* field : {"Fecha", "HoraInicio", "HoraFin", "Nombre", "Descripcion"})

@@ -1,8 +1,8 @@
 #include <QMenuBar>
 
-#include "parish/Insert.h"
 #include "printing/DocumentReport.h"
 #include "printing/ReportProgress.h"
+#include "support/Fields.h"
 #include "window/OpenWindow.h"
 
 namespace fidaleon::app::CensusWindowTest {
@@ -26,10 +26,8 @@ TEST_F(CensusWindow, ArrivalsAreChosenAfterANewOneOnly) {
   std::int32_t gained = 0;
   const auto giveRole = [&](FormDriver& d) {
     gained = someoneWith(1);
-    Insert("Padron_TipoPersona")
-        .number("CodPadron", gained)
-        .number("CodTipoPersona", 3)
-        .into(desk->parish());
+    tests::insert(desk->parish(), "Padron_TipoPersona",
+                  "CodTipoPersona=3; CodPadron=" + std::to_string(gained));
     d.escape();
   };
   user.expectForm("frmColaborador", giveRole);
@@ -184,9 +182,8 @@ TEST_F(CensusWindow, TasksOpenAtTheNextOneTodayIncluded) {
   };
   desk->parish().Execute("DELETE * FROM Tareas WHERE Fecha=\"20260520\"");
   EXPECT_EQ(dayChosen(), count("SELECT MIN(Fecha) FROM Tareas WHERE Fecha>\"20260520\""));
-  desk->parish().Execute(
-      "INSERT INTO Tareas (Fecha, HoraInicio, HoraFin, Nombre) VALUES (\"20260520\", \"1000\", "
-      "\"1100\", \"De hoy\")");
+  tests::insert(desk->parish(), "Tareas",
+                "Fecha=20260520; HoraInicio=1000; HoraFin=1100; Nombre=De hoy");
   EXPECT_EQ(dayChosen(), 20260520) << "one of today is still to come";
   desk->parish().Execute("DELETE * FROM Tareas WHERE Fecha>=\"20260520\"");
   dayChosen();

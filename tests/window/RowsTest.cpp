@@ -3,9 +3,12 @@
 #include "parish/Insert.h"
 #include "parish/Parish.h"
 #include "store/Open.h"
+#include "support/Fields.h"
 #include "window/RowsFilter.h"
 
 namespace fidaleon::app::RowsTest {
+
+using tests::insert;
 
 /// A list of entries whose surnames, numbers and dates are awkward on purpose.
 class Rows : public ::testing::Test {
@@ -13,11 +16,7 @@ class Rows : public ::testing::Test {
   void SetUp() override {
     con = store::memoryDatabase(store::parishSchema());
     addInstitution(*con, "San Blas", 0);
-    Insert("Libro_Bautismo")
-        .number("CodInstitucion", 1)
-        .text("Nombre", "Libro I")
-        .text("FechaCreacion", "19000101")
-        .into(*con);
+    insert(*con, "Libro_Bautismo", "CodInstitucion=1; Nombre=Libro I; FechaCreacion=19000101");
     add("Íñigo", "Nuñez", "12a", "19990101", false);
     add("Oscar", "Núñez", "2", "---", false);
     add("Óscar", "Ñíguez", "10", "20010203", true);
@@ -28,19 +27,12 @@ class Rows : public ::testing::Test {
 
   void add(const std::string& name, const std::string& surname, const std::string& number,
            const std::string& day, bool annulled) {
-    const std::int32_t id = Insert("Bautismo")
-                                .number("CodLibro", 1)
-                                .number("Folio", 1)
-                                .text("Numero", number)
-                                .text("FechaBautismo", day)
-                                .number("Anulada", annulled)
-                                .into(*con, "IDBautismo");
-    Insert("Bautismo_Hijo")
-        .number("CodBautismo", id)
-        .text("Nombre", name)
-        .text("PrimerApellido", surname)
-        .text("FechaNac", "---")
-        .into(*con);
+    insert(*con, "Bautismo",
+           "CodLibro=1; Folio=1; Numero=" + number + "; FechaBautismo=" + day +
+               (annulled ? "; Anulada=TRUE" : ""));
+    insert(*con, "Bautismo_Hijo",
+           "CodBautismo=" + std::to_string(++entries) + "; Nombre=" + name +
+               "; PrimerApellido=" + surname + "; FechaNac=---");
   }
 
   int column(const std::string& title) const {
@@ -60,6 +52,7 @@ class Rows : public ::testing::Test {
     return values;
   }
 
+  int entries = 0;
   std::unique_ptr<store::Connection> con;
   RowsModel model;
   RowsFilter shown;
@@ -121,10 +114,9 @@ TEST_F(Rows, AnotherLoad_SortsAndFiltersWhatIsThereNow) {
 }
 
 TEST_F(Rows, TimesAreShownWithAColon_AndALongTextInOneLine) {
-  for (const char* times : {"\"0905\", \"\"", "\"\", \"2330\""})
-    con->Execute(std::string("INSERT INTO Tareas (Fecha, HoraInicio, HoraFin, Nombre, Descripcion) "
-                             "VALUES (\"20260524\", ") +
-                 times + ", \"Coro\", \"uno\r\ndos\")");
+  for (const char* times : {"HoraInicio=0905", "HoraFin=2330"})
+    insert(*con, "Tareas", std::string("Fecha=20260524; Nombre=Coro; ") + times);
+  con->Execute("UPDATE Tareas SET Descripcion=\"uno\r\ndos\"");
   model.load(*con, *findNode("Tareas"));
   EXPECT_THAT(sorted("Desde", "Desde"), ElementsAre("", "09:05"));
   EXPECT_EQ(cell(0, "Hasta"), "23:30");
@@ -136,13 +128,13 @@ TEST_F(Rows, TimesAreShownWithAColon_AndALongTextInOneLine) {
 
 /// Somebody with these roles, without town or institution.
 void addPerson(store::Connection& con, const char* name, const std::vector<int>& roles) {
-  const std::int32_t id = Insert("Padron")
-                              .text("Nombre", name)
-                              .text("PrimerApellido", "O'Farrill \"el Indiano\"")
-                              .number("CodMunicipio", 0)
-                              .into(con, "IDPadron");
+  insert(
+      con, "Padron",
+      std::string("PrimerApellido=O'Farrill \"\"el Indiano\"\"; CodMunicipio=0; Nombre=") + name);
+  const auto id = con.Execute("SELECT MAX(IDPadron) AS ID FROM Padron").integer("ID");
   for (const int role : roles)
-    Insert("Padron_TipoPersona").number("CodPadron", id).number("CodTipoPersona", role).into(con);
+    insert(con, "Padron_TipoPersona",
+           "CodPadron=" + std::to_string(id) + "; CodTipoPersona=" + std::to_string(role));
 }
 
 TEST_F(Rows, PeopleAreListedOnceInEachOfTheirRoles) {
@@ -150,7 +142,7 @@ TEST_F(Rows, PeopleAreListedOnceInEachOfTheirRoles) {
   addPerson(*con, "Colaborador", {3});
   addPerson(*con, "Ambas cosas", {2, 3});
   addPerson(*con, "Nada", {});
-  Insert("Padron_Nacimiento").number("CodPadron", 3).text("FechaNacimiento", "19801231").into(*con);
+  insert(*con, "Padron_Nacimiento", "CodPadron=3; FechaNacimiento=19801231");
   model.load(*con, *findNode("Padrón"));
   EXPECT_THAT(sorted("Nombre", "Nombre"), ElementsAre("Ambas cosas", "Empadronada"));
   EXPECT_EQ(cell(0, "Nacimiento"), "31/12/1980");

@@ -111,26 +111,11 @@ TEST(FacadeBooks, BookOpenInOne_IsReadOnlyInTheOther) {
     u.click("cmdPartidas(1)");
     otro.nucleo.NuevaPartida(w.con(), otro.config, "PartidasBautismo");
     EXPECT_EQ(w.otherUser.messages().size(), 3u) << "each was told who has the book";
+    otro.nucleo.PropiedadesLibro(w.con(), 77, otro.config, NODO);  // gone: opens nothing
     cancelarLibro(u);
   });
   w.nucleo.PropiedadesLibro(w.con(), 1, w.config, NODO);
   w.esperarLibre();
-}
-
-TEST(FacadeBooks, EntryOpenFromTheTree_KeepsTheListReadOnly) {
-  FacadeWorld w;
-  OtroPuesto otro(w);
-  w.otherUser.answerAnything(Answer::Ok);
-  w.user.expectForm("frmPartidaBautismo", [&](FormDriver& u) {
-    w.otherUser.expectForm(DIALOGO, [](FormDriver& v) {
-      EXPECT_FALSE(v.enabled("cmdPartidas(1)"));
-      v.escape();
-    });
-    otro.nucleo.PropiedadesLibro(w.con(), 1, otro.config, NODO);
-    otro.nucleo.PropiedadesLibro(w.con(), 77, otro.config, NODO);  // gone: opens nothing
-    cancelar(u);
-  });
-  w.nucleo.PropiedadesPartida(w.con(), 1, w.config, "PartidasBautismo");
 }
 
 TEST(FacadeBooks, InstitutionHeldElsewhere_FixesTheNameButTheBookIsStillHeld) {

@@ -85,24 +85,6 @@ TEST_P(FacadeDocuments, HeldElsewhereOrGone_GivesNoRow) {
   w.esperarLibre();
 }
 
-TEST_P(FacadeDocuments, StoreFails_IsReportedByTheMemberOfItsName) {
-  WithFacade<PartidasWorld> w;
-  preparar(w);
-  store::FailingEngine::wrap(w.conInformes())->failOn(std::string("INSERT INTO ") + tabla);
-  w.user.answerAnything(Answer::Ok);
-  imprimir(w, 1);
-  EXPECT_EQ(filas(w), 0);
-  EXPECT_FALSE(w.conInformes().inTransaction());
-  std::string miembro = "Imprimir" + std::string(d.operacion).substr(7);
-  for (const char* compartido : {"ImprimirVolanteBautismo", "ImprimirIndiceLibroBautismo"})
-    if (miembro == compartido + std::string("Menorca")) miembro = compartido;
-  ASSERT_FALSE(w.user.messages().empty());
-  EXPECT_THAT(
-      w.user.messages().back().text,
-      HasSubstr(d.sacramento == &MATRIMONIO ? "  - "
-                                            : "FidaleonNucleo / cInformes / " + miembro + ")"));
-}
-
 std::vector<const Documento*> conOperacion() {
   std::vector<const Documento*> lineas;
   for (const Documento& d : documentos())

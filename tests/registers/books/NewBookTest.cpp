@@ -36,6 +36,12 @@ class AltaLibro : public ::testing::TestWithParam<std::size_t> {
     return mundo.settings.read("Fidaleon", "ana\\Castellano\\ultimos", "ultimos_Institucion");
   }
 
+  static void aceptarNuevo(FormDriver& f) {
+    f.chooseData("cboTipoNombre", 4);
+    f.type("txtNombreLibro", "Otro");
+    f.chooseData("cboFormato", 3);
+    f.click("cmdBoton(0)");
+  }
   static void rellenarAntiguo(FormDriver& f) {
     f.choose("cboInstituciones", "San Juan");
     f.click("optAntiguo");
@@ -69,16 +75,12 @@ TEST_P(AltaLibro, newBook_isStoredOpenWithItsCountersAtOne) {
     f.click("cmdBoton(0)");
     EXPECT_TRUE(f.closed());
   });
-  ASSERT_EQ(libros(), 1);
-  for (const auto& [columna, valor] : std::initializer_list<std::pair<const char*, std::string>>{
-           {"CodInstitucion", std::to_string(sanJuan)},
-           {"CodFormato", "3"},
-           {"CodTipoNombre", "1"},
-           {"FechaCreacion", "20261122"},
-           {"NumeroSiguiente", "1"},
-           {"FolioSiguiente", "1"}})
-    EXPECT_EQ(libro(columna), valor) << columna;
-  EXPECT_EQ(libro("Nombre", "nuevo=true and cerrado=false"), "2026/01");
+  EXPECT_EQ(libros(), 1);
+  EXPECT_EQ(libro("Nombre", "CodInstitucion=" + std::to_string(sanJuan) +
+                                " AND CodFormato=3 AND CodTipoNombre=1 AND "
+                                "FechaCreacion='20261122' AND NumeroSiguiente='1' AND "
+                                "FolioSiguiente=1 AND Nuevo=true AND Cerrado=false"),
+            "2026/01");
   EXPECT_EQ(ultima(), "San Juan");
   EXPECT_EQ(mundo.user.hourglassDepth(), 0);
 }
@@ -99,18 +101,12 @@ TEST_P(AltaLibro, secondOpenNewBookOfAnInstitution_isRefusedAtAcceptance) {
   abrir([&](FormDriver& f) {
     f.choose("cboInstituciones", "San Juan");
     f.click("optNuevo");
-    f.chooseData("cboTipoNombre", 4);
-    f.type("txtNombreLibro", "Otro");
-    f.chooseData("cboFormato", 3);
-    f.click("cmdBoton(0)");
+    aceptarNuevo(f);
     EXPECT_FALSE(f.closed());
     EXPECT_EQ(f.focused(), "cboInstituciones");
     f.choose("cboInstituciones", "Santa Ana");
     f.click("optNuevo");
-    f.chooseData("cboTipoNombre", 4);
-    f.type("txtNombreLibro", "Otro");
-    f.chooseData("cboFormato", 3);
-    f.click("cmdBoton(0)");
+    aceptarNuevo(f);
     EXPECT_TRUE(f.closed()) << "another institution has a book of its own";
   });
   EXPECT_EQ(libros(), 2);
@@ -169,27 +165,25 @@ TEST_P(AltaLibro, errorsInLoadAndAcceptance_bearTheNamesOfTheDialog) {
 }
 
 TEST_P(AltaLibroBautismo, whatIsMissing_isToldInOrderAndGetsTheFocus) {
-  const auto falta = [&](FormDriver& f, const char* control) {
-    f.click("cmdBoton(0)");
-    EXPECT_FALSE(f.closed());
-    EXPECT_EQ(f.focused(), control);
-  };
-  for (const char* campo : {"Institución", "Libro nuevo o antiguo", "Tipo de nombre",
-                            "Nombre del libro", "Formato", "Fecha de creación"})
-    espera(std::string("Falta rellenar el campo «") + campo + "».");
+  const struct {
+    const char *campo, *control;
+    std::function<void(FormDriver&)> rellenar;
+  } pasos[] = {
+      {"Institución", "cboInstituciones",
+       [](auto& f) { f.choose("cboInstituciones", "San Juan"); }},
+      {"Libro nuevo o antiguo", "optNuevo", [](auto& f) { f.click("optAntiguo"); }},
+      {"Tipo de nombre", "cboTipoNombre", [](auto& f) { f.chooseData("cboTipoNombre", 4); }},
+      {"Nombre del libro", "txtNombreLibro", [](auto& f) { f.type("txtNombreLibro", "Libro 12"); }},
+      {"Formato", "cboFormato", [](auto& f) { f.chooseData("cboFormato", 1); }},
+      {"Fecha de creación", "adtpAltaLibro", [](auto& f) { f.type("adtpAltaLibro", "01021900"); }}};
+  for (const auto& paso : pasos)
+    espera(std::string("Falta rellenar el campo «") + paso.campo + "».");
   abrir([&](FormDriver& f) {
-    falta(f, "cboInstituciones");
-    f.choose("cboInstituciones", "San Juan");
-    falta(f, "optNuevo");
-    f.click("optAntiguo");
-    falta(f, "cboTipoNombre");
-    f.chooseData("cboTipoNombre", 4);
-    falta(f, "txtNombreLibro");
-    f.type("txtNombreLibro", "Libro 12");
-    falta(f, "cboFormato");
-    f.chooseData("cboFormato", 1);
-    falta(f, "adtpAltaLibro");
-    f.type("adtpAltaLibro", "01021900");
+    for (const auto& paso : pasos) {
+      f.click("cmdBoton(0)");
+      EXPECT_EQ(f.focused(), paso.control);
+      paso.rellenar(f);
+    }
     f.click("cmdBoton(0)");
     EXPECT_TRUE(f.closed());
   });

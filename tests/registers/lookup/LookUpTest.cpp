@@ -148,7 +148,7 @@ TEST_P(LookedUp, CancelledOrGoneMeanwhile_BringsNothing) {
     hits.click("cmdBoton(0)");
   });
   EXPECT_FALSE(again.blnAceptado);
-  EXPECT_THAT(w.user.messages().back().text, ::testing::HasSubstr(GetParam().import));
+  EXPECT_THAT(w.user.messages().back().text, HasSubstr(GetParam().import));
 }
 
 INSTANTIATE_TEST_SUITE_P(
