@@ -6,8 +6,7 @@
 #include "dbase/LegacyTable.h"
 #include "dbase/Reading.h"
 
-namespace fidaleon::dbase {
-namespace {
+namespace fidaleon::dbase::TableTest {
 
 namespace fs = std::filesystem;
 using testing::HasSubstr;
@@ -200,5 +199,4 @@ TEST(Table, takesAThousandColumnsAndOneWithoutWidth) {
   EXPECT_EQ(r.doubts, "Columna C7: no tiene anchura, y queda vacía.\n");
 }
 
-}  // namespace
-}  // namespace fidaleon::dbase
+}  // namespace fidaleon::dbase::TableTest

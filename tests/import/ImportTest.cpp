@@ -6,11 +6,9 @@
 #include "store/Engine.h"
 #include "support/TestWorld.h"
 
-namespace fidaleon::tests {
-namespace {
+namespace fidaleon::tests::ImportTest {
 
 using dbase::LegacyTable;
-using testing::HasSubstr;
 
 /// Columns of a table of the older program, all texts but for those named with a kind:
 /// "Fecha_Bau:D".
@@ -160,7 +158,6 @@ TEST_F(Import, Baptism_FillsItsFiveTablesAndItsBook) {
   EXPECT_TRUE(nucleo.UltimaImportacion().completa());
   EXPECT_EQ(progress.values, (std::vector<std::int64_t>{1, 0, 1, 1}));
   EXPECT_TRUE(stages[0].bold);
-  EXPECT_SCRIPT_DONE(w.user);
 }
 
 TEST_F(Import, Confirmation_StandsInFolioOneAndTheBookGoesOnInFolioTwo) {
@@ -274,7 +271,6 @@ TEST_F(Import, EntryThatCannotBeWritten_IsToldAndTheNextFollows) {
       "RAISE(ABORT, 'no'); END");
   w.user.expectMessage("¡Se ha producido un error al introducir datos de bautismo!");
   const ResultadoImportacion& result = run("B");
-  EXPECT_SCRIPT_DONE(w.user);
   EXPECT_EQ(w.value("SELECT Nombre FROM Libro_Bautismo"), "INPAR - ---");
   EXPECT_EQ(w.count("Libro_Bautismo"), 2);
   EXPECT_EQ(w.count("Bautismo"), 3);
@@ -301,12 +297,11 @@ TEST_F(Import, CancelledOrTriedOut_LeavesWholeBooksOrNone) {
   progress.stopAt = 1;
   EXPECT_TRUE(run("BCMD").cancelada);
   EXPECT_EQ(w.count("Bautismo"), 1);
-  EXPECT_SCRIPT_DONE(w.user);
 }
 
 TEST_F(Import, TableThatIsNotThere_IsToldAndTheOthersFollow) {
   write(baptisms().row({{"Libro_B", "1"}}), "BAUT");
-  w.user.answerAnything(forms::Answer::Ok);
+  w.user.answerAnything(Answer::Ok);
   const ResultadoImportacion& result = run("BD");
   EXPECT_EQ(w.user.messages().size(), 1u);
   EXPECT_THAT(result.registros[1].fallo, HasSubstr("«DEFU.DBF»"));
@@ -347,5 +342,4 @@ TEST(FullName, isToldApartByItsCommaOrByItsWords) {
   }
 }
 
-}  // namespace
-}  // namespace fidaleon::tests
+}  // namespace fidaleon::tests::ImportTest

@@ -5,10 +5,7 @@
 #include "parish/copies/SafetyCopies.h"
 #include "parish/legacy/ImportRun.h"
 
-namespace fidaleon::app {
-namespace {
-
-using testing::HasSubstr;
+namespace fidaleon::app::LegacyImportTest {
 
 struct Silent : FDAPI::cProgreso {
   void Cargar(std::int64_t, const std::string&, int, int) override {}
@@ -66,5 +63,4 @@ TEST_F(LegacyImport, OrderThatCannotBe_IsRefusedAndNothingIsWritten) {
   EXPECT_EQ(rowsOf("SELECT IDDifunto FROM Defuncion"), 0);
 }
 
-}  // namespace
-}  // namespace fidaleon::app
+}  // namespace fidaleon::app::LegacyImportTest

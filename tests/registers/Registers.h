@@ -52,7 +52,7 @@ struct OfBaptism {
       "Tiene campos sin rellenar. Estos campos se rellenarán con guiones. ¿Desea continuar?";
   static constexpr bool blanksOfOldToo = false;
   /// A birth and a wedding are not of today.
-  static void settle(forms::FormDriver& d) {
+  static void settle(FormDriver& d) {
     if (d.text("adtpBautismo(1)") != "22/11/2026") return;
     d.tab("mstBautismo", D::TAB_BAUTIZADO);
     d.type("adtpBautismo(0)", "01/11/2026");
@@ -88,7 +88,7 @@ struct OfConfirmation {
   static constexpr const char* blanks =
       "Tiene campos sin rellenar. Estos campos se rellenaran con guiones. ¿Desea continuar?";
   static constexpr bool blanksOfOldToo = true;
-  static void settle(forms::FormDriver&) {}
+  static void settle(FormDriver&) {}
 };
 
 struct OfDeath {
@@ -118,7 +118,7 @@ struct OfDeath {
   static constexpr const char* blanks = OfConfirmation::blanks;
   static constexpr bool blanksOfOldToo = true;
   /// A death is hardly ever of today.
-  static void settle(forms::FormDriver& d) {
+  static void settle(FormDriver& d) {
     if (d.text("adtpDefuncion(1)") != "22/11/2026") return;
     d.tab("mstDefuncion", D::TAB_DIFUNTO);
     d.type("adtpDefuncion(1)", "20/11/2026");
@@ -156,7 +156,7 @@ struct OfMarriage {
   static constexpr const char* blanks = OfConfirmation::blanks;
   static constexpr bool blanksOfOldToo = true;
   /// Names the bride; the wedding was not today.
-  static void settle(forms::FormDriver& d) {
+  static void settle(FormDriver& d) {
     d.tab("mstMatrimonio", D::TAB_PERSONALES + D::TABS_DE_NOVIA);
     int field = D::NOVIA + D::Nombre;
     for (const char* bride : {"Rosa", "Sanz", "Gil"})
@@ -193,7 +193,7 @@ struct Register {
   const char* movesTheBook;
   const char* replaced;
   /// Makes today go where it cannot be, and names a second person.
-  void (*settle)(forms::FormDriver&);
+  void (*settle)(FormDriver&);
   std::string childTable;  // a row that the list of a book needs
   std::string childKey;
   std::string emptySign;  // an update that leaves the sign of an item read whole empty
