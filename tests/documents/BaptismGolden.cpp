@@ -61,8 +61,8 @@ std::vector<Golden> bautismos() {
        VOLANTE,
        false,
        {"SELECT MAX(Folio) AS ID FROM Documentos_Bautismo"}},
-      {MIEMBRO(ImprimirSolicitudPartidaBautismoDatos),
-       &BAUTISMAL, SOLICITUD + HOY + genero("La niña", "nacida"), true},
+      {MIEMBRO(ImprimirSolicitudPartidaBautismoDatos), &BAUTISMAL,
+       SOLICITUD + HOY + genero("La niña", "nacida"), true},
       {MIEMBRO(ImprimirSolicitudPartidaBautismoDatosMenorca), &BAUTISMAL,
        SOLICITUD + HOY + FECHAS_CATALANAS + genero("La filla", "nada") +
            Row{{"FechaSistemaLarga", "vint-i-dos de novembre de 2026"}},

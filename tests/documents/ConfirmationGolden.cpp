@@ -72,8 +72,7 @@ std::vector<Golden> confirmaciones() {
        sin(PARTIDA + HOY_CATALAN, {"InstitucionEncargado"}) + Row{{"Edad", "23"}},
        false,
        {lectura}},
-      {MIEMBRO(ImprimirSolicitudConfirmacion), &CONFIRMATORIO,
-       hoy + row(R"(
+      {MIEMBRO(ImprimirSolicitudConfirmacion), &CONFIRMATORIO, hoy + row(R"(
     Folio=0; Numero=---; FechaBautLarga=veinticuatro de mayo de dos mil tres
     FechaBautLargaMeno=vint-i-quatre de maig de 2003)"),
        true},

@@ -100,11 +100,11 @@ TEST_P(Documents, AStepOnTheReportsFails_RollsBackAndNamesTheMember) {
     EXPECT_EQ(otra.filas(GetParam().sacramento->tabla), 0) << paso;
     EXPECT_FALSE(otra.conInformes().inTransaction()) << paso;
     ASSERT_FALSE(otra.user.messages().empty()) << paso;
-    EXPECT_THAT(otra.user.messages().back().text,
-                HasSubstr(GetParam().sacramento->porCargador
-                                         ? "  - "
-                                         : std::string("FidaleonNucleo / cInformes / ") +
-                                               GetParam().miembro + ")"));
+    EXPECT_THAT(
+        otra.user.messages().back().text,
+        HasSubstr(GetParam().sacramento->porCargador
+                      ? "  - "
+                      : std::string("FidaleonNucleo / cInformes / ") + GetParam().miembro + ")"));
   }
 }
 
