@@ -310,8 +310,8 @@ TEST_P(NewEntry, MarginalNotes_WarnOnceUntilTheyBecomeShorter) {
     w.user.expectMessage(warning);
     d.paste(notes, lines + "más");
     d.paste(notes, lines + "más y más");
-    d.paste(notes, lines);  // shorter: the last line is empty, and counts
     w.user.expectMessage(warning);
+    d.paste(notes, lines);  // shorter: the last line is empty, and counts
     w.user.printer = false;
     d.paste(notes, "corto");
     d.paste(notes, lines + "sin impresora");
