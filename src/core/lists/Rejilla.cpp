@@ -34,8 +34,8 @@ const Rejilla& rejillaPropiedadesLibro() {
 
 const Rejilla& rejillaPropiedadesLibroMatrimonio() {
   static const Rejilla r{cIListas::RUTA_PROPIEDADES_LIBRO_MATRIMONIO,
-                         {{"Folio"},
-                          {"Número"},
+                         {{"Folio", 800},
+                          {"Número", 900},
                           {"Nombre Novio", 1200},
                           {"1er Apellido Novio", 1425},
                           {"2º Apellido Novio", 1380},
@@ -43,7 +43,7 @@ const Rejilla& rejillaPropiedadesLibroMatrimonio() {
                           {"1er Apellido Novia", 1425},
                           {"2º Apellido Novia", 1380},
                           {"Fecha Matrimonio", 1410},
-                          {"Anulada"}}};
+                          {"Anulada", 960}}};
   return r;
 }
 

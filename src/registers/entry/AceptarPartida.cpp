@@ -193,6 +193,7 @@ void frmPartida::irAlNombre() {
 }
 
 void frmPartida::anular() {
+  completarCampos();
   const bool valida = variante_.alAnular == VariantePartida::AlAnular::Posicion ||
                       (!faltaInstitucionOLibro() && ComprobarCampos());
   if (!valida) return;

@@ -139,6 +139,7 @@ void frmPartidaMatrimonio::CalcularEdad(int contrayente, const char* siFalta) {
   const std::string nacimiento = adtpPartida[contrayente + FechaNac].stored();
   const std::string boda = adtpPartida[FechaMatrimonio].stored();
   TextBox& edad = txtPartida[contrayente + Edad];
+  if (edad.locked()) return;
   const bool seSabe = !nacimiento.empty() && !boda.empty();
   if (!seSabe && edadTecleada(contrayente) && !enBlanco(edad)) return;
   const int cumplidos = anios(nacimiento, boda);
