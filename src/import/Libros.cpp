@@ -24,7 +24,7 @@ std::size_t indice(Clave clave) {
 }
 
 std::int64_t siguiente(const store::Value& maximo) {
-  return static_cast<std::int64_t>(text::Val(maximo.text())) + 1;
+  return static_cast<std::int64_t>(text::Val(escrito(maximo))) + 1;
 }
 
 }  // namespace
@@ -66,15 +66,15 @@ void Libros::importar(FDAPI::cProgreso& progreso) {
 
 void Libros::libro(const store::Value& codigo) {
   if (encargo_.ensayo) return partidas(codigo);
-  const RegistroImportado antes = resultado_;
+  const std::int64_t libros = resultado_.libros, escritas = resultado_.escritas;
   try {
     store::Transaction entero(conexion_);
     partidas(codigo);
     entero.commit();
   } catch (...) {
     // Nothing of the book is there.
-    resultado_.libros = antes.libros;
-    resultado_.escritas = antes.escritas;
+    resultado_.libros = libros;
+    resultado_.escritas = escritas;
     throw;
   }
   if (claves_[indice(Clave::Libro)] == 0) return;
@@ -114,13 +114,13 @@ bool Libros::abrirLibro(const store::Value& codigo, std::int64_t registro) {
   } catch (const store::Error& error) {
     if (deshecha(conexion_)) throw;
     forms::warn(contexto_.ui(), registro_.errorLibro, forms::MsgIcon::Exclamation, error.what());
-    resultado_.anotar({0, "Libro " + codigo.text() + ": " + error.what(), true});
+    resultado_.anotar({0, "Libro " + escrito(codigo) + ": " + error.what(), true});
     return false;
   }
 }
 
 std::string Libros::sentenciaLibro(const store::Value& codigo, std::int64_t registro) {
-  const std::string valor = text::trim(codigo.text());
+  const std::string valor = text::trim(escrito(codigo));
   const std::string nombre =
       text::left("INPAR - " + text::withoutQuotes(valor.empty() ? "---" : valor), kNombreLibro);
   const auto maximos = tabla_.conexion().Execute(registro_.sqlSiguiente + igualA(codigo));

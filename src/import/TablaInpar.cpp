@@ -1,5 +1,7 @@
 #include "import/TablaInpar.h"
 
+#include <charconv>
+
 #include "core/statements/Citas.h"
 #include "dbase/Folder.h"
 #include "store/Open.h"
@@ -26,13 +28,21 @@ void declarar(store::Table& tabla, const std::string& nombre, const dbase::Field
     tabla.add(store::Type::Double, {columna});
 }
 
+std::string sinExponente(double numero) {
+  char cifras[400];  // the longest has some three hundred
+  const auto fin =
+      std::to_chars(cifras, cifras + sizeof cifras, numero, std::chars_format::fixed).ptr;
+  return std::string(cifras, fin);
+}
+
 std::string literal(const dbase::Cell& celda) {
   switch (celda.kind) {
     case Kind::Missing:
       return "NULL";
     case Kind::Integer:
+      return std::to_string(celda.integer);
     case Kind::Real:
-      return std::string(celda.text);
+      return sinExponente(celda.real);
     case Kind::Date:
     case Kind::Moment:
       return entreComillas(text::toStored(celda.date));
@@ -96,9 +106,13 @@ const dbase::Row& TablaInpar::at(std::int64_t registro) {
   return fila_;
 }
 
+std::string escrito(const store::Value& valor) {
+  return valor.isReal() ? sinExponente(valor.real()) : valor.text();
+}
+
 std::string igualA(const store::Value& valor) {
   if (valor.isNull()) return " IS NULL";
-  return "=" + (valor.isText() ? entreComillas(valor.text()) : valor.text());
+  return "=" + (valor.isText() ? entreComillas(valor.text()) : escrito(valor));
 }
 
 }  // namespace fidaleon

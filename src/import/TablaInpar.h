@@ -46,7 +46,9 @@ class TablaInpar {
   std::int64_t borradas_ = 0;
 };
 
-/// How a value of such a table stands in a statement behind the name of a column.
+/// A value of such a table as the older program showed it: no number has an exponent.
+std::string escrito(const store::Value& valor);
+/// How it stands in a statement behind the name of a column.
 std::string igualA(const store::Value& valor);
 
 }  // namespace fidaleon

@@ -24,7 +24,7 @@ struct Legacy {
       table.column(names.back(), letter,
                    letter == 'D'   ? 8
                    : letter == 'M' ? 10
-                   : letter == 'N' ? 5
+                   : letter == 'N' ? 12
                                    : 60);
     }
   }
@@ -164,7 +164,7 @@ TEST_F(Import, Confirmation_StandsInFolioOneAndTheBookGoesOnInFolioTwo) {
   write(Legacy({"Libro_C:N", "Numero_C:N", "F_Conf:D", "Nombre", "Apellido1", "Apellido2",
                 "Direccion", "Poblacion", "Provincia", "F_Nac:D", "Padre", "Madre", "Padrino",
                 "Ministro", "F_Bau:D", "Parr_Bau", "Libro_B", "Folio_B", "Numero_B"})
-            .row({{"Libro_C", "10"},
+            .row({{"Libro_C", "100000"},
                   {"Numero_C", "7"},
                   {"Nombre", "Eva"},
                   {"Apellido1", "Gil"},
@@ -175,11 +175,11 @@ TEST_F(Import, Confirmation_StandsInFolioOneAndTheBookGoesOnInFolioTwo) {
                   {"Folio_B", "33 v"},
                   {"Numero_B", "4"}})
             .row({{"Libro_C", "2"}, {"Numero_C", "1"}, {"F_Conf", "19680505"}, {"Nombre", "Pía"}})
-            .row({{"Libro_C", "10"}, {"Numero_C", "10"}, {"Nombre", "Rosa"}}),
+            .row({{"Libro_C", "100000"}, {"Numero_C", "10"}, {"Nombre", "Rosa"}}),
         "Conf");
   run("C", false);
   EXPECT_EQ(w.value("SELECT FechaCreacion FROM Libro_Confirmacion"), "19680505");
-  EXPECT_EQ(last("Libro_Confirmacion"), "2|7|2|4|INPAR - 10|19991231|0|0|11|2");
+  EXPECT_EQ(last("Libro_Confirmacion"), "2|7|2|4|INPAR - 100000|19991231|0|0|11|2");
   EXPECT_EQ(w.value("SELECT PrimerApellido FROM Confirmacion WHERE Nombre=\"Rosa\""), "Falta 3");
   EXPECT_EQ(last("Confirmacion_Datos"), "3|---|---|---|---");
   w.con().Execute("DELETE FROM Confirmacion WHERE IDConfirmacion=3");
