@@ -37,6 +37,7 @@ struct Register {
   const char* book;       // templates
   const char* index;
   std::vector<std::pair<const char*, const char*>> facts;
+  const char* words[2] = {"", ""};  // of a spouse in a table beside: ends its name, and its columns
 };
 
 const std::vector<Register>& registers() {
@@ -148,15 +149,53 @@ const std::vector<Register>& registers() {
         {"NombreMadre", "Ana Herrera"},
         {"Sacramentos", "Penitencia y Unción de los Enfermos"},
         {"Sacerdote", "José Ignacio Gutiérrez"}}},
+      {"matrimonio",
+       "Documentos_Matrimonio",
+       {},
+       "libro_matrimonio",
+       "indice_libro_matrimonio",
+       {{"FechaMatrimonioCorta", "14/07/2012"},
+        {"FechaMatrimonioLarga", "catorce de julio de 2012"},
+        {"Parroquia", "Nuestra Señora de la Asunción"},
+        {"PoblacionParroquia", "Alcalá de Henares"},
+        {"ProvinciaParroquia", "Madrid"},
+        {"Diocesis", "Madrid-Alcalá"},
+        {"HoraMatrimonio", "12:30"},
+        {"Celebrante", "José Ignacio Gutiérrez"},
+        {"Testigos", "Luis Alfonso Ruiz y Mercedes Muñoz"},
+        {"ExpedInst", "Nuestra Señora de la Asunción"},
+        {"NihilObstat", "211/2012"}},
+       {"Novio", "Novia"}},
   };
   return all;
 }
 
+/// The rows beside the principal one: both spouses, and the institution.
+void insertBeside(store::Connection& reports, const Register& r, int key) {
+  const std::string of = std::to_string(key);
+  for (const std::string word : r.words) {
+    if (word.empty()) return;
+    reports.Execute(std::string("INSERT INTO ") + r.table + "_" + word +
+                    "s (CodDocumentos_Matrimonio, Nombre" + word + ", PrimerApellido" + word +
+                    ", SegundoApellido" + word + ", NombrePadre" + word + ", NombreMadre" + word +
+                    ", FechaNac" + word + "Larga, PoblacionNac" + word + ", EstadoCivil" + word +
+                    ", ParroquiaBaut" + word + ") VALUES (" + of + ", \"María del Carmen\", \"" +
+                    surname(key) + "\", \"" + surname(key + 7) +
+                    "\", \"Francisco Lara\", \"Ana Herrera\", \"tres de septiembre de 1987\", "
+                    "\"Priego\", \"soltera\", \"Santa María la Mayor\")");
+  }
+  reports.Execute(std::string("INSERT INTO ") + r.table +
+                  "_Otros (CodDocumentos_Matrimonio, InstitucionNombre) VALUES (" + of +
+                  ", \"Nuestra Señora de la Asunción\")");
+}
+
 void insertEntries(store::Connection& reports, const Register& r) {
-  std::string columns = std::string("Libro, Folio, Numero, Letra, ") + r.person[0] + ", " +
-                        r.person[1] + ", " + r.person[2] +
-                        ", InstitucionNombre, InstitucionTipo, Año";
-  std::string facts = "\"Nuestra Señora de la Asunción\", \"Parroquia de\", \"1987\"";
+  std::string columns = "Año";
+  std::string facts = "\"1987\"";
+  if (r.person[0]) {
+    columns += ", InstitucionNombre, InstitucionTipo";
+    facts += ", \"Nuestra Señora de la Asunción\", \"Parroquia de\"";
+  }
   for (const auto& [column, value] : r.facts) {
     columns += std::string(", ") + column;
     facts += std::string(", \"") + value + "\"";
@@ -164,11 +203,21 @@ void insertEntries(store::Connection& reports, const Register& r) {
   reports.BeginTrans();
   for (int i = 0; i < kEntries; ++i) {
     const std::string first = surname(i * static_cast<int>(surnames().size()) / kEntries);
-    reports.Execute(std::string("INSERT INTO ") + r.table + " (" + columns +
-                    ") VALUES (\"Libro XXIII\", \"" + std::to_string(i / 4 + 1) + "\", \"" +
-                    std::to_string(i + 1) + "\", \"" + first.substr(0, first[0] < 0 ? 2 : 1) +
-                    "\", \"María del Carmen\", \"" + first + "\", \"" + surname(i + 7) + "\", " +
-                    facts + ")");
+    std::string names, person;
+    for (const char* column : r.person) {
+      if (!column) continue;
+      names += std::string(", ") + column;
+      const bool surnamed = column != r.person[0];
+      person += ", \"" +
+                (surnamed ? (column == r.person[1] ? first : surname(i + 7))
+                          : std::string("María del Carmen")) +
+                "\"";
+    }
+    reports.Execute(std::string("INSERT INTO ") + r.table + " (Libro, Folio, Numero, Letra, " +
+                    columns + names + ") VALUES (\"Libro XXIII\", \"" + std::to_string(i / 4 + 1) +
+                    "\", \"" + std::to_string(i + 1) + "\", \"" +
+                    first.substr(0, first[0] < 0 ? 2 : 1) + "\", " + facts + person + ")");
+    insertBeside(reports, r, i + 1);
   }
   reports.CommitTrans();
 }

@@ -57,7 +57,7 @@ bool isShared(store::Connection& parish, const Sacramento& s, const store::Recor
 QStringList personColumns(const PersonaDocumento& person) {
   QStringList columns;
   for (const char* own : {person.nombre, person.primerApellido, person.segundoApellido})
-    columns << QString::fromStdString(person.columna(own));
+    columns << QString::fromLatin1(own);
   return columns;
 }
 
@@ -81,12 +81,12 @@ Annulled::Annulled(store::Connection& parish, const Sacramento& sacrament, std::
 }
 
 QStringList Annulled::columns() const {
-  return QStringList{columns_.institucion} + personColumns(columns_.persona);
+  return QStringList{"InstitucionNombre"} + personColumns(columns_.persona);
 }
 
 QString Annulled::mark(const paper::Row& row) const {
   QStringList at{printed(row, "Folio"), printed(row, "Numero")};
-  if (allBooks_) at << printed(row, columns_.institucion) << printed(row, "Libro");
+  if (allBooks_) at << printed(row, "InstitucionNombre") << printed(row, "Libro");
   const auto found = places_.find(joined(at));
   if (found == places_.end()) return {};
   const Place& place = found->second;

@@ -305,24 +305,22 @@ const Documento TODOS[] = {
      "Duplicado de defunciones"},
 };
 
-constexpr PersonaDocumento NOVIA{"Documentos_Matrimonio_Novias", "novia", "NombreNovia",
+constexpr PersonaDocumento NOVIA{"Documentos_Matrimonio_Novias", "NombreNovia",
                                  "PrimerApellidoNovia", "SegundoApellidoNovia"};
 
 constexpr PersonaDocumento sola(const char* tabla) {
-  return {tabla, nullptr, "Nombre", "PrimerApellido", "SegundoApellido"};
+  return {tabla, "Nombre", "PrimerApellido", "SegundoApellido"};
 }
 
 constexpr FilasDocumento FILAS[] = {
     {&BAUTISMO,
      "Documentos_Bautismo",
-     {"Documentos_Bautismo", nullptr, "NombreHijo", "PrimerApellidoHijo", "SegundoApellidoHijo"}},
+     {"Documentos_Bautismo", "NombreHijo", "PrimerApellidoHijo", "SegundoApellidoHijo"}},
     {&CONFIRMACION, "Documentos_Confirmacion", sola("Documentos_Confirmacion")},
     {&MATRIMONIO,
      "Documentos_Matrimonio",
-     {"Documentos_Matrimonio_Novios", "novio", "NombreNovio", "PrimerApellidoNovio",
-      "SegundoApellidoNovio"},
-     &NOVIA,
-     "otros.InstitucionNombre"},
+     {"Documentos_Matrimonio_Novios", "NombreNovio", "PrimerApellidoNovio", "SegundoApellidoNovio"},
+     &NOVIA},
     {&DEFUNCION, "Documentos_Defuncion", sola("Documentos_Defuncion")},
 };
 

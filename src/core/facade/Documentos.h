@@ -3,7 +3,6 @@
 // program, its templates, titles and file names all come from these lines.
 
 #include <span>
-#include <string>
 #include <string_view>
 #include <variant>
 
@@ -67,15 +66,9 @@ const Documento* documento(std::string_view operacion);
 /// Somebody whom a document is of.
 struct PersonaDocumento {
   const char* tabla;
-  const char* lado;  // what templates call that table where it is not the principal one
   const char* nombre;
   const char* primerApellido;
   const char* segundoApellido;
-
-  /// As a row of a template has it: "novio.NombreNovio".
-  std::string columna(const char* suya) const {
-    return lado ? std::string(lado) + "." + suya : suya;
-  }
 };
 
 /// How the rows of a sacrament's documents tell whom they are of.
@@ -84,7 +77,6 @@ struct FilasDocumento {
   const char* tabla;         // the principal one, where there are several
   PersonaDocumento persona;  // in whose name the entry stands
   const PersonaDocumento* conyuge = nullptr;
-  const char* institucion = "InstitucionNombre";  // as a row of a template has it
 };
 /// Null for a sacrament without documents.
 const FilasDocumento* filasDocumento(const Sacramento& sacramento);

@@ -85,6 +85,24 @@ TEST_P(FacadeDocuments, HeldElsewhereOrGone_GivesNoRow) {
   w.esperarLibre();
 }
 
+TEST(FacadeExhorto, HeldElsewhere_IsNotStoredButHandedBack) {
+  WithFacade<PartidasWorld> w;
+  const auto otra = w.ocupar("Matrimonio", "1");
+  w.user.answerAnything(forms::Answer::Yes);
+  w.user.expectForm("frmInfExhorto", [](FormDriver& u) {
+    u.type("txtDato(0)", "Otra");
+    u.click("cmdBoton(0)");
+  });
+  DatosExhorto datos;
+  bool cancelado = true;
+  w.nucleo.CargaDatosExhorto(datos, cancelado, w.con(), 1);
+  EXPECT_FALSE(cancelado);
+  EXPECT_THAT(datos,
+              ::testing::ElementsAre("Otra", "Pinto", "Getafe", "San Blas", "Osuna", "Sevilla"));
+  EXPECT_EQ(w.value("SELECT ParroquiaExhorto FROM Matrimonio_Novios"), "San José");
+  EXPECT_EQ(w.user.messages().back().text, "Se ha producido un error y no se guardaran los datos");
+}
+
 std::vector<const Documento*> conOperacion() {
   std::vector<const Documento*> lineas;
   for (const Documento& d : documentos())
