@@ -54,6 +54,7 @@ void frmInfExhorto::crearCajas() {
   for (int i = ParroquiaNovio; i <= DiocesisNovia; ++i) {
     forms::TextBox& caja = txtDato.add(i, rotulos[i % 3]);
     caja.setMaxLength(ANCHO);
+    caja.setWidthChars(40);
     caja.onKeyPress = [](forms::KeyPress& tecla) {
       if (tecla.character == U'\'' && !tecla.ctrl && !tecla.alt) tecla.replaceWith("''");
     };
