@@ -47,7 +47,7 @@ struct OfBaptism {
   static constexpr Place nameField{D::TAB_BAUTIZADO, D::NombreHijo};
   static constexpr Place dayField{D::TAB_BAUTISMO, D::FechaBautismo};
   static constexpr const char* movesTheBook = "22/11/2026";  // the date of one begun in 1900
-  static constexpr const char* replaced = "reemplazará";
+  static constexpr const char* replaced = "numero se reemplazará";
   static constexpr const char* blanks =
       "Tiene campos sin rellenar. Estos campos se rellenarán con guiones. ¿Desea continuar?";
   static constexpr bool blanksOfOldToo = false;
@@ -84,7 +84,7 @@ struct OfConfirmation {
   static constexpr Place nameField{D::TAB_CONFIRMADO, D::Nombre};
   static constexpr Place dayField{D::TAB_CONFIRMACION, D::FechaConfirmacion};
   static constexpr const char* movesTheBook = "22/11/2026";  // the date of one begun in 1900
-  static constexpr const char* replaced = "reemplazará";
+  static constexpr const char* replaced = "numero se reemplazará";
   static constexpr const char* blanks =
       "Tiene campos sin rellenar. Estos campos se rellenaran con guiones. ¿Desea continuar?";
   static constexpr bool blanksOfOldToo = true;
@@ -114,7 +114,7 @@ struct OfDeath {
   static constexpr Place nameField{D::TAB_DIFUNTO, D::Nombre};
   static constexpr Place dayField{D::TAB_DIFUNTO, D::FechaDefuncion};
   static constexpr const char* movesTheBook = "03/02/1890";  // the date of one begun in 1900
-  static constexpr const char* replaced = "reemplazara";
+  static constexpr const char* replaced = "numero se reemplazara";
   static constexpr const char* blanks = OfConfirmation::blanks;
   static constexpr bool blanksOfOldToo = true;
   /// A death is hardly ever of today.
@@ -152,7 +152,7 @@ struct OfMarriage {
   static constexpr Place nameField{D::TAB_PERSONALES, D::Nombre};
   static constexpr Place dayField{D::TAB_COMPROMISO, D::FechaMatrimonio};
   static constexpr const char* movesTheBook = "22/11/2026";  // the date of one begun in 1900
-  static constexpr const char* replaced = "reemplazará";
+  static constexpr const char* replaced = "número se reemplazará";
   static constexpr const char* blanks = OfConfirmation::blanks;
   static constexpr bool blanksOfOldToo = true;
   /// Names the bride; the wedding was not today.

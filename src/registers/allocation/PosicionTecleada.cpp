@@ -51,9 +51,10 @@ std::string numeroConLetra(const std::string& ocupado,
 PreguntaReemplazo preguntaReemplazo(const Sacramento& sacramento, std::int64_t codFormato,
                                     const std::string& numeroNuevo) {
   const bool cuatro = partidasDeFormato(codFormato) == 4;
-  // The spelling of the question differs with the format, in the death book once more.
+  // The spelling of the question differs with the format, but not in the book of marriages, and in
+  // that of the dead once more.
   const char* con = " El número se reemplazará por el ";
-  if (cuatro)
+  if (cuatro && sacramento.byte != MATRIMONIO.byte)
     con = sacramento.byte == DEFUNCION.byte ? " El numero se reemplazara por el "
                                             : " El numero se reemplazará por el ";
   return {"La partida que va a introducir coincide con otra." + std::string(con) + numeroNuevo +

@@ -83,15 +83,19 @@ constexpr std::array CONTRAYENTES{
     Contrayente{"IDNovios", "codnovios", &M::IDNovios, std::span(DE_LOS_NOVIOS).first(3)},
     Contrayente{"IDNovias", "codnovias", &M::IDNovias, std::span(DE_LOS_NOVIOS).last(3)}};
 
+void leerClave(Conexion& conexion, const Contrayente& c, M& m) {
+  m.*c.miembro = static_cast<std::int32_t>(
+      conexion.Execute(std::string("SELECT MAX(") + c.clave + ") AS ID FROM " + c.fichas[0]->nombre)
+          .integer("ID"));
+}
+
 void insertarContrayentes(Conexion& conexion, M& m) {
   for (const Contrayente& c : CONTRAYENTES) conexion.Execute(sqlInsertar(*c.fichas[0], m));
   for (const Contrayente& c : CONTRAYENTES) {
-    m.*c.miembro = static_cast<std::int32_t>(
-        conexion
-            .Execute(std::string("SELECT MAX(") + c.clave + ") AS ID FROM " + c.fichas[0]->nombre)
-            .integer("ID"));
+    leerClave(conexion, c, m);
     for (const Tabla<M>* ficha : c.fichas.subspan(1)) conexion.Execute(sqlInsertar(*ficha, m));
   }
+  for (const Contrayente& c : CONTRAYENTES) leerClave(conexion, c, m);
 }
 
 void actualizarContrayentes(Conexion& conexion, const M& m) {

@@ -10,8 +10,8 @@ class BookEntries : public PropertiesWorld {
   std::int32_t antiguo = book({"Antiguo", false, 1});
 
   std::string replacedBy(const std::string& number) const {
-    return std::string("La partida que va a introducir coincide con otra. El numero se ") +
-           r.replaced + " por el " + number + " ¿Desea continuar?";
+    return std::string("La partida que va a introducir coincide con otra. El ") + r.replaced +
+           " por el " + number + " ¿Desea continuar?";
   }
   std::int32_t idOf(const std::string& name) {
     return std::stoi(w.value("SELECT * FROM " + nameTable() + " WHERE Nombre=\"" + name + "\""));

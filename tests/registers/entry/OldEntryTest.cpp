@@ -44,7 +44,7 @@ TEST_P(OldEntry, TakenNumber_IsSaidWithItsFoliosAndReplacedWhenTheUserAgrees) {
   entry("B", old, 3, "12a");
   entry("C", old, 5, "12");
   const std::string question =
-      std::string("La partida que va a introducir coincide con otra. El numero se ") + k.replaced +
+      std::string("La partida que va a introducir coincide con otra. El ") + k.replaced +
       " por el 12b ¿Desea continuar?";
   openAndCancel(cCOperacion::ANTIGUA, [&](FormDriver& d) {
     chooseBook(d, "Antiguo");
