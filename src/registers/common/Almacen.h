@@ -283,8 +283,7 @@ class Almacen {
     using enum FDAPI::cCOperacion;
     const FDAPI::cCOperacion operacion = operacionDe(item);
     if (!item.Estado) return operacion != Borrar || item.*d_.id != 0;
-    return operacion == Borrar || operacion == EDITAR || operacion == EDITARSOLICITUD ||
-           algoEnEspera(item);
+    return operacion == Borrar || operacion == EDITAR || operacion == EDITARSOLICITUD;
   }
 
   bool grabarEntera(const std::string& procedimiento, Registro& item, bool& blnSalto) {
@@ -314,11 +313,14 @@ class Almacen {
     return (!antiguo || formato(r, blnSalto)) && guardarEnEspera(r);
   }
 
-  bool algoEnEspera(const Registro& r) const { return d_.enEspera && !(r.*d_.enEspera).empty(); }
+  /// The entry counts as changed until what waits is stored: nobody is to lose it by cancelling.
   bool guardarEnEspera(Registro& r) {
-    if (!algoEnEspera(r)) return true;
+    if (!d_.enEspera || (r.*d_.enEspera).empty()) return true;
     const bool hecho = guardado(d_.procEnEspera, [&] { d_.guardarEnEspera(conexion_, r); });
-    if (hecho) (r.*d_.enEspera).clear();
+    if (hecho)
+      (r.*d_.enEspera).clear();
+    else
+      ponerOperacion(r, FDAPI::cCOperacion::EDITAR);
     return hecho;
   }
 

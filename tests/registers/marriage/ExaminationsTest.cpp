@@ -86,7 +86,12 @@ TEST_F(Examinations, OfAnEntryThatAListAdds_WaitForItsKey) {
   ColeccionMatrimonio items{recordOf<OfMarriage>("Luis", 0, 0, "---")};
   items[0].ExamenesEnEspera = textoDeExamenes(given);
   bool jump = false;
-  ASSERT_TRUE(cBaseDatos(w.contexto).GrabarColeccionBaseDatosMatrimonio(w.con(), items, jump));
+  cBaseDatos db(w.contexto);
+  w.user.answerAnything(Answer::Ok);
+  store::FailingEngine::wrap(w.con())->failOn("INSERT INTO Matrimonio_Cursos");
+  EXPECT_FALSE(db.GrabarColeccionBaseDatosMatrimonio(w.con(), items, jump));
+  EXPECT_EQ(items[0].Operacion, cCOperacion::EDITAR) << "and the list still asks about it";
+  ASSERT_TRUE(db.GrabarColeccionBaseDatosMatrimonio(w.con(), items, jump));
   EXPECT_EQ(CargarExamenes(w.con(), items[0].IDMatrimonio), given);
 }
 
