@@ -77,11 +77,11 @@ void frmPartidaDefuncion::importar(std::size_t, const frmBuscaPadres& de) {
 void frmPartidaDefuncion::preestablecer() {
   const store::Recordset fila = filaDeInstitucion();
   if (fila.EOF_()) return;
-  txtPartida[Parroquia].setText(fila.text("InstitucionNombre"));
-  txtPartida[DiocesisParr].setText(fila.text("Diocesis"));
-  for (const Texto cura : {Sacerdote, Parroco}) txtPartida[cura].setText(fila.text("Parroco"));
+  proponer(txtPartida[Parroquia], fila.text("InstitucionNombre"));
+  proponer(txtPartida[DiocesisParr], fila.text("Diocesis"));
+  for (const Texto cura : {Sacerdote, Parroco}) proponer(txtPartida[cura], fila.text("Parroco"));
   for (const auto& [par, miembro] : enlaces_.municipios)
-    par->poner(static_cast<std::int32_t>(fila.integer("CodMunicipio")));
+    proponer(*par, static_cast<std::int32_t>(fila.integer("CodMunicipio")));
 }
 
 }  // namespace fidaleon

@@ -5,6 +5,7 @@
 
 #include "core/statements/Sentencia.h"
 #include "forms/Held.h"
+#include "registers/common/Guiones.h"
 #include "registers/entry/frmPartida.h"
 
 namespace fidaleon {
@@ -94,8 +95,11 @@ void frmPartida::limpiarCampos(bool quedaLaSerie) {
   const auto queda = [&](const forms::Control& c) { return quedaLaSerie && serie_.contains(&c); };
   vaciarRegistro();
   for (Persona& persona : personas_) persona.busqueda.empezar();
-  for (forms::TextBox* campo : textos_)
+  propuestos_.clear();
+  for (forms::TextBox* campo : textos_) {
     if (!queda(*campo)) campo->setText("");
+    propuestos_[campo] = campo->text();
+  }
   for (ParProvinciaPoblacion& par : pares_)
     if (!queda(par.poblacion())) par.poner(0);
   for (forms::ComboBox* lista : elegibles_)
@@ -147,7 +151,12 @@ void frmPartida::prepararSolicitud() {
   }
   listas_->cargarInstituciones(edicion ? 0 : InstitucionSolicitud);
   if (edicion) {
-    institucion().selectData(InstitucionSolicitud);
+    const bool esta = institucion().selectData(InstitucionSolicitud);
+    if (!esta && variante_.fijaInstitucionDeSolicitud) {
+      // No other can be chosen in its stead: what there is can still be read.
+      institucion().setListIndex(institucion().addItem(GUIONES, InstitucionSolicitud));
+      incompleta_ = true;
+    }
     institucion().setLocked(variante_.fijaInstitucionDeSolicitud);
     cmdAltaInstitucion.setEnabled(!variante_.fijaInstitucionDeSolicitud);
     mostrarLeida();

@@ -1,6 +1,7 @@
 // What the controls of an entry dialog set off.
 
 #include "registers/books/frmAltaLibro.h"
+#include "registers/common/Guiones.h"
 #include "registers/entry/frmPartida.h"
 #include "text/Utf8.h"
 
@@ -76,6 +77,19 @@ void frmPartida::cboInstitucion_Click() {
   });
 }
 
+void frmPartida::proponer(forms::TextBox& campo, const std::string& valor) {
+  if (!text::trim(campo.text()).empty() && campo.text() != propuestos_[&campo]) return;
+  campo.setText(valor);
+  propuestos_[&campo] = valor;
+}
+
+void frmPartida::proponer(ParProvinciaPoblacion& par, std::int32_t municipio) {
+  std::string& propuesto = propuestos_[&par.poblacion()];
+  if (par.valor() != 0 && std::to_string(par.valor()) != propuesto) return;
+  par.poner(municipio);
+  propuesto = std::to_string(municipio);
+}
+
 bool frmPartida::mst_MouseDown() {
   bool adelante = false;
   procedimiento(suceso(mstPartida, "MouseDown").c_str(), [&] {
@@ -120,9 +134,10 @@ void frmPartida::proponerProgenitor(int apellido, int progenitor) {
     antes(c);
     const std::string escrito = text::trim(campo.text());
     const bool propone = esAlta() || variante_.progenitorAlCorregir;
-    if (!propone || c == &cmdPartida[CANCELAR] || escrito.empty()) return;
-    if (!text::trim(txtPartida[progenitor].text()).empty()) return;
-    txtPartida[progenitor].setText("--- " + escrito + " ---");
+    if (!propone || c == &cmdPartida[CANCELAR] || enBlanco(escrito)) return;
+    forms::TextBox& nombre = txtPartida[progenitor];
+    if (!nombre.locked() && text::trim(nombre.text()).empty())
+      nombre.setText("--- " + escrito + " ---");
   };
 }
 

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <deque>
 #include <functional>
+#include <map>
 #include <optional>
 #include <set>
 #include <string>
@@ -114,6 +115,9 @@ class frmPartida : public Dialogo {
   /// Stays as it is from one entry of a series to the next.
   void serie(const forms::Control& campo) { serie_.insert(&campo); }
   RevisionFechas& revision() { return fechasRevisadas_; }
+  /// What the institution gives for a field, unless something else has been written there.
+  void proponer(forms::TextBox& campo, const std::string& valor);
+  void proponer(ParProvinciaPoblacion& par, std::int32_t municipio);
   /// The tabs after that of the book. Connects the events; to be called last.
   void disponer(forms::Nodes paginas);
 
@@ -243,6 +247,7 @@ class frmPartida : public Dialogo {
   forms::TextBox* notas_ = nullptr;
   const forms::DateField* fechaSacramento_ = nullptr;
   std::set<const forms::Control*> serie_;
+  std::map<const forms::Control*, std::string> propuestos_;  // what another proposal may replace
   std::set<const forms::Control*> prescindibles_;
   std::vector<std::pair<forms::TextBox*, std::int64_t>> limites_;
   std::vector<forms::CheckBox*> marcas_;

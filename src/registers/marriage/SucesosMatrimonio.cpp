@@ -6,7 +6,6 @@
 #include "registers/common/Guiones.h"
 #include "registers/lookup/Importacion.h"
 #include "registers/marriage/frmPartidaMatrimonio.h"
-#include "text/Dates.h"
 #include "text/Utf8.h"
 
 namespace fidaleon {
@@ -31,12 +30,6 @@ void conCeros(TextBox& campo, std::size_t cifras) {
   const std::string escrito = text::trim(campo.text());
   const std::size_t longitud = text::length(escrito);
   if (longitud < cifras) campo.setText(std::string(cifras - longitud, '0') + escrito);
-}
-
-/// Full years between two days "yyyymmdd"; 0 when one is not known.
-int anios(const std::string& desde, const std::string& hasta) {
-  if (desde.empty() || hasta.empty()) return 0;
-  return std::max(0, (std::stoi(hasta) - std::stoi(desde)) / 10000);
 }
 
 }  // namespace
@@ -72,9 +65,9 @@ void frmPartidaMatrimonio::preestablecer() {
   const store::Recordset fila = filaDeInstitucion();
   if (fila.EOF_()) return;
   for (const int campo : {int{Parroquia}, NOVIO + ParroquiaBaut, NOVIA + ParroquiaBaut})
-    txtPartida[campo].setText(fila.text("InstitucionNombre"));
+    proponer(txtPartida[campo], fila.text("InstitucionNombre"));
   for (const int campo : {int{Diocesis}, NOVIO + DiocesisBaut, NOVIA + DiocesisBaut})
-    txtPartida[campo].setText(fila.text("Diocesis"));
+    proponer(txtPartida[campo], fila.text("Diocesis"));
   const bool dudosa = Operacion != cCOperacion::ANADIR;  // the wedding was, or will be, another day
   revision().proponerHoy(adtpPartida[FechaMatrimonio],
                          dudosa ? RevisionFechas::Hoy::DUDOSO : RevisionFechas::Hoy::NORMAL);
@@ -83,7 +76,7 @@ void frmPartidaMatrimonio::preestablecer() {
                                &cboPartida[NOVIA + ProvinciaActual + 1]};
   for (const auto& [par, miembro] : enlaces_.municipios)
     if (std::ranges::find(sinProponer, &par->poblacion()) == sinProponer.end())
-      par->poner(static_cast<std::int32_t>(fila.integer("CodMunicipio")));
+      proponer(*par, static_cast<std::int32_t>(fila.integer("CodMunicipio")));
 }
 
 void frmPartidaMatrimonio::LimpiarDatos() {
@@ -93,6 +86,7 @@ void frmPartidaMatrimonio::LimpiarDatos() {
     txtPartida[c + EstadoCivil].setText(c == NOVIA ? "soltera" : "soltero");
     txtPartida[c + Nacionalidad].setText("española");
     edadTecleada(c) = false;
+    CalcularEdad(c, "");  // what is shown of the couple before would not be stored
   }
   if (examenes_) examenes_->mostrar(respuestasEnBlanco());
 }
@@ -142,7 +136,7 @@ void frmPartidaMatrimonio::CalcularEdad(int contrayente, const char* siFalta) {
   if (edad.locked()) return;
   const bool seSabe = !nacimiento.empty() && !boda.empty();
   if (!seSabe && edadTecleada(contrayente) && !enBlanco(edad)) return;
-  const int cumplidos = anios(nacimiento, boda);
+  const int cumplidos = contexto_.fidaleon()->Anos(nacimiento, boda);
   calculando_ = true;
   edad.setText(cumplidos == 0 ? siFalta : std::to_string(cumplidos));
   calculando_ = false;
@@ -162,9 +156,11 @@ void frmPartidaMatrimonio::completarCP() {
 
 /// The exhorto goes to where a spouse lives.
 void frmPartidaMatrimonio::proponerExhorto() {
-  for (const int c : CONTRAYENTES)
-    if (text::trim(txtPartida[c + PoblacionExhorto].text()).empty())
-      txtPartida[c + PoblacionExhorto].setText(cboPartida[c + ProvinciaActual + 1].text());
+  for (const int c : CONTRAYENTES) {
+    TextBox& donde = txtPartida[c + PoblacionExhorto];
+    if (!donde.locked() && text::trim(donde.text()).empty())
+      donde.setText(cboPartida[c + ProvinciaActual + 1].text());
+  }
 }
 
 }  // namespace fidaleon

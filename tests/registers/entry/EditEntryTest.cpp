@@ -165,6 +165,16 @@ TEST_P(RequestedEntry, New_IsStoredOutsideAnyBookAndCorrectedThere) {
   }
   EXPECT_EQ(w.value(std::string("SELECT Nombre FROM ") + k.person), "Carlos");
   EXPECT_EQ(value("InstitucionSolicitud"), std::to_string(moves ? other : parish));
+  w.con().Execute("DELETE * FROM Institucion");
+  w.user.answerAnything(Answer::Ok);
+  open(
+      cCOperacion::EDITARSOLICITUD,
+      [&](FormDriver& d) {
+        tab(d, k.name.tab);
+        EXPECT_EQ(tab(d), moves ? 0 : k.name.tab) << "can be read where no other can be chosen";
+        cancel(d);
+      },
+      std::stoi(value(k.s.clavePartida)));
 }
 
 TEST_P(RequestedEntry, WithoutInstitution_IsRefusedInItsOwnWords) {

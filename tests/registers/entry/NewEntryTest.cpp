@@ -18,6 +18,8 @@ TEST_P(NewEntry, UsualOne_IsStoredAndFollowedByTheNext) {
     EXPECT_EQ(d.caption(), std::string(k.newCaption) + k.position);
     tab(d, k.where.tab);
     d.type(text(k.where.index), "San Juan");
+    tab(d, 0);
+    chooseBook(d, "Libro 1");  // again: what was written stays
     tab(d, k.day.tab);
     d.type(date(k.day.index), "20/11/2026");
     acceptNew(d, Answer::Yes);
