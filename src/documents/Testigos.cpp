@@ -8,7 +8,7 @@ namespace {
 
 std::string testigo(const FieldSource& matrimonio, const std::string& n) {
   const std::string compuesto =
-      ValorImprimible(matrimonio.text("Matrimonio_Compromiso.Testigo" + n));
+      ValorImprimible(text::trim(matrimonio.text("Matrimonio_Compromiso.Testigo" + n)));
   if (compuesto != BLANK) return compuesto;
   std::string nombre;
   for (const char* campo : {"Nombre", "PrimerApellido", "SegundoApellido"}) {

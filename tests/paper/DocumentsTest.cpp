@@ -299,6 +299,11 @@ INSTANTIATE_TEST_SUITE_P(
              {{"Cementerio", "Cementiri vell"}, {"Edad", "1"}},
              {"al Cementiri vell", "d’1 any d’edat", "estat civil: "},
              {"anys"}},
+        // The boxes of the parish and of the diocese come in the columns of each other.
+        Said{"InformeExhortoMatrimonio",
+             {{"DiocesisResidenciaNovio", "l''Alcúdia"}, {"ParroquiaResidenciaNovio", "Toledo"}},
+             {"Parroquia l'Alcúdia", "Diócesis Toledo"},
+             {"Parroquia Toledo"}},
         Said{"InformeIndiceLibroBautismoMenorca",
              {},
              {"ÍNDEX ALFABÈTIC", "Partides: 1"},

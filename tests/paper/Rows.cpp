@@ -121,9 +121,14 @@ void adapt(const std::string& operation, Values& row) {
     set("Numero", "---");
     set("NotasMarginales", "---");
   }
-  static const std::set<std::string> padded{"InformePartidaBautismo", "InformePartidaConfirmacion",
+  static const std::set<std::string> padded{"InformePartidaBautismo",
+                                            "InformePartidaConfirmacion",
                                             "InformePartidaDefuncion",
-                                            "InformeCertificadoPartidaDefuncion"};
+                                            "InformeCertificadoPartidaDefuncion",
+                                            "InformeCertificadoPartidaMatrimonio",
+                                            "InformeCertificadoLiteralPartidaMatrimonio",
+                                            "InformePartidaMatrimonio",
+                                            "InformeVolanteMatrimonio"};
   if (padded.count(operation) != 0)
     for (auto& [c, v] : row)
       if (c == "NotasMarginales") v = documents::paddedNotes(v);
