@@ -104,6 +104,30 @@ void typeCelebration(EntryHands& e) {
   e.place(P::ProvinciaDomicMatr);
 }
 
+void examine(EntryHands& e) {
+  struct Sworn {
+    int page;
+    const char* field;
+    const char* answer;
+  };
+  e.tab(P::TAB_EXAMENES);
+  for (const Sworn& s :
+       {Sworn{0, "txtExamenDatosGenerales(31)", "En esta parroquia, en marzo de 2025."},
+        Sworn{0, "txtExamenDatosGenerales(33)", "C/ de la Fuente, 30"},
+        Sworn{1, "txtExamenNovio(0)", "Sí, lo juro."}, Sworn{1, "txtExamenNovio(2)", "No."},
+        Sworn{1, "txtExamenNovio(8)",
+              "Porque los dos somos creyentes y queremos que nuestra familia lo sea."},
+        Sworn{2, "txtExamenNovia(0)", "Sí, lo juro."}, Sworn{2, "txtExamenNovia(2)", "No."},
+        Sworn{2, "txtExamenNovia(8)", "Porque creo que es una vocación y quiero vivirla así."},
+        Sworn{3, "txtExamenTestigo1(0)", "Sí, lo juro."},
+        Sworn{3, "txtExamenTestigo1(1)", "Desde la escuela."},
+        Sworn{4, "txtExamenTestigo2(0)", "Sí, lo juro."},
+        Sworn{4, "txtExamenTestigo2(1)", "Desde hace ocho años, de la parroquia."}}) {
+    e.dialog().tab("mstExamenes", s.page);
+    e.dialog().type(s.field, s.answer);
+  }
+}
+
 void chooseToday(FormDriver& d) {
   d.click(demo::at("cmdBoton", frmInfFecha::ACEPTAR));
 }
@@ -153,6 +177,12 @@ class Marriages {
                     typeCelebration(e);
                   },
                   0, true});
+    });
+    w_.step("Se toma juramento a los contrayentes y a los testigos", [this] {
+      r_.correct({couple_.name, examine, 0, true});
+      w_.check(w_.count("Matrimonio_Cursos WHERE CodMatrimonio=" +
+                        std::to_string(r_.idOf(couple_))) == "4",
+               "lo que han declarado los cuatro está guardado");
     });
     w_.step("Se pide a las parroquias de residencia que amonesten", [this] { banns(); });
     w_.step("Se imprime el expediente", [this] { r_.document("expediente", couple_, false); });
