@@ -132,7 +132,6 @@ bool Carga::pedirFecha(const char* titulo, const char* rotulo) {
 }
 
 void Carga::pedirJuzgado() {
-  contexto_.ui().beep();
   juzgado_ = nombreJuzgado(contexto_.ui()
                                .inputBox("Especifique el nombre del juzgado del Registro Civil: \n"
                                          "Advertencia: Longitud maxima 50 caracteres.",
