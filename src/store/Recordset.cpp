@@ -90,6 +90,14 @@ std::int64_t Recordset::integer(std::string_view name) const {
   return state.integer(state.find(name));
 }
 
+std::string Recordset::text(int position) const {
+  return opened(state_).text(position);
+}
+
+std::int64_t Recordset::integer(int position) const {
+  return opened(state_).integer(position);
+}
+
 bool Recordset::flag(std::string_view name) const {
   return integer(name) != 0;
 }

@@ -60,6 +60,9 @@ class Recordset {
   std::string text(std::string_view name) const;
   std::int64_t integer(std::string_view name) const;
   bool flag(std::string_view name) const;
+  /// The same by position, for many rows: nothing is looked up and no Field is made.
+  std::string text(int position) const;
+  std::int64_t integer(int position) const;
 
  private:
   std::shared_ptr<RecordsetState> state_;

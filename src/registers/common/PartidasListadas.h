@@ -29,8 +29,7 @@ class PartidasListadas {
   /// Adds the row on which `filas` stands; `lugares` says where in it each column is.
   void fila(const store::Recordset& filas, std::span<const int> lugares) {
     for (std::size_t c = 0; c < columnas_.size(); ++c) {
-      const store::Field campo = filas.Fields(lugares[c]);
-      textos_ += texto(columnas_[c], campo.Value());
+      textos_ += texto(columnas_[c], filas, lugares[c]);
       finales_.push_back(static_cast<std::uint32_t>(textos_.size()));
     }
     enteras_.emplace_back();
@@ -77,9 +76,9 @@ class PartidasListadas {
     const std::size_t desde = cual == 0 ? 0 : finales_[cual - 1];
     return std::string_view(textos_).substr(desde, finales_[cual] - desde);
   }
-  static std::string texto(const Columna<Registro>& c, const store::Value& v) {
-    if (std::holds_alternative<std::string Registro::*>(c.miembro)) return v.text();
-    return std::to_string(v.integer());
+  static std::string texto(const Columna<Registro>& c, const store::Recordset& filas, int lugar) {
+    if (std::holds_alternative<std::string Registro::*>(c.miembro)) return filas.text(lugar);
+    return std::to_string(filas.integer(lugar));
   }
   static void poner(Registro& r, const Columna<Registro>& c, std::string_view celda) {
     std::visit(
