@@ -3,6 +3,8 @@
 
 #include <QApplication>
 #include <QTemporaryDir>
+#include <ctime>
+#include <filesystem>
 #include <string>
 #include <utility>
 #include <vector>
@@ -222,6 +224,14 @@ void insertEntries(store::Connection& reports, const Register& r) {
   reports.CommitTrans();
 }
 
+/// Of the thread that lays out, while another one compresses: the time by the clock of a machine
+/// that does nothing else.
+double ownMilliseconds() {
+  timespec t{};
+  clock_gettime(CLOCK_THREAD_CPUTIME_ID, &t);
+  return static_cast<double>(t.tv_sec) * 1e3 + static_cast<double>(t.tv_nsec) / 1e6;
+}
+
 void measure(store::Connection& reports, const Register& r, const std::string& file) {
   paper::ReportOptions options;
   options.composition = paper::ReportOptions::Composition::AsNeeded;
@@ -230,15 +240,15 @@ void measure(store::Connection& reports, const Register& r, const std::string& f
     return paper::Report(reports, "templates", name, QStringLiteral("Libro"), options);
   };
   const std::string book = std::string("libro de 10.000, ") + r.name;
-  int pages = 0;
-  const double time = bench::milliseconds(1, [&] {
-    const paper::Report whole = report(r.book);
-    whole.savePdf(file);
-    pages = whole.pageCount();
-  });
-  const double perSecond = pages * 1e3 / time;
-  bench::line(book + ": páginas por segundo", bench::shown(perSecond, ""), "400",
-              bench::shown(perSecond / 400, ""), ">= 1", perSecond >= 400);
+  const double start = ownMilliseconds();
+  const paper::Report whole = report(r.book);
+  whole.savePdf(file);
+  const double perSecond = whole.pageCount() * 1e3 / (ownMilliseconds() - start);
+  bench::line(book + ": páginas por segundo", bench::shown(perSecond, ""), "800",
+              bench::shown(perSecond / 800, ""), ">= 1", perSecond >= 800);
+  const auto bytes = std::filesystem::file_size(file) / static_cast<unsigned>(whole.pageCount());
+  bench::line(book + ": bytes por página", std::to_string(bytes), "4096",
+              bench::shown(static_cast<double>(bytes) / 4096, ""), "<= 1", bytes <= 4096);
   bench::within(
       book + ": primera página",
       bench::milliseconds(3, [&] { report(r.book).composeMore(std::chrono::milliseconds(0)); }),

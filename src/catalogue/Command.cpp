@@ -217,7 +217,7 @@ void addDocumentCommands(std::vector<Command>& all) {
   add(document("expediente-1", "Expediente (formato &1)…", "Ctrl+1",
                "El expediente y, detrás, su estado", REQUESTS));
   add(document("expediente-2", "Expediente (formato &2)…", "Ctrl+2",
-               "Los mismos datos en otra disposición", REQUESTS));
+               "El expediente breve, con las declaraciones de ambos en una hoja", REQUESTS));
   add(document("expediente-3", "Expediente (formato &3)…", "Ctrl+3",
                "Según se tramite en la parroquia o se envíe a la curia", REQUESTS));
   add(document("exhorto", "Ex&horto de amonestaciones…", "Ctrl+H",

@@ -56,6 +56,9 @@ void BlockLayout::add(const Block& block, const Source& source, qreal width,
     case Block::Kind::Rule:
       made = std::make_shared<RuleFragment>(width, dotsOfMillimetres(block.thickness));
       break;
+    case Block::Kind::Cross:
+      made = std::make_shared<CrossFragment>(width, dotsOfMillimetres(block.height) * scale_);
+      break;
     case Block::Kind::WriteLines:
       made = writeLines(block, width, dotsOfMillimetres(block.height));
       break;

@@ -1,6 +1,7 @@
 #include "paper/Fragments.h"
 
 #include <QPainter>
+#include <QPainterPath>
 #include <algorithm>
 #include <cmath>
 
@@ -40,6 +41,24 @@ void paintDots(QPainter& painter, qreal left, qreal right, qreal y) {
 void RuleFragment::paint(QPainter& painter, QPointF topLeft) const {
   painter.fillRect(QRectF(topLeft, QSizeF(width_, thickness_)),
                    ink_ == Ink::Black ? QColor(Qt::black) : QColor(130, 130, 130));
+}
+
+void CrossFragment::paint(QPainter& painter, QPointF topLeft) const {
+  constexpr qreal kOfHeight = 0.72;
+  QPainterPath arm({0.07, -0.07});
+  arm.quadTo({0.13, -0.6}, {0.52, -1});
+  arm.quadTo({0, -0.9}, {-0.52, -1});
+  arm.quadTo({-0.13, -0.6}, {-0.07, -0.07});
+  arm.lineTo(0, 0.07);
+  arm.closeSubpath();
+  painter.save();
+  painter.translate(topLeft + QPointF(width_, height_) / 2);
+  painter.scale(height_ * kOfHeight / 2, height_ * kOfHeight / 2);
+  for (int i = 0; i < 4; ++i) {
+    painter.fillPath(arm, Qt::black);
+    painter.rotate(90);
+  }
+  painter.restore();
 }
 
 TextFragment::TextFragment(std::shared_ptr<const QTextLayout> layout, int first, int last,

@@ -34,6 +34,19 @@ class RuleFragment : public Fragment {
   Ink ink_;
 };
 
+/// A cross that widens towards its ends, in the middle: drawn, since few fonts have one, and a
+/// second font only for it makes each document larger and later.
+class CrossFragment : public Fragment {
+ public:
+  CrossFragment(qreal width, qreal height) : width_(width), height_(height) {}
+  qreal height() const override { return height_; }
+  void paint(QPainter& painter, QPointF topLeft) const override;
+
+ private:
+  qreal width_;
+  qreal height_;
+};
+
 /// Lines first to last of a paragraph, a line taking `leading` times its natural height.
 class TextFragment : public Fragment {
  public:

@@ -193,11 +193,15 @@ std::optional<Condition> readCondition(const XmlNode& node, const ConditionText&
 }
 
 QRegularExpression readPattern(const XmlNode& node, const char* attribute, const QString& pattern) {
-  QRegularExpression expression(pattern, QRegularExpression::CaseInsensitiveOption |
-                                             QRegularExpression::UseUnicodePropertiesOption);
+  // Templates are read anew for each document; their patterns take longest and stay the same.
+  static thread_local QHash<QString, QRegularExpression> understood;
+  const auto found = understood.constFind(pattern);
+  if (found != understood.constEnd()) return *found;
+  const QRegularExpression expression(pattern, QRegularExpression::CaseInsensitiveOption |
+                                                   QRegularExpression::UseUnicodePropertiesOption);
   if (!expression.isValid())
     failAt(node, QStringLiteral("«%1» no se entiende: %2").arg(QLatin1String(attribute), pattern));
-  return expression;
+  return *understood.insert(pattern, expression);
 }
 
 bool isBlankText(const XmlNode& node) {

@@ -22,6 +22,8 @@ class Pages {
 
   /// Lays out one page more. Not when complete.
   void composeNext();
+  /// Whether another page follows this one, which is there. Lays out nothing.
+  bool goesOnAfter(int page) const { return page + 1 < count() || !complete(); }
   /// Whether there is such a page; lays out what is needed to know.
   bool has(int page);
   /// Laid out again if it is not held. Only for pages that are there.

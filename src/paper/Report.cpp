@@ -14,6 +14,7 @@
 
 #include "paper/CheckedFile.h"
 #include "paper/Pages.h"
+#include "paper/SheetTurner.h"
 #include "paper/SortOrder.h"
 #include "paper/TemplateReader.h"
 #include "paper/Units.h"
@@ -311,9 +312,12 @@ void Report::Impl::writePdf(QIODevice& to) {
   writer.setPageLayout(sheetOf(layout));
   QPainter painter(&writer);
   const bool counted = pages.complete();
+  SheetTurner turner(writer);
   for (int page = 0; pages.has(page); ++page) {
-    if (page > 0) writer.newPage();
+    pages.page(page);
+    turner.wait();
     paint(painter, page);
+    if (pages.goesOnAfter(page)) turner.turn();
     if (counted)
       reportProgress(static_cast<std::size_t>(page) + 1, static_cast<std::size_t>(pages.count()));
     else

@@ -82,6 +82,7 @@ struct Block {
     Box,      // a frame around its children
     Field,    // a label and, on a hairline, a value
     Rule,
+    Cross,
     Space,
     WriteLines,  // dotted lines to write on; as the last block of a column, down to its foot
   };

@@ -278,6 +278,7 @@ class Reader {
         {QStringLiteral("box"), {Block::Kind::Box, &Reader::readBox}},
         {QStringLiteral("field"), {Block::Kind::Field, &Reader::readField}},
         {QStringLiteral("rule"), {Block::Kind::Rule, &Reader::readRule}},
+        {QStringLiteral("cross"), {Block::Kind::Cross, &Reader::readCross}},
         {QStringLiteral("space"), {Block::Kind::Space, &Reader::readSpace}},
         {QStringLiteral("write-lines"), {Block::Kind::WriteLines, &Reader::readWriteLines}},
     };
@@ -349,6 +350,7 @@ class Reader {
     block.style.after = a.number("after", 0);
   }
 
+  void readCross(Attributes& a, Block& block) { block.height = a.number("height", 8.2); }
   void readSpace(Attributes& a, Block& block) { block.height = a.number("height", 4); }
 
   void readWriteLines(Attributes& a, Block& block) {
