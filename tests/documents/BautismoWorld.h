@@ -1,16 +1,11 @@
 #pragma once
 // One baptism in a book, and the rows that its documents leave.
 
-#include <map>
-
 #include "documents/cInformes.h"
 #include "support/Fields.h"
 #include "support/TestWorld.h"
 
 namespace fidaleon::tests {
-
-/// Column to value; a column that holds Null is not there.
-using Row = std::map<std::string, std::string>;
 
 struct BautismoWorld : TestWorld {
   BautismoWorld() {
@@ -58,24 +53,16 @@ struct BautismoWorld : TestWorld {
   }
   /// The one row of the table; empty, and a failure, when there is not exactly one.
   Row fila(const std::string& tabla = "Documentos_Bautismo") {
-    const store::Recordset rs = conInformes().Execute("SELECT * FROM " + tabla);
-    EXPECT_EQ(rs.RecordCount(), 1);
-    Row row;
-    if (rs.RecordCount() != 1) return row;
-    for (int i = 0; i < rs.FieldCount(); ++i)
-      if (!rs.Fields(i).Value().isNull()) row[rs.FieldName(i)] = rs.Fields(i).Value().text();
-    return row;
+    const std::vector<Row> rows = rowsIn(conInformes(), tabla);
+    EXPECT_EQ(rows.size(), 1u);
+    return rows.size() == 1 ? rows[0] : Row();
   }
   /// All rows, without the keys that tie tables together.
   std::vector<Row> todas(const std::string& tabla) {
-    std::vector<Row> rows;
-    for (store::Recordset rs = conInformes().Execute("SELECT * FROM " + tabla); !rs.EOF_();
-         rs.MoveNext()) {
-      Row& row = rows.emplace_back();
-      for (int i = 0; i < rs.FieldCount(); ++i)
-        if (!rs.Fields(i).Value().isNull() && !rs.FieldName(i).ends_with("Documentos_Matrimonio"))
-          row[rs.FieldName(i)] = rs.Fields(i).Value().text();
-    }
+    std::vector<Row> rows = rowsIn(conInformes(), tabla);
+    for (Row& row : rows)
+      for (const char* key : {"IDDocumentos_Matrimonio", "CodDocumentos_Matrimonio"})
+        row.erase(key);
     return rows;
   }
   std::string columna(const std::string& nombre) { return fila()[nombre]; }

@@ -79,31 +79,16 @@ TEST_P(BookRun, ReadingFails_IsToldAndNothingStaysOpen) {
   }
 }
 
-/// Stops the work at the second row.
-class Impaciente : public forms::ScriptedUser {
- public:
-  void progressMove(std::int64_t position) override {
-    ScriptedUser::progressMove(position);
-    if (position == 2) throw forms::Cancelled();
-  }
-};
-
 TEST_P(BookRun, StoppedByTheUser_LeavesNothingAndIsNoError) {
-  Impaciente impaciente;
-  support::HostSupport host(impaciente, w.settings, w.clock, w.config, "DESPACHO");
-  Entorno entorno{impaciente, host, w.settings, w.clock, w.entorno.installation};
-  Contexto contexto(entorno);
-  cInformes informes(contexto);
   w.agregar({.folio = "13"});
   w.agregar({.folio = "14"});
-  impaciente.expectMessage(forms::Cancelled().what());
-  (informes.*GetParam().miembro)(w.con(), w.conInformes(), 1);
+  w.user.stopAt = 2;
+  w.user.expectMessage(forms::Cancelled().what());
+  imprimir();
   EXPECT_EQ(w.filas(), 0);
   EXPECT_FALSE(w.conInformes().inTransaction());
-  EXPECT_EQ(impaciente.progressLog.back(), "close");
-  ASSERT_EQ(impaciente.messages().size(), 1u);
-  EXPECT_EQ(impaciente.messages()[0].icon, forms::MsgIcon::Information);
-  EXPECT_SCRIPT_DONE(impaciente);
+  EXPECT_EQ(w.user.progressLog.back(), "close");
+  EXPECT_EQ(w.user.messages().at(0).icon, forms::MsgIcon::Information);
 }
 
 INSTANTIATE_TEST_SUITE_P(Documents, BookRun, ::testing::ValuesIn(casos()),

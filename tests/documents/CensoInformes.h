@@ -1,15 +1,12 @@
 #pragma once
 // People, groups and tasks, and the rows that their reports leave.
 
-#include <map>
-
 #include "census/Manos.h"
-#include "documents/cInformes.h"
+#include "core/facade/cNucleo.h"
 #include "support/Fields.h"
 
 namespace fidaleon::tests {
 
-/// Column to value; a column that holds Null is not there.
 using Fila = Row;
 
 /// Notes what it is told, and stops the work when the bar stands at `hasta`.
@@ -41,16 +38,8 @@ struct CensoInformes : ManosWorld {
                "; Descripcion=" + descripcion);
   }
 
-  /// Rows in the order in which they were written.
   std::vector<Fila> filas(const std::string& tabla = "Informe_Colaboradores") {
-    std::vector<Fila> todas;
-    for (store::Recordset rs = conInformes().Execute("SELECT * FROM " + tabla); !rs.EOF_();
-         rs.MoveNext()) {
-      Fila& fila = todas.emplace_back();
-      for (int i = 0; i < rs.FieldCount(); ++i)
-        if (!rs.Fields(i).Value().isNull()) fila[rs.FieldName(i)] = rs.Fields(i).Value().text();
-    }
-    return todas;
+    return rowsIn(conInformes(), tabla);
   }
   /// The named columns of each row, with blanks between.
   std::vector<std::string> lineas(std::initializer_list<const char*> columnas,
@@ -70,7 +59,7 @@ struct CensoInformes : ManosWorld {
   }
 
   ProgresoAnotado progreso;
-  cInformes informes{contexto};
+  cNucleo informes{entorno};
 };
 
 }  // namespace fidaleon::tests

@@ -127,7 +127,7 @@ TEST(AgendaRows, OfTheYear_AreCutByPosition) {
 
 struct Informe {
   const char* nombre;
-  void (cInformes::*imprimir)(FDAPI::Conexion&, FDAPI::Conexion&, FDAPI::cProgreso&);
+  void (cNucleo::*imprimir)(FDAPI::Conexion&, FDAPI::Conexion&, FDAPI::cProgreso&);
   const char *tabla, *quienFalla;
   bool quedaAbierta;  // the transaction is left to the connection
 };
@@ -175,13 +175,13 @@ TEST_P(CensusReport, StoppedByTheUser_LeavesNothing) {
 
 INSTANTIATE_TEST_SUITE_P(
     Reports, CensusReport,
-    ::testing::Values(Informe{"InformeColaborador", &cInformes::InformeColaborador,
+    ::testing::Values(Informe{"InformeColaborador", &cNucleo::InformeColaborador,
                               "Informe_Colaboradores", "RellenarInformeColaborador", false},
-                      Informe{"InformeColaboradorExt", &cInformes::InformeColaboradorExt,
+                      Informe{"InformeColaboradorExt", &cNucleo::InformeColaboradorExt,
                               "Informe_Colaboradores", "RellenarInformeColaborador", false},
-                      Informe{"InformeActividad", &cInformes::InformeActividad,
+                      Informe{"InformeActividad", &cNucleo::InformeActividad,
                               "Informe_Colaboradores", "RellenarInformeActividad", false},
-                      Informe{"InformeAgenda", &cInformes::InformeAgenda, "Tareas_Agenda",
+                      Informe{"InformeAgenda", &cNucleo::InformeAgenda, "Tareas_Agenda",
                               "InformeAgenda", true}),
     [](const auto& caso) { return std::string(caso.param.nombre); });
 

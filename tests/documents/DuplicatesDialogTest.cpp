@@ -157,70 +157,36 @@ TEST_P(DuplicatesDialog, YearWithoutEntries_SaysSoAndKeepsTheOrder) {
   EXPECT_EQ(w.user.beeps(), 1);
 }
 
-/// Notes what the bar shows.
-class BarWatch : public forms::FormObserver {
- public:
-  void controlChanged(forms::Control& control, forms::Change what) override {
-    if (what != forms::Change::Progress) return;
-    const auto& bar = dynamic_cast<forms::Progress&>(control);
-    seen.push_back(std::to_string(bar.value()) + "/" + std::to_string(bar.count()) + " " +
-                   bar.message());
+TEST_P(DuplicatesDialog, RowFails_LeavesTheTransactionToItsOwnerAndTheDialogToTryAgainOrCancel) {
+  for (const bool again : {true, false}) {
+    LibroWorld otro(r);
+    otro.agregar({});
+    auto* motor = store::FailingEngine::wrap(otro.conInformes());
+    motor->failOn(r.insercion(), store::ErrorKind::Other, 2);
+    otro.user.answerAnything(Answer::Ok);
+    const std::string orden = mostrar(otro, [&](FormDriver& u) {
+      pedir(u, r.porFecha, "2003");
+      EXPECT_FALSE(u.closed());
+      EXPECT_EQ(otro.conInformes().inTransaction(), !r.porCargador());
+      EXPECT_EQ(otro.filas(), r.porCargador() ? 0 : 1);
+      const std::string quien =
+          r.porCargador() ? "  - "
+                          : std::string("FidaleonNucleo / frmInfDuplicadas / Duplicadas") +
+                                r.sacramento.palabra + ")";
+      EXPECT_THAT(otro.user.messages().at(0).text, HasSubstr(quien));
+      const auto& bar = u.get<forms::Progress>("abpProgreso");
+      EXPECT_EQ(std::to_string(bar.value()) + "/" + std::to_string(bar.count()) + bar.message(),
+                std::string("1/2") + r.progreso);
+      again ? pedir(u, r.porFecha, "2003") : u.click("cmdBoton(1)");
+    });
+    EXPECT_EQ(orden, again ? std::string(r.formula) + ",+{@Folio},+{@Numero}" : "");
+    EXPECT_EQ(otro.conInformes().inTransaction(), !again && !r.porCargador());
+    if (otro.conInformes().inTransaction()) otro.conInformes().RollbackTrans();
+    EXPECT_EQ(otro.filas(), again ? 2 : 0) << "no row of the first attempt";
+    EXPECT_EQ(otro.user.hourglassDepth(), 0);
+    EXPECT_EQ(otro.user.progressLog.front(), "open 2 Procesando vista preliminar ...");
+    EXPECT_EQ(otro.user.progressLog.back(), "close");
   }
-  void focusChanged(forms::Control*) override {}
-  void captionChanged() override {}
-  void unloaded() override {}
-  std::vector<std::string> seen;
-};
-
-TEST_P(DuplicatesDialog, Bar_CountsTheRowsAndIsReset) {
-  w.agregar({});
-  BarWatch watch;
-  mostrar([&](FormDriver& u) {
-    u.form().setObserver(&watch);
-    pedir(u, r.porFecha, "2003");
-    u.form().setObserver(nullptr);
-  });
-  const std::string texto = std::string("/2 ") + r.progreso;
-  EXPECT_THAT(watch.seen, ElementsAre("0" + texto, "0" + texto, "1" + texto, "2" + texto,
-                                      "2" + texto, "0" + texto));
-  EXPECT_THAT(w.user.progressLog,
-              ElementsAre("open 2 Procesando vista preliminar ...", "1", "2", "close"));
-}
-
-TEST_P(DuplicatesDialog, RowFails_LeavesTheTransactionToItsOwnerAndTheDialogToTryAgain) {
-  w.agregar({});
-  auto* motor = store::FailingEngine::wrap(w.conInformes());
-  motor->failOn(r.insercion(), store::ErrorKind::Other, 2);
-  w.user.answerAnything(Answer::Ok);
-  const std::string orden = mostrar([&](FormDriver& u) {
-    pedir(u, r.porFecha, "2003");
-    EXPECT_FALSE(u.closed());
-    EXPECT_EQ(w.conInformes().inTransaction(), !r.porCargador());
-    EXPECT_EQ(w.filas(), r.porCargador() ? 0 : 1);
-    EXPECT_THAT(
-        w.user.messages().at(0).text,
-        HasSubstr(r.porCargador() ? "  - "
-                                  : std::string("FidaleonNucleo / frmInfDuplicadas / Duplicadas") +
-                                        r.sacramento.palabra + ")"));
-    pedir(u, r.porFecha, "2003");
-  });
-  EXPECT_EQ(w.filas(), 2) << "no row of the first attempt";
-  EXPECT_FALSE(w.conInformes().inTransaction());
-  EXPECT_EQ(orden, std::string(r.formula) + ",+{@Folio},+{@Numero}");
-  EXPECT_EQ(w.user.hourglassDepth(), 0);
-}
-
-TEST_P(DuplicatesDialog, CancelledAfterAFailure_LeavesTheTransactionToTheConnection) {
-  store::FailingEngine::wrap(w.conInformes())->failOn("INSERT INTO Documentos_");
-  w.user.answerAnything(Answer::Ok);
-  const std::string orden = mostrar([&](FormDriver& u) {
-    pedir(u, r.porFecha, "2003");
-    u.click("cmdBoton(1)");
-  });
-  EXPECT_EQ(orden, "");
-  EXPECT_EQ(w.conInformes().inTransaction(), !r.porCargador());
-  if (!r.porCargador()) w.conInformes().RollbackTrans();
-  EXPECT_EQ(w.filas(), 0);
 }
 
 TEST_P(DuplicatesDialog, LoadingFails_IsToldAndTheDialogCanBeLeft) {

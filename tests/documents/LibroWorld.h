@@ -5,7 +5,7 @@
 
 #include "GoldenRows.h"
 #include "core/facade/Documentos.h"
-#include "core/statements/Sentencia.h"
+#include "registers/Rows.h"
 #include "registers/common/FormaPartida.h"
 
 namespace fidaleon::tests {
@@ -77,63 +77,16 @@ struct LibroWorld : PartidasWorld {
   }
   /// Where the register keeps the name.
   const char* tablaPersona() const { return formaPartida(registro.sacramento)->personas.front(); }
-  /// The key of the new entry; baptisms share their parents and their marriage.
+  /// The key of the new entry.
   std::string agregar(const Entrada& e) {
-    const std::string posicion =
-        std::to_string(e.libro) + ", " + e.folio + ", \"" + e.numero + "\"";
-    const std::string persona = "\"" + e.nombre + "\", \"" + e.apellido + "\", \"Sanz\")";
-    const std::string fecha = ", \"" + e.fecha + "\")";
-    const auto ultima = [&] {
-      const Sacramento& s = registro.sacramento;
-      return value(sentencia(s, "SELECT MAX({IDPartida}) AS ID FROM {Partidas}"));
-    };
-    if (&registro.sacramento == &BAUTISMO) {
-      run("INSERT INTO Bautismo (CodPadres, CodMadres, CodMatrimonio, CodLibro, Folio, Numero, "
-          "FechaBautismo) VALUES (1, 1, 1, " +
-          posicion + fecha);
-      run("INSERT INTO Bautismo_Hijo (CodBautismo, Nombre, PrimerApellido, SegundoApellido) VALUES "
-          "(" +
-          ultima() + ", " + persona);
-      return ultima();
-    }
-    if (registro.porCargador()) return casar(posicion, persona, fecha);
-    en("INSERT INTO {Partidas} (CodLibro, Folio, Numero, Nombre, PrimerApellido, "
-       "SegundoApellido) VALUES (",
-       posicion + ", " + persona);
-    const std::string id = ultima();
-    if (&registro.sacramento == &CONFIRMACION) {
-      run("INSERT INTO Confirmacion_Datos (CodConfirmacion, FechaConfirmacion) VALUES (" + id +
-          fecha);
-      run("INSERT INTO Confirmacion_Bautismo (CodConfirmacion) VALUES (" + id + ")");
-    } else {
-      run("INSERT INTO Defuncion_Datos (CodDifunto, FechaDefuncion) VALUES (" + id + fecha);
-    }
-    return id;
-  }
-  /// The groom, and the bride of PartidasWorld.
-  std::string casar(const std::string& posicion, const std::string& persona,
-                    const std::string& fecha) {
-    run("INSERT INTO Matrimonio_Novios (Nombre, PrimerApellido, SegundoApellido) VALUES (" +
-        persona);
-    const std::string novio = value("SELECT MAX(IDNovios) AS ID FROM Matrimonio_Novios");
-    for (const char* ficha : {"Bautismo", "RegCivil"})
-      run(std::string("INSERT INTO Matrimonio_Novios_") + ficha + " (CodNovios) VALUES (" + novio +
-          ")");
-    run("INSERT INTO Matrimonio (CodNovios, CodNovias, CodLibro, Folio, Numero) VALUES (" + novio +
-        ", 1, " + posicion + ")");
-    const std::string id = value("SELECT MAX(IDMatrimonio) AS ID FROM Matrimonio");
-    run("INSERT INTO Matrimonio_Compromiso (CodMatrimonio, FechaMatrimonio) VALUES (" + id + fecha);
-    run("INSERT INTO Matrimonio_Expediente (CodMatrimonio) VALUES (" + id + ")");
-    return id;
+    return std::to_string(
+        insertEntry(*this, registro.sacramento,
+                    {e.nombre, e.libro, std::stoi(e.folio), e.numero, 0, {}, e.apellido, e.fecha}));
   }
   /// The key of a further book.
   int libro(const std::string& nombre, const std::string& creacion, int institucionDelLibro = 1) {
-    en("INSERT INTO {Libros} (CodInstitucion, CodFormato, CodTipoNombre, Nombre, FechaCreacion, "
-       "Nuevo) VALUES (",
-       std::to_string(institucionDelLibro) + ", 1, 1, \"" + nombre + "\", \"" + creacion +
-           "\", 0)");
-    return std::stoi(
-        value(sentencia(registro.sacramento, "SELECT MAX({IDLibro}) AS ID FROM {Libros}")));
+    return insertBook(*this, registro.sacramento, institucionDelLibro,
+                      {nombre, false, 1, false, creacion});
   }
   void vaciarLibro() { en("DELETE * FROM {Partidas}"); }
 

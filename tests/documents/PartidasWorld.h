@@ -18,64 +18,48 @@ struct PartidasWorld : BautismoWorld {
   }
 
  private:
-  /// The columns of a spouse are named as a document names them, with the word at the end.
-  void conyuge(const std::string& tabla, const std::string& persona, const std::string& bautismo,
-               const std::string& registro) {
-    const std::string clave = "Cod" + tabla;
-    run("INSERT INTO Matrimonio_" + tabla +
-        " (Nombre, PrimerApellido, SegundoApellido, DNI, Edad, "
-        "Religion, FechaNac, CodMunicipioNac, DomicilioActual, CodMunicipioActual, "
-        "DomicilioAnterior, CodMunicipioAnterior, FechaConfirmacion, CodMunicipioConfirmacion, "
-        "TResidenciaDomAct, Profesion, DiocesisNac, Nacionalidad, Email" +
-        tabla.substr(0, 5) + ", Telefono" + tabla.substr(0, 5) +
-        ", ParroquiaExhorto, PoblacionExhorto, DiocesisExhorto) VALUES (" + persona + ")");
-    run("INSERT INTO Matrimonio_" + tabla + "_Bautismo (" + clave +
-        ", FechaBaut, ParroquiaBaut, DiocesisBaut, CodMunicipioBaut, LibroBaut, FolioBaut, "
-        "NumeroBaut) VALUES (1, " +
-        bautismo + ")");
-    run("INSERT INTO Matrimonio_" + tabla + "_RegCivil (" + clave +
-        ", EstadoCivil, NombrePadre, NombreMadre, MunicipioInscrito, Tomo, Pagina, NombreCivil, "
-        "SujetoDerecho) VALUES (1, " +
-        registro + ")");
-  }
+  // The columns that a document prints are named with the word of the spouse at the end.
   void casar() {
-    const std::string enGetafe = std::to_string(getafe), enToledo = std::to_string(toledo);
-    const std::string enEcija = std::to_string(ecija);
-    conyuge("Novios",
-            "\"Luis\", \"Gil\", \"Mora\", \"1A\", \"30\", \"Católica\", \"19900102\", " + enToledo +
-                ", \"Calle Ancha, 1\", " + enGetafe + ", \"\", 0, \"20050506\", " + enEcija +
-                ", 4, \"Maestro\", \"Toledo\", \"Española\", \"luis@casa\", \"600\", "
-                "\"San José\", \"Pinto\", \"Getafe\"",
-            "\"19900201\", \"Santa Ana\", \"Toledo\", " + enToledo + ", \"IV\", 12, \"3\"",
-            "\"soltero\", \"Juan Gil\", \"Inés Mora\", \"Toledo\", \"5\", \"66\", \"Luis G.\", "
-            "\"Derecho común\"");
-    conyuge("Novias",
-            "\"Ana\", \"Sanz\", \"Ruiz\", \"2B\", \"29\", \"Ortodoxa\", \"19910304\", " + enEcija +
-                ", \"Calle Nueva, 2\", " + enEcija + ", \"Calle Vieja\", " + enToledo +
-                ", \"---\", 0, 0, \"Médica\", \"Sevilla\", \"Rumana\", \"ana@casa\", \"700\", "
-                "\"San Blas\", \"Osuna\", \"Sevilla\"",
-            "\"19910405\", \"Santa Cruz\", \"Sevilla\", " + enEcija + ", \"VII\", 8, \"9b\"",
-            "\"viuda\", \"Pedro Sanz\", \"Rosa Ruiz\", \"" + enEcija +
-                "\", \"7\", \"88\", \"Ana S.\", \"Navarra\"");
-    run("INSERT INTO Matrimonio (CodNovios, CodNovias, InstitucionSolicitud, Parroquia, "
-        "CodMunicipio, Diocesis, NotasMarginales, Observaciones, CodLibro, Folio, Numero, Anulada) "
-        "VALUES (1, 1, 0, \"Santa Ana\", " +
-        enGetafe + ", \"Getafe\", \"Nulo en 2025\", \"Con dispensa\", 1, 5, \"6a\", 0)");
-    run("INSERT INTO Matrimonio_Compromiso (CodMatrimonio, FechaMatrimonio, HoraMatrimonio, "
-        "Padrino, Madrina, Testigos, Celebrante, ExpedInst, DomicilioMatrimonio, "
-        "CodMunicipioDomicMatr, TelefonoDomicMatr, CPCompromiso, NihilObstat, Demarcacion, "
-        "TestigosParroquia, Testigo1, Testigo2) VALUES (1, \"20200926\", \"12:30\", \"Juan Gil\", "
-        "\"Rosa Ruiz\", \"---\", \"José Vidal\", \"En Getafe\", \"Calle Real, 7\", " +
-        enToledo +
-        ", \"916\", \"28901\", \"3/2020\", \"San Juan\", \"De ambas\", \"---\", \"Eva Lara\")");
-    run("INSERT INTO Matrimonio_Expediente (CodMatrimonio, NombreTestigo1, PrimerApellidoTestigo1, "
-        "SegundoApellidoTestigo1, DNITestigo1, DomicilioTestigo1, CodMunicipioTestigo1, "
-        "NombreTestigo2, PrimerApellidoTestigo2, SegundoApellidoTestigo2, DNITestigo2, "
-        "DomicilioTestigo2, CodMunicipioTestigo2) VALUES (1, \"Blas\", \"Soto\", \"---\", \"3C\", "
-        "\"Calle Uno\", " +
-        enGetafe + ", \"Inés\", \"Lara\", \"Pol\", \"4D\", \"\", 0)");
-    run("INSERT INTO Matrimonio_Cursos (CodMatrimonio, Cod_Tipo_Persona, [2]) VALUES (1, 1, 'No, "
-        "d''antes')");
+    insert(con(), "Matrimonio_Novios", R"(Nombre=Luis; PrimerApellido=Gil; SegundoApellido=Mora
+        DNI=1A; Edad=30; Religion=Católica; FechaNac=19900102; CodMunicipioNac=3
+        DomicilioActual=Calle Ancha, 1; CodMunicipioActual=1; DomicilioAnterior=
+        CodMunicipioAnterior=0; FechaConfirmacion=20050506; CodMunicipioConfirmacion=2
+        TResidenciaDomAct=4; Profesion=Maestro; DiocesisNac=Toledo; Nacionalidad=Española
+        EmailNovio=luis@casa; TelefonoNovio=600; ParroquiaExhorto=San José
+        PoblacionExhorto=Pinto; DiocesisExhorto=Getafe)");
+    insert(con(), "Matrimonio_Novios_Bautismo", R"(CodNovios=1; FechaBaut=19900201
+        ParroquiaBaut=Santa Ana; DiocesisBaut=Toledo; CodMunicipioBaut=3; LibroBaut=IV
+        FolioBaut=12; NumeroBaut=3)");
+    insert(con(), "Matrimonio_Novios_RegCivil", R"(CodNovios=1; EstadoCivil=soltero
+        NombrePadre=Juan Gil; NombreMadre=Inés Mora; MunicipioInscrito=Toledo; Tomo=5; Pagina=66
+        NombreCivil=Luis G.; SujetoDerecho=Derecho común)");
+    insert(con(), "Matrimonio_Novias", R"(Nombre=Ana; PrimerApellido=Sanz; SegundoApellido=Ruiz
+        DNI=2B; Edad=29; Religion=Ortodoxa; FechaNac=19910304; CodMunicipioNac=2
+        DomicilioActual=Calle Nueva, 2; CodMunicipioActual=2; DomicilioAnterior=Calle Vieja
+        CodMunicipioAnterior=3; FechaConfirmacion=---; CodMunicipioConfirmacion=0
+        TResidenciaDomAct=0; Profesion=Médica; DiocesisNac=Sevilla; Nacionalidad=Rumana
+        EmailNovia=ana@casa; TelefonoNovia=700; ParroquiaExhorto=San Blas
+        PoblacionExhorto=Osuna; DiocesisExhorto=Sevilla)");
+    insert(con(), "Matrimonio_Novias_Bautismo", R"(CodNovias=1; FechaBaut=19910405
+        ParroquiaBaut=Santa Cruz; DiocesisBaut=Sevilla; CodMunicipioBaut=2; LibroBaut=VII
+        FolioBaut=8; NumeroBaut=9b)");
+    insert(con(), "Matrimonio_Novias_RegCivil", R"(CodNovias=1; EstadoCivil=viuda
+        NombrePadre=Pedro Sanz; NombreMadre=Rosa Ruiz; MunicipioInscrito=2; Tomo=7; Pagina=88
+        NombreCivil=Ana S.; SujetoDerecho=Navarra)");
+    insert(con(), "Matrimonio", R"(CodNovios=1; CodNovias=1; InstitucionSolicitud=0
+        Parroquia=Santa Ana; CodMunicipio=1; Diocesis=Getafe; NotasMarginales=Nulo en 2025
+        Observaciones=Con dispensa; CodLibro=1; Folio=5; Numero=6a; Anulada=FALSE)");
+    insert(con(), "Matrimonio_Compromiso", R"(CodMatrimonio=1; FechaMatrimonio=20200926
+        HoraMatrimonio=12:30; Padrino=Juan Gil; Madrina=Rosa Ruiz; Testigos=---
+        Celebrante=José Vidal; ExpedInst=En Getafe; DomicilioMatrimonio=Calle Real, 7
+        CodMunicipioDomicMatr=3; TelefonoDomicMatr=916; CPCompromiso=28901; NihilObstat=3/2020
+        Demarcacion=San Juan; TestigosParroquia=De ambas; Testigo1=---; Testigo2=Eva Lara)");
+    insert(con(), "Matrimonio_Expediente", R"(CodMatrimonio=1; NombreTestigo1=Blas
+        PrimerApellidoTestigo1=Soto; SegundoApellidoTestigo1=---; DNITestigo1=3C
+        DomicilioTestigo1=Calle Uno; CodMunicipioTestigo1=1; NombreTestigo2=Inés
+        PrimerApellidoTestigo2=Lara; SegundoApellidoTestigo2=Pol; DNITestigo2=4D
+        DomicilioTestigo2=; CodMunicipioTestigo2=0)");
+    insert(con(), "Matrimonio_Cursos", "CodMatrimonio=1; Cod_Tipo_Persona=1; [2]=No, d'antes");
   }
 
   void confirmar() {

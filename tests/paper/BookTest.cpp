@@ -1,8 +1,5 @@
 // Long documents: the printed book, its index, the duplicate, and pages made as they are needed.
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include <QRegularExpression>
 #include <algorithm>
 #include <cmath>
@@ -14,30 +11,7 @@
 
 namespace fidaleon::paper::test::BookTest {
 
-using ::testing::ElementsAre;
-using ::testing::HasSubstr;
-using ::testing::Not;
-using ::testing::StartsWith;
-
 using Composition = ReportOptions::Composition;
-
-/// The text of one page, in the order of its lines.
-std::string pageText(const Report& report, int page) {
-  const TemporaryFolder folder;
-  const auto file = folder.path() / "a.pdf";
-  report.savePdf(file);
-  const std::string number = std::to_string(page + 1);
-  return outputOf("pdftotext -layout -f " + number + " -l " + number + " '" + file.string() +
-                  "' -");
-}
-
-std::vector<std::string> found(const std::string& text, const char* pattern) {
-  std::vector<std::string> out;
-  const QRegularExpression expression(QString::fromUtf8(pattern));
-  for (auto it = expression.globalMatch(QString::fromStdString(text)); it.hasNext();)
-    out.push_back(it.next().captured(1).toStdString());
-  return out;
-}
 
 class LongDocument : public ::testing::Test {
  protected:
@@ -283,7 +257,7 @@ TEST_F(LongDocument, duplicate_followsTheOrderAskedFor_inBothDirections) {
              {"Madrina", std::string("Orden") + folio + "x" + number}});
   };
   entry("Zamora", "03/02/1987", "01/01/1980", "2", "10");
-  entry("Abad", "03/02/1987", "01/01/1980", "2", "9");
+  entry("Ávila", "03/02/1987", "01/01/1980", "2", "9");
   entry("Núñez", "01/12/1987", "05/06/1975", "1", "1");
   const auto order = [&](const char* asked) {
     ReportOptions options;
@@ -346,6 +320,9 @@ TEST_F(LongDocument, firstPageIsThereBeforeTheRestIsCounted) {
 }
 
 TEST_F(LongDocument, bookOf300_holdsAFewPages_andMakesTheOthersAgainAlike) {
+  std::string long_;  // cut over several pages
+  for (int i = 0; i < 2500; ++i) long_ += "dato" + std::to_string(i) + " ";
+  add("InformeLibroBautismo", {{"DireccionNac", long_}});
   addEntries(300);
   const Report book = open("InformeLibroBautismo");
   EXPECT_GE(book.pageCount(), 100);
@@ -354,21 +331,9 @@ TEST_F(LongDocument, bookOf300_holdsAFewPages_andMakesTheOthersAgainAlike) {
   ReportOptions options;
   options.composition = Composition::AsNeeded;
   const Report fresh = open("InformeLibroBautismo", options);
-  for (const int page : {2, 1, 0, 60})
+  for (const int page : {3, 2, 4, 1, 0, 60})
     EXPECT_EQ(book.pageImage(page, 40), fresh.pageImage(page, 40));
   EXPECT_LE(book.heldPages(), 40);
-}
-
-TEST_F(LongDocument, pagesOfACutEntry_areMadeAgainAlike) {
-  std::string long_;
-  for (int i = 0; i < 2500; ++i) long_ += "dato" + std::to_string(i) + " ";
-  add("InformeLibroBautismo", {{"DireccionNac", long_}});
-  addEntries(80);
-  const Report book = open("InformeLibroBautismo");
-  ReportOptions options;
-  options.composition = Composition::AsNeeded;
-  const Report fresh = open("InformeLibroBautismo", options);
-  for (const int page : {3, 2, 4}) EXPECT_EQ(book.pageImage(page, 40), fresh.pageImage(page, 40));
 }
 
 TEST_F(LongDocument, savedBeforeItIsLaidOut_isTheSameDocument) {

@@ -1,8 +1,5 @@
 // The reports of people, groups and tasks over rows as their writers leave them.
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include <QRegularExpression>
 
 #include "paper/PdfText.h"
@@ -10,11 +7,6 @@
 #include "paper/Rows.h"
 
 namespace fidaleon::paper::test::CensusReportsTest {
-
-using ::testing::ElementsAre;
-using ::testing::HasSubstr;
-using ::testing::IsEmpty;
-using ::testing::Not;
 
 const Values PERSON{{"InstitucionNombre", "San Ginés"},
                     {"InstitucionTipo", "Parroquia de"},
@@ -36,14 +28,6 @@ const Values PERSON{{"InstitucionNombre", "San Ginés"},
                     {"DireccionBaut", "Arenal, 13"},
                     {"PoblacionProvinciaBaut", "Toledo (Toledo)"},
                     {"Profesion", "(Maestra)"}};
-
-std::vector<std::string> found(const std::string& text, const char* pattern) {
-  std::vector<std::string> out;
-  const QRegularExpression expression(QString::fromUtf8(pattern));
-  for (auto it = expression.globalMatch(QString::fromStdString(text)); it.hasNext();)
-    out.push_back(it.next().captured(1).toStdString());
-  return out;
-}
 
 class CensusReport : public ::testing::Test {
  protected:
@@ -141,28 +125,6 @@ TEST_F(CensusReport, whatIsNotKnown_leavesNoTrace) {
   }
 }
 
-TEST_F(CensusReport, longComments_goOnOverleafWithoutLosingAWord) {
-  std::string comment;
-  for (int i = 0; i < 1500; ++i) comment += "nota" + std::to_string(i) + "x ";
-  add({{"Comentarios", comment}});
-  add({{"Nombre", "Siguiente"}});
-  const Report report = open("informe_colaboradores_ext");
-  EXPECT_GE(report.pageCount(), 2);
-  const std::string printed = pdfText(report);
-  int missing = 0;
-  for (int i = 0; i < 1500; ++i)
-    if (printed.find("nota" + std::to_string(i) + "x") == std::string::npos) ++missing;
-  EXPECT_EQ(missing, 0);
-  EXPECT_THAT(printed, HasSubstr("Núñez Gil, Siguiente"));
-}
-
-/// The text of one page, from 1, in the order of its lines.
-std::string pageText(const std::filesystem::path& file, int page) {
-  const std::string number = std::to_string(page);
-  return outputOf("pdftotext -layout -f " + number + " -l " + number + " '" + file.string() +
-                  "' -");
-}
-
 TEST_F(CensusReport, twoHundredCollaborators_pagesTellWhatTheyGoOnWith_andNoHeadStandsAlone) {
   reports_->BeginTrans();
   for (int i = 0; i < 200; ++i)
@@ -170,15 +132,12 @@ TEST_F(CensusReport, twoHundredCollaborators_pagesTellWhatTheyGoOnWith_andNoHead
   reports_->CommitTrans();
   const Report report = open("informe_colaboradores");
   ASSERT_GE(report.pageCount(), 3);
-  const TemporaryFolder folder;
-  const auto file = folder.path() / "a.pdf";
-  report.savePdf(file);
-  for (int page = 1; page <= report.pageCount(); ++page) {
-    const std::string printed = pageText(file, page);
-    if (page > 1) {
+  for (int page = 0; page < report.pageCount(); ++page) {
+    const std::string printed = pageText(report, page);
+    if (page > 0) {
       EXPECT_THAT(printed, ::testing::ContainsRegex("^ *Parroquia de San Ginés +Coro · Grupo"));
     }
-    EXPECT_THAT(printed, ::testing::ContainsRegex("\n *" + std::to_string(page) + "\n"));
+    EXPECT_THAT(printed, ::testing::ContainsRegex("\n *" + std::to_string(page + 1) + "\n"));
     const auto heads = found(printed, "(?m)^ *(Grupo\\d+)$");
     for (const std::string& head : heads)
       EXPECT_TRUE(QRegularExpression(QString::fromStdString(head + "\\n(\\s*\\n)* *Núñez Gil, "))
@@ -205,12 +164,6 @@ TEST_F(CensusReport, agenda_isCutByDays) {
 TEST_F(CensusReport, oneDay_isNamedOnce) {
   addTask("01/12/2026", "09:30", "10:15", "Misa");
   EXPECT_THAT(text("informe_agenda"), HasSubstr("01/12/2026 · Tareas: 1 Martes, 01/12/2026"));
-}
-
-TEST_F(CensusReport, withoutRows_hasNoPage) {
-  for (const char* operation : {"informe_actividades", "informe_colaboradores",
-                                "informe_colaboradores_ext", "informe_agenda"})
-    EXPECT_EQ(open(operation).pageCount(), 0) << operation;
 }
 
 TEST_F(CensusReport, nestedHeads_beginAnewWithTheOneAroundThem) {

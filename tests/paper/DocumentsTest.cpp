@@ -1,8 +1,5 @@
 // Every document of the catalogue over rows as their members write them.
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <filesystem>
 #include <regex>
@@ -16,9 +13,6 @@
 #include "text/Utf8.h"
 
 namespace fidaleon::paper::test::DocumentsTest {
-
-using ::testing::HasSubstr;
-using ::testing::Not;
 
 class Documents : public ::testing::TestWithParam<const Documento*> {
  protected:

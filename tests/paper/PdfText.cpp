@@ -1,7 +1,7 @@
 #include "paper/PdfText.h"
 
+#include <QRegularExpression>
 #include <QString>
-#include <QTemporaryDir>
 #include <cstdio>
 #include <fstream>
 #include <memory>
@@ -9,19 +9,8 @@
 
 namespace fidaleon::paper::test {
 
-TemporaryFolder::TemporaryFolder() {
-  QTemporaryDir dir;
-  dir.setAutoRemove(false);
-  path_ = dir.path().toStdString();
-}
-
-TemporaryFolder::~TemporaryFolder() {
-  std::error_code ignored;
-  std::filesystem::remove_all(path_, ignored);
-}
-
 void TemporaryFolder::write(const std::string& name, const std::string& content) const {
-  std::ofstream(path_ / name, std::ios::binary) << content;
+  std::ofstream(path() / name, std::ios::binary) << content;
 }
 
 std::string outputOf(const std::string& command) {
@@ -40,6 +29,23 @@ std::string pdfText(const Report& report) {
   const QString text =
       QString::fromStdString(outputOf("pdftotext -raw -enc UTF-8 '" + file.string() + "' - 2>&1"));
   return text.simplified().replace(QChar(QChar::Nbsp), QLatin1Char(' ')).toStdString();
+}
+
+std::string pageText(const Report& report, int page) {
+  const TemporaryFolder folder;
+  const auto file = folder.path() / "a.pdf";
+  report.savePdf(file);
+  const std::string number = std::to_string(page + 1);
+  return outputOf("pdftotext -layout -f " + number + " -l " + number + " '" + file.string() +
+                  "' -");
+}
+
+std::vector<std::string> found(const std::string& text, const char* pattern) {
+  std::vector<std::string> out;
+  const QRegularExpression expression(QString::fromUtf8(pattern));
+  for (auto it = expression.globalMatch(QString::fromStdString(text)); it.hasNext();)
+    out.push_back(it.next().captured(1).toStdString());
+  return out;
 }
 
 }  // namespace fidaleon::paper::test

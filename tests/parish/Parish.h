@@ -1,11 +1,8 @@
 #pragma once
 
-#include "forms/ScriptedUser.h"
 #include "parish/Desk.h"
 #include "parish/NewParish.h"
 #include "sample/SampleParish.h"
-#include "support/Clocks.h"
-#include "support/MemorySettings.h"
 #include "support/TestWorld.h"
 
 namespace fidaleon::app {
@@ -54,7 +51,7 @@ class ParishTest : public ::testing::Test {
   std::int64_t rowsOf(const std::string& sql) { return desk->parish().Execute(sql).RecordCount(); }
 
   TempDirectory dir_;
-  forms::ScriptedUser user;
+  tests::TestUser user;
   support::MemorySettings settings;
   support::FixedClock clock{{2026, 5, 20}};
   std::unique_ptr<Desk> desk;

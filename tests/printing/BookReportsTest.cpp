@@ -217,20 +217,14 @@ TEST_F(BookReports, duplicate_thatFailsInTheMiddle_leavesNoTransactionAndNoRow) 
 }
 
 TEST_F(BookReports, stoppedWhileItsRowsAreWritten_isNothingAndCanBeAskedForAgain) {
-  struct Impatient : forms::ScriptedUser {
-    bool stops = true;
-    void progressMove(std::int64_t position) override {
-      if (stops && position > 2) throw forms::Cancelled();
-    }
-  } impatient;
-  impatient.answerAnything(Answer::Ok);
-  desk = std::make_unique<Desk>(files(), "Secretaría", impatient, settings, clock);
+  user.stopAt = 3;
+  user.answerAnything(Answer::Ok);
   EXPECT_FALSE(make("libro"));
-  ASSERT_EQ(impatient.messages().size(), 1u);
-  EXPECT_EQ(impatient.messages().front().text, forms::Cancelled().what());
+  ASSERT_EQ(user.messages().size(), 1u);
+  EXPECT_EQ(user.messages().front().text, forms::Cancelled().what());
   EXPECT_FALSE(desk->reports().inTransaction());
   desk->parish().Execute("UPDATE Bautismo SET FechaBautismo=\"20150101\"");
-  impatient.expectForm("frmInfDuplicadas", [&](FormDriver& d) {
+  user.expectForm("frmInfDuplicadas", [&](FormDriver& d) {
     ask(d, "2015");
     EXPECT_FALSE(d.closed());
     EXPECT_FALSE(desk->reports().inTransaction());
@@ -238,12 +232,11 @@ TEST_F(BookReports, stoppedWhileItsRowsAreWritten_isNothingAndCanBeAskedForAgain
     d.form().Unload();
   });
   EXPECT_FALSE(make("duplicadas"));
-  EXPECT_EQ(impatient.messages().size(), 2u);
-  impatient.stops = false;
+  EXPECT_EQ(user.messages().size(), 2u);
+  user.stopAt = -1;
   const auto report = make("libro");
   ASSERT_TRUE(report);
   EXPECT_EQ(static_cast<std::int64_t>(report->rowCount()), entriesOfBook());
-  desk.reset();  // before the user it speaks to
 }
 
 TEST_F(BookReports, header_namesInstitutionDioceseAndTown) {

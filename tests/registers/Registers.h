@@ -1,8 +1,8 @@
 #pragma once
 // What tests have to know of each register, so that one suite holds for all of them.
 
+#include <array>
 #include <ostream>
-#include <variant>
 
 #include "registers/Rows.h"
 #include "registers/baptism/frmPartidaBautismo.h"
@@ -27,7 +27,6 @@ struct OfBaptism {
   static inline const DescripcionAlmacen<Record>& store = ALMACEN_BAUTISMO;
   static constexpr auto load = &cBaseDatos::GrabarBasedatosColeccion;
   static constexpr auto save = &cBaseDatos::GrabarColeccionBasesDatos;
-  static constexpr auto insert = &cBaseDatos::AltaPartidaBautismo;
   static constexpr auto remove = &cBaseDatos::BorrarPartidaBautismo;
   static constexpr auto annul = &cBaseDatos::AnularDesanularPar;
   static constexpr std::string Record::*name = &Record::NombreHijo;
@@ -43,22 +42,6 @@ struct OfBaptism {
     r.SexoHijo = "Hombre";
     r.EdadPadrino = r.EdadMadrina = "0";
   }
-  using D = frmPartidaBautismo;
-  static constexpr Place nameField{D::TAB_BAUTIZADO, D::NombreHijo};
-  static constexpr Place dayField{D::TAB_BAUTISMO, D::FechaBautismo};
-  static constexpr const char* movesTheBook = "22/11/2026";  // the date of one begun in 1900
-  static constexpr const char* replaced = "numero se reemplazará";
-  static constexpr const char* blanks =
-      "Tiene campos sin rellenar. Estos campos se rellenarán con guiones. ¿Desea continuar?";
-  static constexpr bool blanksOfOldToo = false;
-  /// A birth and a wedding are not of today.
-  static void settle(FormDriver& d) {
-    if (d.text("adtpBautismo(1)") != "22/11/2026") return;
-    d.tab("mstBautismo", D::TAB_BAUTIZADO);
-    d.type("adtpBautismo(0)", "01/11/2026");
-    d.tab("mstBautismo", D::TAB_MATRIMONIO);
-    d.type("adtpBautismo(1)", "");
-  }
 };
 
 struct OfConfirmation {
@@ -68,7 +51,6 @@ struct OfConfirmation {
   static inline const DescripcionAlmacen<Record>& store = ALMACEN_CONFIRMACION;
   static constexpr auto load = &cBaseDatos::GrabarBasedatosColeccionConfirmacion;
   static constexpr auto save = &cBaseDatos::GrabarColeccionBaseDatosConfirmacion;
-  static constexpr auto insert = &cBaseDatos::AltaPartidaConfirmacion;
   static constexpr auto remove = &cBaseDatos::BorrarPartidaConfirmacion;
   static constexpr auto annul = &cBaseDatos::AnularDesanularPartidaConfirmacion;
   static constexpr std::string Record::*name = &Record::Nombre;
@@ -80,15 +62,6 @@ struct OfConfirmation {
     r.PrimerApellido = "García";
     r.SegundoApellido = "Pérez";
   }
-  using D = frmPartidaConfirmacion;
-  static constexpr Place nameField{D::TAB_CONFIRMADO, D::Nombre};
-  static constexpr Place dayField{D::TAB_CONFIRMACION, D::FechaConfirmacion};
-  static constexpr const char* movesTheBook = "22/11/2026";  // the date of one begun in 1900
-  static constexpr const char* replaced = "numero se reemplazará";
-  static constexpr const char* blanks =
-      "Tiene campos sin rellenar. Estos campos se rellenaran con guiones. ¿Desea continuar?";
-  static constexpr bool blanksOfOldToo = true;
-  static void settle(FormDriver&) {}
 };
 
 struct OfDeath {
@@ -98,7 +71,6 @@ struct OfDeath {
   static inline const DescripcionAlmacen<Record>& store = ALMACEN_DEFUNCION;
   static constexpr auto load = &cBaseDatos::GrabarBasedatosColeccionDefuncion;
   static constexpr auto save = &cBaseDatos::GrabarColeccionBaseDatosDefuncion;
-  static constexpr auto insert = &cBaseDatos::AltaPartidaDefuncion;
   static constexpr auto remove = &cBaseDatos::BorrarPartidaDefuncion;
   static constexpr auto annul = &cBaseDatos::AnularDesanularPartidaDefuncion;
   static constexpr std::string Record::*name = &Record::Nombre;
@@ -109,19 +81,6 @@ struct OfDeath {
     r.Numero = number;
     r.PrimerApellido = "García";
     r.SegundoApellido = "Pérez";
-  }
-  using D = frmPartidaDefuncion;
-  static constexpr Place nameField{D::TAB_DIFUNTO, D::Nombre};
-  static constexpr Place dayField{D::TAB_DIFUNTO, D::FechaDefuncion};
-  static constexpr const char* movesTheBook = "03/02/1890";  // the date of one begun in 1900
-  static constexpr const char* replaced = "numero se reemplazara";
-  static constexpr const char* blanks = OfConfirmation::blanks;
-  static constexpr bool blanksOfOldToo = true;
-  /// A death is hardly ever of today.
-  static void settle(FormDriver& d) {
-    if (d.text("adtpDefuncion(1)") != "22/11/2026") return;
-    d.tab("mstDefuncion", D::TAB_DIFUNTO);
-    d.type("adtpDefuncion(1)", "20/11/2026");
   }
 };
 
@@ -148,23 +107,6 @@ struct OfMarriage {
     r.NovioEdad = r.NoviaEdad = "0";
     r.NoviaFolioBaut = 12;
   }
-  using D = frmPartidaMatrimonio;
-  static constexpr Place nameField{D::TAB_PERSONALES, D::Nombre};
-  static constexpr Place dayField{D::TAB_COMPROMISO, D::FechaMatrimonio};
-  static constexpr const char* movesTheBook = "22/11/2026";  // the date of one begun in 1900
-  static constexpr const char* replaced = "número se reemplazará";
-  static constexpr const char* blanks = OfConfirmation::blanks;
-  static constexpr bool blanksOfOldToo = true;
-  /// Names the bride; the wedding was not today.
-  static void settle(FormDriver& d) {
-    d.tab("mstMatrimonio", D::TAB_PERSONALES + D::TABS_DE_NOVIA);
-    int field = D::NOVIA + D::Nombre;
-    for (const char* bride : {"Rosa", "Sanz", "Gil"})
-      d.type("txtMatrimonio(" + std::to_string(field++) + ")", bride);
-    const std::string day = "adtpMatrimonio(" + std::to_string(D::FechaMatrimonio) + ")";
-    d.tab("mstMatrimonio", D::TAB_COMPROMISO);
-    if (d.text(day) == "22/11/2026") d.type(day, "21/11/2026");
-  }
 };
 
 using Registers = ::testing::Types<OfBaptism, OfConfirmation, OfMarriage, OfDeath>;
@@ -182,18 +124,160 @@ typename R::Record recordOf(const std::string& name, std::int32_t book, int foli
   return r;
 }
 
+/// What a test has to know of a register's entry dialog.
+struct EntryKind {
+  const Sacramento& s;
+  int institution, book;  // lists
+  Place name;             // the surnames follow
+  Place where;            // a text that says where
+  Place day;              // date of the sacrament
+  Place born;             // list of provinces
+  Place notes;
+  int remarks;
+  const char* person;   // table with the name
+  const char* lastRow;  // table of the row that is inserted last
+  const char* adds;     // how a caption begins
+  const char* edits;
+  const char* requestCaption = "";
+  const char* bornColumn = "CodMunicipioNac";
+  const char* position = ". Folio:1, número:1";  // the first one in a caption
+  const char* noPosition = "";                   // in that of a new one, before there is a book
+  const char* replaced = "numero se reemplazará";
+  /// Question.
+  const char* blanks =
+      "Tiene campos sin rellenar. Estos campos se rellenaran con guiones. ¿Desea continuar?";
+  bool asksOthers = true;  // it, of blank texts in old and corrected ones; always of new ones
+  bool asksOnce = false;
+  bool annulsOld = true, annulsEdit = false;
+  bool annulledIsLocked = true, notesStayOpen = true;
+  const char* nextPlace = "San Pedro";  // what stands there for the next entry
+  bool nextAtName = false;              // which is begun with the name
+  /// The date of an old book of 1950 after its first entry, of 1961, its second, of 1970, and its
+  /// third, of 1930.
+  std::array<const char*, 3> bookDates = {"19610705", "19610705", "19610705"};
+  const char* movesTheBook = "22/11/2026";  // the date of one begun in 1900
+  int commits = 2;                          // of a new entry
+  /// Makes today go where it cannot be, and names a second person.
+  void (*settle)(FormDriver&) = [](FormDriver&) {};
+  const char* secondPerson = "";  // as questions have it behind the first
+  const char* institutionWord = "Institución";
+};
+
+using DB = frmPartidaBautismo;
+inline const EntryKind BAPTISM_ENTRY{
+    .s = BAUTISMO,
+    .institution = DB::Institucion,
+    .book = DB::Libro,
+    .name = {DB::TAB_BAUTIZADO, DB::NombreHijo},
+    .where = {DB::TAB_BAUTISMO, DB::ParroquiaBautismo},
+    .day = {DB::TAB_BAUTISMO, DB::FechaBautismo},
+    .born = {DB::TAB_BAUTIZADO, DB::ProvinciaNac},
+    .notes = {DB::TAB_NOTAS, DB::NotasMarginales},
+    .remarks = DB::Observaciones,
+    .person = "bautismo_hijo",
+    .lastRow = "bautismo_hijo",
+    .adds = "Agregar partida de bautismo ",
+    .edits = "Propiedades de partida de bautismo ",
+    .requestCaption = "Agregar solicitud de bautismo",
+    .position = ". Folio:1 número:1",
+    .blanks =
+        "Tiene campos sin rellenar. Estos campos se rellenarán con guiones. ¿Desea continuar?",
+    .asksOthers = false,
+    .annulsEdit = true,
+    .annulledIsLocked = false,
+    .nextPlace = "",
+    .bookDates = {"19610705", "19700705", "19700705"},
+    .commits = 3,
+    .settle = [](FormDriver& d) {  // a birth and a wedding are not of today
+      if (d.text("adtpBautismo(1)") != "22/11/2026") return;
+      d.tab("mstBautismo", DB::TAB_BAUTIZADO);
+      d.type("adtpBautismo(0)", "01/11/2026");
+      d.tab("mstBautismo", DB::TAB_MATRIMONIO);
+      d.type("adtpBautismo(1)", "");
+    }};
+
+using DC = frmPartidaConfirmacion;
+inline const EntryKind CONFIRMATION_ENTRY{.s = CONFIRMACION,
+                                          .institution = DC::Institucion,
+                                          .book = DC::Libro,
+                                          .name = {DC::TAB_CONFIRMADO, DC::Nombre},
+                                          .where = {DC::TAB_CONFIRMACION, DC::Parroquia},
+                                          .day = {DC::TAB_CONFIRMACION, DC::FechaConfirmacion},
+                                          .born = {DC::TAB_PERSONALES, DC::ProvinciaNac},
+                                          .notes = {DC::TAB_NOTAS, DC::NotasMarginales},
+                                          .remarks = DC::Observaciones,
+                                          .person = "confirmacion",
+                                          .lastRow = "confirmacion_bautismo",
+                                          .adds = "Alta de partida de confirmación ",
+                                          .edits = "Propiedades de partida de confirmación ",
+                                          .requestCaption = "Nueva solicitud de confirmación",
+                                          .nextPlace = "San Juan",
+                                          .nextAtName = true};
+
+using DD = frmPartidaDefuncion;
+inline const EntryKind DEATH_ENTRY{.s = DEFUNCION,
+                                   .institution = DD::Institucion,
+                                   .book = DD::Libro,
+                                   .name = {DD::TAB_DIFUNTO, DD::Nombre},
+                                   .where = {DD::TAB_PARROQUIA, DD::Parroquia},
+                                   .day = {DD::TAB_DIFUNTO, DD::FechaDefuncion},
+                                   .born = {DD::TAB_FAMILIA, DD::ProvinciaNaturalDe},
+                                   .notes = {DD::TAB_NOTAS, DD::NotasMarginales},
+                                   .remarks = DD::Observaciones,
+                                   .person = "defuncion",
+                                   .lastRow = "Defuncion_Datos",
+                                   .adds = "Alta de partida de defunción ",
+                                   .edits = "Propiedades de partida de defunción ",
+                                   .bornColumn = "CodMunicipioNaturalDe",
+                                   .noPosition = ". Folio:, número:",
+                                   .replaced = "numero se reemplazara",
+                                   .asksOnce = true,
+                                   .annulsOld = false,
+                                   .annulsEdit = true,
+                                   .notesStayOpen = false,
+                                   .bookDates = {"19500101", "19500101", "19500101"},
+                                   .movesTheBook = "03/02/1890",
+                                   .settle = [](FormDriver& d) {  // a death is hardly ever of today
+                                     if (d.text("adtpDefuncion(1)") != "22/11/2026") return;
+                                     d.tab("mstDefuncion", DD::TAB_DIFUNTO);
+                                     d.type("adtpDefuncion(1)", "20/11/2026");
+                                   }};
+
+using DM = frmPartidaMatrimonio;
+inline const EntryKind MARRIAGE_ENTRY{
+    .s = MATRIMONIO,
+    .institution = DM::Institucion,
+    .book = DM::Libro,
+    .name = {DM::TAB_PERSONALES, DM::Nombre},
+    .where = {DM::TAB_COMPROMISO, DM::Parroquia},
+    .day = {DM::TAB_COMPROMISO, DM::FechaMatrimonio},
+    .born = {DM::TAB_PERSONALES, DM::ProvinciaNac},
+    .notes = {DM::TAB_NOTAS, DM::NotasMarginales},
+    .remarks = DM::Observaciones,
+    .person = "matrimonio_novios",
+    .lastRow = "matrimonio_expediente",
+    .adds = "Alta de partida de matrimonio ",
+    .edits = "Propiedades de partida de matrimonio ",
+    .requestCaption = "Nueva solicitud de matrimonio",
+    .noPosition = ".",
+    .replaced = "número se reemplazará",
+    .nextAtName = true,
+    .settle =
+        [](FormDriver& d) {  // names the bride; the wedding was not today
+          d.tab("mstMatrimonio", DM::TAB_PERSONALES + DM::TABS_DE_NOVIA);
+          int field = DM::NOVIA + DM::Nombre;
+          for (const char* bride : {"Rosa", "Sanz", "Gil"})
+            d.type("txtMatrimonio(" + std::to_string(field++) + ")", bride);
+          const std::string day = "adtpMatrimonio(" + std::to_string(DM::FechaMatrimonio) + ")";
+          d.tab("mstMatrimonio", DM::TAB_COMPROMISO);
+          if (d.text(day) == "22/11/2026") d.type(day, "21/11/2026");
+        },
+    .secondPerson = " y de Rosa Sanz Gil",
+    .institutionWord = "institución"};
+
 /// The same where the type of the record does not matter.
 struct Register {
-  const Sacramento& sacrament;
-  std::string dialog;      // of an entry
-  std::string properties;  // of a book
-  Place nameField, dayField;
-  const char* blanks;
-  bool blanksOfOldToo;
-  const char* movesTheBook;
-  const char* replaced;
-  /// Makes today go where it cannot be, and names a second person.
-  void (*settle)(FormDriver&);
+  const EntryKind& entry;
   std::string childTable;  // a row that the list of a book needs
   std::string childKey;
   std::string emptySign;  // an update that leaves the sign of an item read whole empty
@@ -203,23 +287,13 @@ struct Register {
 };
 
 inline void PrintTo(const Register& r, std::ostream* out) {
-  *out << r.sacrament.palabra;
+  *out << r.entry.s.palabra;
 }
 
 template <class R>
-Register registerOf(const char* emptySign) {
-  const std::string word = R::sacrament.palabra;
+Register registerOf(const EntryKind& entry, const char* emptySign) {
   const auto& child = *R::store.propias[0];
-  return {R::sacrament,
-          "frmPartida" + word,
-          "frmPropiedadesLibro" + word,
-          R::nameField,
-          R::dayField,
-          R::blanks,
-          R::blanksOfOldToo,
-          R::movesTheBook,
-          R::replaced,
-          &R::settle,
+  return {entry,
           child.nombre,
           child.columnas[0].nombre,
           emptySign,
@@ -236,15 +310,15 @@ Register registerOf(const char* emptySign) {
 
 inline const std::vector<Register>& registers() {
   static const std::vector<Register> all{
-      registerOf<OfBaptism>("UPDATE Bautismo_Hijo SET Sexo=\"\""),
-      registerOf<OfConfirmation>("UPDATE Confirmacion SET Parroquia=\"\""),
-      registerOf<OfMarriage>("UPDATE Matrimonio SET Parroquia=\"\""),
-      registerOf<OfDeath>("UPDATE Defuncion SET Parroquia=\"\"")};
+      registerOf<OfBaptism>(BAPTISM_ENTRY, "UPDATE Bautismo_Hijo SET Sexo=\"\""),
+      registerOf<OfConfirmation>(CONFIRMATION_ENTRY, "UPDATE Confirmacion SET Parroquia=\"\""),
+      registerOf<OfMarriage>(MARRIAGE_ENTRY, "UPDATE Matrimonio SET Parroquia=\"\""),
+      registerOf<OfDeath>(DEATH_ENTRY, "UPDATE Defuncion SET Parroquia=\"\"")};
   return all;
 }
 
 inline std::string nameOfRegister(const ::testing::TestParamInfo<Register>& info) {
-  return info.param.sacrament.palabra;
+  return info.param.entry.s.palabra;
 }
 
 }  // namespace fidaleon::tests

@@ -57,11 +57,13 @@ struct EntryRow {
   int folio = 0;
   std::string number = "---";
   std::int32_t institution = 0;
-  Values more;
+  Values more = {};
+  std::string surname = "García";
+  std::string day = "";  // of the sacrament
 };
 
-/// The groom, and Rosa García Pérez.
-inline std::int32_t insertMarriage(TestWorld& w, Values groom, Values entry) {
+/// The groom, and Rosa of the same surnames.
+inline std::int32_t insertMarriage(TestWorld& w, Values groom, Values entry, Values day) {
   groom.push_back({"Edad", quoted("0")});
   Values bride = groom;
   bride[0].second = quoted("Rosa");
@@ -76,29 +78,32 @@ inline std::int32_t insertMarriage(TestWorld& w, Values groom, Values entry) {
       insertRow(w, table + of, {{std::string("Cod") + spouse, key}});
   }
   const std::int32_t id = insertRow(w, "Matrimonio", entry, "IDMatrimonio");
-  for (const char* table : {"Matrimonio_Compromiso", "Matrimonio_Expediente"})
-    insertRow(w, table, {{"CodMatrimonio", std::to_string(id)}});
+  insertRow(w, "Matrimonio_Expediente", {{"CodMatrimonio", std::to_string(id)}});
+  day.push_back({"CodMatrimonio", std::to_string(id)});
+  insertRow(w, "Matrimonio_Compromiso", day);
   return id;
 }
 
-/// García Pérez, with every row that an entry of the register has.
+/// Pérez by the second surname, with every row that an entry of the register has.
 inline std::int32_t insertEntry(TestWorld& w, const Sacramento& s, const EntryRow& e) {
   const Values person{{"Nombre", quoted(e.name)},
-                      {"PrimerApellido", quoted("García")},
+                      {"PrimerApellido", quoted(e.surname)},
                       {"SegundoApellido", quoted("Pérez")}};
+  Values day;
+  if (!e.day.empty()) day.push_back({std::string("Fecha") + s.palabra, quoted(e.day)});
   Values entry{{"CodLibro", std::to_string(e.book)},
                {"Folio", std::to_string(e.folio)},
                {"Numero", quoted(e.number)},
                {"InstitucionSolicitud", std::to_string(e.institution)}};
   entry.insert(entry.end(), e.more.begin(), e.more.end());
-  if (&s == &MATRIMONIO) return insertMarriage(w, person, std::move(entry));
+  if (&s == &MATRIMONIO) return insertMarriage(w, person, std::move(entry), day);
   if (&s != &BAUTISMO) {
     entry.insert(entry.end(), person.begin(), person.end());
     const std::int32_t id = insertRow(w, s.tablaPartidas, entry, s.clavePartida);
-    if (&s == &DEFUNCION) insertRow(w, "Defuncion_Datos", {{"CodDifunto", std::to_string(id)}});
-    if (&s == &CONFIRMACION)
-      for (const char* table : {"Confirmacion_Datos", "Confirmacion_Bautismo"})
-        insertRow(w, table, {{"CodConfirmacion", std::to_string(id)}});
+    const bool death = &s == &DEFUNCION;
+    day.push_back({death ? "CodDifunto" : "CodConfirmacion", std::to_string(id)});
+    insertRow(w, death ? "Defuncion_Datos" : "Confirmacion_Datos", day);
+    if (!death) insertRow(w, "Confirmacion_Bautismo", {day.back()});
     return id;
   }
   insert(w.con(), "Bautismo_Padres", "Nombre=Juan; PrimerApellido=García; Abuelo=---");
@@ -108,6 +113,7 @@ inline std::int32_t insertEntry(TestWorld& w, const Sacramento& s, const EntryRo
   for (const char* own : {"Padres", "Madres", "Matrimonio"})
     entry.push_back({std::string("Cod") + own,
                      w.value(std::string("SELECT MAX(ID") + own + ") AS ID FROM Bautismo_" + own)});
+  entry.insert(entry.end(), day.begin(), day.end());
   const std::int32_t id = insertRow(w, s.tablaPartidas, entry, s.clavePartida);
   Values child = person;
   child.push_back({"CodBautismo", std::to_string(id)});

@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include "store/Error.h"
-#include "store/FailingEngine.h"
 #include "store/ForwardingEngine.h"
 #include "store/Open.h"
 
@@ -149,20 +148,6 @@ TEST_F(Recordsets, Values_ReadAsTextNumberAndFlag) {
   EXPECT_EQ(row.text("FechaCreacion"), "");
   EXPECT_EQ(Value(2.5).text(), "2.5");
   EXPECT_EQ(Value(3.0).text(), "3");
-}
-
-TEST_F(Recordsets, FailingStatement_FailsOnceAndLeavesTheRest) {
-  FailingEngine* faults = FailingEngine::wrap(*connection);
-  faults->failOn("insert into CARGO", ErrorKind::DiskFull, 2);
-  const std::string insert = "INSERT INTO Cargo (Nombre) VALUES ('a')";
-  connection->Execute(insert);
-  EXPECT_EQ(kindOf([&] { connection->Execute(insert); }), ErrorKind::DiskFull);
-  EXPECT_EQ(faults->pending(), 0U);
-  connection->Execute(insert);
-  EXPECT_EQ(connection->Execute("SELECT * FROM Cargo").RecordCount(), 2);
-  faults->failOn("BEGIN", ErrorKind::Busy);
-  EXPECT_EQ(kindOf([&] { connection->BeginTrans(); }), ErrorKind::Busy);
-  EXPECT_FALSE(connection->inTransaction());
 }
 
 }  // namespace fidaleon::store::RecordsetTest

@@ -31,6 +31,17 @@ inline Row row(const std::string& text) {
   const Values all = fields(text);
   return {all.begin(), all.end()};
 }
+/// The rows of a table in the order in which they were written; a column that holds Null is not
+/// there.
+inline std::vector<Row> rowsIn(store::Connection& con, const std::string& table) {
+  std::vector<Row> all;
+  for (store::Recordset rs = con.Execute("SELECT * FROM " + table); !rs.EOF_(); rs.MoveNext()) {
+    Row& one = all.emplace_back();
+    for (int i = 0; i < rs.FieldCount(); ++i)
+      if (!rs.Fields(i).Value().isNull()) one[rs.FieldName(i)] = rs.Fields(i).Value().text();
+  }
+  return all;
+}
 /// A row with these columns; TRUE and FALSE are the store's, the rest goes as text.
 inline void insert(store::Connection& con, const std::string& table, const std::string& text) {
   std::string names, values;

@@ -41,6 +41,15 @@ using Act = forms::ScriptedUser::Act;
 /// Fails the test with what went against the script.
 #define EXPECT_SCRIPT_DONE(user) EXPECT_THAT((user).problems(), ::testing::ElementsAre())
 
+/// Presses "Cancelar" when the bar of the work has come so far.
+struct TestUser : forms::ScriptedUser {
+  void progressMove(std::int64_t position) override {
+    ScriptedUser::progressMove(position);
+    if (position == stopAt) throw forms::Cancelled();
+  }
+  std::int64_t stopAt = -1;
+};
+
 /// Members are in the order in which they need each other. `config` may be changed at any time;
 /// set `entorno.installation` before the act to change the edition.
 struct TestWorld {
@@ -61,7 +70,7 @@ struct TestWorld {
   bool mayBreakOff = false;  // of what is expected, some may never come
   TempDirectory directory;
   FDAPI::cConfig config{"Fidaleon", "", "ana", "Castellano", false};
-  forms::ScriptedUser user;
+  TestUser user;
   support::MemorySettings settings;
   support::FixedClock clock{text::Date{2026, 11, 22}, "10:30"};
   support::HostSupport host{user, settings, clock, config, "DESPACHO"};

@@ -10,7 +10,6 @@
 #include <QWindow>
 #include <sstream>
 
-#include "printing/DocumentReport.h"
 #include "showroom/Demo.h"
 #include "window/FirstRunWizard.h"
 #include "window/OpenWindow.h"
@@ -96,19 +95,6 @@ TEST_F(Window, InsertKey_AddsFromTheListAndFromTheTree) {
   }
 }
 
-TEST_F(Window, WhatIsAddedIsChosen) {
-  window->showNode("Municipios");
-  const int before = shown();
-  user.expectForm("frmMunicipio", [](FormDriver& d) {
-    d.type("txtNombre", "Aldea del Ñandú");
-    d.choose("cboProvincia", "Madrid");
-    d.click("cmdBoton(0)");
-  });
-  give("nuevo-municipio");
-  EXPECT_EQ(shown(), before + 1);
-  EXPECT_EQ(window->choice().id, count("SELECT MAX(IDMunicipio) FROM Municipio"));
-}
-
 TEST_F(Window, ChangedByAnotherDesk_TheListFollowsAndStaysWhereItWas) {
   window->showNode("Provincias");
   window->resize(900, 400);
@@ -153,13 +139,6 @@ TEST_F(Window, EntriesOfABook_AreItsOwnUntilTheLimitIsTakenAway) {
   scope->click();
   EXPECT_EQ(shown(), all);
   EXPECT_FALSE(scope->isVisible());
-}
-
-TEST_F(Window, Document_HoldsItsEntryAloneAndNothingWhenThatIsGone) {
-  const Documento* slip = documento("InformeVolanteBautismo");
-  user.answerAnything(Answer::Ok);
-  EXPECT_FALSE(makeReport(*desk, *slip, 999999));
-  for (int i = 0; i < 2; ++i) EXPECT_EQ(makeReport(*desk, *slip, 1)->rowCount(), 1u);
 }
 
 TEST_F(Window, WidthsAndPlaceComeBack) {

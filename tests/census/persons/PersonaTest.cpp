@@ -18,7 +18,7 @@ std::string f(P::Fecha indice) {
 }
 const std::string ACEPTAR = control("cmdPadron", P::ACEPTAR);
 const std::string BUSCAR = control("cmdPadron", P::BUSCAR);
-constexpr const char* MST = "mstPadron";
+constexpr const char *MST = "mstPadron", *ACEPTAR_NOTA = "cmdPadronNota(0)";
 
 /// The least that is accepted.
 const Campos MINIMO = campos(l(P::Institucion), "San Ginés", t(P::Nombre), "Elena",
@@ -359,21 +359,38 @@ TEST_F(Personas, Notes_AreListedInShortAndOnlyAChosenOneIsChangedOrRemoved) {
               "Primera línea Segunda|" + std::string(100, 'x') + " ... ");
     for (const int boton : {1, 2}) u.click(control("cmdNotas", boton));
     EXPECT_EQ(user.beeps(), 2) << "no row is chosen";
-    contesta("frmPadronNotas", "cmdPadronNota(0)", "txtTitulo", "Pasajera");
+    contesta("frmPadronNotas", ACEPTAR_NOTA, "txtTitulo", "Pasajera");
+    u.click("cmdNotas(0)");
+    espera("frmPadronNotas", [&](FormDriver& n) {
+      EXPECT_EQ(n.caption(), "Agregar nota personal");
+      poner(n, "txtTitulo", "   ");
+      rehusa(n, ACEPTAR_NOTA, "¡Debe introducir un título para la nota personal!", "txtTitulo");
+      for (const char* otra : {"VIEJA", "pasajera"}) {
+        poner(n, "txtTitulo", otra);
+        rehusa(n, ACEPTAR_NOTA, "¡Existe una nota personal con el mismo nombre!", "txtTitulo");
+      }
+      poner(n, "txtTitulo", "Nueva", "txtDescripcion", "Dos\nlíneas");
+      n.click(ACEPTAR_NOTA);
+    });
     u.click("cmdNotas(0)");
     u.row("msgNotas", 3);
     u.click("cmdNotas(2)");
+    contesta("frmPadronNotas", ACEPTAR_NOTA, "txtTitulo", "Pasajera");  // which is free again
+    u.click("cmdNotas(0)");
     espera("frmPadronNotas", [](FormDriver& n) {
       EXPECT_EQ(n.caption(), "Propiedades nota personal Otra");
       poner(n, "txtTitulo", "Cambiada");
       n.enter();
     });
     u.doubleClick("msgNotas", 2);
-    EXPECT_EQ(columna(u, "msgNotas"), "Vieja|Cambiada");
+    EXPECT_EQ(columna(u, "msgNotas"), "Vieja|Cambiada|Nueva|Pasajera");
     EXPECT_EQ(rejilla.row(), 2) << "the row stays chosen";
     u.click(ACEPTAR);
   });
-  EXPECT_EQ(filas("SELECT IDNota,Nombre FROM Padron_NotasPersonales"), "1|Vieja/2|Cambiada");
+  EXPECT_EQ(filas("SELECT IDNota,Nombre FROM Padron_NotasPersonales"),
+            "1|Vieja/2|Cambiada/3|Nueva/4|Pasajera");
+  EXPECT_EQ(value("SELECT Descripcion FROM Padron_NotasPersonales WHERE IDNota=3"),
+            "Dos\r\nlíneas");
 }
 
 }  // namespace fidaleon::tests::PersonaTest

@@ -1,4 +1,4 @@
-// The dialogs that look for a person and show them, and the personal notes.
+// The dialogs that look for a person and show them.
 
 #include "census/Manos.h"
 #include "census/search/BuscaCoincidencias.h"
@@ -6,7 +6,6 @@
 #include "census/search/frmPadronBusqueda.h"
 #include "census/search/frmPadronDetalles.h"
 #include "census/search/frmPadronImportar.h"
-#include "census/search/frmPadronNotas.h"
 
 namespace fidaleon::tests::BusquedaTest {
 
@@ -277,45 +276,6 @@ TEST_F(Busqueda, PersonBeingEdited_IsLeftOutAndNobodyTakesTheirPlace) {
   EXPECT_EQ(form.busca.alSalir(con(), ana, false), 0);
   form.poner("Luis", "Gómez", "Sanz");
   EXPECT_EQ(form.busca.alSalir(con(), luis, false), 0);
-}
-
-constexpr const char* ACEPTAR_NOTA = "cmdPadronNota(0)";
-
-struct Notas : En<ManosWorld> {
-  void mostrar(cCOperacion operacion, int posicion, Act act) {
-    frmPadronNotas dialogo(contexto);
-    dialogo.Operacion = operacion;
-    dialogo.colNotas = &notas;
-    dialogo.posicion = posicion;
-    dialogo.refrescar = [this] { ++refrescos; };
-    if (act) espera("frmPadronNotas", std::move(act));
-    dialogo.Show();
-  }
-  std::vector<cPadronNotas> notas{{{}, true, "Descripción", "Año santo", 40, 7},
-                                  {cCOperacion::Borrar, true, "", "Quitada", 41, 7},
-                                  {cCOperacion::ANADIR, false, "", "Nueva", 0, 0}};
-  int refrescos = 0;
-};
-
-TEST_F(Notas, NewNote_NeedsATitleOfItsOwnAndIsPutBehindTheOthers) {
-  mostrar(cCOperacion::ANADIR, -1, [&](FormDriver& u) {
-    EXPECT_EQ(u.caption(), "Agregar nota personal");
-    poner(u, "txtTitulo", "   ");
-    rehusa(u, ACEPTAR_NOTA, "¡Debe introducir un título para la nota personal!", "txtTitulo");
-    for (const char* otra : {"AÑO SANTO", "nueva"}) {
-      poner(u, "txtTitulo", otra);
-      rehusa(u, ACEPTAR_NOTA, "¡Existe una nota personal con el mismo nombre!", "txtTitulo");
-    }
-    // The title of one that is removed is free.
-    poner(u, "txtTitulo", "Quitada", "txtDescripcion", "Dos\nlíneas");
-    EXPECT_EQ(notas.size(), 3u);
-    u.click(ACEPTAR_NOTA);
-  });
-  ASSERT_EQ(notas.size(), 4u);
-  EXPECT_EQ(notas[3].Nombre + notas[3].Descripcion, "QuitadaDos\r\nlíneas");
-  EXPECT_EQ(notas[3].Operacion, cCOperacion::ANADIR);
-  EXPECT_FALSE(notas[3].Estado);
-  EXPECT_EQ(refrescos, 1);
 }
 
 }  // namespace fidaleon::tests::BusquedaTest

@@ -1,6 +1,5 @@
 // The operations as the main program calls them, with real locks.
 
-#include "core/contract/Sacramento.h"
 #include "core/facade/FacadeWorld.h"
 
 namespace fidaleon::tests::OperationsTest {
@@ -21,29 +20,6 @@ TEST(FacadeDialogs, Clipboard_IsKept) {
     w.nucleo.PropiedadesPartida(w.con(), 1, w.config, NODO);
     EXPECT_EQ(w.user.clipboardText(), texto);
   }
-}
-
-TEST(FacadeBooks, ClosingAndDeleting_ReachTheirOwnTable) {
-  FacadeWorld w;
-  using Cerrar = void (cNucleo::*)(FDAPI::Conexion&, std::int32_t, const FDAPI::cConfig&);
-  const Cerrar cerrar[] = {&cNucleo::cerrarLiBautismo, &cNucleo::cerrarLiconfirmacion,
-                           &cNucleo::cerrarLiMatrimonio, &cNucleo::cerrarLiDefuncion};
-  w.run("DELETE * FROM Bautismo");
-  for (const auto& s : SACRAMENTOS) {
-    const std::string tabla = s.tablaLibros;
-    if (&s != &BAUTISMO)
-      w.run("INSERT INTO " + tabla +
-            " (CodInstitucion, CodFormato, CodTipoNombre, Nombre, Nuevo, Cerrado) VALUES (1, 3, 4, "
-            "\"1\", 1, 0)");
-    w.user.expectMessage("Si cierra este libro no podrá introducir más partidas. ¿Desea cerrarlo?",
-                         Answer::Yes);
-    (w.nucleo.*cerrar[s.byte])(w.con(), 1, w.config);
-    EXPECT_EQ(w.count(tabla + " WHERE Cerrado = true"), 1) << tabla;
-    w.user.expectMessage("¿Seguro que quiere eliminar el libro?", Answer::Yes);
-    w.nucleo.EliminarLibro(w.con(), 1, w.config, std::string("Libros") + s.palabra);
-    EXPECT_EQ(w.count(tabla), 0) << tabla;
-  }
-  w.esperarLibre();
 }
 
 TEST(FacadeKeeper, Chosen_IsRememberedForNextTime) {

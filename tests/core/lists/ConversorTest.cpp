@@ -1,44 +1,24 @@
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "core/lists/cConversor.h"
 
 namespace fidaleon::ConversorTest {
 
-struct Numeral {
-  std::int64_t numero;
-  const char* romano;
-};
+const std::pair<std::int64_t, const char*> ESCRITOS[] = {
+    {0, ""},          {4, "IV"},          {7, "VII"},       {9, "IX"},
+    {10, "X"},        {40, "XL"},         {88, "LXXXVIII"}, {1900, "MCM"},
+    {2026, "MMXXVI"}, {4999, "MÛCMXCIX"}, {9000, "MH"},     {10000, "H"},
+    {40000, "HW"},    {60000, "WH"},      {90000, "HZ"},    {123456, "HHMMMCDLVI"}};
+// Û counts nothing, so the M before it is added.
+const std::pair<std::int64_t, const char*> LEIDOS[] = {
+    {0, "   "}, {12, "  XII "}, {5000, "Q"}, {4000, "MQ"}, {9000, "MH"},
+    {0, "Û"},   {0, "W"},       {0, "Z"},    {0, "xii"},   {1999, "MÛCMXCIX"}};
 
-class Escritura : public ::testing::TestWithParam<Numeral> {};
-
-TEST_P(Escritura, NumberBecomesItsLetters) {
-  EXPECT_EQ(cConversor().ConvertirRomano(GetParam().numero), GetParam().romano);
+TEST(Conversor, NumbersAndLetters_BecomeEachOther) {
+  for (const auto& [n, romano] : ESCRITOS) EXPECT_EQ(cConversor().ConvertirRomano(n), romano);
+  for (const auto& [n, romano] : LEIDOS)
+    EXPECT_EQ(cConversor().ConvertirArabe(romano), n) << romano;
 }
-
-INSTANTIATE_TEST_SUITE_P(Tabla, Escritura,
-                         ::testing::Values(Numeral{0, ""}, Numeral{4, "IV"}, Numeral{7, "VII"},
-                                           Numeral{9, "IX"}, Numeral{10, "X"}, Numeral{40, "XL"},
-                                           Numeral{88, "LXXXVIII"}, Numeral{1900, "MCM"},
-                                           Numeral{2026, "MMXXVI"}, Numeral{4999, "MÛCMXCIX"},
-                                           Numeral{9000, "MH"}, Numeral{10000, "H"},
-                                           Numeral{40000, "HW"}, Numeral{60000, "WH"},
-                                           Numeral{90000, "HZ"}, Numeral{123456, "HHMMMCDLVI"}));
-
-class Lectura : public ::testing::TestWithParam<Numeral> {};
-
-TEST_P(Lectura, LettersBecomeTheirNumber) {
-  EXPECT_EQ(cConversor().ConvertirArabe(GetParam().romano), GetParam().numero);
-}
-
-INSTANTIATE_TEST_SUITE_P(Tabla, Lectura,
-                         ::testing::Values(Numeral{0, ""}, Numeral{0, "   "}, Numeral{4, "IV"},
-                                           Numeral{1900, "MCM"}, Numeral{12, "  XII "},
-                                           Numeral{5000, "Q"}, Numeral{4000, "MQ"},
-                                           Numeral{9000, "MH"}, Numeral{0, "Û"}, Numeral{0, "W"},
-                                           Numeral{0, "Z"}, Numeral{0, "xii"},
-                                           // Û counts nothing, so the M before it is added.
-                                           Numeral{1999, "MÛCMXCIX"}));
 
 TEST(Conversor, EveryNumberUpTo3999_IsReadBackAsItWasWritten) {
   const cConversor conversor;

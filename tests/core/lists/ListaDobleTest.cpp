@@ -93,19 +93,6 @@ TEST_F(DosListas, DoubleClick_MovesThatLineAloneUnlessTheButtonIsOff) {
   EXPECT_EQ(lineas(0).size(), 4u);
 }
 
-TEST_F(DosListas, NothingMarkedOrNothingThere_IsTold) {
-  mundo.user.expectMessage("¡Debe seleccionar algun elemento de la lista!");
-  pulsar(ListaDoble::ELEGIR);
-  for (const auto vacia : {ListaDoble::QUITAR, ListaDoble::QUITAR_TODAS}) {
-    mundo.user.expectMessage("¡Nada que quitar!");
-    pulsar(vacia);
-  }
-  pulsar(ListaDoble::ELEGIR_TODAS);
-  mundo.user.expectMessage("¡Nada que agregar!");
-  pulsar(ListaDoble::ELEGIR_TODAS);
-  EXPECT_EQ(mundo.user.beeps(), 4);
-}
-
 TEST_F(DosListas, OwnerWhoRefusesOrFails_KeepsTheLinesWhereTheyAre) {
   ListaDoble::Claves preguntadas;
   ventana.listas.antesDeElegir = [&](const ListaDoble::Claves& claves) {
@@ -122,26 +109,6 @@ TEST_F(DosListas, OwnerWhoRefusesOrFails_KeepsTheLinesWhereTheyAre) {
   EXPECT_THAT(mundo.user.messages().back().text, HasSubstr("ListarTodosSeleccionados"));
   EXPECT_THAT(lineas(0), ElementsAre("Ana", "Blas", "Carmen", "Diego"));
   EXPECT_THAT(lineas(1), IsEmpty());
-}
-
-TEST_F(DosListas, SameKeyTwice_IsOneLineAndMistakesNoOther) {
-  ventana.listas.llenar({{40, "Ana"}, {40, "Ana"}, {30, "Blas"}, {20, "Carmen"}}, {30});
-  EXPECT_THAT(lineas(0), ElementsAre("Ana", "Carmen"));
-  EXPECT_THAT(lineas(1), ElementsAre("Blas"));
-}
-
-TEST_F(DosListas, NoteBehindALine_GoesWhenTheLineGoesBack) {
-  ventana.listas.anotacion = [](std::int64_t clave) {
-    return clave == 30 ? std::string() : " (" + std::to_string(clave) + ")";
-  };
-  ventana.listas.llenar({{40, "Ana"}, {30, "Blas"}, {20, "Carmen"}}, {20, 77});
-  EXPECT_THAT(lineas(1), ElementsAre("Carmen (20)"));
-  pulsar(ListaDoble::ELEGIR_TODAS);
-  EXPECT_THAT(lineas(1), ElementsAre("Carmen (20)", "Ana (40)", "Blas"));
-  marcar(1, {0, 2});
-  pulsar(ListaDoble::QUITAR);
-  EXPECT_THAT(lineas(0), ElementsAre("Blas", "Carmen"));
-  EXPECT_THAT(lineas(1), ElementsAre("Ana (40)"));
 }
 
 }  // namespace fidaleon::tests::ListaDobleTest

@@ -10,7 +10,7 @@ class BookEntries : public PropertiesWorld {
   std::int32_t antiguo = book({"Antiguo", false, 1});
 
   std::string replacedBy(const std::string& number) const {
-    return std::string("La partida que va a introducir coincide con otra. El ") + r.replaced +
+    return std::string("La partida que va a introducir coincide con otra. El ") + k.replaced +
            " por el " + number + " ¿Desea continuar?";
   }
   std::int32_t idOf(const std::string& name) {
@@ -192,13 +192,17 @@ TEST_P(BookEntries, EmptySignInTheTable_DoesNotBringBackWhatWasChanged) {
   EXPECT_EQ(w.count(sql("{Partidas} WHERE Anulada=true")), 1);
 }
 
-TEST_P(BookEntries, EntryHeldElsewhere_IsReadOnlyUntilItIsFree) {
+TEST_P(BookEntries, HeldElsewhere_IsReadOnlyUntilItIsFree) {
   fill(nuevo, {"Luis", "Eva"});
   w.user.answerAnything(Answer::Ok);  // the lock service says who has it
   changeBook(nuevo, [&](FormDriver& d) {
-    auto other = w.otherHolds(r.sacrament.tablaPartidas, idOf("Eva"));
-    w.user.expectForm(r.dialog, [&](FormDriver& e) {
-      EXPECT_FALSE(e.enabled(control("cmd", 0)));
+    auto other = w.otherHolds(k.s.tablaPartidas);
+    d.click("cmdPartidas(0)");
+    EXPECT_EQ(w.user.messages().size(), 1u) << "nothing is added";
+    other.reset();
+    other = w.otherHolds(k.s.tablaPartidas, idOf("Eva"));
+    w.user.expectForm(dialog(), [&](FormDriver& e) {
+      EXPECT_FALSE(e.enabled(button(0)));
       e.escape();
     });
     d.doubleClick("msgPartidas", 2);
@@ -206,8 +210,8 @@ TEST_P(BookEntries, EntryHeldElsewhere_IsReadOnlyUntilItIsFree) {
     remove(d, 2);
     EXPECT_THAT(shown(d), ElementsAre("1/1 Luis", "2/2 Eva"));
     EXPECT_EQ(annulled(d, 2), "NO");
-    EXPECT_EQ(w.user.messages().size(), 3u);
-    w.user.expectForm(r.dialog, [&](FormDriver& e) {
+    EXPECT_EQ(w.user.messages().size(), 4u);
+    w.user.expectForm(dialog(), [&](FormDriver& e) {
       w.con().Execute("UPDATE " + nameTable() + " SET Nombre=\"Elena\" WHERE Nombre=\"Eva\"");
       other.reset();
       e.click("cmdReintentar");
@@ -243,24 +247,13 @@ TEST_P(BookEntries, EntryThatLostARow_IsNotOpenedHalfRead) {
   });
 }
 
-TEST_P(BookEntries, TableHeldElsewhere_NothingIsAdded) {
-  w.user.answerAnything(Answer::Ok);
-  const auto other = w.otherHolds(r.sacrament.tablaPartidas);
-  openBook(nuevo, [&](FormDriver& d) {
-    toEntries(d);
-    d.click("cmdPartidas(0)");
-    EXPECT_EQ(w.user.messages().size(), 1u);
-    cancelBook(d);
-  });
-}
-
 TEST_P(BookEntries, LocksOfEntries_LastAsLongAsTheDialog) {
   fill(nuevo, {"Luis", "Eva"});
   changeBook(nuevo, [&](FormDriver& d) {
     rename(d, 1, "Luis", "Lucas");
-    EXPECT_FALSE(w.isFree(r.sacrament.tablaPartidas, idOf("Luis")));
+    EXPECT_FALSE(w.isFree(k.s.tablaPartidas, idOf("Luis")));
   });
-  EXPECT_TRUE(w.isFree(r.sacrament.tablaPartidas, idOf("Lucas")));
+  EXPECT_TRUE(w.isFree(k.s.tablaPartidas, idOf("Lucas")));
 }
 
 TEST_P(BookEntries, StoreFailingInTheMiddle_KeepsTheDialogAndStoresTheRestLater) {
@@ -330,27 +323,25 @@ TEST_P(BookEntries, TypedPosition_IsCheckedAgainstTheWorkingCopy) {
   fill(antiguo, {"Luis", "Eva", "Ana", "Blas"}, 4);
   const auto at = [&](FormDriver& d, const std::string& folio, const std::string& numero,
                       const std::string& nombre, const std::string& pregunta) {
-    w.user.expectForm(r.dialog, [=, this](FormDriver& e) {
+    w.user.expectForm(dialog(), [=, this](FormDriver& e) {
       e.type("txtLibro(1)", folio);
       e.type("txtLibro(2)", numero);
       if (!pregunta.empty()) w.user.expectMessage(pregunta, Answer::Yes);
       typeEntry(e, nombre, "20/11/1989");
-      if (r.blanksOfOldToo) w.user.expectMessage(r.blanks, Answer::Yes);
-      w.user.expectMessage("¿Desea dar de alta nuevas partidas?", Answer::No);
-      accept(e);
+      acceptOld(e, Answer::No);
     });
     d.click("cmdPartidas(0)");
   };
   changeBook(antiguo, [&](FormDriver& d) {
     remove(d, 4);
     at(d, "1", "3", "Dario", replacedBy("3a"));
-    w.user.expectForm(r.dialog, [&](FormDriver& e) {
+    w.user.expectForm(dialog(), [&](FormDriver& e) {
       e.type("txtLibro(1)", "1");
       e.type("txtLibro(2)", "9");
       w.user.expectMessage(
           "¡No puede introducir ninguna partida en el folio 1 porque ya hay cuatro partidas en "
           "él!");
-      e.tab(sql("mst{Palabra}"), 1);
+      e.tab("mst" + word(), 1);
       EXPECT_EQ(e.focused(), "txtLibro(1)");
       cancel(e);
     });

@@ -2,173 +2,11 @@
 // A parish with books of one register, and hands that fill its entry dialog. What holds of the
 // entries of all registers is proved once, for each EntryKind.
 
-#include <array>
-
 #include "registers/Registers.h"
 #include "registers/entry/DialogoDePartida.h"
 #include "store/FailingEngine.h"
-#include "support/TestWorld.h"
 
 namespace fidaleon::tests {
-
-/// What a test has to know of a register's entry dialog.
-struct EntryKind {
-  const Sacramento& s;
-  int institution, book;  // lists
-  Place name;             // the surnames follow
-  Place where;            // a text that says where
-  Place day;              // date of the sacrament
-  Place born;             // list of provinces
-  const char* bornColumn;
-  Place notes;
-  int remarks;
-  const char* person;   // table with the name
-  const char* lastRow;  // table of the row that is inserted last
-  const char* newCaption;
-  const char* oldCaption;
-  const char* editCaption;
-  const char* requestCaption;
-  const char* position;         // the first one in a caption
-  const char* noPosition = "";  // in that of a new one, before there is a book
-  const char* replaced;
-  const char* blanks;                 // question
-  bool asksOld, asksOther, asksOnce;  // it, of blank texts; it is always asked of new entries
-  bool annulsOld, annulsEdit;
-  bool annulledIsLocked, notesStayOpen;
-  const char* nextPlace;  // what stands there for the next entry
-  bool nextAtName;        // which is begun with the name
-  /// The date of an old book of 1950 after its first entry, of 1961, its second, of 1970, and its
-  /// third, of 1930.
-  std::array<const char*, 3> bookDates;
-  int commits;  // of a new entry
-  /// Makes today go where it cannot be, and names a second person.
-  void (*settle)(FormDriver&);
-  const char* secondPerson = "";  // as questions have it behind the first
-  const char* institutionWord = "Institución";
-};
-
-using DB = frmPartidaBautismo;
-inline const EntryKind BAPTISM_ENTRY{.s = BAUTISMO,
-                                     .institution = DB::Institucion,
-                                     .book = DB::Libro,
-                                     .name = OfBaptism::nameField,
-                                     .where = {DB::TAB_BAUTISMO, DB::ParroquiaBautismo},
-                                     .day = OfBaptism::dayField,
-                                     .born = {DB::TAB_BAUTIZADO, DB::ProvinciaNac},
-                                     .bornColumn = "CodMunicipioNac",
-                                     .notes = {DB::TAB_NOTAS, DB::NotasMarginales},
-                                     .remarks = DB::Observaciones,
-                                     .person = "bautismo_hijo",
-                                     .lastRow = "bautismo_hijo",
-                                     .newCaption = "Agregar partida de bautismo nueva",
-                                     .oldCaption = "Agregar partida de bautismo antigua",
-                                     .editCaption = "Propiedades de partida de bautismo ",
-                                     .requestCaption = "Agregar solicitud de bautismo",
-                                     .position = ". Folio:1 número:1",
-                                     .replaced = OfBaptism::replaced,
-                                     .blanks = OfBaptism::blanks,
-                                     .annulsOld = true,
-                                     .annulsEdit = true,
-                                     .notesStayOpen = true,
-                                     .nextPlace = "",
-                                     .bookDates = {"19610705", "19700705", "19700705"},
-                                     .commits = 3,
-                                     .settle = OfBaptism::settle};
-
-using DC = frmPartidaConfirmacion;
-inline const EntryKind CONFIRMATION_ENTRY{.s = CONFIRMACION,
-                                          .institution = DC::Institucion,
-                                          .book = DC::Libro,
-                                          .name = OfConfirmation::nameField,
-                                          .where = {DC::TAB_CONFIRMACION, DC::Parroquia},
-                                          .day = OfConfirmation::dayField,
-                                          .born = {DC::TAB_PERSONALES, DC::ProvinciaNac},
-                                          .bornColumn = "CodMunicipioNac",
-                                          .notes = {DC::TAB_NOTAS, DC::NotasMarginales},
-                                          .remarks = DC::Observaciones,
-                                          .person = "confirmacion",
-                                          .lastRow = "confirmacion_bautismo",
-                                          .newCaption = "Alta de partida de confirmación nueva",
-                                          .oldCaption = "Alta de partida de confirmación antigua",
-                                          .editCaption = "Propiedades de partida de confirmación ",
-                                          .requestCaption = "Nueva solicitud de confirmación",
-                                          .position = ". Folio:1, número:1",
-                                          .replaced = OfConfirmation::replaced,
-                                          .blanks = OfConfirmation::blanks,
-                                          .asksOld = true,
-                                          .asksOther = true,
-                                          .annulsOld = true,
-                                          .annulledIsLocked = true,
-                                          .notesStayOpen = true,
-                                          .nextPlace = "San Juan",
-                                          .nextAtName = true,
-                                          .bookDates = {"19610705", "19610705", "19610705"},
-                                          .commits = 2,
-                                          .settle = OfConfirmation::settle};
-
-using DD = frmPartidaDefuncion;
-inline const EntryKind DEATH_ENTRY{.s = DEFUNCION,
-                                   .institution = DD::Institucion,
-                                   .book = DD::Libro,
-                                   .name = OfDeath::nameField,
-                                   .where = {DD::TAB_PARROQUIA, DD::Parroquia},
-                                   .day = OfDeath::dayField,
-                                   .born = {DD::TAB_FAMILIA, DD::ProvinciaNaturalDe},
-                                   .bornColumn = "CodMunicipioNaturalDe",
-                                   .notes = {DD::TAB_NOTAS, DD::NotasMarginales},
-                                   .remarks = DD::Observaciones,
-                                   .person = "defuncion",
-                                   .lastRow = "Defuncion_Datos",
-                                   .newCaption = "Alta de partida de defunción nueva",
-                                   .oldCaption = "Alta de partida de defunción antigua",
-                                   .editCaption = "Propiedades de partida de defunción ",
-                                   .position = ". Folio:1, número:1",
-                                   .noPosition = ". Folio:, número:",
-                                   .replaced = OfDeath::replaced,
-                                   .blanks = OfDeath::blanks,
-                                   .asksOld = true,
-                                   .asksOther = true,
-                                   .asksOnce = true,
-                                   .annulsEdit = true,
-                                   .annulledIsLocked = true,
-                                   .nextPlace = "San Pedro",
-                                   .bookDates = {"19500101", "19500101", "19500101"},
-                                   .commits = 2,
-                                   .settle = OfDeath::settle};
-
-using DM = frmPartidaMatrimonio;
-inline const EntryKind MARRIAGE_ENTRY{.s = MATRIMONIO,
-                                      .institution = DM::Institucion,
-                                      .book = DM::Libro,
-                                      .name = OfMarriage::nameField,
-                                      .where = {DM::TAB_COMPROMISO, DM::Parroquia},
-                                      .day = OfMarriage::dayField,
-                                      .born = {DM::TAB_PERSONALES, DM::ProvinciaNac},
-                                      .bornColumn = "CodMunicipioNac",
-                                      .notes = {DM::TAB_NOTAS, DM::NotasMarginales},
-                                      .remarks = DM::Observaciones,
-                                      .person = "matrimonio_novios",
-                                      .lastRow = "matrimonio_expediente",
-                                      .newCaption = "Alta de partida de matrimonio nueva",
-                                      .oldCaption = "Alta de partida de matrimonio antigua",
-                                      .editCaption = "Propiedades de partida de matrimonio ",
-                                      .requestCaption = "Nueva solicitud de matrimonio",
-                                      .position = ". Folio:1, número:1",
-                                      .noPosition = ".",
-                                      .replaced = OfMarriage::replaced,
-                                      .blanks = OfMarriage::blanks,
-                                      .asksOld = true,
-                                      .asksOther = true,
-                                      .annulsOld = true,
-                                      .annulledIsLocked = true,
-                                      .notesStayOpen = true,
-                                      .nextPlace = "San Pedro",
-                                      .nextAtName = true,
-                                      .bookDates = {"19610705", "19610705", "19610705"},
-                                      .commits = 2,
-                                      .settle = OfMarriage::settle,
-                                      .secondPerson = " y de Rosa Sanz Gil",
-                                      .institutionWord = "institución"};
 
 inline constexpr const char* FURTHER_ENTRY = "¿Desea dar de alta nuevas partidas?";
 
@@ -188,6 +26,7 @@ class EntryHands : public ::testing::Test {
   std::string list(int i) const { return "cbo" + word() + "(" + std::to_string(i) + ")"; }
   std::string date(int i) const { return "adtp" + word() + "(" + std::to_string(i) + ")"; }
   std::string button(int i) const { return "cmd" + word() + "(" + std::to_string(i) + ")"; }
+  std::string dialog() const { return "frmPartida" + word(); }
   std::string name() const { return text(k.name.index); }
 
   std::int32_t book(const std::string& title, bool isNew = true, int format = 3,
@@ -239,7 +78,7 @@ class EntryHands : public ::testing::Test {
   void cancel(FormDriver& d) const { d.click(button(1)); }
   void acceptNew(FormDriver& d, Answer further) { acceptAfter(d, true, FURTHER_ENTRY, further); }
   void acceptOld(FormDriver& d, Answer further) {
-    acceptAfter(d, k.asksOld, FURTHER_ENTRY, further);
+    acceptAfter(d, k.asksOthers, FURTHER_ENTRY, further);
   }
   void acceptAfter(FormDriver& d, bool blanks, const char* question, Answer further) {
     if (blanks) w.user.expectMessage(k.blanks, Answer::Yes);
@@ -247,10 +86,11 @@ class EntryHands : public ::testing::Test {
     accept(d);
   }
   void acceptEdit(FormDriver& d) {
-    if (k.asksOther) w.user.expectMessage(k.blanks, Answer::Yes);
+    if (k.asksOthers) w.user.expectMessage(k.blanks, Answer::Yes);
     accept(d);
   }
 
+  std::string sql(const PlantillaSql& statement) const { return sentencia(k.s, statement); }
   /// As a draft does it.
   static void putBack(FormDriver& d, const forms::Contents& typed) {
     EXPECT_THAT(forms::putBack(d.form(), typed.fields), IsEmpty());

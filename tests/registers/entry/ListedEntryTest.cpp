@@ -24,7 +24,7 @@ INSTANTIATE_TEST_SUITE_P(Registers, ListedEntry, EVERY_ENTRY, wordOf);
 
 TEST_P(ListedEntry, SamePersonInTheWorkingCopy_AsksTheExistenceQuestion) {
   add(book("Antiguo", false), [&](FormDriver& e) {
-    EXPECT_EQ(e.caption(), std::string(k.oldCaption) + k.position);
+    EXPECT_EQ(e.caption(), std::string(k.adds) + "antigua" + k.position);
     EXPECT_TRUE(e.locked(list(k.institution)) && e.locked(list(k.book)));
     EXPECT_TRUE(e.visible(text(k.notes.index)));
     typePerson(e, "Ana");
@@ -34,7 +34,7 @@ TEST_P(ListedEntry, SamePersonInTheWorkingCopy_AsksTheExistenceQuestion) {
     e.type("txtLibro(2)", "1");
     EXPECT_EQ(e.text("lblNumeroRepetido"), "El 1 ya está en el folio 1");
     typePerson(e, "Ana");
-    if (k.asksOld && !k.asksOnce) w.user.expectMessage(k.blanks, Answer::Yes);
+    if (k.asksOthers && !k.asksOnce) w.user.expectMessage(k.blanks, Answer::Yes);
     w.user.expectMessage(std::string("La partida de Ana García Pérez") + k.secondPerson +
                              " ya existe en el libro correspondiente, ¿Quiere continuar?",
                          Answer::No);

@@ -10,12 +10,12 @@ INSTANTIATE_TEST_SUITE_P(Registers, NewEntry, EVERY_ENTRY, wordOf);
 TEST_P(NewEntry, UsualOne_IsStoredAndFollowedByTheNext) {
   book("Libro 1");
   openAndCancel(cCOperacion::ANADIR, [&](FormDriver& d) {
-    EXPECT_EQ(d.caption(), std::string(k.newCaption) + k.noPosition);
+    EXPECT_EQ(d.caption(), std::string(k.adds) + "nueva" + k.noPosition);
     EXPECT_FALSE(d.visible(button(2)));
     chooseBook(d, "Libro 1");
     EXPECT_TRUE(d.locked("txtLibro(1)"));
     typePerson(d, "Luis");
-    EXPECT_EQ(d.caption(), std::string(k.newCaption) + k.position);
+    EXPECT_EQ(d.caption(), std::string(k.adds) + "nueva" + k.position);
     tab(d, k.where.tab);
     d.type(text(k.where.index), "San Juan");
     tab(d, 0);

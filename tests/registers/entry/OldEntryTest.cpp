@@ -28,7 +28,7 @@ TEST_P(OldEntry, TypedPosition_IsCheckedOnLeavingTheFirstTabAndTheJumpBehindItTo
     d.type("txtLibro(2)", "2");
     EXPECT_FALSE(d.visible("lblNumeroRepetido"));
     typePerson(d, "Eva", "Otro", "Más");
-    if (k.asksOld) w.user.expectMessage(k.blanks, Answer::Yes);
+    if (k.asksOthers) w.user.expectMessage(k.blanks, Answer::Yes);
     w.user.expectMessage(FURTHER_ENTRY, Answer::Yes);
     w.user.expectMessage(
         std::string("¡Se ha producido un salto, la siguiente partida a introducir es ") +
@@ -144,7 +144,7 @@ TEST_P(OldEntry, EmptyPosition_IsAskedForUnlessThereIsNoBook) {
     d.focus(list(k.book));
     EXPECT_EQ(d.focused(), list(k.book));
     d.choose(list(k.book), "Antiguo");
-    EXPECT_EQ(d.caption(), std::string(k.oldCaption) + k.position);
+    EXPECT_EQ(d.caption(), std::string(k.adds) + "antigua" + k.position);
     d.type("txtLibro(1)", "");
     w.user.expectMessage(empty);
     d.focus("txtLibro(2)");

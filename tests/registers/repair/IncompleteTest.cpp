@@ -31,19 +31,19 @@ class IncompleteEntries : public PropertiesWorld {
     return cells;
   }
   std::string lost() const {
-    for (const FilaDePartida& f : formaPartida(r.sacrament)->filas)
+    for (const FilaDePartida& f : formaPartida(k.s)->filas)
       if (text::equalsNoCase(f.tabla, r.childTable)) return f.nombre;
     return {};
   }
   /// What stands in the entry's own row is there still.
-  std::string dayLeft() const { return &r.sacrament == &BAUTISMO ? "10/05/1999" : ""; }
+  std::string dayLeft() const { return &k.s == &BAUTISMO ? "10/05/1999" : ""; }
 
   std::int32_t libro = book({"Libro 1", true, 3});
   std::vector<std::int32_t> opened;
 };
 
 TEST_P(IncompleteEntries, Completed_HaveTheirRowsAgainAndAreOpened) {
-  const std::string name = formaPartida(r.sacrament)->registro;
+  const std::string name = formaPartida(k.s)->registro;
   show([&](FormDriver& d) {
     ASSERT_EQ(grid(d).rowCount(), 2);
     EXPECT_THAT(row(d, 1), ElementsAre(name, "Libro 1", "2", "2", dayLeft(), lost()));
@@ -68,10 +68,9 @@ TEST_P(IncompleteEntries, Removed_GoWithAllTheirRows) {
     const auto& question = w.user.messages().back();
     EXPECT_THAT(question.below, StartsWith("Libro Libro 1, folio 2, número 2. Le falta: " + lost() +
                                            ".\nSe perderá lo que queda de "));
-    EXPECT_THAT(question.below,
-                EndsWith(&r.sacrament == &BAUTISMO     ? "padre: Juan García; madre: Ana Pérez."
-                         : &r.sacrament == &MATRIMONIO ? "novia: Eva Sanz."
-                                                       : "Luis García Pérez."));
+    EXPECT_THAT(question.below, EndsWith(&k.s == &BAUTISMO ? "padre: Juan García; madre: Ana Pérez."
+                                         : &k.s == &MATRIMONIO ? "novia: Eva Sanz."
+                                                               : "Luis García Pérez."));
     EXPECT_EQ(question.byEnter, Answer::No);
     EXPECT_EQ(entries(), 3);
     w.user.expectMessage(sure, Answer::Yes);
@@ -79,14 +78,14 @@ TEST_P(IncompleteEntries, Removed_GoWithAllTheirRows) {
     EXPECT_EQ(grid(d).rowCount(), 1);
     d.click("cmdBoton(2)");
   });
-  for (const FilaDePartida& f : formaPartida(r.sacrament)->filas)
+  for (const FilaDePartida& f : formaPartida(k.s)->filas)
     EXPECT_EQ(w.count(f.tabla), text::equalsNoCase(f.tabla, r.childTable) ? 1 : 2) << f.tabla;
 }
 
 TEST_P(IncompleteEntries, HeldOrMendedElsewhere_AreLeftAlone) {
   auto other = w.otherSession();
   FDAPI::DefinicionBloqueo table;
-  table.strTabla = r.sacrament.tablaPartidas;
+  table.strTabla = k.s.tablaPartidas;
   other->DefinirBloqueo(table);
   show([&](FormDriver& d) {
     ASSERT_EQ(other->lngEfectuarBloqueos(), 0);

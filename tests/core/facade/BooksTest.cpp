@@ -1,17 +1,19 @@
+// Closing and deleting a book, in every register.
+
+#include "core/facade/FacadeWorld.h"
 #include "registers/Rows.h"
-#include "registers/books/OperacionesLibro.h"
 #include "store/FailingEngine.h"
 
-namespace fidaleon::tests::OperationsTest {
+namespace fidaleon::tests::BooksTest {
 
 constexpr const char* PREGUNTA_CERRAR =
     "Si cierra este libro no podrá introducir más partidas. ¿Desea cerrarlo?";
 constexpr const char* PREGUNTA_ELIMINAR = "¿Seguro que quiere eliminar el libro?";
 
-class OperacionesLibro : public ::testing::TestWithParam<std::size_t> {
+class Books : public ::testing::TestWithParam<std::size_t> {
  protected:
   const Sacramento& s = SACRAMENTOS.at(GetParam());
-  TestWorld mundo;
+  WithFacade<TestWorld> mundo;
 
   std::int32_t libro(bool nuevo, bool cerrado = false) {
     return insertBook(mundo, s, 1, {"Libro", nuevo, 3, cerrado});
@@ -21,22 +23,25 @@ class OperacionesLibro : public ::testing::TestWithParam<std::size_t> {
   }
   std::int64_t libros() { return mundo.count(s.tablaLibros); }
   void partidaEn(std::int32_t libro) {
-    mundo.con().Execute(std::string("INSERT INTO ") + s.tablaPartidas +
-                        " (codlibro, folio, numero) VALUES (" + std::to_string(libro) +
-                        ", 1, \"1\")");
+    insertRow(mundo, s.tablaPartidas,
+              {{"codlibro", std::to_string(libro)}, {"folio", "1"}, {"numero", "1"}});
   }
-  void cerrar(std::int32_t id) { cerrarLibro(mundo.contexto, mundo.con(), id, s); }
-  void eliminar(std::int32_t id) { eliminarLibro(mundo.contexto, mundo.con(), id, s); }
-  /// Another workstation holds the book.
-  std::unique_ptr<FDAPI::cProcesarBloqueos> ocuparLibro(std::int32_t id) {
-    return mundo.otherHolds(s.tablaLibros, id);
+  void cerrar(std::int32_t id) {
+    using Cerrar = void (cNucleo::*)(FDAPI::Conexion&, std::int32_t, const FDAPI::cConfig&);
+    const Cerrar cerrar[] = {&cNucleo::cerrarLiBautismo, &cNucleo::cerrarLiconfirmacion,
+                             &cNucleo::cerrarLiMatrimonio, &cNucleo::cerrarLiDefuncion};
+    (mundo.nucleo.*cerrar[s.byte])(mundo.con(), id, mundo.config);
   }
+  void eliminar(std::int32_t id) {
+    mundo.nucleo.EliminarLibro(mundo.con(), id, mundo.config, std::string("Libros") + s.palabra);
+  }
+  void TearDown() override { mundo.esperarLibre(s); }
 };
 
-INSTANTIATE_TEST_SUITE_P(Sacramentos, OperacionesLibro, ::testing::Range<std::size_t>(0, 4),
+INSTANTIATE_TEST_SUITE_P(Sacramentos, Books, ::testing::Range<std::size_t>(0, 4),
                          [](const auto& p) { return SACRAMENTOS.at(p.param).palabra; });
 
-TEST_P(OperacionesLibro, openNewBook_isClosedAfterAsking) {
+TEST_P(Books, openNewBook_isClosedAfterAsking) {
   const std::int32_t id = libro(true);
   mundo.user.expectMessage(PREGUNTA_CERRAR, Answer::No);
   cerrar(id);
@@ -57,7 +62,7 @@ TEST_P(OperacionesLibro, openNewBook_isClosedAfterAsking) {
   cerrar(libro(false));
 }
 
-TEST_P(OperacionesLibro, bookWithEntries_isNotDeletedEvenIfTheyCameWhileTheQuestionStood) {
+TEST_P(Books, bookWithEntries_isNotDeletedEvenIfTheyCameWhileTheQuestionStood) {
   const std::int32_t id = libro(false);
   mundo.user.expectMessage(PREGUNTA_ELIMINAR, Answer::Yes, [&] { partidaEn(id); });
   for (int i = 0; i < 2; ++i) {
@@ -67,7 +72,7 @@ TEST_P(OperacionesLibro, bookWithEntries_isNotDeletedEvenIfTheyCameWhileTheQuest
   EXPECT_EQ(libros(), 1);
 }
 
-TEST_P(OperacionesLibro, emptyBook_isDeletedAfterAsking) {
+TEST_P(Books, emptyBook_isDeletedAfterAsking) {
   const std::int32_t id = libro(false);
   libro(true);
   mundo.user.expectMessage(PREGUNTA_ELIMINAR, Answer::No);
@@ -80,20 +85,21 @@ TEST_P(OperacionesLibro, emptyBook_isDeletedAfterAsking) {
             std::to_string(id + 1));
 }
 
-TEST_P(OperacionesLibro, bookHeldByAnotherOrGone_isLeftAlone) {
+TEST_P(Books, bookHeldByAnotherOrGone_isLeftAlone) {
   const std::int32_t id = libro(true);
-  const auto otra = ocuparLibro(id);
   mundo.user.answerAnything(Answer::Yes);
+  const auto otra = mundo.otherHolds(s.tablaLibros, id);
   for (const std::int32_t cual : {id, 999}) {
     cerrar(cual);
     eliminar(cual);
     EXPECT_EQ(mundo.user.messages().size() % 4, 0u) << "each time the question and why not";
   }
+  otra->LiberarBloqueos();
   EXPECT_FALSE(cerrado());
   EXPECT_EQ(libros(), 1);
 }
 
-TEST_P(OperacionesLibro, storeThatFails_isReportedUnderTheNameOfTheOperation) {
+TEST_P(Books, storeThatFails_isReportedUnderTheNameOfTheOperation) {
   const std::array<const char*, 4> nombres{"cerrarLiBautismo", "cerrarLiconfirmacion",
                                            "cerrarLimatrimonio", "cerrarLidefuncion"};
   const std::int32_t id = libro(true);
@@ -110,4 +116,4 @@ TEST_P(OperacionesLibro, storeThatFails_isReportedUnderTheNameOfTheOperation) {
   EXPECT_EQ(libros(), 1);
 }
 
-}  // namespace fidaleon::tests::OperationsTest
+}  // namespace fidaleon::tests::BooksTest
