@@ -4,6 +4,7 @@
 
 #include "core/dialogs/Guard.h"
 #include "import/Libros.h"
+#include "store/LargeWrite.h"
 
 namespace fidaleon {
 
@@ -35,10 +36,11 @@ void cImportarInpar::registro(const char* procedimiento, const RegistroInpar& re
     try {
       const Traductor::Reglas reglas{strAno00, bytOrdenNombre, datos};
       TablaInpar tabla(strRuta, registro, strCodigos, [&r](const dbase::Doubt& duda) {
-        r.anotar({duda.record, duda.sentence(), false});
+        r.anotar({duda.record, dbase::Doubt{0, duda.column, duda.what}.sentence(), false});
       });
       marcarEtapa(marco.colEtiqueta, registro.etapa);
-      Libros(contexto_, marco.conBaseDatos, registro, tabla, reglas,
+      const store::LargeWrite mucho(marco.conBaseDatos);
+      Libros(avisos_, marco.conBaseDatos, registro, tabla, reglas,
              {marco.lngIDInstitucion, blnEnsayo}, r)
           .importar(marco.abpProgreso);
     } catch (const forms::Cancelled&) {

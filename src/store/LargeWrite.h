@@ -1,0 +1,21 @@
+#pragma once
+
+#include "store/Connection.h"
+
+namespace fidaleon::store {
+
+/// For work that writes thousands of rows: as long as it lives the connection holds more of the
+/// database in memory and brings its log home in larger pieces. What is committed is as safe as
+/// ever.
+class LargeWrite {
+ public:
+  explicit LargeWrite(Connection& connection);
+  ~LargeWrite();
+  LargeWrite(const LargeWrite&) = delete;
+  LargeWrite& operator=(const LargeWrite&) = delete;
+
+ private:
+  Connection& connection_;
+};
+
+}  // namespace fidaleon::store
