@@ -81,13 +81,18 @@ class Reader {
     if (!file_.holds(0, kPrefix + 1)) throw Error("El archivo está vacío o cortado.");
     readPrefix();
     readFields();
-    if (header_.fields.empty()) throw Error("La tabla no tiene columnas.");
+    requireColumns();
     fitRecord();
     place();
+    requireColumns();  // besides that of flags
     return std::move(header_);
   }
 
  private:
+  void requireColumns() const {
+    if (header_.fields.empty()) throw Error("La tabla no tiene columnas.");
+  }
+
   void readPrefix() {
     const std::string_view prefix = file_.at(0, kPrefix);
     header_.version = static_cast<std::uint8_t>(prefix[0]);

@@ -17,18 +17,29 @@ std::string joined(db::Memos::Kind kind, const std::string& table, const std::st
   return char(kind) + db::LegacyTable::little(table.size(), 4) + table + memos;
 }
 
+void requireSameOutOfTurn(const std::string& dbf, const std::string& memos, db::Memos::Kind kind) {
+  db::Table inTurn(db::filesOf(dbf, memos, kind), {}, {});
+  db::Table other(db::filesOf(dbf, memos, kind), {}, {});
+  db::Row a, b;
+  for (other.at(3, b); inTurn.next(a);)
+    if (!other.at(a.record(), b) || a[0].kind != b[0].kind ||
+        a[a.size() - 1].text != b[a.size() - 1].text)
+      std::abort();
+}
+
 }  // namespace
 
 /// One input: the layout of the memos, the length of the table, the table, its memos.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   if (size < 5) return 0;
   const std::string_view all(reinterpret_cast<const char*>(data), size);
-  const std::size_t table = std::min<std::size_t>(db::littleEndian(all.substr(1)), size - 5);
-  const db::Reading r =
-      db::readBytes(std::string(all.substr(5, table)), std::string(all.substr(5 + table)),
-                    static_cast<db::Memos::Kind>(data[0] % 3));
+  const std::size_t length = std::min<std::size_t>(db::littleEndian(all.substr(1)), size - 5);
+  const std::string table(all.substr(5, length)), memos(all.substr(5 + length));
+  const auto kind = static_cast<db::Memos::Kind>(data[0] % 3);
+  const db::Reading r = db::readBytes(table, memos, kind);
   if (fidaleon::text::sanitized(r.csv) != r.csv) std::abort();
   if (!r.refusal.empty() && !r.csv.empty()) std::abort();
+  if (r.refusal.empty()) requireSameOutOfTurn(table, memos, kind);
   return 0;
 }
 

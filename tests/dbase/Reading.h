@@ -40,12 +40,17 @@ Reading read(const Open& open) {
   return result;
 }
 
+inline Table::Files filesOf(const std::string& dbf, const std::string& memos, Memos::Kind kind,
+                            const std::string& beside = {}) {
+  Table::Files files{std::make_unique<TextBytes>(dbf), nullptr, kind, beside};
+  if (!memos.empty()) files.memos = std::make_unique<TextBytes>(memos);
+  return files;
+}
+
 inline Reading readBytes(const std::string& dbf, const std::string& memos, Memos::Kind kind,
                          const std::string& beside = {}, const std::string& chosen = {}) {
   return read([&](const Table::Told& told) {
-    Table::Files files{std::make_unique<TextBytes>(dbf), nullptr, kind, beside};
-    if (!memos.empty()) files.memos = std::make_unique<TextBytes>(memos);
-    return Table(std::move(files), chosen, told);
+    return Table(filesOf(dbf, memos, kind, beside), chosen, told);
   });
 }
 

@@ -27,7 +27,7 @@ TEST(TableOfAnotherWriter, isReadWithItsMemosAndItsCodePage) {
   const std::string last = "Éla,Niño,-7,-0.50,1900-12-31,F," + enes;
   const std::string blank = "José María,Pérez de Güimar,,,,,";
   const std::string common = head + "\n" + first + "\n" + blank + "\n" + last + "\n";
-  for (const char* name : {"DBASE3.DBF", "foxpro.dbf"}) {
+  for (const char* name : {"DBASE3.DBF", "dbase4.dbf", "foxpro.dbf"}) {
     const Reading r = readFile(name);
     EXPECT_EQ(r.csv, common) << name;
     EXPECT_THAT(r.doubts + r.refusal, IsEmpty()) << name;
@@ -100,16 +100,12 @@ TEST(Values, areReadOrMissingWithADoubt) {
     int width, decimals;
     const char *stored, *shown, *doubt;
   } cases[] = {
-      {'N', 5, 0, "12", "12", ""},
-      {'N', 5, 0, "", "", ""},
       {'N', 5, 0, "*****", "", "se perdió"},
       {'N', 5, 0, "1,5", "", "no es un número («  1,5»)"},
-      {'N', 7, 2, "-0.50", "-0.50", ""},
       {'N', 5, 0, "nan", "", "no es un número"},
       {'F', 5, 1, " +7.5", "7.5", ""},
       {'N', 3, 0, "-", "", "no es un número"},
       {'N', 19, 0, "9223372036854775807", "9223372036854775807", ""},
-      {'D', 8, 0, "19410228", "1941-02-28", ""},
       {'D', 8, 0, "00000000", "", ""},
       {'D', 8, 0, "19410231", "", "no es una fecha («19410231»)"},
       {'D', 8, 0, "  /  /", "", ""},
