@@ -86,11 +86,13 @@ class Progress : public FDAPI::cProgreso {
     dialog_.setWindowModality(Qt::WindowModal);
     dialog_.setAutoReset(false);
     dialog_.setAutoClose(false);
+    dialog_.setMinimumDuration(500);
     dialog_.setMinimumWidth(dialog_.fontMetrics().averageCharWidth() * 50);
   }
   void Cargar(std::int64_t count, const std::string& what, int, int) override {
-    dialog_.setLabelText(QObject::tr("%1: %n libro(s)", nullptr, static_cast<int>(count))
-                             .arg(QString::fromStdString(what)));
+    const QString books =
+        count == 1 ? QObject::tr("un libro") : QObject::tr("%1 libros").arg(count);
+    dialog_.setLabelText(QString::fromStdString(what) + ": " + books);
     dialog_.setMaximum(static_cast<int>(count));
   }
   void setValue(std::int64_t done) override {

@@ -5,14 +5,14 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QPlainTextEdit>
-#include <QPrintDialog>
-#include <QPrinter>
 #include <QPushButton>
 #include <QVBoxLayout>
 
 #include "files/Durable.h"
+#include "printing/TextReport.h"
 #include "qt/Appearance.h"
 #include "text/SystemErrors.h"
+#include "window/PreviewDialog.h"
 
 namespace fidaleon::app {
 
@@ -43,9 +43,16 @@ ImportReport::ImportReport(const std::string& text, const QString& saved, QWidge
 }
 
 void ImportReport::print() {
-  QPrinter printer(QPrinter::HighResolution);
-  if (QPrintDialog(&printer, this).exec() != QDialog::Accepted) return;
-  QPlainTextEdit(QString::fromStdString(text_)).print(&printer);
+  const auto run = std::make_shared<LongRun>();
+  paper::ReportOptions options;
+  options.composition = paper::ReportOptions::Composition::AsNeeded;
+  options.progress = [run](std::size_t done, std::size_t total) { return run->tell(done, total); };
+  try {
+    PreviewDialog(makeTextReport(windowTitle().toStdString(), text_, std::move(options)), this, run)
+        .exec();
+  } catch (const std::exception& e) {
+    QMessageBox::warning(this, windowTitle(), QString::fromUtf8(e.what()));
+  }
 }
 
 void ImportReport::save() {
