@@ -15,6 +15,7 @@ class Console : public forms::UserInterface {
  public:
   void showModal(forms::Form&) override {}
   forms::Answer showMessage(const forms::Message& message) override {
+    if (message.buttons != forms::MsgButtons::Ok) return forms::Answer::No;
     std::cerr << message.text << "\n";
     if (!message.below.empty()) std::cerr << message.below << "\n";
     return forms::Answer::Ok;

@@ -1,6 +1,7 @@
 #include "import/Libros.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "core/statements/Citas.h"
 #include "import/Deshecha.h"
@@ -23,23 +24,19 @@ std::size_t indice(Clave clave) {
   return static_cast<std::size_t>(clave);
 }
 
-std::int64_t siguiente(const store::Value& maximo) {
-  return static_cast<std::int64_t>(text::Val(escrito(maximo))) + 1;
-}
-
 }  // namespace
 
-Libros::Libros(Contexto& contexto, FDAPI::Conexion& conexion, const RegistroInpar& registro,
+Libros::Libros(Avisos& avisos, FDAPI::Conexion& conexion, const RegistroInpar& registro,
                TablaInpar& tabla, const Traductor::Reglas& reglas, const Encargo& encargo,
                RegistroImportado& resultado)
-    : contexto_(contexto),
+    : avisos_(avisos),
       conexion_(conexion),
       registro_(registro),
       tabla_(tabla),
       reglas_(reglas),
       encargo_(encargo),
       resultado_(resultado),
-      lugares_(contexto, conexion, encargo.ensayo) {
+      lugares_(avisos, conexion, encargo.ensayo) {
   const auto buscar = [&tabla](const std::string& nombre) { return tabla.columna(nombre); };
   for (const TablaDestino& destino : registro.tablas) {
     traductores_.emplace_back(destino, conexion.schema(), buscar, reglas_, lugares_, resultado_);
@@ -49,6 +46,7 @@ Libros::Libros(Contexto& contexto, FDAPI::Conexion& conexion, const RegistroInpa
       if (const auto donde = buscar(columna.fuente)) columnasNombre_.push_back(*donde);
     }
   }
+  resultado_.enTabla = tabla.filas();
   resultado_.borradas = tabla.borradas();
 }
 
@@ -86,17 +84,21 @@ void Libros::libro(const store::Value& codigo) {
 }
 
 void Libros::partidas(const store::Value& codigo) {
+  claves_ = {};
+  const bool conSuPrimera = registro_.sqlFecha.empty();
+  bool abierto = !conSuPrimera && abrirLibro(codigo, 0);
   auto filas = tabla_.conexion().Execute(registro_.sqlPartidas + igualA(codigo) +
                                          registro_.sqlPartidasOrden);
-  claves_ = {};
-  const bool abierto = !filas.EOF_() && abrirLibro(codigo, filas.integer(TablaInpar::REGISTRO));
+  if (conSuPrimera) abierto = abrirLibro(codigo, filas.integer(TablaInpar::REGISTRO));
   for (; !filas.EOF_(); filas.MoveNext()) {
     const std::int64_t registro = filas.integer(TablaInpar::REGISTRO);
     ++resultado_.leidas;
-    if (abierto)
+    if (abierto) {
       partida(registro);
-    else
-      rechazar(registro, "no se ha podido hacer su libro");
+    } else {
+      ++resultado_.rechazadas;
+      resultado_.anotar({registro, "no se ha podido hacer su libro", true});
+    }
   }
   if (abierto && !encargo_.ensayo && !registro_.sqlTrasLibro.empty())
     conexion_.Execute(registro_.sqlTrasLibro + std::to_string(claves_[indice(Clave::Libro)]));
@@ -113,7 +115,7 @@ bool Libros::abrirLibro(const store::Value& codigo, std::int64_t registro) {
     return true;
   } catch (const store::Error& error) {
     if (deshecha(conexion_)) throw;
-    forms::warn(contexto_.ui(), registro_.errorLibro, forms::MsgIcon::Exclamation, error.what());
+    avisos_.avisar(registro_.errorLibro, error.what());
     resultado_.anotar({0, "Libro " + escrito(codigo) + ": " + error.what(), true});
     return false;
   }
@@ -123,15 +125,26 @@ std::string Libros::sentenciaLibro(const store::Value& codigo, std::int64_t regi
   const std::string valor = text::trim(escrito(codigo));
   const std::string nombre =
       text::left("INPAR - " + text::withoutQuotes(valor.empty() ? "---" : valor), kNombreLibro);
+  const std::string fecha = fechaCreacion(codigo, registro);
   const auto maximos = tabla_.conexion().Execute(registro_.sqlSiguiente + igualA(codigo));
-  const std::int64_t folio = registro_.columnaFolio.empty() ? 1 : siguiente(maximos.value("Folio"));
+  const std::string folio =
+      registro_.columnaFolio.empty() ? "1" : siguiente(maximos.value("Folio"), nombre);
   return "INSERT INTO " + registro_.tablaLibros +
          " (CodInstitucion,CodFormato,CodTipoNombre,Nombre,FechaCreacion,Nuevo, "
          "Cerrado,NumeroSiguiente,FolioSiguiente) VALUES (" +
          std::to_string(encargo_.lngIDInstitucion) + "," + std::to_string(reglas_.datos.formato) +
-         "," + std::to_string(kAbierto) + "," + entreComillas(nombre) + "," +
-         entreComillas(fechaCreacion(codigo, registro)) + ",False,False,\"" +
-         std::to_string(siguiente(maximos.value("Numero"))) + "\"," + std::to_string(folio) + ")";
+         "," + std::to_string(kAbierto) + "," + entreComillas(nombre) + "," + entreComillas(fecha) +
+         ",False,False,\"" + siguiente(maximos.value("Numero"), nombre) + "\"," + folio + ")";
+}
+
+/// One that no book can have, of digits that were never meant so, does not keep its book out.
+std::string Libros::siguiente(const store::Value& maximo, const std::string& libro) {
+  const double ultimo = text::Val(escrito(maximo));
+  if (std::abs(ultimo) < 2147483647.0) return std::to_string(static_cast<std::int64_t>(ultimo) + 1);
+  resultado_.anotar(
+      {0, "«" + libro + "» no puede seguir detrás de «" + escrito(maximo) + "»; sigue en 1",
+       false});
+  return "1";
 }
 
 /// The latest day of the book, or that of its first entry.
@@ -153,14 +166,23 @@ std::string Libros::fechaCreacion(const store::Value& codigo, std::int64_t regis
 
 void Libros::partida(std::int64_t registro) {
   const dbase::Row& fila = tabla_.at(registro);
-  const bool entera = std::all_of(traductores_.begin(), traductores_.end(),
-                                  [&](Traductor& t) { return escribir(t, fila); });
-  if (entera) ++resultado_.escritas;
+  const std::int64_t libro = claves_[indice(Clave::Libro)];
+  claves_ = {};
+  claves_[indice(Clave::Libro)] = libro;
+  bool entera = true;
+  for (Traductor& traductor : traductores_) entera &= escribir(traductor, fila);
+  ++(entera ? resultado_.escritas : resultado_.rechazadas);
   if (faltaAlguno(fila)) ++falta_;
 }
 
 bool Libros::escribir(Traductor& traductor, const dbase::Row& fila) {
   const TablaDestino& destino = traductor.tabla();
+  const auto falta = [&](const std::string& porque) {
+    resultado_.anotar({fila.record(), destino.tabla + ": " + porque, true});
+    return false;
+  };
+  // What is tied to a row that is not there would be tied to that of another entry.
+  if (!encargo_.ensayo && !traductor.tieneA(claves_)) return falta("depende de lo que falta");
   try {
     const std::string& sql = traductor.sentencia(fila, claves_, falta_);
     if (encargo_.ensayo) return true;
@@ -168,13 +190,10 @@ bool Libros::escribir(Traductor& traductor, const dbase::Row& fila) {
     if (!destino.sqlClave.empty()) claves_[indice(destino.clave)] = ultimaClave(destino.sqlClave);
     return true;
   } catch (const store::Error& error) {
-    // What follows would be tied to the row of another entry.
     if (deshecha(conexion_)) throw;
-    forms::warn(
-        contexto_.ui(), destino.error, forms::MsgIcon::Exclamation,
-        registro_.tabla + ", registro " + std::to_string(fila.record()) + ".\n" + error.what());
-    rechazar(fila.record(), destino.tabla + ": " + error.what());
-    return false;
+    avisos_.avisar(destino.error, registro_.tabla + ", registro " + std::to_string(fila.record()) +
+                                      ".\n" + error.what());
+    return falta(error.what());
   }
 }
 
@@ -190,11 +209,6 @@ bool Libros::faltaAlguno(const dbase::Row& fila) const {
 
 std::int64_t Libros::ultimaClave(const std::string& sql) const {
   return conexion_.Execute(sql).Fields(0).Value().integer();
-}
-
-void Libros::rechazar(std::int64_t registro, const std::string& que) {
-  ++resultado_.rechazadas;
-  resultado_.anotar({registro, que, true});
 }
 
 }  // namespace fidaleon

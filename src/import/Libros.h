@@ -17,7 +17,7 @@ class Libros {
   };
 
   /// All must outlive it. What comes of it is added to `resultado`.
-  Libros(Contexto& contexto, FDAPI::Conexion& conexion, const RegistroInpar& registro,
+  Libros(Avisos& avisos, FDAPI::Conexion& conexion, const RegistroInpar& registro,
          TablaInpar& tabla, const Traductor::Reglas& reglas, const Encargo& encargo,
          RegistroImportado& resultado);
 
@@ -31,13 +31,13 @@ class Libros {
   bool abrirLibro(const store::Value& codigo, std::int64_t registro);
   std::string sentenciaLibro(const store::Value& codigo, std::int64_t registro);
   std::string fechaCreacion(const store::Value& codigo, std::int64_t registro);
+  std::string siguiente(const store::Value& maximo, const std::string& libro);
   void partida(std::int64_t registro);
   bool escribir(Traductor& traductor, const dbase::Row& fila);
   bool faltaAlguno(const dbase::Row& fila) const;
   std::int64_t ultimaClave(const std::string& sql) const;
-  void rechazar(std::int64_t registro, const std::string& que);
 
-  Contexto& contexto_;
+  Avisos& avisos_;
   FDAPI::Conexion& conexion_;
   const RegistroInpar& registro_;
   TablaInpar& tabla_;

@@ -1,10 +1,11 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <unordered_map>
 
-#include "core/contract/Contexto.h"
+#include "import/Avisos.h"
 
 namespace fidaleon {
 
@@ -12,23 +13,21 @@ namespace fidaleon {
 class Lugares {
  public:
   /// With `ensayo` nothing is made, and what would be has the key 0.
-  Lugares(Contexto& contexto, FDAPI::Conexion& conexion, bool ensayo)
-      : contexto_(contexto), conexion_(conexion), ensayo_(ensayo) {}
+  Lugares(Avisos& avisos, FDAPI::Conexion& conexion, bool ensayo)
+      : avisos_(avisos), conexion_(conexion), ensayo_(ensayo) {}
 
-  /// The key of Municipio; 0 when either name is empty, or the town could not be made: the user has
-  /// been told then.
-  std::int64_t municipio(const std::string& poblacion, const std::string& provincia);
-  /// Keys found before may be gone when what was written was taken back.
-  void olvidar() { claves_.clear(); }
+  /// The key of Municipio; 0 when either name is empty. Empty when the town could not be made: the
+  /// user has been told then.
+  std::optional<std::int64_t> municipio(const std::string& poblacion, const std::string& provincia);
 
  private:
   struct Sentencias {
     std::string buscar, clave, insertar, ultima;
   };
-  std::int64_t buscarOCrear(const Sentencias& sentencias);
-  std::int64_t provincia(const std::string& nombre);
+  std::optional<std::int64_t> buscarOCrear(const Sentencias& sentencias);
+  std::optional<std::int64_t> provincia(const std::string& nombre);
 
-  Contexto& contexto_;
+  Avisos& avisos_;
   FDAPI::Conexion& conexion_;
   bool ensayo_;
   std::unordered_map<std::string, std::int64_t> claves_;

@@ -13,6 +13,7 @@ void linea(std::string& texto, const char* que, std::int64_t cuantos) {
 void describir(const RegistroImportado& r, bool ensayo, std::string& texto) {
   texto += r.titulo + " (tabla " + r.tabla + ")\n";
   linea(texto, ensayo ? "Libros que se harán" : "Libros hechos", r.libros);
+  linea(texto, "Partidas de la tabla", r.enTabla);
   linea(texto, "Partidas leídas", r.leidas);
   linea(texto, ensayo ? "Partidas que se escribirán" : "Partidas escritas enteras", r.escritas);
   if (!ensayo) linea(texto, "Partidas que hay en esos libros", r.encontradas);
@@ -45,7 +46,7 @@ void RegistroImportado::anotar(IncidenciaInpar incidencia) {
 bool ResultadoImportacion::completa() const {
   return !cancelada &&
          std::all_of(registros.begin(), registros.end(), [this](const RegistroImportado& r) {
-           return r.fallo.empty() && r.escritas == r.leidas &&
+           return r.fallo.empty() && r.leidas == r.enTabla && r.escritas == r.leidas &&
                   (ensayo || r.encontradas == r.leidas);
          });
 }
@@ -61,8 +62,9 @@ std::string ResultadoImportacion::texto() const {
   const bool cortes = std::any_of(registros.begin(), registros.end(),
                                   [](const RegistroImportado& r) { return r.cortados > 0; });
   if (!completa())
-    return todo + "\nATENCIÓN: no están todas las partidas leídas. Mire lo que se dice arriba.\n";
-  return todo + "\nEstán todas las partidas leídas" +
+    return todo +
+           "\nATENCIÓN: no están todas las partidas de las tablas. Mire lo que se dice arriba.\n";
+  return todo + "\nEstán todas las partidas de las tablas" +
          (cortes ? ", y arriba se dice qué valores se han cortado.\n" : ".\n");
 }
 

@@ -18,7 +18,8 @@ struct RegistroImportado {
   std::string titulo;  // "Defunción"
   std::string tabla;   // "BAUT"
   std::int64_t libros = 0;
-  std::int64_t leidas = 0;       // rows of the older program that are not deleted
+  std::int64_t enTabla = 0;      // rows of the older program that are not deleted
+  std::int64_t leidas = 0;       // those of the books that were begun
   std::int64_t escritas = 0;     // entries written whole
   std::int64_t encontradas = 0;  // entries counted afterwards in the books that were made
   std::int64_t rechazadas = 0;

@@ -12,15 +12,16 @@ namespace {
 std::optional<text::Date> conAnoCorto(const std::string& texto) {
   const std::size_t ultimo = texto.find_last_of("/-.");
   if (ultimo == std::string::npos || texto.size() - ultimo != 3) return std::nullopt;
-  return text::parseShort(texto.substr(0, ultimo + 1) + "19" + texto.substr(ultimo + 1));
+  const std::string dia = texto.substr(0, ultimo + 1), ano = texto.substr(ultimo + 1);
+  const auto leido = text::parseShort(dia + "19" + ano);
+  return leido ? leido : text::parseShort(dia + "20" + ano);  // 29/2/00
 }
 
 }  // namespace
 
 std::optional<text::Date> diaDe(const dbase::Cell& valor) {
-  using Kind = dbase::Cell::Kind;
-  if (valor.kind == Kind::Date || valor.kind == Kind::Moment) return valor.date;
-  if (valor.kind != Kind::Text) return std::nullopt;
+  if (esDia(valor)) return valor.date;
+  if (valor.kind != dbase::Cell::Kind::Text) return std::nullopt;
   const std::string texto = text::trim(valor.text);
   if (const auto dia = text::parseShort(texto)) return dia;
   return conAnoCorto(texto);

@@ -7,6 +7,12 @@
 
 namespace fidaleon {
 
+/// A date of its own kind, not one in a text.
+inline bool esDia(const dbase::Cell& valor) {
+  using Kind = dbase::Cell::Kind;
+  return valor.kind == Kind::Date || valor.kind == Kind::Moment;
+}
+
 /// The day that a value of the older program stands for: a date, or a text like "3/12/41".
 std::optional<text::Date> diaDe(const dbase::Cell& valor);
 

@@ -13,19 +13,11 @@ namespace {
 
 using Kind = dbase::Cell::Kind;
 
-/// Wide enough for every whole number that the store keeps as such.
-constexpr int kCifras = 9;
-
 void declarar(store::Table& tabla, const std::string& nombre, const dbase::Field* campo) {
-  const char* const columna = nombre.c_str();
   const bool numero =
       campo != nullptr && std::string("NFIBY").find(campo->letter) != std::string::npos;
-  if (!numero)
-    tabla.memos({columna});
-  else if (campo->letter == 'I' || (campo->decimals == 0 && campo->width <= kCifras))
-    tabla.longs({columna});
-  else
-    tabla.add(store::Type::Double, {columna});
+  // A narrow column may hold "1E300".
+  tabla.add(numero ? store::Type::Double : store::Type::Memo, {nombre.c_str()});
 }
 
 std::string sinExponente(double numero) {

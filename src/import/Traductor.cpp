@@ -1,9 +1,11 @@
 #include "import/Traductor.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "core/statements/Citas.h"
 #include "import/Siglo.h"
+#include "import/TablaInpar.h"
 #include "text/Names.h"
 #include "text/Numbers.h"
 #include "text/Utf8.h"
@@ -76,7 +78,8 @@ std::string sexoDe(const std::string& letra) {
 
 std::string textoDe(const dbase::Cell& celda) {
   using Kind = dbase::Cell::Kind;
-  if (celda.kind == Kind::Date || celda.kind == Kind::Moment) return text::toShort(celda.date);
+  if (esDia(celda)) return text::toShort(celda.date);
+  if (celda.kind == Kind::Real) return escrito(store::Value(celda.real));
   if (celda.kind == Kind::Logical) return celda.integer != 0 ? "Sí" : "No";
   return text::trim(celda.text);
 }
@@ -103,6 +106,12 @@ const std::string& Traductor::sentencia(const dbase::Row& fila, const ClavesPart
   }
   sql_ += ')';
   return sql_;
+}
+
+bool Traductor::tieneA(const ClavesPartida& claves) const {
+  return std::all_of(tabla_.columnas.begin(), tabla_.columnas.end(), [&](const Destino& destino) {
+    return destino.origen != Origen::Llave || claves[static_cast<std::size_t>(destino.clave)] != 0;
+  });
 }
 
 void Traductor::valor(const Paso& paso, const dbase::Row& fila, const ClavesPartida& claves,
@@ -176,8 +185,10 @@ void Traductor::texto(const Paso& paso, const dbase::Row& fila, std::string valo
 void Traductor::numero(const Paso& paso, const dbase::Row& fila) {
   const std::string escrito = unaFuente(paso.fuentes, fila);
   const double valor = std::trunc(text::Val(escrito));
-  const bool cabe = paso.columna->type == store::Type::Byte ? valor >= 0 && valor <= 255
-                                                            : std::abs(valor) <= 2147483647.0;
+  const bool dia = !paso.fuentes.empty() && esDia(fila[paso.fuentes[0]]);
+  const bool cabe = dia                                       ? false
+                    : paso.columna->type == store::Type::Byte ? valor >= 0 && valor <= 255
+                                                              : std::abs(valor) <= 2147483647.0;
   if (!cabe || (!escrito.empty() && escrito != BLANCO && !text::isNumeric(escrito)))
     anotar(fila, paso, "solo admite números: «" + escrito + "»");
   sql_ += std::to_string(cabe ? static_cast<std::int64_t>(valor) : 0);
@@ -214,8 +225,10 @@ void Traductor::lugar(const Paso& paso, const dbase::Row& fila) {
   const std::string provincia = paso.destino->origen == Origen::LugarSuelto
                                     ? "INPAR - OTRAS"
                                     : text::withoutQuotes(unaFuente(paso.otras, fila));
-  sql_ += std::to_string(
-      lugares_.municipio(text::withoutQuotes(unaFuente(paso.fuentes, fila)), provincia));
+  const std::string poblacion = text::withoutQuotes(unaFuente(paso.fuentes, fila));
+  const auto clave = lugares_.municipio(poblacion, provincia);
+  if (!clave) anotar(fila, paso, "no se ha podido hacer: «" + poblacion + "», de " + provincia);
+  sql_ += std::to_string(clave.value_or(0));
 }
 
 void Traductor::nombre(const Paso& paso, const dbase::Row& fila) {

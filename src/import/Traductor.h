@@ -42,6 +42,8 @@ class Traductor {
   /// "INSERT INTO ... VALUES (...)" for the row.
   const std::string& sentencia(const dbase::Row& fila, const ClavesPartida& claves,
                                std::int64_t falta);
+  /// The rows that this one refers to are there.
+  bool tieneA(const ClavesPartida& claves) const;
   const TablaDestino& tabla() const { return tabla_; }
 
  private:

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "core/contract/Contexto.h"
+#include "import/Avisos.h"
 #include "import/Etiquetas.h"
 #include "import/ResultadoImportacion.h"
 #include "import/Traductor.h"
@@ -18,7 +19,7 @@ namespace fidaleon {
 /// progress object throws forms::Cancelled the book at hand is finished and no other is begun.
 class cImportarInpar {
  public:
-  explicit cImportarInpar(Contexto& contexto) : contexto_(contexto) {}
+  explicit cImportarInpar(Contexto& contexto) : contexto_(contexto), avisos_(contexto) {}
 
   std::string strAno00;             // what stands in front of the year "00"
   std::uint8_t bytOrdenNombre = 0;  // 0: the given name stands first in a full name
@@ -46,6 +47,7 @@ class cImportarInpar {
                 const std::string& strRuta, const DatosRegistro& datos);
 
   Contexto& contexto_;
+  Avisos avisos_;
   ResultadoImportacion resultado_;
 };
 

