@@ -1,5 +1,6 @@
 // rooms: locks support
-// A whole lock session as each command of the program makes it, beside the bare system calls.
+// Lock sessions: that of one command beside the bare system calls, one that holds thousands, and
+// one among a hundred.
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -20,20 +21,60 @@ namespace {
 using namespace fidaleon;
 
 constexpr int ROUNDS = 2000;
+constexpr int MANY = 10000;
+constexpr int DESKS = 100;
 
-void commandSession(forms::UserInterface& ui, const Clock& clock, const std::string& directory) {
-  locks::ProcesarBloqueos session(ui, clock, "ana", "despacho");
-  session.Inicializar(directory);
-  for (const char* table : {"Institucion", "Provincia", "Municipio"}) {
-    FDAPI::DefinicionBloqueo shared;
-    shared.strTabla = table;
-    shared.blnBloqueoParcialTabla = true;
-    session.DefinirBloqueo(shared);
+using Session = std::unique_ptr<locks::ProcesarBloqueos>;
+
+/// A directory with a scripted user at each desk.
+struct Office {
+  Office() {
+    if (!::mkdtemp(directory.data())) std::abort();
+  }
+  ~Office() { std::filesystem::remove_all(directory); }
+  Session open() {
+    auto session = std::make_unique<locks::ProcesarBloqueos>(user, clock, "ana", "despacho");
+    session->Inicializar(directory);
+    return session;
+  }
+  std::string directory = (std::filesystem::temp_directory_path() / "fidaleon-XXXXXX").string();
+  forms::ScriptedUser user;
+  support::FixedClock clock{text::Date{2026, 11, 22}};
+};
+
+void take(locks::ProcesarBloqueos& session) {
+  if (session.lngEfectuarBloqueos() != 0) std::abort();
+}
+
+void define(locks::ProcesarBloqueos& session, const std::string& record) {
+  FDAPI::DefinicionBloqueo entry;
+  entry.strTabla = "Bautismo";
+  entry.strRegistro = record;
+  session.DefinirBloqueo(entry);
+}
+
+void commandSession(Office& office, const std::string& table) {
+  const Session session = office.open();
+  for (const char* shared : {"Institucion", "Provincia", "Municipio"}) {
+    FDAPI::DefinicionBloqueo definition;
+    definition.strTabla = shared;
+    definition.blnBloqueoParcialTabla = true;
+    session->DefinirBloqueo(definition);
   }
   FDAPI::DefinicionBloqueo entries;
-  entries.strTabla = "Bautismo";
-  session.DefinirBloqueo(entries);
-  if (session.lngEfectuarBloqueos() != 0) std::abort();
+  entries.strTabla = table;
+  session->DefinirBloqueo(entries);
+  take(*session);
+}
+
+/// Locks on `entries` records, all in one step or each in its own.
+void takeMany(Office& office, int entries, bool atOnce) {
+  const Session session = office.open();
+  for (int i = 1; i <= entries; ++i) {
+    define(*session, std::to_string(i));
+    if (!atOnce) take(*session);
+  }
+  take(*session);
 }
 
 /// What any such session must do: lock the guard, make, lock, write and remove a file of its own.
@@ -51,19 +92,34 @@ void bareSession(const std::filesystem::path& directory) {
 }  // namespace
 
 int main() {
-  std::string directory = (std::filesystem::temp_directory_path() / "fidaleon-XXXXXX").string();
-  if (!::mkdtemp(directory.data())) return 1;
-  forms::ScriptedUser user;
-  support::FixedClock clock{text::Date{2026, 11, 22}};
-  const auto times = bench::inTurn(
-      5,
-      [&] {
-        for (int i = 0; i < ROUNDS; ++i) commandSession(user, clock, directory);
-      },
-      [&] {
-        for (int i = 0; i < ROUNDS; ++i) bareSession(directory);
-      });
-  std::filesystem::remove_all(directory);
-  bench::ratio("2.000 sesiones de bloqueo de una orden", times, 3);
+  Office office;
+  const auto commands = [&](int rounds) {
+    for (int i = 0; i < rounds; ++i) commandSession(office, "Bautismo");
+  };
+  bench::ratio("2.000 sesiones de bloqueo de una orden",
+               bench::inTurn(
+                   5, [&] { commands(ROUNDS); },
+                   [&] {
+                     for (int i = 0; i < ROUNDS; ++i) bareSession(office.directory);
+                   }),
+               3);
+  bench::within("10.000 bloqueos de una vez",
+                bench::milliseconds(5, [&] { takeMany(office, MANY, true); }), 10);
+  bench::growth("cada bloqueo de 10.000 uno a uno, frente a 1.000",
+                bench::milliseconds(1, [&] { takeMany(office, MANY, false); }),
+                bench::milliseconds(1, [&] { takeMany(office, MANY / 10, false); }) * 10, 1.5);
+  std::vector<Session> desks;
+  for (int i = 0; i < DESKS; ++i) {
+    desks.push_back(office.open());
+    define(*desks.back(), "mesa" + std::to_string(i));
+    take(*desks.back());
+  }
+  bench::within("una orden entre 100 sesiones",
+                bench::milliseconds(5, [&] { commandSession(office, "Confirmacion"); }), 5);
+  desks.push_back(office.open());
+  for (int i = 1; i <= MANY; ++i) define(*desks.back(), std::to_string(i));
+  take(*desks.back());
+  bench::within("una orden junto a quien tiene 10.000",
+                bench::milliseconds(5, [&] { commandSession(office, "Confirmacion"); }), 10);
   return 0;
 }

@@ -1,5 +1,7 @@
 #include "locks/LockEntry.h"
 
+#include <algorithm>
+#include <array>
 #include <charconv>
 
 #include "text/Utf8.h"
@@ -17,21 +19,17 @@ std::uint32_t checksum(std::string_view s) {
   return h;
 }
 
-std::string oneField(std::string_view s) {
-  std::string field(s);
-  for (char& c : field)
-    if (c == '\t' || c == '\n' || c == '\r') c = ' ';
-  return field + '\t';
+void addField(std::string& line, std::string_view field) {
+  for (const char c : field) line += c == '\t' || c == '\n' || c == '\r' ? ' ' : c;
+  line += '\t';
 }
 
-std::vector<std::string_view> split(std::string_view s, char separator) {
-  std::vector<std::string_view> parts;
-  for (;;) {
-    const std::size_t end = s.find(separator);
-    parts.push_back(s.substr(0, end));
-    if (end == std::string_view::npos) return parts;
-    s.remove_prefix(end + 1);
-  }
+/// What stands before the separator; `rest` goes on behind it.
+std::string_view cut(std::string_view& rest, char separator) {
+  const std::size_t end = rest.find(separator);
+  const std::string_view part = rest.substr(0, end);
+  rest.remove_prefix(end == std::string_view::npos ? rest.size() : end + 1);
+  return part;
 }
 
 template <class Number>
@@ -40,19 +38,27 @@ bool parse(std::string_view s, Number& n) {
   return error == std::errc() && end == s.data() + s.size();
 }
 
-std::string encodeLine(const HeldEntry& held) {
-  const std::string line = std::string(1, KIND_LETTERS[static_cast<std::size_t>(held.entry.kind)]) +
-                           '\t' + oneField(held.entry.table) + oneField(held.entry.record) +
-                           oneField(std::to_string(held.entry.counter)) +
-                           oneField(held.holder.user) + oneField(held.holder.host) +
-                           oneField(std::to_string(held.holder.process)) +
-                           oneField(held.holder.since);
-  return line + std::to_string(checksum(line)) + '\n';
+void addLine(std::string& content, const HeldEntry& held) {
+  const std::size_t start = content.size();
+  content += KIND_LETTERS[static_cast<std::size_t>(held.entry.kind)];
+  content += '\t';
+  addField(content, held.entry.table);
+  addField(content, held.entry.record);
+  addField(content, std::to_string(held.entry.counter));
+  addField(content, held.holder.user);
+  addField(content, held.holder.host);
+  addField(content, std::to_string(held.holder.process));
+  addField(content, held.holder.since);
+  content += std::to_string(checksum(std::string_view(content).substr(start)));
+  content += '\n';
 }
 
 std::optional<HeldEntry> decodeLine(std::string_view line) {
-  const std::vector<std::string_view> f = split(line, '\t');
-  if (f.size() != FIELDS || f[0].size() != 1) return std::nullopt;
+  if (std::ranges::count(line, '\t') != FIELDS - 1) return std::nullopt;
+  std::array<std::string_view, FIELDS> f;
+  std::string_view rest = line;
+  for (std::string_view& field : f) field = cut(rest, '\t');
+  if (f[0].size() != 1) return std::nullopt;
   const std::size_t kind = KIND_LETTERS.find(f[0]);
   std::uint32_t sum = 0;
   if (kind == std::string_view::npos || !parse(f[8], sum)) return std::nullopt;
@@ -62,10 +68,6 @@ std::optional<HeldEntry> decodeLine(std::string_view line) {
   held.holder = {std::string(f[4]), std::string(f[5]), 0, std::string(f[7])};
   if (!parse(f[3], held.entry.counter) || !parse(f[6], held.holder.process)) return std::nullopt;
   return held;
-}
-
-bool onRecord(Kind kind) {
-  return kind == Kind::Record || kind == Kind::SharedRecord;
 }
 
 }  // namespace
@@ -80,14 +82,15 @@ bool conflict(const LockEntry& a, const LockEntry& b) {
 
 std::string encode(const std::vector<HeldEntry>& entries) {
   std::string content;
-  for (const HeldEntry& held : entries) content += encodeLine(held);
+  for (const HeldEntry& held : entries) addLine(content, held);
   return content;
 }
 
 std::vector<HeldEntry> decode(std::string_view content) {
   std::vector<HeldEntry> entries;
-  for (const std::string_view line : split(content, '\n'))
-    if (auto held = decodeLine(line)) entries.push_back(std::move(*held));
+  entries.reserve(static_cast<std::size_t>(std::ranges::count(content, '\n')));
+  while (!content.empty())
+    if (auto held = decodeLine(cut(content, '\n'))) entries.push_back(std::move(*held));
   return entries;
 }
 

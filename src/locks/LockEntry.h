@@ -10,6 +10,10 @@ namespace fidaleon::locks {
 
 enum class Kind { Table, SharedTable, Record, SharedRecord };
 
+constexpr bool onRecord(Kind kind) {
+  return kind == Kind::Record || kind == Kind::SharedRecord;
+}
+
 /// Who has a lock, as the others are told.
 struct Holder {
   std::string user;

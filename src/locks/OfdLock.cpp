@@ -86,16 +86,16 @@ std::string File::read() const {
   }
 }
 
-void File::write(const std::string& content) {
+void File::write(std::string_view content, std::size_t from) {
   std::size_t done = 0;
   while (done < content.size()) {
-    const ssize_t n =
-        ::pwrite(fd(), content.data() + done, content.size() - done, static_cast<off_t>(done));
+    const ssize_t n = ::pwrite(fd(), content.data() + done, content.size() - done,
+                               static_cast<off_t>(from + done));
     if (n < 0 && errno == EINTR) continue;
     if (n < 0) fail("write");
     done += static_cast<std::size_t>(n);
   }
-  if (::ftruncate(fd(), static_cast<off_t>(content.size())) != 0) fail("truncate");
+  if (::ftruncate(fd(), static_cast<off_t>(from + content.size())) != 0) fail("truncate");
 }
 
 }  // namespace fidaleon::locks

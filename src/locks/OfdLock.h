@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "files/PrivateFile.h"
 
@@ -31,8 +32,8 @@ class File {
   void unlock();
 
   std::string read() const;
-  /// Puts this in place of what the file holds; throws std::system_error.
-  void write(const std::string& content);
+  /// Puts this in place of what the file holds from that byte on; throws std::system_error.
+  void write(std::string_view content, std::size_t from = 0);
 
  private:
   explicit File(files::Descriptor descriptor) : descriptor_(std::move(descriptor)) {}

@@ -15,7 +15,9 @@ using FDAPI::DefinicionBloqueo;
 namespace {
 
 bool isStatement(const std::string& record) {
-  return text::equalsNoCase(text::left(text::trim(record), 7), "SELECT ");
+  constexpr std::string_view BEGINNING = "SELECT ";
+  return record.size() > BEGINNING.size() &&
+         text::equalsNoCase(text::left(text::trim(record), BEGINNING.size()), BEGINNING);
 }
 
 Kind kindOf(const DefinicionBloqueo& d) {
@@ -90,30 +92,33 @@ long ProcesarBloqueos::lngEfectuarBloqueos(bool blnSoloComprobar) {
 ProcesarBloqueos::Outcome ProcesarBloqueos::attempt(bool onlyTest) {
   if (!directory_) return {FDAPI::BloqueoSesion, "La sesión de bloqueos no se ha abierto.", {}};
   const SharedDirectory::Guard guard = directory_->enter();
-  std::vector<LockEntry> wanted;
+  LockSet wanted;
   Outcome outcome = tryAll(guard, wanted);
-  if (outcome.error == FDAPI::BloqueoNinguno && !onlyTest) keep(guard, wanted);
+  if (outcome.error == FDAPI::BloqueoNinguno && !onlyTest) keep(guard, wanted.release());
   return outcome;
 }
 
 // The statements run while nobody else can take or give back a lock: a record that exists here
 // cannot have been deleted by a session that held it.
 ProcesarBloqueos::Outcome ProcesarBloqueos::tryAll(const SharedDirectory::Guard& guard,
-                                                   std::vector<LockEntry>& wanted) {
+                                                   LockSet& wanted) {
+  const Holder holder = self();
   for (const DefinicionBloqueo& d : pending_) {
     if (missing(d))
       return {FDAPI::BloqueoRegistroNoExiste,
               d.strNoExiste.empty() ? recordGone(d.strTabla) : d.strNoExiste,
               {}};
-    for (LockEntry& e : resolve(d)) wanted.push_back(std::move(e));
+    for (LockEntry& e : resolve(d)) wanted.add({std::move(e), holder});
   }
+  std::size_t first = wanted.all().size();  // of those wanted that cannot be had
+  const HeldEntry* inTheWay = nullptr;
   const std::vector<HeldEntry> others = directory_->others(guard);
-  for (const LockEntry& e : wanted) {
-    const auto other = std::find_if(others.begin(), others.end(),
-                                    [&](const HeldEntry& held) { return conflict(e, held.entry); });
-    if (other != others.end()) return refused(e, *other);
-  }
-  return {};
+  for (const HeldEntry& other : others)
+    if (const auto place = wanted.firstConflict(other.entry); place && *place < first) {
+      first = *place;
+      inTheWay = &other;
+    }
+  return inTheWay ? refused(wanted.all()[first].entry, *inTheWay) : Outcome{};
 }
 
 ProcesarBloqueos::Outcome ProcesarBloqueos::refused(const LockEntry& wanted,
@@ -148,7 +153,7 @@ bool ProcesarBloqueos::sharesRecord() const {
   const auto shared = [](Kind kind) { return kind == Kind::SharedRecord; };
   return std::any_of(pending_.begin(), pending_.end(),
                      [&](const DefinicionBloqueo& d) { return shared(kindOf(d)); }) ||
-         std::any_of(held_.begin(), held_.end(),
+         std::any_of(held_.all().begin(), held_.all().end(),
                      [&](const HeldEntry& h) { return shared(h.entry.kind); });
 }
 
@@ -158,15 +163,11 @@ long ProcesarBloqueos::errorFor(Kind kind) const {
   return sharesRecord() ? FDAPI::BloqueoRegistroConPadres : FDAPI::BloqueoRegistro;
 }
 
-void ProcesarBloqueos::keep(const SharedDirectory::Guard& guard,
-                            const std::vector<LockEntry>& wanted) {
+void ProcesarBloqueos::keep(const SharedDirectory::Guard& guard, std::vector<HeldEntry> wanted) {
+  std::erase_if(wanted, [&](const HeldEntry& one) { return held_.contains(one.entry); });
   if (wanted.empty()) return;
-  std::vector<HeldEntry> all = held_;
-  for (const LockEntry& e : wanted)
-    if (std::none_of(all.begin(), all.end(), [&](const HeldEntry& h) { return h.entry == e; }))
-      all.push_back({e, self()});
-  directory_->publish(guard, all);
-  held_ = std::move(all);
+  directory_->publishMore(guard, wanted);
+  for (HeldEntry& one : wanted) held_.add(std::move(one));
 }
 
 Holder ProcesarBloqueos::self() const {
@@ -177,14 +178,17 @@ void ProcesarBloqueos::LiberarBloqueo(const std::string& strTabla) {
   std::erase_if(pending_, [&](const DefinicionBloqueo& d) {
     return goesBy(strTabla, {kindOf(d), d.strTabla, d.strRegistro, d.lngContador});
   });
-  if (std::erase_if(held_, [&](const HeldEntry& h) { return goesBy(strTabla, h.entry); }) == 0)
-    return;
-  if (held_.empty()) {
+  std::vector<HeldEntry> kept = held_.release();
+  const bool any =
+      std::erase_if(kept, [&](const HeldEntry& held) { return goesBy(strTabla, held.entry); }) != 0;
+  for (const HeldEntry& held : kept) held_.add(held);
+  if (!any) return;
+  if (kept.empty()) {
     directory_->withdraw();
     return;
   }
   try {
-    directory_->publish(directory_->enter(), held_);
+    directory_->publish(directory_->enter(), kept);
   } catch (const Unusable& e) {
     forms::warn(ui_, e.what());
   }
@@ -193,7 +197,7 @@ void ProcesarBloqueos::LiberarBloqueo(const std::string& strTabla) {
 void ProcesarBloqueos::LiberarBloqueos() {
   pending_.clear();
   pendingRefused_ = false;
-  held_.clear();
+  held_.release();
   if (directory_) directory_->withdraw();
 }
 

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "core/contract/Entorno.h"
+#include "locks/LockSet.h"
 #include "locks/SharedDirectory.h"
 
 namespace fidaleon::locks {
@@ -37,12 +38,12 @@ class ProcesarBloqueos : public FDAPI::cProcesarBloqueos {
   };
   Outcome attempt(bool onlyTest);
   Outcome refused(const LockEntry& wanted, const HeldEntry& held) const;
-  Outcome tryAll(const SharedDirectory::Guard& guard, std::vector<LockEntry>& wanted);
+  Outcome tryAll(const SharedDirectory::Guard& guard, LockSet& wanted);
   bool missing(const FDAPI::DefinicionBloqueo& definition) const;
   std::vector<LockEntry> resolve(const FDAPI::DefinicionBloqueo& definition) const;
   long errorFor(Kind kind) const;
   bool sharesRecord() const;
-  void keep(const SharedDirectory::Guard& guard, const std::vector<LockEntry>& wanted);
+  void keep(const SharedDirectory::Guard& guard, std::vector<HeldEntry> wanted);
   Holder self() const;
 
   forms::UserInterface& ui_;
@@ -52,7 +53,7 @@ class ProcesarBloqueos : public FDAPI::cProcesarBloqueos {
   std::optional<SharedDirectory> directory_;
   std::vector<FDAPI::DefinicionBloqueo> pending_;
   bool pendingRefused_ = false;
-  std::vector<HeldEntry> held_;
+  LockSet held_;
   std::map<long, std::string> consequences_;  // of a refusal, by its kind
   long lastError_ = FDAPI::BloqueoNinguno;
   std::string lastHolder_;

@@ -139,7 +139,8 @@ std::vector<SharedDirectory::Session> SharedDirectory::sessions(const Guard&) co
 std::vector<HeldEntry> SharedDirectory::others(const Guard& guard) const {
   std::vector<HeldEntry> all;
   for (Session& session : sessions(guard))
-    for (HeldEntry& held : session.held) all.push_back(std::move(held));
+    all.insert(all.end(), std::move_iterator(session.held.begin()),
+               std::move_iterator(session.held.end()));
   return all;
 }
 
@@ -160,25 +161,30 @@ bool SharedDirectory::ensureOwnFile() {
   return true;
 }
 
-void SharedDirectory::publish(const Guard&, const std::vector<HeldEntry>& entries) {
-  std::string before;
+void SharedDirectory::put(std::size_t from, const std::vector<HeldEntry>& entries) {
+  const std::string before = content_.substr(from);
+  content_.replace(from, std::string::npos, encode(entries));
   bool isNew = true;
   try {
     isNew = ensureOwnFile();
-    before = own_->read();
-    own_->write(encode(entries));
+    write(from);
   } catch (const std::system_error& e) {
     const std::string why = text::systemReason(e.code());
+    content_.replace(from, std::string::npos, before);
     try {
-      if (isNew)
-        withdraw();
-      else
-        own_->write(before);
+      isNew ? withdraw() : write(from);
     } catch (const std::system_error&) {
-      // The list stays damaged: its good lines still count, and it ends with the session.
+      // The list stays damaged: its good lines still count, and the next one replaces it.
     }
     throw Unusable(unusable(directory_, why));
   }
+}
+
+void SharedDirectory::write(std::size_t from) {
+  const std::size_t start = damaged_ ? 0 : from;
+  damaged_ = true;
+  own_->write(std::string_view(content_).substr(start), start);
+  damaged_ = false;
 }
 
 // Where the guard itself is not seen by all, another may come at the same time: whoever has told
@@ -190,7 +196,8 @@ bool SharedDirectory::join(const Guard& guard, const std::vector<HeldEntry>& ent
     ensureOwnFile();
     requireVisible();
     sessions(guard);
-    own_->write(encode(entries));
+    content_ = encode(entries);
+    write(0);
     told = true;
   } catch (const Unusable&) {
     withdraw();
@@ -220,6 +227,8 @@ void SharedDirectory::withdraw() noexcept {
   }
   own_.reset();
   ownPath_.clear();
+  content_.clear();
+  damaged_ = false;
 }
 
 }  // namespace fidaleon::locks

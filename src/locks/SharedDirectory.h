@@ -81,7 +81,11 @@ class SharedDirectory {
   /// What all of them hold.
   std::vector<HeldEntry> others(const Guard& guard) const;
   /// Lists these as held by this session. Wants the guard; on Unusable the list is as before.
-  void publish(const Guard&, const std::vector<HeldEntry>& entries);
+  void publish(const Guard&, const std::vector<HeldEntry>& entries) { put(0, entries); }
+  /// The same beside what it lists already.
+  void publishMore(const Guard&, const std::vector<HeldEntry>& entries) {
+    put(content_.size(), entries);
+  }
   /// The same for a program that comes to work here. It must find that locks are seen and that no
   /// other is there unseen, or it throws and is not here. False when it is here but its list could
   /// not be written.
@@ -100,6 +104,8 @@ class SharedDirectory {
   void forEachOther(
       const std::function<void(const std::filesystem::path&, const File&, State)>& each) const;
   bool ensureOwnFile();
+  void put(std::size_t from, const std::vector<HeldEntry>& entries);
+  void write(std::size_t from);
   void requireVisible() const;
 
   std::filesystem::path directory_;
@@ -107,6 +113,8 @@ class SharedDirectory {
   Vantage vantage_;
   std::filesystem::path ownPath_;
   std::optional<File> own_;
+  std::string content_;   // what the own file is to hold
+  bool damaged_ = false;  // and does not, since it could not be written
 };
 
 }  // namespace fidaleon::locks
