@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <string>
 #include <type_traits>
@@ -167,6 +168,7 @@ class Almacen {
   bool grabar(Lista& coleccion, bool& blnSalto) {
     const forms::Hourglass reloj(contexto_.ui());
     const std::string procedimiento = nombre("GrabarColeccionBaseDatos", d_.procGrabar);
+    contadores_.reset();
     return cadaTocada(coleccion, [&](Registro& item) {
       return !pendiente(item) || grabarEntera(procedimiento, item, blnSalto);
     });
@@ -293,6 +295,7 @@ class Almacen {
 
   bool grabarUna(Registro& r, bool& blnSalto) {
     const bool borrar = operacionDe(r) == FDAPI::cCOperacion::Borrar;
+    if (r.Estado || borrar) contadores_.reset();
     if (r.Estado) {
       if (borrar ? !this->borrar(r.*d_.id) : !actualizar(r)) return false;
     } else if (borrar) {
@@ -310,7 +313,23 @@ class Almacen {
     const bool antiguo = operacionDe(r) == FDAPI::cCOperacion::ANTIGUA || enLibroAntiguo(r);
     if (!alta(r)) return false;
     marcarHecha(r, true);
-    return (!antiguo || formato(r, blnSalto)) && guardarEnEspera(r);
+    return (!antiguo || contar(r, blnSalto)) && guardarEnEspera(r);
+  }
+
+  /// Of many entries that are stored together the first alone walks through the book.
+  bool contar(const Registro& r, bool& blnSalto) {
+    return guardado(nombre("ActualizacionFormato"), [&] {
+      if (contadores_ && contadores_->libro() == d_.libro(r))
+        contadores_->sumar(posicionDe(r));
+      else
+        contadores_.emplace(conexion_, s(), d_.libro(r));
+      contadores_->actualizar(blnSalto);
+    });
+  }
+  Posicion posicionDe(const Registro& r) const {
+    const auto listadas = d_.lista.columnas;
+    return {text::toInteger(comoNumero(valorTexto(r, listadas[LISTADO_FOLIO]))).value_or(0),
+            valorTexto(r, listadas[LISTADO_NUMERO])};
   }
 
   /// The entry counts as changed until what waits is stored: nobody is to lose it by cancelling.
@@ -377,6 +396,7 @@ class Almacen {
   Contexto& contexto_;
   FDAPI::Conexion& conexion_;
   const DescripcionAlmacen<Registro>& d_;
+  std::optional<ActualizacionFormato> contadores_;  // of the book that grabar() adds to
 };
 
 }  // namespace fidaleon

@@ -13,6 +13,10 @@
 
 namespace fidaleon {
 
+// Where the columns of a list have the position of an entry.
+constexpr std::size_t LISTADO_FOLIO = 1;
+constexpr std::size_t LISTADO_NUMERO = 2;
+
 /// The entries of a book as its list holds them. A record is large, and of thousands listed few
 /// are ever opened: until somebody asks for its record, an item is the columns of the list alone.
 /// Places count from 0 and stay.
@@ -39,17 +43,22 @@ class PartidasListadas {
   /// The record to be changed. What has been asked for once counts as touched.
   Registro& at(std::size_t posicion) {
     std::unique_ptr<Registro>& entera = enteras_.at(posicion);
-    if (!entera) entera = std::make_unique<Registro>(copia(posicion));
+    if (!entera) {
+      auto nueva = std::make_unique<Registro>();
+      ver(posicion, *nueva);
+      entera = std::move(nueva);
+    }
     return *entera;
   }
   /// Null for an item that nobody has touched: the table holds it and nothing is to be done to it.
   const Registro* tocada(std::size_t posicion) const { return enteras_.at(posicion).get(); }
-  Registro copia(std::size_t posicion) const {
+  /// The record, or, of an item that nobody has touched, `aux` with the columns of the list and no
+  /// others: whoever goes through all of them keeps one record for that.
+  const Registro& ver(std::size_t posicion, Registro& aux) const {
     if (const Registro* entera = tocada(posicion)) return *entera;
-    Registro r;
-    for (std::size_t c = 0; c < columnas_.size(); ++c) poner(r, columnas_[c], celda(posicion, c));
-    r.Estado = true;
-    return r;
+    for (std::size_t c = 0; c < columnas_.size(); ++c) poner(aux, columnas_[c], celda(posicion, c));
+    aux.Estado = true;
+    return aux;
   }
   void push_back(Registro r) { enteras_.push_back(std::make_unique<Registro>(std::move(r))); }
 
@@ -81,6 +90,10 @@ class PartidasListadas {
     return std::to_string(filas.integer(lugar));
   }
   static void poner(Registro& r, const Columna<Registro>& c, std::string_view celda) {
+    if (const auto* miembro = std::get_if<std::string Registro::*>(&c.miembro)) {
+      r.** miembro = celda;
+      return;
+    }
     std::visit(
         [&](auto miembro) {
           columnas_detalle::asignar(r.*miembro, store::Value(std::string(celda)));

@@ -82,6 +82,32 @@ TEST_P(Contadores, siguenALasPartidas) {
   }
 }
 
+TEST_P(Contadores, deMuchasSeguidas_sonLosDeCadaUna) {
+  std::uint32_t azar = 7;
+  const auto hasta = [&](std::uint32_t n) {
+    azar = azar * 1664525 + 1013904223;
+    return static_cast<std::int32_t>((azar >> 16) % n);
+  };
+  for (const int formato : {1, 2, 3}) {
+    crear(formato);
+    ActualizacionFormato seguidas(mundo.con(), s, libro);
+    for (int i = 0; i < 60; ++i) {
+      const Posicion p{i == 50 ? 0 : 1 + hasta(11),
+                       std::to_string(hasta(30)) + (hasta(5) ? "" : "a")};
+      const std::string antes = contadores();
+      bool saltoDeUna = false, salto = false;
+      partidas(std::to_string(p.folio) + "/" + p.numero);
+      actualizacionFormato(mundo.con(), s, libro, saltoDeUna);
+      const std::string deUna = contadores();
+      contadores(antes);
+      seguidas.sumar(p);
+      seguidas.actualizar(salto);
+      ASSERT_EQ(contadores(), deUna) << formato << " " << i;
+      ASSERT_EQ(salto, saltoDeUna) << formato << " " << i;
+    }
+  }
+}
+
 class Subida : public ConLibro {};
 INSTANTIATE_TEST_SUITE_P(Sacramentos, Subida, CADA_UNO, palabra);
 
