@@ -16,9 +16,10 @@ struct Ocupada {
 class Ocupadas {
  public:
   explicit Ocupadas(const std::vector<Posicion>& posiciones) {
+    filas_.reserve(posiciones.size());
     for (const Posicion& p : posiciones) filas_.push_back({p.folio, valNumero(p.numero)});
-    std::ranges::stable_sort(filas_, {},
-                             [](const Ocupada& o) { return std::pair(o.folio, o.numero); });
+    const auto orden = [](const Ocupada& o) { return std::pair(o.folio, o.numero); };
+    if (!std::ranges::is_sorted(filas_, {}, orden)) std::ranges::stable_sort(filas_, {}, orden);
   }
 
   int cuenta() const { return static_cast<int>(filas_.size()); }
@@ -88,7 +89,7 @@ Posicion alFinal(const Ocupadas& o, int p) {
 
 }  // namespace
 
-std::optional<Posicion> siguienteEnLista(std::vector<Posicion> ocupadas, int partidasFolio,
+std::optional<Posicion> siguienteEnLista(const std::vector<Posicion>& ocupadas, int partidasFolio,
                                          Numeracion numeracion) {
   if (ocupadas.empty()) return Posicion{};
   const Ocupadas o(ocupadas);

@@ -15,7 +15,7 @@ enum class Numeracion {
 
 /// The next position of a book out of the positions of its list, in any order. An empty list gives
 /// 1/1. Empty when the book holds neither 1, 2 nor 4 entries per folio: the position stands.
-std::optional<Posicion> siguienteEnLista(std::vector<Posicion> ocupadas, int partidasFolio,
+std::optional<Posicion> siguienteEnLista(const std::vector<Posicion>& ocupadas, int partidasFolio,
                                          Numeracion numeracion);
 
 }  // namespace fidaleon

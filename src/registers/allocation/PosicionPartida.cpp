@@ -80,7 +80,7 @@ void PosicionPartida::ComprobarFolioyNumeroAntiguas() {
 
 void PosicionPartida::CalcularColeccionFolioyNumero(std::int32_t libro) {
   limiteSuperado_ = false;
-  const std::vector<Posicion> ocupadas = campos_.coleccion();
+  const std::vector<Posicion>& ocupadas = campos_.coleccion();
   if (ocupadas.empty()) {
     proponer({});
     return;

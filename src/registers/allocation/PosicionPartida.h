@@ -27,7 +27,7 @@ struct CamposPosicion {
   forms::Label& aviso;  // under the number
   /// Positions of the items of the book's list that are not to be deleted, without the one that
   /// is being edited. Asked for only when the dialog was opened from that list.
-  std::function<std::vector<Posicion>()> coleccion;
+  std::function<const std::vector<Posicion>&()> coleccion;
 };
 
 /// Folio and number of an entry dialog: the proposals, the check of a typed position, the page

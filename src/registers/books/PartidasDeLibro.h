@@ -171,7 +171,7 @@ class PartidasDe final : public PartidasDeLibro {
     const auto igual = [&](std::size_t c) {
       return coleccion_.texto(posicion, c) == valorTexto(r, d_.lista.columnas[c]);
     };
-    return igual(1) && igual(2);
+    return igual(LISTADO_FOLIO) && igual(LISTADO_NUMERO);
   }
 
   bool leer(FDAPI::Conexion& conBaseDatos, Registro& r) {

@@ -70,7 +70,9 @@ class frmPropiedadesLibro : public Dialogo {
 
   // Entries
   void CargarGridPartidasDColeccion();
-  void llenarRejilla();
+  void refrescarRejilla(std::size_t desde, std::size_t hasta);
+  void ponerFila(std::size_t posicion, FDAPI::cFidaleon& fidaleon);
+  int filaHasta(std::size_t posicion) const;
   void permitirPartidas(bool permitidas);
   void msgPartidas_RowChange();
   void msgPartidas_DblClick();

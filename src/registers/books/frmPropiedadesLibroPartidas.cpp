@@ -1,5 +1,8 @@
 // The entries of the book: the grid and its four buttons.
 
+#include <algorithm>
+#include <ranges>
+
 #include "core/statements/Sentencia.h"
 #include "registers/books/VariantePropiedadesLibro.h"
 #include "registers/common/Anulacion.h"
@@ -9,27 +12,50 @@ namespace fidaleon {
 using FDAPI::cCOperacion;
 
 void frmPropiedadesLibro::CargarGridPartidasDColeccion() {
-  procedimiento("CargarGridPartidasDColeccion()", [this] { llenarRejilla(); });
+  procedimiento("CargarGridPartidasDColeccion()",
+                [this] { refrescarRejilla(0, partidas_->cuenta()); });
 }
 
-void frmPropiedadesLibro::llenarRejilla() {
+/// Shows what has changed of these places of the working copy, or has come.
+void frmPropiedadesLibro::refrescarRejilla(std::size_t desde, std::size_t hasta) {
   const auto fidaleon = contexto_.fidaleon();
   const std::size_t antes = elegida().value_or(0);
-  int fila = 0;
   msgPartidas.beginUpdate();
-  msgPartidas.clearRows();
-  for (std::size_t i = 0; i < partidas_->cuenta(); ++i) {
-    const PartidaEnLista partida = partidas_->partida(i);
-    if (partida.Operacion == cCOperacion::Borrar) continue;
-    std::vector<std::string> celdas = partidas_->celdas(i, *fidaleon);
-    celdas.push_back(partida.Anulada ? "SI" : "NO");
-    const int nueva = msgPartidas.addRow(std::move(celdas), static_cast<std::int64_t>(i));
-    if (i <= antes || fila == 0) fila = nueva;
-  }
+  for (std::size_t i = desde; i < hasta; ++i) ponerFila(i, *fidaleon);
   msgPartidas.endUpdate();
   trasAnular_ = false;
-  permitirPartidas(fila != 0);
-  msgPartidas.setRow(fila);
+  permitirPartidas(msgPartidas.rowCount() != 0);
+  msgPartidas.setRow(std::max(filaHasta(antes), std::min(1, msgPartidas.rowCount())));
+}
+
+void frmPropiedadesLibro::ponerFila(std::size_t posicion, FDAPI::cFidaleon& fidaleon) {
+  const PartidaEnLista partida = partidas_->partida(posicion);
+  const auto clave = static_cast<std::int64_t>(posicion);
+  const int fila = filaHasta(posicion);
+  const bool esta = fila != 0 && msgPartidas.rowKey(fila) == clave;
+  if (partida.Operacion == cCOperacion::Borrar) {
+    if (esta) msgPartidas.removeRow(fila);
+    return;
+  }
+  std::vector<std::string> celdas = partidas_->celdas(posicion, fidaleon);
+  celdas.push_back(partida.Anulada ? "SI" : "NO");
+  if (!esta) {
+    msgPartidas.addRow(std::move(celdas), clave);
+    return;
+  }
+  for (int c = 0; c < msgPartidas.columns(); ++c)
+    msgPartidas.setCell(fila, c, std::move(celdas[static_cast<std::size_t>(c)]));
+}
+
+/// The row of this place, or of the last one before it; 0 when there is none.
+int frmPropiedadesLibro::filaHasta(std::size_t posicion) const {
+  const auto clave = static_cast<std::int64_t>(posicion);
+  int fila = msgPartidas.rowCount();
+  if (fila == 0 || msgPartidas.rowKey(fila) <= clave) return fila;
+  const auto filas = std::views::iota(1, fila + 1);
+  return static_cast<int>(
+      std::ranges::upper_bound(filas, clave, {}, [this](int f) { return msgPartidas.rowKey(f); }) -
+      filas.begin());
 }
 
 void frmPropiedadesLibro::permitirPartidas(bool permitidas) {
@@ -77,7 +103,7 @@ void frmPropiedadesLibro::agregar() {
   const std::size_t antes = partidas_->cuenta();
   partidas_->abrir(apertura(std::nullopt));
   refrescarFecha();
-  CargarGridPartidasDColeccion();
+  refrescarRejilla(antes, partidas_->cuenta());
   if (partidas_->cuenta() != antes) msgPartidas.setRow(msgPartidas.rowCount());
 }
 
@@ -139,7 +165,7 @@ void frmPropiedadesLibro::propiedades() {
   AperturaDeLista como = apertura(posicion);
   if (error != FDAPI::BloqueoNinguno) como.aviso = sesion_->aviso();
   if (!partidas_->abrir(como)) avisarIlegible();
-  CargarGridPartidasDColeccion();
+  refrescarRejilla(posicion, posicion + 1);
 }
 
 void frmPropiedadesLibro::avisarIlegible() {
@@ -154,7 +180,7 @@ void frmPropiedadesLibro::anular() {
   // The list may have been read before another desk did the same.
   if (partidas_->partida(posicion).Anulada != anulada) {
     avisarYaEsta(contexto_.ui(), !anulada);
-    return CargarGridPartidasDColeccion();
+    return refrescarRejilla(posicion, posicion + 1);
   }
   partidas_->anular(posicion, !anulada);
   msgPartidas.setCell(msgPartidas.row(), msgPartidas.columns() - 1, anulada ? "NO" : "SI");
@@ -168,7 +194,7 @@ void frmPropiedadesLibro::eliminar() {
   const std::size_t posicion = *elegida();
   if (!bloquear(partidas_->partida(posicion))) return;
   if (sePuedeEliminar()) partidas_->eliminar(posicion);
-  CargarGridPartidasDColeccion();
+  refrescarRejilla(posicion, posicion + 1);
 }
 
 }  // namespace fidaleon

@@ -42,6 +42,7 @@ void frmPartida::aceptar() {
   if (!ComprobarCampos() || !ComprobarDatosBaseDatos()) return;
   // Questions have been standing since: what they were about may have gone.
   if (!elecciones_->siguen() || !GrabarDatosColeccion()) return;
+  ocupadas_.reset();
   esAlta() ? otraPartida() : Unload();
 }
 

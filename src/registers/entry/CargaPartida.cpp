@@ -48,6 +48,7 @@ void frmPartida::Form_Unload() {
 void frmPartida::cargar() {
   const forms::Hourglass reloj(ui());
   cargando_ = true;
+  ocupadas_.reset();
   if (!strPortapapeles.empty()) ui().setClipboardText(strPortapapeles);
   listas_->abrir(*conBaseDatos);
   posicion_->abrir(*conBaseDatos, Origen);

@@ -19,11 +19,4 @@ struct DatosPartida {
   bool anulada = false;
 };
 
-/// The same of an item of a book's list.
-struct PartidaDeColeccion {
-  DatosPartida datos;
-  bool guardada;  // the table holds it
-  bool borrada;   // to be deleted
-};
-
 }  // namespace fidaleon

@@ -1,7 +1,5 @@
 // Institution, book, position and tabs of an entry dialog.
 
-#include <algorithm>
-
 #include "registers/entry/frmPartida.h"
 #include "text/Numbers.h"
 #include "text/Utf8.h"
@@ -52,23 +50,9 @@ void frmPartida::calcularPosicion() {
     posicion_->ComprobarFolioyNumeroAntiguas();
 }
 
-std::vector<Posicion> frmPartida::posicionesDeColeccion() const {
-  const std::vector<PartidaDeColeccion> partidas = coleccion();
-  std::vector<Posicion> posiciones;
-  for (std::size_t i = 0; i < partidas.size(); ++i) {
-    const DatosPartida& d = partidas[i].datos;
-    const bool esEsta = !esAlta() && i == lngPosicion;
-    if (!partidas[i].borrada && !esEsta)
-      posiciones.push_back({text::toInteger(d.folio).value_or(0), d.numero});
-  }
-  return posiciones;
-}
-
-bool frmPartida::marcadaParaBorrar(std::int64_t id) const {
-  if (!desdeLista()) return false;
-  return std::ranges::any_of(coleccion(), [id](const PartidaDeColeccion& p) {
-    return p.guardada && p.borrada && p.datos.id == id;
-  });
+const std::vector<Posicion>& frmPartida::posicionesDeColeccion() {
+  if (!ocupadas_) ocupadas_ = posicionesEnLista();
+  return *ocupadas_;
 }
 
 store::Recordset frmPartida::filaDeInstitucion() const {

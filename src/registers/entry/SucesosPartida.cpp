@@ -19,7 +19,8 @@ void frmPartida::crearSucesos() {
   posicion_.emplace(
       contexto_, sacramento(),
       CamposPosicion{institucion(), libro(), txtLibro[FOLIO], txtLibro[NUMERO], mstPartida,
-                     lblNumeroRepetido, [this] { return posicionesDeColeccion(); }});
+                     lblNumeroRepetido,
+                     [this]() -> const std::vector<Posicion>& { return posicionesDeColeccion(); }});
   notas_->onChange = [this] {
     if (!cargando_) limiteNotas_->comprobar();
   };

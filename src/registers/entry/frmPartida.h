@@ -137,7 +137,8 @@ class frmPartida : public Dialogo {
   virtual bool leerRegistro() = 0;
   virtual void mostrarRegistro() = 0;
   virtual DatosPartida datos() const = 0;
-  virtual std::vector<PartidaDeColeccion> coleccion() const = 0;
+  /// Of the items of the list that are not to be deleted, without the one being edited.
+  virtual std::vector<Posicion> posicionesEnLista() const = 0;
   /// The entry as it stands in the fields is in the book already.
   virtual bool repetida() = 0;
   /// Stores what stands in the fields, or puts it into the collection. False when that failed.
@@ -166,7 +167,6 @@ class frmPartida : public Dialogo {
   void moverFechaDelLibro() const;
   /// "codlibro=1 OR codlibro=2", the books that the repeated-entry check looks in; empty for none.
   std::string librosDondeRepetida() const;
-  bool marcadaParaBorrar(std::int64_t id) const;
   /// The new entry is stored, and something beside it is not: it is gone on with as a correction.
   void seguirCorrigiendo();
 
@@ -202,7 +202,7 @@ class frmPartida : public Dialogo {
   void calcularPosicion();
   void avisarNumeroRepetido();
   void vaciarPosicion();
-  std::vector<Posicion> posicionesDeColeccion() const;
+  const std::vector<Posicion>& posicionesDeColeccion();
   void refrescarTitulo();
   const char* titulo() const;
   bool faltaInstitucionOLibro();
@@ -257,6 +257,7 @@ class frmPartida : public Dialogo {
   std::optional<Elecciones> elecciones_;
   std::optional<ListasDeLibro> listas_;
   std::optional<PosicionPartida> posicion_;
+  std::optional<std::vector<Posicion>> ocupadas_;  // in the list, until it changes
   std::optional<LimiteNotas> limiteNotas_;
   RevisionFechas fechasRevisadas_{contexto_};
   bool anulada_ = false;

@@ -140,14 +140,31 @@ class frmPartidaDe : public frmPartida {
   void vaciarRegistro() final { registro_ = {}; }
   void mostrarRegistro() final { enlaces_.mostrar(registro_, GUIONES); }
   DatosPartida datos() const final { return datosDe(registro_); }
-  std::vector<PartidaDeColeccion> coleccion() const final {
-    std::vector<PartidaDeColeccion> partidas;
-    partidas.reserve(colPartidas->size());
+  std::vector<Posicion> posicionesEnLista() const final {
+    std::vector<Posicion> posiciones;
+    posiciones.reserve(colPartidas->size());
+    cadaOtra([&](std::size_t i) {
+      posiciones.push_back({text::toInteger(colPartidas->texto(i, LISTADO_FOLIO)).value_or(0),
+                            colPartidas->texto(i, LISTADO_NUMERO)});
+      return true;
+    });
+    return posiciones;
+  }
+  /// `hacer` with the place of each item that is neither being edited nor to be deleted, as long as
+  /// it answers true.
+  template <class Hacer>
+  bool cadaOtra(Hacer&& hacer) const {
     for (std::size_t i = 0; i < colPartidas->size(); ++i) {
-      const Registro r = colPartidas->copia(i);
-      partidas.push_back({datosDe(r), r.Estado, borrada(r)});
+      const Registro* tocada = colPartidas->tocada(i);
+      const bool esEsta = !esAlta() && i == lngPosicion;
+      if (!esEsta && !(tocada && borrada(*tocada)) && !hacer(i)) return false;
     }
-    return partidas;
+    return true;
+  }
+  bool marcadaParaBorrar(std::int64_t id) const {
+    return desdeLista() && !colPartidas->cadaTocada([&](const Registro& r) {
+      return !(r.Estado && borrada(r) && datosDe(r).id == id);
+    });
   }
   static bool borrada(const Registro& r) { return operacionDe(r) == FDAPI::cCOperacion::Borrar; }
 
@@ -240,13 +257,10 @@ class frmPartidaDe : public frmPartida {
     return repetidaEnColeccion(partida) || repetidaEnTabla(partida);
   }
   bool repetidaEnColeccion(const Registro& partida) const {
-    if (!desdeLista()) return false;
-    for (std::size_t i = 0; i < colPartidas->size(); ++i) {
-      const Registro item = colPartidas->copia(i);
-      const bool esElMismo = !esAlta() && i == lngPosicion;
-      if (!esElMismo && !borrada(item) && mismosDatos(item, partida)) return true;
-    }
-    return false;
+    Registro listada;
+    return desdeLista() && !cadaOtra([&](std::size_t i) {
+             return !mismosDatos(colPartidas->ver(i, listada), partida);
+           });
   }
   bool repetidaEnTabla(const Registro& partida) {
     const std::string sql = sqlRepetida(partida);
