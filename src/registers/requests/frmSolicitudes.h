@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
 #include "core/dialogs/Dialogo.h"
@@ -51,6 +52,7 @@ class frmSolicitudes : public Dialogo {
   void aceptar();
   void moverAlLibro(const Libro& libro);
   bool pasar(std::int64_t solicitud, const Libro& libro);
+  bool calcularPosicion(const Libro& libro);
   bool CalcularFolioyNumero(const Libro& libro, std::int64_t ultimoFolio);
   bool pasaLimiteDeFolios();
   std::string institucion() const { return std::to_string(cboInstitucion.data()); }
@@ -61,6 +63,11 @@ class frmSolicitudes : public Dialogo {
   // The position under calculation.
   std::int64_t lngFolio_ = 0;
   std::string strNumero_;
+  struct Posicion {
+    std::int64_t folio;
+    std::int64_t numero;
+  };
+  std::optional<Posicion> ultima_;  // of those moved at this time
 };
 
 }  // namespace fidaleon
