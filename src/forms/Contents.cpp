@@ -1,6 +1,7 @@
 #include "forms/Contents.h"
 
 #include <algorithm>
+#include <map>
 #include <optional>
 
 #include "forms/Form.h"
@@ -26,6 +27,38 @@ std::string labelOf(const Control& control) {
   // Tabs within a tab ask the same of several persons.
   const TabStrip* strip = control.strip();
   return strip && strip->strip() ? strip->caption(control.page()) + ": " + caption : caption;
+}
+
+/// "NOVIA (D. Personales)" is about the "novia".
+std::string titleOf(const std::string& caption) {
+  const std::string title = text::trim(caption.substr(0, caption.find('(')));
+  return text::lower(title.ends_with(':') ? title.substr(0, title.size() - 1) : title);
+}
+
+std::string tabOf(const Control& control) {
+  return control.strip() ? titleOf(control.strip()->caption(control.page())) : std::string();
+}
+
+std::string frameOf(const Control& control) {
+  return control.frame() ? titleOf(control.frame()->caption()) : std::string();
+}
+
+/// Fields that are called alike get the name of their tab, and of their frame where that is not
+/// enough: "NOMBRE (novia)".
+void tellApart(const Form& form, std::vector<Field>& fields) {
+  std::vector<std::string> where(fields.size());
+  for (const auto place : {tabOf, frameOf}) {
+    std::map<std::string, int> count;
+    const auto name = [&](std::size_t i) { return fields[i].label + "\n" + where[i]; };
+    for (std::size_t i = 0; i < fields.size(); ++i) ++count[name(i)];
+    for (std::size_t i = 0; i < fields.size(); ++i) {
+      if (count.at(name(i)) < 2) continue;
+      const std::string more = place(*form.find(fields[i].control));
+      where[i] += (where[i].empty() || more.empty() ? "" : ", ") + more;
+    }
+  }
+  for (std::size_t i = 0; i < fields.size(); ++i)
+    if (!where[i].empty()) fields[i].label += " (" + where[i] + ")";
 }
 
 std::string allLines(const ListBox& list) {
@@ -93,6 +126,7 @@ Contents Contents::of(const Form& form) {
   Contents all;
   for (const Control* control : form.tabOrder())
     if (auto field = fieldOf(*control)) all.fields.push_back(std::move(*field));
+  tellApart(form, all.fields);
   all.own = form.ownWork();
   return all;
 }
