@@ -17,6 +17,7 @@ class FilledRegister {
   FilledRegister(store::Connection& connection, const FormaPartida& form, int entries, int perBook)
       : connection_(connection), form_(form), perBook_(std::to_string(perBook)) {
     const int books = 1 + (entries - 1) / perBook;
+    store::Transaction together(connection);
     for (int b = 1; b <= books; ++b)
       insertarLibro(connection, form.sacramento,
                     {1, 3, 4, "L" + std::to_string(b), std::to_string(19000101 + b), true});
@@ -25,6 +26,7 @@ class FilledRegister {
                                  "{IDLibro}<") +
                        std::to_string(books));
     for (const FilaDePartida& row : form.filas) fill(*connection.schema().find(row.tabla), entries);
+    together.commit();
   }
 
  private:

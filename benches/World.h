@@ -1,5 +1,10 @@
 #pragma once
-// A parish in memory with a scripted user before it, for the measurements.
+// A parish file of its own with a scripted user before it, for the measurements.
+
+#include <stdlib.h>
+
+#include <filesystem>
+#include <stdexcept>
 
 #include "core/contract/Contexto.h"
 #include "forms/ScriptedUser.h"
@@ -11,10 +16,23 @@
 namespace fidaleon::bench {
 
 struct World {
-  World() { contexto.gobjConfig = &config; }
+  World() {
+    contexto.gobjConfig = &config;
+    if (!::mkdtemp(folder.data())) throw std::runtime_error(folder);
+    connection = store::createDatabase(file(), store::parishSchema());
+  }
+  ~World() {
+    connection.reset();
+    std::filesystem::remove_all(folder);
+  }
   World(const World&) = delete;
   World& operator=(const World&) = delete;
 
+  std::filesystem::path file() const {
+    return std::filesystem::path(folder) / "parroquia.fidaleon";
+  }
+
+  std::string folder = (std::filesystem::temp_directory_path() / "fidaleon-XXXXXX").string();
   FDAPI::cConfig config{"Fidaleon", "", "ana", "Castellano", false};
   forms::ScriptedUser user;
   support::MemorySettings settings;
@@ -22,7 +40,7 @@ struct World {
   support::HostSupport host{user, settings, clock, config, "DESPACHO"};
   Entorno entorno{user, host, settings, clock, {}};
   Contexto contexto{entorno};
-  std::unique_ptr<store::Connection> connection = store::memoryDatabase(store::parishSchema());
+  std::unique_ptr<store::Connection> connection;
 };
 
 }  // namespace fidaleon::bench
