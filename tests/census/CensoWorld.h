@@ -23,14 +23,13 @@ struct CensoWorld : TestWorld {
   std::int32_t persona(const std::string& nombre, const std::string& primerApellido,
                        const std::string& segundoApellido, const std::string& dni = {},
                        const std::vector<Tipo>& tipos = {EMPADRONADO}) {
-    const std::int32_t id = insertar(
-        "Padron", "IDPadron",
-        "Nombre,PrimerApellido,SegundoApellido,DNI,Direccion,CodMunicipio,CPostal,Telefono,"
-        "Telefono2,CorreoElectronico,EstadoCivil,Sexo,[Profesion/Colegio],PosicionFamiliar,"
-        "Comentarios,Observaciones,CodInstitucionEmpadronado,Nif_Responsable,Cumpleaños,"
-        "AñoNacimiento",
-        citar({nombre, primerApellido, segundoApellido, dni, "Calle Mayor, 3"}) +
-            ",0,\"28013\",\"915550101\",'','','','','','','',''," + texto(parroquia) + ",'','',''");
+    const std::int32_t id = nueva(
+        "Padron",
+        "Direccion=Calle Mayor, 3; CodMunicipio=0; CPostal=28013; Telefono=915550101; Telefono2=; "
+        "CorreoElectronico=; EstadoCivil=; Sexo=; [Profesion/Colegio]=; PosicionFamiliar=; "
+        "Comentarios=; Observaciones=; Nif_Responsable=; Cumpleaños=; AñoNacimiento=; Nombre=" +
+            nombre + "; PrimerApellido=" + primerApellido + "; SegundoApellido=" + segundoApellido +
+            "; DNI=" + dni + "; CodInstitucionEmpadronado=" + texto(parroquia));
     const auto fila = [&](const char* tabla, const std::string& resto) {
       insert(con(), std::string("Padron_") + tabla, "CodPadron=" + texto(id) + "; " + resto);
     };
@@ -53,31 +52,34 @@ struct CensoWorld : TestWorld {
   }
   std::int32_t nota(std::int32_t idPadron, const std::string& nombre,
                     const std::string& descripcion = "Descripción") {
-    return insertar("Padron_NotasPersonales", "IDNota", "CodPadron,Nombre,Descripcion",
-                    texto(idPadron) + "," + citar({nombre, descripcion}));
+    ejecutar("INSERT INTO Padron_NotasPersonales (CodPadron,Nombre,Descripcion) VALUES (" +
+             texto(idPadron) + ",\"" + nombre + "\",\"" + descripcion + "\")");
+    return std::stoi(value("SELECT MAX(IDNota) AS ID FROM Padron_NotasPersonales"));
   }
   /// Of the parish unless another institution is named.
   std::int32_t actividad(const std::string& nombre, std::int32_t codInstitucion = 0) {
-    return insertar("Actividad", "IDActividad", "Nombre,Descripcion,CodInstitucion",
-                    citar({nombre, ""}) + "," + texto(codInstitucion ? codInstitucion : parroquia));
+    return nueva("Actividad", "Descripcion=; Nombre=" + nombre + "; CodInstitucion=" +
+                                  texto(codInstitucion ? codInstitucion : parroquia));
   }
   std::int32_t grupo(std::int32_t codActividad, const std::string& nombre,
                      const std::string& sala = "Aula 1") {
-    return insertar(
-        "Grupo", "IDGrupo", "CodActividad,Nombre,Año,Dia,Hora,Sala,Comentarios",
-        texto(codActividad) + "," + citar({nombre, "2026", "Lunes", "18:00", sala, ""}));
+    return nueva("Grupo", "Año=2026; Dia=Lunes; Hora=18:00; Comentarios=; CodActividad=" +
+                              texto(codActividad) + "; Nombre=" + nombre + "; Sala=" + sala);
   }
   std::int32_t cargo(const std::string& nombre) {
-    return insertar("Cargo", "IDCargo", "Nombre,Descripcion", citar({nombre, ""}));
+    return nueva("Cargo", "Descripcion=; Nombre=" + nombre);
   }
   /// A membership: the person has the office in the group.
   std::int32_t miembro(std::int32_t codPadron, std::int32_t codGrupo, std::int32_t codCargo) {
-    return insertar("Padron_Actividad", "IDActividadesPadron", "CodPadron,CodGrupo,CodCargo",
-                    texto(codPadron) + "," + texto(codGrupo) + "," + texto(codCargo));
+    return nueva("Padron_Actividad",
+                 "CodPadron=" + texto(codPadron) + "; CodGrupo=" + texto(codGrupo) +
+                     "; CodCargo=" + texto(codCargo),
+                 "IDActividadesPadron");
   }
   std::int32_t tarea(const std::string& nombre) {
-    return insertar("Tareas", "IDTarea", "Fecha,HoraInicio,HoraFin,Nombre,Descripcion",
-                    citar({"20260301", "0700", "2359", nombre, ""}));
+    return nueva("Tareas",
+                 "Fecha=20260301; HoraInicio=0700; HoraFin=2359; Descripcion=; Nombre=" + nombre,
+                 "IDTarea");
   }
   void ejecutar(const std::string& sentencia) { con().Execute(sentencia); }
   void quitar(const std::string& tabla) { ejecutar("DELETE * FROM " + tabla); }
@@ -116,14 +118,10 @@ struct CensoWorld : TestWorld {
   std::int32_t parroquia = 0;
 
  private:
-  static std::string citar(const std::vector<std::string>& valores) {
-    std::string lista;
-    for (const std::string& v : valores) lista += (lista.empty() ? "\"" : ",\"") + v + "\"";
-    return lista;
-  }
-  std::int32_t insertar(const std::string& tabla, const std::string& clave,
-                        const std::string& columnas, const std::string& valores) {
-    con().Execute("INSERT INTO " + tabla + " (" + columnas + ") VALUES (" + valores + ")");
+  /// The key of the new row.
+  std::int32_t nueva(const std::string& tabla, const std::string& fila, std::string clave = {}) {
+    insert(con(), tabla, fila);
+    if (clave.empty()) clave = "ID" + tabla;
     return std::stoi(value("SELECT MAX(" + clave + ") AS ID FROM " + tabla));
   }
 };

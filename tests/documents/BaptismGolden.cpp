@@ -56,11 +56,7 @@ std::vector<Golden> bautismos() {
       {MIEMBRO(ImprimirPartidaBautismoMenorca), &BAUTISMAL,
        PARTIDA + FECHAS_CATALANAS + genero("la filleta", "nada") +
            Row{{"NotasMarginales", "Confirmada en 2018"}}},
-      {MIEMBRO(ImprimirVolanteBautismo),
-       &BAUTISMAL,
-       VOLANTE,
-       false,
-       {"SELECT MAX(Folio) AS ID FROM Documentos_Bautismo"}},
+      {MIEMBRO(ImprimirVolanteBautismo), &BAUTISMAL, VOLANTE},
       {MIEMBRO(ImprimirSolicitudPartidaBautismoDatos), &BAUTISMAL,
        SOLICITUD + HOY + genero("La niña", "nacida"), true},
       {MIEMBRO(ImprimirSolicitudPartidaBautismoDatosMenorca), &BAUTISMAL,

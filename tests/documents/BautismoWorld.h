@@ -10,8 +10,8 @@ namespace fidaleon::tests {
 struct BautismoWorld : TestWorld {
   BautismoWorld() {
     getafe = municipio("Getafe", "Madrid");
-    ecija = municipio("Écija", "Sevilla");
-    toledo = municipio("Toledo", "Toledo");
+    municipio("Écija", "Sevilla");
+    municipio("Toledo", "Toledo");
     parroquia = institucion("San Ginés", getafe, "Getafe");
     run("UPDATE Institucion SET InstitucionNombre=\"San Ginés Mártir\", CP=\"28901\"");
     // Getafe is 1, Écija 2, Toledo 3.
@@ -42,12 +42,6 @@ struct BautismoWorld : TestWorld {
   }
 
   void run(const std::string& sql) { con().Execute(sql); }
-  /// Turns the entry into a request of the parish.
-  void hacerSolicitud() {
-    run("UPDATE Bautismo SET CodLibro = 0, Folio = 0, Numero = \"---\", InstitucionSolicitud = " +
-        std::to_string(parroquia));
-  }
-
   std::int64_t filas(const std::string& tabla = "Documentos_Bautismo") {
     return conInformes().Execute("SELECT * FROM " + tabla).RecordCount();
   }
@@ -68,8 +62,6 @@ struct BautismoWorld : TestWorld {
   std::string columna(const std::string& nombre) { return fila()[nombre]; }
 
   std::int32_t getafe = 0;
-  std::int32_t ecija = 0;
-  std::int32_t toledo = 0;
   std::int32_t parroquia = 0;
   cInformes informes{contexto};
 };

@@ -5,7 +5,10 @@
 
 namespace fidaleon::tests::BookRowsTest {
 
-using BookRows = DeCadaRegistro;
+class BookRows : public ::testing::TestWithParam<Registro> {
+ protected:
+  LibroWorld w{GetParam()};
+};
 
 TEST_P(BookRows, Order_IsByValueOfFolioAndNumber) {
   w.vaciarLibro();
@@ -63,31 +66,5 @@ TEST_P(BookRows, EachPlace_IsAskedForOnce) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Registers, BookRows, ::testing::ValuesIn(REGISTROS), nombreDelRegistro);
-
-TEST(BaptismBook, BoyAndUnknownSex_TheUnknownTakesTheGirlsWords) {
-  for (const bool menorca : {false, true}) {
-    LibroWorld w(REGISTROS[0]);
-    w.run("UPDATE Bautismo_Hijo SET Sexo=\"---\"");
-    w.agregar({.folio = "13"});
-    w.run("UPDATE Bautismo_Hijo SET Sexo=\"Hombre\" WHERE Nombre=\"Eva\"");
-    w.imprimir(menorca ? w.registro.libroMenorca : w.registro.libro);
-    EXPECT_THAT(w.columnas("Al niño/A la niña"), menorca ? ElementsAre("la filleta", "al fillet")
-                                                         : ElementsAre("a la niña", "al niño"));
-    EXPECT_THAT(w.columnas("Nacido/Nacida"),
-                menorca ? ElementsAre("nada", "nat") : ElementsAre("nacida", "nacido"));
-  }
-}
-
-TEST(BaptismBook, DependentRowMissing_HidesTheEntryFromTheBook) {
-  LibroWorld w(REGISTROS[0]);
-  const std::string id = w.agregar({.nombre = "Sin madre", .folio = "30"});
-  w.run("UPDATE Bautismo SET CodMadres = 99 WHERE IDBautismo=" + id);
-  w.imprimir(w.registro.libro);
-  EXPECT_THAT(w.nombres(), ElementsAre("Lucía"));
-  // The index does not read the parents.
-  w.conInformes().Execute("DELETE * FROM Documentos_Bautismo");
-  w.imprimir(w.registro.indice);
-  EXPECT_THAT(w.nombres(), UnorderedElementsAre("Lucía", "Sin madre"));
-}
 
 }  // namespace fidaleon::tests::BookRowsTest

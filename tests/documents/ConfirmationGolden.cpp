@@ -47,7 +47,6 @@ const Sacramental CONFIRMATORIO{
 }  // namespace
 
 std::vector<Golden> confirmaciones() {
-  const char* lectura = "SELECT MAX(Nombre) AS Ultimo FROM Documentos_Confirmacion";
   const Row hoy = PARTIDA + HOY;
   return {
       // The age is the one at the confirmation, a day before a birthday.
@@ -62,16 +61,10 @@ std::vector<Golden> confirmaciones() {
        hoy + Row{{"NotasMarginales", conPuntos("Se casó en 2030", 293)}}},
       {MIEMBRO(ImprimirPartidaConfirmacionMenorca), &CONFIRMATORIO, PARTIDA + HOY_CATALAN},
       // The age is today's, and nobody signs as keeper.
-      {MIEMBRO(ImprimirNotificacionConfirmacion),
-       &CONFIRMATORIO,
-       sin(hoy, {"InstitucionEncargado"}) + Row{{"Edad", "23"}},
-       false,
-       {lectura}},
-      {MIEMBRO(ImprimirNotificacionConfirmacionMenorca),
-       &CONFIRMATORIO,
-       sin(PARTIDA + HOY_CATALAN, {"InstitucionEncargado"}) + Row{{"Edad", "23"}},
-       false,
-       {lectura}},
+      {MIEMBRO(ImprimirNotificacionConfirmacion), &CONFIRMATORIO,
+       sin(hoy, {"InstitucionEncargado"}) + Row{{"Edad", "23"}}},
+      {MIEMBRO(ImprimirNotificacionConfirmacionMenorca), &CONFIRMATORIO,
+       sin(PARTIDA + HOY_CATALAN, {"InstitucionEncargado"}) + Row{{"Edad", "23"}}},
       {MIEMBRO(ImprimirSolicitudConfirmacion), &CONFIRMATORIO, hoy + row(R"(
     Folio=0; Numero=---; FechaBautLarga=veinticuatro de mayo de dos mil tres
     FechaBautLargaMeno=vint-i-quatre de maig de 2003)"),

@@ -12,6 +12,7 @@ TEST(BaptismDocuments, WhatIsNotKnown_IsPrintedAsEachDocumentHasIt) {
   using I = cInformes;
   const char *sinNota = "UPDATE Bautismo SET NotasMarginales=NULL",
              *sinSexo = "UPDATE Bautismo_Hijo SET Sexo='---'",
+             *nino = "UPDATE Bautismo_Hijo SET Sexo='Hombre'",
              *sinHora = "UPDATE Bautismo_Hijo SET HoraNac=''";
   const struct {
     const char* cambio;
@@ -24,6 +25,12 @@ TEST(BaptismDocuments, WhatIsNotKnown_IsPrintedAsEachDocumentHasIt) {
       {sinSexo, &I::ImprimirCertificadoLiteralPartidaBautismo,
        "Al niño/A la niña=al niño; Nacido/Nacida=nacido"},
       {sinSexo, &I::ImprimirVolanteBautismo, "Al niño/A la niña=a la niña; Nacido/Nacida=hija"},
+      {sinSexo, &I::ImprimirLibroBautismo, "Al niño/A la niña=a la niña; Nacido/Nacida=nacida"},
+      {sinSexo, &I::ImprimirLibroBautismoMenorca,
+       "Al niño/A la niña=la filleta; Nacido/Nacida=nada"},
+      {nino, &I::ImprimirLibroBautismo, "Al niño/A la niña=al niño; Nacido/Nacida=nacido"},
+      {nino, &I::ImprimirLibroBautismoMenorca, "Al niño/A la niña=al fillet; Nacido/Nacida=nat"},
+      {nino, &I::ImprimirCertificadoPartidaBautismo, "Sexo=D."},
       {sinHora, &I::ImprimirPartidaBautismo, "HoraNac=---"},
       {sinHora, &I::ImprimirCertificadoLiteralPartidaBautismo, "HoraNac="},
       {"UPDATE Municipio SET Nombre='' WHERE Nombre='Getafe'", &I::ImprimirPartidaBautismo,
@@ -99,13 +106,6 @@ TEST(TextRules, ValorImprimible_DashesForNullAndBlanksOnly) {
   EXPECT_EQ(ValorImprimible(std::string("   ")), "---");
   EXPECT_EQ(ValorImprimible(std::string(" x ")), " x ");
   EXPECT_EQ(ValorImprimible(store::Value(std::int64_t{0})), "0");
-}
-
-TEST(TextRules, GenderTest_IsExact) {
-  EXPECT_STREQ(documents::WORDS_ENTRY.child("hombre"), "a la niña");
-  EXPECT_STREQ(documents::WORDS_ENTRY.child(""), "a la niña");
-  EXPECT_STREQ(documents::formOfAddress("Hombre"), "D.");
-  EXPECT_STREQ(documents::formOfAddress("mujer"), "D./Dª");
 }
 
 }  // namespace fidaleon::tests::DocumentRulesTest

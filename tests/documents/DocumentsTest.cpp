@@ -42,22 +42,6 @@ TEST_P(Documents, Entry_FillsItsColumnsAndNoOther) {
   }
 }
 
-TEST_P(Documents, StatementsOnTheReports_AreTheRowAndItsReadingBackInOneTransaction) {
-  const store::FailingEngine* motor = store::FailingEngine::wrap(w.conInformes());
-  imprimir();
-  std::vector<std::string> pasos = motor->executed();
-  ASSERT_GE(pasos.size(), 3u);
-  for (std::string& paso : pasos)
-    if (paso.starts_with("INSERT INTO")) paso.resize(11);
-  std::vector<std::string> esperados;
-  for (int i = 0; i < GetParam().filas; ++i) {
-    esperados.insert(esperados.end(), {"BEGIN", "INSERT INTO"});
-    esperados.insert(esperados.end(), GetParam().detras.begin(), GetParam().detras.end());
-    esperados.emplace_back("COMMIT");
-  }
-  EXPECT_EQ(pasos, esperados);
-}
-
 TEST_P(Documents, DependentRowMissing_NoRowAndNoMessage) {
   const Sacramental& s = *GetParam().sacramento;
   // An index reads no more than it prints.

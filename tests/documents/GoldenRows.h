@@ -40,7 +40,6 @@ struct Golden {
   const Sacramental* sacramento;
   Row fila;
   bool solicitud = false;
-  std::vector<std::string> detras = {};  // statements behind the row
   std::map<std::string, Row> companeras = {};
   int filas = 1;
 

@@ -114,12 +114,6 @@ struct LibroWorld : PartidasWorld {
   const Registro& registro;
 };
 
-/// A suite that each register goes through.
-class DeCadaRegistro : public ::testing::TestWithParam<Registro> {
- protected:
-  LibroWorld w{GetParam()};
-};
-
 inline std::string nombreDelRegistro(const ::testing::TestParamInfo<Registro>& caso) {
   return caso.param.sacramento.palabra;
 }

@@ -101,14 +101,6 @@ const Sacramental NUPCIAL{
     {"UPDATE Matrimonio SET CodLibro=0, Folio=0, Numero=\"---\", InstitucionSolicitud=1"},
     true};
 
-std::vector<std::string> detras(int companeras) {
-  std::vector<std::string> pasos{
-      "SELECT MAX(IDDocumentos_Matrimonio) AS IDDocumentos_Matrimonio FROM "
-      "Documentos_Matrimonio"};
-  pasos.resize(1 + static_cast<std::size_t>(companeras), "INSERT INTO");
-  return pasos;
-}
-
 using Miembro = decltype(Golden::imprimir);
 
 Golden base(const char* nombre, Miembro miembro, const Row& fila, bool solicitud = false,
@@ -118,7 +110,6 @@ Golden base(const char* nombre, Miembro miembro, const Row& fila, bool solicitud
           &NUPCIAL,
           fila,
           solicitud,
-          detras(4),
           {{"Documentos_Matrimonio_Novios", NOVIO},
            {"Documentos_Matrimonio_Novias", NOVIA},
            {"Documentos_Matrimonio_Otros", otros},
@@ -142,7 +133,6 @@ Golden santiago(const char* nombre, Miembro miembro, const Row& fecha) {
                              {"TestigosParroquia", "De ambas"},
                              {"NombreJuzgado", ""},
                              {"NotasMarginales", "Nulo en 2025"}});
-  suya.detras = detras(3);
   suya.companeras = {
       {"Documentos_Matrimonio_Novios",
        sin(NOVIO, {"EmailNovio", "TelefonoNovio", "ParroquiaResidenciaNovio",

@@ -50,29 +50,6 @@ struct FormTest : ::testing::Test {
   FormDriver driver{form, problems};
 };
 
-TEST_F(FormTest, Leaving_HandlerSendsFocusElsewhere_Wins) {
-  Control* next = nullptr;
-  form.txtName.onLostFocus = [&](Control* to) {
-    next = to;
-    form.setFocus(form.txtDate);
-  };
-  EXPECT_FALSE(form.moveFocus(form.txtCode));
-  EXPECT_EQ(next, &form.txtCode);
-  EXPECT_EQ(form.activeControl(), &form.txtDate);
-}
-
-TEST_F(FormTest, Click_AfterRefusedLeave_IsDropped) {
-  form.txtName.onLostFocus = [&](Control* to) {
-    if (to != &form.cmdCancel) form.setFocus(form.txtName);
-  };
-  driver.click("cmd(0)");
-  EXPECT_EQ(form.accepted, 0);
-  EXPECT_FALSE(form.pressEnter());
-  driver.escape();
-  EXPECT_EQ(form.cancelled, 1);
-  EXPECT_TRUE(form.isUnloaded());
-}
-
 TEST_F(FormTest, HandlerThatThrows_LeavesTheFocusUsable) {
   form.txtName.onLostFocus = [](Control*) { throw std::runtime_error("fallo"); };
   EXPECT_THROW(form.moveFocus(form.txtCode), std::runtime_error);
@@ -127,18 +104,6 @@ TEST_F(FormTest, TextThatDoesNotFit_IsRefusedWithABeepAndCanBeMadeShorter) {
   driver.press("txtCode", {Key::Backspace});
   driver.press("txtCode", {Key::Backspace});
   EXPECT_EQ(form.txtCode.text(), "12");
-}
-
-TEST_F(FormTest, Dates_TypedShort_TakeFullForm_AndNonsenseStays) {
-  driver.type("txtDate", "1/2/1998");
-  driver.focus("txtName");
-  EXPECT_EQ(form.txtDate.text(), "01/02/1998");
-  EXPECT_EQ(form.txtDate.stored(), "19980201");
-  driver.type("txtDate", "29021999");
-  user.expectMessage("«29/02/1999» no es una fecha. Escríbala como día/mes/año: 03/05/1998.");
-  driver.focus("txtName");
-  EXPECT_EQ(driver.focused(), "txtDate");
-  EXPECT_TRUE(user.problems().empty());
 }
 
 TEST_F(FormTest, Closing_AsksOnlyWhenSomethingWouldBeLost) {
@@ -213,17 +178,6 @@ TEST_F(FormTest, Tabs_MouseDownRefuses_StaysAndFiresNothing) {
   driver.tab("mst", 1);
   EXPECT_EQ(form.mst.tab(), 0);
   EXPECT_EQ(clicks, 1);
-}
-
-TEST_F(FormTest, Arriving_SelectsOneLineAndLeavesATextOfSeveral) {
-  form.txtCode.setText("12345");
-  form.moveFocus(form.txtCode);
-  EXPECT_EQ(form.txtCode.selLength(), 5);
-  form.mst.setTab(1);
-  form.txtNotes.setLines(4);
-  form.txtNotes.setText("Casado en 1990.");
-  form.moveFocus(form.txtNotes);
-  EXPECT_EQ(form.txtNotes.selLength(), 0);
 }
 
 TEST_F(FormTest, HiddenFocusedControl_HandsTheFocusOnWithoutLeaving) {

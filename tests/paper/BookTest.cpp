@@ -15,10 +15,8 @@ using Composition = ReportOptions::Composition;
 
 class LongDocument : public ::testing::Test {
  protected:
-  void add(const std::string& operation, Values changes) {
-    Values row = fullRow(operation);
-    for (const auto& [column, value] : changes) row = with(row, column, value);
-    insert(*reports_, operation, row);
+  void add(const std::string& operation, const Values& changes) {
+    insert(*reports_, operation, with(fullRow(operation), changes));
   }
 
   void addEntries(int count, const std::string& operation = "InformeLibroBautismo") {

@@ -31,9 +31,8 @@ const Values PERSON{{"InstitucionNombre", "San Ginés"},
 
 class CensusReport : public ::testing::Test {
  protected:
-  void add(Values changes, Values row = PERSON) {
-    for (const auto& [column, value] : changes) row = with(row, column, value);
-    insert(*reports_, row, "Informe_Colaboradores");
+  void add(const Values& changes, const Values& row = PERSON) {
+    insert(*reports_, with(row, changes), "Informe_Colaboradores");
   }
   void addGroup(const std::string& institution, const std::string& activity,
                 const std::string& group, const std::string& count) {

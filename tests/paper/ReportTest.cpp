@@ -221,18 +221,6 @@ TEST_F(Engine, orderStringThatNamesNoFormula_isRefused) {
   EXPECT_THAT(messageOf(kSorted, ErrorKind::BadOrder, options), HasSubstr("orden"));
 }
 
-TEST_F(Engine, continuousRows_areNotCutWhereTheyFitOnAPage) {
-  for (int i = 0; i < 20; ++i) child("n" + std::to_string(i) + "f");
-  const Report r = small(
-      "<template table='Documentos_Bautismo' flow='continuous'>"
-      "<page width='100' height='100' top='5' bottom='5' left='5' right='5'/>"
-      "<header><p>Folios {{@Pagina}} de {{@Paginas}}</p></header>"
-      "<body><p>{{NombreHijo}}</p><space height='25'/><p>fin</p></body></template>");
-  EXPECT_EQ(r.pageCount(), 10);
-  const std::string text = pdfText(r);
-  EXPECT_THAT(text, HasSubstr("Folios 2 de 10 n2f fin n3f fin"));
-}
-
 TEST_F(Engine, bodies_beginAPageEach_whereTheirConditionHolds) {
   for (const char* name : {"Ana", "Eva"}) child(name);
   folder_.write("pieza.xml", "<x><p>$(de) {{$(de)|upper}}</p></x>");
@@ -243,15 +231,6 @@ TEST_F(Engine, bodies_beginAPageEach_whereTheirConditionHolds) {
             "<body own-pages='yes' unless='@Fila' matches='2'><p>aparte</p></body></template>"));
   EXPECT_EQ(text::trim(text),
             "1 de 2 uno 2 de 2 NombreHijo ANA 1 de 1 aparte 1 de 1 NombreHijo EVA");
-}
-
-TEST_F(Engine, progressThatSaysNo_cancels) {
-  for (int i = 0; i < 5; ++i) child("Ana");
-  std::size_t seen = 0;
-  ReportOptions options;
-  options.progress = [&](std::size_t done, std::size_t) { return (seen = done) < 3; };
-  messageOf(kSmall, ErrorKind::Cancelled, options);
-  EXPECT_EQ(seen, 3U);
 }
 
 TEST_F(Engine, cancelledWhileWriting_leavesNoFile) {

@@ -201,13 +201,12 @@ Values blankRow(const std::string& operation) {
   return row;
 }
 
-Values with(Values row, const std::string& column, const std::string& value) {
-  for (auto& [c, v] : row)
-    if (c == column) {
-      v = value;
-      return row;
-    }
-  row.emplace_back(column, value);
+Values with(Values row, const Values& changes) {
+  for (const auto& change : changes) {
+    const auto there = std::find_if(row.begin(), row.end(),
+                                    [&](const auto& v) { return v.first == change.first; });
+    there == row.end() ? row.push_back(change) : void(there->second = change.second);
+  }
   return row;
 }
 

@@ -20,8 +20,8 @@ std::vector<std::string> columnsOf(const std::string& operation);
 Values fullRow(const std::string& operation);
 /// The same columns with "---" in each, as an entry with nothing known gives them.
 Values blankRow(const std::string& operation);
-/// Replaces or adds a value.
-Values with(Values row, const std::string& column, const std::string& value);
+/// Replaces or adds values.
+Values with(Values row, const Values& changes);
 
 /// Into the table of that document.
 void insert(store::Connection& reports, const std::string& operation, const Values& row);

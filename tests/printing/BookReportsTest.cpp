@@ -1,10 +1,7 @@
 // The book, its index and the duplicate as the main program asks for them, and their preview.
 
-#include <QAction>
-#include <QApplication>
-#include <QLabel>
-#include <QProgressDialog>
-#include <QTest>
+#include <QtTest/QtTest>
+#include <QtWidgets/QtWidgets>
 
 #include "core/contract/CcNodos.h"
 #include "core/statements/Sentencia.h"

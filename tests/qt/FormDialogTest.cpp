@@ -1,32 +1,8 @@
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-#include <QApplication>
-#include <QCheckBox>
-#include <QClipboard>
-#include <QComboBox>
-#include <QGroupBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QListView>
-#include <QPlainTextEdit>
-#include <QPushButton>
-#include <QRadioButton>
-#include <QScrollBar>
-#include <QTabBar>
-#include <QTabWidget>
-#include <QTest>
-
-#include "forms/ScriptedUser.h"
-#include "qt/FormDialog.h"
 #include "qt/SampleForm.h"
 
 namespace fidaleon::qt::FormDialogTest {
 
 using namespace forms;
-using testing::Contains;
-using testing::ElementsAre;
-using testing::Not;
 
 class FormDialogTest : public testing::Test {
  protected:
@@ -37,7 +13,7 @@ class FormDialogTest : public testing::Test {
     EXPECT_TRUE(QTest::qWaitForWindowActive(dialog.get()));
     form.log.clear();
   }
-  ~FormDialogTest() override { EXPECT_THAT(user.problems(), testing::IsEmpty()); }
+  ~FormDialogTest() override { EXPECT_THAT(user.problems(), IsEmpty()); }
 
   template <class W>
   W& field(const Control& control) {
@@ -225,7 +201,7 @@ TEST_F(FormDialogTest, FieldRefusesToBeLeft_WhatWasClickedDoesNotHappen) {
   EXPECT_TRUE(form.newBook.value());
   EXPECT_TRUE(field<QRadioButton>(form.newBook).isChecked());
   EXPECT_FALSE(QApplication::activePopupWidget());
-  EXPECT_THAT(form.log, Not(Contains(testing::HasSubstr("click"))));
+  EXPECT_THAT(form.log, Not(Contains(HasSubstr("click"))));
   clickOn(form.cancel);
   EXPECT_TRUE(form.isUnloaded());
 }

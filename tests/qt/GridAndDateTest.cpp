@@ -1,18 +1,5 @@
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
-#include <QApplication>
-#include <QCalendarWidget>
-#include <QHeaderView>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QTableView>
-#include <QTest>
-#include <QToolButton>
-
-#include "forms/ScriptedUser.h"
 #include "qt/Appearance.h"
-#include "qt/FormDialog.h"
 #include "qt/SampleForm.h"
 
 namespace fidaleon::qt::GridAndDateTest {
@@ -113,7 +100,7 @@ TEST_F(GridAndDateTest, WrongDateLeft_MessageAndTheTextStaysForMending) {
   QTest::keyClick(edit, Qt::Key_Tab);
   EXPECT_EQ(form.born.text(), "01/02/1998");
   EXPECT_EQ(form.activeControl(), &form.hour);
-  EXPECT_THAT(user.problems(), testing::IsEmpty());
+  EXPECT_THAT(user.problems(), IsEmpty());
 }
 
 }  // namespace fidaleon::qt::GridAndDateTest

@@ -1,16 +1,13 @@
 // More tabs than a row can show, tabs within them, and questions whose fields grow.
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
-#include <QApplication>
-#include <QListWidget>
-#include <QTest>
+#include <QtTest/QtTest>
+#include <QtWidgets/QtWidgets>
 #include <set>
 
 #include "forms/ScriptedUser.h"
 #include "qt/FormDialog.h"
-#include "qt/FormSweep.h"
 
 namespace fidaleon::qt {
 namespace {
@@ -40,7 +37,6 @@ TEST(ManyTabs, Keyboard_ReachesEachOfThemAndTheTabsWithin) {
   ScriptedUser user;
   Dossier form(user);
   form.Load();
-  EXPECT_THAT(sweep(form), testing::IsEmpty());
   FormDialog dialog(form);
   dialog.show();
   ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));

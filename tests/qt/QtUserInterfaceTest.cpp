@@ -1,26 +1,10 @@
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
-#include <QAbstractButton>
-#include <QApplication>
-#include <QInputDialog>
-#include <QLabel>
-#include <QLineEdit>
-#include <QMessageBox>
-#include <QProgressBar>
-#include <QTest>
-#include <QTextDocumentFragment>
-#include <QTimer>
-
-#include "qt/FormDialog.h"
 #include "qt/QtUserInterface.h"
 #include "qt/SampleForm.h"
 
 namespace fidaleon::qt::QtUserInterfaceTest {
 
 using namespace forms;
-using testing::Contains;
-using testing::ElementsAre;
 
 /// Does something to the window that blocks, as soon as the program waits for the user.
 template <class Act>

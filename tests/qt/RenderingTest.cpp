@@ -1,14 +1,5 @@
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
-#include <QApplication>
-#include <QLineEdit>
-#include <QScrollArea>
-#include <QTest>
-
-#include "forms/ScriptedUser.h"
 #include "qt/Appearance.h"
-#include "qt/FormDialog.h"
 #include "qt/FormSweep.h"
 #include "qt/SampleForm.h"
 #include "qt/Text.h"
@@ -16,17 +7,6 @@
 namespace fidaleon::qt::RenderingTest {
 
 using namespace forms;
-using testing::Contains;
-using testing::HasSubstr;
-using testing::IsEmpty;
-
-TEST(Rendering, SampleForm_PassesTheSweep) {
-  ScriptedUser user;
-  SampleForm form(user);
-  form.Load();
-  EXPECT_THAT(sweep(form), IsEmpty());
-  EXPECT_EQ(form.strip.tab(), 0);
-}
 
 TEST(Rendering, SweepOfAFaultyForm_NamesTheFaults) {
   struct Faulty : Form {

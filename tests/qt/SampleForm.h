@@ -1,12 +1,23 @@
 #pragma once
 
+#include <gmock/gmock.h>
+
+#include <QtTest/QtTest>
+#include <QtWidgets/QtWidgets>
 #include <map>
 #include <string>
 #include <vector>
 
-#include "forms/Form.h"
+#include "forms/ScriptedUser.h"
+#include "qt/FormDialog.h"
 
 namespace fidaleon::qt {
+
+using testing::Contains;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::Not;
 
 /// A dialog of every kind of control, that logs what happens to it.
 class SampleForm : public forms::Form {

@@ -1,7 +1,5 @@
 #include <gtest/gtest-spi.h>
 
-#include <QMenu>
-
 #include "qt/QtUserInterface.h"
 #include "qt/SampleForm.h"
 #include "qt/Watchdog.h"

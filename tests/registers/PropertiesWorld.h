@@ -25,13 +25,17 @@ class PropertiesWorld : public EntryHands, public ::testing::WithParamInterface<
   }
   std::string nameTable() const { return formaPartida(k.s)->personas[0]; }
 
-  /// The caller's part; `act` works on the dialog.
+  /// The caller's part.
+  std::unique_ptr<frmPropiedadesLibro> bookDialog(std::int32_t id) {
+    auto made = propiedadesDeLibro(k.s)(w.contexto);
+    made->conBaseDatos = &w.con();
+    made->lngLibro = id;
+    return made;
+  }
+  /// `act` works on the dialog.
   void openBook(std::int32_t id, Act act) {
     w.user.expectForm("frmPropiedadesLibro" + word(), std::move(act));
-    const auto dialog = r.openBook(w.contexto);
-    dialog->conBaseDatos = &w.con();
-    dialog->lngLibro = id;
-    dialog->Show();
+    bookDialog(id)->Show();
   }
 
   /// Works on the list of its entries and accepts.

@@ -22,7 +22,6 @@ struct Place {
 
 struct OfBaptism {
   using Record = cBautismo;
-  using Book = frmPropiedadesLibroBautismo;
   static inline const Sacramento& sacrament = BAUTISMO;
   static inline const DescripcionAlmacen<Record>& store = ALMACEN_BAUTISMO;
   static constexpr auto load = &cBaseDatos::GrabarBasedatosColeccion;
@@ -46,7 +45,6 @@ struct OfBaptism {
 
 struct OfConfirmation {
   using Record = cConfirmacion;
-  using Book = frmPropiedadesLibroConfirmacion;
   static inline const Sacramento& sacrament = CONFIRMACION;
   static inline const DescripcionAlmacen<Record>& store = ALMACEN_CONFIRMACION;
   static constexpr auto load = &cBaseDatos::GrabarBasedatosColeccionConfirmacion;
@@ -66,7 +64,6 @@ struct OfConfirmation {
 
 struct OfDeath {
   using Record = cDefuncion;
-  using Book = frmPropiedadesLibroDefuncion;
   static inline const Sacramento& sacrament = DEFUNCION;
   static inline const DescripcionAlmacen<Record>& store = ALMACEN_DEFUNCION;
   static constexpr auto load = &cBaseDatos::GrabarBasedatosColeccionDefuncion;
@@ -86,7 +83,6 @@ struct OfDeath {
 
 struct OfMarriage {
   using Record = cMatrimonio;
-  using Book = frmPropiedadesLibroMatrimonio;
   static inline const Sacramento& sacrament = MATRIMONIO;
   static inline const DescripcionAlmacen<Record>& store = ALMACEN_MATRIMONIO;
   static constexpr auto load = &cBaseDatos::GrabarBasedatosColeccionMatrimonio;
@@ -283,7 +279,6 @@ struct Register {
   std::string emptySign;  // an update that leaves the sign of an item read whole empty
   bool (*add)(TestWorld&, const std::string& name, std::int32_t book, int folio,
               const std::string& number);
-  std::unique_ptr<frmPropiedadesLibro> (*openBook)(Contexto&);
 };
 
 inline void PrintTo(const Register& r, std::ostream* out) {
@@ -293,18 +288,12 @@ inline void PrintTo(const Register& r, std::ostream* out) {
 template <class R>
 Register registerOf(const EntryKind& entry, const char* emptySign) {
   const auto& child = *R::store.propias[0];
-  return {entry,
-          child.nombre,
-          child.columnas[0].nombre,
-          emptySign,
+  return {entry, child.nombre, child.columnas[0].nombre, emptySign,
           [](TestWorld& w, const std::string& name, std::int32_t book, int folio,
              const std::string& number) {
             std::vector<typename R::Record> items{recordOf<R>(name, book, folio, number)};
             bool jump = false;
             return (cBaseDatos(w.contexto).*R::save)(w.con(), items, jump);
-          },
-          [](Contexto& c) -> std::unique_ptr<frmPropiedadesLibro> {
-            return std::make_unique<typename R::Book>(c);
           }};
 }
 

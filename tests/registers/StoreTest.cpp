@@ -170,21 +170,6 @@ TYPED_TEST(RegisterStore, WhicheverRowIsLost_IsGivenBackAndTheOthersAreFoundWith
   }
 }
 
-TYPED_TEST(RegisterStore, AnnulledTwice_IsAsItWas_AndRemovingSetsTheCountersBack) {
-  const std::int32_t libro = this->book(false);
-  const std::int32_t id = this->saved(this->record("Luis", libro, 1, "1"));
-  for (const std::string annulled : {"-1", "0"}) {
-    EXPECT_TRUE((this->db.*TypeParam::annul)(this->w.con(), id));
-    EXPECT_EQ(this->w.value(sentencia(TypeParam::sacrament, "SELECT Anulada FROM {Partidas}")),
-              annulled);
-  }
-  const std::string counter =
-      sentencia(TypeParam::sacrament, "SELECT NumeroSiguiente FROM {Libros}");
-  EXPECT_EQ(this->w.value(counter), "2");
-  EXPECT_TRUE((this->db.*TypeParam::remove)(this->w.con(), id));
-  EXPECT_EQ(this->w.value(counter), "1");
-}
-
 TYPED_TEST(RegisterStore, RequestStored_LeavesTheCountersAlone) {
   this->book(false);
   this->saved(this->record("Luis", 0, 0, "---"));

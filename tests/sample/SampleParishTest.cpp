@@ -78,15 +78,6 @@ TEST_F(SampleParish, CollaboratorsAreInAGroupOnce_AndTheYearHasItsTasks) {
   EXPECT_EQ(rowsOf("SELECT * FROM Tareas WHERE HoraFin<HoraInicio"), 0);
 }
 
-TEST(SamplePopulation, SameSeed_SamePeople) {
-  const auto a = sample::makePopulation(7, 1, "San Blas", {2026, 5, 20});
-  const auto b = sample::makePopulation(7, 1, "San Blas", {2026, 5, 20});
-  ASSERT_EQ(a.baptisms.size(), b.baptisms.size());
-  for (std::size_t i = 0; i < a.baptisms.size(); ++i)
-    EXPECT_EQ(a.baptisms[i].name + a.baptisms[i].godmother,
-              b.baptisms[i].name + b.baptisms[i].godmother);
-}
-
 TEST(SamplePopulation, LivesFitTogether) {
   const text::Date last{2026, 5, 20};
   const auto people = sample::makePopulation(1924, 1, "San Blas", last);

@@ -2,7 +2,6 @@
 // a file or its disk.
 
 #include <fcntl.h>
-#include <gtest/gtest.h>
 #include <sqlite3.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -12,8 +11,7 @@
 
 #include "files/Machine.h"
 #include "store/Engine.h"
-#include "store/Error.h"
-#include "store/ForwardingEngine.h"
+#include "store/FailingEngine.h"
 #include "store/Open.h"
 #include "store/Restore.h"
 #include "store/schema/Schema.h"
@@ -25,16 +23,9 @@ namespace fs = std::filesystem;
 
 class Files : public testing::Test {
  protected:
-  ErrorKind kindOf(const std::function<void()>& act) {
-    try {
-      act();
-    } catch (const Error& error) {
-      message = error.what();
-      EXPECT_FALSE(message.empty());
-      return error.kind();
-    }
-    ADD_FAILURE() << "nothing was thrown";
-    return ErrorKind::Other;
+  template <class Act>
+  ErrorKind kindOf(Act act) {
+    return store::kindOf(act, &message);
   }
   ErrorKind kindOfOpening() {
     return kindOf([&] { openDatabase(file, parishSchema()); });
@@ -127,16 +118,6 @@ TEST_F(Files, Rights_AreTheOwnersAloneOrTheGroupsOfASharedFolder) {
     fs::remove(file);
     fs::remove(folder / "copia");
   }
-}
-
-TEST_F(Files, ReachedThroughALink_IsWhereItLies) {
-  createDatabase(file, parishSchema());
-  fs::create_directory(folder / "otra");
-  fs::create_symlink(file, folder / "otra" / "parroquia.fid");
-  EXPECT_EQ(openDatabase(folder / "otra" / "parroquia.fid", parishSchema())
-                ->Properties("DATA SOURCE")
-                .Value,
-            file.string());
 }
 
 TEST_F(Files, WhatIsNoDatabase_IsRefused) {
@@ -388,17 +369,6 @@ TEST_F(Files, BackupOverWhatCannotBeLookedAt_IsRefused) {
   EXPECT_NE(message.find("no puede saberse si un programa lo tiene abierto"), std::string::npos)
       << message;
   EXPECT_TRUE(fs::exists(copy.string() + "-wal"));
-}
-
-TEST_F(Files, CreatedAndFilled_StandsUnderItsNameOnlyWhenComplete) {
-  EXPECT_THROW(createDatabase(file, parishSchema(),
-                              [&](Connection& connection) {
-                                connection.Execute(kInsert);
-                                EXPECT_FALSE(fs::exists(file));
-                                throw Error(ErrorKind::DiskFull, "lleno");
-                              }),
-               Error);
-  EXPECT_TRUE(fs::is_empty(folder));
 }
 
 TEST_F(Files, Backup_IsACompleteDatabaseAndReplacesOnlyWhenWhole) {

@@ -7,6 +7,7 @@
 // A part is looked for, without regard to case, in the statement as it was issued, with "?" in
 // the place of each value. Transactions are "BEGIN", "COMMIT" and "ROLLBACK".
 
+#include <gtest/gtest.h>
 #include <signal.h>
 #include <unistd.h>
 
@@ -18,6 +19,20 @@
 #include "text/Utf8.h"
 
 namespace fidaleon::store {
+
+/// The kind of the error that comes out of `act`, and its words; a failure when none does.
+template <class Act>
+ErrorKind kindOf(Act act, std::string* words = nullptr) {
+  try {
+    act();
+  } catch (const Error& error) {
+    EXPECT_STRNE(error.what(), "");
+    if (words) *words = error.what();
+    return error.kind();
+  }
+  ADD_FAILURE() << "nothing was thrown";
+  return ErrorKind::Other;
+}
 
 class FailingEngine : public ForwardingEngine {
  public:

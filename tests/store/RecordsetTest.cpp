@@ -1,7 +1,4 @@
-#include <gtest/gtest.h>
-
-#include "store/Error.h"
-#include "store/ForwardingEngine.h"
+#include "store/FailingEngine.h"
 #include "store/Open.h"
 
 namespace fidaleon::store::RecordsetTest {
@@ -19,17 +16,6 @@ class Recordsets : public testing::Test {
 
   std::unique_ptr<Connection> connection = memoryDatabase(parishSchema());
 };
-
-ErrorKind kindOf(const std::function<void()>& act) {
-  try {
-    act();
-  } catch (const Error& error) {
-    EXPECT_STRNE(error.what(), "");
-    return error.kind();
-  }
-  ADD_FAILURE() << "nothing was thrown";
-  return ErrorKind::Other;
-}
 
 TEST_F(Recordsets, Moves_GoBothWaysAndStopBeyondTheEnds) {
   fill(4);

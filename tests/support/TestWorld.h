@@ -3,7 +3,6 @@
 // that stands still on 22 November 2026, and real locks in a directory that goes with the test.
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <memory>
 #include <string>
@@ -14,6 +13,7 @@
 #include "forms/ScriptedUser.h"
 #include "store/Open.h"
 #include "support/Clocks.h"
+#include "support/Fields.h"
 #include "support/HostSupport.h"
 #include "support/MemorySettings.h"
 
@@ -95,29 +95,26 @@ struct TestWorld {
   /// The key of a new institution, with its row in Ultimos.
   std::int32_t institucion(const std::string& nombre, std::int32_t codMunicipio = 0,
                            const std::string& diocesis = "Madrid") {
-    parish->Execute(
-        "INSERT INTO Institucion (Nombre, InstitucionNombre, InstitucionTipo, Domicilio, CIF, "
-        "CodMunicipio, CP, Telefono, Diocesis, Vicaria, Parroco, EncargadoArchivo) VALUES (\"" +
-        nombre + "\", \"" + nombre + "\", \"Parroquia de\", \"Calle Mayor, 1\", \"\", " +
-        std::to_string(codMunicipio) + ", \"28001\", \"910000000\", \"" + diocesis +
-        "\", \"Vicaría I\", \"Pedro Ruiz Sanz\", \"\")");
+    insert(*parish, "Institucion",
+           "InstitucionTipo=Parroquia de; Domicilio=Calle Mayor, 1; CIF=; CP=28001; "
+           "Telefono=910000000; Vicaria=Vicaría I; Parroco=Pedro Ruiz Sanz; EncargadoArchivo=; "
+           "Nombre=" +
+               nombre + "; InstitucionNombre=" + nombre + "; Diocesis=" + diocesis +
+               "; CodMunicipio=" + std::to_string(codMunicipio));
     const std::int32_t id = number("SELECT MAX(IDInstitucion) AS ID FROM Institucion");
-    parish->Execute("INSERT INTO Ultimos (IDInstitucion, Encargado) VALUES (" + std::to_string(id) +
-                    ", \"\")");
+    insert(*parish, "Ultimos", "IDInstitucion=" + std::to_string(id) + "; Encargado=");
     return id;
   }
   /// The key of a province: one of the 52 that every database has, or a new one.
   std::int32_t provincia(const std::string& nombre) {
     const std::string find = "SELECT IDProvincia FROM Provincia WHERE Nombre=\"" + nombre + "\"";
-    if (value(find).empty())
-      parish->Execute("INSERT INTO Provincia (Nombre, Codigo_Oficial) VALUES (\"" + nombre +
-                      "\", 0)");
+    if (value(find).empty()) insert(*parish, "Provincia", "Codigo_Oficial=0; Nombre=" + nombre);
     return number(find);
   }
   /// The key of a new town.
   std::int32_t municipio(const std::string& nombre, const std::string& provinciaNombre) {
-    parish->Execute("INSERT INTO Municipio (Nombre, CodProvincia) VALUES (\"" + nombre + "\", " +
-                    std::to_string(provincia(provinciaNombre)) + ")");
+    insert(*parish, "Municipio",
+           "Nombre=" + nombre + "; CodProvincia=" + std::to_string(provincia(provinciaNombre)));
     return number("SELECT MAX(IDMunicipio) AS ID FROM Municipio");
   }
 

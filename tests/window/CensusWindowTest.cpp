@@ -1,4 +1,3 @@
-#include <QMenuBar>
 
 #include "printing/DocumentReport.h"
 #include "printing/ReportProgress.h"

@@ -1,10 +1,7 @@
 #pragma once
 
-#include <QApplication>
-#include <QMessageBox>
-#include <QPushButton>
-#include <QTest>
-#include <QTimer>
+#include <QtTest/QtTest>
+#include <QtWidgets/QtWidgets>
 #include <algorithm>
 #include <fstream>
 

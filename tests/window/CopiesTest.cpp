@@ -96,14 +96,7 @@ TEST_F(Copies, Made_AreWholeAndApart) {
 }
 
 TEST_F(Copies, ThatCannotBeMade_SayWhyAndLeaveNothing) {
-  const auto failure = [&] {
-    try {
-      make();
-    } catch (const store::Error& e) {
-      return e.kind();
-    }
-    return store::ErrorKind::Other;
-  };
+  const auto failure = [&] { return store::kindOf([&] { make(); }); };
   {
     const FullDisk full(20000);
     EXPECT_EQ(failure(), store::ErrorKind::DiskFull);

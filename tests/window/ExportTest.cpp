@@ -1,11 +1,5 @@
 // Lists saved for a spreadsheet.
 
-#include <QDir>
-#include <QFileDialog>
-#include <QHeaderView>
-#include <QLineEdit>
-#include <QTest>
-#include <QTimer>
 #include <QXmlStreamReader>
 #include <fstream>
 #include <map>

@@ -1,5 +1,3 @@
-#include <QPlainTextEdit>
-#include <QTableWidget>
 
 #include "dbase/LegacyTable.h"
 #include "window/CopiesFixture.h"

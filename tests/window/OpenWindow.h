@@ -1,7 +1,7 @@
 #pragma once
 
-#include <QAction>
-#include <QTableView>
+#include <QtTest/QtTest>
+#include <QtWidgets/QtWidgets>
 
 #include "parish/Parish.h"
 #include "window/MainWindow.h"

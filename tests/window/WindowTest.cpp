@@ -1,13 +1,3 @@
-#include <QLineEdit>
-#include <QMenuBar>
-#include <QMessageBox>
-#include <QPushButton>
-#include <QStatusBar>
-#include <QTest>
-#include <QTimer>
-#include <QToolButton>
-#include <QTreeView>
-#include <QWindow>
 #include <sstream>
 
 #include "showroom/Demo.h"
@@ -41,16 +31,6 @@ TEST_F(Window, AnotherNode_BringsItsRowsAndCommands) {
   EXPECT_FALSE(enabled("cerrar-libro"));
   window->showNode("Partidas");
   EXPECT_FALSE(visible("nueva-partida"));
-}
-
-TEST_F(Window, Filter_NarrowsAndTheCommandsFollowTheRow) {
-  const int all = shown();
-  window->filter().setText("zzzz");
-  EXPECT_EQ(shown(), 0);
-  EXPECT_FALSE(enabled("propiedades-partida"));
-  window->filter().clear();
-  EXPECT_EQ(shown(), all);
-  EXPECT_TRUE(enabled("propiedades-partida"));
 }
 
 TEST_F(Window, Annulling_AsksAndOneKeyLeadsThereAndBack) {

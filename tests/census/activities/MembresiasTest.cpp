@@ -85,22 +85,6 @@ TEST_F(Membresias, Added_ShowsAtOnceAndHoldsTheTableUntilTheLastIsGone) {
   EXPECT_EQ(count(TABLA), 2);
 }
 
-TEST_F(Membresias, OwnLocks_NeverStandInTheWay) {
-  abrir(ana, [&](FormDriver& u) {
-    elegir(u, AGREGAR, "Segundo", "Monitor");
-    u.row(REJILLA, 1);
-    for (const char* salida : {NO, SI}) {
-      contesta("frmColaboradorActividad", salida);
-      u.click(MODIFICAR);
-    }
-    u.click(QUITAR);
-    quitarFila(u, 1);
-    EXPECT_FALSE(isFree(TABLA)) << "the stored row is still to go";
-    u.click(ACEPTAR);
-  });
-  EXPECT_EQ(de(ana), "");
-}
-
 TEST_F(Membresias, SameGroupTwice_IsRefusedUnlessTheOtherIsToGo) {
   abrir(ana, [&](FormDriver& u) {
     conDialogo(u, AGREGAR, [&](FormDriver& a) {

@@ -1,7 +1,6 @@
 // Amounts: the keys of their field, as text, and from one currency to the other.
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <iterator>
 #include <sstream>

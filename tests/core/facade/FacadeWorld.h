@@ -64,7 +64,6 @@ struct WithFacade : World {
   using World::World;
   cNucleo nucleo{this->entorno};
 
-  std::string directorio() { return "en " + this->directory.path().string(); }
   /// Another workstation takes the record; it keeps it as long as the session lives.
   std::unique_ptr<FDAPI::cProcesarBloqueos> ocupar(const char* tabla, const char* registro = "") {
     return this->otherHolds(tabla, *registro ? std::stoi(registro) : 0);

@@ -54,37 +54,6 @@ TEST(FacadeLocks, Books_AreLockedAfterTheQuestionAndGivenBackUnlessRefused) {
   }
 }
 
-TEST(FacadeLocks, HeldByAnother_CanBeTriedAgainAndOpensAsItIsNow) {
-  FacadeWorld w;
-  auto otra = w.ocupar("Bautismo", "1");
-  w.user.answerAnything(Answer::Ok);
-  w.user.expectForm("frmPartidaBautismo", [&](FormDriver& u) {
-    EXPECT_EQ(u.text("lblSoloLectura"),
-              "Solo se puede consultar: lo tiene luis, en el equipo SACRISTIA, desde el 22/11/2026 "
-              "a las 10:30.");
-    u.tab("mstBautismo", 1);
-    EXPECT_TRUE(u.locked("txtBautismo(7)") && u.enabled("txtBautismo(7)"));
-    EXPECT_TRUE(u.locked("cboBautismo(22)"));
-    u.click("cmdReintentar");
-    EXPECT_FALSE(u.closed());
-    w.run("UPDATE bautismo_hijo SET Nombre='Rosario'");
-    otra.reset();
-    u.click("cmdReintentar");
-    EXPECT_TRUE(u.closed());
-  });
-  w.user.expectForm("frmPartidaBautismo", [&](FormDriver& u) {
-    EXPECT_EQ(u.text("txtBautismo(7)"), "Rosario");
-    EXPECT_EQ(u.form().find("cmdReintentar"), nullptr);
-    u.tab("mstBautismo", 1);
-    u.type("txtBautismo(7)", "Rosa");
-    u.click("cmdBautismo(0)");
-  });
-  w.nucleo.PropiedadesPartida(w.con(), 1, w.config, "PartidasBautismo");
-  EXPECT_EQ(w.user.messages().size(), 2u) << "once on opening, once on the try in vain";
-  EXPECT_EQ(w.value("SELECT Nombre FROM bautismo_hijo"), "Rosa");
-  w.esperarLibre();
-}
-
 TEST(FacadeLocks, UnknownNode_NoDialogNoLock) {
   SpyWorld w;
   for (const char* nodo : {"", "Partidas", "PartidasPadron", "LibrosBautismo", "Instituciones",

@@ -1,5 +1,4 @@
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <map>
 #include <set>
@@ -28,68 +27,56 @@ Lista posiciones(const std::string& texto) {
 }
 
 struct Caso {
+  int p;                             // entries to a folio
+  const char *ocupadas, *siguiente;  // "-": the position stands
   const char* que;
-  int p;
-  const char* ocupadas;
-  const char* siguiente;  // "-": the position stands
 };
 
-class Huecos : public ::testing::TestWithParam<Caso> {};
+const Caso CASOS[] = {
+    {1, "", "1/1", "empty list"},
+    {1, "1/1 2/2", "3/3", "behind the last"},
+    {1, "2/2 3/3", "1/1", "folio 1 is missing"},
+    {1, "1/1 2/2 4/4 6/6", "3/3", "hole in the middle"},
+    {1, "4/4 1/1 2/2", "3/3", "in any order"},
+    {1, "1/7 2/7a 4/9", "3/8", "number before the hole has a letter"},
+    {1, "1/7 2/7a", "3/8", "last number has a letter"},
+    {1, "1/7 2/7bis", "3/8", "last number has a word"},
+    {1, "3/1 4/2", "1/1", "starts at folio 3"},
+    {2, "1/1 1/2 2/3", "2/4", "room on the last folio"},
+    {2, "1/1 1/2 2/3 2/4", "3/5", "last folio full"},
+    {2, "1/1", "1/2", "one entry"},
+    {2, "1/2", "1/1", "one entry that is not number 1"},
+    {2, "1/2 2/3 2/4", "1/1", "room on folio 1"},
+    {2, "1/1 2/3 2/4", "1/2", "room on folio 1, number 1 taken"},
+    {2, "1/1 1/2 3/5 3/6", "2/3", "folio 2 is empty"},
+    {2, "1/1 1/2 2/4 3/5 3/6", "2/3", "room on folio 2, its first number is missing"},
+    {2, "1/1 1/2 2/3 3/5", "2/4", "room on folio 2"},
+    {4, "1/1 1/2 1/3 1/4 2/5 2/6 2/8", "2/7", "one break on the last folio"},
+    {4, "1/1 1/2 1/3 1/4 2/5 2/7 2/9", "2/8", "the highest break wins"},
+    {4, "1/1 1/2 1/3 1/4 2/6 2/7", "2/8", "the break before the last folio does not count"},
+    {4, "1/1 1/2 1/3 1/4", "2/5", "last folio full"},
+    {4, "1/1 1/2 1/4", "1/3", "fewer than a folio, with a break"},
+    {4, "1/2 1/4", "1/1", "fewer than a folio, without number 1"},
+    {4, "1/1 1/2 1/3 1/4 3/9 3/10 3/11 3/12", "2/5", "folios 1 and 3 filled"},
+    {4, "1/1 1/3 1/4 2/5 2/6 2/7 2/8", "1/2", "folio 1 has room: smallest missing number"},
+    {4, "1/1 1/2 1/3 1/4 2/5 2/6 2/8 3/9", "2/7", "folio 2 has room"},
+    {4, "1/1 1/2 1/3 1/4 2/5 2/6 3/9", "2/7", "folio 2 has room behind its numbers"},
+    {4, "1/12 1/12a 1/12b 1/13 2/14", "2/15", "letters count as their digits"},
+    {4, "1/10 1/9 1/8 1/7", "2/11", "numbers sort by value, not by text"},
+    {0, "1/1", "-", "no capacity"},
+    {3, "1/1", "-", "three per folio"},
+    {3, "", "1/1", "empty list all the same"},
+};
 
-TEST_P(Huecos, nextPosition) {
-  const Caso& c = GetParam();
-  const auto siguiente = siguienteEnLista(posiciones(c.ocupadas), c.p, Numeracion::Huecos);
-  if (std::string(c.siguiente) == "-")
-    EXPECT_EQ(siguiente, std::nullopt) << c.que;
-  else
-    EXPECT_EQ(siguiente, posiciones(c.siguiente).at(0)) << c.que;
+TEST(Huecos, nextPosition) {
+  for (const Caso& c : CASOS) {
+    const auto siguiente = siguienteEnLista(posiciones(c.ocupadas), c.p, Numeracion::Huecos);
+    if (std::string(c.siguiente) == "-")
+      EXPECT_EQ(siguiente, std::nullopt) << c.que;
+    else
+      EXPECT_EQ(siguiente, posiciones(c.siguiente).at(0)) << c.p << ": " << c.que;
+  }
 }
-
-INSTANTIATE_TEST_SUITE_P(UnaPorFolio, Huecos,
-                         ::testing::Values(Caso{"empty list", 1, "", "1/1"},
-                                           Caso{"behind the last", 1, "1/1 2/2", "3/3"},
-                                           Caso{"folio 1 is missing", 1, "2/2 3/3", "1/1"},
-                                           Caso{"hole in the middle", 1, "1/1 2/2 4/4 6/6", "3/3"},
-                                           Caso{"in any order", 1, "4/4 1/1 2/2", "3/3"},
-                                           Caso{"number before the hole has a letter", 1,
-                                                "1/7 2/7a 4/9", "3/8"},
-                                           Caso{"last number has a letter", 1, "1/7 2/7a", "3/8"},
-                                           Caso{"last number has a word", 1, "1/7 2/7bis", "3/8"},
-                                           Caso{"starts at folio 3", 1, "3/1 4/2", "1/1"}));
-
-INSTANTIATE_TEST_SUITE_P(DosPorFolio, Huecos,
-                         ::testing::Values(Caso{"room on the last folio", 2, "1/1 1/2 2/3", "2/4"},
-                                           Caso{"last folio full", 2, "1/1 1/2 2/3 2/4", "3/5"},
-                                           Caso{"one entry", 2, "1/1", "1/2"},
-                                           Caso{"one entry that is not number 1", 2, "1/2", "1/1"},
-                                           Caso{"room on folio 1", 2, "1/2 2/3 2/4", "1/1"},
-                                           Caso{"room on folio 1, number 1 taken", 2, "1/1 2/3 2/4",
-                                                "1/2"},
-                                           Caso{"folio 2 is empty", 2, "1/1 1/2 3/5 3/6", "2/3"},
-                                           Caso{"room on folio 2, its first number is missing", 2,
-                                                "1/1 1/2 2/4 3/5 3/6", "2/3"},
-                                           Caso{"room on folio 2", 2, "1/1 1/2 2/3 3/5", "2/4"}));
-
-INSTANTIATE_TEST_SUITE_P(
-    CuatroPorFolio, Huecos,
-    ::testing::Values(
-        Caso{"one break on the last folio", 4, "1/1 1/2 1/3 1/4 2/5 2/6 2/8", "2/7"},
-        Caso{"the highest break wins", 4, "1/1 1/2 1/3 1/4 2/5 2/7 2/9", "2/8"},
-        Caso{"the break before the last folio does not count", 4, "1/1 1/2 1/3 1/4 2/6 2/7", "2/8"},
-        Caso{"last folio full", 4, "1/1 1/2 1/3 1/4", "2/5"},
-        Caso{"fewer than a folio, with a break", 4, "1/1 1/2 1/4", "1/3"},
-        Caso{"fewer than a folio, without number 1", 4, "1/2 1/4", "1/1"},
-        Caso{"folios 1 and 3 filled", 4, "1/1 1/2 1/3 1/4 3/9 3/10 3/11 3/12", "2/5"},
-        Caso{"folio 1 has room: smallest missing number", 4, "1/1 1/3 1/4 2/5 2/6 2/7 2/8", "1/2"},
-        Caso{"folio 2 has room", 4, "1/1 1/2 1/3 1/4 2/5 2/6 2/8 3/9", "2/7"},
-        Caso{"folio 2 has room behind its numbers", 4, "1/1 1/2 1/3 1/4 2/5 2/6 3/9", "2/7"},
-        Caso{"letters count as their digits", 4, "1/12 1/12a 1/12b 1/13 2/14", "2/15"},
-        Caso{"numbers sort by value, not by text", 4, "1/10 1/9 1/8 1/7", "2/11"}));
-
-INSTANTIATE_TEST_SUITE_P(OtrasCapacidades, Huecos,
-                         ::testing::Values(Caso{"no capacity", 0, "1/1", "-"},
-                                           Caso{"three per folio", 3, "1/1", "-"},
-                                           Caso{"empty list all the same", 3, "", "1/1"}));
 
 TEST(Huecos, bookFilledByItsProposals_neverGivesAPositionTwiceNorLeavesOneOut) {
   for (const int p : {1, 2, 4}) {

@@ -297,11 +297,9 @@ TEST_P(BookEntries, ListThatCannotBeRead_IsNotShown) {
   for (const std::string& sentencia : {sql("SELECT * FROM {Libros} WHERE IdLibro"), r.childTable}) {
     faults->failOn(sentencia);
     w.user.answerAnything(Answer::Ok);
-    const auto dialog = r.openBook(w.contexto);
-    dialog->conBaseDatos = &w.con();
-    dialog->lngLibro = nuevo;
-    dialog->Show();
-    EXPECT_TRUE(dialog->isUnloaded());
+    const auto book = bookDialog(nuevo);
+    book->Show();
+    EXPECT_TRUE(book->isUnloaded());
   }
   EXPECT_EQ(w.user.messages().size(), 2u);
 }

@@ -43,6 +43,7 @@ TEST_P(BookData, Dialog_ShowsTheBookAndItsEntries) {
     for (int c = 0; c < g.columns(); ++c) cells.push_back(g.header(c) + "=" + g.cell(1, c));
     EXPECT_THAT(Rows(cells.begin() + 2, cells.end() - 1), ElementsAreArray(persons));
     EXPECT_EQ(cells[0] + cells[1] + cells.back(), "Folio=1Número=1Anulada=NO");
+    EXPECT_EQ(g.columnWidth(g.columns() - 2), marriage ? 1410 : 1200);
     d.tab("mstLibro", 1);
     EXPECT_EQ(d.focused(), "cmdPartidas(0)");
     d.tab("mstLibro", 0);
@@ -210,12 +211,10 @@ TEST_P(BookData, HeldByAnother_OnlyWhatIsFreeCanBeChanged) {
   fill(nuevo, {"Luis"});
   const auto open = [&](const auto& limit, Act act) {
     w.user.expectForm("frmPropiedadesLibro" + word(), std::move(act));
-    const auto dialog = r.openBook(w.contexto);
-    dialog->conBaseDatos = &w.con();
-    dialog->lngLibro = nuevo;
-    dialog->Load();
-    limit(*dialog);
-    dialog->Show();
+    const auto book = bookDialog(nuevo);
+    book->Load();
+    limit(*book);
+    book->Show();
   };
   open([](frmPropiedadesLibro& d) { d.sinNombre(); },
        [&](FormDriver& d) {

@@ -100,18 +100,6 @@ TEST_F(Death, Corrected_AsksOnlyForBlankTexts) {
   EXPECT_EQ(stored("Causa") + stored("EstadoCivil"), "Pulmonía---");
 }
 
-TEST_F(Death, FirstEntryOfAnOldBook_TakesItsDateBack) {
-  book("Libro 1", false, 3, "19500101");
-  w.user.answerAnything(Answer::Yes);
-  openAndCancel(cCOperacion::ANTIGUA, [&](FormDriver& d) {
-    chooseBook(d, "Libro 1");
-    typePerson(d, "Ana");
-    d.type("adtpDefuncion(1)", "01/01/1890");
-    accept(d);
-  });
-  EXPECT_EQ(w.value("SELECT FechaCreacion FROM Libro_Defuncion"), "18900101");
-}
-
 TEST_F(Death, TypedFolioAboveTheLimit_IsRefusedUnlessItStoodThere) {
   w.contexto.guardarAjuste("documentos", "DOCUMENTOS_MAXPAGLIBRO", "5");
   const std::int32_t id = entry("Ana", book("Libro 1", false), 1, "1");

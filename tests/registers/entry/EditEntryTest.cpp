@@ -59,15 +59,11 @@ TEST_P(EditedEntry, FailingUpdate_KeepsTheDialogOpen) {
 TEST_P(EditedEntry, FailingLoad_ShowsNothingThatCouldBeAccepted) {
   store::FailingEngine::wrap(w.con())->failOn("SELECT * FROM " + std::string(k.lastRow));
   w.user.answerAnything(Answer::Ok);
-  const auto dialog = dialogoDePartida(&k.s)(w.contexto);
-  dialog->conBaseDatos = &w.con();
-  dialog->lngID = id;
-  dialog->Operacion = cCOperacion::EDITAR;
-  dialog->Origen = cCOrigen::PRINCIPAL;
-  dialog->Show();
-  EXPECT_TRUE(dialog->isUnloaded());
+  const auto shown = dialogFor(cCOperacion::EDITAR, id);
+  shown->Show();
+  EXPECT_TRUE(shown->isUnloaded());
   ASSERT_FALSE(w.user.messages().empty());
-  EXPECT_THAT(w.user.messages()[0].text, HasSubstr("frmPartida" + word() + " / Form_Load"));
+  EXPECT_THAT(w.user.messages()[0].text, HasSubstr(dialog() + " / Form_Load"));
 }
 
 TEST_P(EditedEntry, RowOfItGone_MayBeReadButNotChanged) {

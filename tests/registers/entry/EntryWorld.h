@@ -38,17 +38,21 @@ class EntryHands : public ::testing::Test {
     return insertEntry(w, k.s, {who, inBook, folio, number, 0, {}});
   }
 
-  /// Shows the dialog as the tree does; `act` works on it.
-  void open(cCOperacion operation, Act act, std::int32_t id = 0) {
-    w.user.expectForm("frmPartida" + word(), std::move(act));
-    const auto dialog = dialogoDePartida(&k.s)(w.contexto);
-    dialog->conBaseDatos = &w.con();
-    dialog->lngID = id;
-    dialog->Operacion = operation;
+  /// The dialog as the tree opens it.
+  auto dialogFor(cCOperacion operation, std::int32_t id = 0) {
+    auto made = dialogoDePartida(&k.s)(w.contexto);
+    made->conBaseDatos = &w.con();
+    made->lngID = id;
+    made->Operacion = operation;
     const bool request =
         operation == cCOperacion::ANADIRSOLICITUD || operation == cCOperacion::EDITARSOLICITUD;
-    if (!request) dialog->Origen = cCOrigen::PRINCIPAL;
-    dialog->Show();
+    if (!request) made->Origen = cCOrigen::PRINCIPAL;
+    return made;
+  }
+  /// Shows it; `act` works on it.
+  void open(cCOperacion operation, Act act, std::int32_t id = 0) {
+    w.user.expectForm(dialog(), std::move(act));
+    dialogFor(operation, id)->Show();
   }
 
   void edit(std::int32_t id, Act act) { open(cCOperacion::EDITAR, std::move(act), id); }

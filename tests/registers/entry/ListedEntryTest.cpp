@@ -12,7 +12,7 @@ class ListedEntry : public EntryWorld {
     openBook->conBaseDatos = &w.con();
     openBook->lngLibro = libro;
     w.user.expectForm("frmPropiedadesLibro" + word(), [&](FormDriver& d) {
-      w.user.expectForm("frmPartida" + word(), act);
+      w.user.expectForm(dialog(), act);
       d.tab("mstLibro", frmPropiedadesLibro::TAB_PARTIDAS);
       d.click("cmdPartidas(0)");
       d.click("cmdBoton(0)");
