@@ -10,7 +10,7 @@ void linea(std::string& texto, const char* que, std::int64_t cuantos) {
   texto += std::string("  ") + que + ": " + std::to_string(cuantos) + "\n";
 }
 
-void describir(const RegistroImportado& r, bool ensayo, std::string& texto) {
+void contar(const RegistroImportado& r, bool ensayo, std::string& texto) {
   texto += r.titulo + " (tabla " + r.tabla + ")\n";
   linea(texto, ensayo ? "Libros que se harán" : "Libros hechos", r.libros);
   linea(texto, "Partidas de la tabla", r.enTabla);
@@ -23,6 +23,11 @@ void describir(const RegistroImportado& r, bool ensayo, std::string& texto) {
   linea(texto, "Valores cortados", r.cortados);
   linea(texto, "Nombres que no se han podido separar del todo", r.sinSeparar);
   if (!r.fallo.empty()) texto += "  No se ha podido seguir: " + r.fallo + "\n";
+}
+
+void detallar(const RegistroImportado& r, std::string& texto) {
+  if (r.incidencias.empty()) return;
+  texto += "\n" + r.titulo + ": lo que conviene mirar\n";
   for (const bool rechazada : {true, false})
     for (const IncidenciaInpar& i : r.incidencias) {
       if (i.rechazada != rechazada) continue;
@@ -54,18 +59,22 @@ bool ResultadoImportacion::completa() const {
 std::string ResultadoImportacion::texto() const {
   std::string todo = ensayo ? "ENSAYO DE LA IMPORTACIÓN: no se ha escrito nada.\n"
                             : "IMPORTACIÓN DEL PROGRAMA ANTERIOR\n";
-  if (cancelada) todo += "Se ha cancelado: solo están los libros que ya se habían terminado.\n";
-  for (const RegistroImportado& r : registros) {
-    todo += "\n";
-    describir(r, ensayo, todo);
-  }
+  if (cancelada)
+    todo += ensayo ? "Se ha cancelado: lo que sigue es solo lo que se había mirado.\n"
+                   : "Se ha cancelado: solo están los libros que ya se habían terminado.\n";
   const bool cortes = std::any_of(registros.begin(), registros.end(),
                                   [](const RegistroImportado& r) { return r.cortados > 0; });
-  if (!completa())
-    return todo +
-           "\nATENCIÓN: no están todas las partidas de las tablas. Mire lo que se dice arriba.\n";
-  return todo + "\nEstán todas las partidas de las tablas" +
-         (cortes ? ", y arriba se dice qué valores se han cortado.\n" : ".\n");
+  todo += !completa()
+              ? "ATENCIÓN: no están todas las partidas de las tablas. Mire lo que se dice abajo"
+          : ensayo ? "Se escribirán todas las partidas de las tablas"
+                   : "Están todas las partidas de las tablas";
+  todo += completa() && cortes ? ", y abajo se dice qué valores se cortan.\n" : ".\n";
+  for (const RegistroImportado& r : registros) {
+    todo += "\n";
+    contar(r, ensayo, todo);
+  }
+  for (const RegistroImportado& r : registros) detallar(r, todo);
+  return todo;
 }
 
 }  // namespace fidaleon

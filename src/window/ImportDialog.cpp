@@ -87,6 +87,8 @@ class Progress : public FDAPI::cProgreso {
     dialog_.setAutoReset(false);
     dialog_.setAutoClose(false);
     dialog_.setMinimumDuration(500);
+    // A key that was meant for what stood there before does not stop it.
+    dialog_.findChild<QPushButton*>()->setAutoDefault(false);
     dialog_.setMinimumWidth(dialog_.fontMetrics().averageCharWidth() * 50);
   }
   void Cargar(std::int64_t count, const std::string& what, int, int) override {
@@ -194,7 +196,7 @@ void ImportDialog::addLine(std::size_t which, QGridLayout& grid) {
   // Long lines show whole when the list is open.
   for (QComboBox* list : {line.format, line.town}) {
     list->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    list->setMinimumContentsLength(18);
+    list->setMinimumContentsLength(list == line.format ? 18 : 12);
   }
   fillFormats(*line.format);
   fillTowns(*line.town);
