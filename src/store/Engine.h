@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "store/Literal.h"
+#include "store/Progress.h"
 #include "store/RowStore.h"
 
 namespace fidaleon::store {
@@ -55,7 +56,7 @@ class Engine {
 
   virtual const Spelling& spelling() const = 0;
   /// A consistent copy into a new file, which is closed again.
-  virtual void backup(const std::filesystem::path& to) = 0;
+  virtual void backup(const std::filesystem::path& to, const Progress& progress) = 0;
 };
 
 }  // namespace fidaleon::store

@@ -18,6 +18,7 @@ enum class ErrorKind {
   Missing,      // the file does not exist
   NewerSchema,  // written by a newer version of the program
   Connection,   // the file or the server cannot be reached
+  Cancelled,    // the user has given it up
   Misuse,       // a record set used after Close or beyond its ends
   Other,
 };

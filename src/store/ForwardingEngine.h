@@ -42,7 +42,9 @@ class ForwardingEngine : public Engine {
   void rollback(int depth) override { inner_->rollback(depth); }
   bool inTransaction() const override { return inner_->inTransaction(); }
   const Spelling& spelling() const override { return inner_->spelling(); }
-  void backup(const std::filesystem::path& to) override { inner_->backup(to); }
+  void backup(const std::filesystem::path& to, const Progress& progress) override {
+    inner_->backup(to, progress);
+  }
 
  private:
   std::unique_ptr<Engine> inner_;

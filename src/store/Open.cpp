@@ -83,10 +83,9 @@ void requireClosed(const fs::path& file) {
 }
 
 void requireCopied(const fs::path& file, const Schema& schema,
-                   const std::vector<std::int64_t>& counts, bool wholly) {
+                   const std::vector<std::int64_t>& counts) {
   SqliteEngine copy(file, SqliteEngine::Access::Existing);
   Installer(copy, schema).version();
-  if (wholly) copy.requireSound();
   if (rowCounts(copy, schema) != counts)
     throw Error(ErrorKind::NotADatabase, "La copia no tiene lo mismo que el original.");
 }
@@ -163,7 +162,7 @@ void takeUpLog(const fs::path& file) {
       .run("PRAGMA journal_mode = DELETE; PRAGMA journal_mode = WAL;");
 }
 
-void backupDatabase(Connection& from, const fs::path& to) {
+void backupDatabase(Connection& from, const fs::path& to, Check check, const Progress& progress) {
   std::error_code ignored;
   if (fs::equivalent(to, from.Properties("DATA SOURCE").Value, ignored))
     throw Error(ErrorKind::Constraint,
@@ -175,18 +174,21 @@ void backupDatabase(Connection& from, const fs::path& to) {
   {
     const Snapshot snapshot(engine);
     counts = rowCounts(engine, from.schema());
-    engine.backup(draft.path());
+    engine.backup(draft.path(), partOf(progress, 0, 500));
   }
   try {
-    requireCopied(draft.path(), from.schema(), counts, true);
+    requireCopied(draft.path(), from.schema(), counts);
+    SqliteEngine(draft.path(), SqliteEngine::Access::Existing)
+        .requireSound(check == Check::Quick, partOf(progress, 500, 1000));
   } catch (const Error& error) {
     if (error.kind() != ErrorKind::NotADatabase) throw;
     throw Error(ErrorKind::NotADatabase, "La copia que se acaba de hacer en «" + to.string() +
                                              "» no se puede leer bien, y no se ha guardado.");
   }
+  if (progress && !progress(1000)) throw Error(ErrorKind::Cancelled, "Se ha cancelado.");
   requireClosed(to);  // somebody may have come meanwhile
   draft.accept();
-  requireCopied(to, from.schema(), counts, false);
+  requireCopied(to, from.schema(), counts);
 }
 
 }  // namespace fidaleon::store

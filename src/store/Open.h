@@ -7,6 +7,7 @@
 
 #include "store/Connection.h"
 #include "store/Error.h"
+#include "store/Progress.h"
 
 namespace fidaleon::store {
 
@@ -39,9 +40,14 @@ std::unique_ptr<Connection> memoryDatabase(const Schema& schema,
 /// An unnamed database for this program alone, on the disk as far as the memory does not hold it.
 /// It is gone with its connection, also when the program is killed.
 std::unique_ptr<Connection> passingDatabase(const Schema& schema);
+enum class Check {
+  Whole,  // also what indexes say against what tables say, which takes three times as long
+  Quick,
+};
 /// A consistent copy of an open database through the engine's own backup call, verified by
 /// reopening it, before it takes the place of an older one and again under its name. Throws Busy
 /// when a program has that older one open.
-void backupDatabase(Connection& from, const std::filesystem::path& to);
+void backupDatabase(Connection& from, const std::filesystem::path& to, Check check = Check::Whole,
+                    const Progress& progress = {});
 
 }  // namespace fidaleon::store

@@ -7,6 +7,7 @@
 #include <system_error>
 #include <vector>
 
+#include "files/Compressed.h"
 #include "files/Durable.h"
 #include "files/PrivateFile.h"
 #include "store/Companions.h"
@@ -36,7 +37,7 @@ void requireCopy(const fs::path& copy, const fs::path& database) {
 }
 
 /// The library's own way to copy a file does not tell a full disk from others.
-void read(const fs::path& copy, const fs::path& draft) {
+void copyPlain(const fs::path& copy, const fs::path& draft) {
   const files::Descriptor in(::open(copy.c_str(), O_RDONLY | O_CLOEXEC));
   if (in.number() < 0) fail("No se puede leer", copy, errno);
   const files::Descriptor out(::open(draft.c_str(), O_WRONLY | O_NOFOLLOW | O_CLOEXEC));
@@ -55,15 +56,34 @@ void read(const fs::path& copy, const fs::path& draft) {
   }
 }
 
+void read(const fs::path& copy, const fs::path& draft) {
+  try {
+    if (files::isCompressed(copy))
+      files::expand(copy, draft);
+    else
+      copyPlain(copy, draft);
+  } catch (const fs::filesystem_error& e) {
+    throw fileFault("No se puede copiar", e.path1(), e.code());
+  } catch (const files::NotCompressed& e) {
+    throw Error(ErrorKind::NotADatabase, e.what());
+  }
+}
+
+void requireWanted(const Progress& progress, int done) {
+  if (progress && !progress(done)) throw Error(ErrorKind::Cancelled, "Se ha cancelado.");
+}
+
 }  // namespace
 
-Restore::Restore(const fs::path& copy, const fs::path& database, const Schema& schema)
+Restore::Restore(const fs::path& copy, const fs::path& database, const Schema& schema,
+                 const Progress& progress)
     : database_(database), schema_(schema), draft_(database, ".vuelta") {
   requireCopy(copy, database);
   read(copy, draft_.path());
+  requireWanted(progress, 200);
   SqliteEngine engine(draft_.path(), SqliteEngine::Access::Existing);
   Installer(engine, schema_).upgrade();
-  engine.requireSound();
+  engine.requireSound(false, partOf(progress, 200, 1000));
   engine.run("PRAGMA journal_mode = DELETE;");
   counts_ = rowCounts(engine, schema_);
 }
@@ -81,20 +101,20 @@ bool Restore::isReplaced(const std::vector<std::int64_t>& before) const {
   return counts_ != before && rowCounts(now, schema_) == counts_;
 }
 
-void Restore::replace() {
+void Restore::replace(const Progress& progress) {
   SqliteEngine database(database_, SqliteEngine::Access::Existing);
   SqliteEngine copy(draft_.path(), SqliteEngine::Access::Existing);
   const std::vector<std::int64_t> before = rowCounts(database, schema_);
   try {
-    database.copyFrom(copy);
+    database.copyFrom(copy, progress);
   } catch (const Error& e) {
-    if (isReplaced(before)) throw Unconfirmed(e);
+    if (e.kind() != ErrorKind::Cancelled && isReplaced(before)) throw Unconfirmed(e);
     throw;
   }
 }
 
-void Restore::run() {
-  replace();
+void Restore::run(const Progress& progress) {
+  replace(progress);
   SqliteEngine database(database_, SqliteEngine::Access::Existing);
   requireContent(database);
 }
@@ -108,8 +128,9 @@ fs::path Restore::takePlace() {
   return aside;
 }
 
+// The copy was looked through as a whole; here it is seen whether all its pages came.
 void Restore::requireContent(SqliteEngine& database) {
-  database.requireSound();
+  database.requireSound(true);
   if (rowCounts(database, schema_) != counts_)
     throw Error(ErrorKind::NotADatabase, "Lo que ha quedado en «" + database_.string() +
                                              "» no es lo que había en la copia.");

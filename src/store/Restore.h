@@ -6,6 +6,7 @@
 
 #include "store/Draft.h"
 #include "store/Error.h"
+#include "store/Progress.h"
 #include "store/schema/Schema.h"
 
 namespace fidaleon::store {
@@ -17,21 +18,22 @@ class Unconfirmed : public Error {
 };
 class SqliteEngine;
 
-/// A saved copy of a database made ready to be returned to: read into a passing file beside the
-/// database, brought up to the version of the schema, and checked. The copy itself is only read.
+/// A saved copy of a database, compressed or not, made ready to be returned to: read into a passing
+/// file beside the database, brought up to the version of the schema, and checked. The copy itself
+/// is only read.
 class Restore {
  public:
   /// Throws Missing, NotADatabase when the copy is damaged or of another kind, NewerSchema, Busy
   /// when it is no copy but a database that a program has open, DiskFull; nothing has changed then.
   Restore(const std::filesystem::path& copy, const std::filesystem::path& database,
-          const Schema& schema);
+          const Schema& schema, const Progress& progress = {});
 
   /// Replaces all that the database holds, in one transaction of its file: whoever is killed, at
   /// whatever moment, leaves either the old content or the new one, and open connections see the
   /// new one from their next statement on. Throws Busy while somebody writes or, on a network
   /// disk, reads; DiskFull; nothing has changed then. What was stored is read back and checked.
   /// Throws Unconfirmed when the failure came after everything was replaced.
-  void run();
+  void run(const Progress& progress = {});
 
   /// For a database that can be opened no more, or is gone: the copy takes its name. What bore the
   /// name, and what lay beside it, is put aside: gives the name it has now, empty when there was
@@ -39,7 +41,7 @@ class Restore {
   std::filesystem::path takePlace();
 
  private:
-  void replace();
+  void replace(const Progress& progress);
   bool isReplaced(const std::vector<std::int64_t>& before) const;
   void requireContent(SqliteEngine& database);
 

@@ -38,7 +38,7 @@ SoundnessCheck::Finding SoundnessCheck::look(const std::filesystem::path& databa
       engine_ = &engine;
     }
     try {
-      engine.requireSound(true);
+      engine.requireSound();
       finding = Finding::Sound;
     } catch (const Error& error) {
       if (error.kind() == ErrorKind::NotADatabase) finding = Finding::Damaged;

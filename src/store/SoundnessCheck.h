@@ -12,8 +12,8 @@ class SqliteEngine;
 /// Reads the whole of a database. False also when it cannot be told.
 bool isDamaged(const std::filesystem::path& database);
 
-/// Looks for damage beside the work of the program, on a connection of its own: reads all, but does
-/// not compare indexes with tables.
+/// Looks for damage beside the work of the program, on a connection of its own: reads all, and
+/// compares what indexes say with what tables say.
 class SoundnessCheck {
  public:
   enum class Finding { Sound, Damaged, Unknown };

@@ -11,6 +11,7 @@
 #include <QTableWidget>
 #include <QVBoxLayout>
 
+#include "parish/copies/CopyRetention.h"
 #include "qt/Appearance.h"
 
 namespace fidaleon::app {
@@ -25,6 +26,19 @@ Moment fromQt(const QDateTime& t) {
           t.time().hour(),
           t.time().minute(),
           t.time().second()};
+}
+
+QString room(std::uintmax_t bytes) {
+  return QLocale().formattedDataSize(static_cast<qint64>(bytes), 1,
+                                     QLocale::DataSizeTraditionalFormat);
+}
+
+/// Those that the program keeps.
+std::uintmax_t bytesOf(const std::vector<SafetyCopy>& copies) {
+  std::uintmax_t bytes = 0;
+  for (const SafetyCopy& copy : copies)
+    if (!copy.byHand()) bytes += copy.bytes;
+  return bytes;
 }
 
 }  // namespace
@@ -49,7 +63,12 @@ CopiesDialog::CopiesDialog(std::vector<SafetyCopy> copies, const std::filesystem
                "cada orden que elimina algo.\nCon «Otra copia…» puede elegir una que haya guardado "
                "en otro sitio.")
           : tr("El programa guarda una copia antes de cada orden que elimina algo. Elija aquella "
-               "a la que quiere volver: la parroquia quedará como estaba entonces."),
+               "a la que quiere volver: la parroquia quedará como estaba entonces.\n\n"
+               "Se conservan las %1 últimas, y de las anteriores una por semana durante un año, "
+               "mientras no ocupen más de %2 en total. Ahora ocupan %3.")
+                .arg(COPIES_KEPT)
+                .arg(room(BYTES_KEPT))
+                .arg(room(bytesOf(copies_))),
       this);
   intro->setWordWrap(true);
   layout->addWidget(intro);
@@ -83,13 +102,12 @@ void CopiesDialog::fillTable() {
   table_->verticalHeader()->hide();
   for (int row = 0; row < table_->rowCount(); ++row) {
     const SafetyCopy& copy = copies_[static_cast<std::size_t>(row)];
-    auto* size = new QTableWidgetItem(QLocale().formattedDataSize(
-        static_cast<qint64>(copy.bytes), 1, QLocale::DataSizeTraditionalFormat));
-    size->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    auto* bytes = new QTableWidgetItem(room(copy.bytes));
+    bytes->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
     table_->setItem(row, 0,
                     new QTableWidgetItem(toQt(copy.moment).toString("dd/MM/yyyy   HH:mm:ss")));
     table_->setItem(row, 1, new QTableWidgetItem(reasonFor(copy)));
-    table_->setItem(row, 2, size);
+    table_->setItem(row, 2, bytes);
     for (int column = 0; column < 3; ++column)
       table_->item(row, column)->setToolTip(QString::fromStdString(copy.file.string()));
   }
@@ -110,7 +128,7 @@ void CopiesDialog::chooseRow() {
 void CopiesDialog::chooseFile() {
   const QString file = QFileDialog::getOpenFileName(
       this, tr("Elegir una copia"), QString::fromStdString(directory_.string()),
-      tr("Copias (*.copia *.fidaleon);;Todos los archivos (*)"));
+      tr("Copias (*.copia *.fidaleon *.zst);;Todos los archivos (*)"));
   if (file.isEmpty()) return;
   const QFileInfo facts(file);
   SafetyCopy copy;

@@ -5,6 +5,7 @@
 #include "store/Error.h"
 #include "store/Open.h"
 #include "store/SoundnessCheck.h"
+#include "window/Beside.h"
 #include "window/CarefulQuestion.h"
 #include "window/CopiesDialog.h"
 
@@ -43,7 +44,7 @@ bool CopyReturn::run() {
 
 bool CopyReturn::to(const SafetyCopy& copy) {
   if (!isAlone()) return false;
-  std::optional<store::Restore> restore = prepared(copy);
+  const std::unique_ptr<store::Restore> restore = prepared(copy);
   return restore && confirmed(copy) && replace(copy, *restore);
 }
 
@@ -66,14 +67,21 @@ void CopyReturn::refuse(const std::vector<locks::Holder>& there) const {
        forms::MsgIcon::Exclamation);
 }
 
-std::optional<store::Restore> CopyReturn::prepared(const SafetyCopy& copy) const {
+std::unique_ptr<store::Restore> CopyReturn::prepared(const SafetyCopy& copy) const {
   try {
     const forms::Hourglass hourglass(ui_);
-    return std::optional<store::Restore>(std::in_place, copy.file, files_.parish(),
-                                         store::parishSchema());
+    std::unique_ptr<store::Restore> restore;
+    runBeside(over_, QObject::tr("Leyendo y comprobando la copia…"), MayCancel::Yes,
+              [&](const store::Progress& progress) {
+                restore = std::make_unique<store::Restore>(SafetyCopies::present(copy.file),
+                                                           files_.parish(), store::parishSchema(),
+                                                           progress);
+              });
+    return restore;
   } catch (const store::Error& e) {
+    if (e.kind() == store::ErrorKind::Cancelled) return nullptr;
     tell(whyUnusable(copy, e) + "\n\nLa parroquia no ha cambiado.", forms::MsgIcon::Critical);
-    return std::nullopt;
+    return nullptr;
   }
 }
 
@@ -134,19 +142,27 @@ std::vector<locks::Holder> CopyReturn::attempt(store::Restore& restore, bool kee
                                                std::string& whyNotKept) {
   const forms::Hourglass hourglass(ui_);
   return presence_.alone("está volviendo a una copia de la parroquia", [&] {
-    if (parish_ == nullptr) {
-      aside_ = restore.takePlace();
-      return;
-    }
-    try {
-      if (keepPresent) copies_.make(*parish_, BEFORE, thisMoment());
-    } catch (const store::Error& e) {
-      metDamage_ = store::isDamaged(files_.parish());
-      whyNotKept = e.what();
-      return;
-    }
-    restore.run();
+    runBeside(over_, QObject::tr("Volviendo a la copia…"), MayCancel::No,
+              [&](const store::Progress& progress) {
+                if (parish_ == nullptr)
+                  aside_ = restore.takePlace();
+                else if (!keepPresent || keptPresent(whyNotKept, store::partOf(progress, 0, 600)))
+                  restore.run(store::partOf(progress, 600, 1000));
+              });
   });
+}
+
+// From its own connection: that of the window is in use by another thread.
+bool CopyReturn::keptPresent(std::string& whyNotKept, const store::Progress& progress) {
+  try {
+    copies_.make(*store::openDatabase(files_.parish(), store::parishSchema()), BEFORE, thisMoment(),
+                 progress);
+    return true;
+  } catch (const store::Error& e) {
+    metDamage_ = store::isDamaged(files_.parish());
+    whyNotKept = e.what();
+    return false;
+  }
 }
 
 void CopyReturn::tell(const std::string& text, forms::MsgIcon icon) const {

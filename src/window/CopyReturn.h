@@ -1,6 +1,6 @@
 #pragma once
 
-#include <optional>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -38,11 +38,12 @@ class CopyReturn {
 
  private:
   bool isAlone() const;
-  std::optional<store::Restore> prepared(const SafetyCopy& copy) const;
+  std::unique_ptr<store::Restore> prepared(const SafetyCopy& copy) const;
   bool confirmed(const SafetyCopy& copy) const;
   bool replace(const SafetyCopy& copy, store::Restore& restore);
   std::vector<locks::Holder> attempt(store::Restore& restore, bool keepPresent,
                                      std::string& whyNotKept);
+  bool keptPresent(std::string& whyNotKept, const store::Progress& progress);
   void refuse(const std::vector<locks::Holder>& there) const;
   void tell(const std::string& text, forms::MsgIcon icon) const;
 

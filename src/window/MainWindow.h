@@ -6,6 +6,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <thread>
 #include <vector>
 
 #include "catalogue/Command.h"
@@ -113,6 +114,7 @@ class MainWindow : public QMainWindow, private Workplace {
   /// Makes the copy that goes before the command. False when there can be none and the user would
   /// rather not go on.
   bool protect(const Command& command, const Choice& chosen, std::unique_ptr<Precaution>& copy);
+  void compressCopies();
   /// Whether the parish is still under its name; the user has been told otherwise.
   bool isInPlace();
   bool isDamaged() const;
@@ -139,6 +141,7 @@ class MainWindow : public QMainWindow, private Workplace {
   ParishDoor door_;
   Departure departure_;
   SafetyCopies copies_;
+  std::jthread compressing_;  // of copies that are not the newest
   store::RemovalWatch removals_;
   DailyCheck daily_;
   std::optional<files::Identity> identity_;  // of the parish that is open

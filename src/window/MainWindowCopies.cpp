@@ -16,6 +16,7 @@
 #include "store/SoundnessCheck.h"
 #include "store/sqlite/NetworkDisk.h"
 #include "text/Utf8.h"
+#include "window/Beside.h"
 #include "window/CarefulQuestion.h"
 #include "window/CopyReturn.h"
 #include "window/ImportDialog.h"
@@ -55,22 +56,41 @@ void MainWindow::carryOut(const Command& command, const Choice& chosen) {
     if (!settled) settled = protect(command, chosen, copy);
     if (!settled)
       throw store::Error(store::ErrorKind::Other,
-                         "No se ha eliminado nada, porque no se ha podido guardar antes una copia "
-                         "de la parroquia.");
+                         "No se ha eliminado nada, porque no se ha guardado antes una copia de la "
+                         "parroquia.");
   });
   const bool ofARow = command.needs != Needs::Nothing && command.needs != Needs::List;
   const FormWatch::During during(
       watch_, {command.id, chosen.node ? chosen.node->node.Nombre : "", ofARow ? chosen.id : 0});
   command.run(*this, chosen);
+  const bool kept = copy != nullptr;
+  copy.reset();
+  if (kept) compressCopies();
+}
+
+// What others keep them from being today is done after the next command.
+void MainWindow::compressCopies() {
+  if (compressing_.joinable()) compressing_.join();
+  compressing_ = std::jthread([copies = copies_](const std::stop_token& ending) {
+    copies.compressOlder([&] { return !ending.stop_requested(); });
+  });
 }
 
 bool MainWindow::protect(const Command& command, const Choice& chosen,
                          std::unique_ptr<Precaution>& copy) {
   try {
     const forms::Hourglass hourglass(desk_.entorno().ui);
-    copy = std::make_unique<Precaution>(copies_, parish(), nameFor(command, chosen), thisMoment());
+    const Precaution::Runner beside = [&](const auto& work) {
+      QWidget* const dialog = QApplication::activeModalWidget();
+      runBeside(dialog ? dialog : this,
+                tr("Guardando antes una copia de la parroquia, por si hubiera que deshacerlo…"),
+                MayCancel::Yes, work);
+    };
+    copy = std::make_unique<Precaution>(copies_, parish(), nameFor(command, chosen), thisMoment(),
+                                        beside);
     return true;
   } catch (const store::Error& e) {
+    if (e.kind() == store::ErrorKind::Cancelled) return false;
     metDamage_ = e.kind() == store::ErrorKind::NotADatabase && isDamaged();
     if (metDamage_) return false;  // told when the command has ended
     QWidget* const dialog = QApplication::activeModalWidget();
@@ -88,9 +108,17 @@ void MainWindow::backUp() {
   dialog.selectFile("parroquia-" + QDate::currentDate().toString("yyyyMMdd") + ".copia");
   if (dialog.exec() != QDialog::Accepted) return;
   const QString file = dialog.selectedFiles().value(0);
-  {
+  try {
     const forms::Hourglass hourglass(desk_.entorno().ui);
-    store::backupDatabase(parish(), file.toStdString());
+    const std::filesystem::path source = desk_.files().parish();
+    runBeside(this, tr("Guardando y comprobando la copia…"), MayCancel::Yes,
+              [&](const store::Progress& progress) {
+                store::backupDatabase(*store::openDatabase(source, store::parishSchema()),
+                                      file.toStdString(), store::Check::Whole, progress);
+              });
+  } catch (const store::Error& e) {
+    if (e.kind() == store::ErrorKind::Cancelled) return;
+    throw;
   }
   write(BACKUP_FOLDER, QFileInfo(file).absolutePath().toStdString());
   QMessageBox::information(this, tr("Copia de seguridad"),
@@ -98,6 +126,7 @@ void MainWindow::backUp() {
 }
 
 void MainWindow::returnToCopy() {
+  compressing_ = {};  // what the user chooses from stays as it is
   CopyReturn back(desk_.entorno().ui, desk_.files(), &parish(), copies_, desk_.presence(), this);
   const bool returned = back.run();
   metDamage_ = back.metDamage();

@@ -43,13 +43,13 @@ TEST(CopyName, OtherFilesAreNone) {
 }
 
 /// One day for each offset, in days before Wednesday, 20 May 2026.
-std::vector<text::Date> daysBefore(const std::vector<int>& offsets) {
-  std::vector<text::Date> days;
+std::vector<CopyFacts> daysBefore(const std::vector<int>& offsets, std::uintmax_t bytes = 1) {
+  std::vector<CopyFacts> copies;
   for (const int offset : offsets) {
     const QDate day = QDate(2026, 5, 20).addDays(-offset);
-    days.push_back({day.year(), day.month(), day.day()});
+    copies.push_back({{day.year(), day.month(), day.day()}, bytes});
   }
-  return days;
+  return copies;
 }
 
 std::vector<int> weekly(int weeks) {
@@ -81,6 +81,9 @@ TEST(CopyRetention, KeepsThirtyThenOneAWeekForFiftyTwoWeeks) {
   }
   EXPECT_THAT(superfluous({}), IsEmpty());
   EXPECT_THAT(superfluous(daysBefore({900, 901})), IsEmpty()) << "the newest stay";
+  EXPECT_THAT(superfluous(daysBefore({0, 1, 2, 3, 4, 5, 6}, BYTES_KEPT / 6)), ElementsAre(6));
+  EXPECT_THAT(superfluous(daysBefore({0, 1, 2, 3, 4, 5}, BYTES_KEPT)), ElementsAre(5))
+      << "five stay, whatever room they take";
 }
 
 TEST_F(Copies, Made_AreWholeAndApart) {
@@ -101,6 +104,8 @@ TEST_F(Copies, ThatCannotBeMade_SayWhyAndLeaveNothing) {
     const FullDisk full(20000);
     EXPECT_EQ(failure(), store::ErrorKind::DiskFull);
   }
+  EXPECT_THROW(copies.make(desk->parish(), "Eliminar", NOON, [](int) { return false; }),
+               store::Error);
   EXPECT_THAT(namesIn(folder()), IsEmpty());
   fs::remove_all(folder());
   std::ofstream(folder()) << "a file in the place of the folder";
@@ -112,8 +117,8 @@ class BadCopier : public store::FailingEngine {
  public:
   using FailingEngine::FailingEngine;
   std::function<void(const fs::path&)> damage;
-  void backup(const fs::path& to) override {
-    FailingEngine::backup(to);
+  void backup(const fs::path& to, const store::Progress& progress) override {
+    FailingEngine::backup(to, progress);
     damage(to);
   }
 };
@@ -154,6 +159,23 @@ TEST_F(Copies, Listed_AreTheWholeOnesNewestFirst) {
   for (const SafetyCopy& copy : copies.list()) before.push_back(copy.before);
   EXPECT_THAT(before, ElementsAre("", "Tres", "Dos", "Una")) << "written by hand just now";
   EXPECT_THAT(SafetyCopies("/no/hay").list(), IsEmpty());
+}
+
+TEST_F(Copies, Older_AreCompressedAndRemainTheSameCopy) {
+  for (int i = 0; i < 4; ++i) make();
+  place("a mano.copia");
+  copies.compressOlder([] { return false; });
+  EXPECT_THAT(namesIn(folder()), ::testing::Each(::testing::Not(::testing::EndsWith(".zst"))))
+      << "no longer wanted";
+  // Of a program that was killed.
+  place("2020-05-20 12.00.00 Eliminar.fidaleon.zst", "\x28\xB5\x2F\xFD");
+  copies.compressOlder([] { return true; });
+  EXPECT_THAT(namesIn(folder()), ::testing::UnorderedElementsAre(
+                                     "2020-05-20 12.00.00 Eliminar.fidaleon.zst",
+                                     "2020-05-20 12.00.00-2 Eliminar.fidaleon.zst",
+                                     "2020-05-20 12.00.00-3 Eliminar.fidaleon",
+                                     "2020-05-20 12.00.00-4 Eliminar.fidaleon", "a mano.copia"));
+  EXPECT_EQ(make().filename(), "2020-05-20 12.00.00-5 Eliminar.fidaleon");
 }
 
 TEST_F(Copies, Pruned_OnlyOursGo) {

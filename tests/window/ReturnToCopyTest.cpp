@@ -2,6 +2,7 @@
 
 #include <fstream>
 
+#include "files/Compressed.h"
 #include "parish/SimulatedDisk.h"
 #include "store/Engine.h"
 #include "store/FailingEngine.h"
@@ -60,6 +61,9 @@ TEST_F(Returning, BringsBackTheContentAndKeepsWhatWasThere) {
   const auto all = copies.list();
   ASSERT_EQ(all.size(), 2U);
   EXPECT_EQ(all[0].before, "Antes de volver a una copia");
+  for (const char* later : {"Una", "Otra"}) make(later, thisMoment());
+  copies.compressOlder([] { return true; });
+  EXPECT_FALSE(fs::exists(all[0].file)) << "it is compressed since the list was shown";
   answerNext("&Volver a la copia");
   EXPECT_TRUE(returnTo(all[0].file));
   EXPECT_EQ(rowsOf("SELECT * FROM Cargo WHERE Nombre='Organista'"), 1);
@@ -117,6 +121,13 @@ TEST_F(Returning, ToWhatIsNoSoundCopy_IsRefusedAndChangesNothing) {
       [](const fs::path& f) {
         std::fstream(f, std::ios::in | std::ios::out | std::ios::binary).seekp(4096 * 20)
             << std::string(4096 * 3, 'Z');
+      },
+      "está estropeada");
+  damaged(
+      "cortada.zst",
+      [this](const fs::path& f) {
+        files::compress(copy, f);
+        fs::resize_file(f, fs::file_size(f) / 2);
       },
       "está estropeada");
   damaged(

@@ -50,6 +50,7 @@ std::string CopyName::file() const {
 }
 
 std::optional<CopyName> CopyName::parse(std::string_view file) {
+  if (file.ends_with(COMPRESSED)) file.remove_suffix(std::string_view(COMPRESSED).size());
   if (!matches(file) || !file.ends_with(ENDING)) return std::nullopt;
   CopyName name;
   name.moment = {{number(file, 0, 4), number(file, 5, 2), number(file, 8, 2)},

@@ -17,10 +17,11 @@ struct CopyName {
 
   /// The file name; what cannot stand in one is left out of the command.
   std::string file() const;
-  /// Nothing unless it is the name of an automatic copy.
+  /// Nothing unless it is the name of an automatic copy, compressed or not.
   static std::optional<CopyName> parse(std::string_view file);
 
   static constexpr const char* ENDING = ".fidaleon";
+  static constexpr const char* COMPRESSED = ".zst";  // behind the ending
 };
 
 }  // namespace fidaleon::app

@@ -14,12 +14,19 @@ std::chrono::sys_days mondayOf(const text::Date& d) {
 
 }  // namespace
 
-std::vector<std::size_t> superfluous(const std::vector<text::Date>& days) {
+std::vector<std::size_t> superfluous(const std::vector<CopyFacts>& copies) {
   int weeks = 0;
+  std::uintmax_t bytes = 0;
   std::vector<std::size_t> places;
-  for (std::size_t i = COPIES_KEPT; i < days.size(); ++i) {
-    const bool newestOfItsWeek = mondayOf(days[i - 1]) != mondayOf(days[i]);
-    if (!newestOfItsWeek || ++weeks > WEEKS_KEPT) places.push_back(i);
+  for (std::size_t i = 0; i < copies.size(); ++i) {
+    const bool recent = i < COPIES_KEPT;
+    const bool ofItsWeek = !recent && mondayOf(copies[i - 1].day) != mondayOf(copies[i].day);
+    const bool timely = recent || (ofItsWeek && ++weeks <= WEEKS_KEPT);
+    const bool fits = i < COPIES_OF_ANY_SIZE || bytes + copies[i].bytes <= BYTES_KEPT;
+    if (timely && fits)
+      bytes += copies[i].bytes;
+    else
+      places.push_back(i);
   }
   return places;
 }

@@ -3,17 +3,15 @@
 #include "store/Open.h"
 
 namespace fidaleon::app {
-namespace {
-
-std::unique_ptr<store::Connection> stored(const store::Connection& parish) {
-  return store::openDatabase(parish.Properties("DATA SOURCE").Value, parish.schema());
-}
-
-}  // namespace
 
 Precaution::Precaution(const SafetyCopies& copies, store::Connection& parish,
-                       const std::string& before, const Moment& now)
-    : copies_(copies), now_(now), file_(copies.make(*stored(parish), before, now)) {
+                       const std::string& before, const Moment& now, const Runner& run)
+    : copies_(copies), now_(now) {
+  const std::filesystem::path file = parish.Properties("DATA SOURCE").Value;
+  const store::Schema& schema = parish.schema();
+  run([&](const store::Progress& progress) {
+    file_ = copies.make(*store::openDatabase(file, schema), before, now, progress);
+  });
   try {
     watch_.emplace(parish);
   } catch (const store::Error&) {

@@ -9,6 +9,7 @@
 #include "files/Durable.h"
 #include "files/PrivateFile.h"
 #include "parish/copies/CopyRetention.h"
+#include "store/Draft.h"
 #include "store/FileFault.h"
 #include "store/Open.h"
 
@@ -20,6 +21,11 @@ namespace {
 
 constexpr const char* BY_HAND = ".copia";
 constexpr const char* UNFINISHED = ".parte";
+constexpr std::size_t PLAIN_KEPT = 2;  // those that are most likely to be returned to
+
+fs::path withEnding(fs::path file, const char* ending) {
+  return file += ending;
+}
 
 [[noreturn]] void refuse(const fs::path& where, const std::error_code& why) {
   throw store::fileFault("No se puede escribir en", where, why);
@@ -79,8 +85,8 @@ fs::path SafetyCopies::reserve(CopyName name) const {
   }
 }
 
-fs::path SafetyCopies::make(store::Connection& parish, const std::string& before,
-                            const Moment& now) const {
+fs::path SafetyCopies::make(store::Connection& parish, const std::string& before, const Moment& now,
+                            const store::Progress& progress) const {
   try {
     files::makeFolders(directory_);
   } catch (const std::system_error& e) {
@@ -88,7 +94,7 @@ fs::path SafetyCopies::make(store::Connection& parish, const std::string& before
   }
   const fs::path file = reserve({now, 1, before});
   try {
-    store::backupDatabase(parish, file);
+    store::backupDatabase(parish, file, store::Check::Quick, progress);
   } catch (...) {
     remove(file);
     throw;
@@ -109,9 +115,9 @@ std::vector<SafetyCopy> SafetyCopies::list() const {
 void SafetyCopies::prune(const Moment& now) const {
   std::vector<SafetyCopy> ours = list();
   std::erase_if(ours, [&](const SafetyCopy& copy) { return copy.byHand() || copy.moment > now; });
-  std::vector<text::Date> days;
-  for (const SafetyCopy& copy : ours) days.push_back(copy.moment.day);
-  for (const std::size_t place : superfluous(days)) remove(ours[place].file);
+  std::vector<CopyFacts> facts;
+  for (const SafetyCopy& copy : ours) facts.push_back({copy.moment.day, copy.bytes});
+  for (const std::size_t place : superfluous(facts)) remove(ours[place].file);
   removeRests(now.day);
 }
 
@@ -127,6 +133,32 @@ void SafetyCopies::removeRests(const text::Date& today) const {
     if (said && said->moment.day < today && (unfinished || empty)) rests.push_back(entry.path());
   });
   for (const fs::path& rest : rests) remove(rest);
+}
+
+void SafetyCopies::compressOlder(const files::GoesOn& goesOn) const noexcept {
+  try {
+    std::vector<SafetyCopy> ours = list();
+    std::erase_if(ours, [](const SafetyCopy& copy) { return copy.byHand(); });
+    for (std::size_t i = PLAIN_KEPT; i < ours.size() && goesOn(); ++i)
+      if (ours[i].file.extension() == CopyName::ENDING) compress(ours[i].file, goesOn);
+  } catch (const std::exception&) {
+    // They are no worse for it.
+  }
+}
+
+// A program that was killed may have left the compressed file beside the larger one, whole or not.
+void SafetyCopies::compress(const fs::path& copy, const files::GoesOn& goesOn) const {
+  const fs::path compressed = withEnding(copy, CopyName::COMPRESSED);
+  store::Draft draft(compressed, UNFINISHED);
+  if (!files::compress(copy, draft.path(), goesOn)) return;
+  if (!files::holdsTheSame(draft.path(), copy, goesOn)) return;
+  draft.accept();
+  files::removeForGood(copy);
+}
+
+fs::path SafetyCopies::present(const fs::path& copy) {
+  const fs::path compressed = withEnding(copy, CopyName::COMPRESSED);
+  return !files::isThere(copy) && files::isThere(compressed) ? compressed : copy;
 }
 
 void SafetyCopies::remove(const fs::path& copy) noexcept {

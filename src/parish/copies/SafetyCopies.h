@@ -5,8 +5,10 @@
 #include <string>
 #include <vector>
 
+#include "files/Compressed.h"
 #include "parish/copies/CopyName.h"
 #include "store/Connection.h"
+#include "store/Progress.h"
 
 namespace fidaleon::app {
 
@@ -23,7 +25,7 @@ struct SafetyCopy {
 
 /// The folder "copias" beside a parish: the copies that the program makes by itself before it takes
 /// something away, and those that users have put there by hand (*.copia). Only the former are ever
-/// removed; any other file is left alone.
+/// removed or compressed; any other file is left alone.
 class SafetyCopies {
  public:
   explicit SafetyCopies(const std::filesystem::path& parishDirectory)
@@ -34,7 +36,13 @@ class SafetyCopies {
   /// A verified copy under a name of its own, flushed to the disk. Throws store::Error that says
   /// why there is none; nothing is left behind then.
   std::filesystem::path make(store::Connection& parish, const std::string& before,
-                             const Moment& now) const;
+                             const Moment& now, const store::Progress& progress = {}) const;
+  /// Gives the automatic copies less room, all but the newest, one after the other; each is
+  /// compared before the larger file goes. Ends early when `goesOn` says so. Never throws: what
+  /// cannot be compressed stays as it is.
+  void compressOlder(const files::GoesOn& goesOn) const noexcept;
+  /// Where a copy is now that a list showed: it may have been compressed meanwhile.
+  static std::filesystem::path present(const std::filesystem::path& copy);
   /// Those that are whole, newest first. A folder that is missing or cannot be read has none.
   std::vector<SafetyCopy> list() const;
   /// Removes what need not be kept any longer, and what was left half made on an earlier day. What
@@ -46,6 +54,7 @@ class SafetyCopies {
 
  private:
   std::filesystem::path reserve(CopyName name) const;
+  void compress(const std::filesystem::path& copy, const files::GoesOn& goesOn) const;
   void removeRests(const text::Date& today) const;
 
   std::filesystem::path directory_;

@@ -1,5 +1,7 @@
 #include "store/sqlite/SqliteEngine.h"
 
+#include <algorithm>
+
 #include "store/sqlite/NetworkDisk.h"
 #include "store/sqlite/NetworkVfs.h"
 #include "store/sqlite/SqliteErrors.h"
@@ -11,10 +13,33 @@ namespace fidaleon::store {
 namespace {
 
 constexpr int kBusyMilliseconds = 4000;
+constexpr int kPagesAtOnce = 512;
+constexpr int kStepsUnasked = 100000;  // of the engine, a few milliseconds
 
 std::string savepoint(int depth) {
   return "parte" + std::to_string(depth);
 }
+
+/// Asks now and then, while a statement runs, whether it is still wanted.
+class Heed {
+ public:
+  Heed(sqlite3* db, const Progress& progress) : db_(progress ? db : nullptr), progress_(progress) {
+    if (db_ == nullptr) return;
+    const auto unwanted = [](void* self) {
+      return static_cast<const Heed*>(self)->progress_(0) ? 0 : 1;
+    };
+    sqlite3_progress_handler(db_, kStepsUnasked, unwanted, this);
+  }
+  ~Heed() {
+    if (db_ != nullptr) sqlite3_progress_handler(db_, 0, nullptr, nullptr);
+  }
+  Heed(const Heed&) = delete;
+  Heed& operator=(const Heed&) = delete;
+
+ private:
+  sqlite3* db_;
+  const Progress& progress_;
+};
 
 /// A file may come from anywhere: what it would have done when it is read or written is not done.
 void distrust(sqlite3* db) {
@@ -108,25 +133,33 @@ bool SqliteEngine::inTransaction() const {
   return sqlite3_get_autocommit(db_) == 0;
 }
 
-void SqliteEngine::requireSound(bool quickly) {
+void SqliteEngine::requireSound(bool quickly, const Progress& progress) {
+  const Heed heed(db_, progress);
   SqliteStatement statement(db_, quickly ? "PRAGMA quick_check" : "PRAGMA integrity_check");
   RowStore rows(1);
   while (statement.step()) statement.read(rows);
   if (rows.rows() != 1 || rows.at(0, 0).text() != "ok") throw sqliteError(SQLITE_CORRUPT, nullptr);
 }
 
-void SqliteEngine::copyFrom(SqliteEngine& from) {
+void SqliteEngine::copyFrom(SqliteEngine& from, const Progress& progress) {
   sqlite3_backup* copy = sqlite3_backup_init(db_, "main", from.db_, "main");
   if (copy == nullptr) throw sqliteError(sqlite3_errcode(db_), db_);
-  const int stepped = sqlite3_backup_step(copy, -1);
-  const int finished = sqlite3_backup_finish(copy);
+  int stepped = SQLITE_OK;
+  while (stepped == SQLITE_OK) {
+    stepped = sqlite3_backup_step(copy, progress ? kPagesAtOnce : -1);
+    const auto all = std::max(sqlite3_backup_pagecount(copy), 1);
+    const auto done = 1000LL * (all - sqlite3_backup_remaining(copy)) / all;
+    if (stepped == SQLITE_OK && progress && !progress(static_cast<int>(done)))
+      stepped = SQLITE_INTERRUPT;
+  }
+  const int finished = sqlite3_backup_finish(copy);  // takes back what is not whole
   if (stepped != SQLITE_DONE && stepped != SQLITE_OK) throw sqliteError(stepped, db_);
   check(finished, db_);
 }
 
-void SqliteEngine::backup(const std::filesystem::path& to) {
+void SqliteEngine::backup(const std::filesystem::path& to, const Progress& progress) {
   SqliteEngine copy(to, Access::Create);
-  copy.copyFrom(*this);
+  copy.copyFrom(*this, progress);
   copy.run("PRAGMA journal_mode = DELETE;");
 }
 

@@ -29,14 +29,14 @@ class SqliteEngine : public Engine {
   void rollback(int depth) override;
   bool inTransaction() const override;
   const Spelling& spelling() const override { return spelling_; }
-  void backup(const std::filesystem::path& to) override;
+  void backup(const std::filesystem::path& to, const Progress& progress) override;
 
   /// Replaces what this database holds by what `from` holds.
-  void copyFrom(SqliteEngine& from);
+  void copyFrom(SqliteEngine& from, const Progress& progress = {});
   /// Reads the whole file; throws NotADatabase when it is damaged. Quickly: without comparing what
-  /// indexes and tables say.
-  void requireSound(bool quickly = false);
-  /// From another thread: what it is doing throws Other.
+  /// indexes and tables say. How far it is, is not known: `progress` is told 0 again and again.
+  void requireSound(bool quickly = false, const Progress& progress = {});
+  /// From another thread: what it is doing throws Cancelled.
   void interrupt() { sqlite3_interrupt(db_); }
   /// Needs the file for itself: throws Busy when anybody else has it open with its log.
   void leaveWriteAheadLog();

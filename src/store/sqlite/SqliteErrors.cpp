@@ -45,6 +45,8 @@ Meaning meaningOf(int code, int systemError) {
       return {ErrorKind::Connection,
               "No se puede leer o escribir el archivo de la base de datos. Compruebe el disco o la "
               "red."};
+    case SQLITE_INTERRUPT:
+      return {ErrorKind::Cancelled, "Se ha cancelado."};
     case SQLITE_ERROR:
       return {ErrorKind::Syntax, "La base de datos no entiende la instrucción."};
     default:
