@@ -1,8 +1,12 @@
 // rooms: registers store sqlite
-// Rows in and out through the connection, beside the same done by hand against the library.
+// Rows in and out through the connection, beside the same done by hand against the library: on
+// files, with slim records that are made anew, one call a cell, and the text of each statement
+// written on both sides.
 
 #include <sqlite3.h>
 
+#include <array>
+#include <cstring>
 #include <stdexcept>
 #include <vector>
 
@@ -22,195 +26,202 @@ void must(bool ok) {
   if (!ok) throw std::runtime_error("the hand-written side failed");
 }
 
-/// An empty database of our schema, opened by hand as well: the limit pays for the same indexes,
-/// checks and collations.
-class ByHand : public store::SqliteEngine {
- public:
-  explicit ByHand(store::Connection& original) : SqliteEngine(Unnamed::Memory) {
-    copyFrom(dynamic_cast<store::SqliteEngine&>(original.engine()));
-  }
-  sqlite3_stmt* prepared(const char* sql) {
-    sqlite3_stmt* statement = nullptr;
-    must(sqlite3_prepare_v2(handle(), sql, -1, &statement, nullptr) == SQLITE_OK);
-    return statement;
-  }
+/// A row of baptisms as somebody would hold it who needs nothing else: its nine numbers, its texts.
+constexpr std::array<const char*, 29> kColumns = {"IDBautismo",
+                                                  "CodPadres",
+                                                  "CodMadres",
+                                                  "CodMatrimonio",
+                                                  "InstitucionSolicitud",
+                                                  "FechaBautismo",
+                                                  "Padrino",
+                                                  "Madrina",
+                                                  "Ministro",
+                                                  "Parroquia",
+                                                  "CodMunicipio",
+                                                  "Diocesis",
+                                                  "NotasMarginales",
+                                                  "Observaciones",
+                                                  "CodLibro",
+                                                  "Folio",
+                                                  "Numero",
+                                                  "Anulada",
+                                                  "EdadPadrino",
+                                                  "EdadMadrina",
+                                                  "ParroquiaDomicilioPadrino",
+                                                  "ParroquiaDomicilioMadrina",
+                                                  "ProfesionPadrino",
+                                                  "NaturalPadrino",
+                                                  "EstatPadrino",
+                                                  "ProfesionMadrina",
+                                                  "NaturalMadrina",
+                                                  "EstatMadrina",
+                                                  "MinistroCargo"};
+
+constexpr bool isNumber(std::size_t column) {
+  return column < 5 || column == 10 || column == 14 || column == 15 || column == 17;
+}
+
+struct Slim {
+  std::array<std::int64_t, 9> numbers;
+  std::array<std::string, 20> texts;
+  friend bool operator==(const Slim&, const Slim&) = default;
 };
 
-void insertOurs(store::Connection& connection, const std::vector<std::string>& statements) {
+/// Hands each column of `row` to `number` or `text` in turn.
+template <class Row, class Number, class Text>
+void eachCell(Row& row, const Number& number, const Text& text) {
+  std::size_t numbers = 0, texts = 0;
+  for (std::size_t c = 0; c < kColumns.size(); ++c) {
+    if (isNumber(c))
+      number(c, row.numbers[numbers++]);
+    else
+      text(c, row.texts[texts++]);
+  }
+}
+
+class Folder {
+ public:
+  Folder() {
+    std::string name = std::filesystem::temp_directory_path() / "filasXXXXXX";
+    must(mkdtemp(name.data()) != nullptr);
+    path_ = name;
+  }
+  ~Folder() { std::filesystem::remove_all(path_); }
+  Folder(const Folder&) = delete;
+  Folder& operator=(const Folder&) = delete;
+  std::filesystem::path operator/(const char* name) const { return path_ / name; }
+
+ private:
+  std::filesystem::path path_;
+};
+
+/// A file of our schema and with our settings, so that the limit pays for the same indexes, checks,
+/// collations and syncs; all else is the bare library.
+class ByHand : public store::SqliteEngine {
+ public:
+  explicit ByHand(const std::filesystem::path& file) : SqliteEngine(file, Access::Existing) {}
+  ~ByHand() override { sqlite3_finalize(statement_); }
+  sqlite3_stmt* prepared(const char* sql) {
+    sqlite3_finalize(statement_);
+    must(sqlite3_prepare_v2(handle(), sql, -1, &statement_, nullptr) == SQLITE_OK);
+    return statement_;
+  }
+
+ private:
+  sqlite3_stmt* statement_ = nullptr;
+};
+
+Slim slimOf(const cBautismo& b) {
+  return {{0, b.CodPadres, b.CodMadres, b.CodMatrimonio, b.CodInstitucionBautismo,
+           b.CodPoblacionBautismo, b.CodLibroBautismo, std::stoi(b.FolioBautismo), 0},
+          {b.FechaBautismo,
+           b.PadrinoBautismo,
+           b.MadrinaBautismo,
+           b.MinistroBautismo,
+           b.ParroquiaBautismo,
+           b.DiocesisBautismo,
+           b.NotasMarginalesBautismo,
+           b.ObservacionesBautismo,
+           b.NumeroBautismo,
+           b.EdadPadrino,
+           b.EdadMadrina,
+           b.ParroquiaDomicilioPadrino,
+           b.ParroquiaDomicilioMadrina,
+           b.ProfesionPadrino,
+           b.NaturalPadrino,
+           b.EstatPadrino,
+           b.ProfesionMadrina,
+           b.NaturalMadrina,
+           b.EstatMadrina,
+           b.MinistroCargo}};
+}
+
+std::vector<cBautismo> entries() {
+  std::vector<cBautismo> all;
+  for (int n = 1; n <= kRows; ++n)
+    all.push_back(bench::baptism(n, 1 + n % 5, 1 + n / 50, std::to_string(1 + n / 5)));
+  return all;
+}
+
+void insertOurs(store::Connection& connection, const std::vector<cBautismo>& rows) {
   connection.BeginTrans();
-  for (const std::string& sql : statements) connection.Execute(sql);
+  for (const cBautismo& row : rows) connection.Execute(sqlInsertar(TABLA_BAUTISMO, row));
   connection.CommitTrans();
 }
 
-constexpr const char* kInsert =
-    "INSERT INTO Bautismo (CodPadres, CodMadres, CodMatrimonio, InstitucionSolicitud, "
-    "FechaBautismo, Padrino, Madrina, Ministro, Parroquia, CodMunicipio, Diocesis, "
-    "NotasMarginales, Observaciones, CodLibro, Folio, Numero, Anulada, EdadPadrino, EdadMadrina, "
-    "ParroquiaDomicilioPadrino, ParroquiaDomicilioMadrina, ProfesionPadrino, NaturalPadrino, "
-    "EstatPadrino, ProfesionMadrina, NaturalMadrina, EstatMadrina, MinistroCargo) VALUES "
-    "(?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?)";
-
-/// Column positions, from 1, that hold numbers.
-bool isNumber(int column) {
-  return column <= 4 || column == 10 || column == 14 || column == 15 || column == 17;
-}
-
-std::vector<std::string> valuesOf(int n) {
-  const std::string id = std::to_string(n);
-  return {id,
-          id,
-          id,
-          "0",
-          "20030504",
-          "Antonio " + bench::pick(n, 1) + " Romero",
-          "Dolores " + bench::pick(n, 2) + " Gil",
-          "D. Manuel Ortega Prieto",
-          "San Pedro Apóstol",
-          "1",
-          "Alcalá de Henares",
-          "Contrajo matrimonio en la parroquia de Santa María el 4 de mayo de 2001",
-          "---",
-          std::to_string(1 + n % 5),
-          std::to_string(1 + n / 50),
-          std::to_string(1 + n / 5),
-          "0",
-          "34",
-          "31",
-          "San Pedro",
-          "Santa María",
-          "carpintero",
-          "Alcalá",
-          "casado",
-          "modista",
-          "Alcalá",
-          "casada",
-          "Párroco"};
-}
-
-void insertByHand(ByHand& db, const std::vector<std::vector<std::string>>& rows,
-                  const std::vector<std::vector<int>>& numbers) {
-  db.run("BEGIN IMMEDIATE");
-  sqlite3_stmt* statement = db.prepared(kInsert);
-  for (std::size_t i = 0; i < rows.size(); ++i) {
-    for (int c = 1; c <= 28; ++c) {
-      const std::string& text = rows[i][static_cast<std::size_t>(c - 1)];
-      if (isNumber(c)) {
-        sqlite3_bind_int(statement, c, numbers[i][static_cast<std::size_t>(c - 1)]);
-      } else {
-        sqlite3_bind_text(statement, c, text.data(), static_cast<int>(text.size()), SQLITE_STATIC);
-      }
-    }
-    must(sqlite3_step(statement) == SQLITE_DONE);
-    sqlite3_reset(statement);
+std::string insertion() {
+  std::string names, values;
+  for (std::size_t c = 1; c < kColumns.size(); ++c) {
+    names += std::string(c > 1 ? "," : "") + kColumns[c];
+    values += c > 1 ? ",?" : "?";
   }
-  sqlite3_finalize(statement);
+  return "INSERT INTO Bautismo (" + names + ") VALUES (" + values + ")";
+}
+
+void insertOne(sqlite3_stmt* statement, const Slim& row) {
+  eachCell(
+      row,
+      [&](std::size_t c, std::int64_t n) {
+        if (c > 0) sqlite3_bind_int64(statement, static_cast<int>(c), n);
+      },
+      [&](std::size_t c, const std::string& s) {
+        sqlite3_bind_text(statement, static_cast<int>(c), s.data(), static_cast<int>(s.size()),
+                          SQLITE_STATIC);
+      });
+  must(sqlite3_step(statement) == SQLITE_DONE);
+  sqlite3_reset(statement);
+}
+
+void insertByHand(ByHand& db, const std::vector<Slim>& rows) {
+  sqlite3_stmt* statement = db.prepared(insertion().c_str());
+  db.run("BEGIN IMMEDIATE");
+  for (const Slim& row : rows) insertOne(statement, row);
   db.run("COMMIT");
 }
 
-void measureInsert() {
-  std::vector<std::string> statements;
-  std::vector<std::vector<std::string>> rows;
-  std::vector<std::vector<int>> numbers;
-  for (int n = 1; n <= kRows; ++n) {
-    rows.push_back(valuesOf(n));
-    std::vector<int> parsed(28);
-    for (int c = 1; c <= 28; ++c) {
-      if (isNumber(c))
-        parsed[static_cast<std::size_t>(c - 1)] =
-            std::stoi(rows.back()[static_cast<std::size_t>(c - 1)]);
-    }
-    numbers.push_back(parsed);
-    statements.push_back(
-        bench::entryStatement(n, 1 + n % 5, 1 + n / 50, std::to_string(1 + n / 5)));
-  }
+void measureInsert(const std::vector<cBautismo>& rows, const std::vector<Slim>& slim) {
   bench::Pair best;
   for (int run = 0; run < kRuns; ++run) {
-    const auto connection = store::memoryDatabase(store::parishSchema());
-    ByHand db(*connection);
-    best.limit =
-        std::min(best.limit, bench::milliseconds(1, [&] { insertByHand(db, rows, numbers); }));
-    best.ours =
-        std::min(best.ours, bench::milliseconds(1, [&] { insertOurs(*connection, statements); }));
+    const Folder folder;
+    const auto connection = store::createDatabase(folder / "a.fidaleon", store::parishSchema());
+    store::createDatabase(folder / "b.fidaleon", store::parishSchema());
+    ByHand db(folder / "b.fidaleon");
+    best.limit = std::min(best.limit, bench::milliseconds(1, [&] { insertByHand(db, slim); }));
+    best.ours = std::min(best.ours, bench::milliseconds(1, [&] { insertOurs(*connection, rows); }));
   }
-  bench::ratio("insertar 100.000 bautismos (fila de 28 columnas)", best, 1.35);
+  bench::ratio("insertar 100.000 bautismos con su sentencia (28 columnas)", best, 1.3);
 }
 
-long readByHand(ByHand& db) {
-  long sum = 0;
+std::vector<Slim> readByHand(ByHand& db) {
+  std::vector<Slim> rows;
   sqlite3_stmt* statement = db.prepared("SELECT * FROM Bautismo ORDER BY IDBautismo");
-  std::vector<std::string> texts(29);
-  std::vector<long> integers(29);
-  while (sqlite3_step(statement) == SQLITE_ROW) {
-    for (int c = 0; c < 29; ++c) {
-      const auto i = static_cast<std::size_t>(c);
-      if (sqlite3_column_type(statement, c) == SQLITE_INTEGER) {
-        integers[i] = sqlite3_column_int64(statement, c);
-        sum += integers[i];
-      } else {
-        texts[i].assign(reinterpret_cast<const char*>(sqlite3_column_text(statement, c)),
-                        static_cast<std::size_t>(sqlite3_column_bytes(statement, c)));
-        sum += static_cast<long>(texts[i].size());
-      }
-    }
-  }
-  sqlite3_finalize(statement);
-  return sum;
+  while (sqlite3_step(statement) == SQLITE_ROW)
+    eachCell(
+        rows.emplace_back(),
+        [&](std::size_t c, std::int64_t& n) {
+          n = sqlite3_column_int64(statement, static_cast<int>(c));
+        },
+        [&](std::size_t c, std::string& s) {
+          s = reinterpret_cast<const char*>(sqlite3_column_text(statement, static_cast<int>(c)));
+        });
+  return rows;
 }
 
-long readOurs(store::Connection& connection) {
-  static constexpr const char* names[] = {"IDBautismo",
-                                          "CodPadres",
-                                          "CodMadres",
-                                          "CodMatrimonio",
-                                          "InstitucionSolicitud",
-                                          "FechaBautismo",
-                                          "Padrino",
-                                          "Madrina",
-                                          "Ministro",
-                                          "Parroquia",
-                                          "CodMunicipio",
-                                          "Diocesis",
-                                          "NotasMarginales",
-                                          "Observaciones",
-                                          "CodLibro",
-                                          "Folio",
-                                          "Numero",
-                                          "Anulada",
-                                          "EdadPadrino",
-                                          "EdadMadrina",
-                                          "ParroquiaDomicilioPadrino",
-                                          "ParroquiaDomicilioMadrina",
-                                          "ProfesionPadrino",
-                                          "NaturalPadrino",
-                                          "EstatPadrino",
-                                          "ProfesionMadrina",
-                                          "NaturalMadrina",
-                                          "EstatMadrina",
-                                          "MinistroCargo"};
-  long sum = 0;
-  auto set = connection.Execute("SELECT * FROM Bautismo ORDER BY IDBautismo");
-  std::vector<std::string> texts(29);
-  for (; !set.EOF_(); set.MoveNext()) {
-    for (int c = 0; c < 29; ++c) {
-      if (c < 5 || c == 10 || c == 14 || c == 15 || c == 17) {
-        sum += set.integer(names[c]);
-      } else {
-        texts[static_cast<std::size_t>(c)] = set.text(names[c]);
-        sum += static_cast<long>(texts[static_cast<std::size_t>(c)].size());
-      }
-    }
-  }
-  return sum;
+std::vector<Slim> readOurs(store::Connection& connection) {
+  std::vector<Slim> rows;
+  for (auto set = connection.Execute("SELECT * FROM Bautismo ORDER BY IDBautismo"); !set.EOF_();
+       set.MoveNext())
+    eachCell(
+        rows.emplace_back(), [&](std::size_t c, std::int64_t& n) { n = set.integer(kColumns[c]); },
+        [&](std::size_t c, std::string& s) { s = set.text(kColumns[c]); });
+  return rows;
 }
 
-void measureRead() {
-  const auto connection = store::memoryDatabase(store::parishSchema());
-  connection->BeginTrans();
-  for (int n = 1; n <= kRows; ++n) {
-    connection->Execute(bench::entryStatement(n, 1 + n % 5, 1 + n / 50, std::to_string(1 + n / 5)));
-  }
-  connection->CommitTrans();
-  ByHand db(*connection);
+void measureRead(const std::vector<cBautismo>& entries) {
+  const Folder folder;
+  const auto connection = store::createDatabase(folder / "a.fidaleon", store::parishSchema());
+  insertOurs(*connection, entries);
+  ByHand db(folder / "a.fidaleon");
   must(readOurs(*connection) == readByHand(db));
   const bench::Pair pair = bench::inTurn(
       kRuns, [&] { readOurs(*connection); }, [&] { readByHand(db); });
@@ -220,6 +231,9 @@ void measureRead() {
 }  // namespace
 
 int main() {
-  measureInsert();
-  measureRead();
+  const std::vector<cBautismo> rows = entries();
+  std::vector<Slim> slim;
+  for (const cBautismo& row : rows) slim.push_back(slimOf(row));
+  measureInsert(rows, slim);
+  measureRead(rows);
 }

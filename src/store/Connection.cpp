@@ -32,7 +32,8 @@ struct Connection::Impl {
     plans.clear();
   }
 
-  std::shared_ptr<Plan> planFor(std::string_view shape);
+  /// Takes the literals out of the statement and finds what is known of the rest.
+  std::shared_ptr<Plan> planFor(std::string_view sql);
   void bind(const Plan& plan, Statement& statement);
   Recordset query(const std::shared_ptr<Plan>& plan);
   void change(Plan& plan);
@@ -53,10 +54,15 @@ struct Connection::Impl {
   int depth = 0;
 };
 
-std::shared_ptr<Plan> Connection::Impl::planFor(std::string_view shape) {
-  if (auto plan = plans.find(shape)) return plan;
+std::shared_ptr<Plan> Connection::Impl::planFor(std::string_view sql) {
+  if (auto plan =
+          plans.recent([&](const Plan& p) { return p.proven() && lifter.liftAs(sql, p.shape()); }))
+    return plan;
+  lifter.lift(sql);
+  const Shape& shape = lifter.shape();
+  if (auto plan = plans.find(shape.text)) return plan;
   Rewriter rewriter(schema, engine->spelling());
-  auto plan = std::make_shared<Plan>(std::string(shape), rewriter.rewrite(shape));
+  auto plan = std::make_shared<Plan>(shape, rewriter.rewrite(shape.text));
   plans.add(plan);
   return plan;
 }
@@ -67,7 +73,7 @@ void Connection::Impl::bind(const Plan& plan, Statement& statement) {
   int number = 0;
   for (Literal literal : lifter.literals()) {
     const Column* target = plan.targets()[static_cast<std::size_t>(number)];
-    if (target != nullptr) coerce(literal, *target, texts);
+    if (target != nullptr && !fits(literal, *target)) coerce(literal, *target, texts);
     statement.bind(++number, literal, lifetime);
   }
 }
@@ -77,6 +83,7 @@ Recordset Connection::Impl::query(const std::shared_ptr<Plan>& plan) {
   bind(*plan, *statement);
   auto state = std::make_shared<RecordsetState>(plan, std::move(statement), open);
   state->fetch(kFetchedAtOnce + 1);
+  state->keepWayBack(*engine, lifter.literals());
   return Recordset(std::move(state));
 }
 
@@ -118,8 +125,7 @@ Connection::Connection(std::unique_ptr<Engine> engine, const Schema& schema, std
 Connection::~Connection() = default;
 
 Recordset Connection::Execute(std::string_view sql) {
-  impl_->lifter.lift(sql);
-  const auto plan = impl_->planFor(impl_->lifter.shape());
+  const auto plan = impl_->planFor(sql);
   if (plan->returnsRows()) return impl_->query(plan);
   impl_->change(*plan);
   return Recordset();

@@ -44,6 +44,9 @@ class Engine {
 
   /// `source` is the statement as the caller wrote it, its literals taken out.
   virtual std::unique_ptr<Statement> prepare(std::string_view sql, std::string_view source) = 0;
+  /// Whether both go through the same rows by the same index without sorting them: in opposite
+  /// orders, the one begins where the other ends, also among rows that are alike.
+  virtual bool sameWay(const std::string& sql, const std::string& reversed) = 0;
   /// Runs statements that return nothing, separated by semicolons.
   virtual void run(std::string_view sql) = 0;
 

@@ -36,6 +36,9 @@ class ForwardingEngine : public Engine {
   std::unique_ptr<Statement> prepare(std::string_view sql, std::string_view source) override {
     return inner_->prepare(sql, source);
   }
+  bool sameWay(const std::string& sql, const std::string& reversed) override {
+    return inner_->sameWay(sql, reversed);
+  }
   void run(std::string_view sql) override { inner_->run(sql); }
   void begin(int depth) override { inner_->begin(depth); }
   void commit(int depth) override { inner_->commit(depth); }

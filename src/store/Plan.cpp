@@ -12,7 +12,8 @@ std::unique_ptr<Statement> Plan::lend(Engine& engine) {
     idle_.pop_back();
     return statement;
   }
-  auto statement = engine.prepare(rewritten_.sql, shape_);
+  auto statement = engine.prepare(rewritten_.sql, shape_.text);
+  proven_ = true;
   if (columns_.empty()) {
     for (int i = 0; i < statement->columnCount(); ++i) {
       const std::string name = statement->columnName(i);
@@ -25,6 +26,14 @@ std::unique_ptr<Statement> Plan::lend(Engine& engine) {
   return statement;
 }
 
+Plan* Plan::backwards(Engine& engine) {
+  if (!asked_ && !rewritten_.last.empty() && engine.sameWay(rewritten_.sql, rewritten_.last))
+    backwards_ = std::make_unique<Plan>(
+        shape_, Rewritten{rewritten_.last, {}, rewritten_.targets, rewritten_.returnsRows});
+  asked_ = true;
+  return backwards_.get();
+}
+
 void Plan::giveBack(std::unique_ptr<Statement> statement) {
   statement->reset();
   if (!retired_ && idle_.size() < kIdle) idle_.push_back(std::move(statement));
@@ -32,6 +41,7 @@ void Plan::giveBack(std::unique_ptr<Statement> statement) {
 
 void Plan::retire() {
   retired_ = true;
+  if (backwards_ != nullptr) backwards_->retire();
   idle_.clear();
 }
 

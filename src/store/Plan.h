@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "store/Engine.h"
+#include "store/dialect/LiteralLifter.h"
 #include "store/dialect/Rewriter.h"
 
 namespace fidaleon::store {
@@ -19,14 +20,20 @@ class Plan {
     bool first = true;  // no column before it has the name
   };
 
-  Plan(std::string shape, Rewritten rewritten)
+  Plan(Shape shape, Rewritten rewritten)
       : shape_(std::move(shape)), rewritten_(std::move(rewritten)) {}
 
-  const std::string& shape() const { return shape_; }
+  const Shape& shape() const { return shape_; }
+  /// The engine has understood it once.
+  bool proven() const { return proven_; }
   bool returnsRows() const { return rewritten_.returnsRows; }
   const std::vector<const Column*>& targets() const { return rewritten_.targets; }
   /// Known once a statement has been prepared.
   const std::vector<ResultColumn>& columns() const { return columns_; }
+
+  bool hasOrder() const { return !rewritten_.last.empty(); }
+  /// How the last row is found without the others; null when it cannot be.
+  Plan* backwards(Engine& engine);
 
   std::unique_ptr<Statement> lend(Engine& engine);
   void giveBack(std::unique_ptr<Statement> statement);
@@ -36,10 +43,13 @@ class Plan {
  private:
   static constexpr std::size_t kIdle = 4;
 
-  std::string shape_;
+  Shape shape_;
   Rewritten rewritten_;
   std::vector<ResultColumn> columns_;
   std::vector<std::unique_ptr<Statement>> idle_;
+  std::unique_ptr<Plan> backwards_;
+  bool proven_ = false;
+  bool asked_ = false;  // whether there is a way backwards
   bool retired_ = false;
 };
 

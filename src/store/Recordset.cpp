@@ -37,9 +37,7 @@ void Recordset::MoveFirst() {
 }
 
 void Recordset::MoveLast() {
-  RecordsetState& state = opened(state_);
-  const std::int64_t rows = state.count();
-  state.moveTo(rows == 0 ? 0 : rows - 1);
+  opened(state_).moveLast();
 }
 
 void Recordset::MoveNext() {
@@ -88,6 +86,10 @@ std::string Recordset::text(std::string_view name) const {
 std::int64_t Recordset::integer(std::string_view name) const {
   RecordsetState& state = opened(state_);
   return state.integer(state.find(name));
+}
+
+int Recordset::position(std::string_view name) const {
+  return opened(state_).find(name);
 }
 
 std::string Recordset::text(int position) const {

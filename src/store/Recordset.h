@@ -24,9 +24,9 @@ class Field {
 };
 
 /// The rows of one statement. Rows are stepped on demand and kept, so one may go back; they are
-/// drained when the count or the last row is asked for, and before the connection writes or ends
-/// a transaction, so an open record set shows the rows as they were when it was opened.
-/// Owns its rows; may outlive no connection it came from. Move only.
+/// drained when the count is asked for, and before the connection writes or ends a transaction, so
+/// an open record set shows the rows as they were when it was opened. Owns its rows; may outlive no
+/// connection it came from. Move only.
 class Recordset {
  public:
   Recordset();
@@ -40,6 +40,8 @@ class Recordset {
   /// Exact, also before moving.
   std::int64_t RecordCount() const;
   void MoveFirst();
+  /// By the opposite order where an index has it, so that nothing is read but that row; whoever
+  /// then moves on or asks for the count has the others fetched.
   void MoveLast();
   void MoveNext();
   void MovePrevious();
@@ -60,6 +62,8 @@ class Recordset {
   std::string text(std::string_view name) const;
   std::int64_t integer(std::string_view name) const;
   bool flag(std::string_view name) const;
+  /// Where the column stands, as Fields(name) finds it.
+  int position(std::string_view name) const;
   /// The same by position, for many rows: nothing is looked up and no Field is made.
   std::string text(int position) const;
   std::int64_t integer(int position) const;

@@ -18,6 +18,11 @@ bool sameName(std::string_view a, std::string_view b) {
 
 }  // namespace
 
+WayBack::WayBack(Engine& e, const std::vector<Literal>& bound) : engine(e), values(bound) {
+  for (Literal& value : values)
+    if (value.kind == Literal::Kind::Text) value.text = texts.emplace_back(value.text);
+}
+
 void OpenRecordsets::remove(RecordsetState& set) {
   std::erase(sets_, &set);
 }
@@ -48,16 +53,17 @@ void RecordsetState::finish() {
   if (statement_ == nullptr) return;
   plan_->giveBack(std::move(statement_));
   open_.remove(*this);
+  back_ = nullptr;
 }
 
-bool RecordsetState::fetch(std::int64_t rows) {
-  if (rows_.rows() >= rows) return true;
+bool RecordsetState::step(std::int64_t rows) {
   if (failure_ != nullptr) std::rethrow_exception(failure_);
   if (statement_ == nullptr) return false;
   try {
     while (rows_.rows() < rows) {
       if (!statement_->step()) {
         finish();
+        settle();
         return false;
       }
       statement_->read(rows_);
@@ -81,15 +87,28 @@ void RecordsetState::drain() {
 
 void RecordsetState::abandon() {
   statement_ = nullptr;
+  back_ = nullptr;
   open_.remove(*this);
 }
 
+/// All rows are there: the last one is no longer a row apart.
+void RecordsetState::settle() {
+  if (!onLast()) return;
+  position_ = rows_.rows() - 1;
+  last_ = nullptr;
+}
+
+std::int64_t RecordsetState::position() {
+  if (onLast()) count();
+  return position_;
+}
+
 bool RecordsetState::atEnd() {
-  return position_ >= 0 && !fetch(position_ + 1);
+  return !onLast() && position_ >= 0 && !fetch(position_ + 1);
 }
 
 bool RecordsetState::atBegin() {
-  return position_ < 0 || !fetch(1);
+  return !onLast() && (position_ < 0 || !fetch(1));
 }
 
 std::int64_t RecordsetState::count() {
@@ -103,6 +122,39 @@ void RecordsetState::moveTo(std::int64_t row) {
     throw Error(ErrorKind::Misuse, "No hay más registros en esa dirección.");
   }
   position_ = row;
+  last_ = nullptr;
+}
+
+void RecordsetState::moveLast() {
+  if (onLast() || readLast()) return;
+  const std::int64_t rows = count();
+  moveTo(rows == 0 ? 0 : rows - 1);
+}
+
+void RecordsetState::keepWayBack(Engine& engine, const std::vector<Literal>& values) {
+  if (statement_ != nullptr && plan_->hasOrder()) back_ = std::make_unique<WayBack>(engine, values);
+}
+
+/// The statement that is still open keeps the engine to one state of the data, so that both see
+/// the same rows.
+bool RecordsetState::readLast() {
+  Plan* plan = back_ != nullptr ? plan_->backwards(back_->engine) : nullptr;
+  if (plan == nullptr) return false;
+  auto statement = plan->lend(back_->engine);
+  auto row = std::make_unique<RowStore>(columnCount());
+  try {
+    int number = 0;
+    for (const Literal& value : back_->values) statement->bind(++number, value, Lifetime::Brief);
+    if (statement->step()) statement->read(*row);
+  } catch (...) {
+    plan->giveBack(std::move(statement));
+    throw;
+  }
+  plan->giveBack(std::move(statement));
+  if (row->rows() == 0) return false;
+  last_ = std::move(row);
+  position_ = kAll;
+  return true;
 }
 
 const Plan::ResultColumn& RecordsetState::column(int position) const {
@@ -117,16 +169,11 @@ bool RecordsetState::matches(int position, std::string_view name) const {
   return sameName(plan_->columns()[static_cast<std::size_t>(position)].name, name);
 }
 
-int RecordsetState::find(std::string_view name) {
+int RecordsetState::search(std::string_view name) {
   const int count = columnCount();
-  // Only a name that no earlier column has is surely the expected one.
-  if (expected_ < count && plan_->columns()[static_cast<std::size_t>(expected_)].first &&
-      matches(expected_, name)) {
-    return expected_++;
-  }
   for (int i = 0; i < count; ++i) {
     if (!matches(i, name)) continue;
-    expected_ = i + 1;
+    expected_ = static_cast<std::size_t>(i) + 1;
     return i;
   }
   if (const auto dot = name.find('.'); dot != std::string_view::npos) {
@@ -140,12 +187,12 @@ int RecordsetState::find(std::string_view name) {
   throw Error(ErrorKind::UnknownName, "No existe el campo «" + std::string(name) + "».");
 }
 
-const RowStore& RecordsetState::current(int position) {
+RecordsetState::Here RecordsetState::reached(int position) {
   column(position);
-  if (position_ < 0 || !fetch(position_ + 1)) {
+  if (onLast()) return {*last_, 0};
+  if (position_ < 0 || !fetch(position_ + 1))
     throw Error(ErrorKind::Misuse, "No hay ningún registro en curso.");
-  }
-  return rows_;
+  return {rows_, position_};
 }
 
 }  // namespace fidaleon::store

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <cstring>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -17,9 +18,23 @@ class RowStore {
 
   /// An engine adds the cells of a row in order, then ends the row.
   void addNull() { *next_++ = Cell{}; }
-  void addInteger(std::int64_t n);
-  void addReal(double n);
-  void addText(std::string_view s);
+  void addInteger(std::int64_t n) {
+    next_->kind = Kind::Integer;
+    next_++->payload.integer = n;
+  }
+  void addReal(double n) {
+    next_->kind = Kind::Real;
+    next_++->payload.real = n;
+  }
+  void addText(std::string_view s) {
+    char* copy = s.size() <= left_ ? free_ : newBlock(s.size());
+    if (!s.empty()) std::memcpy(copy, s.data(), s.size());
+    free_ = copy + s.size();
+    left_ -= s.size();
+    next_->kind = Kind::Text;
+    next_->size = static_cast<std::uint32_t>(s.size());
+    next_++->payload.text = copy;
+  }
   void beginRow();
   void endRow() { ++rows_; }
 
@@ -27,8 +42,14 @@ class RowStore {
   int width() const { return width_; }
   Value at(std::int64_t row, int column) const;
   /// As Value would read them, without making one.
-  std::string text(std::int64_t row, int column) const;
-  std::int64_t integer(std::int64_t row, int column) const;
+  std::string text(std::int64_t row, int column) const {
+    const Cell& c = cell(row, column);
+    return c.kind == Kind::Text ? std::string(c.payload.text, c.size) : at(row, column).text();
+  }
+  std::int64_t integer(std::int64_t row, int column) const {
+    const Cell& c = cell(row, column);
+    return c.kind == Kind::Integer ? c.payload.integer : at(row, column).integer();
+  }
 
  private:
   enum class Kind : std::uint32_t { Null, Integer, Real, Text };
@@ -46,8 +67,14 @@ class RowStore {
   static constexpr int kFirstRows = 4;
   static constexpr int kRows = 64;
 
-  const Cell& cell(std::int64_t row, int column) const;
-  char* room(std::size_t size);
+  const Cell& cell(std::int64_t row, int column) const {
+    const bool first = row < kFirstRows;
+    const std::int64_t place = first ? row : row - kFirstRows;
+    const auto block = first ? 0 : static_cast<std::size_t>(1 + place / kRows);
+    return cells_[block]
+                 [static_cast<std::size_t>((first ? place : place % kRows) * width_ + column)];
+  }
+  char* newBlock(std::size_t size);
 
   int width_;
   std::int64_t rows_ = 0;

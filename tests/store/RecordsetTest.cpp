@@ -114,9 +114,36 @@ TEST_F(Recordsets, LongOnes_AreFetchedOnDemandAndDrainedBeforeAWrite) {
   connection->Execute("DELETE * FROM Cargo WHERE IDCargo = 500");
   EXPECT_LT(rows, 10) << "a record set that is gone need not be drained";
   rows = 0;
-  const auto open = connection->Execute("SELECT * FROM Cargo");
+  auto open = connection->Execute("SELECT * FROM Cargo WHERE IDCargo > 1");
+  open.MoveLast();
+  EXPECT_EQ(open.text("Nombre"), "Cargo 499");
+  EXPECT_LT(rows, 10) << "the key gives the last row at once";
   connection->Execute("DELETE * FROM Cargo WHERE IDCargo = 499");
   EXPECT_EQ(rows, 499);
+  EXPECT_EQ(open.text("Nombre"), "Cargo 499");
+  open.MovePrevious();
+  EXPECT_EQ(open.text("Nombre"), "Cargo 498");
+}
+
+TEST_F(Recordsets, LastRow_IsTheOneThatGoingThroughAllEndsAt) {
+  for (int i = 0; i < 40; ++i)
+    connection->Execute(
+        "INSERT INTO Bautismo (CodLibro, Folio, Numero, FechaBautismo) VALUES (1, " +
+        std::to_string(i % 7 / 2) + ", \"" + std::to_string(i % 3) + "a\", \"" +
+        std::to_string(i % 5) + "\")");
+  for (const char* order : {"", " ORDER BY Folio, Val(Numero)", " ORDER BY Folio DESC",
+                            " ORDER BY FechaBautismo desc, Folio", " ORDER BY Numero ASC"}) {
+    auto walked =
+        connection->Execute(std::string("SELECT * FROM Bautismo WHERE CodLibro=1") + order);
+    auto jumped =
+        connection->Execute(std::string("SELECT * FROM Bautismo WHERE CodLibro=1") + order);
+    walked.RecordCount();
+    walked.MoveLast();
+    jumped.MoveLast();
+    EXPECT_EQ(jumped.integer("IDBautismo"), walked.integer("IDBautismo")) << order;
+    jumped.MoveNext();
+    EXPECT_TRUE(jumped.EOF_()) << order;
+  }
 }
 
 TEST_F(Recordsets, Values_ReadAsTextNumberAndFlag) {

@@ -58,6 +58,11 @@ inline std::string comoNumero(std::string_view s) {
   return !t.empty() && t.find_first_not_of("0123456789") == std::string::npos ? t : "0";
 }
 
+/// The name of a column without the blanks that some statements write behind it.
+inline std::string_view sinBlancos(std::string_view nombre) {
+  return nombre.substr(0, nombre.find_last_not_of(' ') + 1);
+}
+
 namespace columnas_detalle {
 inline std::string texto(const std::string& v) {
   return v;
@@ -93,6 +98,8 @@ inline void asignar(std::uint8_t& a, const store::Value& v) {
 inline void asignar(bool& a, const store::Value& v) {
   a = v.flag();
 }
+/// Room for the statement of most rows.
+constexpr std::size_t SENTENCIA_CORRIENTE = 1024;
 }  // namespace columnas_detalle
 
 /// The value of a column as it is.
@@ -101,38 +108,72 @@ std::string valorTexto(const Registro& r, const Columna<Registro>& c) {
   return std::visit([&](auto miembro) { return columnas_detalle::texto(r.*miembro); }, c.miembro);
 }
 
-/// The value of a column, as it stands in a statement.
+/// Appends the value of a column, as it stands in a statement.
 template <class Registro>
-std::string valorSQL(const Registro& r, const Columna<Registro>& c) {
-  if (c.cita == Cita::Texto) return entreComillas(valorTexto(r, c));
-  if (c.cita == Cita::TextoSimple) return entreApostrofos(valorTexto(r, c));
+void ponerSQL(std::string& sql, const Registro& r, const Columna<Registro>& c) {
+  const bool citado = c.cita == Cita::Texto || c.cita == Cita::TextoSimple;
+  const char comilla = c.cita == Cita::Texto ? '"' : '\'';
+  if (const auto* texto = std::get_if<std::string Registro::*>(&c.miembro); texto && citado)
+    return citarEn(sql, r.**texto, comilla);
+  if (citado) return citarEn(sql, valorTexto(r, c), comilla);
   const std::string numero =
       std::visit([&](auto miembro) { return columnas_detalle::numero(r.*miembro); }, c.miembro);
   if (c.cita == Cita::Byte && text::toInteger(numero).value_or(0) > 255)
     throw std::overflow_error(std::string(c.propiedad) + ": " + numero + " pasa de 255");
-  return numero;
+  sql += numero;
+}
+
+template <class Registro>
+std::string valorSQL(const Registro& r, const Columna<Registro>& c) {
+  std::string valor;
+  ponerSQL(valor, r, c);
+  return valor;
 }
 
 /// "INSERT INTO t (a, b) VALUES (1, "x")".
 template <class Registro>
 std::string sqlInsertar(const Tabla<Registro>& t, const Registro& r) {
-  std::string nombres, valores;
+  std::string sql;
+  sql.reserve(columnas_detalle::SENTENCIA_CORRIENTE);
+  sql.append("INSERT INTO ").append(t.nombre);
+  const char* separador = " (";
   for (const Columna<Registro>& c : t.columnas) {
-    const char* separador = nombres.ends_with(' ') ? "," : t.separador;
-    nombres += (nombres.empty() ? "" : separador) + std::string(c.nombre);
-    valores += (valores.empty() ? "" : ", ") + valorSQL(r, c);
+    sql.append(separador).append(c.nombre);
+    separador = sql.back() == ' ' ? "," : t.separador;
   }
-  return std::string("INSERT INTO ") + t.nombre + " (" + nombres + ") VALUES (" + valores + ")";
+  separador = ") VALUES (";
+  for (const Columna<Registro>& c : t.columnas) {
+    sql += separador;
+    ponerSQL(sql, r, c);
+    separador = ", ";
+  }
+  return sql += ')';
 }
 
 /// "UPDATE t SET a=1, b="x"" without a condition.
 template <class Registro>
 std::string sqlActualizar(const Tabla<Registro>& t, const Registro& r) {
-  std::string pares;
-  for (const Columna<Registro>& c : t.columnas)
-    if (c.uso == Uso::Siempre)
-      pares += (pares.empty() ? "" : ", ") + text::trim(c.nombre) + t.asignar + valorSQL(r, c);
-  return std::string("UPDATE ") + t.nombre + " SET " + pares;
+  std::string sql;
+  sql.reserve(columnas_detalle::SENTENCIA_CORRIENTE);
+  sql.append("UPDATE ").append(t.nombre).append(" SET ");
+  const char* separador = "";
+  for (const Columna<Registro>& c : t.columnas) {
+    if (c.uso != Uso::Siempre) continue;
+    sql.append(separador).append(sinBlancos(c.nombre)).append(t.asignar);
+    ponerSQL(sql, r, c);
+    separador = ", ";
+  }
+  return sql;
+}
+
+/// Reads the column at `lugar` of the current row into the record.
+template <class Registro>
+void copiarCelda(const Columna<Registro>& c, const store::Recordset& fila, int lugar, Registro& r) {
+  if (const auto* texto = std::get_if<std::string Registro::*>(&c.miembro))
+    r.** texto = fila.text(lugar);
+  else
+    std::visit([&](auto m) { columnas_detalle::asignar(r.*m, store::Value(fila.integer(lugar))); },
+               c.miembro);
 }
 
 /// Copies the current row into the record, by column name or, with `porPropiedad`, by alias.
@@ -140,8 +181,8 @@ template <class Registro>
 void copiarFila(const Tabla<Registro>& t, const store::Recordset& fila, Registro& r,
                 bool porPropiedad = false) {
   for (const Columna<Registro>& c : t.columnas) {
-    const store::Value v = fila.value(porPropiedad ? c.propiedad : text::trim(c.nombre));
-    std::visit([&](auto miembro) { columnas_detalle::asignar(r.*miembro, v); }, c.miembro);
+    const std::string_view nombre = porPropiedad ? c.propiedad : sinBlancos(c.nombre);
+    copiarCelda(c, fila, fila.position(nombre), r);
   }
 }
 
@@ -155,11 +196,8 @@ class CopiaDeFilas {
     for (const Columna<Registro>& c : columnas_) lugares_.push_back(lugar(c.nombre));
   }
   void a(Registro& r) const {
-    for (std::size_t i = 0; i < lugares_.size(); ++i) {
-      const store::Field campo = filas_.Fields(lugares_[i]);
-      std::visit([&](auto m) { columnas_detalle::asignar(r.*m, campo.Value()); },
-                 columnas_[i].miembro);
-    }
+    for (std::size_t i = 0; i < lugares_.size(); ++i)
+      copiarCelda(columnas_[i], filas_, lugares_[i], r);
   }
   /// Where the columns stand in the rows.
   const std::vector<int>& lugares() const { return lugares_; }

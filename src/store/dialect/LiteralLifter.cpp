@@ -66,7 +66,8 @@ void LiteralLifter::begin(std::string_view sql) {
   afterOperand_ = false;
   mode_ = Mode::Keep;
   outer_.clear();
-  shape_.clear();
+  shape_.text.clear();
+  shape_.markers.clear();
   literals_.clear();
   if (!unescaped_.empty()) unescaped_.clear();
 }
@@ -106,7 +107,7 @@ void LiteralLifter::lift(std::string_view sql) {
         break;
     }
   }
-  shape_.append(sql_, copied_);
+  shape_.text.append(sql_, copied_);
 }
 
 void LiteralLifter::word() {
@@ -140,8 +141,16 @@ void LiteralLifter::word() {
 
 void LiteralLifter::quoted(char quote) {
   const std::size_t start = at_;
+  const Literal literal = textLiteral(quote);
+  last_ = {};
+  afterOperand_ = true;
+  if (lifting()) take(start, literal);
+}
+
+Literal LiteralLifter::textLiteral(char quote) {
+  const std::size_t start = at_ + 1;
   bool doubled = false;
-  for (std::size_t from = at_ + 1;; from += 2) {
+  for (std::size_t from = start;; from += 2) {
     const auto* end = static_cast<const char*>(
         from > sql_.size() ? nullptr : std::memchr(sql_.data() + from, quote, sql_.size() - from));
     if (end == nullptr) {
@@ -154,36 +163,37 @@ void LiteralLifter::quoted(char quote) {
     }
     doubled = true;
   }
-  last_ = {};
-  afterOperand_ = true;
-  if (!lifting()) return;
-  take(start);
-  Literal literal{Literal::Kind::Text, 0, 0, sql_.substr(start + 1, at_ - start - 2)};
-  if (doubled) {
-    std::string& plain = unescaped_.emplace_back();
-    for (std::size_t i = 0; i < literal.text.size(); ++i) {
-      plain += literal.text[i];
-      if (literal.text[i] == quote) ++i;
-    }
-    literal.text = plain;
+  Literal literal{Literal::Kind::Text, 0, 0, sql_.substr(start, at_ - start - 1)};
+  if (!doubled) return literal;
+  std::string& plain = unescaped_.emplace_back();
+  for (std::size_t i = 0; i < literal.text.size(); ++i) {
+    plain += literal.text[i];
+    if (literal.text[i] == quote) ++i;
   }
-  literals_.push_back(literal);
+  literal.text = plain;
+  return literal;
 }
 
 void LiteralLifter::number(std::size_t start) {
+  last_ = {};
+  afterOperand_ = true;
+  if (lifting()) {
+    take(start, numberLiteral(start));
+    return;
+  }
+  while (at_ < sql_.size() && (classOf(sql_[at_]) == Class::Digit || sql_[at_] == '.')) ++at_;
+}
+
+Literal LiteralLifter::numberLiteral(std::size_t start) {
   bool whole = true;
   const std::size_t digits = at_;
   while (at_ < sql_.size() && (classOf(sql_[at_]) == Class::Digit || sql_[at_] == '.')) {
     whole = whole && sql_[at_] != '.';
     ++at_;
   }
-  last_ = {};
-  afterOperand_ = true;
-  if (!lifting()) return;
   if (at_ < sql_.size() && classOf(sql_[at_]) == Class::Letter) {
     throw Error(ErrorKind::Syntax, "Hay un número mal escrito en la instrucción.");
   }
-  const bool negative = sql_[start] == '-';
   Literal literal;
   literal.kind = Literal::Kind::Integer;
   const auto result = std::from_chars(sql_.data() + digits, sql_.data() + at_, literal.integer);
@@ -194,12 +204,11 @@ void LiteralLifter::number(std::size_t start) {
       throw Error(ErrorKind::Syntax, "Hay un número mal escrito en la instrucción.");
     }
   }
-  if (negative) {
+  if (sql_[start] == '-') {
     literal.integer = -literal.integer;
     literal.real = -literal.real;
   }
-  take(start);
-  literals_.push_back(literal);
+  return literal;
 }
 
 void LiteralLifter::sign() {
@@ -239,10 +248,52 @@ void LiteralLifter::symbol(char c) {
 }
 
 /// The literal from `start` to the byte being looked at gives way to a marker.
-void LiteralLifter::take(std::size_t start) {
-  shape_.append(sql_, copied_, start - copied_);
-  shape_.push_back(kMarker);
+void LiteralLifter::take(std::size_t start, const Literal& literal) {
+  shape_.text.append(sql_, copied_, start - copied_);
+  shape_.markers.push_back(static_cast<std::uint32_t>(shape_.text.size()));
+  shape_.text.push_back(kMarker);
   copied_ = at_;
+  literals_.push_back(literal);
+}
+
+bool LiteralLifter::liftAs(std::string_view sql, const Shape& known) {
+  sql_ = sql;
+  at_ = 0;
+  literals_.clear();
+  if (!unescaped_.empty()) unescaped_.clear();
+  const std::string_view text = known.text;
+  std::size_t from = 0;
+  for (const std::uint32_t marker : known.markers) {
+    if (!skip(text.substr(from, marker - from)) || !expectedLiteral()) return false;
+    from = marker + 1;
+  }
+  return skip(text.substr(from)) && at_ == sql_.size();
+}
+
+bool LiteralLifter::skip(std::string_view known) {
+  if (sql_.size() - at_ < known.size() ||
+      std::memcmp(sql_.data() + at_, known.data(), known.size()) != 0)
+    return false;
+  at_ += known.size();
+  return true;
+}
+
+bool LiteralLifter::expectedLiteral() {
+  if (at_ >= sql_.size()) return false;
+  const std::size_t start = at_;
+  switch (classOf(sql_[at_])) {
+    case Class::Quote:
+      literals_.push_back(textLiteral(sql_[start]));
+      return true;
+    case Class::Sign:
+      if (++at_ >= sql_.size() || classOf(sql_[at_]) != Class::Digit) return false;
+      [[fallthrough]];
+    case Class::Digit:
+      literals_.push_back(numberLiteral(start));
+      return true;
+    default:
+      return false;
+  }
 }
 
 }  // namespace fidaleon::store

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <deque>
 #include <string>
 #include <string_view>
@@ -8,6 +9,12 @@
 #include "store/Literal.h"
 
 namespace fidaleon::store {
+
+/// What remains of a statement without its literals, and where they stood.
+struct Shape {
+  std::string text;
+  std::vector<std::uint32_t> markers;
+};
 
 /// Takes the literals out of a statement in one pass over its text. What remains, with a marker
 /// in the place of each literal, is the same for all statements of one shape.
@@ -21,7 +28,11 @@ class LiteralLifter {
 
   /// The results hold until the next call and as long as the text of `sql` lives.
   void lift(std::string_view sql);
-  std::string_view shape() const { return shape_; }
+  /// The same for a statement that may be one of a known shape; false when it is not. Loops issue
+  /// the same shape again and again, and what is known is compared instead of read. Only for a
+  /// shape that the engine has understood: nothing is wrong with it but in its literals.
+  bool liftAs(std::string_view sql, const Shape& known);
+  const Shape& shape() const { return shape_; }
   const std::vector<Literal>& literals() const { return literals_; }
 
  private:
@@ -33,7 +44,12 @@ class LiteralLifter {
   void number(std::size_t start);
   void sign();
   void symbol(char c);
-  void take(std::size_t start);
+  void take(std::size_t start, const Literal& literal);
+  /// Read the literal that begins at `at_` and stand behind it. `start`: its sign, if it has one.
+  Literal textLiteral(char quote);
+  Literal numberLiteral(std::size_t start);
+  bool skip(std::string_view known);
+  bool expectedLiteral();
   bool lifting() const { return mode_ == Mode::Lift || mode_ == Mode::Assigned; }
 
   std::string_view sql_;
@@ -43,7 +59,7 @@ class LiteralLifter {
   bool afterOperand_ = false;
   Mode mode_ = Mode::Keep;
   std::vector<Mode> outer_;
-  std::string shape_;
+  Shape shape_;
   std::vector<Literal> literals_;
   std::deque<std::string> unescaped_;
 };

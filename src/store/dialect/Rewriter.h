@@ -13,6 +13,8 @@ namespace fidaleon::store {
 /// A statement in the engine's own SQL.
 struct Rewritten {
   std::string sql;
+  /// The same in the opposite order, cut after one row; empty where no order can be turned round.
+  std::string last;
   /// For each parameter the column that its value is stored in; null for a value that is only
   /// compared.
   std::vector<const Column*> targets;
@@ -44,7 +46,11 @@ class Rewriter {
   /// How many columns one item of the select list stands for.
   std::size_t columnsOf(std::size_t begin, std::size_t end, const Scope& scope) const;
   void selectOrder(const SelectParts& parts, const Scope& scope);
-  std::string defaultOrder(const SelectParts& parts, const Scope& scope) const;
+  void orderItem(std::size_t end, const Scope& scope);
+  std::string defaultOrder(const SelectParts& parts) const;
+  /// The columns that put the rows of a table in the order of its key.
+  std::vector<std::string> keyOrder(const Scope& scope) const;
+  void orderBy(const std::vector<std::string>& items, bool reversible);
   void collectSources(std::size_t end, Scope& scope);
   void sources(std::size_t end, const Scope& scope);
 

@@ -16,6 +16,8 @@ struct Rewriter::SelectParts {
 
 namespace {
 
+constexpr std::string_view kDescending = " DESC";
+
 bool isAggregate(const Token& t) {
   switch (t.code) {
     case packed("max"):
@@ -142,50 +144,79 @@ std::size_t Rewriter::columnsOf(std::size_t begin, std::size_t end, const Scope&
 }
 
 void Rewriter::selectOrder(const SelectParts& parts, const Scope& scope) {
+  const bool oneTable =
+      !parts.distinct && !parts.aggregate && parts.grouping.empty() && scope.sources().size() == 1;
+  const bool reversible = oneTable && depth_ == 1 && parts.top.empty();
   if (!accept(packed("order"))) {
     // Nothing above sees the order of an inner SELECT, unless TOP cuts it.
-    if (depth_ == 1 || !parts.top.empty()) out_ += defaultOrder(parts, scope);
+    if (depth_ > 1 && parts.top.empty()) return;
+    if (oneTable)
+      orderBy(keyOrder(scope), reversible);
+    else
+      out_ += defaultOrder(parts);
     return;
   }
   expect(packed("by"));
-  put("ORDER BY");
+  std::vector<std::string> items;
   const std::size_t end = clauseEnd();
+  const std::string before = std::move(out_);
   while (at_ < end) {
-    const std::size_t itemEnd = valueEnd();
-    // A name that stands alone means the column of the result before that of a table.
-    const bool alone = token().isName() && (itemEnd == at_ + 1 || token(1).is(packed("asc")) ||
-                                            token(1).is(packed("desc")));
-    const std::string* alias = alone ? scope.alias(token().text) : nullptr;
-    if (alias != nullptr) {
-      put(spelling_.name(*alias));
-      ++at_;
-    }
-    if (at_ < itemEnd) expression(itemEnd, scope);
-    if (at_ < end) {
-      expect(',');
-      put(",");
-    }
+    out_.clear();
+    orderItem(valueEnd(), scope);
+    items.push_back(out_);
+    if (at_ < end) expect(',');
   }
+  out_ = before;
+  orderBy(items, reversible);
 }
 
-std::string Rewriter::defaultOrder(const SelectParts& parts, const Scope& scope) const {
+void Rewriter::orderItem(std::size_t end, const Scope& scope) {
+  // A name that stands alone means the column of the result before that of a table.
+  const bool alone = token().isName() &&
+                     (end == at_ + 1 || token(1).is(packed("asc")) || token(1).is(packed("desc")));
+  const std::string* alias = alone ? scope.alias(token().text) : nullptr;
+  if (alias != nullptr) {
+    put(spelling_.name(*alias));
+    ++at_;
+  }
+  const bool descending = tokens_[end - 1].is(packed("desc"));
+  const bool said = descending || tokens_[end - 1].is(packed("asc"));
+  if (at_ < end - (said ? 1 : 0)) expression(end - (said ? 1 : 0), scope);
+  if (said) ++at_;
+  if (descending) out_ += kDescending;
+}
+
+void Rewriter::orderBy(const std::vector<std::string>& items, bool reversible) {
+  std::string reversed = reversible ? out_ : std::string();
+  const char* separator = " ORDER BY";
+  for (const std::string& item : items) {
+    out_ += separator + item;
+    if (reversible)
+      reversed += separator + (item.ends_with(kDescending)
+                                   ? item.substr(0, item.size() - kDescending.size())
+                                   : item + std::string(kDescending));
+    separator = ",";
+  }
+  if (reversible && !items.empty()) result_.last = reversed + " " + spelling_.limit("1");
+}
+
+std::string Rewriter::defaultOrder(const SelectParts& parts) const {
   if (!parts.grouping.empty()) return " ORDER BY" + parts.grouping;
   std::string order;
-  const auto add = [&](const std::string& piece) {
-    order += (order.empty() ? " ORDER BY " : ", ") + piece;
-  };
-  if (parts.distinct) {
-    for (std::size_t i = 1; i <= parts.columns; ++i) add(std::to_string(i));
-    return order;
-  }
-  if (parts.aggregate || scope.sources().size() != 1) return order;
+  if (parts.distinct)
+    for (std::size_t i = 1; i <= parts.columns; ++i)
+      order += (order.empty() ? " ORDER BY " : ", ") + std::to_string(i);
+  return order;
+}
+
+std::vector<std::string> Rewriter::keyOrder(const Scope& scope) const {
   const Scope::Source& source = scope.sources().front();
   const std::string prefix = spelling_.name(source.exposed);
-  for (const std::string& column : source.table->keyColumns()) {
-    add(prefix + "." + spelling_.name(column));
-  }
-  if (!source.table->hasUniqueKey()) add(spelling_.entryOrder(prefix));
-  return order;
+  std::vector<std::string> items;
+  for (const std::string& column : source.table->keyColumns())
+    items.push_back(" " + prefix + "." + spelling_.name(column));
+  if (!source.table->hasUniqueKey()) items.push_back(" " + spelling_.entryOrder(prefix));
+  return items;
 }
 
 void Rewriter::collectSources(std::size_t end, Scope& scope) {

@@ -111,6 +111,20 @@ std::unique_ptr<Statement> SqliteEngine::prepare(std::string_view sql, std::stri
   return std::make_unique<SqliteStatement>(db_, sql);
 }
 
+std::string SqliteEngine::way(const std::string& sql) {
+  SqliteStatement statement(db_, "EXPLAIN QUERY PLAN " + sql);
+  RowStore rows(4);
+  while (statement.step()) statement.read(rows);
+  std::string steps;
+  for (std::int64_t i = 0; i < rows.rows(); ++i) steps += rows.text(i, 3) + '\n';
+  return steps;
+}
+
+bool SqliteEngine::sameWay(const std::string& sql, const std::string& reversed) {
+  const std::string steps = way(sql);
+  return steps.find("TEMP B-TREE") == std::string::npos && steps == way(reversed);
+}
+
 void SqliteEngine::run(std::string_view sql) {
   check(sqlite3_exec(db_, std::string(sql).c_str(), nullptr, nullptr, nullptr), db_);
 }

@@ -23,6 +23,7 @@ class SqliteEngine : public Engine {
   SqliteEngine& operator=(const SqliteEngine&) = delete;
 
   std::unique_ptr<Statement> prepare(std::string_view sql, std::string_view source) override;
+  bool sameWay(const std::string& sql, const std::string& reversed) override;
   void run(std::string_view sql) override;
   void begin(int depth) override;
   void commit(int depth) override;
@@ -45,6 +46,7 @@ class SqliteEngine : public Engine {
  private:
   void open(const std::string& name, int flags, const char* vfs = nullptr);
   std::string journal();
+  std::string way(const std::string& sql);
 
   sqlite3* db_ = nullptr;
   SqliteSpelling spelling_;
