@@ -2,19 +2,38 @@
 
 namespace fidaleon::app {
 
-void describePeople(NodeView& v) {
+namespace {
+
+const std::vector<std::string> BY_NAME{"PrimerApellido", "SegundoApellido", "Nombre"};
+
+RowPart ofPerson(const std::string& table) {
+  return {table, "SELECT CodPadron FROM " + table + " WHERE rowid="};
+}
+
+void describeRole(NodeView& v, const char* satellite) {
   v.key = "IDPadron";
+  v.parts = {{"Padron", {}}, ofPerson("Padron_TipoPersona"), ofPerson(satellite)};
+  v.order = BY_NAME;
+}
+
+}  // namespace
+
+// Whoever has the role is asked for person by person, since the persons lie in the order of the
+// list: the first of them are there at once.
+void describePeople(NodeView& v) {
+  describeRole(v, "Padron_Nacimiento");
   v.thing = "persona";
   v.things = "personas";
   v.node.SQLSelect =
       "SELECT Padron.IDPadron, Padron.PrimerApellido, Padron.SegundoApellido, Padron.Nombre, "
       "Padron.DNI, Padron_Nacimiento.FechaNacimiento, Padron.Direccion, Municipio.Nombre AS "
-      "Municipio, Padron.Telefono, Institucion.Nombre AS Institucion FROM (((Padron_TipoPersona "
-      "INNER JOIN Padron ON Padron.IDPadron=Padron_TipoPersona.CodPadron) LEFT JOIN "
+      "Municipio, Padron.Telefono, Institucion.Nombre AS Institucion FROM ((Padron LEFT JOIN "
       "Padron_Nacimiento ON Padron_Nacimiento.CodPadron=Padron.IDPadron) LEFT JOIN Municipio ON "
       "Municipio.IDMunicipio=Padron.CodMunicipio) LEFT JOIN Institucion ON "
       "Institucion.IDInstitucion=Padron.CodInstitucionEmpadronado WHERE "
-      "Padron_TipoPersona.CodTipoPersona=2 ORDER BY Padron.PrimerApellido, "
+      "EXISTS (SELECT 1 FROM Padron_TipoPersona WHERE "
+      "Padron_TipoPersona.CodPadron=Padron.IDPadron AND "
+      "Padron_TipoPersona.CodTipoPersona=2) ORDER BY Padron.PrimerApellido, "
       "Padron.SegundoApellido, Padron.Nombre, Padron.IDPadron";
   v.columns = {{"PrimerApellido", "Primer apellido", ColumnKind::Text, 15, {}},
                {"SegundoApellido", "Segundo apellido", ColumnKind::Text, 15, {}},
@@ -28,7 +47,7 @@ void describePeople(NodeView& v) {
 }
 
 void describeCollaborators(NodeView& v) {
-  v.key = "IDPadron";
+  describeRole(v, "Padron_Actividad");
   v.thing = "colaborador";
   v.things = "colaboradores";
   v.node.SQLSelect =
@@ -52,6 +71,8 @@ void describeCollaborators(NodeView& v) {
 
 void describeActivities(NodeView& v) {
   v.key = "IDActividad";
+  v.parts = {{"Actividad", {}}};
+  v.order = {"Institucion", "Nombre"};
   v.thing = "actividad";
   v.things = "actividades";
   v.node.SQLSelect =
@@ -70,6 +91,8 @@ void describeActivities(NodeView& v) {
 
 void describeOffices(NodeView& v) {
   v.key = "IDCargo";
+  v.parts = {{"Cargo", {}}};
+  v.order = {"Nombre"};
   v.thing = "cargo";
   v.things = "cargos";
   v.node.SQLSelect = "SELECT IDCargo, Nombre, Descripcion FROM Cargo ORDER BY Nombre, IDCargo";
@@ -79,6 +102,8 @@ void describeOffices(NodeView& v) {
 
 void describeTasks(NodeView& v) {
   v.key = "IDTarea";
+  v.parts = {{"Tareas", {}}};
+  v.order = {"Fecha", "HoraInicio", "HoraFin", "Nombre"};
   v.thing = "tarea";
   v.things = "tareas";
   v.day = "Fecha";

@@ -247,8 +247,8 @@ void addDocumentCommands(std::vector<Command>& all) {
 
 void addWindowCommands(std::vector<Command>& all) {
   const auto add = [&](Menu menu, Command c) { all.push_back(inMenu(menu, std::move(c))); };
-  add(Menu::View, line("actualizar", "&Actualizar", "F5", "Vuelve a leer la lista", 0,
-                       Needs::Nothing, [](Workplace&, const Choice&) {}));
+  add(Menu::View, still(line("actualizar", "&Actualizar", "F5", "Vuelve a leer la lista", 0,
+                             Needs::List, [](Workplace& w, const Choice&) { w.readListAnew(); })));
   add(Menu::View,
       still(line("filtrar", "&Filtrar", "Ctrl+F", "Busca en la lista según se escribe", 0,
                  Needs::Nothing, [](Workplace& w, const Choice&) { w.focusFilter(); })));

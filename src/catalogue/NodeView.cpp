@@ -1,5 +1,7 @@
 #include "catalogue/NodeView.h"
 
+#include <algorithm>
+
 #include "catalogue/CensusLists.h"
 #include "core/contract/CcNodos.h"
 #include "core/statements/Sentencia.h"
@@ -44,10 +46,18 @@ class Tree {
   std::vector<NodeView> nodes_;
 };
 
+/// The list of one table, whose changed rows are read one by one.
+void describeRows(NodeView& v, const std::string& table, const std::string& key,
+                  std::vector<std::string> order) {
+  v.key = key;
+  v.parts = {{table, {}}};
+  v.order = std::move(order);
+}
+
 void describeBooks(NodeView& v, const Sacramento& s) {
   const std::string table = s.tablaLibros;
   v.sacrament = &s;
-  v.key = s.claveLibro;
+  describeRows(v, table, s.claveLibro, {"FechaCreacion"});
   v.thing = "libro";
   v.things = "libros";
   v.node.SQLSelect = "SELECT " + table + "." + v.key + ", " + table + ".Nombre, " +
@@ -81,6 +91,7 @@ struct Register {
   const char* dayTitle;
   const char* otherDay;  // null where there is none
   const char* otherTitle;
+  std::vector<RowPart> parts;  // beside the entry's own
 };
 
 const Register REGISTERS[] = {
@@ -91,7 +102,8 @@ const Register REGISTERS[] = {
      "Bautismo.FechaBautismo",
      "Bautismo",
      "Bautismo_Hijo.FechaNac",
-     "Nacimiento"},
+     "Nacimiento",
+     {{"Bautismo_Hijo", "SELECT CodBautismo FROM Bautismo_Hijo WHERE rowid="}}},
     {CONFIRMACION,
      {{"Confirmacion", "Nombre"}},
      "Confirmacion_Datos",
@@ -99,7 +111,8 @@ const Register REGISTERS[] = {
      "Confirmacion_Datos.FechaConfirmacion",
      "Confirmación",
      "Confirmacion.FechaNac",
-     "Nacimiento"},
+     "Nacimiento",
+     {{"Confirmacion_Datos", "SELECT CodConfirmacion FROM Confirmacion_Datos WHERE rowid="}}},
     {MATRIMONIO,
      {{"Matrimonio_Novios", "Novio", "Novio"}, {"Matrimonio_Novias", "Novia", "Novia"}},
      "Matrimonio_Compromiso, Matrimonio_Novios, Matrimonio_Novias",
@@ -109,7 +122,10 @@ const Register REGISTERS[] = {
      "Matrimonio_Compromiso.FechaMatrimonio",
      "Matrimonio",
      nullptr,
-     nullptr},
+     nullptr,
+     {{"Matrimonio_Compromiso", "SELECT CodMatrimonio FROM Matrimonio_Compromiso WHERE rowid="},
+      {"Matrimonio_Novios", "SELECT IDMatrimonio FROM Matrimonio WHERE CodNovios="},
+      {"Matrimonio_Novias", "SELECT IDMatrimonio FROM Matrimonio WHERE CodNovias="}}},
     {DEFUNCION,
      {{"Defuncion", "Nombre"}},
      "Defuncion_Datos",
@@ -117,7 +133,8 @@ const Register REGISTERS[] = {
      "Defuncion_Datos.FechaDefuncion",
      "Defunción",
      "Defuncion_Datos.FechaInhumacion",
-     "Inhumación"},
+     "Inhumación",
+     {{"Defuncion_Datos", "SELECT CodDifunto FROM Defuncion_Datos WHERE rowid="}}},
 };
 
 std::string columnOf(const char* qualified) {
@@ -168,13 +185,21 @@ ColumnView day(const char* column, const char* title) {
   return {columnOf(column), title, ColumnKind::Date, 11, {}};
 }
 
+void describeParts(NodeView& v, const Register& r, std::vector<std::string> order) {
+  describeRows(v, r.sacrament.tablaPartidas, r.sacrament.clavePartida, std::move(order));
+  v.parts.insert(v.parts.end(), r.parts.begin(), r.parts.end());
+}
+
 void describeEntries(NodeView& v, const Register& r) {
   v.sacrament = &r.sacrament;
-  v.key = r.sacrament.clavePartida;
+  describeParts(v, r, {"Folio", "Numero"});
   v.thing = "partida";
   v.things = "partidas";
   v.annulled = "Anulada";
   v.group = "CodLibro";
+  v.groupColumn = sentencia(r.sacrament, "{Partidas}.CodLibro");
+  v.groups =
+      sentencia(r.sacrament, "SELECT {IDLibro} FROM {Libros} ORDER BY FechaCreacion, {IDLibro}");
   v.node.SQLSelect =
       sentencia(r.sacrament,
                 "SELECT {Partidas}.{IDPartida}, {Partidas}.CodLibro, {Libros}.Nombre AS Libro, "
@@ -198,7 +223,7 @@ void describeEntries(NodeView& v, const Register& r) {
 
 void describeRequests(NodeView& v, const Register& r) {
   v.sacrament = &r.sacrament;
-  v.key = r.sacrament.clavePartida;
+  describeParts(v, r, {});
   v.thing = "solicitud";
   v.things = "solicitudes";
   v.node.SQLSelect = sentencia(r.sacrament, "SELECT {Partidas}.{IDPartida}") +
@@ -214,7 +239,7 @@ void describeRequests(NodeView& v, const Register& r) {
 }
 
 void describeInstitutions(NodeView& v) {
-  v.key = "IDInstitucion";
+  describeRows(v, "Institucion", "IDInstitucion", {});
   v.thing = "institución";
   v.things = "instituciones";
   v.node.SQLSelect =
@@ -230,7 +255,7 @@ void describeInstitutions(NodeView& v) {
 }
 
 void describeProvinces(NodeView& v) {
-  v.key = "IDProvincia";
+  describeRows(v, "Provincia", "IDProvincia", {"Nombre"});
   v.thing = "provincia";
   v.things = "provincias";
   v.node.SQLSelect = "SELECT IDProvincia, Nombre, Codigo_Oficial FROM Provincia ORDER BY Nombre";
@@ -239,7 +264,7 @@ void describeProvinces(NodeView& v) {
 }
 
 void describeTowns(NodeView& v) {
-  v.key = "IDMunicipio";
+  describeRows(v, "Municipio", "IDMunicipio", {"Nombre"});
   v.thing = "municipio";
   v.things = "municipios";
   v.node.SQLSelect =
@@ -316,6 +341,38 @@ const NodeView* findNode(std::string_view name) {
   for (const NodeView& v : nodeViews())
     if (v.node.Nombre == name) return &v;
   return nullptr;
+}
+
+namespace {
+
+std::string limited(const NodeView& view, const std::string& condition) {
+  std::string sql = view.node.SQLSelect;
+  const std::size_t order = std::min(sql.rfind(" ORDER BY "), sql.size());
+  const bool more =
+      sql.rfind(" WHERE ") != std::string::npos && sql.rfind(" WHERE ") > sql.rfind(" FROM ");
+  return sql.insert(order, (more ? " AND " : " WHERE ") + condition);
+}
+
+}  // namespace
+
+std::string statementOfGroup(const NodeView& view, std::int32_t group) {
+  return limited(view, view.groupColumn + "=" + std::to_string(group));
+}
+
+std::string statementOfKeys(const NodeView& view, const std::vector<std::int32_t>& keys) {
+  std::string list;
+  for (const std::int32_t key : keys) list += (list.empty() ? "" : ",") + std::to_string(key);
+  return limited(view, view.parts.front().table + "." + view.key + " IN (" + list + ")");
+}
+
+bool readsFrom(const NodeView& view, std::string_view table) {
+  const std::string& sql = view.node.SQLSelect;
+  const auto letter = [](char c) { return c == '_' || (c >= '0' && c <= '9') || (c | 32) >= 'a'; };
+  for (std::size_t at = sql.find(table); at != std::string::npos; at = sql.find(table, at + 1)) {
+    const std::size_t end = at + table.size();
+    if ((at == 0 || !letter(sql[at - 1])) && (end == sql.size() || !letter(sql[end]))) return true;
+  }
+  return false;
 }
 
 const NodeView* entriesNode(const Sacramento& sacrament) {

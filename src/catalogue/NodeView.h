@@ -51,6 +51,13 @@ struct ColumnView {
   std::string word;  // of a Flag that is set
 };
 
+/// A table from which the rows of a list come, and how a row of it leads to the list's: a statement
+/// that ends in "=" and gives the list's key for the key of this row. Empty where the two are one.
+struct RowPart {
+  std::string table;
+  std::string statement;
+};
+
 /// One node of the tree with the list it shows.
 struct NodeView {
   cNodo node;
@@ -61,14 +68,28 @@ struct NodeView {
   std::vector<ColumnView> columns;
   std::string annulled;  // field of the mark of an annulled row; empty when there is none
   std::string group;     // field that puts rows together, such as their book; or empty
-  std::string day;       // field by which the list opens at today; empty for its first row
-  std::string thing;     // "partida": what a row is, for the status bar
-  std::string things;    // "partidas"
+  // How the list is read book by book, in its order: the statement of the books, and the column of
+  // the entries' table that names theirs. Empty where it is read as one.
+  std::string groups;
+  std::string groupColumn;
+  // What a change in them changes in the list is one row each; the first has the list's key. A
+  // change in another table of the statement may change any row.
+  std::vector<RowPart> parts;
+  std::vector<std::string> order;  // fields by which the rows (of a book) are sorted, then the key
+  std::string day;     // field by which the list opens at today; empty for its first row
+  std::string thing;   // "partida": what a row is, for the status bar
+  std::string things;  // "partidas"
 };
 
 /// The nodes that work, parents before their children. `Nombre` of a node is the name that the
 /// operations take ("PartidasBautismo"); no two have the same, though two may read alike.
 const std::vector<NodeView>& nodeViews();
+/// The node's statement for the rows of that book, and for those of these keys alone.
+std::string statementOfGroup(const NodeView& view, std::int32_t group);
+std::string statementOfKeys(const NodeView& view, const std::vector<std::int32_t>& keys);
+/// The statement reads from that table.
+bool readsFrom(const NodeView& view, std::string_view table);
+
 /// Null when there is none of that name.
 const NodeView* findNode(std::string_view name);
 /// The node of a register's entries. Null when it has none.

@@ -37,6 +37,7 @@ class Workplace {
   /// report without rows is told to the user.
   virtual void showListReport(const ListReport& report, Extent extent) = 0;
   virtual void focusFilter() = 0;
+  virtual void readListAnew() = 0;
   /// Chooses the node of that name.
   virtual void showNode(const std::string& name) = 0;
   /// Chooses the entries of that book.

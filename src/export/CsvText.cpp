@@ -44,12 +44,11 @@ std::string line(const Cells& cells, const Write& write) {
 
 }  // namespace
 
-std::string csvText(const ListTable& table) {
-  std::string all = UTF8_MARK;
-  all += line(table.columns, [](const ListColumn& column) { return field(column.title); });
-  for (const auto& row : table.rows)
-    all += line(row, [](const ListCell& cell) { return field(cell); });
-  return all;
+void writeCsv(const ListTable& table, const Sink& sink) {
+  sink(UTF8_MARK +
+       line(table.columns, [](const ListColumn& column) { return field(column.title); }));
+  for (std::size_t row = 0; row < table.count; ++row)
+    sink(line(table.row(row), [](const ListCell& cell) { return field(cell); }));
 }
 
 }  // namespace fidaleon::app

@@ -1,6 +1,10 @@
 #pragma once
 
+#include <cstddef>
+#include <functional>
 #include <string>
+#include <string_view>
+#include <utility>
 #include <vector>
 
 namespace fidaleon::app {
@@ -16,17 +20,23 @@ struct ListCell {
   Kind kind = Kind::Text;
   std::string value;  // empty for nothing, whatever the kind
 };
+using ListLine = std::vector<ListCell>;
 
 struct ListColumn {
   std::string title;
   double centimetres = 3;
 };
 
-/// A list as it is shown, ready to be saved.
+/// A list as it is shown, ready to be saved. Its rows are asked for one by one, from the first to
+/// the last; what the question throws ends the saving.
 struct ListTable {
   std::string name;
   std::vector<ListColumn> columns;
-  std::vector<std::vector<ListCell>> rows;  // each as wide as the columns
+  std::size_t count = 0;
+  std::function<ListLine(std::size_t row)> row;  // as wide as the columns
 };
+
+/// Takes the next part of what is written.
+using Sink = std::function<void(std::string_view part)>;
 
 }  // namespace fidaleon::app

@@ -1,6 +1,8 @@
 #include "export/OdsDocument.h"
 
 #include <QXmlStreamWriter>
+#include <algorithm>
+#include <utility>
 
 #include "export/ZipArchive.h"
 #include "text/Utf8.h"
@@ -12,30 +14,34 @@ constexpr const char* TYPE = "application/vnd.oasis.opendocument.spreadsheet";
 constexpr const char* NAMESPACE = "urn:oasis:names:tc:opendocument:xmlns:";
 constexpr const char* MANIFEST = "urn:oasis:names:tc:opendocument:xmlns:manifest:1.0";
 constexpr int LONGEST_SHEET_NAME = 31;
+constexpr std::uint64_t LONGEST_CELL = 400;  // bytes, on the average of a whole list
 
-QString utf16(const std::string& s) {
-  return QString::fromStdString(s);
+bool isPlain(std::string_view text) {
+  return std::all_of(text.begin(), text.end(), [](char c) { return c >= ' ' && c < 0x7F; });
 }
 
-/// The text without what no XML may hold.
-QString fitForXml(const std::string& s) {
-  QString text = utf16(text::sanitized(s));
-  text.replace("\r\n", "\n").replace('\r', '\n');
-  text.replace('\t', ' ');  // a cell cannot show it
-  return text.remove(QChar(0xFFFE)).remove(QChar(0xFFFF));
+/// The text without what no XML may hold, its lines ended in one way.
+std::string fitForXml(const std::string& s) {
+  if (isPlain(s)) return s;
+  std::string fit = text::replaceAll(text::sanitized(s), "\r\n", "\n");
+  std::replace(fit.begin(), fit.end(), '\r', '\n');
+  std::replace(fit.begin(), fit.end(), '\t', ' ');  // a cell cannot show it
+  for (const char* const none : {"\xEF\xBF\xBE", "\xEF\xBF\xBF"})
+    fit = text::replaceAll(fit, none, "");
+  return fit;
 }
 
 QString sheetName(const std::string& name) {
-  QString fit = fitForXml(name);
+  QString fit = QString::fromStdString(fitForXml(name));
   for (const char c : {'[', ']', '*', '?', ':', '/', '\\', '\'', '\n'}) fit.replace(c, ' ');
   fit = fit.simplified().left(LONGEST_SHEET_NAME).trimmed();
   return fit.isEmpty() ? "Lista" : fit;
 }
 
-/// Writes the elements of the sheet.
-class Sheet {
+/// Writes the sheet as far as its rows.
+class Head {
  public:
-  explicit Sheet(QByteArray& out) : xml_(&out) {}
+  explicit Head(QByteArray& out) : xml_(&out) {}
 
   void write(const ListTable& table) {
     xml_.writeStartDocument("1.0");
@@ -48,8 +54,7 @@ class Sheet {
     writeStyles(table);
     xml_.writeStartElement("office:body");
     xml_.writeStartElement("office:spreadsheet");
-    writeTable(table);
-    xml_.writeEndDocument();
+    writeColumns(table);
   }
 
  private:
@@ -113,87 +118,115 @@ class Sheet {
 
   static QString columnStyle(std::size_t column) { return "columna" + QString::number(column + 1); }
 
-  void writeTable(const ListTable& table) {
+  void writeColumns(const ListTable& table) {
     xml_.writeStartElement("table:table");
     xml_.writeAttribute("table:name", sheetName(table.name));
     for (std::size_t c = 0; c < table.columns.size(); ++c) {
       xml_.writeEmptyElement("table:table-column");
       xml_.writeAttribute("table:style-name", columnStyle(c));
     }
-    xml_.writeStartElement("table:table-header-rows");
-    xml_.writeStartElement("table:table-row");
-    for (const ListColumn& column : table.columns) {
-      xml_.writeStartElement("table:table-cell");
-      xml_.writeAttribute("table:style-name", "titulo");
-      writeString(column.title);
-      xml_.writeEndElement();
-    }
-    xml_.writeEndElement();
-    xml_.writeEndElement();
-    for (const auto& row : table.rows) writeRow(row);
-    xml_.writeEndElement();
-  }
-
-  void writeRow(const std::vector<ListCell>& row) {
-    xml_.writeStartElement("table:table-row");
-    for (const ListCell& cell : row) {
-      xml_.writeStartElement("table:table-cell");
-      if (!cell.value.empty()) writeValue(cell);
-      xml_.writeEndElement();
-    }
-    xml_.writeEndElement();
-  }
-
-  void writeValue(const ListCell& cell) {
-    const QString value = utf16(cell.value);
-    switch (cell.kind) {
-      case ListCell::Kind::Text:
-        return writeString(cell.value);
-      case ListCell::Kind::Number:
-        return writeTyped("float", "office:value", value, nullptr, value);
-      case ListCell::Kind::Date:
-        return writeTyped("date", "office:date-value", value, "fecha",
-                          value.mid(8, 2) + "/" + value.mid(5, 2) + "/" + value.left(4));
-      case ListCell::Kind::Time:
-        return writeTyped("time", "office:time-value",
-                          "PT" + value.left(2) + "H" + value.mid(3, 2) + "M00S", "hora", value);
-    }
-  }
-
-  void writeTyped(const char* type, const char* attribute, const QString& value, const char* style,
-                  const QString& shown) {
-    if (style) xml_.writeAttribute("table:style-name", style);
-    xml_.writeAttribute("office:value-type", type);
-    xml_.writeAttribute(attribute, value);
-    xml_.writeTextElement("text:p", shown);
-  }
-
-  void writeString(const std::string& text) {
-    xml_.writeAttribute("office:value-type", "string");
-    for (const QString& line : fitForXml(text).split('\n')) writeParagraph(line);
-  }
-
-  // Blanks at an end or in a row would otherwise be taken for one blank or none.
-  void writeParagraph(const QString& line) {
-    xml_.writeStartElement("text:p");
-    QString plain;
-    for (qsizetype i = 0; i < line.size(); ++i) {
-      const bool blank = line[i] == ' ';
-      const bool kept = blank && i > 0 && i + 1 < line.size() && line[i - 1] != ' ';
-      if (!blank || kept) {
-        plain += line[i];
-        continue;
-      }
-      xml_.writeCharacters(plain);
-      plain.clear();
-      xml_.writeEmptyElement("text:s");
-    }
-    xml_.writeCharacters(plain);
-    xml_.writeEndElement();
+    xml_.writeCharacters({});  // ends the tag
   }
 
   QXmlStreamWriter xml_;
 };
+
+/// The letters of a text as XML has them.
+void addEscaped(std::string& out, std::string_view text) {
+  for (const char c : text) {
+    switch (c) {
+      case '&':
+        out += "&amp;";
+        break;
+      case '<':
+        out += "&lt;";
+        break;
+      case '>':
+        out += "&gt;";
+        break;
+      case '"':
+        out += "&quot;";
+        break;
+      default:
+        out += c;
+    }
+  }
+}
+
+// Blanks at an end or in a row would otherwise be taken for one blank or none.
+void addParagraph(std::string& out, std::string_view line) {
+  out += "<text:p>";
+  std::size_t from = 0;
+  for (std::size_t i = 0; i < line.size(); ++i) {
+    const bool kept = i > 0 && i + 1 < line.size() && line[i - 1] != ' ';
+    if (line[i] != ' ' || kept) continue;
+    addEscaped(out, line.substr(from, i - from));
+    out += "<text:s/>";
+    from = i + 1;
+  }
+  addEscaped(out, line.substr(from));
+  out += "</text:p>";
+}
+
+void addString(std::string& out, const std::string& text) {
+  out += "office:value-type=\"string\">";
+  const std::string fit = fitForXml(text);
+  std::size_t from = 0;
+  for (std::size_t end; (end = fit.find('\n', from)) != std::string::npos; from = end + 1)
+    addParagraph(out, std::string_view(fit).substr(from, end - from));
+  addParagraph(out, std::string_view(fit).substr(from));
+}
+
+void addTyped(std::string& out, std::string_view type, const std::string& value,
+              const std::string& shown) {
+  out.append("office:value-type=\"").append(type).append("\" office:");
+  out.append(type == "float" ? "value" : std::string(type) + "-value").append("=\"");
+  addEscaped(out, value);
+  out += "\">";
+  addParagraph(out, shown);
+}
+
+void addValue(std::string& out, const ListCell& cell) {
+  const std::string& value = cell.value;
+  switch (cell.kind) {
+    case ListCell::Kind::Text:
+      return addString(out, value);
+    case ListCell::Kind::Number:
+      return addTyped(out, "float", value, value);
+    case ListCell::Kind::Date:
+      out += "table:style-name=\"fecha\" ";
+      return addTyped(out, "date", value,
+                      value.substr(8, 2) + "/" + value.substr(5, 2) + "/" + value.substr(0, 4));
+    case ListCell::Kind::Time:
+      out += "table:style-name=\"hora\" ";
+      return addTyped(out, "time", "PT" + value.substr(0, 2) + "H" + value.substr(3, 2) + "M00S",
+                      value);
+  }
+}
+
+void addRow(std::string& out, const ListLine& row) {
+  out += "<table:table-row>";
+  for (const ListCell& cell : row) {
+    if (cell.value.empty()) {
+      out += "<table:table-cell/>";
+      continue;
+    }
+    out += "<table:table-cell ";
+    addValue(out, cell);
+    out += "</table:table-cell>";
+  }
+  out += "</table:table-row>";
+}
+
+void addTitles(std::string& out, const ListTable& table) {
+  out += "<table:table-header-rows><table:table-row>";
+  for (const ListColumn& column : table.columns) {
+    out += "<table:table-cell table:style-name=\"titulo\" ";
+    addString(out, column.title);
+    out += "</table:table-cell>";
+  }
+  out += "</table:table-row></table:table-header-rows>";
+}
 
 std::string manifest() {
   QByteArray out;
@@ -213,17 +246,29 @@ std::string manifest() {
 
 }  // namespace
 
-std::string odsContent(const ListTable& table) {
-  QByteArray out;
-  Sheet(out).write(table);
-  return out.toStdString();
+std::function<void(std::string& part)> odsContent(const ListTable& table) {
+  return [&table, next = std::size_t{0}, begun = false](std::string& part) mutable {
+    if (!std::exchange(begun, true)) {
+      QByteArray head;
+      Head(head).write(table);
+      part += head.toStdString();
+      addTitles(part, table);
+    } else if (next < table.count) {
+      addRow(part, table.row(next++));
+    } else if (next++ == table.count) {
+      part += "</table:table></office:spreadsheet></office:body></office:document-content>\n";
+    }
+  };
 }
 
-std::string odsDocument(const ListTable& table) {
+void writeOds(const ListTable& table, const std::filesystem::path& file) {
   // Readers know the kind of document by its first member, which they look at as it stands.
-  return zipArchive({{"mimetype", TYPE, ZipEntry::Stored},
-                     {"content.xml", odsContent(table), ZipEntry::Packed},
-                     {"META-INF/manifest.xml", manifest(), ZipEntry::Packed}});
+  std::vector<ZipEntry> entries;
+  entries.push_back(entryOf("mimetype", TYPE, ZipEntry::Stored));
+  const std::uint64_t cells = (table.count + 1) * (table.columns.size() + 1);
+  entries.push_back({"content.xml", odsContent(table), cells * LONGEST_CELL, ZipEntry::Packed});
+  entries.push_back(entryOf("META-INF/manifest.xml", manifest(), ZipEntry::Packed));
+  writeZip(file, std::move(entries));
 }
 
 }  // namespace fidaleon::app

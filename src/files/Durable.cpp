@@ -33,15 +33,6 @@ void writeAll(int fd, std::string_view content, const fs::path& file) {
   }
 }
 
-/// Removed unless it has taken another name.
-struct Passing {
-  ~Passing() {
-    std::error_code ignored;
-    if (!path.empty()) fs::remove(path, ignored);
-  }
-  fs::path path;
-};
-
 }  // namespace
 
 void syncFile(const fs::path& file) {
@@ -80,17 +71,27 @@ void removeForGood(const fs::path& file) {
   if (fs::remove(file)) syncFolderOf(file);
 }
 
+Replacement::Replacement(const fs::path& file)
+    : name_(file), passing_(passingName(file, ".nuevo")) {}
+
+Replacement::~Replacement() {
+  std::error_code ignored;
+  if (!passing_.empty()) fs::remove(passing_, ignored);
+}
+
+void Replacement::takeName() {
+  syncFile(passing_);
+  moveTo(passing_, name_);
+  passing_.clear();
+}
+
 void replace(const fs::path& file, std::string_view content) {
-  Passing next;
+  Replacement next(file);
   {
-    const fs::path name = passingName(file, ".nuevo");
-    const Descriptor out = create(name);
-    next.path = name;
-    writeAll(out.number(), content, next.path);
-    if (::fsync(out.number()) != 0) fail("fsync", next.path);
+    const Descriptor out = create(next.passing());
+    writeAll(out.number(), content, next.passing());
   }
-  moveTo(next.path, file);
-  next.path.clear();
+  next.takeName();
 }
 
 bool isThere(const fs::path& file) {

@@ -22,6 +22,24 @@ void makeFolders(const std::filesystem::path& folder);
 void moveTo(const std::filesystem::path& file, const std::filesystem::path& name);
 /// Takes the file away for good; one that is not there is no fault.
 void removeForGood(const std::filesystem::path& file);
+/// A file in the making, under a passing name beside the one whose place it is to take. Without
+/// takeName() it is gone with this, and the old one is as it was.
+class Replacement {
+ public:
+  explicit Replacement(const std::filesystem::path& file);
+  ~Replacement();
+  Replacement(const Replacement&) = delete;
+  Replacement& operator=(const Replacement&) = delete;
+
+  const std::filesystem::path& passing() const { return passing_; }
+  /// What was written under the passing name is on the disk, and then under its own.
+  void takeName();
+
+ private:
+  std::filesystem::path name_;
+  std::filesystem::path passing_;
+};
+
 /// The file holds this content under its name, with the rights of its folder.
 void replace(const std::filesystem::path& file, std::string_view content);
 

@@ -1,7 +1,9 @@
 #pragma once
 // The seam where a database engine plugs in. Everything throws store::Error.
 
+#include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -58,6 +60,12 @@ class Engine {
   virtual bool inTransaction() const = 0;
 
   virtual const Spelling& spelling() const = 0;
+  /// Told of each row that is stored, changed or taken away from now on, also of what is undone
+  /// later: its table, and its key where the engine counts them.
+  using Touched = std::function<void(std::string_view table, std::int64_t row)>;
+  virtual void onTouched(Touched told) = 0;
+  /// How many that were in all; those that could not be told of too.
+  virtual std::int64_t touchedSoFar() const = 0;
   /// A consistent copy into a new file, which is closed again.
   virtual void backup(const std::filesystem::path& to, const Progress& progress) = 0;
 };

@@ -48,6 +48,8 @@ class ForwardingEngine : public Engine {
   void backup(const std::filesystem::path& to, const Progress& progress) override {
     inner_->backup(to, progress);
   }
+  void onTouched(Touched told) override { inner_->onTouched(std::move(told)); }
+  std::int64_t touchedSoFar() const override { return inner_->touchedSoFar(); }
 
  private:
   std::unique_ptr<Engine> inner_;

@@ -5,13 +5,20 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QHeaderView>
-#include <QSaveFile>
 #include <QTableView>
+#include <cerrno>
+#include <cstdio>
+#include <filesystem>
+#include <memory>
+#include <system_error>
 
 #include "export/CsvText.h"
 #include "export/OdsDocument.h"
+#include "files/Durable.h"
 #include "parish/WindowSettings.h"
 #include "text/Dates.h"
+#include "text/SystemErrors.h"
+#include "window/LongRun.h"
 #include "window/RowsFilter.h"
 
 namespace fidaleon::app {
@@ -20,6 +27,7 @@ namespace {
 constexpr const char* FOLDER = "listas.carpeta";
 constexpr const char* FORMAT = "listas.formato";
 constexpr double CENTIMETRES_PER_INCH = 2.54;
+constexpr std::size_t BETWEEN_LOOKS = 500;  // rows, at whether the user would rather stop
 constexpr std::size_t LONGEST_NUMBER = 15;  // digits that a spreadsheet keeps exactly
 
 /// Leading zeros mean something: "007" is a text.
@@ -37,8 +45,8 @@ std::string isoDate(const text::Date& day) {
 
 ListCell cellOf(const RowsModel& rows, int row, int column) {
   using Kind = ListCell::Kind;
-  const std::string& stored = rows.stored(row, column);
-  const std::string shown = rows.index(row, column).data().toString().toStdString();
+  const std::string stored(rows.stored(row, column));
+  const std::string shown = rows.shown(row, column);
   switch (rows.view()->columns[static_cast<std::size_t>(column)].kind) {
     case ColumnKind::Date:
       if (const auto day = text::parseStored(stored)) return {Kind::Date, isoDate(*day)};
@@ -112,34 +120,57 @@ class TargetDialog : public QFileDialog {
   }
 };
 
-std::string whyNot(QFileDevice::FileError error) {
-  switch (error) {
-    case QFileDevice::NoError:  // less was written than there was, and nothing more said
-    case QFileDevice::ResourceError:
-    case QFileDevice::WriteError:
-      return "no queda sitio en el disco, o se ha perdido la conexión con él.";
-    case QFileDevice::OpenError:
-    case QFileDevice::PermissionsError:
-      return "no hay permiso para escribir ahí, o la carpeta no existe.";
-    case QFileDevice::RenameError:
-      return "otro programa tiene abierto el archivo.";
-    default:
-      return "el sistema responde con el error número " + std::to_string(error) + ".";
-  }
+/// The user would rather not wait.
+class GivenUp {};
+
+std::string whyNot(const std::error_code& error) {
+  if (error == std::errc::no_such_file_or_directory || error == std::errc::not_a_directory ||
+      error == std::errc::permission_denied || error == std::errc::read_only_file_system)
+    return "no hay permiso para escribir ahí, o la carpeta no existe.";
+  if (error == std::errc::text_file_busy || error == std::errc::device_or_resource_busy)
+    return "otro programa tiene abierto el archivo.";
+  if (error == std::errc::no_space_on_device || error == std::errc::file_too_large ||
+      error == std::errc::io_error)
+    return "no queda sitio en el disco, o se ha perdido la conexión con él.";
+  return "el sistema responde: " + text::systemReason(error);
 }
 
-std::string trySaving(const ListTable& table, const Target& target) {
-  try {
-    return replaceFile(target.file, written(table, target.format));
-  } catch (const std::runtime_error& e) {
-    return e.what();
-  }
+void writeInParts(const std::filesystem::path& file,
+                  const std::function<void(const Sink&)>& write) {
+  const std::unique_ptr<std::FILE, int (*)(std::FILE*)> out(std::fopen(file.c_str(), "wbx"),
+                                                            &std::fclose);
+  const auto done = [&](bool well) {
+    if (!well) throw std::system_error(errno, std::generic_category());
+  };
+  done(out != nullptr);
+  write([&](std::string_view part) {
+    done(std::fwrite(part.data(), 1, part.size(), out.get()) == part.size());
+  });
+  done(std::fflush(out.get()) == 0);
 }
 
 void tellFailure(Desk& desk, const QString& file, const std::string& why) {
   desk.entorno().ui.msgBox(
       "No se ha podido guardar la lista en «" + file.toStdString() + "»: " + why,
       forms::MsgButtons::Ok, forms::MsgIcon::Critical, "Guardar la lista");
+}
+
+/// False when the user gave up or has been told of a failure; then the file is as it was.
+bool save(Desk& desk, ListTable table, const Target& target, QWidget* over) {
+  LongRun run;
+  table.row = [&run, count = table.count, row = std::move(table.row)](std::size_t n) {
+    if (n % BETWEEN_LOOKS == 0 && !run.tell(n, count)) throw GivenUp();
+    return row(n);
+  };
+  std::string why;
+  try {
+    run.run(over, QObject::tr("Se está guardando la lista…"),
+            [&] { why = writeList(table, target.format, target.file); });
+  } catch (const GivenUp&) {
+    return false;
+  }
+  if (!why.empty()) tellFailure(desk, target.file, why);
+  return why.empty();
 }
 
 }  // namespace
@@ -153,17 +184,14 @@ ListTable readList(const QTableView& view) {
   for (const int column : columns)
     table.columns.push_back({rows.view()->columns[static_cast<std::size_t>(column)].title,
                              view.columnWidth(column) * CENTIMETRES_PER_INCH / view.logicalDpiX()});
-  for (int row = 0; row < shown.rowCount(); ++row) {
-    const int source = shown.mapToSource(shown.index(row, 0)).row();
-    std::vector<ListCell> cells;
+  table.count = static_cast<std::size_t>(shown.rowCount());
+  table.row = [&shown, &rows, columns](std::size_t row) {
+    const int source = shown.mapToSource(shown.index(static_cast<int>(row), 0)).row();
+    ListLine cells;
     for (const int column : columns) cells.push_back(cellOf(rows, source, column));
-    table.rows.push_back(std::move(cells));
-  }
+    return cells;
+  };
   return table;
-}
-
-std::string written(const ListTable& table, ListFormat format) {
-  return format == ListFormat::Csv ? csvText(table) : odsDocument(table);
 }
 
 ListFormat formatOf(const QString& file, ListFormat otherwise) {
@@ -172,12 +200,21 @@ ListFormat formatOf(const QString& file, ListFormat otherwise) {
   return otherwise;
 }
 
-std::string replaceFile(const QString& file, const std::string& bytes) {
-  QSaveFile out(file);
-  const auto size = static_cast<qint64>(bytes.size());
-  const bool done =
-      out.open(QIODevice::WriteOnly) && out.write(bytes.data(), size) == size && out.commit();
-  return done ? std::string() : whyNot(out.error());
+std::string writeList(const ListTable& table, ListFormat format, const QString& file) {
+  try {
+    // A link stays one, to the new list.
+    files::Replacement next(std::filesystem::weakly_canonical(file.toStdString()));
+    if (format == ListFormat::Ods)
+      writeOds(table, next.passing());
+    else
+      writeInParts(next.passing(), [&](const Sink& sink) { writeCsv(table, sink); });
+    next.takeName();
+    return {};
+  } catch (const std::system_error& e) {
+    return whyNot(e.code());
+  } catch (const std::runtime_error& e) {
+    return e.what();
+  }
 }
 
 QString saveList(Desk& desk, const QTableView& view, QWidget* over) {
@@ -190,12 +227,7 @@ QString saveList(Desk& desk, const QTableView& view, QWidget* over) {
                     QDate::currentDate().toString(Qt::ISODate));
   if (dialog.exec() != QDialog::Accepted) return {};
   const Target target = dialog.chosen();
-  const forms::Hourglass hourglass(desk.entorno().ui);
-  const std::string why = trySaving(table, target);
-  if (!why.empty()) {
-    tellFailure(desk, target.file, why);
-    return {};
-  }
+  if (!save(desk, table, target, over)) return {};
   writeWindowSetting(desk, FOLDER, QFileInfo(target.file).absolutePath().toStdString());
   writeWindowSetting(desk, FORMAT, endingOf(target.format).toStdString());
   return QObject::tr("Lista guardada en «%1».").arg(QDir::toNativeSeparators(target.file));

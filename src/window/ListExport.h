@@ -13,16 +13,14 @@ namespace fidaleon::app {
 enum class ListFormat { Csv, Ods };
 
 /// What the view of a RowsFilter shows: its columns from left to right, its rows from top to
-/// bottom. Texts are whole, also where the view shows less of them.
+/// bottom. Texts are whole, also where the view shows less of them. As long as the view shows it.
 ListTable readList(const QTableView& view);
-/// The bytes of the file. Throws std::runtime_error.
-std::string written(const ListTable& table, ListFormat format);
 /// By the ending of the file; `otherwise` when it has none of the two.
 ListFormat formatOf(const QString& file, ListFormat otherwise);
 
-/// Puts the bytes under a passing name and then in the place of the file, if there is one. Empty
-/// when done; otherwise why not, in Spanish, and the file is as it was.
-std::string replaceFile(const QString& file, const std::string& bytes);
+/// Writes the list under a passing name and then puts it in the place of the file, if there is one.
+/// Empty when done; otherwise why not, in Spanish, and the file is as it was.
+std::string writeList(const ListTable& table, ListFormat format, const QString& file);
 
 /// Asks where to save the list of the view, in which of the two formats, and saves it. The answer
 /// is what to tell in passing; it is empty when the user gave up or has been told of a failure.

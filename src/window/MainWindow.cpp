@@ -29,6 +29,8 @@
 namespace fidaleon::app {
 namespace {
 
+constexpr RowsModel::Time SLICE{15};  // of reading, between what the user does
+
 const char* hintOf(NodeKind kind) {
   switch (kind) {
     case NodeKind::Reports:
@@ -52,7 +54,11 @@ MainWindow::MainWindow(Desk& desk, FormWatch* watch, QWidget* parent)
       removals_(desk.parish()),
       daily_(desk, [this] { sayDamaged(); }),
       identity_(files::identityOf(desk.files().parish())),
-      others_(desk.parish()) {
+      others_(desk.parish()),
+      touched_(desk.parish()),
+      slices_(new QTimer(this)) {
+  connect(slices_, &QTimer::timeout, this,
+          [this] { reading([this] { return rows_.readOn(SLICE); }); });
   takeUpLog();
   setObjectName("MainWindow");
   setPalette(qt::legible(palette()));
@@ -98,6 +104,7 @@ void MainWindow::nodeChosen() {
   right_->setCurrentIndex(hasRows(node_->kind) ? 1 : 0);
   folder_->setText(tr(hintOf(node_->kind)));
   loadRows();
+  if (!node_->day.empty()) finishReading();
   applyColumns();
   selectFirst();
   updateCommands();
@@ -121,6 +128,7 @@ void MainWindow::showEntriesOf(const Sacramento& sacrament, std::int32_t book) {
   table_->setFocus();
   filter_->clear();
   setScope(book, QString::fromStdString(row.text("Nombre")));
+  finishReading();
   selectFirst();
   updateCommands();
   table_->setFocus(Qt::OtherFocusReason);
@@ -148,6 +156,7 @@ void MainWindow::run(const Command& command) {
   if (busy_ || !applies(command, chosen)) return;
   if (command.kinds != 0 && !isInPlace()) return;
   daily_.giveUp();
+  const bool stopped = (command.kinds != 0 || command.refreshes) && rows_.stop();
   busy_ = true;
   try {
     carryOut(command, chosen);
@@ -160,34 +169,9 @@ void MainWindow::run(const Command& command) {
   }
   busy_ = false;
   if (std::exchange(metDamage_, false)) sayDamaged();
-  if (command.refreshes && node_ == chosen.node) refresh(command, chosen.id);
+  if (node_ == chosen.node && stopped) renew();
+  if (node_ == chosen.node && command.refreshes) refresh(command, chosen.id);
   activateWindow();
-}
-
-void MainWindow::loadRows() {
-  try {
-    others_.since();  // what is read now is what they have left
-    rows_.load(desk_.parish(), *node_);
-  } catch (const store::Error& e) {
-    desk_.entorno().ui.msgBox(e.what(), forms::MsgButtons::Ok, forms::MsgIcon::Critical);
-  }
-}
-
-// A row that came to be is chosen after a command that may add one; otherwise the one that was, or
-// the one that took its place.
-void MainWindow::refresh(const Command& after, std::int32_t keep) {
-  const bool mayAdd = after.kinds != 0 && after.needs == Needs::Nothing;
-  std::vector<std::int32_t> before = rows_.keys();
-  std::sort(before.begin(), before.end());
-  const int place = table_->currentIndex().row();
-  loadRows();
-  std::int32_t added = 0;
-  for (const std::int32_t key : rows_.keys())
-    if (!std::binary_search(before.begin(), before.end(), key)) added = std::max(added, key);
-  const bool chosen = (mayAdd && added != 0 && chooseRow(added)) || chooseRow(keep);
-  if (!chosen && shown_.rowCount() > 0)
-    table_->selectRow(std::clamp(place, 0, shown_.rowCount() - 1));
-  updateCommands();
 }
 
 bool MainWindow::chooseRow(std::int32_t key) {
@@ -225,11 +209,12 @@ void MainWindow::updateCount() {
   count_->setText(shown == all ? tr("%L1 %2").arg(all).arg(
                                      all == 1 ? QString::fromStdString(node_->thing) : things)
                                : tr("%L1 de %L2 %3").arg(shown).arg(all).arg(things));
+  if (rows_.isFilling()) count_->setText(count_->text() + tr(" y se siguen leyendo…"));
   empty_->setText(
       all == 0 ? tr("Todavía no hay %1.\nPulse la tecla Insert para añadir.").arg(things)
       : filter_->text().isEmpty() ? tr("Este libro todavía no tiene %1.").arg(things)
                                   : tr("Ninguna fila contiene «%1».").arg(filter_->text()));
-  empty_->setVisible(shown == 0);
+  empty_->setVisible(shown == 0 && !rows_.isFilling());
 }
 
 void MainWindow::filterChanged() {

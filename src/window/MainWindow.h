@@ -17,6 +17,7 @@
 #include "parish/copies/Precaution.h"
 #include "store/ForeignChanges.h"
 #include "store/RemovalWatch.h"
+#include "store/TouchedRows.h"
 #include "window/DailyCheck.h"
 #include "window/ParishDoor.h"
 #include "window/RowsFilter.h"
@@ -29,6 +30,7 @@ class QMenu;
 class QSplitter;
 class QStackedWidget;
 class QTableView;
+class QTimer;
 class QToolBar;
 class QToolButton;
 class QTreeView;
@@ -88,6 +90,7 @@ class MainWindow : public QMainWindow, private Workplace {
   void saveList() override;
   void backUp() override;
   void returnToCopy() override;
+  void readListAnew() override { renew(); }
   void importLegacy() override;
   void about() override;
   void newParish() override;
@@ -123,8 +126,23 @@ class MainWindow : public QMainWindow, private Workplace {
   void sayDamaged();
   bool offerWayOut(const QString& what, const QString& meaning, const QString& way);
   void showParishName();
+  /// After a command: reads what it has touched, or, where that is not known, the list.
   void refresh(const Command& after, std::int32_t keep);
+  struct Touched {
+    bool all = false;  // any row may be
+    std::vector<std::int32_t> keys;
+  };
+  Touched touchedRows();
+  void update(const std::vector<std::int32_t>& keys, bool mayAdd, bool& anew);
   void loadRows();
+  /// Reads the list in the background and then puts it in the place of the one that is shown.
+  void renew(bool chooseAdded = false);
+  /// Does a part of the reading, and sees to it that it goes on.
+  void reading(const std::function<RowsModel::Reading()>& read);
+  void readingEnded();
+  void takeOver();
+  /// With all rows, however long that takes. False when the user did not want to wait.
+  bool finishReading();
   void updateCommands();
   void updateCount();
   void showContextMenu(const QPoint& at);
@@ -147,6 +165,9 @@ class MainWindow : public QMainWindow, private Workplace {
   std::optional<files::Identity> identity_;  // of the parish that is open
   bool metDamage_ = false;
   store::ForeignChanges others_;
+  store::TouchedRows touched_;
+  QTimer* slices_ = nullptr;  // runs while the list is being read
+  bool chooseAdded_ = false;
   const NodeView* node_ = nullptr;
   bool busy_ = false;
   QSplitter* splitter_ = nullptr;

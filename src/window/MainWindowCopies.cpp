@@ -206,6 +206,7 @@ void MainWindow::showParishName() {
 }
 
 void MainWindow::saveList() {
+  if (!finishReading()) return;
   const QString done = app::saveList(desk_, *table_, this);
   if (!done.isEmpty()) statusBar()->showMessage(done, PASSING_MS);
 }

@@ -45,7 +45,7 @@ bool MainWindow::resume(const Task& task) {
   showNode(task.node);
   filter_->clear();
   setScope(0, {});
-  if (task.record != 0 && !chooseRow(task.record)) return false;
+  if (!finishReading() || (task.record != 0 && !chooseRow(task.record))) return false;
   if (!applies(*command, choice())) return false;
   run(*command);
   return true;

@@ -1,14 +1,18 @@
-// The list of the main window, when another desk has changed the parish.
+// How the list of the main window is read: in slices, and after a change only what has changed.
 
 #include <QApplication>
 #include <QScrollBar>
 #include <QTableView>
+#include <QTimer>
 #include <algorithm>
 
+#include "window/LongRun.h"
 #include "window/MainWindow.h"
 
 namespace fidaleon::app {
 namespace {
+
+constexpr RowsModel::Time AT_ONCE{40};  // before the list is shown for the first time
 
 /// The part of a table that is in sight, by the row on top of it.
 class Sight {
@@ -33,20 +37,134 @@ class Sight {
   std::int32_t top_;
 };
 
+/// The highest key that was not among the others; 0 when there is none.
+std::int32_t newKey(std::vector<std::int32_t> before, const std::vector<std::int32_t>& after) {
+  std::sort(before.begin(), before.end());
+  std::int32_t added = 0;
+  for (const std::int32_t key : after)
+    if (key > added && !std::binary_search(before.begin(), before.end(), key)) added = key;
+  return added;
+}
+
 }  // namespace
+
+void MainWindow::loadRows() {
+  others_.since();  // what is read now is what they have left
+  touched_.take();
+  chooseAdded_ = false;
+  reading([this] { return rows_.begin(desk_.parish(), *node_, AT_ONCE); });
+}
+
+void MainWindow::renew(bool chooseAdded) {
+  if (!node_ || !hasRows(node_->kind)) return;
+  others_.since();
+  chooseAdded_ = chooseAdded;
+  reading([this] { return rows_.renew(desk_.parish(), AT_ONCE); });
+}
+
+void MainWindow::reading(const std::function<RowsModel::Reading()>& read) {
+  slices_->stop();
+  try {
+    const RowsModel::Reading reading = read();
+    if (reading == RowsModel::Reading::More) slices_->start();
+    if (reading == RowsModel::Reading::Renewed) takeOver();
+    if (reading == RowsModel::Reading::Whole) readingEnded();
+  } catch (const store::Error& e) {
+    desk_.entorno().ui.msgBox(e.what(), forms::MsgButtons::Ok, forms::MsgIcon::Critical);
+  }
+  updateCount();
+}
+
+// Only now can the rows be sorted, and one be chosen that a filter let through late.
+void MainWindow::readingEnded() {
+  if (shown_.sortIfRead()) table_->scrollTo(table_->currentIndex());
+  if (table_->currentIndex().isValid() || shown_.rowCount() == 0) return;
+  selectFirst();
+  updateCommands();
+}
+
+void MainWindow::takeOver() {
+  const std::int32_t keep = choice().id;
+  const int place = table_->currentIndex().row();
+  const Sight sight(*table_);
+  std::vector<std::int32_t> before;
+  if (chooseAdded_) before = rows_.keys();
+  rows_.takeOver();
+  shown_.sortIfRead();
+  const std::int32_t added = std::exchange(chooseAdded_, false) ? newKey(before, rows_.keys()) : 0;
+  const bool chosen = (added != 0 && chooseRow(added)) || keep == 0 || chooseRow(keep);
+  if (!chosen && shown_.rowCount() > 0)
+    table_->selectRow(std::clamp(place, 0, shown_.rowCount() - 1));
+  if (added == 0) sight.restore(shown_.mapFromSource(rows_.index(rows_.rowOf(sight.top()), 0)));
+  updateCommands();
+}
+
+bool MainWindow::finishReading() {
+  if (rows_.isRead()) return true;
+  slices_->stop();
+  LongRun run;
+  run.run(this, tr("Se está leyendo la lista…"), [&] {
+    while (!rows_.isRead() && run.tell(static_cast<std::size_t>(rows_.rowCount()), 0)) {
+      reading([this] { return rows_.readOn(AT_ONCE); });
+      slices_->stop();
+    }
+  });
+  if (!rows_.isRead()) slices_->start();
+  return rows_.isRead();
+}
+
+MainWindow::Touched MainWindow::touchedRows() {
+  const store::TouchedRows::Rows rows = touched_.take();
+  Touched touched{rows.all, {}};
+  bool lost = false;  // rows beside the list's own that are gone, perhaps with it
+  const std::vector<RowPart>& parts = node_->parts;
+  for (const auto& row : rows.rows) {
+    const auto part = std::find_if(parts.begin(), parts.end(),
+                                   [&](const RowPart& p) { return p.table == row.table; });
+    if (part == parts.end()) {
+      touched.all = touched.all || readsFrom(*node_, row.table);
+      continue;
+    }
+    const auto key =
+        part->statement.empty() ? row.key : touched_.numberOf(part->statement, row.key);
+    lost = lost || key == 0;
+    if (key != 0) touched.keys.push_back(static_cast<std::int32_t>(key));
+  }
+  touched.all = touched.all || (lost && touched.keys.empty());
+  return touched;
+}
+
+// A row that came to be is chosen after a command that may add one; otherwise the one that was, or
+// the one that took its place.
+void MainWindow::refresh(const Command& after, std::int32_t keep) {
+  const bool mayAdd = after.kinds != 0 && after.needs == Needs::Nothing;
+  bool anew = others_.since() || after.kinds == 0;
+  try {
+    Touched touched = touchedRows();
+    anew = anew || touched.all;
+    if (!touched.keys.empty() && keep != 0) touched.keys.push_back(keep);
+    if (!touched.keys.empty()) update(touched.keys, mayAdd, anew);
+  } catch (const store::Error& e) {
+    desk_.entorno().ui.msgBox(e.what(), forms::MsgButtons::Ok, forms::MsgIcon::Critical);
+  }
+  if (anew) renew(mayAdd);
+  updateCommands();
+}
+
+void MainWindow::update(const std::vector<std::int32_t>& keys, bool mayAdd, bool& anew) {
+  const std::int32_t keep = choice().id;
+  const int place = table_->currentIndex().row();
+  const RowsModel::Update update = rows_.update(desk_.parish(), keys);
+  anew = anew || !update.placed;
+  const bool chosen = (mayAdd && update.added != 0 && chooseRow(update.added)) || chooseRow(keep);
+  if (!chosen && shown_.rowCount() > 0)
+    table_->selectRow(std::clamp(place, 0, shown_.rowCount() - 1));
+}
 
 void MainWindow::renewIfChanged() {
   const bool occupied =
       busy_ || QApplication::activeModalWidget() || QApplication::activePopupWidget();
-  if (occupied || !node_ || !hasRows(node_->kind) || !others_.since()) return;
-  const std::int32_t keep = choice().id;
-  const int place = table_->currentIndex().row();
-  const Sight sight(*table_);
-  loadRows();
-  if (keep != 0 && !chooseRow(keep) && shown_.rowCount() > 0)
-    table_->selectRow(std::clamp(place, 0, shown_.rowCount() - 1));
-  sight.restore(shown_.mapFromSource(rows_.index(rows_.rowOf(sight.top()), 0)));
-  updateCommands();
+  if (!occupied && node_ && hasRows(node_->kind) && others_.since()) renew();
 }
 
 }  // namespace fidaleon::app

@@ -4,8 +4,8 @@
 #include <QGuiApplication>
 #include <QPalette>
 #include <algorithm>
-#include <string_view>
-#include <unordered_map>
+#include <numeric>
+#include <utility>
 
 #include "text/Dates.h"
 #include "text/Numbers.h"
@@ -14,15 +14,17 @@
 namespace fidaleon::app {
 namespace {
 
-std::string shownDate(const std::string& stored) {
+constexpr int AT_LEAST = 500;  // rows between two looks at the clock
+
+std::string shownDate(std::string_view stored) {
   if (const auto day = text::parseStored(stored)) return text::toShort(*day);
-  return text::isBlankDate(stored) ? std::string() : stored;
+  return text::isBlankDate(stored) ? std::string() : std::string(stored);
 }
 
 // A cell has one line.
-std::string shownText(const std::string& stored) {
+std::string shownText(std::string_view stored) {
   if (stored == "---") return {};
-  std::string line = stored;
+  std::string line(stored);
   std::replace_if(
       line.begin(), line.end(), [](char c) { return c == '\r' || c == '\n' || c == '\t'; }, ' ');
   return line;
@@ -43,31 +45,15 @@ QColor faded(const QPalette& palette) {
           mix(text.blue(), base.blue())};
 }
 
-/// Folds texts for the filter. Taking accents off is slow, and the same names and towns come
-/// again and again.
-class Folder {
- public:
-  void append(std::string& key, const std::string& text) {
-    if (std::all_of(text.begin(), text.end(), [](unsigned char c) { return c < 0x80; })) {
-      key += text::foldCase(text);
-      return;
-    }
-    const auto [known, isNew] = known_.try_emplace(text);
-    if (isNew) known->second = text::searchKey(text);
-    key += known->second;
-  }
-
- private:
-  std::unordered_map<std::string, std::string> known_;
-};
+int sign(double n) {
+  return n < 0 ? -1 : n > 0 ? 1 : 0;
+}
 
 /// Below, equal or above 0, as the values of such a column sort.
 int compared(ColumnKind kind, std::string_view a, std::string_view b) {
   if (kind == ColumnKind::Date || kind == ColumnKind::Time) return a.compare(b);
   if (kind == ColumnKind::Number || kind == ColumnKind::Flag) {
-    const double x = text::Val(a);
-    const double y = text::Val(b);
-    if (x != y) return x < y ? -1 : 1;
+    if (const int by = sign(text::Val(a) - text::Val(b)); by != 0) return by;
   }
   return text::compare(a, b);
 }
@@ -75,61 +61,161 @@ int compared(ColumnKind kind, std::string_view a, std::string_view b) {
 }  // namespace
 
 void RowsModel::load(store::Connection& connection, const NodeView& view) {
-  Content content = read(connection, view);
+  begin(connection, view, WHATEVER_IT_TAKES);
+}
+
+RowsModel::Reading RowsModel::begin(store::Connection& connection, const NodeView& view,
+                                    Time atMost) {
+  auto reader = std::make_unique<RowsReader>(connection, view);
+  SlimRows first(view.columns.size());
+  std::swap(reader_, reader);
+  try {
+    read(first, atMost);
+  } catch (...) {
+    reader_ = std::move(reader);
+    throw;
+  }
   beginResetModel();
   view_ = &view;
-  rows_ = std::move(content.rows);
-  cells_ = std::move(content.cells);
-  search_.clear();
-  places_.assign(view.columns.size(), {});
+  coming_.reset();
+  rows_ = std::move(first);
+  count_ = rows_.count();
+  ranks_.assign(view.columns.size(), {});
+  endResetModel();
+  return reader_ ? Reading::More : Reading::Whole;
+}
+
+RowsModel::Reading RowsModel::renew(store::Connection& connection, Time atMost) {
+  stop();
+  reader_ = std::make_unique<RowsReader>(connection, *view_);
+  coming_.emplace(view_->columns.size());
+  return readOn(atMost);
+}
+
+RowsModel::Reading RowsModel::readOn(Time atMost) {
+  if (!reader_) return Reading::Whole;
+  if (coming_) return read(*coming_, atMost) == Reading::More ? Reading::More : Reading::Renewed;
+  const Reading reading = read(rows_, atMost);
+  if (rows_.count() > count_) {
+    beginInsertRows({}, count_, rows_.count() - 1);
+    count_ = rows_.count();
+    endInsertRows();
+  }
+  return reading;
+}
+
+RowsModel::Reading RowsModel::read(SlimRows& rows, Time atMost) {
+  const auto start = std::chrono::steady_clock::now();
+  const int before = rows.count();
+  try {
+    for (ListRow row; reader_->next(row);) {
+      rows.append(row);
+      const int done = rows.count() - before;
+      if (done % AT_LEAST == 0 && std::chrono::steady_clock::now() - start > atMost)
+        return Reading::More;
+    }
+  } catch (...) {
+    stop();
+    throw;
+  }
+  reader_.reset();
+  return Reading::Whole;
+}
+
+void RowsModel::takeOver() {
+  beginResetModel();
+  rows_ = std::move(*coming_);
+  coming_.reset();
+  count_ = rows_.count();
+  ranks_.assign(view_->columns.size(), {});
   endResetModel();
 }
 
-RowsModel::Content RowsModel::read(store::Connection& connection, const NodeView& view) {
-  Content content;
-  if (view.node.SQLSelect.empty()) return content;
-  auto set = connection.Execute(view.node.SQLSelect);
-  const auto count = static_cast<std::size_t>(set.RecordCount());
-  content.rows.reserve(count);
-  content.cells.reserve(count * view.columns.size());
-  for (; !set.EOF_(); set.MoveNext()) {
-    Row row;
-    row.key = static_cast<std::int32_t>(set.integer(view.key));
-    if (!view.group.empty()) row.group = static_cast<std::int32_t>(set.integer(view.group));
-    row.annulled = !view.annulled.empty() && set.flag(view.annulled);
-    for (const ColumnView& column : view.columns) content.cells.push_back(set.text(column.field));
-    content.rows.push_back(row);
+bool RowsModel::stop() {
+  coming_.reset();
+  return std::exchange(reader_, nullptr) != nullptr;
+}
+
+RowsModel::Update RowsModel::update(store::Connection& connection,
+                                    const std::vector<std::int32_t>& keys) {
+  Update result;
+  const std::vector<ListRow> fresh = readRows(connection, *view_, keys);
+  const auto nowhere = [&](std::int32_t key) {
+    return std::none_of(fresh.begin(), fresh.end(), [&](const auto& r) { return r.key == key; });
+  };
+  for (const std::int32_t key : keys)
+    if (const int row = rowOf(key); row >= 0 && nowhere(key)) remove(row);
+  for (const ListRow& content : fresh) {
+    const int row = rowOf(content.key);
+    if (row >= 0 && group(row) == content.group && compared(content, row) == 0) {
+      rows_.replace(row, content);
+      emit dataChanged(index(row, 0), index(row, columnCount() - 1));
+      continue;
+    }
+    if (row >= 0) remove(row);
+    result.placed = insert(content) && result.placed;
+    if (row < 0) result.added = std::max(result.added, content.key);
   }
-  return content;
+  return result;
+}
+
+void RowsModel::remove(int row) {
+  beginRemoveRows({}, row, row);
+  rows_.remove(row);
+  --count_;
+  endRemoveRows();
+}
+
+// A book that has no rows yet has no place among the others that could be told here.
+bool RowsModel::insert(const ListRow& content) {
+  const auto [first, last] = rows_.rowsOf(content.group);
+  if (first == last && count_ > 0) return false;
+  int low = first;
+  for (int high = last; low < high;) {
+    const int middle = low + (high - low) / 2;
+    if (compared(content, middle) > 0)
+      low = middle + 1;
+    else
+      high = middle;
+  }
+  beginInsertRows({}, low, low);
+  rows_.insert(low, content);
+  ++count_;
+  endInsertRows();
+  return true;
+}
+
+/// Below, equal or above 0: where the row comes in the order of the list.
+int RowsModel::compared(const ListRow& row, int other) const {
+  for (const std::string& field : view_->order) {
+    const auto column = static_cast<std::size_t>(columnOf(field));
+    const std::string_view there = stored(other, static_cast<int>(column));
+    const int difference = view_->columns[column].kind == ColumnKind::Number
+                               ? sign(text::Val(row.cells[column]) - text::Val(there))
+                               : text::compare(row.cells[column], there);
+    if (difference != 0) return difference;
+  }
+  return row.key < key(other) ? -1 : row.key > key(other) ? 1 : 0;
 }
 
 int RowsModel::rowCount(const QModelIndex& parent) const {
-  return parent.isValid() ? 0 : static_cast<int>(rows_.size());
+  return parent.isValid() ? 0 : count_;
 }
 
 int RowsModel::columnCount(const QModelIndex& parent) const {
   return parent.isValid() || !view_ ? 0 : static_cast<int>(view_->columns.size());
 }
 
-std::vector<std::int32_t> RowsModel::keys() const {
-  std::vector<std::int32_t> keys;
-  keys.reserve(rows_.size());
-  for (const Row& row : rows_) keys.push_back(row.key);
-  return keys;
-}
-
-int RowsModel::rowOf(std::int32_t key) const {
-  const auto found =
-      std::find_if(rows_.begin(), rows_.end(), [&](const Row& row) { return row.key == key; });
-  return found == rows_.end() ? -1 : static_cast<int>(found - rows_.begin());
+int RowsModel::columnOf(const std::string& field) const {
+  const auto& columns = view_->columns;
+  const auto at = std::find_if(columns.begin(), columns.end(),
+                               [&](const ColumnView& c) { return c.field == field; });
+  return at == columns.end() ? -1 : static_cast<int>(at - columns.begin());
 }
 
 int RowsModel::nextFrom(const std::string& day) const {
-  const auto& columns = view_->columns;
-  const auto at = std::find_if(columns.begin(), columns.end(),
-                               [&](const ColumnView& c) { return c.field == view_->day; });
-  if (at == columns.end()) return -1;
-  const int column = static_cast<int>(at - columns.begin());
+  const int column = columnOf(view_->day);
+  if (column < 0) return -1;
   int next = -1;
   for (int row = 0; row < rowCount(); ++row)
     if (stored(row, column) >= day && (next < 0 || stored(row, column) < stored(next, column)))
@@ -137,19 +223,17 @@ int RowsModel::nextFrom(const std::string& day) const {
   return next;
 }
 
-const std::string& RowsModel::stored(int row, int column) const {
-  return cells_[static_cast<std::size_t>(row) * view_->columns.size() +
-                static_cast<std::size_t>(column)];
+std::string RowsModel::shown(int row, int column) const {
+  return shown(stored(row, column), column);
 }
 
-std::string RowsModel::shown(int row, int column) const {
+std::string RowsModel::shown(std::string_view text, int column) const {
   const ColumnView& c = view_->columns[static_cast<std::size_t>(column)];
-  const std::string& text = stored(row, column);
   switch (c.kind) {
     case ColumnKind::Date:
       return shownDate(text);
     case ColumnKind::Time:
-      return text::parseTime(text).value_or(text);
+      return text::parseTime(text).value_or(std::string(text));
     case ColumnKind::Flag:
       return flagWord(c.word, text != "0" && !text.empty());
     default:
@@ -157,67 +241,71 @@ std::string RowsModel::shown(int row, int column) const {
   }
 }
 
-int RowsModel::place(int row, int column) const {
-  std::vector<int>& all = places_[static_cast<std::size_t>(column)];
-  if (all.empty()) all = places(column);
-  return all[static_cast<std::size_t>(row)];
-}
-
-std::vector<int> RowsModel::places(int column) const {
+bool RowsModel::isBefore(int row, int other, int column) const {
+  std::vector<int>& all = ranks_[static_cast<std::size_t>(column)];
+  if (all.empty()) all = ranks(column);
+  const std::size_t a = rows_.number(row, column);
+  const std::size_t b = rows_.number(other, column);
+  if (a < all.size() && b < all.size()) return all[a] < all[b];
   const ColumnKind kind = view_->columns[static_cast<std::size_t>(column)].kind;
-  std::unordered_map<std::string_view, int> placeOf;
-  for (int row = 0; row < rowCount(); ++row) placeOf.try_emplace(stored(row, column));
-  std::vector<std::string_view> values;
-  for (const auto& [value, place] : placeOf) values.push_back(value);
-  std::sort(values.begin(), values.end(),
-            [&](std::string_view a, std::string_view b) { return compared(kind, a, b) < 0; });
-  for (std::size_t i = 1; i < values.size(); ++i)
-    placeOf[values[i]] =
-        placeOf[values[i - 1]] + (compared(kind, values[i - 1], values[i]) != 0 ? 1 : 0);
-  std::vector<int> places;
-  for (int row = 0; row < rowCount(); ++row) places.push_back(placeOf[stored(row, column)]);
-  return places;
+  return app::compared(kind, stored(row, column), stored(other, column)) < 0;
 }
 
-const std::string& RowsModel::searchKey(int row) const {
-  if (search_.empty()) makeSearchKeys();
-  return search_[static_cast<std::size_t>(row)];
-}
-
-void RowsModel::makeSearchKeys() const {
-  Folder folder;
-  search_.resize(rows_.size());
-  for (int row = 0; row < rowCount(); ++row) {
-    std::string& key = search_[static_cast<std::size_t>(row)];
-    for (int column = 0; column < columnCount(); ++column) {
-      folder.append(key, shown(row, column));
-      key += '\n';
-    }
+std::vector<int> RowsModel::ranks(int column) const {
+  const Texts& texts = rows_.texts(column);
+  const ColumnKind kind = view_->columns[static_cast<std::size_t>(column)].kind;
+  std::vector<std::uint32_t> sorted(texts.count());
+  std::iota(sorted.begin(), sorted.end(), 0u);
+  std::sort(sorted.begin(), sorted.end(),
+            [&](auto a, auto b) { return app::compared(kind, texts.at(a), texts.at(b)) < 0; });
+  std::vector<int> ranks(sorted.size());
+  for (std::size_t i = 1; i < sorted.size(); ++i) {
+    const bool equal = app::compared(kind, texts.at(sorted[i - 1]), texts.at(sorted[i])) == 0;
+    ranks[sorted[i]] = ranks[sorted[i - 1]] + (equal ? 0 : 1);
   }
+  return ranks;
+}
+
+bool RowsModel::holds(int row, const std::string& word, Known& known) const {
+  if (known.empty())
+    for (int c = 0; c < columnCount(); ++c) known.push_back(holding(c, word));
+  for (int c = 0; c < columnCount(); ++c) {
+    const std::vector<bool>& column = known[static_cast<std::size_t>(c)];
+    const std::size_t number = rows_.number(row, c);
+    if (number < column.size() ? column[number]
+                               : text::searchKey(shown(row, c)).find(word) != std::string::npos)
+      return true;
+  }
+  return false;
+}
+
+std::vector<bool> RowsModel::holding(int column, const std::string& word) const {
+  const Texts& texts = rows_.texts(column);
+  std::vector<bool> found(texts.count());
+  for (std::uint32_t n = 0; n < texts.count(); ++n)
+    found[n] = text::searchKey(shown(texts.at(n), column)).find(word) != std::string::npos;
+  return found;
 }
 
 QVariant RowsModel::data(const QModelIndex& index, int role) const {
   if (!index.isValid()) return {};
-  const Row& row = rows_[static_cast<std::size_t>(index.row())];
   switch (role) {
     case Qt::DisplayRole:
       return QString::fromStdString(shown(index.row(), index.column()));
     case KeyRole:
-      return row.key;
+      return key(index.row());
     case AnnulledRole:
-      return row.annulled;
-    case SearchRole:
-      return QString::fromStdString(searchKey(index.row()));
+      return annulled(index.row());
     default:
-      return appearance(row, index.column(), role);
+      return appearance(index.row(), index.column(), role);
   }
 }
 
-QVariant RowsModel::appearance(const Row& row, int column, int role) const {
+QVariant RowsModel::appearance(int row, int column, int role) const {
   const ColumnView& c = view_->columns[static_cast<std::size_t>(column)];
   if (role == Qt::TextAlignmentRole && c.kind == ColumnKind::Number)
     return QVariant(Qt::AlignRight | Qt::AlignVCenter);
-  if (!row.annulled) return {};
+  if (!annulled(row)) return {};
   const bool mark = c.field == view_->annulled;
   if (role == Qt::FontRole) {
     QFont font;

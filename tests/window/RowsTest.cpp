@@ -113,6 +113,42 @@ TEST_F(Rows, AnotherLoad_SortsAndFiltersWhatIsThereNow) {
   EXPECT_EQ(model.rowOf(999), -1);
 }
 
+TEST_F(Rows, ReadInSlicesAndWhereTouched_TheyAreThoseOfALoad) {
+  const NodeView& view = *findNode("PartidasBautismo");
+  const auto texts = [](const QAbstractItemModel& of) {
+    std::string all;
+    for (int r = 0; r < of.rowCount(); ++r)
+      for (int c = 0; c < of.columnCount(); ++c)
+        all += of.index(r, c).data().toString().toStdString() + (c == 0 ? '\n' : '|');
+    return all;
+  };
+  for (int n = 0; n < 700; ++n)
+    add("Ana", "Gil " + std::to_string(n % 90), std::to_string(n), "19990101", false);
+  QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::Fatal);
+  shown.setText("ana");
+  EXPECT_EQ(model.begin(*con, view, RowsModel::Time{0}), RowsModel::Reading::More);
+  shown.sort(column("Primer apellido"));
+  EXPECT_EQ(model.rowCount(), 500);
+  while (model.readOn(RowsModel::Time{0}) == RowsModel::Reading::More) continue;
+  EXPECT_TRUE(shown.sortIfRead());
+  con->Execute("UPDATE Bautismo SET Numero=\"699\" WHERE IDBautismo=30");
+  con->Execute("UPDATE Bautismo_Hijo SET PrimerApellido=\"Abad\" WHERE CodBautismo=31");
+  con->Execute("DELETE FROM Bautismo WHERE IDBautismo=32");
+  add("Ana", "Zamora", "3", "20200101", false);
+  const RowsModel::Update update = model.update(*con, {30, 31, 32, entries});
+  EXPECT_TRUE(update.placed);
+  EXPECT_EQ(update.added, entries);
+  RowsModel whole;
+  whole.load(*con, view);
+  EXPECT_TRUE(texts(model) == texts(whole));
+  EXPECT_EQ(cell(0, "Primer apellido"), "Abad");
+  EXPECT_EQ(cell(shown.rowCount() - 1, "Primer apellido"), "Zamora");
+  EXPECT_EQ(shown.rowCount(), 701) << "a row of another name is filtered";
+  EXPECT_EQ(model.renew(*con, RowsModel::WHATEVER_IT_TAKES), RowsModel::Reading::Renewed);
+  model.takeOver();
+  EXPECT_TRUE(texts(model) == texts(whole));
+}
+
 TEST_F(Rows, TimesAreShownWithAColon_AndALongTextInOneLine) {
   for (const char* times : {"HoraInicio=0905", "HoraFin=2330"})
     insert(*con, "Tareas", std::string("Fecha=20260524; Nombre=Coro; ") + times);

@@ -147,6 +147,24 @@ bool SqliteEngine::inTransaction() const {
   return sqlite3_get_autocommit(db_) == 0;
 }
 
+void SqliteEngine::onTouched(Touched told) {
+  touched_ = std::move(told);
+  if (!touched_) {
+    sqlite3_update_hook(db_, nullptr, nullptr);
+    return;
+  }
+  sqlite3_update_hook(
+      db_,
+      [](void* to, int, const char*, const char* table, sqlite3_int64 row) {
+        (*static_cast<Touched*>(to))(table, row);
+      },
+      &touched_);
+}
+
+std::int64_t SqliteEngine::touchedSoFar() const {
+  return sqlite3_total_changes64(db_);
+}
+
 void SqliteEngine::requireSound(bool quickly, const Progress& progress) {
   const Heed heed(db_, progress);
   SqliteStatement statement(db_, quickly ? "PRAGMA quick_check" : "PRAGMA integrity_check");

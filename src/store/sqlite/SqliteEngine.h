@@ -31,6 +31,8 @@ class SqliteEngine : public Engine {
   bool inTransaction() const override;
   const Spelling& spelling() const override { return spelling_; }
   void backup(const std::filesystem::path& to, const Progress& progress) override;
+  void onTouched(Touched told) override;
+  std::int64_t touchedSoFar() const override;
 
   /// Replaces what this database holds by what `from` holds.
   void copyFrom(SqliteEngine& from, const Progress& progress = {});
@@ -50,6 +52,7 @@ class SqliteEngine : public Engine {
 
   sqlite3* db_ = nullptr;
   SqliteSpelling spelling_;
+  Touched touched_;
 };
 
 }  // namespace fidaleon::store

@@ -1,0 +1,45 @@
+#include "store/TouchedRows.h"
+
+#include <algorithm>
+
+#include "store/Engine.h"
+#include "store/RowCounts.h"
+
+namespace fidaleon::store {
+
+namespace {
+
+constexpr std::size_t kMost = 400;  // with more of them a list is as well read anew
+
+}  // namespace
+
+TouchedRows::TouchedRows(Connection& connection)
+    : connection_(connection), before_(connection.engine().touchedSoFar()) {
+  connection.engine().onTouched([this](std::string_view table, std::int64_t row) {
+    ++told_;
+    Row touched{std::string(table), row};
+    if (rows_.size() > kMost || std::find(rows_.begin(), rows_.end(), touched) != rows_.end())
+      return;
+    rows_.push_back(std::move(touched));
+  });
+}
+
+TouchedRows::~TouchedRows() {
+  connection_.engine().onTouched({});
+}
+
+TouchedRows::Rows TouchedRows::take() {
+  const std::int64_t now = connection_.engine().touchedSoFar();
+  Rows touched;
+  touched.all = rows_.size() > kMost || now - before_ != told_;
+  touched.rows = std::exchange(rows_, {});
+  before_ = now;
+  told_ = 0;
+  return touched;
+}
+
+std::int64_t TouchedRows::numberOf(const std::string& statement, std::int64_t row) const {
+  return onlyNumber(connection_.engine(), statement + std::to_string(row));
+}
+
+}  // namespace fidaleon::store

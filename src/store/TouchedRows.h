@@ -1,0 +1,47 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "store/Connection.h"
+
+namespace fidaleon::store {
+
+/// Notes which rows a connection touches, also in what it takes back, so that a list can read those
+/// again and no others. One at a time on a connection.
+class TouchedRows {
+ public:
+  struct Row {
+    std::string table;
+    std::int64_t key;  // where the table counts its rows, its counter
+    bool operator==(const Row&) const = default;
+  };
+  /// What was touched since the last call.
+  struct Rows {
+    bool all = false;  // they were too many, or not all are known
+    std::vector<Row> rows;
+    bool none() const { return !all && rows.empty(); }
+  };
+
+  /// The connection must outlive this.
+  explicit TouchedRows(Connection& connection);
+  ~TouchedRows();
+  TouchedRows(const TouchedRows&) = delete;
+  TouchedRows& operator=(const TouchedRows&) = delete;
+
+  Rows take();
+  /// The rows of a touched table are found by a statement that ends in "=": the number it gives
+  /// for this row, 0 when there is no such row any more.
+  std::int64_t numberOf(const std::string& statement, std::int64_t row) const;
+
+ private:
+  Connection& connection_;
+  std::int64_t before_;
+  std::int64_t told_ = 0;
+  std::vector<Row> rows_;
+};
+
+}  // namespace fidaleon::store
