@@ -27,6 +27,7 @@
 #include "parish/NewParish.h"
 #include "qt/QtUserInterface.h"
 #include "registers/common/FormaPartida.h"
+#include "store/Open.h"
 #include "support/Clocks.h"
 #include "support/MemorySettings.h"
 #include "window/MainWindow.h"
