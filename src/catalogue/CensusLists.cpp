@@ -14,6 +14,7 @@ void describeRole(NodeView& v, const char* satellite) {
   v.key = "IDPadron";
   v.parts = {{"Padron", {}}, ofPerson("Padron_TipoPersona"), ofPerson(satellite)};
   v.order = BY_NAME;
+  v.scattered = true;
 }
 
 }  // namespace

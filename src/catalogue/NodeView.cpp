@@ -359,6 +359,13 @@ std::string statementOfGroup(const NodeView& view, std::int32_t group) {
   return limited(view, view.groupColumn + "=" + std::to_string(group));
 }
 
+std::string statementOfRange(const NodeView& view, std::int64_t after, std::int64_t upTo) {
+  const std::string key = view.parts.front().table + "." + view.key;
+  const std::string sql = limited(
+      view, key + ">" + std::to_string(after) + " AND " + key + "<=" + std::to_string(upTo));
+  return sql.substr(0, sql.rfind(" ORDER BY ")) + " ORDER BY " + key;
+}
+
 std::string statementOfKeys(const NodeView& view, const std::vector<std::int32_t>& keys) {
   std::string list;
   for (const std::int32_t key : keys) list += (list.empty() ? "" : ",") + std::to_string(key);

@@ -75,6 +75,9 @@ struct NodeView {
   // What a change in them changes in the list is one row each; the first has the list's key. A
   // change in another table of the statement may change any row.
   std::vector<RowPart> parts;
+  // The rows lie elsewhere than an index leads to them in the order of the list: only the first are
+  // read by it, all of them as they lie.
+  bool scattered = false;
   std::vector<std::string> order;  // fields by which the rows (of a book) are sorted, then the key
   std::string day;     // field by which the list opens at today; empty for its first row
   std::string thing;   // "partida": what a row is, for the status bar
@@ -84,8 +87,10 @@ struct NodeView {
 /// The nodes that work, parents before their children. `Nombre` of a node is the name that the
 /// operations take ("PartidasBautismo"); no two have the same, though two may read alike.
 const std::vector<NodeView>& nodeViews();
-/// The node's statement for the rows of that book, and for those of these keys alone.
+/// The node's statement for the rows of that book, for those of the keys above one and up to
+/// another in the order of the keys, and for those of these keys alone.
 std::string statementOfGroup(const NodeView& view, std::int32_t group);
+std::string statementOfRange(const NodeView& view, std::int64_t after, std::int64_t upTo);
 std::string statementOfKeys(const NodeView& view, const std::vector<std::int32_t>& keys);
 /// The statement reads from that table.
 bool readsFrom(const NodeView& view, std::string_view table);

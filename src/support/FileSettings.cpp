@@ -149,6 +149,9 @@ void FileSettings::remove(const std::string& application, const std::string& sec
 
 void FileSettings::update(const std::function<bool(SettingValues&)>& change) {
   try {
+    refresh();
+    SettingValues known = values_;
+    if (!change(known)) return;
     files::makeFolders(file_.parent_path());
     const locks::File turn = turnToWrite(file_);
     load();

@@ -1,5 +1,6 @@
 #include "window/Icons.h"
 
+#include <QIconEngine>
 #include <QPainter>
 #include <QPainterPath>
 #include <QPixmap>
@@ -8,6 +9,8 @@
 
 namespace fidaleon::app {
 namespace {
+
+constexpr double SHEET = 24;
 
 /// Strokes on a sheet of 24 by 24: M x y lifts the pen to a point, L x y draws to one, Z closes
 /// the line, O x y r draws a circle.
@@ -90,31 +93,48 @@ QPainterPath pathOf(const char* strokes) {
   return path;
 }
 
-void draw(QIcon& icon, QIcon::Mode mode, const QPainterPath& path, const QColor& colour) {
-  for (const int size : {16, 24, 32, 48}) {
-    QPixmap sheet(size, size);
+/// Draws what is asked for in the size that is asked for, and nothing before.
+class Strokes : public QIconEngine {
+ public:
+  Strokes(const char* strokes, const QPalette& palette) : strokes_(strokes), palette_(palette) {}
+
+  void paint(QPainter* painter, const QRect& at, QIcon::Mode mode, QIcon::State) override {
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->translate(at.topLeft());
+    painter->scale(at.width() / SHEET, at.height() / SHEET);
+    painter->setPen(QPen(colour(mode), 1.6, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter->drawPath(pathOf(strokes_));
+    painter->restore();
+  }
+
+  QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
+    QPixmap sheet(size);
     sheet.fill(Qt::transparent);
     QPainter painter(&sheet);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.scale(size / 24.0, size / 24.0);
-    painter.setPen(QPen(colour, 1.6, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    painter.drawPath(path);
-    icon.addPixmap(sheet, mode);
+    paint(&painter, QRect({0, 0}, size), mode, state);
+    return sheet;
   }
-}
+
+  QIconEngine* clone() const override { return new Strokes(*this); }
+
+ private:
+  QColor colour(QIcon::Mode mode) const {
+    if (mode == QIcon::Disabled) return palette_.color(QPalette::Disabled, QPalette::WindowText);
+    return palette_.color(QPalette::Active, mode == QIcon::Selected ? QPalette::HighlightedText
+                                                                    : QPalette::WindowText);
+  }
+
+  const char* strokes_;
+  QPalette palette_;
+};
 
 }  // namespace
 
 QIcon icon(const std::string& name, const QPalette& palette) {
-  QIcon made;
-  for (const Drawing& d : DRAWINGS) {
-    if (name != d.name) continue;
-    const QPainterPath path = pathOf(d.strokes);
-    draw(made, QIcon::Normal, path, palette.color(QPalette::Active, QPalette::WindowText));
-    draw(made, QIcon::Disabled, path, palette.color(QPalette::Disabled, QPalette::WindowText));
-    draw(made, QIcon::Selected, path, palette.color(QPalette::Active, QPalette::HighlightedText));
-  }
-  return made;
+  for (const Drawing& d : DRAWINGS)
+    if (name == d.name) return QIcon(new Strokes(d.strokes, palette));
+  return {};
 }
 
 }  // namespace fidaleon::app

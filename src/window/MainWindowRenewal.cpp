@@ -57,6 +57,7 @@ void MainWindow::loadRows() {
 
 void MainWindow::renew(bool chooseAdded) {
   if (!node_ || !hasRows(node_->kind)) return;
+  if (rows_.view() != node_) return loadRows();  // it could not be read before
   others_.since();
   chooseAdded_ = chooseAdded;
   reading([this] { return rows_.renew(desk_.parish(), AT_ONCE); });
@@ -87,6 +88,7 @@ void MainWindow::takeOver() {
   const std::int32_t keep = choice().id;
   const int place = table_->currentIndex().row();
   const Sight sight(*table_);
+  const bool firstTime = rows_.isFilling();
   std::vector<std::int32_t> before;
   if (chooseAdded_) before = rows_.keys();
   rows_.takeOver();
@@ -95,6 +97,7 @@ void MainWindow::takeOver() {
   const bool chosen = (added != 0 && chooseRow(added)) || keep == 0 || chooseRow(keep);
   if (!chosen && shown_.rowCount() > 0)
     table_->selectRow(std::clamp(place, 0, shown_.rowCount() - 1));
+  if (firstTime) readingEnded();
   if (added == 0) sight.restore(shown_.mapFromSource(rows_.index(rows_.rowOf(sight.top()), 0)));
   updateCommands();
 }
@@ -138,9 +141,10 @@ MainWindow::Touched MainWindow::touchedRows() {
 // the one that took its place.
 void MainWindow::refresh(const Command& after, std::int32_t keep) {
   const bool mayAdd = after.kinds != 0 && after.needs == Needs::Nothing;
-  bool anew = others_.since() || after.kinds == 0;
+  bool anew = others_.since() || after.kinds == 0 || rows_.view() != node_;
   try {
     Touched touched = touchedRows();
+    if (rows_.view() != node_) touched.keys.clear();
     anew = anew || touched.all;
     if (!touched.keys.empty() && keep != 0) touched.keys.push_back(keep);
     if (!touched.keys.empty()) update(touched.keys, mayAdd, anew);

@@ -82,20 +82,47 @@ RowsModel::Reading RowsModel::begin(store::Connection& connection, const NodeVie
   count_ = rows_.count();
   ranks_.assign(view.columns.size(), {});
   endResetModel();
+  partial_ = reader_ != nullptr;
+  if (partial_ && view.scattered) startAnew(connection);
   return reader_ ? Reading::More : Reading::Whole;
 }
 
 RowsModel::Reading RowsModel::renew(store::Connection& connection, Time atMost) {
   stop();
-  reader_ = std::make_unique<RowsReader>(connection, *view_);
-  coming_.emplace(view_->columns.size());
+  startAnew(connection);
   return readOn(atMost);
+}
+
+void RowsModel::startAnew(store::Connection& connection) {
+  using Order = RowsReader::Order;
+  reader_ = std::make_unique<RowsReader>(connection, *view_,
+                                         view_->scattered ? Order::AsTheyLie : Order::Listed);
+  coming_.emplace(view_->columns.size());
+}
+
+void RowsModel::putInOrder(SlimRows& rows) const {
+  std::vector<int> order(static_cast<std::size_t>(rows.count()));
+  std::iota(order.begin(), order.end(), 0);
+  std::vector<std::pair<int, std::vector<int>>> columns;
+  for (const std::string& field : view_->order)
+    columns.emplace_back(columnOf(field),
+                         ranks(rows.texts(columnOf(field)), kind(columnOf(field))));
+  std::sort(order.begin(), order.end(), [&](int a, int b) {
+    for (const auto& [column, rank] : columns) {
+      const int of = rank[rows.number(a, column)];
+      const int other = rank[rows.number(b, column)];
+      if (of != other) return of < other;
+    }
+    return rows.key(a) < rows.key(b);
+  });
+  rows.arrange(order);
 }
 
 RowsModel::Reading RowsModel::readOn(Time atMost) {
   if (!reader_) return Reading::Whole;
   if (coming_) return read(*coming_, atMost) == Reading::More ? Reading::More : Reading::Renewed;
   const Reading reading = read(rows_, atMost);
+  partial_ = reading == Reading::More;
   if (rows_.count() > count_) {
     beginInsertRows({}, count_, rows_.count() - 1);
     count_ = rows_.count();
@@ -123,7 +150,9 @@ RowsModel::Reading RowsModel::read(SlimRows& rows, Time atMost) {
 }
 
 void RowsModel::takeOver() {
+  if (view_->scattered) putInOrder(*coming_);
   beginResetModel();
+  partial_ = false;
   rows_ = std::move(*coming_);
   coming_.reset();
   count_ = rows_.count();
@@ -243,17 +272,14 @@ std::string RowsModel::shown(std::string_view text, int column) const {
 
 bool RowsModel::isBefore(int row, int other, int column) const {
   std::vector<int>& all = ranks_[static_cast<std::size_t>(column)];
-  if (all.empty()) all = ranks(column);
+  if (all.empty()) all = ranks(rows_.texts(column), kind(column));
   const std::size_t a = rows_.number(row, column);
   const std::size_t b = rows_.number(other, column);
   if (a < all.size() && b < all.size()) return all[a] < all[b];
-  const ColumnKind kind = view_->columns[static_cast<std::size_t>(column)].kind;
-  return app::compared(kind, stored(row, column), stored(other, column)) < 0;
+  return app::compared(kind(column), stored(row, column), stored(other, column)) < 0;
 }
 
-std::vector<int> RowsModel::ranks(int column) const {
-  const Texts& texts = rows_.texts(column);
-  const ColumnKind kind = view_->columns[static_cast<std::size_t>(column)].kind;
+std::vector<int> RowsModel::ranks(const Texts& texts, ColumnKind kind) {
   std::vector<std::uint32_t> sorted(texts.count());
   std::iota(sorted.begin(), sorted.end(), 0u);
   std::sort(sorted.begin(), sorted.end(),

@@ -46,7 +46,7 @@ class RowsModel : public QAbstractTableModel {
   /// Nothing is being read.
   bool isRead() const { return !reader_; }
   /// There are rows to come behind those that are shown.
-  bool isFilling() const { return reader_ && !coming_; }
+  bool isFilling() const { return reader_ && partial_; }
 
   /// What has become of rows that were touched.
   struct Update {
@@ -89,7 +89,12 @@ class RowsModel : public QAbstractTableModel {
   Reading read(SlimRows& rows, Time atMost);
   QVariant appearance(int row, int column, int role) const;
   std::string shown(std::string_view stored, int column) const;
-  std::vector<int> ranks(int column) const;
+  static std::vector<int> ranks(const Texts& texts, ColumnKind kind);
+  void startAnew(store::Connection& connection);
+  void putInOrder(SlimRows& rows) const;
+  ColumnKind kind(int column) const {
+    return view_->columns[static_cast<std::size_t>(column)].kind;
+  }
   std::vector<bool> holding(int column, const std::string& word) const;
   int compared(const ListRow& row, int other) const;
   bool insert(const ListRow& row);
@@ -100,6 +105,7 @@ class RowsModel : public QAbstractTableModel {
   int count_ = 0;  // of those that are shown
   std::unique_ptr<RowsReader> reader_;
   std::optional<SlimRows> coming_;
+  bool partial_ = false;  // there are more than those that are shown
   // Where each text of a column comes in its order; made when it is first asked for.
   mutable std::vector<std::vector<int>> ranks_;
 };

@@ -5,6 +5,8 @@
 namespace fidaleon::app {
 namespace {
 
+constexpr std::int64_t AT_A_TIME = 2000;  // keys
+
 int placeOf(const store::Recordset& rows, const std::string& field) {
   for (int f = 0; !field.empty() && f < rows.FieldCount(); ++f)
     if (rows.FieldName(f) == field) return f;
@@ -13,9 +15,16 @@ int placeOf(const store::Recordset& rows, const std::string& field) {
 
 }  // namespace
 
-RowsReader::RowsReader(store::Connection& connection, const NodeView& view)
+RowsReader::RowsReader(store::Connection& connection, const NodeView& view, Order order)
     : connection_(connection), view_(view) {
   if (view.node.SQLSelect.empty()) return;
+  if (order == Order::AsTheyLie) {
+    const auto highest = connection.Execute("SELECT MAX(" + view.key + ") AS Mayor FROM " +
+                                            view.parts.front().table);
+    last_ = highest.integer("Mayor");
+    openNext();
+    return;
+  }
   if (view.groups.empty()) {
     start(view.node.SQLSelect);
     return;
@@ -27,6 +36,11 @@ RowsReader::RowsReader(store::Connection& connection, const NodeView& view)
 }
 
 bool RowsReader::openNext() {
+  if (passed_ < last_) {
+    start(statementOfRange(view_, passed_, passed_ + AT_A_TIME));
+    passed_ += AT_A_TIME;
+    return true;
+  }
   if (groups_.empty()) return false;
   start(statementOfGroup(view_, groups_.back()));
   groups_.pop_back();

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <functional>
+#include <type_traits>
 
 namespace fidaleon::app {
 namespace {
@@ -71,6 +72,20 @@ void SlimRows::remove(int row) {
   if (!groups_.empty()) groups_.erase(groups_.begin() + row);
   annulled_.erase(annulled_.begin() + row);
   for (Column& column : columns_) column.cells.erase(column.cells.begin() + row);
+}
+
+void SlimRows::arrange(const std::vector<int>& rows) {
+  const auto apply = [&](auto& values) {
+    if (values.empty()) return;
+    std::remove_reference_t<decltype(values)> arranged;
+    arranged.reserve(values.size());
+    for (const int row : rows) arranged.push_back(values[at(row)]);
+    values = std::move(arranged);
+  };
+  apply(keys_);
+  apply(groups_);
+  apply(annulled_);
+  for (Column& column : columns_) apply(column.cells);
 }
 
 int SlimRows::rowOf(std::int32_t key) const {

@@ -45,6 +45,8 @@ class SlimRows {
   void insert(int row, const ListRow& content);
   void replace(int row, const ListRow& content);
   void remove(int row);
+  /// Each row goes where it stands in this list of all of them.
+  void arrange(const std::vector<int>& rows);
 
   const std::vector<std::int32_t>& keys() const { return keys_; }
   std::int32_t key(int row) const { return keys_[at(row)]; }
