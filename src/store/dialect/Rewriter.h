@@ -58,6 +58,7 @@ class Rewriter {
   void wordOrName(std::size_t end, const Scope& scope);
   void functionCall();
   void symbol(const Scope& scope);
+  bool alternatives(const Scope& scope);
   /// The value of a column: checked against its type when it is a single literal.
   void assigned(std::size_t end, const Column& target, const Scope& scope);
   std::string columnName(std::size_t end, const Scope& scope);

@@ -45,6 +45,7 @@ void Rewriter::symbol(const Scope& scope) {
     put(")");
     return;
   }
+  if (alternatives(scope)) return;
   if (t.is('&')) {
     put("||");
   } else if (t.text.size() == 2 ||
@@ -54,6 +55,32 @@ void Rewriter::symbol(const Scope& scope) {
     fail();
   }
   ++at_;
+}
+
+/// "(a = 1 OR a = 2 OR a = 3)" as a list of values: the rules name every book of a parish so, and
+/// engines go only so deep.
+bool Rewriter::alternatives(const Scope& scope) {
+  constexpr std::size_t FEW = 3;
+  if (!token().is('(')) return false;
+  std::size_t values = 0;
+  do {
+    const std::size_t at = 1 + 4 * values;  // behind the bracket or the last OR
+    const Token& name = token(at);
+    const bool another = name.kind == Token::Kind::Word &&
+                         text::equalsNoCase(name.text, token(1).text) && token(at + 1).is('=') &&
+                         token(at + 2).kind == Token::Kind::Marker;
+    if (!another) return false;
+  } while (token(4 * ++values).is(packed("or")));
+  if (values < FEW || !token(4 * values).is(')')) return false;
+  ++at_;
+  put("(" + columnName(at_ + 1, scope) + " IN (");
+  for (std::size_t i = 0; i < values; ++i, at_ += 4) {
+    if (i != 0) put(",");
+    put(spelling_.parameter(static_cast<int>(token(1).code)));
+  }
+  put("))");
+  --at_;  // after the last value there is no further name
+  return true;
 }
 
 void Rewriter::wordOrName(std::size_t end, const Scope& scope) {
