@@ -5,6 +5,7 @@
 
 #include "core/contract/NombreYApellidos.h"
 #include "registers/common/Guiones.h"
+#include "registers/confirmation/AlmacenConfirmacion.h"
 #include "registers/lookup/Bautizado.h"
 #include "registers/marriage/AlmacenMatrimonio.h"
 #include "text/Utf8.h"
@@ -15,6 +16,8 @@ namespace {
 
 using FDAPI::cCOrigen;
 using Lineas = FormaDetalle::Lineas;
+
+constexpr const char* SIN_LIBRO = "Aún no consta en qué libro está.";
 
 /// Words around values, of which some may not be known.
 class Redaccion {
@@ -52,16 +55,28 @@ class Redaccion {
   }
   static std::string enLibro(const std::string& libro, const std::string& folio,
                              const std::string& numero) {
+    const std::string enFolio = folio == "0" ? GUIONES : oGuiones(folio);
+    if (enBlanco(libro) && enBlanco(enFolio) && enBlanco(numero)) return SIN_LIBRO;
     // Many books bear the word in their name.
     const bool conPalabra = text::upper(libro).starts_with("LIBRO ");
-    return (conPalabra ? "" : "Libro ") + oGuiones(libro) + ", folio " +
-           (folio == "0" ? GUIONES : oGuiones(folio)) + ", número " + oGuiones(numero);
+    return (conPalabra ? "" : "Libro ") + oGuiones(libro) + ", folio " + enFolio + ", número " +
+           oGuiones(numero);
   }
 
  private:
   std::unique_ptr<FDAPI::cFidaleon> fidaleon_;
   FDAPI::Conexion& conexion_;
 };
+
+template <class Registro>
+Registro leerSolicitud(FDAPI::Conexion& conexion, const DescripcionAlmacen<Registro>& almacen,
+                       std::int32_t id) {
+  const store::Recordset fila = conexion.Execute(almacen.sqlEntera(0, id));
+  if (fila.EOF_()) throw std::runtime_error("Los datos de esta solicitud ya no existen.");
+  Registro r;
+  almacen.copiar(fila, r);
+  return r;
+}
 
 Lineas deFamilia(Contexto& contexto, FDAPI::Conexion& conexion, std::int32_t id) {
   const Bautizado b = leerBautizado(conexion, id);
@@ -94,25 +109,15 @@ Lineas dePersona(Contexto& contexto, FDAPI::Conexion& conexion, std::int32_t id)
 }
 
 Lineas deConfirmacion(Contexto& contexto, FDAPI::Conexion& conexion, std::int32_t id) {
-  const store::Recordset c = conexion.Execute(
-      "SELECT * FROM Confirmacion, Confirmacion_Bautismo, Confirmacion_Datos WHERE "
-      "IDConfirmacion=" +
-      std::to_string(id) +
-      " AND Confirmacion_Bautismo.CodConfirmacion=IDConfirmacion AND "
-      "Confirmacion_Datos.CodConfirmacion=IDConfirmacion");
-  if (c.EOF_()) throw std::runtime_error("Los datos de esta solicitud ya no existen.");
+  const auto c = leerSolicitud(conexion, ALMACEN_CONFIRMACION, id);
   const Redaccion r(contexto, conexion);
-  const auto municipio = [&](const char* columna) {
-    return static_cast<std::int32_t>(c.integer(columna));
-  };
-  return {c.text("NombrePadre"),
-          "Nacimiento: " + r.en(r.fecha(c.text("FechaNac")), municipio("CodMunicipioNac")) +
-              "; bautismo: " + r.fecha(c.text("FechaBaut")) +
-              "; confirmación: " + r.fecha(c.text("FechaConfirmacion")),
-          c.text("NombreMadre"),
-          r.en(c.text("ParroquiaBaut"), municipio("CodMunicipioBaut")),
-          Redaccion::enLibro(c.text("LibroBaut"), c.text("FolioBaut"), c.text("NumeroBaut")),
-          r.en(c.text("Domicilio"), municipio("CodMunicipioDomicilio"))};
+  return {c.NombrePadre,
+          "Nacimiento: " + r.en(r.fecha(c.FechaNac), c.CodMunicipioNac) + "; bautismo: " +
+              r.fecha(c.FechaBaut) + "; confirmación: " + r.fecha(c.FechaConfirmacion),
+          c.NombreMadre,
+          r.en(c.ParroquiaBaut, c.CodMunicipioBaut),
+          Redaccion::enLibro(c.LibroBaut, std::to_string(c.FolioBaut), c.NumeroBaut),
+          r.en(c.Domicilio, c.CodMunicipioDomicilio)};
 }
 
 /// "Luis García Pérez, DNI 12345678-Z, nacido el día 01/05/1970", as far as it is known.
@@ -123,10 +128,7 @@ std::string contrayente(const Redaccion& r, std::initializer_list<std::string> n
 }
 
 Lineas deMatrimonio(Contexto& contexto, FDAPI::Conexion& conexion, std::int32_t id) {
-  const store::Recordset fila = conexion.Execute(ALMACEN_MATRIMONIO.sqlEntera(0, id));
-  if (fila.EOF_()) throw std::runtime_error("Los datos de esta solicitud ya no existen.");
-  cMatrimonio m;
-  ALMACEN_MATRIMONIO.copiar(fila, m);
+  const auto m = leerSolicitud(conexion, ALMACEN_MATRIMONIO, id);
   const Redaccion r(contexto, conexion);
   const auto deAmbos = [](const std::string& novio, const std::string& novia) {
     return "Novio: " + novio + "\r\nNovia: " + novia;
@@ -134,7 +136,8 @@ Lineas deMatrimonio(Contexto& contexto, FDAPI::Conexion& conexion, std::int32_t 
   const auto bautismo = [&](const std::string& dia, const std::string& parroquia,
                             std::int32_t municipio, const std::string& libro, std::int32_t folio,
                             const std::string& numero) {
-    return r.cuandoYDonde("Se bautizó", dia, parroquia, municipio) + "; " +
+    const std::string cuando = r.cuandoYDonde("se bautizó", dia, parroquia, municipio);
+    return (enBlanco(cuando) ? "" : cuando + ". ") +
            Redaccion::enLibro(libro, std::to_string(folio), numero);
   };
   return {contrayente(r, {m.NovioNombre, m.NovioPrimerApellido, m.NovioSegundoApellido}, m.NovioDNI,

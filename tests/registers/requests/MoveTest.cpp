@@ -257,7 +257,7 @@ INSTANTIATE_TEST_SUITE_P(
                       Requests{CONFIRMACION, cCOrigen::LISTAPARTIDASCONFIRMACION,
                                "Solicitudes de confirmación",
                                "Detalles de la solicitud de confirmación.", 4,
-                               "Datos del libro de bautismo:", "Libro ---, folio ---, número ---"},
+                               "Datos del libro de bautismo:", "Aún no consta en qué libro está."},
                       Requests{MATRIMONIO, cCOrigen::LISTAPARTIDASMatrimonio,
                                "Solicitudes de matrimonio",
                                "Detalles de la solicitud de matrimonio.", 0,
