@@ -14,13 +14,10 @@ namespace {
 
 using namespace fidaleon;
 
-constexpr int PER_BOOK = 1000;
-
 struct Parish : bench::World {
-  explicit Parish(int entries) {
+  Parish(int books, int perBook) {
     connection->Execute("INSERT INTO Institucion (Nombre) VALUES (\"San Pedro\")");
-    bench::FilledRegister(*connection, *formaPartida(BAUTISMO), entries, PER_BOOK);
-    const int books = entries / PER_BOOK;
+    bench::FilledRegister(*connection, *formaPartida(BAUTISMO), books * perBook, perBook);
     book = "L" + std::to_string(books);
     user.answerAnything(forms::Answer::Yes);
   }
@@ -56,8 +53,8 @@ struct Parish : bench::World {
 
 /// One baptism entered through the dialog, with the look-up of its family and of the same entry in
 /// every book.
-double oneThroughTheDialog(int entries) {
-  Parish parish(entries);
+double oneThroughTheDialog(int books, int perBook) {
+  Parish parish(books, perBook);
   parish.enter(5);
   return bench::milliseconds(5, [&] { parish.enter(20); }) / 20;
 }
@@ -66,5 +63,7 @@ double oneThroughTheDialog(int entries) {
 
 int main() {
   bench::within("un bautismo por su diálogo, con 500.000 en 500 libros",
-                oneThroughTheDialog(500000), 5);
+                oneThroughTheDialog(500, 1000), 5);
+  bench::growth("un bautismo por su diálogo: 1.000 libros frente a 2",
+                oneThroughTheDialog(1000, 20), oneThroughTheDialog(2, 20), 1.2);
 }
