@@ -287,12 +287,14 @@ TEST_F(Actividades, MembersThatAreOddInTheStore_AreShownOnceAndKept) {
   miembro(zoilo, primero, 77);     // no collaborator, an office that is gone
   miembro(99, primero, monitor);   // nobody
   miembro(carmen, primero, monitor);
+  insert(con(), "Padron_TipoPersona", "CodTipoPersona=3; CodPadron=" + texto(carmen));  // twice
   editar([&](FormDriver& d) {
     // Another desk takes her out while the card is open.
     quitar("Padron_Actividad WHERE CodPadron=" + texto(carmen));
     grupoDe(d, 1, [&](FormDriver& g) {
       EXPECT_EQ(lineas(g, SELECCIONADAS),
                 "Ana García Ruiz (Catequista)|Blas Pérez Ruiz (Catequista)|Zoilo Vecino Sinrol");
+      EXPECT_EQ(lineas(g, DISPONIBLES), "Carmen Sanz Ruiz");
       mover(g, {1}, nullptr);
       g.click(ACEPTAR_GRUPO);
     });
