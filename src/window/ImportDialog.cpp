@@ -1,5 +1,6 @@
 #include "window/ImportDialog.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialogButtonBox>
@@ -86,7 +87,7 @@ class Progress : public FDAPI::cProgreso {
     dialog_.setWindowModality(Qt::WindowModal);
     dialog_.setAutoReset(false);
     dialog_.setAutoClose(false);
-    dialog_.setMinimumDuration(500);
+    dialog_.setMinimumDuration(0);
     // A key that was meant for what stood there before does not stop it.
     dialog_.findChild<QPushButton*>()->setAutoDefault(false);
     dialog_.setMinimumWidth(dialog_.fontMetrics().averageCharWidth() * 50);
@@ -96,6 +97,9 @@ class Progress : public FDAPI::cProgreso {
         count == 1 ? QObject::tr("un libro") : QObject::tr("%1 libros").arg(count);
     dialog_.setLabelText(QString::fromStdString(what) + ": " + books);
     dialog_.setMaximum(static_cast<int>(count));
+    // Left to its own clock it would come up over a message and hide it.
+    dialog_.show();
+    QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
   }
   void setValue(std::int64_t done) override {
     dialog_.setValue(static_cast<int>(done));
