@@ -80,7 +80,7 @@ std::string mutated(std::string input, std::mt19937& random) {
 
 TEST(Fuzz, readsOrRefusesWhateverItIsGiven) {
   const char* asked = std::getenv("FIDALEON_FUZZ_ROUNDS");
-  const long rounds = asked != nullptr ? std::atol(asked) : 4000;
+  const long rounds = asked != nullptr ? std::atol(asked) : 2500;
   const std::vector<std::string> seeds = corpus();
   std::mt19937 random(20030517);
   for (long i = 0; i < rounds; ++i) {
