@@ -48,7 +48,6 @@ void frmSolicitudes::aceptar() {
 void frmSolicitudes::moverAlLibro(const Libro& libro) {
   const forms::Hourglass reloj(ui());
   forms::ListBox& lista = lstSolicitudes[SELECCIONADOS];
-  ultima_.reset();
   while (lista.listCount() != 0) {
     if (!pasar(lista.itemData(0), libro)) return;
     lista.removeItem(0);
@@ -68,26 +67,19 @@ bool frmSolicitudes::pasar(std::int64_t solicitud, const Libro& libro) {
                           " ya no existe o ya está en un libro!");
     return true;
   }
-  if (!calcularPosicion(libro)) return false;
+  Recordset partidas = conBaseDatos->Execute(
+      sentencia("SELECT {IDPartida}, Folio, Numero FROM {Partidas} WHERE CodLibro = ") + id +
+      " ORDER BY Folio");
+  if (partidas.EOF_()) {
+    lngFolio_ = 1;
+    strNumero_ = "1";
+  } else {
+    partidas.MoveLast();
+    if (!CalcularFolioyNumero(libro, partidas.integer("Folio"))) return false;
+  }
   conBaseDatos->Execute(sentencia("UPDATE {Partidas} SET InstitucionSolicitud = 0, CodLibro = ") +
                         id + ", Folio = " + std::to_string(lngFolio_) + ", Numero = " +
                         entreComillas(strNumero_) + sentencia(" WHERE {IDPartida} = ") + clave);
-  ultima_ = {lngFolio_, text::toInteger(strNumero_).value_or(0)};
-  return true;
-}
-
-/// The book is ours alone: behind what has been moved there is nothing else.
-bool frmSolicitudes::calcularPosicion(const Libro& libro) {
-  if (ultima_) return CalcularFolioyNumero(libro, ultima_->folio);
-  Recordset partidas = conBaseDatos->Execute(
-      sentencia("SELECT {IDPartida}, Folio, Numero FROM {Partidas} WHERE CodLibro = ") +
-      std::to_string(libro.id) + " ORDER BY Folio");
-  if (!partidas.EOF_()) {
-    partidas.MoveLast();
-    return CalcularFolioyNumero(libro, partidas.integer("Folio"));
-  }
-  lngFolio_ = 1;
-  strNumero_ = "1";
   return true;
 }
 
@@ -108,16 +100,9 @@ bool frmSolicitudes::CalcularFolioyNumero(const Libro& libro, std::int64_t ultim
                 .RecordCount() == 1;
     lngFolio_ = cabeOtra ? ultimoFolio : ultimoFolio + 1;
     if (pasaLimiteDeFolios()) return;
-    const std::int64_t mayor =
-        ultima_ ? ultima_->numero
-                : conBaseDatos
-                      ->Execute(sentencia("SELECT MAX(CInt(Numero)) FROM {Partidas} WHERE "
-                                          "CodLibro = ") +
-                                id)
-                      .Fields(0)
-                      .Value()
-                      .integer();
-    strNumero_ = std::to_string(mayor + 1);
+    const Recordset mayor = conBaseDatos->Execute(
+        sentencia("SELECT MAX(CInt(Numero)) FROM {Partidas} WHERE CodLibro = ") + id);
+    strNumero_ = std::to_string(mayor.Fields(0).Value().integer() + 1);
   });
 }
 

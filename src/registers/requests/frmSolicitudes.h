@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstdint>
-#include <optional>
 #include <string>
 
 #include "core/dialogs/Dialogo.h"
@@ -52,7 +51,6 @@ class frmSolicitudes : public Dialogo {
   void aceptar();
   void moverAlLibro(const Libro& libro);
   bool pasar(std::int64_t solicitud, const Libro& libro);
-  bool calcularPosicion(const Libro& libro);
   bool CalcularFolioyNumero(const Libro& libro, std::int64_t ultimoFolio);
   bool pasaLimiteDeFolios();
   std::string institucion() const { return std::to_string(cboInstitucion.data()); }
@@ -63,11 +61,6 @@ class frmSolicitudes : public Dialogo {
   // The position under calculation.
   std::int64_t lngFolio_ = 0;
   std::string strNumero_;
-  struct Posicion {
-    std::int64_t folio;
-    std::int64_t numero;
-  };
-  std::optional<Posicion> ultima_;  // of those moved at this time
 };
 
 }  // namespace fidaleon
