@@ -160,7 +160,7 @@ forms::Answer FormWatch::ask(const Draft& draft) {
                               forms::Answer::Yes});
 }
 
-void FormWatch::offerLeft(const std::function<bool(const Task&)>& run) {
+void FormWatch::offerLeft(const std::function<Resumed(const Task&)>& run) {
   for (Found& f : found()) {
     if (f.draft.task.command.empty()) continue;  // its form comes by itself
     const forms::Answer answer = ask(f.draft);
@@ -172,9 +172,9 @@ void FormWatch::offerLeft(const std::function<bool(const Task&)>& run) {
     }
     agreed_ = std::move(f);
     const Task task = agreed_->draft.task;
-    const bool done = run(task);
+    const Resumed resumed = run(task);
     const std::optional<Found> unused = std::exchange(agreed_, std::nullopt);
-    if (!done && unused) showLeft(GONE, *unused);
+    if (resumed == Resumed::Gone && unused) showLeft(GONE, *unused);
   }
 }
 

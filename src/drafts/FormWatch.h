@@ -44,7 +44,12 @@ class FormWatch : public forms::UserInterface {
 
   /// Asks about each draft of this parish whether to go on with it; `run` does the task again and
   /// says whether it could be done.
-  void offerLeft(const std::function<bool(const Task&)>& run);
+  enum class Resumed {
+    Yes,
+    Gone,   // there is nothing to go on with
+    Later,  // not now: the draft stays and is offered again
+  };
+  void offerLeft(const std::function<Resumed(const Task&)>& run);
 
   void showModal(forms::Form& form) override;
   forms::Answer showMessage(const forms::Message& message) override;

@@ -38,8 +38,15 @@ TouchedRows::Rows TouchedRows::take() {
   return touched;
 }
 
-std::int64_t TouchedRows::numberOf(const std::string& statement, std::int64_t row) const {
-  return onlyNumber(connection_.engine(), statement + std::to_string(row));
+std::vector<std::int64_t> TouchedRows::numbersOf(const std::string& statement,
+                                                 std::int64_t row) const {
+  const std::string sql = statement + std::to_string(row);
+  const auto prepared = connection_.engine().prepare(sql, sql);
+  RowStore rows(1);
+  while (prepared->step()) prepared->read(rows);
+  std::vector<std::int64_t> numbers;
+  for (std::int64_t i = 0; i < rows.rows(); ++i) numbers.push_back(rows.integer(i, 0));
+  return numbers;
 }
 
 }  // namespace fidaleon::store

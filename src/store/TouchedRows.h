@@ -33,9 +33,9 @@ class TouchedRows {
   TouchedRows& operator=(const TouchedRows&) = delete;
 
   Rows take();
-  /// The rows of a touched table are found by a statement that ends in "=": the number it gives
-  /// for this row, 0 when there is no such row any more.
-  std::int64_t numberOf(const std::string& statement, std::int64_t row) const;
+  /// The rows of a touched table are found by a statement that ends in "=": the numbers it gives
+  /// for this row, none when there is no such row any more.
+  std::vector<std::int64_t> numbersOf(const std::string& statement, std::int64_t row) const;
 
  private:
   Connection& connection_;

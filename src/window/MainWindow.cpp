@@ -1,6 +1,7 @@
 #include "window/MainWindow.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QCloseEvent>
 #include <QHeaderView>
 #include <QLabel>
@@ -29,6 +30,7 @@
 namespace fidaleon::app {
 namespace {
 
+constexpr RowsModel::Time A_WHILE{200};
 constexpr RowsModel::Time SLICE{15};  // of reading, between what the user does
 
 const char* hintOf(NodeKind kind) {
@@ -57,8 +59,12 @@ MainWindow::MainWindow(Desk& desk, FormWatch* watch, QWidget* parent)
       others_(desk.parish()),
       touched_(desk.parish()),
       slices_(new QTimer(this)) {
-  connect(slices_, &QTimer::timeout, this,
-          [this] { reading([this] { return rows_.readOn(SLICE); }); });
+  connect(slices_, &QTimer::timeout, this, [this] {
+    // A list that is taken over under a menu would give its command another row.
+    const bool occupied = QApplication::activePopupWidget() || QApplication::activeModalWidget();
+    slices_->setInterval(occupied ? A_WHILE : RowsModel::Time(0));
+    if (!occupied) reading([this] { return rows_.readOn(SLICE); });
+  });
   takeUpLog();
   setObjectName("MainWindow");
   setPalette(qt::legible(palette()));
@@ -157,6 +163,7 @@ void MainWindow::run(const Command& command) {
   if (command.kinds != 0 && !isInPlace()) return;
   daily_.giveUp();
   const bool stopped = (command.kinds != 0 || command.refreshes) && rows_.stop();
+  if (stopped) slices_->stop();
   busy_ = true;
   try {
     carryOut(command, chosen);
@@ -209,9 +216,13 @@ void MainWindow::updateCount() {
   count_->setText(shown == all ? tr("%L1 %2").arg(all).arg(
                                      all == 1 ? QString::fromStdString(node_->thing) : things)
                                : tr("%L1 de %L2 %3").arg(shown).arg(all).arg(things));
-  if (rows_.isFilling()) count_->setText(count_->text() + tr(" y se siguen leyendo…"));
+  if (rows_.isFilling())
+    count_->setText(count_->text() + tr(" y se siguen leyendo…"));
+  else if (!rows_.isWhole())
+    count_->setText(count_->text() + tr(" y otras que no se han leído"));
   empty_->setText(
-      all == 0 ? tr("Todavía no hay %1.\nPulse la tecla Insert para añadir.").arg(things)
+      rows_.view() != node_ ? tr("La lista no se ha podido leer.\nElíjala otra vez en el árbol.")
+      : all == 0 ? tr("Todavía no hay %1.\nPulse la tecla Insert para añadir.").arg(things)
       : filter_->text().isEmpty() ? tr("Este libro todavía no tiene %1.").arg(things)
                                   : tr("Ninguna fila contiene «%1».").arg(filter_->text()));
   empty_->setVisible(shown == 0 && !rows_.isFilling());

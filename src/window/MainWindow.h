@@ -99,7 +99,7 @@ class MainWindow : public QMainWindow, private Workplace {
   /// When the command that asked for it has ended: until then the window refuses to close.
   void leave() override { depart({}); }
   void depart(Departure departure);
-  bool resume(const Task& task);
+  FormWatch::Resumed resume(const Task& task);
 
   void buildTree();
   void buildList();

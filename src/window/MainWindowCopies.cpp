@@ -70,7 +70,7 @@ void MainWindow::carryOut(const Command& command, const Choice& chosen) {
 
 // What others keep them from being today is done after the next command.
 void MainWindow::compressCopies() {
-  if (compressing_.joinable()) compressing_.join();
+  compressing_ = {};  // the new one goes on where that one stops
   compressing_ = std::jthread([copies = copies_](const std::stop_token& ending) {
     copies.compressOlder([&] { return !ending.stop_requested(); });
   });

@@ -38,17 +38,20 @@ void MainWindow::offerDrafts() {
   if (watch_) watch_->offerLeft([this](const Task& task) { return resume(task); });
 }
 
-bool MainWindow::resume(const Task& task) {
+FormWatch::Resumed MainWindow::resume(const Task& task) {
+  using Resumed = FormWatch::Resumed;
   const auto command = std::find_if(commands().begin(), commands().end(),
                                     [&](const Command& c) { return c.id == task.command; });
-  if (command == commands().end()) return false;
+  if (command == commands().end()) return Resumed::Gone;
   showNode(task.node);
   filter_->clear();
   setScope(0, {});
-  if (!finishReading() || (task.record != 0 && !chooseRow(task.record))) return false;
-  if (!applies(*command, choice())) return false;
+  // The list was given up, or cannot be read: that says nothing about the record.
+  if (task.record != 0 && !chooseRow(task.record) && !finishReading()) return Resumed::Later;
+  if (task.record != 0 && !chooseRow(task.record)) return Resumed::Gone;
+  if (!applies(*command, choice())) return Resumed::Gone;
   run(*command);
-  return true;
+  return Resumed::Yes;
 }
 
 }  // namespace fidaleon::app

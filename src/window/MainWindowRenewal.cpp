@@ -53,13 +53,14 @@ void MainWindow::loadRows() {
   touched_.take();
   chooseAdded_ = false;
   reading([this] { return rows_.begin(desk_.parish(), *node_, AT_ONCE); });
+  if (rows_.view() != node_) rows_.clear();  // no command may take another list's row for its own
 }
 
 void MainWindow::renew(bool chooseAdded) {
   if (!node_ || !hasRows(node_->kind)) return;
   if (rows_.view() != node_) return loadRows();  // it could not be read before
   others_.since();
-  chooseAdded_ = chooseAdded;
+  chooseAdded_ = chooseAdded && rows_.isWhole();
   reading([this] { return rows_.renew(desk_.parish(), AT_ONCE); });
 }
 
@@ -88,7 +89,6 @@ void MainWindow::takeOver() {
   const std::int32_t keep = choice().id;
   const int place = table_->currentIndex().row();
   const Sight sight(*table_);
-  const bool firstTime = rows_.isFilling();
   std::vector<std::int32_t> before;
   if (chooseAdded_) before = rows_.keys();
   rows_.takeOver();
@@ -97,23 +97,25 @@ void MainWindow::takeOver() {
   const bool chosen = (added != 0 && chooseRow(added)) || keep == 0 || chooseRow(keep);
   if (!chosen && shown_.rowCount() > 0)
     table_->selectRow(std::clamp(place, 0, shown_.rowCount() - 1));
-  if (firstTime) readingEnded();
+  if (!table_->currentIndex().isValid()) readingEnded();
   if (added == 0) sight.restore(shown_.mapFromSource(rows_.index(rows_.rowOf(sight.top()), 0)));
   updateCommands();
 }
 
 bool MainWindow::finishReading() {
-  if (rows_.isRead()) return true;
+  if (rows_.isWhole()) return true;
+  if (rows_.isRead()) renew();  // it was broken off
   slices_->stop();
   LongRun run;
   run.run(this, tr("Se está leyendo la lista…"), [&] {
-    while (!rows_.isRead() && run.tell(static_cast<std::size_t>(rows_.rowCount()), 0)) {
+    std::size_t looks = 0;  // what grows is shown; rows that come unseen do not
+    while (!rows_.isRead() && run.tell(++looks, 0)) {
       reading([this] { return rows_.readOn(AT_ONCE); });
       slices_->stop();
     }
   });
   if (!rows_.isRead()) slices_->start();
-  return rows_.isRead();
+  return rows_.isWhole();
 }
 
 MainWindow::Touched MainWindow::touchedRows() {
@@ -128,10 +130,11 @@ MainWindow::Touched MainWindow::touchedRows() {
       touched.all = touched.all || readsFrom(*node_, row.table);
       continue;
     }
-    const auto key =
-        part->statement.empty() ? row.key : touched_.numberOf(part->statement, row.key);
-    lost = lost || key == 0;
-    if (key != 0) touched.keys.push_back(static_cast<std::int32_t>(key));
+    const std::vector<std::int64_t> keys = part->statement.empty()
+                                               ? std::vector{row.key}
+                                               : touched_.numbersOf(part->statement, row.key);
+    lost = lost || keys.empty();
+    for (const std::int64_t key : keys) touched.keys.push_back(static_cast<std::int32_t>(key));
   }
   touched.all = touched.all || (lost && touched.keys.empty());
   return touched;

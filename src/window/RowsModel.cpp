@@ -68,16 +68,11 @@ RowsModel::Reading RowsModel::begin(store::Connection& connection, const NodeVie
                                     Time atMost) {
   auto reader = std::make_unique<RowsReader>(connection, view);
   SlimRows first(view.columns.size());
-  std::swap(reader_, reader);
-  try {
-    read(first, atMost);
-  } catch (...) {
-    reader_ = std::move(reader);
-    throw;
-  }
+  stop();
+  reader_ = std::move(reader);
+  read(first, atMost);
   beginResetModel();
   view_ = &view;
-  coming_.reset();
   rows_ = std::move(first);
   count_ = rows_.count();
   ranks_.assign(view.columns.size(), {});
@@ -163,6 +158,17 @@ void RowsModel::takeOver() {
 bool RowsModel::stop() {
   coming_.reset();
   return std::exchange(reader_, nullptr) != nullptr;
+}
+
+void RowsModel::clear() {
+  stop();
+  beginResetModel();
+  view_ = nullptr;
+  rows_ = SlimRows(0);
+  count_ = 0;
+  partial_ = false;
+  ranks_.clear();
+  endResetModel();
 }
 
 RowsModel::Update RowsModel::update(store::Connection& connection,

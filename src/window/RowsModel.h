@@ -43,8 +43,12 @@ class RowsModel : public QAbstractTableModel {
   void takeOver();
   /// Reads no more; what is shown stays as it is. False when there was nothing left to read.
   bool stop();
+  /// Shows nothing, of no node.
+  void clear();
   /// Nothing is being read.
   bool isRead() const { return !reader_; }
+  /// All there is to show is shown: nothing was broken off.
+  bool isWhole() const { return !reader_ && !partial_; }
   /// There are rows to come behind those that are shown.
   bool isFilling() const { return reader_ && partial_; }
 

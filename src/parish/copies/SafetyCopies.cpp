@@ -57,6 +57,10 @@ bool describe(const fs::directory_entry& entry, SafetyCopy& copy) {
   return copy.file.extension() == BY_HAND;
 }
 
+bool isPlain(const SafetyCopy& copy) {
+  return copy.file.extension() == CopyName::ENDING;
+}
+
 template <class Each>
 void forEachFile(const fs::path& directory, const Each& each) {
   std::error_code failed;
@@ -116,7 +120,9 @@ void SafetyCopies::prune(const Moment& now) const {
   std::vector<SafetyCopy> ours = list();
   std::erase_if(ours, [&](const SafetyCopy& copy) { return copy.byHand() || copy.moment > now; });
   std::vector<CopyFacts> facts;
-  for (const SafetyCopy& copy : ours) facts.push_back({copy.moment.day, copy.bytes});
+  // What is still to be compressed may need no more room than there is.
+  for (const SafetyCopy& copy : ours)
+    facts.push_back({copy.moment.day, isPlain(copy) ? 0 : copy.bytes});
   for (const std::size_t place : superfluous(facts)) remove(ours[place].file);
   removeRests(now.day);
 }
@@ -140,7 +146,7 @@ void SafetyCopies::compressOlder(const files::GoesOn& goesOn) const noexcept {
     std::vector<SafetyCopy> ours = list();
     std::erase_if(ours, [](const SafetyCopy& copy) { return copy.byHand(); });
     for (std::size_t i = PLAIN_KEPT; i < ours.size() && goesOn(); ++i)
-      if (ours[i].file.extension() == CopyName::ENDING) compress(ours[i].file, goesOn);
+      if (isPlain(ours[i])) compress(ours[i].file, goesOn);
   } catch (const std::exception&) {
     // They are no worse for it.
   }
@@ -149,11 +155,15 @@ void SafetyCopies::compressOlder(const files::GoesOn& goesOn) const noexcept {
 // A program that was killed may have left the compressed file beside the larger one, whole or not.
 void SafetyCopies::compress(const fs::path& copy, const files::GoesOn& goesOn) const {
   const fs::path compressed = withEnding(copy, CopyName::COMPRESSED);
-  store::Draft draft(compressed, UNFINISHED);
-  if (!files::compress(copy, draft.path(), goesOn)) return;
-  if (!files::holdsTheSame(draft.path(), copy, goesOn)) return;
-  draft.accept();
-  files::removeForGood(copy);
+  try {
+    store::Draft draft(compressed, UNFINISHED);
+    if (!files::compress(copy, draft.path(), goesOn)) return;
+    if (!files::holdsTheSame(draft.path(), copy, goesOn)) return;
+    draft.accept();
+    files::removeForGood(copy);
+  } catch (const std::exception&) {
+    // It stays as it is, and the next one has its turn.
+  }
 }
 
 fs::path SafetyCopies::present(const fs::path& copy) {
