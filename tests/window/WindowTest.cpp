@@ -1,6 +1,7 @@
 #include <sstream>
 
 #include "showroom/Demo.h"
+#include "store/FailingEngine.h"
 #include "window/FirstRunWizard.h"
 #include "window/OpenWindow.h"
 
@@ -31,6 +32,18 @@ TEST_F(Window, AnotherNode_BringsItsRowsAndCommands) {
   EXPECT_FALSE(enabled("cerrar-libro"));
   window->showNode("Partidas");
   EXPECT_FALSE(visible("nueva-partida"));
+}
+
+TEST_F(Window, AListThatCannotBeRead_GivesNoRowToAnyCommand) {
+  auto* faults = store::FailingEngine::wrap(desk->parish());
+  faults->failOn("Confirmacion.Nombre", store::ErrorKind::Busy);
+  user.answerAnything(Answer::Ok);
+  window->showNode("PartidasConfirmacion");
+  EXPECT_EQ(shown(), 0) << "a row of the list before would be taken for one of this";
+  EXPECT_FALSE(enabled("propiedades-partida"));
+  EXPECT_EQ(user.messages().size(), 1U);
+  window->action("actualizar")->trigger();
+  EXPECT_GT(shown(), 0);
 }
 
 TEST_F(Window, Annulling_AsksAndOneKeyLeadsThereAndBack) {
