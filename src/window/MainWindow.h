@@ -65,6 +65,8 @@ class MainWindow : public QMainWindow, private Workplace {
   void tellOfIncompleteEntries();
   /// Chooses the row of that key; false when the list does not show it.
   bool chooseRow(std::int32_t key);
+  /// Rows are still being read.
+  bool isReading() const { return !rows_.isRead(); }
   /// Where the user goes from here.
   const Departure& departure() const { return departure_; }
   DailyCheck& dailyCheck() { return daily_; }
