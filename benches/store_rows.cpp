@@ -12,6 +12,7 @@
 
 #include "benches/Baptisms.h"
 #include "benches/Bench.h"
+#include "benches/Folder.h"
 #include "store/Open.h"
 #include "store/sqlite/SqliteEngine.h"
 
@@ -78,22 +79,6 @@ void eachCell(Row& row, const Number& number, const Text& text) {
       text(c, row.texts[texts++]);
   }
 }
-
-class Folder {
- public:
-  Folder() {
-    std::string name = std::filesystem::temp_directory_path() / "filasXXXXXX";
-    must(mkdtemp(name.data()) != nullptr);
-    path_ = name;
-  }
-  ~Folder() { std::filesystem::remove_all(path_); }
-  Folder(const Folder&) = delete;
-  Folder& operator=(const Folder&) = delete;
-  std::filesystem::path operator/(const char* name) const { return path_ / name; }
-
- private:
-  std::filesystem::path path_;
-};
 
 /// A file of our schema and with our settings, so that the limit pays for the same indexes, checks,
 /// collations and syncs; all else is the bare library.
@@ -182,7 +167,7 @@ void insertByHand(ByHand& db, const std::vector<Slim>& rows) {
 void measureInsert(const std::vector<cBautismo>& rows, const std::vector<Slim>& slim) {
   bench::Pair best;
   for (int run = 0; run < kRuns; ++run) {
-    const Folder folder;
+    const bench::Folder folder;
     const auto connection = store::createDatabase(folder / "a.fidaleon", store::parishSchema());
     store::createDatabase(folder / "b.fidaleon", store::parishSchema());
     ByHand db(folder / "b.fidaleon");
@@ -218,7 +203,7 @@ std::vector<Slim> readOurs(store::Connection& connection) {
 }
 
 void measureRead(const std::vector<cBautismo>& entries) {
-  const Folder folder;
+  const bench::Folder folder;
   const auto connection = store::createDatabase(folder / "a.fidaleon", store::parishSchema());
   insertOurs(*connection, entries);
   ByHand db(folder / "a.fidaleon");

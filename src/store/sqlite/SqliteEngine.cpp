@@ -1,6 +1,8 @@
 #include "store/sqlite/SqliteEngine.h"
 
 #include <algorithm>
+#include <random>
+#include <thread>
 
 #include "store/sqlite/NetworkDisk.h"
 #include "store/sqlite/NetworkVfs.h"
@@ -12,7 +14,9 @@ namespace fidaleon::store {
 
 namespace {
 
-constexpr int kBusyMilliseconds = 4000;
+using namespace std::chrono_literals;
+
+constexpr auto kPatience = 4s;
 constexpr int kPagesAtOnce = 512;
 constexpr int kStepsUnasked = 100000;  // of the engine, a few milliseconds
 
@@ -56,12 +60,12 @@ void distrust(sqlite3* db) {
 
 SqliteEngine::SqliteEngine(const std::filesystem::path& file, Access access) {
   const bool create = access == Access::Create;
-  const bool far = isNetworkDisk(file);
+  far_ = isNetworkDisk(file);
   open(file.string(), create ? SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE : SQLITE_OPEN_READWRITE,
-       far ? networkVfs() : nullptr);
+       far_ ? networkVfs() : nullptr);
   try {
     distrust(db_);
-    if (!create && far && usesWriteAheadLog(file)) leaveWriteAheadLog();
+    if (!create && far_ && usesWriteAheadLog(file)) leaveWriteAheadLog();
     // Reads the file, so that one that is no database is found out here.
     run("PRAGMA synchronous = FULL; SELECT count(*) FROM sqlite_schema;");
     // A journal that is taken away may come back with a power cut, and undo what was told as
@@ -89,10 +93,27 @@ void SqliteEngine::open(const std::string& name, int flags, const char* vfs) {
     sqlite3_close_v2(db_);
     throw error;
   }
-  sqlite3_busy_timeout(db_, kBusyMilliseconds);
+  sqlite3_busy_handler(db_, waitForOthers, this);
   sqlite3_db_config(db_, SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
   sqlite3_db_config(db_, SQLITE_DBCONFIG_DQS_DDL, 0, nullptr);
   addFunctions(db_);
+}
+
+/// The engine keeps no queue: whoever looks first after a writer has ended is next. Its own waiting
+/// sleeps longer the longer it has waited, so that those who have just come pass it. Here who has
+/// waited longer looks oftener, and nobody looks in step with others.
+int SqliteEngine::waitForOthers(void* engine, int tries) {
+  auto& self = *static_cast<SqliteEngine*>(engine);
+  const auto now = std::chrono::steady_clock::now();
+  if (tries == 0) self.waitingSince_ = now;
+  const auto waited = now - self.waitingSince_;
+  if (waited >= kPatience) return 0;
+  thread_local std::minstd_rand chance{std::random_device{}()};
+  const int most = waited < 50ms ? 8000 : waited < 200ms ? 3000 : 1000;
+  const int microseconds = std::uniform_int_distribution(most / 4, most)(chance);
+  // Each look at a disk of another machine is a journey.
+  std::this_thread::sleep_for(std::chrono::microseconds(microseconds * (self.far_ ? 10 : 1)));
+  return 1;
 }
 
 std::string SqliteEngine::journal() {

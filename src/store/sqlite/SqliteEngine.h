@@ -2,6 +2,8 @@
 
 #include <sqlite3.h>
 
+#include <chrono>
+
 #include "store/Engine.h"
 #include "store/sqlite/SqliteSpelling.h"
 
@@ -49,10 +51,13 @@ class SqliteEngine : public Engine {
   void open(const std::string& name, int flags, const char* vfs = nullptr);
   std::string journal();
   std::string way(const std::string& sql);
+  static int waitForOthers(void* engine, int tries);
 
   sqlite3* db_ = nullptr;
   SqliteSpelling spelling_;
   Touched touched_;
+  std::chrono::steady_clock::time_point waitingSince_;
+  bool far_ = false;  // on a network disk
 };
 
 }  // namespace fidaleon::store
