@@ -27,6 +27,8 @@ class Spelling {
   virtual std::string createTable(const Table& table) const = 0;
   virtual std::string addColumn(const Table& table, const Column& column) const = 0;
   virtual std::string createIndex(const Table& table, const Index& index) const = 0;
+  /// The values of a column that an index begins with, each once and in order.
+  virtual std::string distinct(const Table& table, const Column& column) const = 0;
 };
 
 }  // namespace fidaleon::store

@@ -113,6 +113,8 @@ TEST_F(Registers, Reads_GiveWhatTheRegistersExpect) {
       {"SELECT PrimerApellido FROM Bautismo_Hijo ORDER BY PrimerApellido",
        "alvarez | Álvarez | Ñáñez | Oro | Zurita"},
       {"SELECT DISTINCT SegundoApellido FROM Bautismo_Hijo", "Nunez | Núñez | Ruiz"},
+      {"SELECT DISTINCT primerapellido FROM Bautismo_Hijo ORDER BY PrimerApellido",
+       "alvarez | Álvarez | Ñáñez | Oro | Zurita"},
       {"SELECT MAX(PrimerApellido) FROM Bautismo_Hijo WHERE PrimerApellido < 'Oz'", "Oro"},
       {"SELECT Nombre FROM Bautismo_Hijo WHERE PrimerApellido IN ('ORO', \"zurita\")", "Luz | Pío"},
       // Institutions, with Null in columns that were left out.

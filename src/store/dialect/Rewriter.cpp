@@ -23,7 +23,7 @@ Rewritten Rewriter::rewrite(std::string_view shape) {
     remove();
   } else if (token().is(packed("select"))) {
     result_.returnsRows = true;
-    select(nullptr);
+    if (!distinctOfIndex()) select(nullptr);
   } else {
     fail();
   }

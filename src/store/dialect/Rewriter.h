@@ -41,6 +41,8 @@ class Rewriter {
   void remove();
   void select(const Scope* outer);
 
+  /// "SELECT DISTINCT column FROM table", whose values an index has.
+  bool distinctOfIndex();
   void selectHead(SelectParts& parts);
   void selectList(SelectParts& parts, Scope& scope);
   /// How many columns one item of the select list stands for.

@@ -88,6 +88,24 @@ void Rewriter::select(const Scope* outer) {
   --depth_;
 }
 
+bool Rewriter::distinctOfIndex() {
+  if (!token(1).is(packed("distinct")) || !token(2).isName() || !token(3).is(packed("from")))
+    return false;
+  const Table* table = schema_.find(token(4).text);
+  const Column* column = table != nullptr ? table->find(token(2).text) : nullptr;
+  const bool ordered = token(5).is(packed("order")) && token(6).is(packed("by")) &&
+                       text::equalsNoCase(token(7).text, token(2).text);
+  const std::size_t end = ordered ? 8 : 5;
+  if (column == nullptr || token(end).kind != Token::Kind::End) return false;
+  for (const Index& index : table->indexes()) {
+    if (index.columns.front() != column->name || !index.only.empty()) continue;
+    put(spelling_.distinct(*table, *column));
+    at_ = end;
+    return true;
+  }
+  return false;
+}
+
 void Rewriter::selectHead(SelectParts& parts) {
   for (;;) {
     if (accept(packed("distinct"))) {

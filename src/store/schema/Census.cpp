@@ -17,7 +17,10 @@ void addPersons(std::vector<Table>& tables) {
                        .refers("Institucion", {"CodInstitucionEmpadronado"})
                        .texts({"Nif_Responsable", "Cumpleaños", "AñoNacimiento"})
                        .index({"PrimerApellido", "SegundoApellido", "Nombre"})
-                       .index({"DNI"}));
+                       .index({"DNI"})
+                       .from(4)
+                       .index({"EstadoCivil"})
+                       .index({"PosicionFamiliar"}));
   tables.push_back(Table("Padron_NotasPersonales")
                        .counter("IDNota")
                        .belongsTo("Padron", "CodPadron")

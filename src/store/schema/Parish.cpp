@@ -5,7 +5,7 @@
 namespace fidaleon::store {
 
 const Schema& parishSchema() {
-  static const Schema schema("Parroquia", 3, [] {
+  static const Schema schema("Parroquia", 4, [] {
     std::vector<Table> tables;
     addCatalogues(tables);
     addBooks(tables);
@@ -14,7 +14,10 @@ const Schema& parishSchema() {
     addMarriage(tables);
     addDeath(tables);
     addCensus(tables);
-    for (Table& table : tables) table.zeroNumbers();
+    for (Table& table : tables) {
+      table.zeroNumbers();
+      if (table.find("Anulada") != nullptr) table.from(4).indexMarked("Anulada", "CodLibro");
+    }
     return tables;
   }());
   return schema;

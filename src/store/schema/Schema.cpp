@@ -69,6 +69,11 @@ Table& Table::index(std::initializer_list<const char*> columns, bool unique) {
   return *this;
 }
 
+Table& Table::indexMarked(const char* mark, const char* column) {
+  indexes_.push_back(Index{{column}, false, version_, mark});
+  return *this;
+}
+
 Table& Table::row(std::vector<Value> values) {
   if (values.size() != columns_.size()) throw std::logic_error("row of another width: " + name_);
   rows_.push_back(std::move(values));

@@ -43,6 +43,8 @@ struct Index {
   std::vector<std::string> columns;
   bool unique = false;
   int since = 1;
+  /// A Yes/No column: the index has the rows alone where it is set. For marks that few rows bear.
+  std::string only = {};
 };
 
 /// One table. Built by chained calls; what a call adds carries the version given by `from`.
@@ -67,6 +69,8 @@ class Table {
   /// The order of rows when a statement asks for none, and an index; unique for a true key.
   Table& key(std::initializer_list<const char*> columns, bool unique);
   Table& index(std::initializer_list<const char*> columns, bool unique = false);
+  /// The rows that bear `mark`, by `column`.
+  Table& indexMarked(const char* mark, const char* column);
   Table& row(std::vector<Value> values);
 
   const std::string& name() const { return name_; }

@@ -89,8 +89,21 @@ std::string SqliteSpelling::createIndex(const Table& table, const Index& index) 
     columns += columns.empty() ? "" : ", ";
     columns += expression ? "val(" + name(column) + ")" : name(column);
   }
+  if (!index.only.empty()) label += "_" + index.only;
   return std::string("CREATE ") + (index.unique ? "UNIQUE " : "") + "INDEX " + name(label) +
-         " ON " + name(table.name()) + " (" + columns + ")";
+         " ON " + name(table.name()) + " (" + columns + ")" +
+         (index.only.empty() ? "" : " WHERE " + name(index.only) + " = -1");
+}
+
+std::string SqliteSpelling::distinct(const Table& table, const Column& column) const {
+  // One look-up in the index for each value; the engine by itself walks through all of it.
+  const std::string c = name(column.name);
+  const std::string from = " FROM " + name(table.name());
+  return "WITH RECURSIVE valor(x) AS (SELECT min(" + c + ")" + from +
+         " UNION ALL SELECT (SELECT min(" + c + ")" + from + " WHERE " + c +
+         " > valor.x) FROM valor WHERE valor.x IS NOT NULL) SELECT NULL AS " + c +
+         " WHERE EXISTS (SELECT 1" + from + " WHERE " + c +
+         " IS NULL) UNION ALL SELECT x FROM valor WHERE x IS NOT NULL";
 }
 
 }  // namespace fidaleon::store
