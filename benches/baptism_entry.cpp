@@ -28,7 +28,8 @@ struct Parish : bench::World {
       d.choose("cboBautismo(22)", "San Pedro");
       d.choose("cboBautismo(23)", book);
       for (int i = 0; i < count; ++i, ++entered) {
-        const std::string salt(1, static_cast<char>('a' + entered % 26));
+        const std::string salt{static_cast<char>('a' + entered / 26),
+                               static_cast<char>('a' + entered % 26)};  // a family of its own
         d.tab("mstBautismo", frmPartidaBautismo::TAB_BAUTIZADO);
         d.type("txtBautismo(7)", "Luis");
         d.type("txtBautismo(8)", "Zu" + salt + "biri");

@@ -75,7 +75,9 @@ bool frmSolicitudes::pasar(std::int64_t solicitud, const Libro& libro) {
     strNumero_ = "1";
   } else {
     partidas.MoveLast();
-    if (!CalcularFolioyNumero(libro, partidas.integer("Folio"))) return false;
+    const std::int64_t ultimoFolio = partidas.integer("Folio");
+    partidas.Close();  // an open one keeps all its rows over the next change
+    if (!CalcularFolioyNumero(libro, ultimoFolio)) return false;
   }
   conBaseDatos->Execute(sentencia("UPDATE {Partidas} SET InstitucionSolicitud = 0, CodLibro = ") +
                         id + ", Folio = " + std::to_string(lngFolio_) + ", Numero = " +
