@@ -18,6 +18,7 @@ class Folder {
   ~Folder() { std::filesystem::remove_all(path_); }
   Folder(const Folder&) = delete;
   Folder& operator=(const Folder&) = delete;
+  const std::filesystem::path& path() const { return path_; }
   std::filesystem::path operator/(const char* name) const { return path_ / name; }
 
  private:

@@ -1,11 +1,7 @@
 #pragma once
 // A parish file of its own with a scripted user before it, for the measurements.
 
-#include <stdlib.h>
-
-#include <filesystem>
-#include <stdexcept>
-
+#include "benches/Folder.h"
 #include "core/contract/Contexto.h"
 #include "forms/ScriptedUser.h"
 #include "store/Open.h"
@@ -16,23 +12,13 @@
 namespace fidaleon::bench {
 
 struct World {
-  World() {
-    contexto.gobjConfig = &config;
-    if (!::mkdtemp(folder.data())) throw std::runtime_error(folder);
-    connection = store::createDatabase(file(), store::parishSchema());
-  }
-  ~World() {
-    connection.reset();
-    std::filesystem::remove_all(folder);
-  }
+  World() { contexto.gobjConfig = &config; }
   World(const World&) = delete;
   World& operator=(const World&) = delete;
 
-  std::filesystem::path file() const {
-    return std::filesystem::path(folder) / "parroquia.fidaleon";
-  }
+  std::filesystem::path file() const { return folder / "parroquia.fidaleon"; }
 
-  std::string folder = (std::filesystem::temp_directory_path() / "fidaleon-XXXXXX").string();
+  Folder folder;
   FDAPI::cConfig config{"Fidaleon", "", "ana", "Castellano", false};
   forms::ScriptedUser user;
   support::MemorySettings settings;
@@ -40,7 +26,8 @@ struct World {
   support::HostSupport host{user, settings, clock, config, "DESPACHO"};
   Entorno entorno{user, host, settings, clock, {}};
   Contexto contexto{entorno};
-  std::unique_ptr<store::Connection> connection;
+  std::unique_ptr<store::Connection> connection =
+      store::createDatabase(file(), store::parishSchema());
 };
 
 }  // namespace fidaleon::bench

@@ -4,6 +4,7 @@
 
 #include "benches/Bench.h"
 #include "benches/BookStress.h"
+#include "benches/Folder.h"
 
 int main(int argc, char** argv) {
   using namespace fidaleon;
@@ -11,15 +12,13 @@ int main(int argc, char** argv) {
   const stress::Kind* kind = stress::KINDS;
   for (const stress::Kind& other : stress::KINDS)
     if (argc > 2 && other.sacrament.palabra == std::string(argv[2])) kind = &other;
-  std::string directory = (std::filesystem::temp_directory_path() / "fidaleon-XXXXXX").string();
-  if (!::mkdtemp(directory.data())) return 1;
+  const bench::Folder folder;
   stress::Outcome o;
   try {
-    o = stress::run(directory, 8, {1 << 30, seconds}, *kind);
+    o = stress::run(folder.path(), 8, {1 << 30, seconds}, *kind);
   } catch (const std::exception& e) {
     std::fprintf(stderr, "%s\n", e.what());
   }
-  std::filesystem::remove_all(directory);
   const auto none = [](const char* what, int count) {
     bench::line(what, std::to_string(count), "-", "-", "0", count == 0);
   };

@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "benches/Bench.h"
+#include "benches/Folder.h"
 #include "forms/ScriptedUser.h"
 #include "locks/OfdLock.h"
 #include "locks/ProcesarBloqueos.h"
@@ -28,16 +29,12 @@ using Session = std::unique_ptr<locks::ProcesarBloqueos>;
 
 /// A directory with a scripted user at each desk.
 struct Office {
-  Office() {
-    if (!::mkdtemp(directory.data())) std::abort();
-  }
-  ~Office() { std::filesystem::remove_all(directory); }
   Session open() {
     auto session = std::make_unique<locks::ProcesarBloqueos>(user, clock, "ana", "despacho");
-    session->Inicializar(directory);
+    session->Inicializar(folder.path().string());
     return session;
   }
-  std::string directory = (std::filesystem::temp_directory_path() / "fidaleon-XXXXXX").string();
+  bench::Folder folder;
   forms::ScriptedUser user;
   support::FixedClock clock{text::Date{2026, 11, 22}};
 };
@@ -100,7 +97,7 @@ int main() {
                bench::inTurn(
                    5, [&] { commands(ROUNDS); },
                    [&] {
-                     for (int i = 0; i < ROUNDS; ++i) bareSession(office.directory);
+                     for (int i = 0; i < ROUNDS; ++i) bareSession(office.folder.path());
                    }),
                3);
   bench::within("10.000 bloqueos de una vez",

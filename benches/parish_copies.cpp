@@ -2,9 +2,8 @@
 // What a removal and a return cost in a register of 100,000 entries: the copy before, the copies
 // kept, and the way back.
 
-#include <cstdlib>
-
 #include "benches/Bench.h"
+#include "benches/Folder.h"
 #include "benches/Registers.h"
 #include "parish/copies/SafetyCopies.h"
 #include "registers/cBaseDatos.h"
@@ -26,30 +25,25 @@ double room(const app::SafetyCopies& copies) {
 }  // namespace
 
 int main() {
-  std::string folder = std::filesystem::temp_directory_path() / "copiasXXXXXX";
-  if (!mkdtemp(folder.data())) return 1;
-  const std::filesystem::path file = std::filesystem::path(folder) / "parroquia.fidaleon";
-  {
-    const auto parish = store::createDatabase(file, store::parishSchema(), [](auto& c) {
-      bench::FilledRegister(c, ALMACEN_BAUTISMO.forma, ENTRIES, 1000);
-    });
-    const app::SafetyCopies copies(folder);
-    std::filesystem::path copy;
-    const auto make = [&] { copy = copies.make(*parish, "Eliminar", app::thisMoment()); };
-    bench::within("copia antes de eliminar, 100.000 partidas", bench::milliseconds(3, make), 500);
-    const double back = bench::milliseconds(3, [&] {
-      store::Restore restore(copy, file, store::parishSchema());
-      copies.make(*parish, "Antes de volver a una copia", app::thisMoment());
-      restore.run();
-    });
-    bench::within("vuelta a una copia", back, 1500);
-    const double plain = room(copies);
-    const double time = bench::milliseconds(1, [&] { copies.compressOlder([] { return true; }); });
-    bench::line("sitio de las copias, comprimidas salvo dos", bench::shown(room(copies), " bytes"),
-                bench::shown(plain, ""), bench::shown(room(copies) / plain, ""), "<= 0.5",
-                room(copies) <= plain / 2);
-    bench::within("comprimir una copia", time / (copies.list().size() - 2), 1000);
-  }
-  std::filesystem::remove_all(folder);
-  return 0;
+  const bench::Folder folder;
+  const std::filesystem::path file = folder / "parroquia.fidaleon";
+  const auto parish = store::createDatabase(file, store::parishSchema(), [](auto& c) {
+    bench::FilledRegister(c, ALMACEN_BAUTISMO.forma, ENTRIES, 1000);
+  });
+  const app::SafetyCopies copies(folder.path());
+  std::filesystem::path copy;
+  const auto make = [&] { copy = copies.make(*parish, "Eliminar", app::thisMoment()); };
+  bench::within("copia antes de eliminar, 100.000 partidas", bench::milliseconds(3, make), 500);
+  const double back = bench::milliseconds(3, [&] {
+    store::Restore restore(copy, file, store::parishSchema());
+    copies.make(*parish, "Antes de volver a una copia", app::thisMoment());
+    restore.run();
+  });
+  bench::within("vuelta a una copia", back, 1500);
+  const double plain = room(copies);
+  const double time = bench::milliseconds(1, [&] { copies.compressOlder([] { return true; }); });
+  bench::line("sitio de las copias, comprimidas salvo dos", bench::shown(room(copies), " bytes"),
+              bench::shown(plain, ""), bench::shown(room(copies) / plain, ""), "<= 0.5",
+              room(copies) <= plain / 2);
+  bench::within("comprimir una copia", time / (copies.list().size() - 2), 1000);
 }
