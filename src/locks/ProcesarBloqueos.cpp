@@ -49,13 +49,9 @@ ProcesarBloqueos::ProcesarBloqueos(forms::UserInterface& ui, const Clock& clock,
                                    std::string host)
     : ui_(ui), clock_(clock), user_(std::move(user)), host_(std::move(host)) {}
 
-ProcesarBloqueos::~ProcesarBloqueos() {
-  if (directory_) directory_->withdraw();
-}
-
 void ProcesarBloqueos::Inicializar(const std::string& strDirectorioTemporal) {
   LiberarBloqueos();
-  directory_.emplace(strDirectorioTemporal);
+  meeting_ = meetingAt(strDirectorioTemporal);
 }
 
 void ProcesarBloqueos::DefinirBloqueo(DefinicionBloqueo definicion) {
@@ -90,45 +86,75 @@ long ProcesarBloqueos::lngEfectuarBloqueos(bool blnSoloComprobar) {
 }
 
 ProcesarBloqueos::Outcome ProcesarBloqueos::attempt(bool onlyTest) {
-  if (!directory_) return {FDAPI::BloqueoSesion, "La sesión de bloqueos no se ha abierto.", {}};
-  const SharedDirectory::Guard guard = directory_->enter();
-  LockSet wanted;
-  Outcome outcome = tryAll(guard, wanted);
-  if (outcome.error == FDAPI::BloqueoNinguno && !onlyTest) keep(guard, wanted.release());
-  return outcome;
+  if (!meeting_) return {FDAPI::BloqueoSesion, "La sesión de bloqueos no se ha abierto.", {}};
+  LockSet taken;
+  const auto isNew = [&taken](const LockEntry& entry) { return taken.contains(entry); };
+  try {
+    Outcome outcome = tryAll(onlyTest, taken);
+    if (outcome.error != FDAPI::BloqueoNinguno) giveBack(isNew);
+    return outcome;
+  } catch (...) {
+    giveBack(isNew);
+    throw;
+  }
 }
 
-// The statements run while nobody else can take or give back a lock: a record that exists here
-// cannot have been deleted by a session that held it.
-ProcesarBloqueos::Outcome ProcesarBloqueos::tryAll(const SharedDirectory::Guard& guard,
-                                                   LockSet& wanted) {
+// What was looked up before the locks were held is looked up again under them: a record that exists
+// then cannot be deleted any more, and one that has come to the rest is taken as well. Nobody is
+// kept waiting while the statements run.
+ProcesarBloqueos::Outcome ProcesarBloqueos::tryAll(bool onlyTest, LockSet& taken) {
+  LockSet wanted;
+  while (extend(wanted)) {
+    const auto clash = onlyTest ? meeting_->clash(wanted) : take(wanted, taken);
+    if (clash) {
+      Outcome gone = whatIsGone();
+      return gone.error == FDAPI::BloqueoNinguno ? refused(*clash) : gone;
+    }
+    if (onlyTest) break;
+  }
+  return whatIsGone();
+}
+
+std::optional<MeetingPlace::Clash> ProcesarBloqueos::take(const LockSet& wanted, LockSet& taken) {
+  std::vector<HeldEntry> more;
+  std::ranges::copy_if(wanted.all(), std::back_inserter(more),
+                       [&](const HeldEntry& one) { return !held_.contains(one.entry); });
+  auto clash = meeting_->take(wanted, more);
+  if (clash) return clash;
+  for (HeldEntry& one : more) {
+    taken.add(one);
+    held_.add(std::move(one));
+  }
+  return std::nullopt;
+}
+
+/// Adds what the definitions mean by now; false when all of that was there.
+bool ProcesarBloqueos::extend(LockSet& wanted) const {
+  const std::size_t before = wanted.all().size();
   const Holder holder = self();
-  for (const DefinicionBloqueo& d : pending_) {
+  for (const DefinicionBloqueo& d : pending_)
+    if (before == 0 || isStatement(d.strRegistro))
+      for (LockEntry& e : resolve(d)) wanted.add({std::move(e), holder});
+  return wanted.all().size() != before;
+}
+
+ProcesarBloqueos::Outcome ProcesarBloqueos::whatIsGone() const {
+  for (const DefinicionBloqueo& d : pending_)
     if (missing(d))
       return {FDAPI::BloqueoRegistroNoExiste,
               d.strNoExiste.empty() ? recordGone(d.strTabla) : d.strNoExiste,
               {}};
-    for (LockEntry& e : resolve(d)) wanted.add({std::move(e), holder});
-  }
-  std::size_t first = wanted.all().size();  // of those wanted that cannot be had
-  const HeldEntry* inTheWay = nullptr;
-  const std::vector<HeldEntry> others = directory_->others(guard);
-  for (const HeldEntry& other : others)
-    if (const auto place = wanted.firstConflict(other.entry); place && *place < first) {
-      first = *place;
-      inTheWay = &other;
-    }
-  return inTheWay ? refused(wanted.all()[first].entry, *inTheWay) : Outcome{};
+  return {};
 }
 
-ProcesarBloqueos::Outcome ProcesarBloqueos::refused(const LockEntry& wanted,
-                                                    const HeldEntry& held) const {
-  const long error = errorFor(wanted.kind);
+ProcesarBloqueos::Outcome ProcesarBloqueos::refused(const MeetingPlace::Clash& clash) const {
+  const long error = errorFor(clash.wanted.kind);
   const auto consequence = consequences_.find(error);
   return {error,
-          consequence == consequences_.end() ? refusal(wanted, held, self())
-                                             : refusal(wanted, held, self(), consequence->second),
-          whoAndSince(held.holder, self())};
+          consequence == consequences_.end()
+              ? refusal(clash.wanted, clash.held, self())
+              : refusal(clash.wanted, clash.held, self(), consequence->second),
+          whoAndSince(clash.held.holder, self())};
 }
 
 bool ProcesarBloqueos::missing(const DefinicionBloqueo& d) const {
@@ -163,13 +189,6 @@ long ProcesarBloqueos::errorFor(Kind kind) const {
   return sharesRecord() ? FDAPI::BloqueoRegistroConPadres : FDAPI::BloqueoRegistro;
 }
 
-void ProcesarBloqueos::keep(const SharedDirectory::Guard& guard, std::vector<HeldEntry> wanted) {
-  std::erase_if(wanted, [&](const HeldEntry& one) { return held_.contains(one.entry); });
-  if (wanted.empty()) return;
-  directory_->publishMore(guard, wanted);
-  for (HeldEntry& one : wanted) held_.add(std::move(one));
-}
-
 Holder ProcesarBloqueos::self() const {
   return {user_, host_, ::getpid(), text::toShort(clock_.today()) + " a las " + clock_.now()};
 }
@@ -178,27 +197,26 @@ void ProcesarBloqueos::LiberarBloqueo(const std::string& strTabla) {
   std::erase_if(pending_, [&](const DefinicionBloqueo& d) {
     return goesBy(strTabla, {kindOf(d), d.strTabla, d.strRegistro, d.lngContador});
   });
-  std::vector<HeldEntry> kept = held_.release();
-  const bool any =
-      std::erase_if(kept, [&](const HeldEntry& held) { return goesBy(strTabla, held.entry); }) != 0;
-  for (const HeldEntry& held : kept) held_.add(held);
-  if (!any) return;
-  if (kept.empty()) {
-    directory_->withdraw();
-    return;
-  }
   try {
-    directory_->publish(directory_->enter(), kept);
+    giveBack([&](const LockEntry& entry) { return goesBy(strTabla, entry); });
   } catch (const Unusable& e) {
     forms::warn(ui_, e.what());
   }
+}
+
+void ProcesarBloqueos::giveBack(const std::function<bool(const LockEntry&)>& which) {
+  if (std::ranges::none_of(held_.all(), [&](const HeldEntry& h) { return which(h.entry); })) return;
+  std::vector<HeldEntry> kept = held_.release();
+  std::erase_if(kept, [&](const HeldEntry& held) { return which(held.entry); });
+  for (const HeldEntry& held : kept) held_.add(held);
+  kept.empty() ? meeting_->withdraw() : meeting_->publish(kept);
 }
 
 void ProcesarBloqueos::LiberarBloqueos() {
   pending_.clear();
   pendingRefused_ = false;
   held_.release();
-  if (directory_) directory_->withdraw();
+  if (meeting_) meeting_->withdraw();
 }
 
 }  // namespace fidaleon::locks

@@ -1,25 +1,27 @@
 #pragma once
 
+#include <functional>
 #include <map>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
 
 #include "core/contract/Entorno.h"
 #include "locks/LockSet.h"
-#include "locks/SharedDirectory.h"
+#include "locks/MeetingPlace.h"
 
 namespace fidaleon::locks {
 
-/// A lock session on a shared directory. What it holds vanishes with it, and with the process
-/// however that ends. Definitions that were refused are forgotten when the next one is added, so
-/// that a dialog may go on to something else; asked again without a new one, they are tried again.
+/// A lock session where the workstations of a parish meet. What it holds vanishes with it, and with
+/// the process however that ends. Definitions that were refused are forgotten when the next one is
+/// added, so that a dialog may go on to something else; asked again without a new one, they are
+/// tried again.
 class ProcesarBloqueos : public FDAPI::cProcesarBloqueos {
  public:
   /// `user` and `host` are shown to whoever is refused.
   ProcesarBloqueos(forms::UserInterface& ui, const Clock& clock, std::string user,
                    std::string host);
-  ~ProcesarBloqueos() override;
 
   void Inicializar(const std::string& strDirectorioTemporal) override;
   void DefinirBloqueo(FDAPI::DefinicionBloqueo definicion) override;
@@ -37,20 +39,23 @@ class ProcesarBloqueos : public FDAPI::cProcesarBloqueos {
     std::string holder;
   };
   Outcome attempt(bool onlyTest);
-  Outcome refused(const LockEntry& wanted, const HeldEntry& held) const;
-  Outcome tryAll(const SharedDirectory::Guard& guard, LockSet& wanted);
+  Outcome refused(const MeetingPlace::Clash& clash) const;
+  Outcome tryAll(bool onlyTest, LockSet& taken);
+  std::optional<MeetingPlace::Clash> take(const LockSet& wanted, LockSet& taken);
+  bool extend(LockSet& wanted) const;
+  Outcome whatIsGone() const;
   bool missing(const FDAPI::DefinicionBloqueo& definition) const;
   std::vector<LockEntry> resolve(const FDAPI::DefinicionBloqueo& definition) const;
   long errorFor(Kind kind) const;
   bool sharesRecord() const;
-  void keep(const SharedDirectory::Guard& guard, std::vector<HeldEntry> wanted);
+  void giveBack(const std::function<bool(const LockEntry&)>& which);
   Holder self() const;
 
   forms::UserInterface& ui_;
   const Clock& clock_;
   std::string user_;
   std::string host_;
-  std::optional<SharedDirectory> directory_;
+  std::unique_ptr<MeetingPlace> meeting_;
   std::vector<FDAPI::DefinicionBloqueo> pending_;
   bool pendingRefused_ = false;
   LockSet held_;

@@ -51,25 +51,29 @@ Holder holderOf(const fs::path& session, const std::vector<HeldEntry>& held) {
   return held.empty() ? namedBy(session) : held.front().holder;
 }
 
-}  // namespace
-
-SharedDirectory::Guard::~Guard() {
-  if (!announced_) return;
-  try {
-    file_.write({});
-  } catch (const std::system_error&) {
-    // The next one to announce something writes over it.
+/// The locked guard file.
+class LockedFile : public MeetingPlace::Guard::Door {
+ public:
+  explicit LockedFile(File file) : file_(std::move(file)) {}
+  ~LockedFile() override {
+    if (!announced_) return;
+    try {
+      file_.write({});
+    } catch (const std::system_error&) {
+      // The next one to announce something writes over it.
+    }
   }
-}
-
-void SharedDirectory::Guard::announce(const HeldEntry& work) noexcept {
-  try {
+  void announce(const HeldEntry& work) override {
     announced_ = true;
     file_.write(encode({work}));
-  } catch (const std::exception&) {
-    // Those who wait are told less.
   }
-}
+
+ private:
+  File file_;
+  bool announced_ = false;
+};
+
+}  // namespace
 
 SharedDirectory::SharedDirectory(fs::path directory, std::chrono::milliseconds patience,
                                  Vantage vantage)
@@ -77,7 +81,7 @@ SharedDirectory::SharedDirectory(fs::path directory, std::chrono::milliseconds p
       patience_(patience),
       vantage_(std::move(vantage)) {}
 
-SharedDirectory::Guard SharedDirectory::enter() const {
+MeetingPlace::Guard SharedDirectory::enter() const {
   const auto until = std::chrono::steady_clock::now() + patience_;
   try {
     File file = File::openOrCreate(directory_ / GUARD_FILE);
@@ -91,7 +95,7 @@ SharedDirectory::Guard SharedDirectory::enter() const {
       std::this_thread::sleep_for(std::min(pause, std::chrono::microseconds(20000)));
     }
     if (!file.read().empty()) file.write({});  // by one that was killed at its work
-    return Guard(std::move(file));
+    return Guard(std::make_unique<LockedFile>(std::move(file)));
   } catch (const std::system_error& e) {
     throw Unusable(unusable(directory_, text::systemReason(e.code())));
   }
@@ -136,12 +140,29 @@ std::vector<SharedDirectory::Session> SharedDirectory::sessions(const Guard&) co
   return all;
 }
 
-std::vector<HeldEntry> SharedDirectory::others(const Guard& guard) const {
-  std::vector<HeldEntry> all;
-  for (Session& session : sessions(guard))
-    all.insert(all.end(), std::move_iterator(session.held.begin()),
-               std::move_iterator(session.held.end()));
-  return all;
+std::optional<MeetingPlace::Clash> SharedDirectory::clash(const LockSet& wanted) const {
+  return clash(enter(), wanted);
+}
+
+std::optional<MeetingPlace::Clash> SharedDirectory::clash(const Guard& guard,
+                                                          const LockSet& wanted) const {
+  std::size_t first = wanted.all().size();
+  std::optional<Clash> found;
+  for (const Session& session : sessions(guard))
+    for (const HeldEntry& held : session.held)
+      if (const auto place = wanted.firstConflict(held.entry); place && *place < first) {
+        first = *place;
+        found = {wanted.all()[first].entry, held};
+      }
+  return found;
+}
+
+std::optional<MeetingPlace::Clash> SharedDirectory::take(const LockSet& wanted,
+                                                         const std::vector<HeldEntry>& more) {
+  const Guard guard = enter();
+  std::optional<Clash> found = clash(guard, wanted);
+  if (!found && !more.empty()) put(guard, content_.size(), more);
+  return found;
 }
 
 void SharedDirectory::dismissUnseen(const Guard&) const {
@@ -161,7 +182,7 @@ bool SharedDirectory::ensureOwnFile() {
   return true;
 }
 
-void SharedDirectory::put(std::size_t from, const std::vector<HeldEntry>& entries) {
+void SharedDirectory::put(const Guard&, std::size_t from, const std::vector<HeldEntry>& entries) {
   const std::string before = content_.substr(from);
   content_.replace(from, std::string::npos, encode(entries));
   bool isNew = true;

@@ -9,7 +9,7 @@
 #include "core/statements/Citas.h"
 #include "files/Durable.h"
 #include "files/PrivateFile.h"
-#include "locks/SharedDirectory.h"
+#include "locks/MeetingPlace.h"
 #include "parish/Insert.h"
 #include "parish/ParishFiles.h"
 #include "store/Open.h"
@@ -75,7 +75,7 @@ void createParish(const NewParish& parish, const text::Date& today, const Fillin
   const ParishFiles files(parish.directory);
   makeDirectory(parish.directory, parish.group);
   // Nobody comes in meanwhile. Where the guard is not seen by all, the name alone decides.
-  const auto guard = locks::SharedDirectory(parish.directory).enter();
+  const auto guard = locks::meetingAt(parish.directory)->enter();
   if (files.exists()) throw store::NameTaken(files.parish());
   // The note stands before the parish does: a power cut leaves a whole parish or none. That of
   // somebody else, who may be making one too, stays until this one has won the name.

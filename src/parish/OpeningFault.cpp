@@ -1,6 +1,6 @@
 #include "parish/OpeningFault.h"
 
-#include "locks/SharedDirectory.h"
+#include "locks/MeetingPlace.h"
 #include "parish/copies/SafetyCopies.h"
 
 namespace fidaleon::app {

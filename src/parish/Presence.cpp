@@ -22,20 +22,16 @@ locks::HeldEntry present(const locks::Holder& self) {
 }  // namespace
 
 Presence::Presence(const std::filesystem::path& parishDirectory, const std::string& user,
-                   const std::string& since, locks::Vantage vantage)
+                   const std::string& since)
     : self_{user, locks::hostName(), ::getpid(), since},
-      meeting_(parishDirectory, locks::SharedDirectory::PATIENCE, std::move(vantage)) {
-  told_ = meeting_.join(meeting_.enter(), {present(self_)});
-}
-
-Presence::~Presence() {
-  meeting_.withdraw();
+      meeting_(locks::meetingAt(parishDirectory)) {
+  told_ = meeting_->join(meeting_->enter(), {present(self_)});
 }
 
 void Presence::tellAgain() noexcept {
   if (told_) return;
   try {
-    meeting_.publish(meeting_.enter(), {present(self_)});
+    meeting_->publish({present(self_)});
     told_ = true;
   } catch (const std::exception&) {
     // The disk is still full, or somebody lets nobody in.
@@ -43,12 +39,12 @@ void Presence::tellAgain() noexcept {
 }
 
 std::vector<locks::Holder> Presence::others() const {
-  return others(meeting_.enter());
+  return others(meeting_->enter());
 }
 
 std::vector<locks::Holder> Presence::alone(const std::string& doing,
                                            const std::function<void()>& work) const {
-  auto guard = meeting_.enter();
+  auto guard = meeting_->enter();
   std::vector<locks::Holder> there = others(guard);
   if (!there.empty()) return there;
   guard.announce({{locks::Kind::Table, doing, {}, 0}, self_});
@@ -56,14 +52,14 @@ std::vector<locks::Holder> Presence::alone(const std::string& doing,
   return there;
 }
 
-std::vector<locks::Holder> Presence::others(const locks::SharedDirectory::Guard& guard) const {
+std::vector<locks::Holder> Presence::others(const locks::MeetingPlace::Guard& guard) const {
   std::vector<locks::Holder> all;
   const auto add = [&all](const locks::Holder& holder) {
     if (std::none_of(all.begin(), all.end(),
                      [&](const locks::Holder& known) { return same(known, holder); }))
       all.push_back(holder);
   };
-  for (const auto& session : meeting_.sessions(guard)) {
+  for (const auto& session : meeting_->sessions(guard)) {
     if (session.held.empty()) add(session.holder);
     for (const locks::HeldEntry& held : session.held) add(held.holder);
   }
@@ -71,8 +67,8 @@ std::vector<locks::Holder> Presence::others(const locks::SharedDirectory::Guard&
 }
 
 void dismissUnseen(const std::filesystem::path& parishDirectory) {
-  const locks::SharedDirectory meeting(parishDirectory);
-  meeting.dismissUnseen(meeting.enter());
+  const auto meeting = locks::meetingAt(parishDirectory);
+  meeting->dismissUnseen(meeting->enter());
 }
 
 std::string spoken(const locks::Holder& holder) {

@@ -2,10 +2,11 @@
 
 #include <filesystem>
 #include <functional>
+#include <memory>
 #include <string>
 #include <vector>
 
-#include "locks/SharedDirectory.h"
+#include "locks/MeetingPlace.h"
 
 namespace fidaleon::app {
 
@@ -17,10 +18,7 @@ class Presence {
   /// `since` is "dd/mm/yyyy a las HH:mm". Throws locks::Unusable where locks do not work, while
   /// somebody lets nobody in, and locks::UnseenOther.
   Presence(const std::filesystem::path& parishDirectory, const std::string& user,
-           const std::string& since, locks::Vantage vantage = {});
-  ~Presence();
-  Presence(const Presence&) = delete;
-  Presence& operator=(const Presence&) = delete;
+           const std::string& since);
 
   /// Tries again to tell who is here when that could not be written, for a full disk. The others
   /// know meanwhile that somebody is here.
@@ -34,10 +32,10 @@ class Presence {
                                    const std::function<void()>& work) const;
 
  private:
-  std::vector<locks::Holder> others(const locks::SharedDirectory::Guard& guard) const;
+  std::vector<locks::Holder> others(const locks::MeetingPlace::Guard& guard) const;
 
   locks::Holder self_;
-  locks::SharedDirectory meeting_;
+  std::unique_ptr<locks::MeetingPlace> meeting_;
   bool told_ = false;
 };
 

@@ -15,6 +15,7 @@
 #include <QTreeView>
 #include <QVBoxLayout>
 
+#include "locks/Reach.h"
 #include "window/Icons.h"
 #include "window/MainWindow.h"
 #include "window/TreeModel.h"

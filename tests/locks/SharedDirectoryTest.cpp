@@ -47,6 +47,11 @@ class Meeting : public ::testing::Test {
       n += f.path().filename().string().starts_with(SharedDirectory::SESSION_PREFIX);
     return n;
   }
+  static std::size_t listed(const SharedDirectory& place) {
+    std::size_t all = 0;
+    for (const auto& session : place.sessions(place.enter())) all += session.held.size();
+    return all;
+  }
   static std::string whyNot(const std::function<void()>& act) {
     try {
       act();
@@ -64,15 +69,15 @@ TEST_F(Meeting, WhereOneCannotSeeTheOther_ThereIsOneWorkstation) {
   SharedDirectory second = here();
   ASSERT_TRUE(first.join(first.enter(), {work("SACRISTIA")}));
   EXPECT_THROW(second.join(second.enter(), {work("DESPACHO")}), UnseenOther);
-  const std::string why = whyNot([&] { second.others(second.enter()); });
+  const std::string why = whyNot([&] { listed(second); });
   EXPECT_THAT(why, HasSubstr("ya trabaja ana, en el equipo SACRISTIA"));
   EXPECT_THAT(why, HasSubstr("de un servidor que guarde los bloqueos"));
   EXPECT_EQ(files(), 1) << "nothing of another machine is swept, and nothing stays of the refused";
-  EXPECT_TRUE(first.others(first.enter()).empty());
+  EXPECT_EQ(listed(first), 0U);
 
   second.dismissUnseen(second.enter());  // its user knows that nobody is there
   EXPECT_TRUE(second.join(second.enter(), {work("DESPACHO")}));
-  EXPECT_THROW(first.others(first.enter()), UnseenOther) << "but somebody was";
+  EXPECT_THROW(listed(first), UnseenOther) << "but somebody was";
 }
 
 TEST_F(Meeting, WhatIsNotSeen_IsSweptOnlyWhenItHasCertainlyEnded) {
@@ -97,12 +102,12 @@ TEST_F(Meeting, WhatIsNotSeen_IsSweptOnlyWhenItHasCertainlyEnded) {
   for (const auto& c : cases) {
     {
       SharedDirectory left = at(from("SACRISTIA", c.left));
-      left.publish(left.enter(), {work("SACRISTIA")});
+      left.publish({work("SACRISTIA")});
       const SharedDirectory looks = here();
       if (c.swept)
-        EXPECT_TRUE(looks.others(looks.enter()).empty()) << c.what;
+        EXPECT_EQ(listed(looks), 0U) << c.what;
       else
-        EXPECT_THROW(looks.others(looks.enter()), UnseenOther) << c.what;
+        EXPECT_THROW(listed(looks), UnseenOther) << c.what;
       left.withdraw();
     }
     EXPECT_EQ(files(), 0);
@@ -111,13 +116,13 @@ TEST_F(Meeting, WhatIsNotSeen_IsSweptOnlyWhenItHasCertainlyEnded) {
 
 TEST_F(Meeting, ALivingProgramWhoseLockIsNotSeen_ProvesThatLocksAreHidden) {
   SharedDirectory first = here();
-  first.publish(first.enter(), {work("SACRISTIA")});
+  first.publish({work("SACRISTIA")});
   Vantage trusting = from("DESPACHO", thisProgram());
   trusting.reach = [](const fs::path&) { return Reach::Everywhere; };
   const SharedDirectory second = at(trusting);
-  EXPECT_THROW(second.others(second.enter()), UnseenOther);
+  EXPECT_THROW(listed(second), UnseenOther);
   first.withdraw();
-  EXPECT_TRUE(second.others(second.enter()).empty());
+  EXPECT_EQ(listed(second), 0U);
 }
 
 TEST_F(Meeting, WhereNoLockIsSeenAtAll_NobodyCanCome) {
@@ -139,23 +144,22 @@ TEST_F(Meeting, WhereNoLockIsSeenAtAll_NobodyCanCome) {
 TEST_F(Meeting, ComingWithAFullDisk_IsKnownThoughNotByName) {
   SharedDirectory directory = at({});
   const SharedDirectory other = at({});
-  const auto guard = directory.enter();
   bool told = true;
   std::string again;
   {
     const FullDisk full(0);
-    told = directory.join(guard, {work("DESPACHO")});
-    again = whyNot([&] { directory.publish(guard, {work("DESPACHO")}); });
+    told = directory.join(directory.enter(), {work("DESPACHO")});
+    again = whyNot([&] { directory.publish({work("DESPACHO")}); });
     SharedDirectory third = at({});
-    whyNot([&] { third.publish(guard, {work("DESPACHO")}); });
+    whyNot([&] { third.publish({work("DESPACHO")}); });
     EXPECT_EQ(files(), 1) << "who could not come leaves nothing";
   }
   EXPECT_FALSE(told);
   EXPECT_THAT(again, HasSubstr("el disco está lleno"));
-  ASSERT_EQ(other.sessions(guard).size(), 1U);
-  EXPECT_EQ(other.sessions(guard)[0].holder.process, ::getpid());
-  directory.publishMore(guard, {work("DESPACHO")});
-  EXPECT_EQ(other.others(guard).size(), 2U) << "what could not be listed is listed now";
+  ASSERT_EQ(listed(other), 0U);
+  EXPECT_EQ(other.sessions(other.enter())[0].holder.process, ::getpid());
+  directory.publish({work("DESPACHO")});
+  EXPECT_EQ(listed(other), 1U) << "what could not be listed is listed now";
 }
 
 TEST_F(Meeting, GuardThatIsHeldForLong_IsNotWaitedForWithoutEndAndSaysWhatGoesOn) {
