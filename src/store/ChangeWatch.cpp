@@ -1,14 +1,12 @@
 #include "store/ChangeWatch.h"
 
-#include "store/RowCounts.h"
-#include "store/sqlite/SqliteEngine.h"
+#include "store/Backend.h"
 
 namespace fidaleon::store {
 
 ChangeWatch::ChangeWatch(Connection& connection)
     : connection_(connection),
-      onlooker_(std::make_unique<SqliteEngine>(connection.Properties("DATA SOURCE").Value,
-                                               SqliteEngine::Access::Existing)),
+      onlooker_(backendAt(connection.Properties("DATA SOURCE").Value)->open()),
       writtenBefore_(written()),
       storedBefore_(stored()) {}
 
@@ -24,12 +22,12 @@ bool ChangeWatch::changed() const noexcept {
 
 /// Rows that the connection has touched, also in what it took back.
 std::int64_t ChangeWatch::written() const {
-  return onlyNumber(connection_.engine(), "SELECT total_changes()");
+  return connection_.engine().touchedSoFar();
 }
 
 /// Differs whenever somebody else, seen from the onlooker, has committed.
 std::int64_t ChangeWatch::stored() const {
-  return onlyNumber(*onlooker_, "PRAGMA data_version");
+  return onlooker_->othersStored();
 }
 
 }  // namespace fidaleon::store

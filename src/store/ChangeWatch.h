@@ -7,13 +7,11 @@
 
 namespace fidaleon::store {
 
-class SqliteEngine;
-
-/// Tells whether what a connection did since the watch was set has changed its database file. What
+/// Tells whether what a connection did since the watch was set has changed its database. What
 /// was rolled back is no change, nor is what others write meanwhile. When in doubt it says yes.
 class ChangeWatch {
  public:
-  /// The connection must outlive the watch, and its database must be a file.
+  /// The connection must outlive the watch, and its database one that others can open.
   explicit ChangeWatch(Connection& connection);
   ~ChangeWatch();
   ChangeWatch(const ChangeWatch&) = delete;
@@ -26,7 +24,7 @@ class ChangeWatch {
   std::int64_t stored() const;
 
   Connection& connection_;
-  std::unique_ptr<SqliteEngine> onlooker_;
+  std::unique_ptr<Engine> onlooker_;
   std::int64_t writtenBefore_;
   std::int64_t storedBefore_;
 };

@@ -14,7 +14,16 @@
 
 namespace fidaleon::store {
 
+class Schema;
 class Spelling;
+
+enum class Check {
+  Whole,  // also what indexes say against what tables say, which takes three times as long
+  Quick,
+};
+
+/// How much is about to be written.
+enum class Writing { Usual, Large };
 
 enum class Lifetime {
   Call,   // the text stays until the statement has been stepped once and reset
@@ -52,6 +61,8 @@ class Engine {
   /// Runs statements that return nothing, separated by semicolons.
   virtual void run(std::string_view sql) = 0;
 
+  /// All reading shows the same state, whatever others write, until rollback(0).
+  virtual void beginReading() = 0;
   /// `depth` 0 is the transaction itself, above 0 a part nested in it.
   virtual void begin(int depth) = 0;
   virtual void commit(int depth) = 0;
@@ -66,8 +77,24 @@ class Engine {
   virtual void onTouched(Touched told) = 0;
   /// How many that were in all; those that could not be told of too.
   virtual std::int64_t touchedSoFar() const = 0;
-  /// A consistent copy into a new file, which is closed again.
-  virtual void backup(const std::filesystem::path& to, const Progress& progress) = 0;
+  /// Differs from an earlier answer when others have stored something since: other programs, or
+  /// other connections of this one.
+  virtual std::int64_t othersStored() = 0;
+
+  /// A consistent copy of all tables of the schema into a new file, which is closed again. The file
+  /// is one that FileBackend opens, whatever engine this is.
+  virtual void backup(const std::filesystem::path& to, const Schema& schema,
+                      const Progress& progress) = 0;
+  /// Reads the whole database; throws NotADatabase when it is damaged. How far it is, is not known:
+  /// `progress` is told 0 again and again. An engine whose server looks after that has nothing to
+  /// do, here and in the next two.
+  virtual void requireSound(Check, const Progress&) {}
+  void requireSound() { requireSound(Check::Whole, {}); }
+  /// Builds indexes anew for the order of text that the libraries of this machine have now.
+  virtual void renewTextOrder() {}
+  virtual void prepareFor(Writing) {}
+  /// From another thread: what it is doing throws Cancelled.
+  virtual void interrupt() = 0;
 };
 
 }  // namespace fidaleon::store

@@ -3,7 +3,7 @@
 #include <exception>
 #include <utility>
 
-#include "store/RowCounts.h"
+#include "store/Engine.h"
 
 namespace fidaleon::store {
 
@@ -13,15 +13,11 @@ ForeignChanges::ForeignChanges(Connection& connection) : connection_(connection)
 
 bool ForeignChanges::since() noexcept {
   try {
-    const std::int64_t before = std::exchange(seen_, version());
+    const std::int64_t before = std::exchange(seen_, connection_.engine().othersStored());
     return seen_ != before;
   } catch (const std::exception&) {
     return false;
   }
-}
-
-std::int64_t ForeignChanges::version() const {
-  return onlyNumber(connection_.engine(), "PRAGMA data_version");
 }
 
 }  // namespace fidaleon::store

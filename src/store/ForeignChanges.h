@@ -18,8 +18,6 @@ class ForeignChanges {
   bool since() noexcept;
 
  private:
-  std::int64_t version() const;
-
   Connection& connection_;
   std::int64_t seen_ = 0;
 };

@@ -40,14 +40,23 @@ class ForwardingEngine : public Engine {
     return inner_->sameWay(sql, reversed);
   }
   void run(std::string_view sql) override { inner_->run(sql); }
+  void beginReading() override { inner_->beginReading(); }
   void begin(int depth) override { inner_->begin(depth); }
   void commit(int depth) override { inner_->commit(depth); }
   void rollback(int depth) override { inner_->rollback(depth); }
   bool inTransaction() const override { return inner_->inTransaction(); }
   const Spelling& spelling() const override { return inner_->spelling(); }
-  void backup(const std::filesystem::path& to, const Progress& progress) override {
-    inner_->backup(to, progress);
+  std::int64_t othersStored() override { return inner_->othersStored(); }
+  void backup(const std::filesystem::path& to, const Schema& schema,
+              const Progress& progress) override {
+    inner_->backup(to, schema, progress);
   }
+  void requireSound(Check check, const Progress& progress) override {
+    inner_->requireSound(check, progress);
+  }
+  void renewTextOrder() override { inner_->renewTextOrder(); }
+  void prepareFor(Writing writing) override { inner_->prepareFor(writing); }
+  void interrupt() override { inner_->interrupt(); }
   void onTouched(Touched told) override { inner_->onTouched(std::move(told)); }
   std::int64_t touchedSoFar() const override { return inner_->touchedSoFar(); }
 

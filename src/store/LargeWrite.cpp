@@ -5,13 +5,12 @@
 namespace fidaleon::store {
 
 LargeWrite::LargeWrite(Connection& connection) : connection_(connection) {
-  connection_.engine().run("PRAGMA cache_size = -40000; PRAGMA wal_autocheckpoint = 8000;");
+  connection_.engine().prepareFor(Writing::Large);
 }
 
 LargeWrite::~LargeWrite() {
   try {
-    connection_.engine().run(
-        "PRAGMA cache_size = -2000; PRAGMA wal_autocheckpoint = 1000; PRAGMA shrink_memory;");
+    connection_.engine().prepareFor(Writing::Usual);
   } catch (const Error&) {
     // Only slower or larger than it need be.
   }

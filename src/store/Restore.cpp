@@ -10,6 +10,7 @@
 #include "files/Compressed.h"
 #include "files/Durable.h"
 #include "files/PrivateFile.h"
+#include "store/Backend.h"
 #include "store/Companions.h"
 #include "store/FileFault.h"
 #include "store/RowCounts.h"
@@ -83,8 +84,8 @@ Restore::Restore(const fs::path& copy, const fs::path& database, const Schema& s
   requireWanted(progress, 200);
   SqliteEngine engine(draft_.path(), SqliteEngine::Access::Existing);
   Installer(engine, schema_).upgrade();
-  engine.requireSound(false, partOf(progress, 200, 1000));
-  engine.run("PRAGMA journal_mode = DELETE;");
+  engine.requireSound(Check::Whole, partOf(progress, 200, 1000));
+  engine.leaveWriteAheadLog();
   counts_ = rowCounts(engine, schema_);
 }
 
@@ -97,16 +98,14 @@ Unconfirmed::Unconfirmed(const Error& why)
           why.number()) {}
 
 bool Restore::isReplaced(const std::vector<std::int64_t>& before) const {
-  SqliteEngine now(database_, SqliteEngine::Access::Existing);
-  return counts_ != before && rowCounts(now, schema_) == counts_;
+  return counts_ != before && rowCounts(*backendAt(database_)->open(), schema_) == counts_;
 }
 
 void Restore::replace(const Progress& progress) {
-  SqliteEngine database(database_, SqliteEngine::Access::Existing);
-  SqliteEngine copy(draft_.path(), SqliteEngine::Access::Existing);
-  const std::vector<std::int64_t> before = rowCounts(database, schema_);
+  const std::unique_ptr<Backend> backend = backendAt(database_);
+  const std::vector<std::int64_t> before = rowCounts(*backend->open(), schema_);
   try {
-    database.copyFrom(copy, progress);
+    backend->replaceBy(draft_.path(), schema_, progress);
   } catch (const Error& e) {
     if (e.kind() != ErrorKind::Cancelled && isReplaced(before)) throw Unconfirmed(e);
     throw;
@@ -115,23 +114,20 @@ void Restore::replace(const Progress& progress) {
 
 void Restore::run(const Progress& progress) {
   replace(progress);
-  SqliteEngine database(database_, SqliteEngine::Access::Existing);
-  requireContent(database);
+  requireContent();
 }
 
 fs::path Restore::takePlace() {
-  const bool leavesNothing = !files::isThere(database_) && companionsOf(database_).empty();
-  const fs::path aside = leavesNothing ? fs::path() : putAside(database_, ".estropeada");
-  draft_.accept();
-  SqliteEngine database(database_, SqliteEngine::Access::Existing);
-  requireContent(database);
+  const fs::path aside = backendAt(database_)->takePlace(draft_);
+  requireContent();
   return aside;
 }
 
-// The copy was looked through as a whole; here it is seen whether all its pages came.
-void Restore::requireContent(SqliteEngine& database) {
-  database.requireSound(true);
-  if (rowCounts(database, schema_) != counts_)
+// The copy was looked through as a whole; here it is seen whether all of it came.
+void Restore::requireContent() const {
+  const std::unique_ptr<Engine> engine = backendAt(database_)->open();
+  engine->requireSound(Check::Quick, {});
+  if (rowCounts(*engine, schema_) != counts_)
     throw Error(ErrorKind::NotADatabase, "Lo que ha quedado en «" + database_.string() +
                                              "» no es lo que había en la copia.");
 }

@@ -16,11 +16,10 @@ class Unconfirmed : public Error {
  public:
   explicit Unconfirmed(const Error& why);
 };
-class SqliteEngine;
 
 /// A saved copy of a database, compressed or not, made ready to be returned to: read into a passing
-/// file beside the database, brought up to the version of the schema, and checked. The copy itself
-/// is only read.
+/// file beside it (on a server's desk, beside the address), brought up to the version of the
+/// schema, and checked. The copy itself is only read.
 class Restore {
  public:
   /// Throws Missing, NotADatabase when the copy is damaged or of another kind, NewerSchema, Busy
@@ -28,7 +27,7 @@ class Restore {
   Restore(const std::filesystem::path& copy, const std::filesystem::path& database,
           const Schema& schema, const Progress& progress = {});
 
-  /// Replaces all that the database holds, in one transaction of its file: whoever is killed, at
+  /// Replaces all that the database holds, in one transaction: whoever is killed, at
   /// whatever moment, leaves either the old content or the new one, and open connections see the
   /// new one from their next statement on. Throws Busy while somebody writes or, on a network
   /// disk, reads; DiskFull; nothing has changed then. What was stored is read back and checked.
@@ -43,7 +42,7 @@ class Restore {
  private:
   void replace(const Progress& progress);
   bool isReplaced(const std::vector<std::int64_t>& before) const;
-  void requireContent(SqliteEngine& database);
+  void requireContent() const;
 
   std::filesystem::path database_;
   const Schema& schema_;

@@ -1,13 +1,13 @@
 #include "store/SoundnessCheck.h"
 
+#include "store/Backend.h"
 #include "store/Error.h"
-#include "store/sqlite/SqliteEngine.h"
 
 namespace fidaleon::store {
 
 bool isDamaged(const std::filesystem::path& database) {
   try {
-    SqliteEngine(database, SqliteEngine::Access::Existing).requireSound();
+    backendAt(database)->open()->requireSound();
     return false;
   } catch (const Error& error) {
     return error.kind() == ErrorKind::NotADatabase;
@@ -31,14 +31,14 @@ SoundnessCheck::~SoundnessCheck() {
 SoundnessCheck::Finding SoundnessCheck::look(const std::filesystem::path& database) {
   Finding finding = Finding::Unknown;
   try {
-    SqliteEngine engine(database, SqliteEngine::Access::Existing);
+    const std::unique_ptr<Engine> engine = backendAt(database)->open();
     {
       const std::lock_guard guard(mutex_);
       if (givenUp_) return finding;
-      engine_ = &engine;
+      engine_ = engine.get();
     }
     try {
-      engine.requireSound();
+      engine->requireSound();
       finding = Finding::Sound;
     } catch (const Error& error) {
       if (error.kind() == ErrorKind::NotADatabase) finding = Finding::Damaged;

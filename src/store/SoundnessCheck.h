@@ -7,7 +7,7 @@
 
 namespace fidaleon::store {
 
-class SqliteEngine;
+class Engine;
 
 /// Reads the whole of a database. False also when it cannot be told.
 bool isDamaged(const std::filesystem::path& database);
@@ -28,7 +28,7 @@ class SoundnessCheck {
   Finding look(const std::filesystem::path& database);
 
   std::mutex mutex_;
-  SqliteEngine* engine_ = nullptr;  // while it looks
+  Engine* engine_ = nullptr;  // while it looks
   bool givenUp_ = false;
   std::thread thread_;
 };

@@ -5,7 +5,7 @@
 #include <QTimer>
 
 #include "parish/WindowSettings.h"
-#include "store/sqlite/NetworkDisk.h"
+#include "store/Open.h"
 
 namespace fidaleon::app {
 namespace {
@@ -56,7 +56,7 @@ bool DailyCheck::isDue() const {
 
 bool DailyCheck::hindersNobody() const {
   try {
-    return store::usesWriteAheadLog(desk_.files().parish()) || desk_.presence().others().empty();
+    return store::readersHinderNobody(desk_.files().parish()) || desk_.presence().others().empty();
   } catch (const locks::Unusable&) {
     return false;
   }

@@ -14,7 +14,6 @@
 #include "parish/WindowSettings.h"
 #include "store/Open.h"
 #include "store/SoundnessCheck.h"
-#include "store/sqlite/NetworkDisk.h"
 #include "text/Utf8.h"
 #include "window/Beside.h"
 #include "window/CarefulQuestion.h"
@@ -148,7 +147,7 @@ void MainWindow::depart(Departure departure) {
 // The folder may have been on the network. While it still is for others, it stays as it is.
 void MainWindow::takeUpLog() {
   const std::filesystem::path file = desk_.files().parish();
-  if (store::usesWriteAheadLog(file)) return;
+  if (store::readersHinderNobody(file)) return;
   try {
     desk_.presence().alone("está abriendo la parroquia", [&] { store::takeUpLog(file); });
   } catch (const store::Error&) {

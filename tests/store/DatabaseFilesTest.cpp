@@ -42,8 +42,8 @@ class AfterBackup : public ForwardingEngine {
  public:
   AfterBackup(std::unique_ptr<Engine> inner, std::function<void(const fs::path&)> then)
       : ForwardingEngine(std::move(inner)), then_(std::move(then)) {}
-  void backup(const fs::path& to, const Progress& progress) override {
-    ForwardingEngine::backup(to, progress);
+  void backup(const fs::path& to, const Schema& schema, const Progress& progress) override {
+    ForwardingEngine::backup(to, schema, progress);
     then_(to);
   }
 

@@ -117,8 +117,9 @@ class BadCopier : public store::FailingEngine {
  public:
   using FailingEngine::FailingEngine;
   std::function<void(const fs::path&)> damage;
-  void backup(const fs::path& to, const store::Progress& progress) override {
-    FailingEngine::backup(to, progress);
+  void backup(const fs::path& to, const store::Schema& schema,
+              const store::Progress& progress) override {
+    FailingEngine::backup(to, schema, progress);
     damage(to);
   }
 };

@@ -81,7 +81,7 @@ void Installer::adoptTextOrder() {
   if (stored("Orden").text() == text::orderVersion()) return;
   Step step(engine_);
   const Spelling& spell = engine_.spelling();
-  engine_.run("REINDEX");
+  engine_.renewTextOrder();
   engine_.run("UPDATE " + spell.name("Esquema") + " SET " + spell.name("Orden") + " = " +
               spell.text(text::orderVersion()));
   step.commit();

@@ -70,7 +70,7 @@ SqliteEngine::SqliteEngine(const std::filesystem::path& file, Access access) {
     run("PRAGMA synchronous = FULL; SELECT count(*) FROM sqlite_schema;");
     // A journal that is taken away may come back with a power cut, and undo what was told as
     // stored. One that is cut to nothing may not.
-    if (journal() == "delete") run("PRAGMA journal_mode = TRUNCATE;");
+    if (only("PRAGMA journal_mode").text() == "delete") run("PRAGMA journal_mode = TRUNCATE;");
   } catch (...) {
     sqlite3_close_v2(db_);
     throw;
@@ -116,11 +116,12 @@ int SqliteEngine::waitForOthers(void* engine, int tries) {
   return 1;
 }
 
-std::string SqliteEngine::journal() {
-  SqliteStatement statement(db_, "PRAGMA journal_mode");
+/// The only value that a statement gives; Null when there is none.
+Value SqliteEngine::only(std::string_view sql) {
+  SqliteStatement statement(db_, sql);
   RowStore rows(1);
   if (statement.step()) statement.read(rows);
-  return rows.rows() == 0 ? std::string() : rows.at(0, 0).text();
+  return rows.rows() == 0 ? Value() : rows.at(0, 0);
 }
 
 void SqliteEngine::leaveWriteAheadLog() {
@@ -148,6 +149,10 @@ bool SqliteEngine::sameWay(const std::string& sql, const std::string& reversed) 
 
 void SqliteEngine::run(std::string_view sql) {
   check(sqlite3_exec(db_, std::string(sql).c_str(), nullptr, nullptr, nullptr), db_);
+}
+
+void SqliteEngine::beginReading() {
+  run("BEGIN");
 }
 
 void SqliteEngine::begin(int depth) {
@@ -186,9 +191,26 @@ std::int64_t SqliteEngine::touchedSoFar() const {
   return sqlite3_total_changes64(db_);
 }
 
-void SqliteEngine::requireSound(bool quickly, const Progress& progress) {
+std::int64_t SqliteEngine::othersStored() {
+  return only("PRAGMA data_version").integer();
+}
+
+void SqliteEngine::renewTextOrder() {
+  run("REINDEX");
+}
+
+// The indexes of a large parish do not fit into the usual few pages; the log is brought home in
+// larger pieces. What is committed is as safe as ever.
+void SqliteEngine::prepareFor(Writing writing) {
+  run(writing == Writing::Large
+          ? "PRAGMA cache_size = -40000; PRAGMA wal_autocheckpoint = 8000;"
+          : "PRAGMA cache_size = -2000; PRAGMA wal_autocheckpoint = 1000; PRAGMA shrink_memory;");
+}
+
+void SqliteEngine::requireSound(Check check, const Progress& progress) {
   const Heed heed(db_, progress);
-  SqliteStatement statement(db_, quickly ? "PRAGMA quick_check" : "PRAGMA integrity_check");
+  SqliteStatement statement(
+      db_, check == Check::Quick ? "PRAGMA quick_check" : "PRAGMA integrity_check");
   RowStore rows(1);
   while (statement.step()) statement.read(rows);
   if (rows.rows() != 1 || rows.at(0, 0).text() != "ok") throw sqliteError(SQLITE_CORRUPT, nullptr);
@@ -210,7 +232,8 @@ void SqliteEngine::copyFrom(SqliteEngine& from, const Progress& progress) {
   check(finished, db_);
 }
 
-void SqliteEngine::backup(const std::filesystem::path& to, const Progress& progress) {
+void SqliteEngine::backup(const std::filesystem::path& to, const Schema&,
+                          const Progress& progress) {
   SqliteEngine copy(to, Access::Create);
   copy.copyFrom(*this, progress);
   copy.run("PRAGMA journal_mode = DELETE;");

@@ -27,29 +27,34 @@ class SqliteEngine : public Engine {
   std::unique_ptr<Statement> prepare(std::string_view sql, std::string_view source) override;
   bool sameWay(const std::string& sql, const std::string& reversed) override;
   void run(std::string_view sql) override;
+  void beginReading() override;
   void begin(int depth) override;
   void commit(int depth) override;
   void rollback(int depth) override;
   bool inTransaction() const override;
   const Spelling& spelling() const override { return spelling_; }
-  void backup(const std::filesystem::path& to, const Progress& progress) override;
   void onTouched(Touched told) override;
   std::int64_t touchedSoFar() const override;
+  std::int64_t othersStored() override;
+  void backup(const std::filesystem::path& to, const Schema& schema,
+              const Progress& progress) override;
+  using Engine::requireSound;
+  /// Quickly: without comparing what indexes and tables say.
+  void requireSound(Check check, const Progress& progress) override;
+  void renewTextOrder() override;
+  void prepareFor(Writing writing) override;
+  void interrupt() override { sqlite3_interrupt(db_); }
 
   /// Replaces what this database holds by what `from` holds.
   void copyFrom(SqliteEngine& from, const Progress& progress = {});
-  /// Reads the whole file; throws NotADatabase when it is damaged. Quickly: without comparing what
-  /// indexes and tables say. How far it is, is not known: `progress` is told 0 again and again.
-  void requireSound(bool quickly = false, const Progress& progress = {});
-  /// From another thread: what it is doing throws Cancelled.
-  void interrupt() { sqlite3_interrupt(db_); }
-  /// Needs the file for itself: throws Busy when anybody else has it open with its log.
+  /// Leaves nothing beside the file once it is closed. Needs the file for itself: throws Busy when
+  /// anybody else has it open with its log.
   void leaveWriteAheadLog();
   sqlite3* handle() { return db_; }
 
  private:
   void open(const std::string& name, int flags, const char* vfs = nullptr);
-  std::string journal();
+  Value only(std::string_view sql);
   std::string way(const std::string& sql);
   static int waitForOthers(void* engine, int tries);
 
