@@ -131,6 +131,12 @@ Recordset Connection::Execute(std::string_view sql) {
   return Recordset();
 }
 
+void Connection::aheadOfRemoval() {
+  if (impl_->depth > 0) return;
+  impl_->open.drain();
+  impl_->engine->aheadOfRemoval();
+}
+
 void Connection::BeginTrans() {
   impl_->requireTransaction();
   if (impl_->depth == 0) impl_->requireInPlace();

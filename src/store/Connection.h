@@ -31,6 +31,9 @@ class Connection {
 
   Recordset Execute(std::string_view sql);
 
+  /// To be called ahead of a transaction in which rows are taken away: whoever wants to keep them
+  /// first (RemovalWatch) does so while nobody has to wait. Within a transaction nothing happens.
+  void aheadOfRemoval();
   /// Nest freely; an inner rollback undoes the inner part alone.
   void BeginTrans();
   void CommitTrans();

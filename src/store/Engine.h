@@ -63,6 +63,8 @@ class Engine {
 
   /// All reading shows the same state, whatever others write, until rollback(0).
   virtual void beginReading() = 0;
+  /// A transaction in which rows are taken away is about to begin.
+  virtual void aheadOfRemoval() {}
   /// `depth` 0 is the transaction itself, above 0 a part nested in it.
   virtual void begin(int depth) = 0;
   virtual void commit(int depth) = 0;

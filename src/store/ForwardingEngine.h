@@ -41,6 +41,7 @@ class ForwardingEngine : public Engine {
   }
   void run(std::string_view sql) override { inner_->run(sql); }
   void beginReading() override { inner_->beginReading(); }
+  void aheadOfRemoval() override { inner_->aheadOfRemoval(); }
   void begin(int depth) override { inner_->begin(depth); }
   void commit(int depth) override { inner_->commit(depth); }
   void rollback(int depth) override { inner_->rollback(depth); }

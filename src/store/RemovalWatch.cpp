@@ -37,6 +37,10 @@ class WatchedEngine : public ForwardingEngine {
     if (!removes(sql)) return statement;
     return std::make_unique<Removal>(std::move(statement), told_);
   }
+  void aheadOfRemoval() override {
+    if (*told_) (*told_)();
+    ForwardingEngine::aheadOfRemoval();
+  }
 
  private:
   Shared told_;

@@ -21,8 +21,8 @@ class RemovalWatch {
   /// Somebody to be told, for as long as this lives. One at a time.
   class Listener {
    public:
-    /// `told` is called ahead of every such statement. What it throws keeps the statement from
-    /// being carried out and goes on to whoever issued it.
+    /// `told` is called ahead of every such statement, and of a transaction that says it has some.
+    /// What it throws keeps them from being carried out and goes on to whoever issued them.
     Listener(RemovalWatch& watch, Told told);
     ~Listener();
     Listener(const Listener&) = delete;

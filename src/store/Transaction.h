@@ -4,10 +4,15 @@
 
 namespace fidaleon::store {
 
+/// Whether rows are taken away in a transaction, as far as is known when it begins.
+enum class Removes { No, Yes };
+
 /// A transaction for the length of a block, rolled back unless it was committed.
 class Transaction {
  public:
-  explicit Transaction(Connection& connection) : connection_(connection) {
+  explicit Transaction(Connection& connection, Removes removes = Removes::No)
+      : connection_(connection) {
+    if (removes == Removes::Yes) connection_.aheadOfRemoval();
     connection_.BeginTrans();
   }
   ~Transaction() {

@@ -357,12 +357,14 @@ TEST_F(CopiesWindow, IncompleteEntries_AreToldOfAndRemovedBehindACopy) {
 
 TEST_F(CopiesBook, WithoutACopy_KeepsItsEntriesUntilToldToGoOn) {
   const std::int64_t all = entries();
+  const std::int64_t touched = desk->parish().engine().touchedSoFar();
   std::ofstream(folder()) << "x";
   user.answerAnything(Answer::Yes);
   QString text;
   answerNext({}, &text);
   acceptBook(true);
   EXPECT_EQ(entries(), all) << "Enter says no";
+  EXPECT_EQ(desk->parish().engine().touchedSoFar(), touched) << "it is asked ahead of any change";
   EXPECT_TRUE(text.contains("No se ha podido guardar una copia")) << text.toStdString();
   EXPECT_TRUE(text.contains("No se puede escribir en")) << text.toStdString();
   EXPECT_THAT(user.messages()[0].text, HasSubstr("No se ha eliminado nada"));

@@ -1,5 +1,6 @@
 #include "census/activities/AlmacenActividades.h"
 
+#include <algorithm>
 #include <set>
 #include <stdexcept>
 
@@ -92,6 +93,14 @@ void borrarGrupo(Conexion& conexion, const cPadronActGrupos& g) {
   conexion.Execute("DELETE * FROM Grupo WHERE IDGrupo=" + numero(g.IDGrupo));
 }
 
+store::Removes loQuitado(const ColeccionGrupos& grupos) {
+  const auto borrado = [](const auto& cual) { return cual.Operacion == cCOperacion::Borrar; };
+  const bool alguno = std::ranges::any_of(grupos, [&](const cPadronActGrupos& g) {
+    return borrado(g) || std::ranges::any_of(g.miembros, borrado);
+  });
+  return alguno ? store::Removes::Yes : store::Removes::No;
+}
+
 std::vector<cPadronActividad> leerMiembros(Conexion& conexion, std::int32_t grupo) {
   std::vector<cPadronActividad> miembros;
   for (Recordset rs = conexion.Execute(miembrosDe(grupo)); !rs.EOF_(); rs.MoveNext())
@@ -150,7 +159,7 @@ void agregarActividad(Conexion& conexion, const Actividad& actividad,
 
 void editarActividad(Conexion& conexion, const Actividad& actividad,
                      const ColeccionGrupos& grupos) {
-  store::Transaction transaccion(conexion);
+  store::Transaction transaccion(conexion, loQuitado(grupos));
   if (!leerActividad(conexion, actividad.IDActividad))
     throw std::runtime_error("La actividad ya no existe.");
   conexion.Execute("UPDATE Actividad SET Nombre=" + entreComillas(actividad.Nombre) +

@@ -219,6 +219,10 @@ bool frmColaborador::faltaGrupoOCargo() {
   return false;
 }
 
+store::Removes frmColaborador::quitaActividades() const {
+  return std::ranges::any_of(actividades_, quitada) ? store::Removes::Yes : store::Removes::No;
+}
+
 void frmColaborador::guardarActividades(std::int32_t idPadron) {
   for (const cPadronActividad& a : actividades_)
     if (Operacion == cCOperacion::EDITAR || a.Operacion == cCOperacion::ANADIR)

@@ -99,7 +99,7 @@ bool frmColaborador::guardar(Persona persona) {
   const bool alta = Operacion == cCOperacion::ANADIR;
   return procedimiento(alta ? "AgregarColaborador" : "EditarColaborador", [&] {
     const forms::Hourglass reloj(ui());
-    store::Transaction transaccion(*conBaseDatos);
+    store::Transaction transaccion(*conBaseDatos, quitaActividades());
     alta ? AgregarColaborador(persona) : EditarColaborador(persona);
     guardarActividades(persona.CodPadron);
     transaccion.commit();

@@ -74,7 +74,7 @@ void EliminaColaborador(Contexto& contexto, FDAPI::Conexion& conexion, std::int3
   const bool soloColaborador =
       conexion.Execute("SELECT * FROM Padron_TipoPersona WHERE CodPadron=" + clave).RecordCount() <
       2;
-  store::Transaction transaccion(conexion);
+  store::Transaction transaccion(conexion, store::Removes::Yes);
   if (soloColaborador)
     eliminarPersona(contexto, conexion, clave);
   else

@@ -14,6 +14,7 @@
 #include "core/dialogs/Dialogo.h"
 #include "core/lists/Enlaces.h"
 #include "core/statements/Columnas.h"
+#include "store/Transaction.h"
 
 namespace fidaleon {
 
@@ -145,6 +146,7 @@ class frmColaborador : public Dialogo {
   bool hay(const std::string& sentencia);
   /// Whether one that is to be stored has lost its group or office; the user is told which.
   bool faltaGrupoOCargo();
+  store::Removes quitaActividades() const;
   void guardarActividades(std::int32_t idPadron);
   void guardarActividad(const cPadronActividad& actividad, std::int32_t idPadron);
   void insertarActividad(const cPadronActividad& actividad, std::int32_t idPadron);

@@ -9,7 +9,7 @@ Eliminacion::Eliminacion(Contexto& contexto, FDAPI::Conexion& conexion, const st
     : conexion_(conexion),
       reloj_(contexto.ui()),
       fidaleon_(contexto.fidaleon()),
-      transaccion_(conexion) {
+      transaccion_(conexion, store::Removes::Yes) {
   fidaleon_->ProgresoLoad(pasos, mensaje, 1);
 }
 

@@ -92,7 +92,7 @@ void FichaEmpadronado::retirar(Conexion& conexion) {
   if (!aMedias_ ||
       !conexion.Execute("SELECT * FROM Padron_TipoPersona WHERE CodPadron=" + id).EOF_())
     return;
-  store::Transaction transaccion(conexion);
+  store::Transaction transaccion(conexion, store::Removes::Yes);
   for (const std::string& sentencia : sqlBorrarPersona(persona.IDPadron))
     conexion.Execute(sentencia);
   transaccion.commit();

@@ -11,7 +11,9 @@ void cNucleo::PartidasIncompletas(FDAPI::Conexion& conBaseDatos, const FDAPI::cC
     dialogo.conBaseDatos = &conBaseDatos;
     dialogo.abrir = [&](const PartidaIncompleta& p) {
       const std::string palabra = p.clase->sacramento.palabra;
-      if (p.codLibro == 0)
+      if (p.esLibro())
+        PropiedadesLibro(conBaseDatos, p.codLibro, objConfig, "Libros" + palabra);
+      else if (p.codLibro == 0)
         PropiedadesSolicitudes(conBaseDatos, p.id, objConfig, "Solicitudes" + palabra);
       else
         PropiedadesPartida(conBaseDatos, p.id, objConfig, "Partidas" + palabra);

@@ -2,8 +2,10 @@
 
 namespace fidaleon {
 
-TransaccionSinVuelta::TransaccionSinVuelta(const Contexto& contexto, FDAPI::Conexion& conexion)
+TransaccionSinVuelta::TransaccionSinVuelta(const Contexto& contexto, FDAPI::Conexion& conexion,
+                                           store::Removes quita)
     : contexto_(contexto), conexion_(conexion) {
+  if (quita == store::Removes::Yes) conexion_.aheadOfRemoval();
   conexion_.BeginTrans();
   contexto_.transacciones.push_back(this);
 }

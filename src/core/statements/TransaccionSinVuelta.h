@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/contract/Contexto.h"
+#include "store/Transaction.h"
 
 namespace fidaleon {
 
@@ -12,7 +13,8 @@ namespace fidaleon {
 /// the guard of the procedures ends them before it tells of an error.
 class TransaccionSinVuelta {
  public:
-  TransaccionSinVuelta(const Contexto& contexto, FDAPI::Conexion& conexion);
+  TransaccionSinVuelta(const Contexto& contexto, FDAPI::Conexion& conexion,
+                       store::Removes quita = store::Removes::No);
   /// Ends it as terminar() does, without a word.
   ~TransaccionSinVuelta();
   TransaccionSinVuelta(const TransaccionSinVuelta&) = delete;

@@ -16,6 +16,7 @@ struct LibroNuevo {
   std::string nombre;
   std::string fechaCreacion;  // "yyyymmdd"
   bool nuevo = true;
+  std::int32_t clave = 0;  // 0: the store gives one
 };
 
 /// Throws store::Error.

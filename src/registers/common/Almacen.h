@@ -289,7 +289,9 @@ class Almacen {
   }
 
   bool grabarEntera(const std::string& procedimiento, Registro& item, bool& blnSalto) {
+    const bool borrar = operacionDe(item) == FDAPI::cCOperacion::Borrar;
     return guardarEntera(contexto_, conexion_, procedimiento, item,
+                         borrar ? store::Removes::Yes : store::Removes::No,
                          [&](Registro& r) { return grabarUna(r, blnSalto); });
   }
 

@@ -69,7 +69,7 @@ void borrarPreguntando(Contexto& contexto, Conexion& conBaseDatos, std::int32_t 
     // Another desk may have added an entry or closed the book while the question stood.
     if (!bloqueos.efectuar() || (permiso && !permiso())) return;
     const forms::Hourglass reloj(contexto.ui());
-    TransaccionSinVuelta transaccion(contexto, conBaseDatos);
+    TransaccionSinVuelta transaccion(contexto, conBaseDatos, store::Removes::Yes);
     borrarPartida(conBaseDatos, *formaPartida(s), lngID, Compartidas::Borrar);
     transaccion.terminar();
   });

@@ -103,9 +103,10 @@ class frmPartidaDe : public frmPartida {
   // What the sacrament keeps beside its record.
   /// A correction is about to be stored, or put into the list; false gives it up.
   virtual bool antesDeCorregir(Registro&) { return true; }
-  /// A new entry stands in its tables, with its keys. Not when it was put into a list. False when
-  /// what belongs to it could not be stored.
-  virtual bool trasAlta(const Registro&) { return true; }
+  /// A new entry stands in its tables, with its keys; what belongs to it is stored in the same
+  /// transaction. Not when it was put into a list. Gives what the user is to be told when that
+  /// could not be stored.
+  virtual const char* trasAlta(const Registro&) { return nullptr; }
 
   // What the sacrament knows of its record.
   /// That of the entry first, then those that hang on it, in the order in which they are read.
@@ -218,17 +219,21 @@ class frmPartidaDe : public frmPartida {
     }
     Coleccion nueva{std::move(partida)};
     const Registro& intentada = nueva.front();
-    // The entry and the date of the book, which it may move, come together or not at all.
+    // The entry, what belongs to it and the date of the book, which it may move, come together or
+    // not at all.
     TransaccionSinVuelta transaccion(contexto_, *conBaseDatos);
     moverFechaDelLibro();
     grabar(nueva);
+    const char* const sinGuardar = intentada.Estado ? trasAlta(intentada) : nullptr;
     transaccion.terminar();
+    if (transaccion.deshecha()) return false;  // an error that has been told took all of it
     // An entry that reached the table must not be stored a second time, and one that got there
     // without all its rows is gone on with, or taken back when the dialog closes.
     DatosPartida d = datosDe(registro_);
     d.id = intentada.Estado ? 0 : datosDe(intentada).id;
     ponerDatos(registro_, d);
-    if (!intentada.Estado || trasAlta(intentada)) return intentada.Estado;
+    if (!sinGuardar) return intentada.Estado;
+    forms::warn(ui(), sinGuardar);
     registro_ = intentada;
     seguirCorrigiendo();
     return false;

@@ -39,14 +39,13 @@ bool frmPartidaMatrimonio::antesDeCorregir(cMatrimonio& m) {
 
 /// The rows of a new marriage are written without its key, so that nobody would find the answers:
 /// they are stored once more under it.
-bool frmPartidaMatrimonio::trasAlta(const cMatrimonio& m) {
-  if (!examenes_) return true;
+const char* frmPartidaMatrimonio::trasAlta(const cMatrimonio& m) {
+  if (!examenes_) return nullptr;
   const bool escritas = hayRespuestas(examenes_->respuestas());
   const cCOperacion corregir = esSolicitud() ? cCOperacion::EDITARSOLICITUD : cCOperacion::EDITAR;
   if (grabarExamenes(Operacion, 0) && (!escritas || grabarExamenes(corregir, m.IDMatrimonio)))
-    return true;
-  if (escritas) forms::warn(ui(), EXAMENES_SIN_GUARDAR);
-  return !escritas;
+    return nullptr;
+  return escritas ? EXAMENES_SIN_GUARDAR : nullptr;
 }
 
 bool frmPartidaMatrimonio::grabarExamenes(cCOperacion operacion, std::int32_t id) {

@@ -145,7 +145,7 @@ class frmPartidaMatrimonio : public frmPartidaDe<cMatrimonio> {
   void crearExamenes();
   void cargarExamenes();
   bool antesDeCorregir(cMatrimonio& m) override;
-  bool trasAlta(const cMatrimonio& m) override;
+  const char* trasAlta(const cMatrimonio& m) override;
   bool grabarExamenes(FDAPI::cCOperacion operacion, std::int32_t id);
 
   // The sacrament's own

@@ -1,15 +1,18 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <vector>
 
 #include "core/dialogs/Dialogo.h"
+#include "core/lists/Elecciones.h"
 #include "registers/repair/PartidasIncompletas.h"
 
 namespace fidaleon {
 
-/// The entries that lack a row, to be completed or removed one by one. Does not show itself when
-/// there is none, and closes with the last one. Takes its locks for each act.
+/// What lists do not show for want of a row or of an institution, to be completed or removed one by
+/// one. Does not show itself when there is nothing, and closes with the last one. Takes its locks
+/// for each act.
 class frmPartidasIncompletas : public Dialogo {
  public:
   explicit frmPartidasIncompletas(Contexto& contexto);
@@ -23,6 +26,7 @@ class frmPartidasIncompletas : public Dialogo {
 
   forms::Label lblExplicacion;
   forms::Grid msgPartidas;
+  forms::ComboBox cboInstitucion;  // for what has none
   forms::ControlArray<forms::Button> cmdBoton;
 
  protected:
@@ -31,14 +35,19 @@ class frmPartidasIncompletas : public Dialogo {
 
  private:
   void CargarGrid();
+  void cargarInstituciones();
+  void mostrarInstitucion();
   void completar();
   void eliminar();
   /// Runs `acto` on the chosen entry as it is under the lock.
   void conElegida(const char* procedimiento,
                   const std::function<void(const PartidaIncompleta&)>& acto);
+  /// Whether what has no institution can be given the chosen one; the user is told why not.
+  bool hayInstitucion(const PartidaIncompleta& para);
   bool sigueIncompleta(const PartidaIncompleta& elegida, PartidaIncompleta& ahora);
 
   std::vector<PartidaIncompleta> partidas_;
+  std::optional<Elecciones> elecciones_;
 };
 
 }  // namespace fidaleon

@@ -14,7 +14,7 @@ void eliminarSolicitud(Contexto& contexto, FDAPI::Conexion& conBaseDatos, std::i
     if (!bloqueos.efectuar()) return;
     const forms::Hourglass reloj(contexto.ui());
     const store::Recordset fila = conBaseDatos.Execute(sqlPartida(s, lngID));
-    TransaccionSinVuelta transaccion(contexto, conBaseDatos);
+    TransaccionSinVuelta transaccion(contexto, conBaseDatos, store::Removes::Yes);
     if (!fila.EOF_()) borrarFilas(conBaseDatos, *formaPartida(s), fila, Compartidas::Borrar);
     transaccion.terminar();
   });

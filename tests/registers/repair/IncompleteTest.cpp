@@ -1,4 +1,4 @@
-// Entries that have lost one of their rows.
+// Entries that have lost one of their rows or their institution.
 
 #include "registers/PropertiesWorld.h"
 #include "registers/repair/frmPartidasIncompletas.h"
@@ -10,6 +10,7 @@ class IncompleteEntries : public PropertiesWorld {
   void SetUp() override {
     fill(libro, {"Rosa", "Luis"});
     EXPECT_TRUE(r.add(w, "Ana", 0, 0, "---"));
+    w.con().Execute(sql("UPDATE {Partidas} SET InstitucionSolicitud=") + std::to_string(parish));
     lose(2);
     lose(3);
   }
@@ -80,6 +81,35 @@ TEST_P(IncompleteEntries, Removed_GoWithAllTheirRows) {
   });
   for (const FilaDePartida& f : formaPartida(k.s)->filas)
     EXPECT_EQ(w.count(f.tabla), text::equalsNoCase(f.tabla, r.childTable) ? 1 : 2) << f.tabla;
+}
+
+TEST_P(IncompleteEntries, WithoutInstitutionOrBook_AreGivenTheChosenOne) {
+  const std::int32_t gone = book({"Libro 2", true, 3});
+  EXPECT_TRUE(r.add(w, "Eva", gone, 1, "1"));
+  w.con().Execute(sql("DELETE * FROM {Libros} WHERE {IDLibro}=") + std::to_string(gone));
+  w.con().Execute(sql("UPDATE {Libros} SET CodInstitucion=99"));
+  w.con().Execute(sql("UPDATE {Partidas} SET InstitucionSolicitud=99"));
+  w.institucion("San Juan");
+  const std::string name = formaPartida(k.s)->registro;
+  show([&](FormDriver& d) {
+    ASSERT_EQ(grid(d).rowCount(), 4);
+    EXPECT_THAT(row(d, 1), ElementsAre(name, "Libro 1", "", "", "01/01/1990", "institución"));
+    EXPECT_THAT(row(d, 2), ElementsAre(name, "(ya no existe)", "", "", "", "libro, institución"));
+    EXPECT_EQ(grid(d).cell(2, 6), "una partida");
+    EXPECT_EQ(grid(d).cell(3, 5), lost()) << "the institution is that of its book";
+    EXPECT_EQ(grid(d).cell(4, 5), lost() + ", institución");
+    w.user.answerAnything(Answer::Ok);
+    for (const char* button : {"cmdBoton(0)", "cmdBoton(1)"}) d.click(button);
+    ASSERT_EQ(grid(d).rowCount(), 4) << "none is chosen, and a book is not removed from here";
+    d.choose("cboInstitucion", "San Pedro");
+    for (int i = 0; i < 4; ++i) d.click("cmdBoton(0)");
+    EXPECT_TRUE(d.closed());
+  });
+  EXPECT_THAT(opened, ElementsAre(0, 0, 2, 3));
+  EXPECT_EQ(w.value(sql("SELECT Nombre FROM {Libros} WHERE {IDLibro}=") + std::to_string(gone)),
+            "Recuperado 2");
+  EXPECT_EQ(w.count(sql("{Libros} WHERE CodInstitucion=") + std::to_string(parish)), 2);
+  EXPECT_EQ(entries("InstitucionSolicitud=" + std::to_string(parish)), 1);
 }
 
 TEST_P(IncompleteEntries, HeldOrMendedElsewhere_AreLeftAlone) {
