@@ -282,11 +282,12 @@ void MainWindow::tellOfIncompleteEntries() {
   const std::int64_t count = nucleo().CuentaPartidasIncompletas(parish());
   if (count == 0) return;
   const std::string text =
-      count == 1 ? "Hay una partida a la que le falta alguna de sus fichas: puede que no "
-                   "aparezca en las listas. ¿Desea verla ahora?"
-                 : "Hay " + std::to_string(count) +
-                       " partidas a las que les falta alguna de sus fichas: puede que no "
-                       "aparezcan en las listas. ¿Desea verlas ahora?";
+      count == 1
+          ? "Hay una partida a la que le falta alguna de sus fichas o su institución: puede que no "
+            "aparezca en las listas. ¿Desea verla ahora?"
+          : "Hay " + std::to_string(count) +
+                " partidas a las que les falta alguna de sus fichas o su institución: puede que no "
+                "aparezcan en las listas. ¿Desea verlas ahora?";
   if (forms::ask(desk_.entorno().ui, text)) action("partidas-incompletas")->trigger();
 }
 

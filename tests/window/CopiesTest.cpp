@@ -342,7 +342,8 @@ TEST_F(CopiesWindow, IncompleteEntries_AreToldOfAndRemovedBehindACopy) {
   const std::int64_t all = count("SELECT COUNT(*) FROM Bautismo");
   desk->parish().Execute("DELETE * FROM Bautismo_Hijo WHERE CodBautismo=1");
   user.expectMessage(
-      "Hay una partida a la que le falta alguna de sus fichas: puede que no aparezca en las "
+      "Hay una partida a la que le falta alguna de sus fichas o su institución: puede que no "
+      "aparezca en las "
       "listas. ¿Desea verla ahora?",
       Answer::Yes);
   user.expectForm("frmPartidasIncompletas", [&](FormDriver& d) {
