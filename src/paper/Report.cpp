@@ -1,5 +1,6 @@
 #include "paper/Report.h"
 
+#include <QBuffer>
 #include <QPageLayout>
 #include <QPainter>
 #include <QPainterPath>
@@ -12,6 +13,7 @@
 #include <stdexcept>
 #include <utility>
 
+#include "paper/ArchivedPdf.h"
 #include "paper/CheckedFile.h"
 #include "paper/Pages.h"
 #include "paper/SheetTurner.h"
@@ -39,7 +41,7 @@ struct Report::Impl {
   void paintFurniture(QPainter& painter, const Page& page, int total) const;
   void paintMarks(QPainter& painter, const Page& page);
   QRectF areaOf(const Placed& part) const;
-  void writePdf(QIODevice& to);
+  QByteArray pdf();
   void reportProgress(std::size_t done, std::size_t total) const {
     if (options.progress && !options.progress(done, total))
       throw Error(ErrorKind::Cancelled, "Se ha cancelado el documento.");
@@ -300,29 +302,35 @@ void Report::savePdf(const std::filesystem::path& path) const {
   };
   CheckedFile file(name);
   if (!file.start()) refuse();
-  impl_->writePdf(file);
+  writeArchived(impl_->pdf(), {impl_->options.author, impl_->options.language}, file);
   if (!file.commit()) refuse();
 }
 
-void Report::Impl::writePdf(QIODevice& to) {
-  QPdfWriter writer(&to);
+QByteArray Report::Impl::pdf() {
+  QBuffer content;
+  content.open(QIODevice::WriteOnly);
+  QPdfWriter writer(&content);
+  writer.setPdfVersion(QPdfWriter::PdfVersion_A1b);
   writer.setTitle(title);
   writer.setCreator(QStringLiteral("Fidaleon"));
   writer.setResolution(static_cast<int>(kDotsPerInch));
   writer.setPageLayout(sheetOf(layout));
   QPainter painter(&writer);
   const bool counted = pages.complete();
-  SheetTurner turner(writer);
+  std::optional<SheetTurner> turner(std::in_place, writer);
   for (int page = 0; pages.has(page); ++page) {
     pages.page(page);
-    turner.wait();
+    turner->wait();
     paint(painter, page);
-    if (pages.goesOnAfter(page)) turner.turn();
+    if (pages.goesOnAfter(page)) turner->turn();
     if (counted)
       reportProgress(static_cast<std::size_t>(page) + 1, static_cast<std::size_t>(pages.count()));
     else
       reportProgress(pages.rows(), rows.size());
   }
+  turner.reset();
+  painter.end();
+  return content.data();
 }
 
 void Report::print(QPrinter& printer) const {

@@ -45,6 +45,9 @@ struct ReportOptions {
   /// What was chosen for this document, such as "curia": a template asks <if option="curia">, and a
   /// block of it if="@curia".
   QStringList choices = {};
+  /// Of the PDF: who issues the document, and in what language it is.
+  QString author = {};
+  QString language = QStringLiteral("es-ES");
   enum class Composition {
     Whole,     // the constructor lays out all pages
     AsNeeded,  // it lays out none: see composeMore
@@ -92,7 +95,8 @@ class Report {
   void paintPage(QPainter& painter, int page) const;
   QImage pageImage(int page, int dotsPerInch) const;
 
-  /// The file appears complete or not at all; one that stood there before is replaced.
+  /// A PDF/A-1b, as archives want it: with its fonts, title, author and language. The file appears
+  /// complete or not at all; one that stood there before is replaced.
   /// Throws Error: CannotWrite, Cancelled.
   void savePdf(const std::filesystem::path& file) const;
   /// Prints the printer's page range and copies. Throws Error: NoPrinter, Cancelled.

@@ -54,6 +54,7 @@ QString withoutKeeper(const std::string& date) {
 // Nothing when there are no rows.
 std::optional<paper::Report> layOut(Desk& desk, const std::string& templateName,
                                     const std::string& title, paper::ReportOptions options) {
+  options.author = QString::fromStdString(desk.parishName());
   if (keptAsSample(desk.parish())) options.stamp = QStringLiteral("MUESTRA");
   paper::Report report(desk.reports(), templateDirectory(), templateName,
                        QString::fromStdString(title), std::move(options));
@@ -129,6 +130,7 @@ void sayWhoseHead(Run& r) {
 void addOfTheParish(Run& r) {
   const bool catalan = r.document.edicion == std::string_view(Editions::APP_FIDALEON_MENORCA);
   const QString word = annulledMark(catalan);
+  if (catalan) r.options.language = QStringLiteral("ca-ES");
   const Sacramento& sacrament = *r.document.sacramento;
   FDAPI::Conexion& parish = r.desk.parish();
   switch (r.document.clase) {
@@ -154,12 +156,12 @@ std::string known(const store::Recordset& row, const char* column) {
   return text == "---" ? "" : text;
 }
 
-/// "García Pérez, Juan"
+/// "Juan García Pérez"
 std::string personOf(const store::Recordset& row, const PersonaDocumento& columns) {
   const std::string surnames =
       text::trim(known(row, columns.primerApellido) + " " + known(row, columns.segundoApellido));
   const std::string name = known(row, columns.nombre);
-  return surnames.empty() || name.empty() ? surnames + name : surnames + ", " + name;
+  return text::trim(name + " " + surnames);
 }
 
 }  // namespace

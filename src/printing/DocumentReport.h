@@ -15,7 +15,7 @@ namespace fidaleon::app {
 class Desk;
 
 /// What follows "Partida de bautismo - " in the title of a report over these rows, and in the name
-/// of its file: "García Pérez, Juan" of an entry, the name of a book, the year of a duplicate.
+/// of its file: "Juan García Pérez" of an entry, the name of a book, the year of a duplicate.
 /// Empty when nothing of it is known.
 std::string subjectOf(store::Connection& reports, const Documento& document);
 

@@ -275,6 +275,7 @@ void MainWindow::preview(const Maker& make) {
   std::optional<paper::Report> report = make(std::move(options));
   if (!report) return;
   PreviewDialog preview(std::move(*report), this, run);
+  preview.keepHabits(desk_);
   preview.exec();
 }
 

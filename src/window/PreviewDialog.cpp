@@ -2,7 +2,9 @@
 
 #include <QAction>
 #include <QComboBox>
+#include <QDir>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMessageBox>
@@ -21,6 +23,7 @@
 #include <array>
 #include <cmath>
 
+#include "parish/WindowSettings.h"
 #include "qt/Appearance.h"
 #include "text/Names.h"
 #include "window/Icons.h"
@@ -33,6 +36,8 @@ constexpr int MARGIN = 16;                       // around the sheet, in pixels
 constexpr std::chrono::milliseconds BREATH{25};  // between two looks at the keyboard
 constexpr int FIT_WIDTH = 0;
 constexpr int FIT_PAGE = -1;
+constexpr const char* FOLDER = "CarpetaDocumentos";
+constexpr const char* PRINTER = "Impresora";
 constexpr std::array<int, 7> ZOOMS{50, 75, 100, 125, 150, 200, 300};
 
 }  // namespace
@@ -271,20 +276,36 @@ void PreviewDialog::print() {
   }
   if (!work(tr("Preparando las páginas…"), [this] { report_.pageCount(); })) return;
   QPrinter printer(QPrinter::HighResolution);
+  if (const QPrinterInfo last = QPrinterInfo::printerInfo(habit(PRINTER)); !last.isNull())
+    printer.setPrinterName(last.printerName());
   QPrintDialog dialog(&printer, this);
   dialog.setMinMax(1, report_.pageCount());
   if (dialog.exec() != QDialog::Accepted) return;
+  if (printer.outputFormat() == QPrinter::NativeFormat) setHabit(PRINTER, printer.printerName());
   work(tr("Imprimiendo…"), [&] { report_.print(printer); });
 }
 
 void PreviewDialog::savePdf() {
-  const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+  const QString last = habit(FOLDER);
+  const QString folder = !last.isEmpty() && QFileInfo(last).isWritable()
+                             ? last
+                             : QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
   const QString name = QString::fromStdString(text::fileName(report_.title().toStdString()));
-  QString file = QFileDialog::getSaveFileName(
-      this, tr("Guardar como PDF"), folder + "/" + name + ".pdf", tr("Documentos PDF (*.pdf)"));
+  QString file = QFileDialog::getSaveFileName(this, tr("Guardar como PDF"),
+                                              QDir(folder).filePath(name + ".pdf"),
+                                              tr("Documentos PDF (*.pdf)"));
   if (file.isEmpty()) return;
   if (!file.endsWith(".pdf", Qt::CaseInsensitive)) file += ".pdf";
-  work(tr("Guardando el documento…"), [&] { report_.savePdf(file.toStdString()); });
+  if (work(tr("Guardando el documento…"), [&] { report_.savePdf(file.toStdString()); }))
+    setHabit(FOLDER, QFileInfo(file).absolutePath());
+}
+
+QString PreviewDialog::habit(const char* key) const {
+  return desk_ ? QString::fromStdString(readWindowSetting(*desk_, key)) : QString();
+}
+
+void PreviewDialog::setHabit(const char* key, const QString& value) {
+  if (desk_) writeWindowSetting(*desk_, key, value.toStdString());
 }
 
 }  // namespace fidaleon::app

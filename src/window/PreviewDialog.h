@@ -15,6 +15,8 @@ class QTimer;
 
 namespace fidaleon::app {
 
+class Desk;
+
 /// Shows the pages of a report and prints or saves them. Of a report whose pages are laid out as
 /// needed the first one stands there at once, and the others are counted while it is being read.
 class PreviewDialog : public QDialog {
@@ -26,6 +28,9 @@ class PreviewDialog : public QDialog {
                          std::shared_ptr<LongRun> run = std::make_shared<LongRun>());
   ~PreviewDialog() override;
 
+  /// The folder of the last document and its printer are proposed again; the desk must outlive the
+  /// dialog.
+  void keepHabits(Desk& desk) { desk_ = &desk; }
   void showPage(int page);
   int page() const { return page_; }
   const paper::Report& report() const { return report_; }
@@ -49,7 +54,10 @@ class PreviewDialog : public QDialog {
   bool work(const QString& what, const std::function<void()>& body);
   void print();
   void savePdf();
+  QString habit(const char* key) const;
+  void setHabit(const char* key, const QString& value);
 
+  Desk* desk_ = nullptr;
   paper::Report report_;
   std::shared_ptr<LongRun> run_;
   QTimer* composing_ = nullptr;

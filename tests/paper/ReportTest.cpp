@@ -148,16 +148,26 @@ TEST_F(Engine, wordWiderThanTheLine_isBrokenNotCut) {
   EXPECT_EQ(std::count(text.begin(), text.end(), 'x'), 400);
 }
 
-TEST_F(Engine, pdf_isA4WithTitleAndEmbeddedFonts) {
+TEST_F(Engine, pdf_isWhatArchivesTake_withTitleAuthorLanguageAndFonts) {
   child("Añón");
-  const auto file = folder_.path() / "a.pdf";
-  small(kSmall).savePdf(file);
-  const std::string info = outputOf("pdfinfo '" + file.string() + "'");
-  EXPECT_THAT(info, HasSubstr("Prueba"));
-  EXPECT_THAT(info, HasSubstr("A4"));
-  const std::string fonts = outputOf("pdffonts '" + file.string() + "' | tail -n +3");
-  EXPECT_THAT(fonts, HasSubstr("yes"));
-  EXPECT_THAT(fonts, HasSubstr("Libertine"));
+  ReportOptions options;
+  options.author = QStringLiteral("San Millán & Compañía");
+  options.stamp = QStringLiteral("MUESTRA");
+  options.mark = [](const Row&) { return QStringLiteral("ANULADA"); };
+  const std::string file = folder_.path() / "a.pdf";
+  small(
+      "<template table='Documentos_Bautismo'><body><p><b>[{{NombreHijo}}]</b> <i>y</i></p>"
+      "<cross/></body></template>",
+      options)
+      .savePdf(file);
+  const std::string info = outputOf("pdfinfo '" + file + "'");
+  for (const char* said : {"Prueba", "San Millán & Compañía", "A4"})
+    EXPECT_THAT(info, HasSubstr(said));
+  EXPECT_THAT(outputOf("grep -ac '/Lang (es-ES)' '" + file + "'"), StartsWith("1"));
+  EXPECT_THAT(outputOf("pdffonts '" + file + "' | tail -n +3"), HasSubstr("Libertine"));
+  EXPECT_EQ(outputOf(FIDALEON_CHECK_PDF " '" + file + "' 2>&1"), "");
+  outputOf("sed -i 's/pdfaid:part=.1/pdfaid:part=\"2/' '" + file + "'");
+  EXPECT_THAT(outputOf(FIDALEON_CHECK_PDF " '" + file + "' 2>&1"), HasSubstr("not a valid PDF/A"));
 }
 
 TEST_F(Engine, mark_isPaintedOnTheRowsAskedFor) {

@@ -140,7 +140,7 @@ TEST_F(BookReports, title_saysOfWhomOrWhatItIs) {
       "UPDATE Bautismo_Hijo SET Nombre=\"Juan\", PrimerApellido=\"García\", "
       "SegundoApellido=\"Pérez\" WHERE CodBautismo=2");
   desk->parish().Execute("UPDATE Libro_Bautismo SET Nombre=\"1998/01\" WHERE IDLibroBautismo=2");
-  EXPECT_EQ(make("partida")->title(), "Partida de bautismo - García Pérez, Juan");
+  EXPECT_EQ(make("partida")->title(), "Partida de bautismo - Juan García Pérez");
   EXPECT_EQ(make("libro")->title(), "Libro de bautismos - 1998/01");
   desk->parish().Execute(
       "UPDATE Bautismo_Hijo SET Nombre=\"---\", SegundoApellido=\"---\" WHERE CodBautismo=2");
