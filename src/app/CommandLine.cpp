@@ -34,6 +34,15 @@ const Option* optionNamed(const std::string& name) {
   return nullptr;
 }
 
+/// As file managers hand it over; it stands for the folder in which it lies.
+bool isParishFile(const std::filesystem::path& given) {
+  return given.extension() == ".fidaleon";
+}
+
+std::filesystem::path folderOf(const std::filesystem::path& file) {
+  return file.has_parent_path() ? file.parent_path() : ".";
+}
+
 }  // namespace
 
 CommandLine CommandLine::parse(const std::vector<std::string>& arguments) {
@@ -42,10 +51,11 @@ CommandLine CommandLine::parse(const std::vector<std::string>& arguments) {
   for (std::size_t i = 0; i < arguments.size(); ++i) {
     const std::string& argument = arguments[i];
     if (argument == "--help" || argument == "-h") return {Task::Help, {}, {}, {}};
-    const std::size_t sign = argument.find('=');
-    const Option* option = optionNamed(argument.substr(0, sign));
+    const bool plain = isParishFile(argument);
+    const std::size_t sign = plain ? std::string::npos : argument.find('=');
+    const Option* option = plain ? &OPTIONS.front() : optionNamed(argument.substr(0, sign));
     if (!option) return wrong("Opción desconocida: " + argument);
-    if (sign == std::string::npos && ++i == arguments.size())
+    if (!plain && sign == std::string::npos && ++i == arguments.size())
       return wrong("La opción " + argument + " necesita " + option->needs + ".");
     const std::string value = sign == std::string::npos ? arguments[i] : argument.substr(sign + 1);
     if (value.empty()) return wrong("La opción " + argument + " necesita " + option->needs + ".");
@@ -58,7 +68,7 @@ CommandLine CommandLine::parse(const std::vector<std::string>& arguments) {
     const bool isFile = option->task == Task::Table || option->task == Task::Import;
     if (!isFile && !isReadable(value)) return wrong(UNREADABLE_NAME);
     line.task = option->task;
-    line.path = value;
+    line.path = plain ? folderOf(value) : std::filesystem::path(value);
     given = true;
   }
   if (!line.codePage.empty() && line.task != Task::Table)
@@ -71,6 +81,7 @@ std::string CommandLine::help() {
          "\n"
          "Uso:\n"
          "  fidaleon                    abre la parroquia (la primera vez, ayuda a crearla)\n"
+         "  fidaleon ARCHIVO.fidaleon   abre la parroquia de ese archivo\n"
          "  fidaleon --datos CARPETA    abre la parroquia guardada en esa carpeta\n"
          "  fidaleon --demo CARPETA     recorre por sí solo lo principal, desde una parroquia "
          "nueva:\n"

@@ -1,6 +1,7 @@
 #include "app/Program.h"
 
 #include <QApplication>
+#include <QIcon>
 #include <iostream>
 
 #include "app/CommandLine.h"
@@ -88,6 +89,10 @@ int runProgram(int argc, char** argv) {
   Application application(count, argv);
   QApplication::setApplicationName("Fidaleon");
   QApplication::setApplicationDisplayName("Fidaleon");
+  QApplication::setDesktopFileName("org.fidaleon.Fidaleon");
+  QIcon drawn(":/fidaleon/icon-128.png");
+  drawn.addFile(":/fidaleon/icon-48.png");
+  QApplication::setWindowIcon(QIcon::fromTheme("org.fidaleon.Fidaleon", drawn));
   qt::speakSpanish(application);
   std::set_terminate(&LastWords::speakAndEnd);
   return runTask(line);

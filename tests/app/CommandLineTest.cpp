@@ -8,6 +8,7 @@ TEST(CommandLine, understandsItsOptions) {
   using Task = CommandLine::Task;
   EXPECT_EQ(CommandLine::parse({}).task, Task::Desktop);
   EXPECT_EQ(CommandLine::parse({"--datos", "/a b"}).path, "/a b");
+  EXPECT_EQ(CommandLine::parse({"/a=b/parroquia.fidaleon"}).path, "/a=b");
   EXPECT_EQ(CommandLine::parse({"--demo=/x"}).task, Task::Demo);
   EXPECT_EQ(CommandLine::parse({"--demo=/x"}).path, "/x");
   EXPECT_EQ(CommandLine::parse({"--pictures", "/x"}).task, Task::Pictures);
