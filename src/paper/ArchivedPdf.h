@@ -9,7 +9,7 @@ namespace fidaleon::paper {
 /// What a document says of itself beside its title.
 struct PdfFacts {
   QString author;    // who issues it; empty when nobody does
-  QString language;  // "es-ES", "ca-ES"
+  QString language;  // "es", "ca"
 };
 
 /// Writes a PDF/A-1b that the toolkit has made, with author and language, which the toolkit leaves

@@ -302,7 +302,7 @@ void Report::savePdf(const std::filesystem::path& path) const {
   };
   CheckedFile file(name);
   if (!file.start()) refuse();
-  writeArchived(impl_->pdf(), {impl_->options.author, impl_->options.language}, file);
+  writeArchived(impl_->pdf(), {impl_->options.author, impl_->layout.language}, file);
   if (!file.commit()) refuse();
 }
 

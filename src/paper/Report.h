@@ -45,9 +45,8 @@ struct ReportOptions {
   /// What was chosen for this document, such as "curia": a template asks <if option="curia">, and a
   /// block of it if="@curia".
   QStringList choices = {};
-  /// Of the PDF: who issues the document, and in what language it is.
+  /// Who issues the document, for the PDF.
   QString author = {};
-  QString language = QStringLiteral("es-ES");
   enum class Composition {
     Whole,     // the constructor lays out all pages
     AsNeeded,  // it lays out none: see composeMore

@@ -130,7 +130,6 @@ void sayWhoseHead(Run& r) {
 void addOfTheParish(Run& r) {
   const bool catalan = r.document.edicion == std::string_view(Editions::APP_FIDALEON_MENORCA);
   const QString word = annulledMark(catalan);
-  if (catalan) r.options.language = QStringLiteral("ca-ES");
   const Sacramento& sacrament = *r.document.sacramento;
   FDAPI::Conexion& parish = r.desk.parish();
   switch (r.document.clase) {
