@@ -29,6 +29,19 @@ class Backend {
   /// A database with its tables and seed rows and what `fill` adds: the whole of it or nothing.
   /// Throws NameTaken.
   virtual void create(const Schema& schema, const Filling& fill) = 0;
+
+  /// A database that is being filled, perhaps over several runs of the program. Nobody can open it
+  /// before it is finished.
+  struct Unfinished {
+    std::unique_ptr<Engine> engine;
+    bool resumed = false;  // an earlier run has begun it
+  };
+  /// Goes on with the one that is there, or begins one, which has tables of this version and no
+  /// rows. Throws NameTaken where there is a whole one.
+  virtual Unfinished unfinished(const Schema& schema) = 0;
+  /// It is whole from now on, and on the disk. Nobody may have it open. Throws NameTaken.
+  virtual void finish(const Schema& schema) = 0;
+
   /// Replaces all content by that of a copy, a file of the same version, in one transaction.
   virtual void replaceBy(const std::filesystem::path& copy, const Schema& schema,
                          const Progress& progress) = 0;

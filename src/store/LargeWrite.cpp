@@ -4,13 +4,13 @@
 
 namespace fidaleon::store {
 
-LargeWrite::LargeWrite(Connection& connection) : connection_(connection) {
-  connection_.engine().prepareFor(Writing::Large);
+LargeWrite::LargeWrite(Engine& engine) : engine_(engine) {
+  engine_.prepareFor(Writing::Large);
 }
 
 LargeWrite::~LargeWrite() {
   try {
-    connection_.engine().prepareFor(Writing::Usual);
+    engine_.prepareFor(Writing::Usual);
   } catch (const Error&) {
     // Only slower or larger than it need be.
   }

@@ -1,5 +1,6 @@
 #include "store/Open.h"
 
+#include "store/postgres/ServerAddress.h"
 #include "store/schema/Installer.h"
 
 namespace fidaleon::store {
@@ -15,6 +16,10 @@ std::unique_ptr<Connection> openDatabase(const fs::path& place, const Schema& sc
 
 NameTaken::NameTaken(const fs::path& file)
     : Error(ErrorKind::Constraint, "Ya existe el archivo «" + file.string() + "».") {}
+
+NameTaken::NameTaken(const ServerAddress& address)
+    : Error(ErrorKind::Constraint,
+            "En la base de datos " + address.shown() + " ya hay una parroquia.") {}
 
 std::unique_ptr<Connection> createDatabase(const fs::path& place, const Schema& schema,
                                            const Filling& fill) {

@@ -11,6 +11,8 @@
 
 namespace fidaleon::store {
 
+struct ServerAddress;
+
 /// The two catalogues of the program, built once.
 const Schema& parishSchema();   // the registers, the institutions, the census
 const Schema& reportsSchema();  // the scratch tables that templates print from
@@ -24,6 +26,7 @@ std::unique_ptr<Connection> openDatabase(const std::filesystem::path& place, con
 class NameTaken : public Error {
  public:
   explicit NameTaken(const std::filesystem::path& file);
+  explicit NameTaken(const ServerAddress& address);
 };
 /// Creates the database with its tables and seed rows; never overwrites (NameTaken). `fill` is
 /// called before the database takes its name: whatever happens, under that name it is complete.

@@ -6,12 +6,12 @@
 
 #include <cerrno>
 #include <chrono>
-#include <cstdlib>
 #include <fstream>
 #include <sstream>
 #include <system_error>
 #include <thread>
 
+#include "files/AccountFolders.h"
 #include "files/Durable.h"
 #include "files/PrivateFile.h"
 #include "locks/OfdLock.h"
@@ -45,11 +45,7 @@ FileSettings::FileSettings(fs::path file, Report report)
     : file_(std::move(file)), report_(std::move(report)) {}
 
 fs::path FileSettings::defaultFile() {
-  const char* config = std::getenv("XDG_CONFIG_HOME");
-  const char* home = std::getenv("HOME");
-  const fs::path base =
-      config && *config == '/' ? fs::path(config) : fs::path(home ? home : ".") / ".config";
-  return base / "fidaleon" / "ajustes.ini";
+  return files::configFolder() / "ajustes.ini";
 }
 
 /// Throws std::system_error when it cannot be told whether there is one: to take that for none

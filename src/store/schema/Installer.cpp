@@ -30,21 +30,57 @@ class Step {
 }  // namespace
 
 void Installer::create() {
+  createAs(schema_.name());
+}
+
+void Installer::createUnfinished() {
+  createAs(unfinishedName());
+}
+
+void Installer::createAs(const std::string& name) {
   Step step(engine_);
   const Spelling& spell = engine_.spelling();
+  if (const std::string first = spell.preparation(); !first.empty()) engine_.run(first);
   engine_.run("CREATE TABLE " + spell.name("Esquema") + " (" + spell.name("Nombre") +
               " TEXT NOT NULL, " + spell.name("Version") + " INTEGER NOT NULL, " +
               spell.name("Orden") + " TEXT NOT NULL)");
-  engine_.run("INSERT INTO " + spell.name("Esquema") + " VALUES (" + spell.text(schema_.name()) +
-              ", " + std::to_string(schema_.version()) + ", " + spell.text(text::orderVersion()) +
-              ")");
+  engine_.run("INSERT INTO " + spell.name("Esquema") + " VALUES (" + spell.text(name) + ", " +
+              std::to_string(schema_.version()) + ", " + spell.text(text::orderVersion()) + ")");
   addSince(0);
+  step.commit();
+}
+
+bool Installer::isUnfinished() {
+  return storedName() == unfinishedName();
+}
+
+bool Installer::isThere() {
+  return !storedName().empty();
+}
+
+void Installer::finish() {
+  Step step(engine_);
+  const Spelling& spell = engine_.spelling();
+  engine_.run("UPDATE " + spell.name("Esquema") + " SET " + spell.name("Nombre") + " = " +
+              spell.text(schema_.name()));
+  step.commit();
+}
+
+void Installer::remove() {
+  Step step(engine_);
+  const auto drop = [&](const std::string& table) {
+    engine_.run("DROP TABLE IF EXISTS " + engine_.spelling().name(table));
+  };
+  for (const Table& table : schema_.tables()) drop(table.name());
+  drop("Esquema");
   step.commit();
 }
 
 void Installer::upgrade() {
   if (version() < schema_.version()) {
     Step step(engine_);
+    const std::string alone = engine_.spelling().exclusiveUpgrade();
+    if (!alone.empty()) engine_.run(alone);
     // Another workstation may have been faster.
     if (const int old = version(); old < schema_.version()) {
       addSince(old);
@@ -57,18 +93,26 @@ void Installer::upgrade() {
   adoptTextOrder();
 }
 
-int Installer::version() {
-  Value name;
-  Value version;
+/// Empty where there is no such table.
+std::string Installer::storedName() {
   try {
-    name = stored("Nombre");
-    version = stored("Version");
+    return stored("Nombre").text();
   } catch (const Error& error) {
-    if (error.kind() != ErrorKind::Syntax) throw;
+    if (error.kind() != ErrorKind::Syntax && error.kind() != ErrorKind::UnknownName) throw;
+    return {};
   }
-  if (name.text() != schema_.name()) {
+}
+
+int Installer::version() {
+  const std::string name = storedName();
+  if (name == unfinishedName())
+    throw Error(
+        ErrorKind::NotADatabase,
+        "La base de datos está a medias: se estaba creando o trasladando, y no se terminó.");
+  if (name != schema_.name()) {
     throw Error(ErrorKind::NotADatabase, "El archivo no es una base de datos de este programa.");
   }
+  const Value version = stored("Version");
   if (version.integer() > schema_.version()) {
     throw Error(ErrorKind::NewerSchema,
                 "La base de datos es de una versión más nueva del programa. Actualice el programa "

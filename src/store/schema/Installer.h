@@ -15,6 +15,14 @@ class Installer {
 
   /// All tables, indexes and first rows, as one step.
   void create();
+  /// The same for a database that is still to be filled: it counts as none until it is finished.
+  void createUnfinished();
+  bool isUnfinished();
+  void finish();
+  /// Takes all tables of the schema away, with their rows.
+  void remove();
+  /// Whether there is anything of this program.
+  bool isThere();
   /// Throws NotADatabase for a database of another kind, NewerSchema for a newer one. An older
   /// one gets what it lacks, as one step.
   void upgrade();
@@ -26,7 +34,10 @@ class Installer {
   void adoptTextOrder();
 
  private:
+  void createAs(const std::string& name);
   void addSince(int version);
+  std::string storedName();
+  std::string unfinishedName() const { return schema_.name() + " (a medias)"; }
   void addRows(const Table& table);
   Value stored(const std::string& column);
   std::string valueText(const Value& value) const;

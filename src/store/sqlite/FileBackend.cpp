@@ -4,6 +4,7 @@
 #include <unistd.h>
 
 #include "files/Durable.h"
+#include "files/Naming.h"
 #include "files/PrivateFile.h"
 #include "store/Companions.h"
 #include "store/Draft.h"
@@ -73,6 +74,44 @@ void FileBackend::create(const Schema& schema, const Filling& fill) {
   if (files::isThere(file_)) throw NameTaken(file_);
   if (!companionsOf(file_).empty()) putCompanionsAside(file_, ".apartada");
   if (!draft.acceptIfFree()) throw NameTaken(file_);
+}
+
+Backend::Unfinished FileBackend::unfinished(const Schema& schema) {
+  if (files::isThere(file_)) throw NameTaken(file_);
+  const fs::path file = draft();
+  if (files::isThere(file)) {
+    auto engine = std::make_unique<SqliteEngine>(file, SqliteEngine::Access::Existing);
+    if (Installer(*engine, schema).isUnfinished()) return {std::move(engine), true};
+    engine.reset();  // somebody was stopped before there was anything in it
+    removeCompanions(file);
+    files::removeForGood(file);
+  }
+  try {
+    files::create(file);
+  } catch (const fs::filesystem_error& e) {
+    throw fileFault("No se puede escribir en", file, e.code());
+  }
+  auto engine = std::make_unique<SqliteEngine>(file, SqliteEngine::Access::Create);
+  Installer(*engine, schema).createUnfinished();
+  return {std::move(engine), false};
+}
+
+void FileBackend::finish(const Schema& schema) {
+  const fs::path file = draft();
+  try {
+    {
+      SqliteEngine engine(file, SqliteEngine::Access::Existing);
+      Installer(engine, schema).finish();
+      engine.leaveWriteAheadLog();
+      if (!isNetworkDisk(file)) engine.run("PRAGMA journal_mode = WAL;");
+    }
+    files::syncFile(file);
+    removeCompanions(file);
+    if (!companionsOf(file_).empty()) putCompanionsAside(file_, ".apartada");
+    if (!files::takeFreeName(file, file_)) throw NameTaken(file_);
+  } catch (const fs::filesystem_error& e) {
+    throw fileFault("No se puede crear el archivo", file_, e.code());
+  }
 }
 
 void FileBackend::replaceBy(const fs::path& copy, const Schema&, const Progress& progress) {

@@ -15,6 +15,9 @@ class FileBackend : public Backend {
   std::filesystem::path source() const override { return file_; }
   std::unique_ptr<Engine> open() override;
   void create(const Schema& schema, const Filling& fill) override;
+  /// Lies beside the file, as "parroquia.fidaleon.traslado".
+  Unfinished unfinished(const Schema& schema) override;
+  void finish(const Schema& schema) override;
   void replaceBy(const std::filesystem::path& copy, const Schema& schema,
                  const Progress& progress) override;
   std::filesystem::path takePlace(Draft& copy) override;
@@ -22,6 +25,8 @@ class FileBackend : public Backend {
   void takeUpLog() override;
 
  private:
+  std::filesystem::path draft() const { return file_.string() + ".traslado"; }
+
   std::filesystem::path file_;
 };
 

@@ -106,4 +106,16 @@ std::string SqliteSpelling::distinct(const Table& table, const Column& column) c
          " IS NULL) UNION ALL SELECT x FROM valor WHERE x IS NOT NULL";
 }
 
+std::string SqliteSpelling::lastKey(const Table& table) const {
+  return "SELECT seq FROM sqlite_sequence WHERE name = " + text(table.name());
+}
+
+std::string SqliteSpelling::keepKeysAfter(const Table& table, std::int64_t key) const {
+  const std::string named = " WHERE name = " + text(table.name());
+  const std::string number = std::to_string(key);
+  return "UPDATE sqlite_sequence SET seq = max(seq, " + number + ")" + named +
+         "; INSERT INTO sqlite_sequence SELECT " + text(table.name()) + ", " + number +
+         " WHERE NOT EXISTS (SELECT 1 FROM sqlite_sequence" + named + ")";
+}
+
 }  // namespace fidaleon::store

@@ -18,6 +18,8 @@ class SqliteSpelling : public Spelling {
   std::string addColumn(const Table& table, const Column& column) const override;
   std::string createIndex(const Table& table, const Index& index) const override;
   std::string distinct(const Table& table, const Column& column) const override;
+  std::string lastKey(const Table& table) const override;
+  std::string keepKeysAfter(const Table& table, std::int64_t key) const override;
 
  private:
   std::string definition(const Table& table, const Column& column) const;
