@@ -52,9 +52,10 @@ endfunction()
 # One test program per folder of tests/, which mirrors src/; it links the rooms it names and the shared
 # fixtures. SCREENLESS gives it one application of the toolkit without a display. A long one runs in
 # so many SHARDS, which may run at the same time; each is one process, since starting one for each
-# test takes longer than most tests.
+# test takes longer than most tests. What SERVER names, as a filter of tests, is run once more with
+# its databases on a server.
 function(fid_test folder)
-  cmake_parse_arguments(T "SCREENLESS" "SHARDS" "DEPENDS" ${ARGN})
+  cmake_parse_arguments(T "SCREENLESS" "SHARDS;SERVER" "DEPENDS" ${ARGN})
   string(REPLACE "/" "_" name ${folder})
   file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp)
   list(FILTER sources EXCLUDE REGEX "/tools/")
@@ -83,4 +84,9 @@ function(fid_test folder)
     set_tests_properties(${name}.${shard} PROPERTIES TIMEOUT 600 ENVIRONMENT
       "QT_QPA_PLATFORM=offscreen;GTEST_TOTAL_SHARDS=${T_SHARDS};GTEST_SHARD_INDEX=${index}")
   endforeach()
+  if(T_SERVER)
+    add_test(NAME ${name}.servidor COMMAND test_${name} --gtest_brief=1 --gtest_filter=${T_SERVER})
+    set_tests_properties(${name}.servidor PROPERTIES TIMEOUT 600 ENVIRONMENT
+      "QT_QPA_PLATFORM=offscreen;FIDALEON_MOTOR=servidor")
+  endif()
 endfunction()

@@ -81,6 +81,8 @@ void Connection::Impl::bind(const Plan& plan, Statement& statement) {
 Recordset Connection::Impl::query(const std::shared_ptr<Plan>& plan) {
   auto statement = plan->lend(*engine);
   bind(*plan, *statement);
+  statement->start();
+  plan->understood(*statement);
   auto state = std::make_shared<RecordsetState>(plan, std::move(statement), open);
   state->fetch(kFetchedAtOnce + 1);
   state->keepWayBack(*engine, lifter.literals());
@@ -95,6 +97,7 @@ void Connection::Impl::change(Plan& plan) {
   try {
     bind(plan, *statement);
     statement->step();
+    plan.understood(*statement);
   } catch (...) {
     plan.giveBack(std::move(statement));
     throw;

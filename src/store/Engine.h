@@ -14,6 +14,7 @@
 
 namespace fidaleon::store {
 
+class Fence;
 class Schema;
 class Spelling;
 
@@ -35,12 +36,16 @@ class Statement {
  public:
   virtual ~Statement() = default;
 
+  /// Known once it was started.
   virtual int columnCount() const = 0;
   virtual std::string columnName(int position) const = 0;
   /// The table whose column it is; empty for an expression.
   virtual std::string columnTable(int position) const = 0;
   /// `number` counts from 1.
   virtual void bind(int number, const Literal& value, Lifetime lifetime) = 0;
+  /// Has it carried out so far that its columns are known; for one that returns rows. step() does
+  /// it where it was not done.
+  virtual void start() {}
   /// True when there is a row.
   virtual bool step() = 0;
   /// Appends the current row.
@@ -95,6 +100,9 @@ class Engine {
   /// Builds indexes anew for the order of text that the libraries of this machine have now.
   virtual void renewTextOrder() {}
   virtual void prepareFor(Writing) {}
+  /// Must hold whenever something is written from now on; null for nothing. Outlives the engine or
+  /// is taken away before.
+  virtual void fenceWith(Fence*) {}
   /// From another thread: what it is doing throws Cancelled.
   virtual void interrupt() = 0;
 };

@@ -20,6 +20,7 @@ class ForwardingStatement : public Statement {
   void bind(int number, const Literal& value, Lifetime lifetime) override {
     inner_->bind(number, value, lifetime);
   }
+  void start() override { inner_->start(); }
   bool step() override { return inner_->step(); }
   void read(RowStore& rows) override { inner_->read(rows); }
   void reset() override { inner_->reset(); }
@@ -57,6 +58,7 @@ class ForwardingEngine : public Engine {
   }
   void renewTextOrder() override { inner_->renewTextOrder(); }
   void prepareFor(Writing writing) override { inner_->prepareFor(writing); }
+  void fenceWith(Fence* fence) override { inner_->fenceWith(fence); }
   void interrupt() override { inner_->interrupt(); }
   void onTouched(Touched told) override { inner_->onTouched(std::move(told)); }
   std::int64_t touchedSoFar() const override { return inner_->touchedSoFar(); }

@@ -12,18 +12,19 @@ std::unique_ptr<Statement> Plan::lend(Engine& engine) {
     idle_.pop_back();
     return statement;
   }
-  auto statement = engine.prepare(rewritten_.sql, shape_.text);
+  return engine.prepare(rewritten_.sql, shape_.text);
+}
+
+void Plan::understood(const Statement& statement) {
   proven_ = true;
-  if (columns_.empty()) {
-    for (int i = 0; i < statement->columnCount(); ++i) {
-      const std::string name = statement->columnName(i);
-      const bool first = std::none_of(columns_.begin(), columns_.end(), [&](const auto& c) {
-        return text::equalsNoCase(c.name, name);
-      });
-      columns_.push_back({name, statement->columnTable(i), first});
-    }
+  if (!columns_.empty()) return;
+  for (int i = 0; i < statement.columnCount(); ++i) {
+    const std::string name = statement.columnName(i);
+    const bool first = std::none_of(columns_.begin(), columns_.end(), [&](const auto& c) {
+      return text::equalsNoCase(c.name, name);
+    });
+    columns_.push_back({name, statement.columnTable(i), first});
   }
-  return statement;
 }
 
 Plan* Plan::backwards(Engine& engine) {

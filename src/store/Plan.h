@@ -28,8 +28,10 @@ class Plan {
   bool proven() const { return proven_; }
   bool returnsRows() const { return rewritten_.returnsRows; }
   const std::vector<const Column*>& targets() const { return rewritten_.targets; }
-  /// Known once a statement has been prepared.
+  /// Known once a statement was understood.
   const std::vector<ResultColumn>& columns() const { return columns_; }
+  /// The engine has started this one of the plan's.
+  void understood(const Statement& statement);
 
   bool hasOrder() const { return !rewritten_.last.empty(); }
   /// How the last row is found without the others; null when it cannot be.

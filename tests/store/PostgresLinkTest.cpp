@@ -41,7 +41,7 @@ TEST(PostgresLink, Journeys_AreAsManyAsAnswersWaitedFor) {
   const auto before = link.journeys();
   link.carryOut(
       {{"", "BEGIN"}, {"", "CREATE TEMP TABLE t (n int)"}, {"", "INSERT INTO t VALUES (7)"}});
-  const Answer answer = link.carryOut({{"s", "SELECT n, $1::text FROM t", {"ñ"}, {2}}});
+  const Answer answer = link.carryOut({{"s", "SELECT n, $1::text FROM t", {"ñ"}}});
   EXPECT_EQ(answer.integer(0, 0), 7);
   EXPECT_EQ(answer.text(0, 1), "ñ");
   EXPECT_EQ(link.journeys() - before, 2);

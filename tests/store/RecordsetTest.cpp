@@ -1,5 +1,5 @@
 #include "store/FailingEngine.h"
-#include "store/Open.h"
+#include "support/NewDatabase.h"
 
 namespace fidaleon::store::RecordsetTest {
 
@@ -14,7 +14,7 @@ class Recordsets : public testing::Test {
     connection->CommitTrans();
   }
 
-  std::unique_ptr<Connection> connection = memoryDatabase(parishSchema());
+  std::unique_ptr<Connection> connection = tests::newDatabase(parishSchema());
 };
 
 TEST_F(Recordsets, Moves_GoBothWaysAndStopBeyondTheEnds) {

@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "store/Error.h"
-#include "store/Open.h"
+#include "support/NewDatabase.h"
 
 namespace fidaleon::store::RulesStatementsTest {
 
@@ -61,7 +61,7 @@ class Registers : public testing::Test {
         last.text("idbautismo") + ",\"" + name + "\",\"" + first + "\",\"" + second + "\")");
   }
 
-  std::unique_ptr<Connection> connection = memoryDatabase(parishSchema());
+  std::unique_ptr<Connection> connection = tests::newDatabase(parishSchema());
 };
 
 /// As the rules name all the books of a parish.

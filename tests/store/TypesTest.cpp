@@ -1,7 +1,7 @@
 // What columns admit, what becomes of values that do not fit, and what transactions undo.
 
 #include "store/FailingEngine.h"
-#include "store/Open.h"
+#include "support/NewDatabase.h"
 
 namespace fidaleon::store::TypesTest {
 
@@ -29,7 +29,7 @@ class Types : public testing::Test {
   }
   std::string refused(ErrorKind kind) { return "error " + std::to_string(static_cast<int>(kind)); }
 
-  std::unique_ptr<Connection> connection = memoryDatabase(parishSchema());
+  std::unique_ptr<Connection> connection = tests::newDatabase(parishSchema());
 };
 
 TEST_F(Types, Values_AreFittedOrRefused) {

@@ -1,6 +1,7 @@
 #pragma once
-// A parish of its own for each test: both databases in memory, a scripted user, settings, a clock
-// that stands still on 22 November 2026, and real locks in a directory that goes with the test.
+// A parish of its own for each test: both databases in memory (NewDatabase.h), a scripted user,
+// settings, a clock that stands still on 22 November 2026, and real locks in a directory that goes
+// with the test.
 
 #include <gmock/gmock.h>
 
@@ -11,11 +12,11 @@
 #include "core/contract/Contexto.h"
 #include "files/Machine.h"
 #include "forms/ScriptedUser.h"
-#include "store/Open.h"
 #include "support/Clocks.h"
 #include "support/Fields.h"
 #include "support/HostSupport.h"
 #include "support/MemorySettings.h"
+#include "support/NewDatabase.h"
 
 namespace fidaleon::tests {
 
@@ -75,7 +76,7 @@ struct TestWorld {
   support::FixedClock clock{text::Date{2026, 11, 22}, "10:30"};
   support::HostSupport host{user, settings, clock, config, "DESPACHO"};
   std::unique_ptr<store::Connection> parish =
-      store::memoryDatabase(store::parishSchema(), (directory.path() / "parroquia.mdb").string());
+      newDatabase(store::parishSchema(), (directory.path() / "parroquia.mdb").string());
   std::unique_ptr<store::Connection> reports =
       store::memoryDatabase(store::reportsSchema(), (directory.path() / "informes.mdb").string());
   Entorno entorno;

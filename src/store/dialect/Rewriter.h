@@ -47,17 +47,36 @@ class Rewriter {
   void selectList(SelectParts& parts, Scope& scope);
   /// How many columns one item of the select list stands for.
   std::size_t columnsOf(std::size_t begin, std::size_t end, const Scope& scope) const;
+  /// One item of an order, spelt but for its direction.
+  struct OrderItem {
+    std::string text;
+    const Column* column = nullptr;  // null for an expression
+    bool descending = false;
+    bool mayBeNull = true;
+  };
+  using Order = std::vector<OrderItem>;
+
+  void allColumns(const Scope& scope);
+  void grouping(SelectParts& parts, const Scope& scope);
   void selectOrder(const SelectParts& parts, const Scope& scope);
-  void orderItem(std::size_t end, const Scope& scope);
-  std::string defaultOrder(const SelectParts& parts) const;
+  void askedOrder(Order& order, const Scope& scope);
+  OrderItem orderItem(std::size_t end, const Scope& scope);
+  static Order defaultOrder(const SelectParts& parts);
   /// The columns that put the rows of a table in the order of its key.
-  std::vector<std::string> keyOrder(const Scope& scope) const;
-  void orderBy(const std::vector<std::string>& items, bool reversible);
+  void keyOrder(const Scope::Source& source, bool descending, Order& order) const;
+  void orderBy(const Order& order, const SelectParts& parts, bool reversible);
   void collectSources(std::size_t end, Scope& scope);
   void sources(std::size_t end, const Scope& scope);
 
   void expression(std::size_t end, const Scope& scope);
   void wordOrName(std::size_t end, const Scope& scope);
+  /// A marker in an expression.
+  std::string marker(const Scope& scope);
+  /// The column that the marker here is compared with; null when it is none.
+  const Column* comparedColumn(const Scope& scope) const;
+  const Column* columnBefore(std::size_t at, const Scope& scope) const;
+  const Column* columnAt(std::size_t at, const Scope& scope) const;
+  bool isCondition(std::size_t first, std::size_t end) const;
   void functionCall();
   void symbol(const Scope& scope);
   bool alternatives(const Scope& scope);
@@ -84,7 +103,8 @@ class Rewriter {
   const Spelling& spelling_;
   std::vector<Token> tokens_;
   std::size_t at_ = 0;
-  int depth_ = 0;  // of nested SELECTs
+  int depth_ = 0;          // of nested SELECTs
+  bool choosing_ = false;  // in a select list, or among the columns of an order
   std::string out_;
   Rewritten result_;
 };

@@ -11,7 +11,7 @@ void Rewriter::expression(std::size_t end, const Scope& scope) {
     const Token& t = token();
     switch (t.kind) {
       case Token::Kind::Marker:
-        put(spelling_.parameter(static_cast<int>(t.code)));
+        put(marker(scope));
         ++at_;
         break;
       case Token::Kind::Number:
@@ -33,6 +33,78 @@ void Rewriter::expression(std::size_t end, const Scope& scope) {
         fail();
     }
   }
+}
+
+namespace {
+
+bool isComparison(const Token& t) {
+  return t.kind == Token::Kind::Symbol &&
+         (t.text == "=" || t.text == "<" || t.text == ">" || t.text.size() == 2);
+}
+
+bool isReckoning(const Token& t) {
+  return t.is('+') || t.is('-') || t.is('*') || t.is('/');
+}
+
+}  // namespace
+
+const Column* Rewriter::columnAt(std::size_t at, const Scope& scope) const {
+  if (!tokens_[at].isName() || tokens_[at + 1].is('(')) return nullptr;
+  const auto found = tokens_[at + 1].is('.') ? scope.column(tokens_[at].text, tokens_[at + 2].text)
+                                             : scope.column(tokens_[at].text);
+  return found ? found->column : nullptr;
+}
+
+/// The one whose name ends right before `at`.
+const Column* Rewriter::columnBefore(std::size_t at, const Scope& scope) const {
+  if (at == 0 || !tokens_[at - 1].isName()) return nullptr;
+  const bool qualified = at >= 3 && tokens_[at - 2].is('.');
+  return columnAt(qualified ? at - 3 : at - 1, scope);
+}
+
+const Column* Rewriter::comparedColumn(const Scope& scope) const {
+  const auto is = [&](std::size_t back, std::uint64_t word) {
+    return at_ >= back && tokens_[at_ - back].is(word);
+  };
+  if (at_ == 0) return nullptr;
+  if (isComparison(tokens_[at_ - 1])) return columnBefore(at_ - 1, scope);
+  if (isComparison(token(1))) return columnAt(at_ + 2, scope);
+  if (is(1, packed("between"))) return columnBefore(at_ - 1, scope);
+  if (is(1, packed("and")) && is(3, packed("between"))) return columnBefore(at_ - 3, scope);
+  std::size_t open = at_;
+  while (open > 0 && (tokens_[open - 1].is(',') || tokens_[open - 1].kind == Token::Kind::Marker))
+    --open;
+  if (open < 3 || !tokens_[open - 1].is('(') || !tokens_[open - 2].is(packed("in"))) return nullptr;
+  const bool negated = tokens_[open - 3].is(packed("not"));
+  return columnBefore(open - (negated ? 3 : 2), scope);
+}
+
+std::string Rewriter::marker(const Scope& scope) {
+  const int number = static_cast<int>(token().code);
+  const Token none;
+  const Token& before = at_ > 0 ? tokens_[at_ - 1] : none;
+  const auto besideMarker = [&] {
+    return (isComparison(before) && at_ > 1 && tokens_[at_ - 2].kind == Token::Kind::Marker) ||
+           (isComparison(token(1)) && token(2).kind == Token::Kind::Marker);
+  };
+  if (isReckoning(before) || isReckoning(token(1)) || besideMarker())
+    return spelling_.number(number);
+  return spelling_.parameter(number, comparedColumn(scope));
+}
+
+/// Whether what stands here is a whole condition and no part of a comparison.
+bool Rewriter::isCondition(std::size_t first, std::size_t end) const {
+  const Token none;
+  const auto border = [](const Token& t) {
+    return t.kind == Token::Kind::End || t.is(packed("where")) || t.is(packed("and")) ||
+           t.is(packed("or")) || t.is(packed("not")) || t.is(packed("having")) ||
+           t.is(packed("on")) || t.is(packed("group")) || t.is(packed("order"));
+  };
+  const Token& before = first > 0 ? tokens_[first - 1] : none;
+  const Token& behind = tokens_[end];
+  const bool bracket =
+      before.is('(') && (first < 2 || !tokens_[first - 2].isName() || border(tokens_[first - 2]));
+  return (border(before) || bracket) && (border(behind) || behind.is(')'));
 }
 
 void Rewriter::symbol(const Scope& scope) {
@@ -73,10 +145,11 @@ bool Rewriter::alternatives(const Scope& scope) {
   } while (token(4 * ++values).is(packed("or")));
   if (values < FEW || !token(4 * values).is(')')) return false;
   ++at_;
+  const Column* column = columnAt(at_, scope);
   put("(" + columnName(at_ + 1, scope) + " IN (");
   for (std::size_t i = 0; i < values; ++i, at_ += 4) {
     if (i != 0) put(",");
-    put(spelling_.parameter(static_cast<int>(token(1).code)));
+    put(spelling_.parameter(static_cast<int>(token(1).code), column));
   }
   put("))");
   --at_;  // after the last value there is no further name
@@ -116,7 +189,12 @@ void Rewriter::wordOrName(std::size_t end, const Scope& scope) {
       return;
     }
   }
-  put(columnName(end, scope));
+  const std::size_t first = at_;
+  const Column* column = columnAt(first, scope);
+  const std::string name = columnName(end, scope);
+  const bool condition =
+      !choosing_ && column != nullptr && column->type == Type::YesNo && isCondition(first, at_);
+  put(condition ? spelling_.truth(name) : name);
 }
 
 void Rewriter::functionCall() {
@@ -139,14 +217,14 @@ std::string Rewriter::columnName(std::size_t end, const Scope& scope) {
         throw Error(ErrorKind::UnknownName, "No existe la tabla «" + first + "».");
       }
       at_ += 2;
-      return spelling_.name(source->exposed) + ".*";
+      return spelling_.allColumns(*source->table, spelling_.name(source->exposed));
     }
     found = scope.column(first, token(1).text);
     at_ += 2;
   } else {
     found = scope.column(first);
     if (!found) {
-      if (const std::string* alias = scope.alias(first)) return spelling_.name(*alias);
+      if (const auto* alias = scope.alias(first)) return spelling_.name(alias->name);
     }
   }
   if (!found) {

@@ -1,3 +1,5 @@
+#include <utility>
+
 #include "store/Error.h"
 #include "store/dialect/Rewriter.h"
 #include "store/dialect/Words.h"
@@ -10,13 +12,12 @@ struct Rewriter::SelectParts {
   bool aggregate = false;
   bool ordered = false;
   std::string top;
-  std::string grouping;
+  std::vector<std::string> grouping;
+  std::string filter;
   std::size_t columns = 0;
 };
 
 namespace {
-
-constexpr std::string_view kDescending = " DESC";
 
 bool isAggregate(const Token& t) {
   switch (t.code) {
@@ -48,6 +49,7 @@ bool isJoinWord(const Token& t) {
 
 void Rewriter::select(const Scope* outer) {
   ++depth_;
+  const bool choosing = std::exchange(choosing_, false);
   SelectParts parts;
   Scope scope(outer);
   expect(packed("select"));
@@ -70,14 +72,14 @@ void Rewriter::select(const Scope* outer) {
   }
   if (accept(packed("where"))) {
     put("WHERE");
+    const std::size_t start = out_.size();
     expression(clauseEnd(), scope);
+    parts.filter = out_.substr(start);
   }
   if (accept(packed("group"))) {
     expect(packed("by"));
     put("GROUP BY");
-    const std::size_t start = out_.size();
-    expression(clauseEnd(), scope);
-    parts.grouping = out_.substr(start);
+    grouping(parts, scope);
   }
   if (accept(packed("having"))) {
     put("HAVING");
@@ -86,6 +88,18 @@ void Rewriter::select(const Scope* outer) {
   selectOrder(parts, scope);
   if (!parts.top.empty()) put(spelling_.limit(parts.top));
   --depth_;
+  choosing_ = choosing;
+}
+
+void Rewriter::grouping(SelectParts& parts, const Scope& scope) {
+  for (const std::size_t end = clauseEnd();;) {
+    const std::size_t start = out_.size();
+    expression(valueEnd(), scope);
+    parts.grouping.push_back(out_.substr(start));
+    if (at_ == end) return;
+    expect(',');
+    put(",");
+  }
 }
 
 bool Rewriter::distinctOfIndex() {
@@ -123,6 +137,7 @@ void Rewriter::selectHead(SelectParts& parts) {
 
 void Rewriter::selectList(SelectParts& parts, Scope& scope) {
   const std::size_t end = clauseEnd();
+  const bool choosing = std::exchange(choosing_, true);
   for (;;) {
     const std::size_t itemEnd = valueEnd();
     parts.columns += columnsOf(at_, itemEnd, scope);
@@ -135,15 +150,28 @@ void Rewriter::selectList(SelectParts& parts, Scope& scope) {
     for (std::size_t i = at_; i < valueStop; ++i) {
       parts.aggregate = parts.aggregate || (isAggregate(tokens_[i]) && tokens_[i + 1].is('('));
     }
-    expression(valueStop, scope);
+    const std::size_t start = out_.size();
+    if (valueStop == at_ + 1 && token().is('*'))
+      allColumns(scope);
+    else
+      expression(valueStop, scope);
     if (!alias.empty()) {
+      scope.addAlias(alias, out_.substr(start));
       put("AS " + spelling_.name(alias));
-      scope.addAlias(alias);
     }
     at_ = itemEnd;
-    if (itemEnd == end) return;
+    if (itemEnd == end) break;
     expect(',');
     put(",");
+  }
+  choosing_ = choosing;
+}
+
+void Rewriter::allColumns(const Scope& scope) {
+  const char* separator = "";
+  for (const Scope::Source& source : scope.sources()) {
+    put(separator + spelling_.allColumns(*source.table, spelling_.name(source.exposed)));
+    separator = ", ";
   }
 }
 
@@ -162,79 +190,97 @@ std::size_t Rewriter::columnsOf(std::size_t begin, std::size_t end, const Scope&
 }
 
 void Rewriter::selectOrder(const SelectParts& parts, const Scope& scope) {
-  const bool oneTable =
-      !parts.distinct && !parts.aggregate && parts.grouping.empty() && scope.sources().size() == 1;
-  const bool reversible = oneTable && depth_ == 1 && parts.top.empty();
-  if (!accept(packed("order"))) {
-    // Nothing above sees the order of an inner SELECT, unless TOP cuts it.
-    if (depth_ > 1 && parts.top.empty()) return;
-    if (oneTable)
-      orderBy(keyOrder(scope), reversible);
-    else
-      out_ += defaultOrder(parts);
-    return;
-  }
+  const bool rowsOfTables = !parts.distinct && !parts.aggregate && parts.grouping.empty();
+  const bool oneTable = rowsOfTables && scope.sources().size() == 1;
+  const bool asked = accept(packed("order"));
+  // Nothing above sees the order of an inner SELECT, unless TOP cuts it.
+  if (!asked && depth_ > 1 && parts.top.empty()) return;
+  Order order;
+  if (asked)
+    askedOrder(order, scope);
+  else if (!rowsOfTables)
+    order = defaultOrder(parts);
+  const bool descending = !order.empty() && order.back().descending;
+  if ((oneTable && !asked) || (rowsOfTables && !spelling_.keepsEntryOrder()))
+    for (const Scope::Source& source : scope.sources()) keyOrder(source, descending, order);
+  orderBy(order, parts, oneTable && depth_ == 1 && parts.top.empty());
+}
+
+void Rewriter::askedOrder(Order& order, const Scope& scope) {
   expect(packed("by"));
-  std::vector<std::string> items;
   const std::size_t end = clauseEnd();
   const std::string before = std::move(out_);
+  const bool choosing = std::exchange(choosing_, true);
   while (at_ < end) {
     out_.clear();
-    orderItem(valueEnd(), scope);
-    items.push_back(out_);
+    order.push_back(orderItem(valueEnd(), scope));
     if (at_ < end) expect(',');
   }
+  choosing_ = choosing;
   out_ = before;
-  orderBy(items, reversible);
 }
 
-void Rewriter::orderItem(std::size_t end, const Scope& scope) {
+Rewriter::OrderItem Rewriter::orderItem(std::size_t end, const Scope& scope) {
+  OrderItem item;
+  item.descending = tokens_[end - 1].is(packed("desc"));
+  const bool said = item.descending || tokens_[end - 1].is(packed("asc"));
+  const std::size_t stop = end - (said ? 1 : 0);
   // A name that stands alone means the column of the result before that of a table.
-  const bool alone = token().isName() &&
-                     (end == at_ + 1 || token(1).is(packed("asc")) || token(1).is(packed("desc")));
-  const std::string* alias = alone ? scope.alias(token().text) : nullptr;
+  const bool alone = token().isName() && stop == at_ + 1;
+  const Scope::Alias* alias = alone ? scope.alias(token().text) : nullptr;
+  const bool qualified = stop == at_ + 3 && token(1).is('.');
+  if (alias == nullptr && (alone || qualified)) item.column = columnAt(at_, scope);
+  if (item.column != nullptr)
+    item.mayBeNull = item.column->type != Type::Counter && item.column->type != Type::YesNo;
+  if (token().is(packed("val")) && token(1).is('(')) item.mayBeNull = false;
   if (alias != nullptr) {
-    put(spelling_.name(*alias));
+    // Not by its name, which another column of the result may have too.
+    out_ += alias->expression;
     ++at_;
   }
-  const bool descending = tokens_[end - 1].is(packed("desc"));
-  const bool said = descending || tokens_[end - 1].is(packed("asc"));
-  if (at_ < end - (said ? 1 : 0)) expression(end - (said ? 1 : 0), scope);
+  if (at_ < stop) expression(stop, scope);
   if (said) ++at_;
-  if (descending) out_ += kDescending;
+  item.text = std::move(out_);
+  return item;
 }
 
-void Rewriter::orderBy(const std::vector<std::string>& items, bool reversible) {
-  std::string reversed = reversible ? out_ : std::string();
+void Rewriter::orderBy(const Order& order, const SelectParts& parts, bool reversible) {
+  reversible = reversible && !order.empty();
+  const bool rows = !parts.distinct && !parts.aggregate && parts.grouping.empty();
+  if (reversible) result_.last = out_;
   const char* separator = " ORDER BY";
-  for (const std::string& item : items) {
-    out_ += separator + item;
+  for (const OrderItem& item : order) {
+    const bool tempting = rows && item.column != nullptr && !parts.filter.empty() &&
+                          parts.filter.find(item.text) == std::string::npos;
+    const std::string text = tempting ? spelling_.unindexed(item.text, *item.column) : item.text;
+    out_ += separator + spelling_.ordered(text, item.descending, item.mayBeNull);
     if (reversible)
-      reversed += separator + (item.ends_with(kDescending)
-                                   ? item.substr(0, item.size() - kDescending.size())
-                                   : item + std::string(kDescending));
+      result_.last += separator + spelling_.ordered(text, !item.descending, item.mayBeNull);
     separator = ",";
   }
-  if (reversible && !items.empty()) result_.last = reversed + " " + spelling_.limit("1");
+  if (reversible) result_.last += " " + spelling_.limit("1");
 }
 
-std::string Rewriter::defaultOrder(const SelectParts& parts) const {
-  if (!parts.grouping.empty()) return " ORDER BY" + parts.grouping;
-  std::string order;
-  if (parts.distinct)
-    for (std::size_t i = 1; i <= parts.columns; ++i)
-      order += (order.empty() ? " ORDER BY " : ", ") + std::to_string(i);
+Rewriter::Order Rewriter::defaultOrder(const SelectParts& parts) {
+  Order order;
+  for (const std::string& item : parts.grouping) order.push_back({item});
+  if (parts.distinct && order.empty())
+    for (std::size_t i = 1; i <= parts.columns; ++i) order.push_back({" " + std::to_string(i)});
   return order;
 }
 
-std::vector<std::string> Rewriter::keyOrder(const Scope& scope) const {
-  const Scope::Source& source = scope.sources().front();
+void Rewriter::keyOrder(const Scope::Source& source, bool descending, Order& order) const {
   const std::string prefix = spelling_.name(source.exposed);
-  std::vector<std::string> items;
-  for (const std::string& column : source.table->keyColumns())
-    items.push_back(" " + prefix + "." + spelling_.name(column));
-  if (!source.table->hasUniqueKey()) items.push_back(" " + spelling_.entryOrder(prefix));
-  return items;
+  const auto add = [&](const std::string& text, const Column* column, bool mayBeNull) {
+    for (const OrderItem& item : order)
+      if (item.text == text) return;
+    order.push_back({text, column, descending, mayBeNull});
+  };
+  for (const std::string& name : source.table->keyColumns()) {
+    const Column* column = source.table->find(name);
+    add(" " + prefix + "." + spelling_.name(name), column, column->type != Type::Counter);
+  }
+  if (!source.table->hasUniqueKey()) add(" " + spelling_.entryOrder(prefix), nullptr, false);
 }
 
 void Rewriter::collectSources(std::size_t end, Scope& scope) {

@@ -29,9 +29,9 @@ const Scope::Source* Scope::source(std::string_view name) const {
   return outer_ != nullptr ? outer_->source(name) : nullptr;
 }
 
-const std::string* Scope::alias(std::string_view name) const {
-  for (const std::string& alias : aliases_) {
-    if (text::equalsNoCase(alias, name)) return &alias;
+const Scope::Alias* Scope::alias(std::string_view name) const {
+  for (const Alias& alias : aliases_) {
+    if (text::equalsNoCase(alias.name, name)) return &alias;
   }
   return nullptr;
 }

@@ -24,7 +24,10 @@ class Scope {
   explicit Scope(const Scope* outer = nullptr) : outer_(outer) {}
 
   void add(const Table& table, std::string_view alias);
-  void addAlias(std::string alias) { aliases_.push_back(std::move(alias)); }
+  /// `expression` as the engine is told it.
+  void addAlias(std::string alias, std::string expression) {
+    aliases_.push_back({std::move(alias), std::move(expression)});
+  }
   const std::vector<Source>& sources() const { return sources_; }
 
   /// The first table that has it, inner tables before outer ones.
@@ -32,12 +35,16 @@ class Scope {
   std::optional<Found> column(std::string_view source, std::string_view name) const;
   const Source* source(std::string_view name) const;
   /// A column of the select list by the name given to it, as it is spelt there.
-  const std::string* alias(std::string_view name) const;
+  struct Alias {
+    std::string name;
+    std::string expression;
+  };
+  const Alias* alias(std::string_view name) const;
 
  private:
   const Scope* outer_;
   std::vector<Source> sources_;
-  std::vector<std::string> aliases_;
+  std::vector<Alias> aliases_;
 };
 
 }  // namespace fidaleon::store

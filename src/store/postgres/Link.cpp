@@ -4,7 +4,7 @@
 
 #include <charconv>
 #include <cstdlib>
-#include <exception>
+#include <utility>
 
 #include "text/Utf8.h"
 
@@ -78,13 +78,25 @@ void Link::settle() {
                 "El servidor es demasiado antiguo: hace falta PostgreSQL 14 o posterior.");
   PQsetNoticeProcessor(
       link_.get(), [](void*, const char*) {}, nullptr);
+  {
+    const std::lock_guard guard(cancelling_);
+    cancel_.reset(PQgetCancel(link_.get()));
+  }
   run(kSettings);
 }
 
 void Link::renew() {
+  freeForOthers();
+  heard_.clear();
   PQreset(link_.get());
   ++generation_;
   settle();
+}
+
+void Link::cancel() {
+  const std::lock_guard guard(cancelling_);
+  char words[256];
+  if (cancel_ != nullptr) PQcancel(cancel_.get(), words, sizeof words);
 }
 
 bool Link::inTransaction() const {
@@ -93,36 +105,41 @@ bool Link::inTransaction() const {
 }
 
 void Link::check(const Answer& answer) {
-  if (answer.get() == nullptr || isFailure(answer.get()))
-    throw postgresError(answer.get(), link_.get());
+  if (answer.get() == nullptr) lost();
+  if (isFailure(answer.get())) throw postgresError(answer.get(), link_.get());
+}
+
+void Link::lost() {
+  heard_.clear();
+  throw postgresError(nullptr, link_.get());
+}
+
+void Link::freeForOthers() {
+  if (reader_ != nullptr) std::exchange(reader_, nullptr)->takeAll();
 }
 
 void Link::run(const std::string& sql) {
+  freeForOthers();
   ++journeys_;
   check(Answer(PQexec(link_.get(), sql.c_str())));
 }
 
 Answer Link::ask(const std::string& sql, const std::vector<std::string>& values) {
   Request request{{}, sql};
-  for (const std::string& value : values) {
-    request.values.push_back(value.c_str());
-    request.lengths.push_back(static_cast<int>(value.size()));
-  }
-  return carryOut({request});
+  for (const std::string& value : values) request.values.push_back(value.c_str());
+  return exec(request);
 }
 
 void Link::send(const Request& request) {
   PGconn* link = link_.get();
   const int count = static_cast<int>(request.values.size());
-  const char* name = request.name.c_str();
-  const bool sent =
-      request.name.empty()
-          ? PQsendQueryParams(link, request.sql.c_str(), count, nullptr, request.values.data(),
-                              request.lengths.data(), nullptr, 0) != 0
-          : (request.sql.empty() || PQsendPrepare(link, name, request.sql.c_str(), 0, nullptr)) &&
-                PQsendQueryPrepared(link, name, count, request.values.data(),
-                                    request.lengths.data(), nullptr, 0) != 0;
-  if (!sent) throw postgresError(nullptr, link);
+  const char* const* values = request.values.data();
+  const bool sent = request.name.empty()
+                        ? PQsendQueryParams(link, request.sql.c_str(), count, nullptr, values,
+                                            nullptr, nullptr, 0) != 0
+                        : PQsendQueryPrepared(link, request.name.c_str(), count, values, nullptr,
+                                              nullptr, 0) != 0;
+  if (!sent) lost();
 }
 
 /// The one answer to one statement, and the end of it.
@@ -132,39 +149,74 @@ Answer Link::receive() {
   return answer;
 }
 
-Answer Link::receiveAll(std::size_t requests) {
-  Answer last;
-  Answer failure;
-  for (std::size_t i = 0; i < requests; ++i) {
-    last = receive();
-    if (failure.get() != nullptr || last.get() == nullptr || !isFailure(last.get())) continue;
-    failure = std::move(last);
-  }
-  // The mark behind the last one comes with nothing after it.
-  Answer(PQgetResult(link_.get()));
-  if (isOpen()) PQexitPipelineMode(link_.get());
-  if (failure.get() != nullptr) check(failure);
-  check(last);
-  return last;
+Answer Link::exec(const Request& request) {
+  freeForOthers();
+  ++journeys_;
+  send(request);
+  Answer answer = receive();
+  check(answer);
+  return answer;
 }
 
 Answer Link::carryOut(const std::vector<Request>& requests) {
-  ++journeys_;
-  const bool alone = requests.size() == 1 && (requests[0].name.empty() || requests[0].sql.empty());
-  if (alone) {
-    send(requests[0]);
-    Answer answer = receive();
-    check(answer);
-    return answer;
-  }
+  for (const Request& request : requests) add(request);
+  return finish();
+}
+
+void Link::addPrepared(const Request& request) {
+  freeForOthers();
   PQenterPipelineMode(link_.get());
-  std::size_t answers = 0;
-  for (const Request& request : requests) {
-    send(request);
-    answers += !request.name.empty() && !request.sql.empty() ? 2 : 1;
+  if (!PQsendPrepare(link_.get(), request.name.c_str(), request.sql.c_str(), 0, nullptr)) lost();
+  heard_.emplace_back();
+}
+
+void Link::add(const Request& request, Heard heard) {
+  freeForOthers();
+  PQenterPipelineMode(link_.get());
+  if (!request.name.empty() && !request.sql.empty()) addPrepared(request);
+  send(request);
+  heard_.push_back(std::move(heard));
+}
+
+Answer Link::finish() {
+  ++journeys_;
+  if (PQpipelineSync(link_.get()) == 0) lost();
+  const std::deque<Heard> heard = std::exchange(heard_, {});
+  Answer last;
+  Answer failure;
+  for (std::size_t i = 0; i < heard.size(); ++i) {
+    last = receive();
+    if (failure.get() != nullptr) continue;
+    if (last.get() == nullptr || isFailure(last.get())) {
+      failedAt_ = i;
+      failure = std::move(last);
+      if (failure.get() == nullptr || !isOpen()) break;
+    } else if (heard[i]) {
+      heard[i](last);
+    }
   }
-  if (PQpipelineSync(link_.get()) == 0) throw postgresError(nullptr, link_.get());
-  return receiveAll(answers);
+  if (!isOpen()) lost();
+  Answer(PQgetResult(link_.get()));  // the mark behind the last one, with nothing after it
+  PQexitPipelineMode(link_.get());
+  if (failure.get() != nullptr) check(failure);
+  return last;
+}
+
+void Link::read(const Request& request, Reader& reader) {
+  freeForOthers();
+  ++journeys_;
+  send(request);
+  PQsetSingleRowMode(link_.get());
+  reader_ = &reader;
+}
+
+Answer Link::next() {
+  Answer answer(PQgetResult(link_.get()));
+  if (answer.isRow()) return answer;
+  reader_ = nullptr;
+  while (PGresult* further = PQgetResult(link_.get())) PQclear(further);
+  check(answer);
+  return answer;
 }
 
 std::vector<Link::Notice> Link::notices() {

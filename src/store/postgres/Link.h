@@ -5,7 +5,10 @@
 
 #include <chrono>
 #include <cstdint>
+#include <deque>
+#include <functional>
 #include <memory>
+#include <mutex>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -32,6 +35,7 @@ class Answer {
   std::int64_t integer(int row, int column) const;
   /// How many rows a statement has stored, changed or taken away.
   std::int64_t touched() const;
+  bool isRow() const { return PQresultStatus(result_.get()) == PGRES_SINGLE_TUPLE; }
   PGresult* get() const { return result_.get(); }
 
  private:
@@ -46,7 +50,6 @@ struct Request {
   std::string name;                      // of what is prepared; empty for `sql` as it stands
   std::string sql;                       // to be prepared under the name, when not empty
   std::vector<const char*> values = {};  // null pointers are Null; all as text
-  std::vector<int> lengths = {};
 };
 
 /// Settles on the server what each link needs: text without surprises, the schema "fidaleon" as
@@ -82,6 +85,33 @@ class Link {
   /// follows it is not carried out, and what came before it stays done only within a transaction
   /// that one of them has begun.
   Answer carryOut(const std::vector<Request>& requests);
+
+  using Heard = std::function<void(Answer&)>;
+  /// Puts one on its way without waiting for its answer, which `heard` is given by finish().
+  void add(const Request& request, Heard heard = {});
+  /// Only has it prepared.
+  void addPrepared(const Request& request);
+  /// Waits for the answers to all that was added and gives the last one. The first failure is
+  /// thrown, once all have come; what followed it was not carried out.
+  Answer finish();
+  /// How many were added and not waited for.
+  std::size_t added() const { return heard_.size(); }
+  /// Which of those that finish() last waited for has failed, from 0.
+  std::size_t failedAt() const { return failedAt_; }
+  /// One alone, without what add() needs around it; nothing may be waiting.
+  Answer exec(const Request& request);
+
+  /// Whoever reads its rows one by one as they come. It has the link until it has all of them or
+  /// somebody else needs it.
+  class Reader {
+   public:
+    virtual ~Reader() = default;
+    /// Takes all that is still to come. Never throws.
+    virtual void takeAll() = 0;
+  };
+  /// Nothing may be waiting. The rows come by next(), until it gives an answer without one.
+  void read(const Request& request, Reader& reader);
+  Answer next();
   /// How many times the server was waited for.
   std::int64_t journeys() const { return journeys_; }
 
@@ -100,20 +130,30 @@ class Link {
   static std::string name(std::string_view plain);
   static std::string text(std::string_view plain);
 
+  /// From another thread: what the server is doing for this link throws Cancelled.
+  void cancel();
+
  private:
   struct Finish {
     void operator()(PGconn* link) const { PQfinish(link); }
+    void operator()(PGcancel* cancel) const { PQfreeCancel(cancel); }
   };
 
   void settle();
   void send(const Request& request);
   Answer receive();
-  Answer receiveAll(std::size_t requests);
+  void freeForOthers();
+  [[noreturn]] void lost();
   /// Throws what the answer means, unless all went well.
   void check(const Answer& answer);
 
   ServerAddress address_;
   std::unique_ptr<PGconn, Finish> link_;
+  std::mutex cancelling_;
+  std::unique_ptr<PGcancel, Finish> cancel_;
+  std::deque<Heard> heard_;  // for each that was added, and one more for what prepares it
+  std::size_t failedAt_ = 0;
+  Reader* reader_ = nullptr;
   int generation_ = 0;
   std::int64_t journeys_ = 0;
 };

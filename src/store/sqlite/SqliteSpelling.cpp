@@ -8,7 +8,7 @@ std::string SqliteSpelling::name(std::string_view canonical) const {
   return "\"" + text::replaceAll(canonical, "\"", "\"\"") + "\"";
 }
 
-std::string SqliteSpelling::parameter(int number) const {
+std::string SqliteSpelling::parameter(int number, const Column*) const {
   return "?" + std::to_string(number);
 }
 

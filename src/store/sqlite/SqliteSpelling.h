@@ -7,7 +7,7 @@ namespace fidaleon::store {
 class SqliteSpelling : public Spelling {
  public:
   std::string name(std::string_view canonical) const override;
-  std::string parameter(int number) const override;
+  std::string parameter(int number, const Column* against) const override;
   std::string text(std::string_view value) const override;
   std::string function(std::string_view lowerCaseName) const override;
   std::string yesNo(const std::string& expression) const override;

@@ -1,0 +1,284 @@
+// rooms: registers support store
+// Rows in and out of a server beside the same done by hand against the library, prepared, in one
+// transaction; and how often the server is waited for, with the time that a slow network adds.
+
+#include <unistd.h>
+
+#include <fstream>
+#include <sstream>
+#include <vector>
+
+#include "benches/Baptisms.h"
+#include "benches/Bench.h"
+#include "benches/Folder.h"
+#include "core/contract/Contexto.h"
+#include "forms/ScriptedUser.h"
+#include "registers/baptism/frmPartidaBautismo.h"
+#include "registers/books/LibroNuevo.h"
+#include "store/Transaction.h"
+#include "store/dialect/LiteralLifter.h"
+#include "store/dialect/Rewriter.h"
+#include "support/Clocks.h"
+#include "support/HostSupport.h"
+#include "support/MemorySettings.h"
+#include "tests/support/NewDatabase.h"
+#include "tests/support/Relay.h"
+
+namespace {
+
+using namespace fidaleon;
+
+constexpr int kRows = 20000;
+constexpr int kRuns = 3;
+
+/// Processor time of one process in milliseconds, as the system counts it.
+double timeOf(int process) {
+  std::ifstream in("/proc/" + std::to_string(process) + "/stat");
+  std::string all((std::istreambuf_iterator<char>(in)), {});
+  std::istringstream fields(all.substr(all.rfind(')') + 2));
+  std::string field;
+  for (int i = 3; i < 14; ++i) fields >> field;
+  double user = 0, system = 0;
+  fields >> user >> system;
+  return (user + system) * 1000 / static_cast<double>(sysconf(_SC_CLK_TCK));
+}
+
+/// What this program and its server process take together.
+double together(int server, const std::function<void()>& work) {
+  const double before = bench::now() + timeOf(server);
+  work();
+  return bench::now() + timeOf(server) - before;
+}
+
+class ByHand {
+ public:
+  explicit ByHand(const store::ServerAddress& address) : link_(address) {
+    server = static_cast<int>(link_.ask("SELECT pg_backend_pid()").integer(0, 0));
+  }
+  void run(const char* sql) { link_.run(sql); }
+  store::Answer prepared(const std::string& sql, const std::vector<const char*>& values) {
+    if (sql == known_) return link_.exec({name_, {}, values});
+    known_ = sql;
+    name_ += "m";
+    return link_.carryOut({{name_, sql, values}});
+  }
+  int server;
+
+ private:
+  store::Link link_;
+  std::string known_, name_;
+};
+
+std::vector<cBautismo> entries() {
+  std::vector<cBautismo> all;
+  for (int n = 1; n <= kRows; ++n)
+    all.push_back(bench::baptism(n, 1 + n % 5, 1 + n / 50, std::to_string(1 + n / 5)));
+  return all;
+}
+
+/// The statement of an entry cut into its columns and its values, which are all in quotes or
+/// numbers.
+struct Insertion {
+  std::string sql;
+  std::vector<std::vector<std::string>> rows;
+};
+
+Insertion insertions(const std::vector<cBautismo>& entries) {
+  Insertion all;
+  store::LiteralLifter lifter;
+  for (const cBautismo& entry : entries) {
+    const std::string statement = sqlInsertar(TABLA_BAUTISMO, entry);
+    lifter.lift(statement);
+    if (all.sql.empty())
+      all.sql = store::Rewriter(store::parishSchema(), store::PostgresSpelling())
+                    .rewrite(lifter.shape().text)
+                    .sql;
+    auto& row = all.rows.emplace_back();
+    for (const store::Literal& value : lifter.literals())
+      row.push_back(value.kind == store::Literal::Kind::Text ? std::string(value.text)
+                                                             : std::to_string(value.integer));
+  }
+  return all;
+}
+
+void insertByHand(ByHand& db, const Insertion& all) {
+  db.run("BEGIN");
+  std::vector<const char*> values;
+  for (const auto& row : all.rows) {
+    values.clear();
+    for (const std::string& value : row) values.push_back(value.c_str());
+    db.prepared(all.sql, values);
+  }
+  db.run("COMMIT");
+}
+
+void insertOurs(store::Connection& connection, const std::vector<cBautismo>& rows) {
+  connection.BeginTrans();
+  for (const cBautismo& row : rows) connection.Execute(sqlInsertar(TABLA_BAUTISMO, row));
+  connection.CommitTrans();
+}
+
+std::vector<std::vector<std::string>> readByHand(ByHand& db) {
+  const store::Answer answer =
+      db.prepared("SELECT * FROM \"Bautismo\" ORDER BY \"IDBautismo\"", {});
+  std::vector<std::vector<std::string>> rows;
+  for (int r = 0; r < answer.rows(); ++r) {
+    auto& row = rows.emplace_back();
+    for (int c = 0; c < answer.columns(); ++c) row.emplace_back(answer.text(r, c));
+  }
+  return rows;
+}
+
+std::vector<std::vector<std::string>> readOurs(store::Connection& connection) {
+  std::vector<std::vector<std::string>> rows;
+  for (auto set = connection.Execute("SELECT * FROM Bautismo ORDER BY IDBautismo"); !set.EOF_();
+       set.MoveNext()) {
+    auto& row = rows.emplace_back();
+    for (int c = 0; c < set.FieldCount(); ++c) row.push_back(set.text(c));
+  }
+  return rows;
+}
+
+struct Server {
+  tests::PostgresDatabase database{tests::modelOf(store::parishSchema())};
+  bench::Folder folder;
+  tests::Relay relay{database.address(), folder.path()};
+
+  std::unique_ptr<store::Connection> connection(const store::ServerAddress& address,
+                                                store::PostgresEngine** made) {
+    auto engine = std::make_unique<store::PostgresEngine>(address);
+    *made = engine.get();
+    return std::make_unique<store::Connection>(std::move(engine), store::parishSchema(),
+                                               (folder.path() / "parroquia.mdb").string());
+  }
+};
+
+void measureRows() {
+  const std::vector<cBautismo> all = entries();
+  const Insertion byHand = insertions(all);
+  bench::Pair insert, read;
+  for (int run = 0; run < kRuns; ++run) {
+    Server ours, theirs;
+    store::PostgresEngine* engine = nullptr;
+    const auto connection = ours.connection(ours.database.address(), &engine);
+    const int server =
+        static_cast<int>(engine->link().ask("SELECT pg_backend_pid()").integer(0, 0));
+    ByHand db(theirs.database.address());
+    insert.limit = std::min(insert.limit, together(db.server, [&] { insertByHand(db, byHand); }));
+    insert.ours = std::min(insert.ours, together(server, [&] { insertOurs(*connection, all); }));
+    if (readOurs(*connection) != readByHand(db)) throw std::runtime_error("they differ");
+    read.limit = std::min(read.limit, together(db.server, [&] { readByHand(db); }));
+    read.ours = std::min(read.ours, together(server, [&] { readOurs(*connection); }));
+  }
+  bench::ratio("servidor: insertar 20.000 bautismos (programa y servidor)", insert, 1.25);
+  bench::ratio("servidor: leer 20.000 bautismos (programa y servidor)", read, 1.3);
+}
+
+/// A desk that enters baptisms through the dialog.
+struct Desk : Server {
+  explicit Desk(int there) {
+    contexto.gobjConfig = &config;
+    parish = connection(relay.address(), &engine);
+    parish->Execute("INSERT INTO Institucion (Nombre) VALUES (\"San Pedro\")");
+    insertarLibro(*parish, BAUTISMO, {1, 3, 4, "L1", "19000101", true});
+    store::Transaction whole(*parish);
+    for (int n = 1; n <= there; ++n) bench::insertBaptism(*parish, n, 1, n);
+    whole.commit();
+    engine->run("ANALYZE");
+    user.answerAnything(forms::Answer::Yes);
+  }
+
+  void enter(int count, const std::function<void()>& around) {
+    user.expectForm("frmPartidaBautismo", [&](forms::FormDriver& d) {
+      d.choose("cboBautismo(22)", "San Pedro");
+      d.choose("cboBautismo(23)", "L1");
+      for (int i = 0; i < count; ++i) {
+        const std::string salt{static_cast<char>('a' + ++entered)};
+        d.tab("mstBautismo", frmPartidaBautismo::TAB_BAUTIZADO);
+        d.type("txtBautismo(7)", "Luis");
+        d.type("txtBautismo(8)", "Zu" + salt + "biri");
+        d.tab("mstBautismo", frmPartidaBautismo::TAB_PADRE);
+        d.type("txtBautismo(11)", "Juan");
+        d.type("txtBautismo(12)", "Zu" + salt + "biri");
+        around();
+        d.click("cmdBautismo(0)");
+        around();
+      }
+      d.click("cmdBautismo(1)");
+    });
+    frmPartidaBautismo dialog(contexto);
+    dialog.conBaseDatos = parish.get();
+    dialog.Operacion = FDAPI::cCOperacion::ANADIR;
+    dialog.Origen = FDAPI::cCOrigen::PRINCIPAL;
+    dialog.Show();
+    for (const std::string& problem : user.problems()) std::printf("%s\n", problem.c_str());
+  }
+
+  FDAPI::cConfig config{"Fidaleon", "", "ana", "Castellano", false};
+  forms::ScriptedUser user;
+  support::MemorySettings settings;
+  support::FixedClock clock{text::Date{2026, 11, 22}, "10:30"};
+  support::HostSupport host{user, settings, clock, config, "DESPACHO"};
+  Entorno entorno{user, host, settings, clock, {}};
+  Contexto contexto{entorno};
+  store::PostgresEngine* engine = nullptr;
+  std::unique_ptr<store::Connection> parish;
+  int entered = 0;
+};
+
+double wall() {
+  timespec t{};
+  clock_gettime(CLOCK_MONOTONIC, &t);
+  return static_cast<double>(t.tv_sec) * 1e3 + static_cast<double>(t.tv_nsec) / 1e6;
+}
+
+/// By the clock: what is waited for costs no processor time.
+void measureJourneys() {
+  Desk desk(1000);
+  desk.enter(2, [] {});  // what is prepared once is
+  const auto journeys = [&] { return static_cast<double>(desk.engine->link().journeys()); };
+  const auto count = [&](double aim, const std::string& what, const std::function<void()>& work) {
+    double before = journeys();
+    work();
+    const double taken = journeys() - before;
+    bench::line(what + ": viajes al servidor", bench::shown(taken, ""), "-", "-",
+                aim > 0 ? "<= " + bench::shown(aim, "") : "-", aim <= 0 || taken <= aim);
+    for (const int delay : {1, 20}) {
+      desk.relay.setDelay(std::chrono::milliseconds(delay));
+      before = wall();
+      work();
+      bench::line(what + ", red de " + std::to_string(delay) + " ms",
+                  bench::shown(wall() - before, " ms"), "-", "-", "-", true);
+    }
+    desk.relay.setDelay({});
+  };
+  int n = 2000;
+  count(10, "guardar un bautismo con sus cinco filas", [&] {
+    store::Transaction whole(*desk.parish);
+    bench::insertBaptism(*desk.parish, ++n, 1, n);
+    whole.commit();
+  });
+  double before = 0, accepted = 0;
+  bool inside = false;
+  desk.enter(1, [&] {
+    if (inside) accepted = journeys() - before;
+    inside = !inside;
+    before = journeys();
+  });
+  bench::line("aceptar un bautismo en su diálogo: viajes al servidor", bench::shown(accepted, ""),
+              "-", "-", "-", true);
+  count(0, "leer la lista de un libro de 1.000", [&] {
+    auto list = desk.parish->Execute(
+        "SELECT Bautismo.IDBautismo, Bautismo.Folio, Bautismo.Numero, Bautismo_Hijo.Nombre FROM "
+        "Bautismo, Bautismo_Hijo WHERE CodLibro=1 AND IDBautismo=CodBautismo ORDER BY Folio, "
+        "Val(Numero), IDBautismo");
+    list.RecordCount();
+  });
+}
+
+}  // namespace
+
+int main() {
+  measureRows();
+  measureJourneys();
+}

@@ -1,0 +1,412 @@
+#include "store/postgres/PostgresEngine.h"
+
+#include <thread>
+#include <utility>
+
+#include "store/Fence.h"
+#include "store/Transfer.h"
+#include "store/postgres/PostgresStatement.h"
+
+namespace fidaleon::store {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr std::size_t kMostAtOnce = 200;  // statements that go along with a later one
+constexpr std::size_t kMostNames = 600;
+constexpr const char* kStored = "fidaleon_guardado";
+constexpr const char* kTrial = "intento";
+
+constexpr const char* kStoredAfterAll =
+    "Lo último que se aceptó antes de perderse la conexión con el servidor sí quedó guardado. No "
+    "lo "
+    "acepte otra vez: cierre sin guardar y compruébelo en la lista.";
+constexpr const char* kNotKnown =
+    "Se ha perdido la conexión con el servidor mientras guardaba, y no puede saberse todavía si lo "
+    "ha guardado. No cierre lo que tiene escrito: cuando el servidor responda, vuelva a aceptar y "
+    "el programa lo comprobará antes de guardar nada.";
+
+std::string part(int depth) {
+  return "parte" + std::to_string(depth);
+}
+
+constexpr int kFenceLost = sqlState("FB001");
+
+/// The server has forgotten what it had prepared, or it does not suit the tables any more.
+bool isStale(const Error& error) {
+  return error.number() == sqlState("26000") || error.number() == sqlState("0A000");
+}
+
+}  // namespace
+
+PostgresEngine::PostgresEngine(const ServerAddress& address, const std::string& password,
+                               const std::string& purpose)
+    : link_(address, password, purpose) {}
+
+std::unique_ptr<Statement> PostgresEngine::prepare(std::string_view sql, std::string_view) {
+  return std::make_unique<PostgresStatement>(*this, sql);
+}
+
+/// An order is always whole, so that its opposite begins where it ends; and one row is less to send
+/// than all of them, also where they have to be sorted for it.
+bool PostgresEngine::sameWay(const std::string&, const std::string&) {
+  return true;
+}
+
+void PostgresEngine::run(std::string_view sql) {
+  if (stage_ == Stage::None) {
+    takeUp();
+    link_.run(std::string(sql));
+    return;
+  }
+  if (stage_ == Stage::Wanted) open();
+  if (link_.added() > 0) finish();
+  wrote_ = true;
+  try {
+    link_.run(std::string(sql));
+  } catch (const Error&) {
+    giveUp();
+    throw;
+  }
+}
+
+/// A link that has ended while nobody used it says so when it is looked at.
+void PostgresEngine::takeUp() {
+  try {
+    if (link_.isOpen() && link_.wait(0ms)) hear();
+  } catch (const Error&) {
+    // Taken up right here.
+  }
+  if (!link_.isOpen()) link_.renew();
+  if (names_.size() > kMostNames) forgetNames();
+  if (link_.generation() == generation_) return;
+  generation_ = link_.generation();
+  names_.clear();
+  fresh_.clear();
+  if (!listening_) return;
+  link_.run(std::string("LISTEN ") + kStored);
+  ++heard_;  // whatever was told meanwhile was not heard
+}
+
+void PostgresEngine::name(const std::string& sql, Request& request) {
+  request.sql.clear();
+  const auto known = names_.find(sql);
+  if (known != names_.end()) {
+    request.name = known->second;
+    return;
+  }
+  request.name = "s" + std::to_string(++named_);
+  request.sql = sql;
+  names_.emplace(sql, request.name);
+  fresh_.push_back(sql);
+}
+
+void PostgresEngine::forgetNames() {
+  names_.clear();
+  fresh_.clear();
+  if (link_.isOpen() && !link_.isBroken()) link_.run("DEALLOCATE ALL");
+}
+
+Answer PostgresEngine::finish() {
+  try {
+    Answer last = link_.finish();
+    fresh_.clear();
+    return last;
+  } catch (const Error&) {
+    for (const std::string& sql : fresh_) names_.erase(sql);
+    fresh_.clear();
+    throw;
+  }
+}
+
+/// The server has undone the transaction, or is to.
+void PostgresEngine::giveUp() {
+  end();
+  try {
+    if (link_.isOpen() && link_.inTransaction()) link_.run("ROLLBACK");
+  } catch (const Error&) {
+    // It undoes it with the link.
+  }
+}
+
+void PostgresEngine::end() {
+  stage_ = Stage::None;
+  reading_ = wrote_ = false;
+  transaction_.clear();
+}
+
+void PostgresEngine::open() {
+  takeUp();
+  stage_ = Stage::Open;
+  if (reading_) return link_.add({{}, "BEGIN ISOLATION LEVEL REPEATABLE READ READ ONLY"});
+  link_.add({{}, "BEGIN"});
+  link_.add({{},
+             "SELECT pg_advisory_xact_lock(" + std::to_string(kFamily) + ", " +
+                 std::to_string(kWriters) + "), pg_current_xact_id()"},
+            [this](Answer& answer) { transaction_ = answer.text(0, 1); });
+  if (fence_ != nullptr) link_.add({{}, fence_->statement()});
+}
+
+void PostgresEngine::begin(int depth) {
+  if (depth > 0) return savepoint("SAVEPOINT ", part(depth));
+  settleDoubt();
+  stage_ = Stage::Wanted;
+}
+
+void PostgresEngine::beginReading() {
+  stage_ = Stage::Wanted;
+  reading_ = true;
+}
+
+/// Nothing that could be refused by itself.
+void PostgresEngine::savepoint(const char* what, const std::string& name) {
+  if (stage_ == Stage::Wanted) open();
+  link_.add({{}, what + name});
+}
+
+void PostgresEngine::rollback(int depth) {
+  if (depth > 0 && stage_ == Stage::Open) {
+    savepoint("ROLLBACK TO ", part(depth));
+    return savepoint("RELEASE ", part(depth));
+  }
+  if (stage_ == Stage::Open && link_.isOpen() && link_.added() > 0) {
+    try {
+      link_.add({{}, "ROLLBACK"});
+      finish();
+    } catch (const Error&) {
+      // Undone all the same.
+    }
+  }
+  giveUp();
+}
+
+void PostgresEngine::commit(int depth) {
+  if (depth > 0) return savepoint("RELEASE ", part(depth));
+  if (stage_ == Stage::Wanted) return end();
+  if (reading_) return rollback(0);
+  try {
+    if (transaction_.empty()) finish();  // it has to be known before it ends
+    if (wrote_) link_.add({{}, std::string("NOTIFY ") + kStored});
+    link_.add({{}, "COMMIT"});
+    const std::string number = transaction_;
+    if (wrote_) doubt_ = number;
+    finish();
+    doubt_.clear();
+    end();
+  } catch (const Error& error) {
+    const bool answered = link_.isOpen();
+    giveUp();
+    if (answered) doubt_.clear();
+    if (doubt_.empty()) throw;
+    requireStored(error);
+  }
+}
+
+/// The link was lost on the way: whether the server has heard of the end it says on another.
+void PostgresEngine::requireStored(const Error& error) {
+  bool stored = false;
+  try {
+    takeUp();
+    stored = isStored(doubt_);
+  } catch (const Error&) {
+    throw Error(ErrorKind::Connection, kNotKnown);
+  }
+  doubt_.clear();
+  if (!stored) throw error;
+}
+
+bool PostgresEngine::isStored(const std::string& transaction) {
+  for (int tries = 0;; ++tries) {
+    const std::string state(
+        link_.ask("SELECT pg_xact_status($1::text::xid8)", {transaction}).text(0, 0));
+    if (state != "in progress") return state == "committed";
+    // The server has not noticed yet that nobody listens to it.
+    if (tries > 20) throw Error(ErrorKind::Connection, kNotKnown);
+    link_.ask(
+        "SELECT pg_terminate_backend(pid) FROM pg_stat_activity WHERE usename = current_user AND "
+        "backend_xid = ($1::text::xid8)::xid",
+        {transaction});
+    std::this_thread::sleep_for(50ms);
+  }
+}
+
+void PostgresEngine::settleDoubt() {
+  if (doubt_.empty()) return;
+  takeUp();
+  const bool stored = isStored(doubt_);
+  doubt_.clear();
+  if (stored) throw Error(ErrorKind::Other, kStoredAfterAll);
+}
+
+void PostgresEngine::readCatalogue() {
+  if (link_.added() > 0) finish();
+  const Answer tables = link_.ask(
+      "SELECT c.oid, c.relname, a.attname, EXISTS (SELECT FROM pg_index i WHERE i.indrelid = c.oid "
+      "AND i.indisunique AND NOT i.indisprimary) FROM pg_class c JOIN pg_namespace n ON n.oid = "
+      "c.relnamespace AND n.nspname = 'fidaleon' LEFT JOIN pg_attribute a ON a.attrelid = c.oid "
+      "AND a.attidentity <> '' WHERE c.relkind = 'r'");
+  facts_.clear();
+  tables_.clear();
+  for (int row = 0; row < tables.rows(); ++row) {
+    const std::string table(tables.text(row, 1));
+    tables_.emplace(static_cast<Oid>(tables.integer(row, 0)), table);
+    facts_[table] = {table, std::string(tables.text(row, 2)), tables.text(row, 3) == "f"};
+  }
+}
+
+const PostgresEngine::TableFacts* PostgresEngine::factsOf(const std::string& table) {
+  auto found = facts_.find(table);
+  if (found == facts_.end()) {
+    readCatalogue();
+    found = facts_.find(table);
+  }
+  return found == facts_.end() ? nullptr : &found->second;
+}
+
+std::string PostgresEngine::tableOf(Oid number) {
+  auto found = tables_.find(number);
+  if (found == tables_.end()) {
+    readCatalogue();
+    found = tables_.find(number);
+  }
+  return found == tables_.end() ? std::string() : found->second;
+}
+
+void PostgresEngine::tell(const std::string& table, const Answer& answer) {
+  touchedSoFar_ += answer.touched();
+  if (!touched_) return;
+  for (int row = 0; row < answer.rows(); ++row) touched_(table, answer.integer(row, 0));
+}
+
+Answer PostgresEngine::carryOut(const std::string& sql, const Traits& traits, Request& request) {
+  const Stage before = stage_;
+  const bool own = before == Stage::None && !traits.reads;
+  bool ending = false;
+  for (bool again = true;; again = false) {
+    try {
+      if (own) begin(0);
+      Answer answer = attempt(sql, traits, request);
+      ending = true;
+      if (own) commit(0);
+      return answer;
+    } catch (const Error& error) {
+      if (own && inTransaction()) rollback(0);
+      if (!again || ending || before == Stage::Open || !mayTryAgain(error)) throw;
+      stage_ = before;
+    }
+  }
+}
+
+/// Nothing is lost by beginning again where nothing had begun.
+bool PostgresEngine::mayTryAgain(const Error& error) {
+  const bool stale = isStale(error);
+  if (stale) forgetNames();
+  const bool fenced = fence_ != nullptr && error.number() == kFenceLost;
+  if (fenced) fence_->lost();
+  return stale || fenced || !link_.isOpen();
+}
+
+Answer PostgresEngine::attempt(const std::string& sql, const Traits& traits, Request& request) {
+  if (stage_ == Stage::None) {
+    takeUp();
+    name(sql, request);
+    if (request.sql.empty()) return link_.exec(request);
+    link_.add(request);
+    return finish();
+  }
+  if (stage_ == Stage::Wanted) open();
+  try {
+    return traits.reads ? readInside(sql, traits, request) : write(sql, traits, request);
+  } catch (const Error&) {
+    if (!link_.isOpen() || link_.isBroken() || !link_.inTransaction()) giveUp();
+    throw;
+  }
+}
+
+Answer PostgresEngine::readInside(const std::string& sql, const Traits& traits, Request& request) {
+  if (!traits.harmless) return tried(sql, request, {});
+  name(sql, request);
+  link_.add(request);
+  return finish();
+}
+
+Answer PostgresEngine::write(const std::string& sql, const Traits& traits, Request& request) {
+  const TableFacts* facts = factsOf(traits.table);
+  const bool watched = touched_ && facts != nullptr && !facts->key.empty();
+  const std::string told = watched ? sql + " RETURNING " + Link::name(facts->key) : std::string();
+  const std::string& text = watched ? told : sql;
+  const auto heard = [this, table = facts != nullptr ? &facts->table : &traits.table](Answer& a) {
+    tell(*table, a);
+  };
+  wrote_ = true;
+  if (!traits.harmless || facts == nullptr || !facts->harmless) {
+    tried(text, request, heard);
+    return Answer();
+  }
+  name(text, request);
+  link_.add(request, heard);
+  // Whether the transaction may begin is known before anything else is done in it.
+  const bool first = transaction_.empty();
+  if (first || link_.added() > kMostAtOnce) finish();
+  return Answer();
+}
+
+/// As a part of its own, so that nothing else goes with it.
+Answer PostgresEngine::tried(const std::string& sql, Request& request, const Link::Heard& heard) {
+  const std::size_t at = link_.added();
+  Answer answer;
+  link_.add({{}, std::string("SAVEPOINT ") + kTrial});
+  name(sql, request);
+  link_.add(request, [&](Answer& a) {
+    if (heard) heard(a);
+    answer = std::move(a);
+  });
+  link_.add({{}, std::string("RELEASE ") + kTrial});
+  try {
+    finish();
+  } catch (const Error&) {
+    if (link_.isOpen() && link_.failedAt() > at)
+      link_.run(std::string("ROLLBACK TO ") + kTrial + "; RELEASE " + kTrial);
+    throw;
+  }
+  return answer;
+}
+
+void PostgresEngine::read(const std::string& sql, Request& request, Link::Reader& reader) {
+  if (stage_ == Stage::None) takeUp();
+  name(sql, request);
+  if (link_.added() > 0 || !request.sql.empty()) {
+    // Known to the server first: the rows come one by one only outside of a bundle.
+    if (!request.sql.empty()) link_.addPrepared(request);
+    finish();
+  }
+  link_.read(request, reader);
+}
+
+void PostgresEngine::hear() {
+  for (const Link::Notice& notice : link_.notices())
+    if (notice.channel == kStored && !notice.own) ++heard_;
+}
+
+std::int64_t PostgresEngine::othersStored() {
+  if (!listening_) {
+    takeUp();
+    link_.run(std::string("LISTEN ") + kStored);
+    listening_ = true;
+  }
+  hear();
+  return heard_;
+}
+
+/// What is known of the tables is out of date after much was written.
+void PostgresEngine::prepareFor(Writing writing) {
+  if (writing == Writing::Usual && stage_ == Stage::None) run("ANALYZE");
+}
+
+void PostgresEngine::backup(const std::filesystem::path& to, const Schema& schema,
+                            const Progress& progress) {
+  copyIntoFile(*this, to, schema, progress);
+}
+
+}  // namespace fidaleon::store

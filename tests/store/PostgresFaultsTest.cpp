@@ -1,0 +1,110 @@
+// What becomes of a transaction when the server, or the way to it, fails.
+
+#include "files/Machine.h"
+#include "store/FailingEngine.h"
+#include "support/NewDatabase.h"
+#include "support/Relay.h"
+
+namespace fidaleon::store::PostgresFaultsTest {
+
+using tests::PostgresDatabase;
+using tests::Relay;
+
+class PostgresFaults : public testing::Test {
+ protected:
+  void add(const std::string& name) {
+    connection.Execute("INSERT INTO Cargo (Nombre) VALUES ('" + name + "')");
+  }
+  /// As another desk sees them.
+  std::string names() {
+    Link other(database.address());
+    return std::string(other
+                           .ask("SELECT coalesce(string_agg(\"Nombre\", '' ORDER BY \"IDCargo\"), "
+                                "'') FROM \"Cargo\"")
+                           .text(0, 0));
+  }
+  void endAllLinks() {
+    tests::PostgresCluster::running().link().ask(
+        "SELECT pg_terminate_backend(pid) FROM pg_stat_activity WHERE datname = $1",
+        {database.address().database});
+  }
+
+  PostgresDatabase database{tests::modelOf(parishSchema())};
+  tests::TempDirectory folder;
+  Relay relay{database.address(), folder.path()};
+  Connection connection{std::make_unique<PostgresEngine>(relay.address()), parishSchema(),
+                        "/tmp/fidaleon.mdb"};
+};
+
+TEST_F(PostgresFaults, ServerRestarted_CostsOnlyTheTransactionThatWasOpen) {
+  add("a");
+  endAllLinks();
+  add("b");
+  connection.BeginTrans();
+  add("c");
+  endAllLinks();
+  std::string words;
+  EXPECT_EQ(kindOf([&] { connection.Execute("SELECT * FROM Cargo"); }, &words),
+            ErrorKind::Connection);
+  EXPECT_EQ(kindOf([&] { connection.CommitTrans(); }), ErrorKind::Other);
+  connection.RollbackTrans();
+  connection.BeginTrans();
+  add("c");
+  connection.CommitTrans();
+  EXPECT_EQ(names(), "abc");
+}
+
+TEST_F(PostgresFaults, CutAtTheEndOfATransaction_NeitherDoublesNorLosesIt) {
+  relay.stayOpen();
+  const auto store = [&](const std::string& name, Relay::Cut cut) {
+    relay.cutAt("COMMIT", cut);
+    connection.BeginTrans();
+    add(name);
+    connection.CommitTrans();
+  };
+  store("a", Relay::Cut::Behind);
+  EXPECT_EQ(names(), "a") << "it was stored, and nothing is told";
+  EXPECT_EQ(kindOf([&] { store("b", Relay::Cut::Before); }), ErrorKind::Connection);
+  connection.RollbackTrans();
+  store("b", Relay::Cut::None);
+  EXPECT_EQ(names(), "ab");
+  relay.cutAt("COMMIT", Relay::Cut::Behind);
+  add("c");
+  EXPECT_EQ(names(), "abc") << "also a statement by itself";
+}
+
+TEST_F(PostgresFaults, CutAndNoServerToAsk_IsSettledBeforeAnythingElseIsStored) {
+  connection.BeginTrans();
+  add("a");
+  relay.cutAt("COMMIT", Relay::Cut::Behind);
+  EXPECT_EQ(kindOf([&] { connection.CommitTrans(); }), ErrorKind::Connection);
+  connection.RollbackTrans();
+  EXPECT_EQ(kindOf([&] { add("a"); }), ErrorKind::Connection) << "nobody can be asked yet";
+  relay.open();
+  std::string words;
+  EXPECT_EQ(kindOf([&] { connection.BeginTrans(); }, &words), ErrorKind::Other);
+  EXPECT_NE(words.find("sí quedó guardado"), std::string::npos) << words;
+  EXPECT_EQ(names(), "a");
+  add("b");
+  EXPECT_EQ(names(), "ab");
+}
+
+TEST_F(PostgresFaults, DiskFullOnTheServer_IsToldAndUndoesTheWhole) {
+  Link(database.address())
+      .run(
+          "CREATE FUNCTION lleno() RETURNS trigger LANGUAGE plpgsql AS $$ BEGIN RAISE EXCEPTION "
+          "'no' USING ERRCODE = '53100'; END $$; CREATE TRIGGER lleno BEFORE INSERT ON \"Grupo\" "
+          "FOR EACH ROW EXECUTE FUNCTION lleno()");
+  connection.BeginTrans();
+  add("a");
+  EXPECT_EQ(kindOf([&] {
+              connection.Execute("INSERT INTO Grupo (Nombre) VALUES ('x')");
+              connection.Execute("SELECT * FROM Grupo");
+            }),
+            ErrorKind::DiskFull);
+  EXPECT_THROW(connection.CommitTrans(), Error);
+  connection.RollbackTrans();
+  EXPECT_EQ(names(), "");
+}
+
+}  // namespace fidaleon::store::PostgresFaultsTest
