@@ -46,6 +46,7 @@ class PostgresCluster {
       start();
       link_ = std::make_unique<store::Link>(address());
     }
+    link_->run("SET lock_timeout TO 0");  // other programs of the run may be making the same model
   }
   void start() {
     if (std::system((script().string() + " " + folder_).c_str()) != 0)
