@@ -274,8 +274,19 @@ void addWindowCommands(std::vector<Command>& all) {
   add(Menu::File, line("traer-datos", "&Traer datos del programa anterior…", "",
                        "Lee los registros de las tablas de dBase y hace con ellos libros antiguos",
                        0, Needs::Nothing, [](Workplace& w, const Choice&) { w.importLegacy(); }));
+  add(Menu::File,
+      still(line("preferencias", "Pre&ferencias…", "Ctrl+,",
+                 "Usuario, letra, impresora, copias y lo demás que se puede elegir", 0,
+                 Needs::Nothing, [](Workplace& w, const Choice&) { w.preferences(); })));
   add(Menu::File, still(line("salir", "&Salir", "Ctrl+Q", "Cierra el programa", 0, Needs::Nothing,
                              [](Workplace& w, const Choice&) { w.leave(); })));
+  add(Menu::Help,
+      still(line("manual", "&Manual", "F1", "Abre el manual donde habla de lo que se está haciendo",
+                 0, Needs::Nothing, [](Workplace& w, const Choice&) { w.help({}); })));
+  add(Menu::Help,
+      still(line("primeros-pasos", "&Primeros pasos", "",
+                 "Del primer libro al primer certificado, paso a paso", 0, Needs::Nothing,
+                 [](Workplace& w, const Choice&) { w.help("primeros-pasos"); })));
   add(Menu::Help, still(line("acerca-de", "&Acerca de Fidaleon…", "", "", 0, Needs::Nothing,
                              [](Workplace& w, const Choice&) { w.about(); })));
 }

@@ -50,7 +50,11 @@ class Workplace {
   virtual void returnToCopy() = 0;
   /// Lets the user bring the registers of the older program into books.
   virtual void importLegacy() = 0;
+  /// The manual where it speaks of that name; where it speaks of what is chosen for an empty one.
+  virtual void help(const std::string& name) = 0;
   virtual void about() = 0;
+  /// Lets the user change what there is to choose of the program.
+  virtual void preferences() = 0;
   /// Lets the user make a parish, and works on that one from then on.
   virtual void newParish() = 0;
   /// Lets the user choose a parish, and works on that one from then on.

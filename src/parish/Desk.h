@@ -27,6 +27,8 @@ class Desk {
   store::Connection& reports() { return *open_.reports; }
   const ParishFiles& files() const { return files_; }
   Presence& presence() { return *presence_; }
+  /// What the user has been told of since the parish was opened.
+  support::ErrorLog& errors() { return support_.errors(); }
   /// Short name of the first institution.
   std::string parishName();
   /// The same, and that it is a sample where it is one.

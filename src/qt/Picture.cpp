@@ -56,4 +56,13 @@ QImage renderToPicture(forms::Form& form, QSize screen, double scale, bool dark)
   return picture;
 }
 
+void showUnseen(forms::Form& form, QSize screen, const std::function<void(QWidget&)>& look) {
+  FormDialog dialog(form, nullptr, FormDialog::Use::Picture, screen);
+  dialog.setAttribute(Qt::WA_DontShowOnScreen);
+  dialog.show();
+  QApplication::sendPostedEvents();
+  look(dialog);
+  dialog.hide();
+}
+
 }  // namespace fidaleon::qt

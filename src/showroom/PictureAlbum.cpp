@@ -33,6 +33,7 @@ void PictureAlbum::add(const std::string& name, const QImage& picture) {
 }
 
 void PictureAlbum::add(const std::string& name, QWidget& widget) {
+  if (look_) return look_(name, widget);
   add(name, widget.grab().toImage());
 }
 
@@ -46,15 +47,19 @@ void PictureAlbum::add(const std::string& name, const std::optional<paper::Repor
 
 void PictureAlbum::add(const std::string& name, forms::Form& form) {
   forms::TabStrip* strip = tabsOf(form);
-  if (!strip) return add(name, qt::renderToPicture(form, SCREEN));
+  if (!strip) return addTab(name, form);
   const int front = strip->tab();
   for (int tab = 0; tab < strip->tabCount(); ++tab) {
     if (!strip->tabVisible(tab)) continue;
     strip->setTab(tab);
-    add(name + "-" + std::to_string(tab + 1) + "-" + plainName(strip->caption(tab)),
-        qt::renderToPicture(form, SCREEN));
+    addTab(name + "-" + std::to_string(tab + 1) + "-" + plainName(strip->caption(tab)), form);
   }
   strip->setTab(front);
+}
+
+void PictureAlbum::addTab(const std::string& name, forms::Form& form) {
+  if (!look_) return add(name, qt::renderToPicture(form, SCREEN));
+  qt::showUnseen(form, SCREEN, [&](QWidget& window) { look_(name, window); });
 }
 
 void PictureAlbum::miss(const std::string& name, const std::string& why) {

@@ -17,8 +17,13 @@ namespace fidaleon::app {
 /// Puts pictures into a directory and counts those that could not be made.
 class PictureAlbum {
  public:
+  /// Is shown every window under the name of its picture.
+  using Look = std::function<void(const std::string& name, QWidget& window)>;
+
   PictureAlbum(std::filesystem::path directory, std::ostream& out)
       : directory_(std::move(directory)), out_(out) {}
+  /// Takes no picture of a window, but shows it to whoever wants to look at it.
+  PictureAlbum(Look look, std::ostream& out) : out_(out), look_(std::move(look)) {}
 
   void add(const std::string& name, const QImage& picture);
   void add(const std::string& name, QWidget& widget);
@@ -30,8 +35,11 @@ class PictureAlbum {
   bool complete() const { return failures_ == 0; }
 
  private:
+  void addTab(const std::string& name, forms::Form& form);
+
   std::filesystem::path directory_;
   std::ostream& out_;
+  Look look_;
   int failures_ = 0;
 };
 

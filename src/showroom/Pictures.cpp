@@ -1,6 +1,7 @@
 #include "showroom/Pictures.h"
 
 #include <QLineEdit>
+#include <QTabWidget>
 #include <QTableWidget>
 #include <QTemporaryDir>
 #include <array>
@@ -9,6 +10,7 @@
 #include "parish/Desk.h"
 #include "parish/NewParish.h"
 #include "printing/DocumentReport.h"
+#include "printing/Templates.h"
 #include "sample/SampleParish.h"
 #include "showroom/DemoScripts.h"
 #include "showroom/PictureAlbum.h"
@@ -21,10 +23,15 @@
 #include "support/frmMunicipio.h"
 #include "support/frmProvincia.h"
 #include "text/Utf8.h"
+#include "window/AboutDialog.h"
 #include "window/CopiesDialog.h"
 #include "window/FirstRunWizard.h"
 #include "window/MainWindow.h"
+#include "window/PreferencesDialog.h"
 #include "window/PreviewDialog.h"
+#include "window/StartDialog.h"
+#include "window/help/HelpTopics.h"
+#include "window/help/HelpWindow.h"
 
 namespace fidaleon::app {
 namespace {
@@ -80,7 +87,7 @@ class EditionSitting {
 
   void copies() {
     const SafetyCopies kept(desk_->files().directory);
-    CopiesDialog none(kept.list(), kept.directory());
+    CopiesDialog none(kept);
     album_.add("copias-ninguna", none);
     Moment moment{clock_.today(), 9, 15, 40};
     for (const char* before :
@@ -89,7 +96,7 @@ class EditionSitting {
       ++moment.hour;
     }
     store::backupDatabase(desk_->parish(), kept.directory() / "parroquia.copia");
-    CopiesDialog some(kept.list(), kept.directory());
+    CopiesDialog some(kept);
     album_.add("copias", some);
   }
 
@@ -111,6 +118,7 @@ class EditionSitting {
     window.showEntriesOf(BAUTISMO, LAST_BOOK);
     album_.add("ventana-partidas-de-un-libro", window);
     const Documento* d = documento(BAUTISMO, "certificado", edition_.code);
+    ownWindows();
     user_.pose = [](forms::FormDriver& keeper) { keeper.click("cmdBoton(0)"); };
     if (auto report = makeReport(*desk_, *d, 1)) {
       PreviewDialog preview(std::move(*report));
@@ -120,6 +128,29 @@ class EditionSitting {
   }
 
  private:
+  /// Those of the program itself, tab by tab.
+  void ownWindows() {
+    ParishDoor door(settings_, clock_);
+    PreferencesDialog preferences(*desk_, door);
+    AboutDialog about(*desk_);
+    for (const auto& [name, dialog] :
+         {std::pair<const char*, QDialog*>{"preferencias", &preferences}, {"acerca-de", &about}}) {
+      auto* pages = dialog->findChild<QTabWidget*>();
+      for (int page = 0; page < pages->count(); ++page) {
+        pages->setCurrentIndex(page);
+        album_.add(name + std::string("-") + std::to_string(page + 1), *dialog);
+      }
+    }
+    StartDialog start(door);
+    album_.add("comienzo", start);
+    const Manual manual(manualDirectory());
+    HelpWindow help(manual);
+    help.show(*helpPlace("frmPartidaBautismo"));
+    album_.add("ayuda", help);
+    help.search("borrador");
+    album_.add("ayuda-busqueda", help);
+  }
+
   template <class Dialog>
   void show(const std::string& name, forms::UserInterface& ui, Settings& settings, Clock& clock,
             store::Connection& con, const FDAPI::cConfig& config, std::int32_t id) {
@@ -150,7 +181,26 @@ void firstRunPages(PictureAlbum& album) {
   album.add("primera-vez-2", wizard);
 }
 
+/// Everything but the documents; the pages of the first run are those of none.
+void everyWindow(EditionSitting& sitting) {
+  sitting.windows();
+  sitting.registers().others();
+  sitting.people();
+  sitting.copies();
+  sitting.otherDialogs();
+}
+
 }  // namespace
+
+bool lookAtWindows(const PictureAlbum::Look& look, std::ostream& out) {
+  PictureAlbum album(look, out);
+  const QTemporaryDir parishes;
+  firstRunPages(album);
+  EditionSitting sitting(album, everyEdition().front(), parishes.path().toStdString());
+  sitting.registers().entries();
+  everyWindow(sitting);
+  return album.complete();
+}
 
 bool renderPictures(const std::filesystem::path& directory, std::ostream& out) {
   std::filesystem::create_directories(directory);
@@ -163,12 +213,7 @@ bool renderPictures(const std::filesystem::path& directory, std::ostream& out) {
       EditionSitting sitting(album, edition, parishes.path().toStdString());
       sitting.registers().entries();
       sitting.registers().documents();
-      if (&edition != &all.front()) continue;
-      sitting.windows();
-      sitting.registers().others();
-      sitting.people();
-      sitting.copies();
-      sitting.otherDialogs();
+      if (&edition == &all.front()) everyWindow(sitting);
     }
   } catch (const std::exception& e) {
     album.miss("imágenes", e.what());

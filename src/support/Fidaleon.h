@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "core/contract/Entorno.h"
+#include "support/ErrorLog.h"
 
 namespace fidaleon::support {
 
@@ -13,7 +14,9 @@ namespace fidaleon::support {
 /// printed book asks for each once; make a new object for each procedure.
 class Fidaleon : public FDAPI::cFidaleon {
  public:
-  Fidaleon(forms::UserInterface& ui, Settings& settings, const Clock& clock);
+  /// `errors` keeps what it tells the user of; null keeps nothing. Not owned.
+  Fidaleon(forms::UserInterface& ui, Settings& settings, const Clock& clock,
+           ErrorLog* errors = nullptr);
 
   /// The message of the error being handled, and in small print where it happened.
   void vererror(const std::string& modulo, const std::string& objeto,
@@ -59,6 +62,7 @@ class Fidaleon : public FDAPI::cFidaleon {
   forms::UserInterface& ui_;
   Settings& settings_;
   const Clock& clock_;
+  ErrorLog* errors_;
   std::map<std::pair<const FDAPI::Conexion*, std::int32_t>, Place> places_;
 };
 

@@ -36,17 +36,20 @@ std::string textoFalta(const std::string& rotulo) {
   return "Falta rellenar el campo «" + caption + "».";
 }
 
-Fidaleon::Fidaleon(forms::UserInterface& ui, Settings& settings, const Clock& clock)
-    : ui_(ui), settings_(settings), clock_(clock) {}
+Fidaleon::Fidaleon(forms::UserInterface& ui, Settings& settings, const Clock& clock,
+                   ErrorLog* errors)
+    : ui_(ui), settings_(settings), clock_(clock), errors_(errors) {}
 
 void Fidaleon::vererror(const std::string& modulo, const std::string& objeto,
                         const std::string& procedimiento) {
+  if (errors_) errors_->note(clock_, modulo + " / " + objeto + " / " + procedimiento);
   ui_.msgBox(textoError(currentError(), modulo, objeto, procedimiento), forms::MsgButtons::Ok,
              forms::MsgIcon::Critical);
 }
 
 void Fidaleon::vererror(const std::string& mensaje) {
   const std::string cause = currentError();
+  if (errors_) errors_->note(clock_, "mensaje");
   ui_.msgBox(cause.empty() || cause == mensaje ? mensaje : mensaje + "\n\n" + cause,
              forms::MsgButtons::Ok, forms::MsgIcon::Critical);
 }

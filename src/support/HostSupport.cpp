@@ -21,7 +21,7 @@ HostSupport::HostSupport(forms::UserInterface& ui, Settings& settings, const Clo
       host_(host.empty() ? locks::hostName() : std::move(host)) {}
 
 std::unique_ptr<FDAPI::cFidaleon> HostSupport::create_cFidaleon() {
-  return std::make_unique<Fidaleon>(ui_, settings_, clock_);
+  return std::make_unique<Fidaleon>(ui_, settings_, clock_, &errors_);
 }
 
 std::unique_ptr<FDAPI::cIListas> HostSupport::create_cIListas() {

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "core/contract/Entorno.h"
+#include "support/ErrorLog.h"
 
 namespace fidaleon::support {
 
@@ -21,12 +22,16 @@ class HostSupport : public SupportFactory {
   std::unique_ptr<FDAPI::cProcesarBloqueos> create_cProcesarBloqueos() override;
   std::unique_ptr<FDAPI::cInformes> create_cInformes() override;
 
+  /// Those that its objects have told the user of.
+  ErrorLog& errors() { return errors_; }
+
  private:
   forms::UserInterface& ui_;
   Settings& settings_;
   const Clock& clock_;
   const FDAPI::cConfig& config_;
   std::string host_;
+  ErrorLog errors_;
 };
 
 }  // namespace fidaleon::support

@@ -52,9 +52,8 @@ QString reasonFor(const SafetyCopy& copy) {
   return copy.byHand() ? QObject::tr("Copia hecha a mano") : QString::fromStdString(copy.before);
 }
 
-CopiesDialog::CopiesDialog(std::vector<SafetyCopy> copies, const std::filesystem::path& directory,
-                           QWidget* parent)
-    : QDialog(parent), copies_(std::move(copies)), directory_(directory) {
+CopiesDialog::CopiesDialog(const SafetyCopies& copies, QWidget* parent)
+    : QDialog(parent), copies_(copies.list()), directory_(copies.directory()) {
   setWindowTitle(tr("Volver a una copia"));
   auto* layout = new QVBoxLayout(this);
   auto* intro = new QLabel(
@@ -66,7 +65,7 @@ CopiesDialog::CopiesDialog(std::vector<SafetyCopy> copies, const std::filesystem
                "a la que quiere volver: la parroquia quedará como estaba entonces.\n\n"
                "Se conservan las %1 últimas, y de las anteriores una por semana durante un año, "
                "mientras no ocupen más de %2 en total. Ahora ocupan %3.")
-                .arg(COPIES_KEPT)
+                .arg(copies.kept())
                 .arg(room(BYTES_KEPT))
                 .arg(room(bytesOf(copies_))),
       this);

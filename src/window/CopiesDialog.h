@@ -16,8 +16,7 @@ class CopiesDialog : public QDialog {
   Q_OBJECT
 
  public:
-  CopiesDialog(std::vector<SafetyCopy> copies, const std::filesystem::path& directory,
-               QWidget* parent = nullptr);
+  explicit CopiesDialog(const SafetyCopies& copies, QWidget* parent = nullptr);
   /// Set once the dialog has been accepted.
   const std::optional<SafetyCopy>& chosen() const { return chosen_; }
   QTableWidget& table() { return *table_; }

@@ -38,7 +38,7 @@ std::string whyUnusable(const SafetyCopy& copy, const store::Error& error) {
 
 bool CopyReturn::run() {
   if (!isAlone()) return false;
-  CopiesDialog dialog(copies_.list(), copies_.directory(), over_);
+  CopiesDialog dialog(copies_, over_);
   return dialog.exec() == QDialog::Accepted && to(*dialog.chosen());
 }
 

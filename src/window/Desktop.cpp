@@ -8,6 +8,8 @@
 #include <fstream>
 #include <map>
 
+#include "printing/Templates.h"
+#include "qt/Letters.h"
 #include "window/CarefulQuestion.h"
 #include "window/CopyReturn.h"
 #include "window/EditionQuestion.h"
@@ -39,11 +41,15 @@ bool knowsThatNobodyIsThere() {
 }  // namespace
 
 Desktop::Desktop()
-    : settings_(support::FileSettings::defaultFile(), [](const std::string& message) {
-        QMessageBox::warning(nullptr, "Fidaleon", QString::fromStdString(message));
-      }) {}
+    : settings_(support::FileSettings::defaultFile(),
+                [](const std::string& message) {
+                  QMessageBox::warning(nullptr, "Fidaleon", QString::fromStdString(message));
+                }),
+      help_(manualDirectory()) {}
 
 int Desktop::run(const std::filesystem::path& asked) {
+  qt::useLetters(
+      QString::fromStdString(readPreference(settings_, {}, Preference::LetterSize)).toInt());
   std::optional<ParishFiles> files = first(asked);
   while (files) {
     std::unique_ptr<Desk> desk = open(*files);
@@ -172,6 +178,7 @@ Departure Desktop::work(Desk& desk) {
   often.start(DRAFT_EVERY);
   if (!settleEdition(desk) || !desk.setUp()) return {};
   MainWindow window(desk, &watch_);
+  QObject::connect(&window, &MainWindow::helpWanted, &help_, &Help::open);
   window.show();
   QTimer::singleShot(0, &window, [&window] {
     window.offerDrafts();

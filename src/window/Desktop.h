@@ -12,6 +12,7 @@
 #include "support/FileSettings.h"
 #include "window/MainWindow.h"
 #include "window/ParishDoor.h"
+#include "window/help/Help.h"
 
 namespace fidaleon::app {
 
@@ -43,6 +44,7 @@ class Desktop {
   qt::QtUserInterface person_;
   DraftFolder drafts_{draftDirectory()};
   FormWatch watch_{person_, drafts_, clock_};
+  Help help_;
   bool returning_ = false;  // to a copy, before the parish is opened again
 };
 

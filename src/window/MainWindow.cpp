@@ -7,7 +7,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
-#include <QMessageBox>
 #include <QSplitter>
 #include <QStackedWidget>
 #include <QStatusBar>
@@ -21,11 +20,14 @@
 #include <chrono>
 
 #include "core/statements/Sentencia.h"
+#include "parish/Preferences.h"
 #include "parish/WindowSettings.h"
 #include "printing/DocumentReport.h"
 #include "qt/Appearance.h"
+#include "window/AboutDialog.h"
 #include "window/PreviewDialog.h"
 #include "window/TreeModel.h"
+#include "window/help/Help.h"
 
 namespace fidaleon::app {
 namespace {
@@ -52,7 +54,7 @@ MainWindow::MainWindow(Desk& desk, FormWatch* watch, QWidget* parent)
       desk_(desk),
       watch_(watch),
       door_(desk.entorno().settings, desk.entorno().clock),
-      copies_(desk.files().directory),
+      copies_(desk.files().directory, copiesKept(desk.entorno().settings, desk.config())),
       removals_(desk.parish()),
       daily_(desk, [this] { sayDamaged(); }),
       identity_(files::identityOf(desk.files().parish())),
@@ -105,6 +107,7 @@ void MainWindow::nodeChosen() {
   if (!chosen || chosen == node_) return;
   rememberColumns();
   node_ = chosen;
+  setProperty(Help::ABOUT, QString::fromStdString(node_->node.Nombre));
   filter_->clear();
   setScope(0, {});
   right_->setCurrentIndex(hasRows(node_->kind) ? 1 : 0);
@@ -168,10 +171,12 @@ void MainWindow::run(const Command& command) {
   try {
     carryOut(command, chosen);
   } catch (const store::Error& e) {
+    desk_.errors().note(desk_.entorno().clock, command.id);
     if (e.kind() == store::ErrorKind::NotADatabase) metDamage_ = isDamaged();
     if (!metDamage_)
       desk_.entorno().ui.msgBox(e.what(), forms::MsgButtons::Ok, forms::MsgIcon::Critical);
   } catch (const paper::Error& e) {
+    desk_.errors().note(desk_.entorno().clock, command.id);
     desk_.entorno().ui.msgBox(e.what(), forms::MsgButtons::Ok, forms::MsgIcon::Critical);
   }
   busy_ = false;
@@ -297,19 +302,18 @@ void MainWindow::focusFilter() {
   filter_->selectAll();
 }
 
+void MainWindow::help(const std::string& name) {
+  emit helpWanted(name.empty() ? Help::nameAt(this) : name);
+}
+
 void MainWindow::about() {
-  QMessageBox::about(
-      this, tr("Acerca de Fidaleon"),
-      tr("<b>Fidaleon</b><br>Registros sacramentales de la parroquia.<br><br>"
-         "Parroquia: %1<br>Edición: %2<br>Datos: %3")
-          .arg(QString::fromStdString(desk_.parishName()).toHtmlEscaped(),
-               QString::fromStdString(desk_.edition()).toHtmlEscaped(),
-               QString::fromStdString(desk_.files().parish().string()).toHtmlEscaped()));
+  AboutDialog(desk_, this).exec();
 }
 
 bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
   if (watched == table_->viewport() && event->type() == QEvent::Resize)
     empty_->setGeometry(table_->viewport()->rect());
+  if (watched == table_ && event->type() == QEvent::FontChange) fitRowHeight();
   if (event->type() != QEvent::KeyPress) return QMainWindow::eventFilter(watched, event);
   auto* key = static_cast<QKeyEvent*>(event);
   if (watched == filter_) {

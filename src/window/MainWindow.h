@@ -76,6 +76,10 @@ class MainWindow : public QMainWindow, private Workplace {
   /// Asks whether to go on with what was being typed when a program ended.
   void offerDrafts();
 
+ signals:
+  /// The user asks what the manual says under that name.
+  void helpWanted(const std::string& name);
+
  protected:
   void closeEvent(QCloseEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -94,7 +98,9 @@ class MainWindow : public QMainWindow, private Workplace {
   void returnToCopy() override;
   void readListAnew() override { renew(); }
   void importLegacy() override;
+  void help(const std::string& name) override;
   void about() override;
+  void preferences() override;
   void newParish() override;
   void openParish() override;
   void closeParish() override { depart({Departure::To::Start, {}}); }
@@ -105,6 +111,7 @@ class MainWindow : public QMainWindow, private Workplace {
 
   void buildTree();
   void buildList();
+  void fitRowHeight();
   void buildCommands();
   void buildStatusBar();
   void fillRecent();

@@ -11,6 +11,7 @@
 #include <QStatusBar>
 #include <QTableView>
 
+#include "parish/Preferences.h"
 #include "parish/WindowSettings.h"
 #include "store/Open.h"
 #include "store/SoundnessCheck.h"
@@ -26,7 +27,6 @@ namespace fidaleon::app {
 namespace {
 
 constexpr int PASSING_MS = 8000;
-constexpr const char* BACKUP_FOLDER = "copia.carpeta";
 
 /// "Eliminar en Partidas, Bautismo"
 std::string nameFor(const Command& command, const Choice& chosen) {
@@ -98,7 +98,8 @@ bool MainWindow::protect(const Command& command, const Choice& chosen,
 }
 
 void MainWindow::backUp() {
-  const std::string known = read(BACKUP_FOLDER);
+  const std::string known =
+      readPreference(desk_.entorno().settings, desk_.config(), Preference::CopiesFolder);
   QFileDialog dialog(this, tr("Copia de seguridad"),
                      known.empty() ? QDir::homePath() : QString::fromStdString(known),
                      tr("Copias (*.copia)"));
@@ -119,7 +120,12 @@ void MainWindow::backUp() {
     if (e.kind() == store::ErrorKind::Cancelled) return;
     throw;
   }
-  write(BACKUP_FOLDER, QFileInfo(file).absolutePath().toStdString());
+  try {
+    writePreference(desk_.entorno().settings, desk_.config(), Preference::CopiesFolder,
+                    QFileInfo(file).absolutePath().toStdString());
+  } catch (const std::runtime_error&) {
+    // The copy is made; that the folder is not proposed again is not worth a message.
+  }
   QMessageBox::information(this, tr("Copia de seguridad"),
                            tr("La copia se ha guardado y comprobado en «%1».").arg(file));
 }

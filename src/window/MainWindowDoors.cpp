@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "window/MainWindow.h"
+#include "window/PreferencesDialog.h"
 
 namespace fidaleon::app {
 
@@ -16,6 +17,14 @@ void MainWindow::newParish() {
 
 void MainWindow::openParish() {
   if (const auto directory = door_.choose(this)) depart({Departure::To::Parish, *directory});
+}
+
+void MainWindow::preferences() {
+  PreferencesDialog dialog(desk_, door_, this);
+  if (dialog.exec() != QDialog::Accepted) return;
+  copies_ =
+      SafetyCopies(desk_.files().directory, copiesKept(desk_.entorno().settings, desk_.config()));
+  if (dialog.reopens()) depart({Departure::To::Parish, *dialog.reopens()});
 }
 
 // Without the one that is open.

@@ -94,7 +94,7 @@ void MainWindow::buildList() {
   table_->setSortingEnabled(true);
   table_->setContextMenuPolicy(Qt::CustomContextMenu);
   table_->verticalHeader()->hide();
-  table_->verticalHeader()->setDefaultSectionSize(table_->fontMetrics().height() + 8);
+  fitRowHeight();
   table_->horizontalHeader()->setHighlightSections(false);
   table_->horizontalHeader()->setStretchLastSection(true);
   table_->horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
@@ -124,6 +124,10 @@ void MainWindow::buildList() {
           [this](const QPoint& at) { showContextMenu(at); });
 }
 
+void MainWindow::fitRowHeight() {
+  table_->verticalHeader()->setDefaultSectionSize(table_->fontMetrics().height() + 8);
+}
+
 void MainWindow::buildCommands() {
   const std::map<Menu, QMenu*> menus{{Menu::File, menuBar()->addMenu(tr("&Archivo"))},
                                      {Menu::Record, menuBar()->addMenu(tr("&Registro"))},
@@ -136,6 +140,7 @@ void MainWindow::buildCommands() {
   bar_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
   for (const Command& command : commands()) {
     auto* action = new QAction(QString::fromStdString(command.text), this);
+    action->setObjectName(QString::fromStdString(command.id));
     action->setIcon(icon(command.icon, palette()));
     const QKeySequence key(QString::fromStdString(command.shortcut));
     const QString tip = QString::fromStdString(command.tip);

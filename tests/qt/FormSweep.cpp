@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <map>
 
+#include "qt/Accessibility.h"
 #include "qt/FormDialog.h"
 #include "qt/Text.h"
 
@@ -74,20 +75,10 @@ class Sweep {
     const auto order = form_.tabOrder();
     if (std::count(order.begin(), order.end(), &control) != 1)
       found("«" + control.name() + "» does not stand once in the tab order");
-    if (!isNamed(control)) found("«" + control.name() + "» has no label and no accessible name");
-  }
-
-  bool isNamed(const Control& control) const {
-    if (auto* button = dynamic_cast<const Button*>(&control)) return !button->caption().empty();
-    if (auto* check = dynamic_cast<const CheckBox*>(&control)) return !check->caption().empty();
-    if (auto* option = dynamic_cast<const OptionButton*>(&control))
-      return !option->caption().empty();
-    if (auto* strip = dynamic_cast<const TabStrip*>(&control)) return strip->tabCount() > 0;
-    if (dynamic_cast<const Grid*>(&control)) return true;  // its headers name it
-    return !dialog_.fieldOf(control)->accessibleName().isEmpty();
   }
 
   void examineView() {
+    for (const std::string& control : namelessControls(dialog_)) found(control + " has no name");
     std::map<char32_t, std::string> letters;
     std::vector<const Control*> shown;
     for (Control* control : form_.controls()) {

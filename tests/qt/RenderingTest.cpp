@@ -23,7 +23,7 @@ TEST(Rendering, SweepOfAFaultyForm_NamesTheFaults) {
   form.Load();
   const auto problems = sweep(form);
   EXPECT_THAT(problems, Contains(HasSubstr("«txtPerdido» has no widget")));
-  EXPECT_THAT(problems, Contains(HasSubstr("«txtSinNombre» has no label")));
+  EXPECT_THAT(problems, Contains(HasSubstr("«txtSinNombre» has no name")));
   EXPECT_THAT(problems, Contains(HasSubstr("share a mnemonic")));
 }
 

@@ -1,10 +1,15 @@
 // Every dialog that a command opens, in a window of the smallest screen.
 
 #include <set>
+#include <sstream>
 
 #include "catalogue/Catalogue.h"
+#include "printing/Templates.h"
+#include "qt/Accessibility.h"
 #include "qt/FormSweep.h"
+#include "showroom/Pictures.h"
 #include "window/OpenWindow.h"
+#include "window/help/HelpTopics.h"
 
 namespace fidaleon::app::EveryFormTest {
 
@@ -12,8 +17,11 @@ namespace fidaleon::app::EveryFormTest {
 class Inspector : public forms::ScriptedUser {
  public:
   void showModal(forms::Form& form) override {
-    if (forms_.insert(form.name()).second)
+    if (forms_.insert(form.name()).second) {
       for (const std::string& problem : qt::sweep(form)) found.push_back(problem);
+      if (const auto place = helpPlace(form.name()); !place || !manual_.find(*place))
+        found.push_back(form.name() + " has no place in the manual");
+    }
     form.Abandon();
   }
   std::size_t seen() const { return forms_.size(); }
@@ -21,6 +29,7 @@ class Inspector : public forms::ScriptedUser {
 
  private:
   std::set<std::string> forms_;
+  Manual manual_{manualDirectory()};
 };
 
 TEST_F(ParishTest, EveryFormACommandOpens_PassesTheSweep) {
@@ -38,6 +47,19 @@ TEST_F(ParishTest, EveryFormACommandOpens_PassesTheSweep) {
   }
   EXPECT_THAT(inspector.found, IsEmpty());
   EXPECT_GE(inspector.seen(), 17u);
+}
+
+TEST(Windows, EveryControlThatTakesTheFocus_HasAName) {
+  std::ostringstream out;
+  std::vector<std::string> nameless;
+  EXPECT_TRUE(lookAtWindows(
+      [&](const std::string& picture, QWidget& window) {
+        for (const std::string& control : qt::namelessControls(window))
+          nameless.push_back(picture + ": " + control);
+      },
+      out))
+      << out.str();
+  EXPECT_THAT(nameless, IsEmpty());
 }
 
 }  // namespace fidaleon::app::EveryFormTest

@@ -14,12 +14,12 @@ std::chrono::sys_days mondayOf(const text::Date& d) {
 
 }  // namespace
 
-std::vector<std::size_t> superfluous(const std::vector<CopyFacts>& copies) {
+std::vector<std::size_t> superfluous(const std::vector<CopyFacts>& copies, std::size_t kept) {
   int weeks = 0;
   std::uintmax_t bytes = 0;
   std::vector<std::size_t> places;
   for (std::size_t i = 0; i < copies.size(); ++i) {
-    const bool recent = i < COPIES_KEPT;
+    const bool recent = i < kept;
     const bool ofItsWeek = !recent && mondayOf(copies[i - 1].day) != mondayOf(copies[i].day);
     const bool timely = recent || (ofItsWeek && ++weeks <= WEEKS_KEPT);
     const bool fits = i < COPIES_OF_ANY_SIZE || bytes + copies[i].bytes <= BYTES_KEPT;

@@ -123,7 +123,7 @@ void SafetyCopies::prune(const Moment& now) const {
   // What is still to be compressed may need no more room than there is.
   for (const SafetyCopy& copy : ours)
     facts.push_back({copy.moment.day, isPlain(copy) ? 0 : copy.bytes});
-  for (const std::size_t place : superfluous(facts)) remove(ours[place].file);
+  for (const std::size_t place : superfluous(facts, kept_)) remove(ours[place].file);
   removeRests(now.day);
 }
 

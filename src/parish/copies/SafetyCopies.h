@@ -7,6 +7,7 @@
 
 #include "files/Compressed.h"
 #include "parish/copies/CopyName.h"
+#include "parish/copies/CopyRetention.h"
 #include "store/Connection.h"
 #include "store/Progress.h"
 
@@ -28,10 +29,13 @@ struct SafetyCopy {
 /// removed or compressed; any other file is left alone.
 class SafetyCopies {
  public:
-  explicit SafetyCopies(const std::filesystem::path& parishDirectory)
-      : directory_(parishDirectory / "copias") {}
+  /// `kept`: how many of the newest stay (CopyRetention).
+  explicit SafetyCopies(const std::filesystem::path& parishDirectory,
+                        std::size_t kept = COPIES_KEPT)
+      : directory_(parishDirectory / "copias"), kept_(kept) {}
 
   const std::filesystem::path& directory() const { return directory_; }
+  std::size_t kept() const { return kept_; }
 
   /// A verified copy under a name of its own, flushed to the disk. Throws store::Error that says
   /// why there is none; nothing is left behind then.
@@ -58,6 +62,7 @@ class SafetyCopies {
   void removeRests(const text::Date& today) const;
 
   std::filesystem::path directory_;
+  std::size_t kept_;
 };
 
 }  // namespace fidaleon::app

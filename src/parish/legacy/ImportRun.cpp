@@ -1,6 +1,7 @@
 #include "parish/legacy/ImportRun.h"
 
 #include "core/statements/Citas.h"
+#include "parish/Preferences.h"
 #include "parish/copies/Precaution.h"
 #include "text/Numbers.h"
 #include "text/Utf8.h"
@@ -60,7 +61,8 @@ void import(Desk& desk, const ImportOrder& order, FDAPI::cProgreso& progress,
 
 ResultadoImportacion runImport(Desk& desk, const ImportOrder& order, FDAPI::cProgreso& progress,
                                const FDAPI::ColEtiqueta& labels) {
-  const SafetyCopies copies(desk.files().directory);
+  const SafetyCopies copies(desk.files().directory,
+                            copiesKept(desk.entorno().settings, desk.config()));
   const auto there = desk.presence().alone("está trayendo los datos del programa anterior", [&] {
     std::optional<Precaution> copy;
     if (!order.trial)
