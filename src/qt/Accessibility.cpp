@@ -3,6 +3,7 @@
 #include <QAccessible>
 #include <QAccessibleInterface>
 #include <QMetaEnum>
+#include <QToolButton>
 
 namespace fidaleon::qt {
 namespace {
@@ -38,6 +39,13 @@ std::vector<std::string> namelessControls(QWidget& window) {
   // The window itself is called by its title.
   for (int i = 0; root && i < root->childCount(); ++i) walk(root->child(i), found);
   return found;
+}
+
+void nameClearButton(QLineEdit& field, const QString& name) {
+  for (auto* button : field.findChildren<QToolButton*>()) {
+    button->setAccessibleName(name);
+    button->setToolTip(name);
+  }
 }
 
 }  // namespace fidaleon::qt

@@ -108,6 +108,7 @@ void MainWindow::nodeChosen() {
   rememberColumns();
   node_ = chosen;
   setProperty(Help::ABOUT, QString::fromStdString(node_->node.Nombre));
+  table_->setAccessibleName(QString::fromStdString(node_->node.Path).replace('\\', ", "));
   filter_->clear();
   setScope(0, {});
   right_->setCurrentIndex(hasRows(node_->kind) ? 1 : 0);

@@ -16,6 +16,7 @@
 #include <QVBoxLayout>
 
 #include "locks/Reach.h"
+#include "qt/Accessibility.h"
 #include "window/Icons.h"
 #include "window/MainWindow.h"
 #include "window/TreeModel.h"
@@ -68,6 +69,7 @@ void MainWindow::buildList() {
       tr("Filtrar: escriba parte de un nombre, un apellido, una fecha…  (Ctrl+F)"));
   filter_->setClearButtonEnabled(true);
   filter_->setAccessibleName(tr("Filtro"));
+  qt::nameClearButton(*filter_, tr("Vaciar el filtro"));
   filter_->installEventFilter(this);
   scope_ = new QToolButton(page);
   scope_->setObjectName("scope");
@@ -82,6 +84,7 @@ void MainWindow::buildList() {
 
   shown_.setSourceModel(&rows_);
   table_ = new QTableView(page);
+  table_->setAccessibleName(tr("Lista"));
   table_->setModel(&shown_);
   table_->setSelectionBehavior(QAbstractItemView::SelectRows);
   table_->setSelectionMode(QAbstractItemView::SingleSelection);

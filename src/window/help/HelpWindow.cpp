@@ -20,6 +20,7 @@
 #include <QVBoxLayout>
 #include <chrono>
 
+#include "qt/Accessibility.h"
 #include "qt/Appearance.h"
 #include "window/Icons.h"
 #include "window/help/HelpPage.h"
@@ -147,6 +148,7 @@ QToolBar* HelpWindow::buildBar() {
   search_->setPlaceholderText(tr("Buscar en todo el manual  (Ctrl+F)"));
   search_->setAccessibleName(tr("Buscar en el manual"));
   search_->setClearButtonEnabled(true);
+  qt::nameClearButton(*search_, tr("Vaciar la búsqueda"));
   search_->installEventFilter(this);
   auto* pause = new QTimer(this);
   pause->setSingleShot(true);

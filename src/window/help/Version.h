@@ -18,6 +18,7 @@ inline constexpr Library LIBRARIES[] = {
     {"libpq", "PostgreSQL", "la parroquia en un servidor"},
     {"ICU", "Unicode-3.0", "el orden y las letras del español"},
     {"Zstandard", "BSD-3-Clause", "copias comprimidas"},
+    {"qpdf", "Apache-2.0", "documentos para archivar"},
     {"libzip", "BSD-3-Clause", "hojas de cálculo"},
     {"JSON for Modern C++", "MIT", "ficheros de datos"},
     {"Linux Libertine", "OFL-1.1", "letra de los documentos"},
