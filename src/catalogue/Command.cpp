@@ -61,7 +61,7 @@ void deleteRequest(Workplace& w, const Choice& c) {
     w.nucleo().EliminarSolicitud(w.parish(), c.id, w.config(), nodeName(c));
 }
 void moveRequests(Workplace& w, const Choice& c) {
-  w.nucleo().ImportarSolicitudes(w.parish(), w.config(), nodeName(c));
+  w.nucleo().ImportarSolicitudes(w.parish(), w.config(), nodeName(c), c.id);
 }
 
 void openBook(Workplace& w, const Choice& c) {
@@ -249,6 +249,9 @@ void addWindowCommands(std::vector<Command>& all) {
   const auto add = [&](Menu menu, Command c) { all.push_back(inMenu(menu, std::move(c))); };
   add(Menu::View, still(line("actualizar", "&Actualizar", "F5", "Vuelve a leer la lista", 0,
                              Needs::List, [](Workplace& w, const Choice&) { w.readListAnew(); })));
+  add(Menu::View,
+      still(line("columnas", "&Columnas…", "", "Elige qué columnas se ven en la lista", 0,
+                 Needs::List, [](Workplace& w, const Choice&) { w.chooseColumns(); })));
   add(Menu::View,
       still(line("filtrar", "&Filtrar", "Ctrl+F", "Busca en la lista según se escribe", 0,
                  Needs::Nothing, [](Workplace& w, const Choice&) { w.focusFilter(); })));

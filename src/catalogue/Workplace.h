@@ -38,6 +38,8 @@ class Workplace {
   virtual void showListReport(const ListReport& report, Extent extent) = 0;
   virtual void focusFilter() = 0;
   virtual void readListAnew() = 0;
+  /// Lets the user choose the columns of the list.
+  virtual void chooseColumns() = 0;
   /// Chooses the node of that name.
   virtual void showNode(const std::string& name) = 0;
   /// Chooses the entries of that book.

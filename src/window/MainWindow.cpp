@@ -337,25 +337,6 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
   return QMainWindow::eventFilter(watched, event);
 }
 
-void MainWindow::applyColumns() {
-  if (node_->columns.empty()) return;
-  QHeaderView* header = table_->horizontalHeader();
-  const std::string state = read("columnas." + node_->node.Nombre);
-  if (state.empty() || !header->restoreState(QByteArray::fromBase64(state.c_str()))) {
-    header->setSortIndicator(-1, Qt::AscendingOrder);
-    const int letter = table_->fontMetrics().averageCharWidth();
-    for (std::size_t c = 0; c < node_->columns.size(); ++c)
-      table_->setColumnWidth(static_cast<int>(c), node_->columns[c].chars * letter + 24);
-  }
-  shown_.sort(header->sortIndicatorSection(), header->sortIndicatorOrder());
-}
-
-void MainWindow::rememberColumns() {
-  if (!node_ || node_->columns.empty()) return;
-  write("columnas." + node_->node.Nombre,
-        table_->horizontalHeader()->saveState().toBase64().toStdString());
-}
-
 std::string MainWindow::read(const std::string& key) const {
   return readWindowSetting(desk_, key);
 }

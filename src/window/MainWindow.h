@@ -97,6 +97,7 @@ class MainWindow : public QMainWindow, private Workplace {
   void backUp() override;
   void returnToCopy() override;
   void readListAnew() override { renew(); }
+  void chooseColumns() override;
   void importLegacy() override;
   void help(const std::string& name) override;
   void about() override;
@@ -158,6 +159,7 @@ class MainWindow : public QMainWindow, private Workplace {
   void openChosen();
   void filterChanged();
   void applyColumns();
+  void showColumnsAsAtFirst();
   void rememberColumns();
   std::string read(const std::string& key) const;
   void write(const std::string& key, const std::string& value);

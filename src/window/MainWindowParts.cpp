@@ -102,6 +102,9 @@ void MainWindow::buildList() {
   table_->horizontalHeader()->setStretchLastSection(true);
   table_->horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
   table_->horizontalHeader()->setSortIndicatorClearable(true);
+  table_->horizontalHeader()->setContextMenuPolicy(Qt::CustomContextMenu);
+  connect(table_->horizontalHeader(), &QWidget::customContextMenuRequested, this,
+          [this] { actions_.at("columnas")->trigger(); });
   table_->installEventFilter(this);
   table_->viewport()->installEventFilter(this);
   layout->addWidget(table_);

@@ -62,9 +62,10 @@ class cNucleo {
   /// Deletes without asking.
   void EliminarSolicitud(FDAPI::Conexion& conBaseDatos, std::int32_t lngID,
                          const FDAPI::cConfig& objConfig, const std::string& strNodo);
-  /// Moves requests into the open new book of an institution; says so when there are none.
+  /// Moves requests into the open new book of an institution; says so when there are none, and
+  /// where they stand afterwards. `lngElegida` is the request that is offered first; 0 for none.
   void ImportarSolicitudes(FDAPI::Conexion& conBaseDatos, const FDAPI::cConfig& objConfig,
-                           const std::string& strNodo);
+                           const std::string& strNodo, std::int32_t lngElegida = 0);
 
   // Books
   void NuevoLibro(FDAPI::Conexion& conBaseDatos, const FDAPI::cConfig& objConfig,

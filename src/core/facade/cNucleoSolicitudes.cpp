@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "core/facade/Operacion.h"
 #include "core/facade/cNucleo.h"
 #include "core/statements/Sentencia.h"
@@ -14,6 +16,21 @@ namespace {
 /// Null for a node whose sacrament has no requests.
 const OrigenSolicitudes* solicitudesDeNodo(const std::string& strNodo) {
   return origenSolicitudes(sacramentoDeNodo(strNodo, "Solicitudes"));
+}
+
+constexpr std::size_t MOST_TOLD = 25;
+
+/// The place is written on the paper of the request, or said to the family that waits.
+void contarPasadas(forms::UserInterface& ui, const std::vector<frmSolicitudes::Pasada>& pasadas) {
+  if (pasadas.empty()) return;
+  std::string texto = pasadas.size() == 1 ? "Ya está en el libro:\n" : "Ya están en el libro:\n";
+  for (std::size_t i = 0; i < std::min(pasadas.size(), MOST_TOLD); ++i)
+    texto += "\n" + pasadas[i].quien + ": folio " + std::to_string(pasadas[i].folio) + ", número " +
+             pasadas[i].numero;
+  if (pasadas.size() > MOST_TOLD)
+    texto += "\n\ny otras " + std::to_string(pasadas.size() - MOST_TOLD) +
+             ", que puede ver en las partidas del libro.";
+  ui.msgBox(texto, forms::MsgButtons::Ok, forms::MsgIcon::Information);
 }
 
 }  // namespace
@@ -58,23 +75,29 @@ void cNucleo::EliminarSolicitud(FDAPI::Conexion& conBaseDatos, std::int32_t lngI
 }
 
 void cNucleo::ImportarSolicitudes(FDAPI::Conexion& conBaseDatos, const FDAPI::cConfig& objConfig,
-                                  const std::string& strNodo) {
+                                  const std::string& strNodo, std::int32_t lngElegida) {
   operacion(contexto_, "ImportarSolicitudes", [&] {
     InicializaConfiguracion(objConfig);
     const OrigenSolicitudes* origen = solicitudesDeNodo(strNodo);
     if (!origen) return;
-    SesionBloqueos sesion(contexto_, conBaseDatos);
-    sesion.tablasCompartidas({"Institucion"});
-    if (!sesion.efectuar()) return;
-    if (conBaseDatos
-            .Execute(sentencia(origen->sacramento,
-                               "SELECT {IDPartida} FROM {Partidas} WHERE CodLibro = 0"))
-            .RecordCount() == 0)
-      return forms::warn(contexto_.ui(), "¡No hay solicitudes para importar!");
-    frmSolicitudes dialogo(contexto_);
-    dialogo.conBaseDatos = &conBaseDatos;
-    dialogo.Origen = origen->origen;
-    dialogo.Show();
+    std::vector<frmSolicitudes::Pasada> pasadas;
+    {
+      SesionBloqueos sesion(contexto_, conBaseDatos);
+      sesion.tablasCompartidas({"Institucion"});
+      if (!sesion.efectuar()) return;
+      if (conBaseDatos
+              .Execute(sentencia(origen->sacramento,
+                                 "SELECT {IDPartida} FROM {Partidas} WHERE CodLibro = 0"))
+              .RecordCount() == 0)
+        return forms::warn(contexto_.ui(), "¡No hay solicitudes para importar!");
+      frmSolicitudes dialogo(contexto_);
+      dialogo.conBaseDatos = &conBaseDatos;
+      dialogo.Origen = origen->origen;
+      dialogo.elegida = lngElegida;
+      dialogo.Show();
+      pasadas = std::move(dialogo.pasadas);
+    }
+    contarPasadas(contexto_.ui(), pasadas);
   });
 }
 

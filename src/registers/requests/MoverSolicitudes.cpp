@@ -82,6 +82,7 @@ bool frmSolicitudes::pasar(std::int64_t solicitud, const Libro& libro) {
   conBaseDatos->Execute(sentencia("UPDATE {Partidas} SET InstitucionSolicitud = 0, CodLibro = ") +
                         id + ", Folio = " + std::to_string(lngFolio_) + ", Numero = " +
                         entreComillas(strNumero_) + sentencia(" WHERE {IDPartida} = ") + clave);
+  pasadas.push_back({lstSolicitudes[SELECCIONADOS].list(0), lngFolio_, strNumero_});
   return true;
 }
 

@@ -61,7 +61,17 @@ void frmSolicitudes::Form_Load() {
     contexto_.entorno.support.create_cIListas()->fillInstituciones(cboInstitucion, 0,
                                                                    *conBaseDatos);
   });
-  if (!cargado) Unload();
+  if (!cargado) return Unload();
+  if (elegida != 0) procedimiento("Form_Load", [this] { elegirSolicitud(); });
+}
+
+void frmSolicitudes::elegirSolicitud() {
+  const store::Recordset fila = conBaseDatos->Execute(
+      sentencia(
+          "SELECT InstitucionSolicitud FROM {Partidas} WHERE CodLibro = 0 AND {IDPartida} = ") +
+      std::to_string(elegida));
+  if (fila.EOF_() || !cboInstitucion.selectData(fila.integer("InstitucionSolicitud"))) return;
+  if (cboInstitucion.listIndex() >= 0) mstSolicitudes.setTab(1);
 }
 
 void frmSolicitudes::cboInstitucion_Click() {
@@ -89,7 +99,7 @@ void frmSolicitudes::listarSolicitudes() {
         nombrePartida(*conBaseDatos, origen_->sacramento, id, origen_->entrePersonas);
     todas.push_back({id, quien.empty() ? "Solicitud " + std::to_string(id) : quien});
   }
-  listas_.llenar(std::move(todas));
+  listas_.llenar(std::move(todas), {elegida});
 }
 
 void frmSolicitudes::rechazarInstitucion(const char* mensaje) {

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 #include "core/dialogs/Dialogo.h"
 #include "core/lists/ListaDoble.h"
@@ -22,6 +23,17 @@ class frmSolicitudes : public Dialogo {
   FDAPI::Conexion* conBaseDatos = nullptr;
   /// LISTAPARTIDASBAUTISMO and its like: names the sacrament.
   FDAPI::cCOrigen Origen{};
+  /// The request that stands chosen from the beginning, with its institution; 0 for none.
+  std::int32_t elegida = 0;
+
+  /// Whose request has been moved, and where it stands in the book.
+  struct Pasada {
+    std::string quien;
+    std::int64_t folio;
+    std::string numero;
+  };
+  /// In the order in which they were moved.
+  std::vector<Pasada> pasadas;
 
   forms::TabStrip mstSolicitudes;
   forms::ComboBox cboInstitucion;
@@ -42,6 +54,7 @@ class frmSolicitudes : public Dialogo {
     std::string codFormato;
   };
   void prepararControles();
+  void elegirSolicitud();
   void cboInstitucion_Click();
   void listarSolicitudes();
   void rechazarInstitucion(const char* mensaje);

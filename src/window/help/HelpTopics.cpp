@@ -129,6 +129,7 @@ constexpr Topic TOPICS[] = {
     {"volante", DOCUMENTS, ""},
     {"datos", DOCUMENTS, "La solicitud de confirmación"},
     {"filtrar", START, "La ventana"},
+    {"columnas", START, "La ventana"},
     {"actualizar", START, "El teclado"},
     {"acerca-de", PROGRAM, "Pedir ayuda a alguien"},
     {"primeros-pasos", Manual::FIRST_STEPS, ""},
