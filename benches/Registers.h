@@ -49,7 +49,7 @@ class FilledRegister {
     if (c.name == "CodLibro") return "1 + (n - 1) / " + perBook_;
     if (c.name == "Folio") return "1 + " + place;
     if (c.name == "Numero") return "CAST(1 + " + place + " AS TEXT)";
-    if (c.name.starts_with("Fecha")) return "CAST(19000101 + n % 900000 AS TEXT)";
+    if (c.name.starts_with("Fecha")) return "CAST(19000101 + n * 7919 % 1200000 AS TEXT)";
     if (c.name.find("Apellido") != std::string::npos)
       return "char(65 + n * 7 % 26) || 'a' || char(97 + n * 11 % 26) || 'ez'";
     for (const FilaDePartida& row : form_.filas)

@@ -3,8 +3,11 @@
 
 #include "benches/Baptisms.h"
 #include "benches/Bench.h"
+#include "benches/Folder.h"
+#include "benches/Registers.h"
 #include "documents/BautismoColumns.h"
 #include "documents/BautismoStatements.h"
+#include "documents/Duplicada.h"
 #include "documents/cInformes.h"
 #include "forms/ScriptedUser.h"
 #include "store/Open.h"
@@ -72,9 +75,23 @@ double statementsOnly(Parish& parish) {
   });
 }
 
+/// A year of 100,000 entries in books of 1,000, read as its duplicate reads them.
+void years() {
+  bench::Folder folder;
+  const auto con = store::createDatabase(folder / "parroquia.fidaleon", store::parishSchema());
+  con->Execute("INSERT INTO Institucion (Nombre) VALUES (\"San Pedro\")");
+  for (const documents::Duplicada& d : documents::duplicadas()) {
+    bench::FilledRegister(*con, *formaPartida(d.sacramento), 100000, 1000);
+    const std::string statement = d.sentencia(1961, 1) + d.ordenes[0].sql;
+    bench::within(std::string("un año de 100.000: ") + d.sacramento.palabra,
+                  bench::milliseconds(5, [&] { con->Execute(statement).RecordCount(); }), 10);
+  }
+}
+
 }  // namespace
 
 int main() {
+  years();
   constexpr int LITTLE = 1000;
   constexpr int MUCH = 50000;
   Parish little(LITTLE);

@@ -49,6 +49,9 @@ class Spelling {
   virtual std::string createTable(const Table& table) const = 0;
   virtual std::string addColumn(const Table& table, const Column& column) const = 0;
   virtual std::string createIndex(const Table& table, const Index& index) const = 0;
+  /// Statements, each with its semicolon, that tell the engine the figures of all indexes in place
+  /// of those it was told before. Empty for one that gathers its own.
+  virtual std::string tellFigures(const Schema& schema) const { return (void)schema, ""; }
   /// The values of a column that an index begins with, each once and in order.
   virtual std::string distinct(const Table& table, const Column& column) const = 0;
   /// Asks for the highest key that the counter of the table has ever given.

@@ -8,6 +8,7 @@
 #include <unicode/utf8.h>
 
 #include <algorithm>
+#include <array>
 #include <stdexcept>
 
 namespace fidaleon::text {
@@ -161,8 +162,43 @@ std::string replaceAll(std::string_view s, std::string_view what, std::string_vi
   return out.append(s, from);
 }
 
+namespace {
+
+/// The order of a letter without accent, a digit, a blank or the end of a text among each other,
+/// whatever the case; -1 for any other byte.
+constexpr std::array<signed char, 256> PLAIN = [] {
+  std::array<signed char, 256> order{};
+  order.fill(-1);
+  order[' '] = 1;
+  for (int c = '0'; c <= '9'; ++c) order[static_cast<std::size_t>(c)] = static_cast<signed char>(c);
+  for (int c = 'a'; c <= 'z'; ++c)
+    order[static_cast<std::size_t>(c)] = order[static_cast<std::size_t>(c - 'a' + 'A')] =
+        static_cast<signed char>(c);
+  return order;
+}();
+
+int plain(std::string_view s, std::size_t at) {
+  return at < s.size() ? PLAIN[static_cast<unsigned char>(s[at])] : 0;
+}
+
+/// What a letter is may depend on what follows it, as with an accent of its own.
+bool standsAlone(std::string_view s, std::size_t at) {
+  return at + 1 >= s.size() || static_cast<unsigned char>(s[at + 1]) < 0x80;
+}
+
+}  // namespace
+
 int compare(std::string_view a, std::string_view b) {
-  if (a == b) return 0;
+  // Most texts differ first in plain letters or digits, and where they do the rest has no say.
+  for (std::size_t i = 0;; ++i) {
+    const int of = plain(a, i);
+    const int other = plain(b, i);
+    if (of == 0 && other == 0) return 0;
+    if (of == other && of > 0) continue;
+    if (of < 0 && other < 0 && a[i] == b[i]) continue;
+    if (of < 0 || other < 0 || !standsAlone(a, i) || !standsAlone(b, i)) break;
+    return of - other;
+  }
   UErrorCode status = U_ZERO_ERROR;
   return ucol_strcollUTF8(spanish(), a.data(), static_cast<std::int32_t>(a.size()), b.data(),
                           static_cast<std::int32_t>(b.size()), &status);

@@ -26,10 +26,12 @@ Table entry() {
               "ParroquiaDomicilioMadrina", "ProfesionPadrino", "NaturalPadrino", "EstatPadrino",
               "ProfesionMadrina", "NaturalMadrina", "EstatMadrina", "MinistroCargo"})
       .index({"CodLibro", "Folio", "Val(Numero)"})
+      .figures({100000, 5000, 4, 1})
       .index({"CodPadres"})
       .index({"CodMadres"})
       .index({"CodMatrimonio"})
-      .index({"FechaBautismo"});
+      .index({"FechaBautismo"})
+      .figures({100000, 200});
   return table;
 }
 

@@ -17,7 +17,9 @@ Table book(const std::string& sacrament) {
       .yesNos({"Nuevo", "Cerrado"})
       .texts({"NumeroSiguiente"})
       .longs({"FolioSiguiente"})
-      .index({"CodInstitucion", "Nombre"});
+      .index({"CodInstitucion", "Nombre"})
+      .from(5)
+      .index({"FechaCreacion"});
   return table;
 }
 

@@ -20,12 +20,16 @@ void addConfirmation(std::vector<Table>& tables) {
                        .texts({"Numero"})
                        .yesNos({"Anulada"})
                        .index({"CodLibro", "Folio", "Val(Numero)"})
+                       .figures({1000000, 1000, 4, 1})
                        .index({"PrimerApellido", "SegundoApellido", "Nombre"}));
   tables.push_back(Table("Confirmacion_Datos")
                        .belongsTo("Confirmacion", "CodConfirmacion")
                        .add(Type::Text, {"FechaConfirmacion"}, 10)
                        .texts({"Padrino", "Ministro", "CargoMinistro"})
-                       .key({"CodConfirmacion"}, false));
+                       .key({"CodConfirmacion"}, false)
+                       .from(5)
+                       .index({"FechaConfirmacion"})
+                       .figures({100000, 200}));
   tables.push_back(Table("Confirmacion_Bautismo")
                        .belongsTo("Confirmacion", "CodConfirmacion")
                        .add(Type::Text, {"FechaBaut"}, 10)

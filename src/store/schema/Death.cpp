@@ -22,6 +22,7 @@ void addDeath(std::vector<Table>& tables) {
                        .yesNos({"Anulada"})
                        .texts({"Parroco"})
                        .index({"CodLibro", "Folio", "Val(Numero)"})
+                       .figures({1000000, 1000, 4, 1})
                        .index({"PrimerApellido", "SegundoApellido", "Nombre"}));
   tables.push_back(Table("Defuncion_Datos")
                        .belongsTo("Defuncion", "CodDifunto")
@@ -33,7 +34,10 @@ void addDeath(std::vector<Table>& tables) {
                        .texts({"Cementerio", "Sacramentos", "Sacerdote", "NombreContacto",
                                "PrimerApellidoContacto", "SegundoApellidoContacto", "EmailContacto",
                                "TelefonoContacto", "RelacionDifunto"})
-                       .key({"CodDifunto"}, false));
+                       .key({"CodDifunto"}, false)
+                       .from(5)
+                       .index({"FechaDefuncion"})
+                       .figures({100000, 200}));
 }
 
 }  // namespace fidaleon::store

@@ -146,6 +146,8 @@ void Installer::addSince(int version) {
       if (isNew || index.since > version) engine_.run(spell.createIndex(table, index));
     }
   }
+  if (const std::string figures = spell.tellFigures(schema_); !figures.empty())
+    engine_.run(figures);
 }
 
 void Installer::addRows(const Table& table) {

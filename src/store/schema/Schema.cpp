@@ -69,6 +69,11 @@ Table& Table::index(std::initializer_list<const char*> columns, bool unique) {
   return *this;
 }
 
+Table& Table::figures(std::initializer_list<int> rows) {
+  indexes_.back().figures = rows;
+  return *this;
+}
+
 Table& Table::indexMarked(const char* mark, const char* column) {
   indexes_.push_back(Index{{column}, false, version_, mark});
   return *this;

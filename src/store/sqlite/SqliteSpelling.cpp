@@ -79,20 +79,44 @@ std::string SqliteSpelling::addColumn(const Table& table, const Column& column) 
   return "ALTER TABLE " + name(table.name()) + " ADD COLUMN " + definition(table, column);
 }
 
-std::string SqliteSpelling::createIndex(const Table& table, const Index& index) const {
+namespace {
+
+std::string label(const Table& table, const Index& index) {
   std::string label = table.name();
+  for (const std::string& entry : index.columns) label += "_" + entry;
+  return index.only.empty() ? label : label + "_" + index.only;
+}
+
+}  // namespace
+
+std::string SqliteSpelling::createIndex(const Table& table, const Index& index) const {
   std::string columns;
   for (const std::string& entry : index.columns) {
-    label += "_" + entry;
     const bool expression = entry.starts_with("Val(");
     const std::string column = expression ? entry.substr(4, entry.size() - 5) : entry;
     columns += columns.empty() ? "" : ", ";
     columns += expression ? "val(" + name(column) + ")" : name(column);
   }
-  if (!index.only.empty()) label += "_" + index.only;
-  return std::string("CREATE ") + (index.unique ? "UNIQUE " : "") + "INDEX " + name(label) +
-         " ON " + name(table.name()) + " (" + columns + ")" +
+  return std::string("CREATE ") + (index.unique ? "UNIQUE " : "") + "INDEX " +
+         name(label(table, index)) + " ON " + name(table.name()) + " (" + columns + ")" +
          (index.only.empty() ? "" : " WHERE " + name(index.only) + " = -1");
+}
+
+std::string SqliteSpelling::tellFigures(const Schema& schema) const {
+  std::string rows;
+  for (const Table& table : schema.tables())
+    for (const Index& index : table.indexes()) {
+      if (index.figures.empty()) continue;
+      std::string figures;
+      for (const int n : index.figures) figures += (figures.empty() ? "" : " ") + std::to_string(n);
+      rows += (rows.empty() ? "" : ", ") + std::string("(") + text(table.name()) + ", " +
+              text(label(table, index)) + ", " + text(figures) + ")";
+    }
+  if (rows.empty()) return {};
+  // The first makes the table where there is none, the last has it read.
+  return "ANALYZE sqlite_schema; DELETE FROM sqlite_stat1; INSERT INTO sqlite_stat1 (tbl, idx, "
+         "stat) VALUES " +
+         rows + "; ANALYZE sqlite_schema;";
 }
 
 std::string SqliteSpelling::distinct(const Table& table, const Column& column) const {

@@ -17,6 +17,7 @@ class SqliteSpelling : public Spelling {
   std::string createTable(const Table& table) const override;
   std::string addColumn(const Table& table, const Column& column) const override;
   std::string createIndex(const Table& table, const Index& index) const override;
+  std::string tellFigures(const Schema& schema) const override;
   std::string distinct(const Table& table, const Column& column) const override;
   std::string lastKey(const Table& table) const override;
   std::string keepKeysAfter(const Table& table, std::int64_t key) const override;
