@@ -8,47 +8,216 @@
 namespace fidaleon::app {
 
 void RowsFilter::setSourceModel(QAbstractItemModel* rows) {
-  QSortFilterProxyModel::setSourceModel(rows);
+  beginResetModel();
+  QAbstractProxyModel::setSourceModel(rows);
   connect(rows, &QAbstractItemModel::modelAboutToBeReset, this, [this] {
+    beginResetModel();
     for (Word& word : words_) word.known.clear();
   });
+  connect(rows, &QAbstractItemModel::modelReset, this, [this] {
+    choose();
+    endResetModel();
+  });
+  connect(rows, &QAbstractItemModel::rowsInserted, this,
+          [this](const QModelIndex&, int first, int last) { rowsCame(first, last); });
+  connect(rows, &QAbstractItemModel::rowsAboutToBeRemoved, this,
+          [this](const QModelIndex&, int first, int last) {
+            for (int row = first; row <= last; ++row) hide(row);
+          });
+  connect(rows, &QAbstractItemModel::rowsRemoved, this,
+          [this](const QModelIndex&, int first, int last) { rowsWent(first, last); });
+  connect(rows, &QAbstractItemModel::dataChanged, this,
+          [this](const QModelIndex& first, const QModelIndex& last) {
+            rowsChanged(first.row(), last.row());
+          });
+  choose();
+  endResetModel();
 }
 
-// Both drop the order of rows and make it anew: taking rows out one by one is slow where many
-// thousands go.
 void RowsFilter::setText(const QString& text) {
   words_.clear();
   std::istringstream in(text::searchKey(text.toStdString()));
   for (std::string word; in >> word;) words_.push_back({word});
-  invalidate();
+  arrange();
 }
 
 void RowsFilter::setGroup(std::int32_t group) {
   if (group == group_) return;
   group_ = group;
-  invalidate();
+  arrange();
 }
 
 void RowsFilter::sort(int column, Qt::SortOrder order) {
   column_ = column;
   order_ = order;
-  QSortFilterProxyModel::sort(sourceModel() && rows().isFilling() ? -1 : column, order);
+  sorted_ = sourceModel() && rows().isFilling() ? -1 : column;
+  arrange();
 }
 
 bool RowsFilter::sortIfRead() {
-  if (column_ == sortColumn() && order_ == sortOrder()) return false;
+  if (column_ == sorted_) return false;
   sort(column_, order_);
-  return column_ == sortColumn();
+  return column_ == sorted_;
 }
 
-bool RowsFilter::filterAcceptsRow(int row, const QModelIndex&) const {
+bool RowsFilter::accepts(int row) const {
   if (group_ != 0 && rows().group(row) != group_) return false;
   return std::all_of(words_.begin(), words_.end(),
                      [&](Word& word) { return rows().holds(row, word.text, word.known); });
 }
 
-bool RowsFilter::lessThan(const QModelIndex& left, const QModelIndex& right) const {
-  return rows().isBefore(left.row(), right.row(), left.column());
+bool RowsFilter::isBefore(int row, int other) const {
+  if (sorted_ >= 0) {
+    const bool up = order_ == Qt::AscendingOrder;
+    if (rows().isBefore(row, other, sorted_)) return up;
+    if (rows().isBefore(other, row, sorted_)) return !up;
+  }
+  return row < other;
+}
+
+void RowsFilter::choose() {
+  shown_.clear();
+  const int count = sourceModel() ? rows().rowCount() : 0;
+  for (int row = 0; row < count; ++row)
+    if (accepts(row)) shown_.push_back(row);
+  if (sorted_ >= columnCount()) sorted_ = -1;
+  if (sorted_ >= 0 && !shown_.empty()) putInOrder();
+  number();
+}
+
+// The rows are dealt out to their ranks: comparing them with each other is slow where there are
+// very many.
+void RowsFilter::putInOrder() {
+  const std::vector<int> ranks = rows().ranks(sorted_);
+  const int last = *std::max_element(ranks.begin(), ranks.end());
+  const auto slot = [&](int row) {
+    const int rank = ranks[static_cast<std::size_t>(row)];
+    return static_cast<std::size_t>(order_ == Qt::AscendingOrder ? rank : last - rank);
+  };
+  std::vector<std::size_t> next(static_cast<std::size_t>(last) + 2);
+  for (const int row : shown_) ++next[slot(row) + 1];
+  for (std::size_t i = 1; i < next.size(); ++i) next[i] += next[i - 1];
+  std::vector<int> ordered(shown_.size());
+  for (const int row : shown_) ordered[next[slot(row)]++] = row;
+  shown_ = std::move(ordered);
+}
+
+void RowsFilter::number() {
+  place_.assign(sourceModel() ? static_cast<std::size_t>(sourceModel()->rowCount()) : 0, -1);
+  for (std::size_t place = 0; place < shown_.size(); ++place)
+    place_[static_cast<std::size_t>(shown_[place])] = static_cast<int>(place);
+}
+
+/// Who looks at them anew keeps what is chosen, wherever it goes.
+void RowsFilter::arrange() {
+  emit layoutAboutToBeChanged();
+  const QModelIndexList kept = persistentIndexList();
+  QModelIndexList sources;
+  for (const QModelIndex& index : kept) sources.push_back(mapToSource(index));
+  choose();
+  QModelIndexList now;
+  for (const QModelIndex& source : sources) now.push_back(mapFromSource(source));
+  changePersistentIndexList(kept, now);
+  emit layoutChanged();
+}
+
+void RowsFilter::show(int row) {
+  const auto at = std::lower_bound(shown_.begin(), shown_.end(), row,
+                                   [this](int there, int it) { return isBefore(there, it); });
+  const int place = static_cast<int>(at - shown_.begin());
+  beginInsertRows({}, place, place);
+  shown_.insert(at, row);
+  number();
+  endInsertRows();
+}
+
+void RowsFilter::hide(int row) {
+  const int place = place_[static_cast<std::size_t>(row)];
+  if (place < 0) return;
+  beginRemoveRows({}, place, place);
+  shown_.erase(shown_.begin() + place);
+  number();
+  endRemoveRows();
+}
+
+// Many come only at the end of a list that is being read.
+void RowsFilter::rowsCame(int first, int last) {
+  const int count = last - first + 1;
+  const bool atTheEnd = first == static_cast<int>(place_.size());
+  if (!atTheEnd)
+    for (int& row : shown_) row += row >= first ? count : 0;
+  place_.insert(place_.begin() + first, static_cast<std::size_t>(count), -1);
+  if (count == 1) {
+    if (accepts(first)) show(first);
+    return;
+  }
+  if (!atTheEnd || sorted_ >= 0) return arrange();
+  std::vector<int> fresh;
+  for (int row = first; row <= last; ++row)
+    if (accepts(row)) fresh.push_back(row);
+  if (fresh.empty()) return;
+  const int place = rowCount();
+  beginInsertRows({}, place, place + static_cast<int>(fresh.size()) - 1);
+  for (const int row : fresh) {
+    place_[static_cast<std::size_t>(row)] = static_cast<int>(shown_.size());
+    shown_.push_back(row);
+  }
+  endInsertRows();
+}
+
+/// They are no longer among those that are shown.
+void RowsFilter::rowsWent(int first, int last) {
+  const int count = last - first + 1;
+  for (int& row : shown_) row -= row > last ? count : 0;
+  number();
+}
+
+void RowsFilter::rowsChanged(int first, int last) {
+  for (int row = first; row <= last; ++row) {
+    const int place = place_[static_cast<std::size_t>(row)];
+    const auto at = [&](int n) { return shown_[static_cast<std::size_t>(n)]; };
+    const bool stays = place >= 0 && (place == 0 || isBefore(at(place - 1), row)) &&
+                       (place + 1 == rowCount() || isBefore(row, at(place + 1)));
+    if (accepts(row) && stays) {
+      emit dataChanged(index(place, 0), index(place, columnCount() - 1));
+    } else if (accepts(row) || place >= 0) {
+      hide(row);
+      if (accepts(row)) show(row);
+    }
+  }
+}
+
+int RowsFilter::rowCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : static_cast<int>(shown_.size());
+}
+
+int RowsFilter::columnCount(const QModelIndex& parent) const {
+  return parent.isValid() || !sourceModel() ? 0 : sourceModel()->columnCount();
+}
+
+QModelIndex RowsFilter::index(int row, int column, const QModelIndex& parent) const {
+  return hasIndex(row, column, parent) ? createIndex(row, column) : QModelIndex();
+}
+
+QModelIndex RowsFilter::parent(const QModelIndex&) const {
+  return {};
+}
+
+QModelIndex RowsFilter::mapToSource(const QModelIndex& shown) const {
+  if (!shown.isValid()) return {};
+  return sourceModel()->index(shown_[static_cast<std::size_t>(shown.row())], shown.column());
+}
+
+QModelIndex RowsFilter::mapFromSource(const QModelIndex& source) const {
+  if (!source.isValid()) return {};
+  const int place = place_[static_cast<std::size_t>(source.row())];
+  return place < 0 ? QModelIndex() : createIndex(place, source.column());
+}
+
+QVariant RowsFilter::headerData(int section, Qt::Orientation orientation, int role) const {
+  return orientation == Qt::Horizontal && sourceModel()
+             ? sourceModel()->headerData(section, orientation, role)
+             : QVariant();
 }
 
 }  // namespace fidaleon::app

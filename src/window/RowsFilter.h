@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QSortFilterProxyModel>
+#include <QAbstractProxyModel>
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -11,12 +11,14 @@ namespace fidaleon::app {
 
 /// Sorts and filters the rows of a RowsModel. A row stays when it holds every word of the filter,
 /// in any column and order, whatever the case and the accents. Rows that are still being read come
-/// in the order of the list; they are sorted once all are there.
-class RowsFilter : public QSortFilterProxyModel {
+/// in the order of the list; they are sorted once all are there. Rows that are alike keep the order
+/// of the list.
+class RowsFilter : public QAbstractProxyModel {
   Q_OBJECT
 
  public:
-  using QSortFilterProxyModel::QSortFilterProxyModel;
+  using QAbstractProxyModel::QAbstractProxyModel;
+  /// A RowsModel.
   void setSourceModel(QAbstractItemModel* rows) override;
   void setText(const QString& text);
   /// Keeps only the rows of that group; 0 keeps those of all.
@@ -28,19 +30,38 @@ class RowsFilter : public QSortFilterProxyModel {
   /// Brings the rows into the order that was asked for. True when that moves them.
   bool sortIfRead();
 
- protected:
-  bool filterAcceptsRow(int row, const QModelIndex& parent) const override;
-  bool lessThan(const QModelIndex& left, const QModelIndex& right) const override;
+  int rowCount(const QModelIndex& parent = {}) const override;
+  int columnCount(const QModelIndex& parent = {}) const override;
+  QModelIndex index(int row, int column, const QModelIndex& parent = {}) const override;
+  QModelIndex parent(const QModelIndex& child) const override;
+  QModelIndex mapToSource(const QModelIndex& shown) const override;
+  QModelIndex mapFromSource(const QModelIndex& source) const override;
+  QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
  private:
   struct Word {
     std::string text;
     RowsModel::Known known = {};
   };
+  bool accepts(int row) const;
+  bool isBefore(int row, int other) const;
+  void choose();
+  void putInOrder();
+  void number();
+  void arrange();
+  void show(int row);
+  void hide(int row);
+  void rowsCame(int first, int last);
+  void rowsWent(int first, int last);
+  void rowsChanged(int first, int last);
+
   mutable std::vector<Word> words_;
   std::int32_t group_ = 0;
-  int column_ = -1;
+  int column_ = -1;  // as asked for
   Qt::SortOrder order_ = Qt::AscendingOrder;
+  int sorted_ = -1;         // the column by which they stand, or -1
+  std::vector<int> shown_;  // rows of the source, in the order in which they are shown
+  std::vector<int> place_;  // of each row of the source among those, or -1
 };
 
 }  // namespace fidaleon::app

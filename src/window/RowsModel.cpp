@@ -49,6 +49,12 @@ int sign(double n) {
   return n < 0 ? -1 : n > 0 ? 1 : 0;
 }
 
+struct Unwanted {};
+
+/// Where each of the texts comes in their order. Throws Unwanted once it is.
+std::vector<int> ranksOf(const Texts& texts, ColumnKind kind,
+                         const std::atomic<bool>* wanted = nullptr);
+
 /// Below, equal or above 0, as the values of such a column sort.
 int compared(ColumnKind kind, std::string_view a, std::string_view b) {
   if (kind == ColumnKind::Date || kind == ColumnKind::Time) return a.compare(b);
@@ -58,7 +64,50 @@ int compared(ColumnKind kind, std::string_view a, std::string_view b) {
   return text::compare(a, b);
 }
 
+std::vector<int> ranksOf(const Texts& texts, ColumnKind kind, const std::atomic<bool>* wanted) {
+  std::vector<std::uint32_t> sorted(texts.count());
+  std::iota(sorted.begin(), sorted.end(), 0u);
+  std::sort(sorted.begin(), sorted.end(), [&](auto a, auto b) {
+    if (wanted && !*wanted) throw Unwanted();
+    return compared(kind, texts.at(a), texts.at(b)) < 0;
+  });
+  std::vector<int> ranks(sorted.size());
+  for (std::size_t i = 1; i < sorted.size(); ++i) {
+    const bool equal = compared(kind, texts.at(sorted[i - 1]), texts.at(sorted[i])) == 0;
+    ranks[sorted[i]] = ranks[sorted[i - 1]] + (equal ? 0 : 1);
+  }
+  return ranks;
+}
+
+struct OrderedBy {
+  int column;
+  ColumnKind kind;
+};
+
+/// The rows in the order of those columns, and of their keys where they are alike.
+SlimRows ordered(SlimRows rows, const std::vector<OrderedBy>& by, const std::atomic<bool>& wanted) {
+  std::vector<int> order(static_cast<std::size_t>(rows.count()));
+  std::iota(order.begin(), order.end(), 0);
+  std::vector<std::vector<int>> ranks;
+  for (const OrderedBy& b : by) ranks.push_back(ranksOf(rows.texts(b.column), b.kind, &wanted));
+  std::sort(order.begin(), order.end(), [&](int a, int b) {
+    if (!wanted) throw Unwanted();
+    for (std::size_t i = 0; i < by.size(); ++i) {
+      const int of = ranks[i][rows.number(a, by[i].column)];
+      const int other = ranks[i][rows.number(b, by[i].column)];
+      if (of != other) return of < other;
+    }
+    return rows.key(a) < rows.key(b);
+  });
+  rows.arrange(order);
+  return rows;
+}
+
 }  // namespace
+
+RowsModel::~RowsModel() {
+  giveUpOrdering();
+}
 
 void RowsModel::load(store::Connection& connection, const NodeView& view) {
   begin(connection, view, WHATEVER_IT_TAKES);
@@ -95,27 +144,39 @@ void RowsModel::startAnew(store::Connection& connection) {
   coming_.emplace(view_->columns.size());
 }
 
-void RowsModel::putInOrder(SlimRows& rows) const {
-  std::vector<int> order(static_cast<std::size_t>(rows.count()));
-  std::iota(order.begin(), order.end(), 0);
-  std::vector<std::pair<int, std::vector<int>>> columns;
-  for (const std::string& field : view_->order)
-    columns.emplace_back(columnOf(field),
-                         ranks(rows.texts(columnOf(field)), kind(columnOf(field))));
-  std::sort(order.begin(), order.end(), [&](int a, int b) {
-    for (const auto& [column, rank] : columns) {
-      const int of = rank[rows.number(a, column)];
-      const int other = rank[rows.number(b, column)];
-      if (of != other) return of < other;
-    }
-    return rows.key(a) < rows.key(b);
-  });
-  rows.arrange(order);
+RowsModel::Reading RowsModel::putInOrder(Time atMost) {
+  constexpr Time AGAIN{1};  // it goes on by itself
+  Time patience = atMost == WHATEVER_IT_TAKES ? atMost : AGAIN;
+  if (!ordering_.valid()) {
+    std::vector<OrderedBy> by;
+    for (const std::string& field : view_->order)
+      by.push_back({columnOf(field), kind(columnOf(field))});
+    wanted_ = std::make_shared<std::atomic<bool>>(true);
+    ordering_ = std::async(std::launch::async, [rows = std::move(*coming_), by = std::move(by),
+                                                wanted = wanted_]() mutable {
+      return ordered(std::move(rows), by, *wanted);
+    });
+    patience = atMost;
+  }
+  if (ordering_.wait_for(patience) != std::future_status::ready) return Reading::More;
+  coming_ = ordering_.get();
+  return Reading::Renewed;
+}
+
+bool RowsModel::giveUpOrdering() {
+  if (!ordering_.valid()) return false;
+  *wanted_ = false;
+  ordering_.wait();
+  ordering_ = {};
+  return true;
 }
 
 RowsModel::Reading RowsModel::readOn(Time atMost) {
-  if (!reader_) return Reading::Whole;
-  if (coming_) return read(*coming_, atMost) == Reading::More ? Reading::More : Reading::Renewed;
+  if (isRead()) return Reading::Whole;
+  if (coming_) {
+    if (reader_ && read(*coming_, atMost) == Reading::More) return Reading::More;
+    return view_->scattered ? putInOrder(atMost) : Reading::Renewed;
+  }
   const Reading reading = read(rows_, atMost);
   partial_ = reading == Reading::More;
   if (rows_.count() > count_) {
@@ -145,7 +206,6 @@ RowsModel::Reading RowsModel::read(SlimRows& rows, Time atMost) {
 }
 
 void RowsModel::takeOver() {
-  if (view_->scattered) putInOrder(*coming_);
   beginResetModel();
   partial_ = false;
   rows_ = std::move(*coming_);
@@ -156,8 +216,9 @@ void RowsModel::takeOver() {
 }
 
 bool RowsModel::stop() {
+  const bool ordering = giveUpOrdering();
   coming_.reset();
-  return std::exchange(reader_, nullptr) != nullptr;
+  return std::exchange(reader_, nullptr) != nullptr || ordering;
 }
 
 void RowsModel::clear() {
@@ -276,25 +337,27 @@ std::string RowsModel::shown(std::string_view text, int column) const {
   }
 }
 
-bool RowsModel::isBefore(int row, int other, int column) const {
+const std::vector<int>& RowsModel::ranksOfTexts(int column) const {
   std::vector<int>& all = ranks_[static_cast<std::size_t>(column)];
-  if (all.empty()) all = ranks(rows_.texts(column), kind(column));
+  if (all.empty()) all = ranksOf(rows_.texts(column), kind(column));
+  return all;
+}
+
+bool RowsModel::isBefore(int row, int other, int column) const {
+  const std::vector<int>& all = ranksOfTexts(column);
   const std::size_t a = rows_.number(row, column);
   const std::size_t b = rows_.number(other, column);
   if (a < all.size() && b < all.size()) return all[a] < all[b];
   return app::compared(kind(column), stored(row, column), stored(other, column)) < 0;
 }
 
-std::vector<int> RowsModel::ranks(const Texts& texts, ColumnKind kind) {
-  std::vector<std::uint32_t> sorted(texts.count());
-  std::iota(sorted.begin(), sorted.end(), 0u);
-  std::sort(sorted.begin(), sorted.end(),
-            [&](auto a, auto b) { return app::compared(kind, texts.at(a), texts.at(b)) < 0; });
-  std::vector<int> ranks(sorted.size());
-  for (std::size_t i = 1; i < sorted.size(); ++i) {
-    const bool equal = app::compared(kind, texts.at(sorted[i - 1]), texts.at(sorted[i])) == 0;
-    ranks[sorted[i]] = ranks[sorted[i - 1]] + (equal ? 0 : 1);
-  }
+std::vector<int> RowsModel::ranks(int column) const {
+  std::vector<int>& known = ranks_[static_cast<std::size_t>(column)];
+  if (known.size() != rows_.texts(column).count()) known.clear();  // texts have been added since
+  const std::vector<int>& all = ranksOfTexts(column);
+  std::vector<int> ranks(static_cast<std::size_t>(count_));
+  for (int row = 0; row < count_; ++row)
+    ranks[static_cast<std::size_t>(row)] = all[rows_.number(row, column)];
   return ranks;
 }
 

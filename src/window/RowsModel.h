@@ -1,8 +1,10 @@
 #pragma once
 
 #include <QAbstractTableModel>
+#include <atomic>
 #include <chrono>
 #include <cstdint>
+#include <future>
 #include <memory>
 #include <optional>
 #include <string>
@@ -31,6 +33,7 @@ class RowsModel : public QAbstractTableModel {
   };
 
   using QAbstractTableModel::QAbstractTableModel;
+  ~RowsModel() override;
 
   /// Runs the node's statement; a folder gives no rows. Throws store::Error and keeps what it
   /// showed before.
@@ -46,11 +49,11 @@ class RowsModel : public QAbstractTableModel {
   /// Shows nothing, of no node.
   void clear();
   /// Nothing is being read.
-  bool isRead() const { return !reader_; }
+  bool isRead() const { return !reader_ && !ordering_.valid(); }
   /// All there is to show is shown: nothing was broken off.
-  bool isWhole() const { return !reader_ && !partial_; }
+  bool isWhole() const { return isRead() && !partial_; }
   /// There are rows to come behind those that are shown.
-  bool isFilling() const { return reader_ && partial_; }
+  bool isFilling() const { return !isRead() && partial_; }
 
   /// What has become of rows that were touched.
   struct Update {
@@ -83,6 +86,8 @@ class RowsModel : public QAbstractTableModel {
   std::string shown(int row, int column) const;
   /// Whether that row comes before the other when the column is sorted.
   bool isBefore(int row, int other, int column) const;
+  /// Of each row, from 0 on, where it comes then; those that are alike have the same rank.
+  std::vector<int> ranks(int column) const;
   /// The row shows that word, folded for the filter, in one of its columns. `known` remembers for
   /// this word what has been found out; empty at first.
   using Known = std::vector<std::vector<bool>>;
@@ -93,9 +98,10 @@ class RowsModel : public QAbstractTableModel {
   Reading read(SlimRows& rows, Time atMost);
   QVariant appearance(int row, int column, int role) const;
   std::string shown(std::string_view stored, int column) const;
-  static std::vector<int> ranks(const Texts& texts, ColumnKind kind);
+  const std::vector<int>& ranksOfTexts(int column) const;
   void startAnew(store::Connection& connection);
-  void putInOrder(SlimRows& rows) const;
+  Reading putInOrder(Time atMost);
+  bool giveUpOrdering();
   ColumnKind kind(int column) const {
     return view_->columns[static_cast<std::size_t>(column)].kind;
   }
@@ -109,6 +115,9 @@ class RowsModel : public QAbstractTableModel {
   int count_ = 0;  // of those that are shown
   std::unique_ptr<RowsReader> reader_;
   std::optional<SlimRows> coming_;
+  // Those that come unseen, while they are brought into their order beside this thread.
+  std::future<SlimRows> ordering_;
+  std::shared_ptr<std::atomic<bool>> wanted_;
   bool partial_ = false;  // there are more than those that are shown
   // Where each text of a column comes in its order; made when it is first asked for.
   mutable std::vector<std::vector<int>> ranks_;
