@@ -4,6 +4,7 @@
 #include "core/statements/Sentencia.h"
 #include "printing/DocumentReport.h"
 #include "registers/common/FormaPartida.h"
+#include "registers/requests/OrigenSolicitudes.h"
 #include "text/Utf8.h"
 
 namespace fidaleon::app {
@@ -159,6 +160,14 @@ void DemoRegisterWalk::requests(const std::vector<DemoPerson>& people) {
 
 void DemoRegisterWalk::moveRequests(const std::vector<DemoPerson>& people, int place) {
   w_.user().expectForm("frmSolicitudes", demo::moveAllRequests);
+  std::string told = people.size() == 1 ? "Ya está en el libro:\n" : "Ya están en el libro:\n";
+  const auto* between = origenSolicitudes(&r_.sacrament)->entrePersonas;
+  for (int at = place; const DemoPerson& p : people) {
+    const std::string number = std::to_string(at++);
+    told += "\n" + nombrePartida(parish(), r_.sacrament, idOf(p), between) + ": folio " + number +
+            ", número " + number;
+  }
+  w_.user().expectMessage(told);
   nucleo().ImportarSolicitudes(parish(), config(), node("Solicitudes"));
   checkPlaces(people, place);
   w_.check(count("CodLibro=0") == "0", "no quedan solicitudes");

@@ -41,6 +41,8 @@ void ControlView::nameForAccessibility() {
     name = control_.toolTip();
   else if (control_.frame())
     name = control_.frame()->caption();
+  else if (dynamic_cast<const forms::Grid*>(&control_))
+    name = control_.form().caption();
   const auto* option = dynamic_cast<const forms::OptionButton*>(&control_);
   if (option && !name.empty()) name += " " + option->caption();
   if (!name.empty()) focusWidget()->setAccessibleName(plainCaption(name));

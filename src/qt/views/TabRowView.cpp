@@ -42,6 +42,8 @@ class TabRowView::Pages : public QTabWidget {
 
 TabRowView::TabRowView(forms::TabStrip& strip, QWidget* parent)
     : TabsView(strip), bar_(new AskingTabBar), pages_(new Pages(parent, bar_)) {
+  pages_->setAccessibleName(QStringLiteral("Apartados"));
+  bar_->setAccessibleName(pages_->accessibleName());
   bar_->setFocusPolicy(Qt::TabFocus);
   bar_->setElideMode(Qt::ElideNone);
   bar_->setUsesScrollButtons(true);
