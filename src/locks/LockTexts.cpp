@@ -103,6 +103,15 @@ std::string goingOn(const HeldEntry& work) {
          ".\nVuelva a intentarlo cuando termine.";
 }
 
+std::string lostMeanwhile(const LockEntry* wanted, const HeldEntry* held) {
+  const std::string what =
+      "Mientras este puesto estaba sin conexión con el servidor, otro ha abierto lo que aquí se "
+      "estaba escribiendo";
+  return (held ? refusal(*wanted, *held, {}, what) : what + ".") +
+         "\n\nPara no deshacer lo que se haya cambiado allí, no se ha guardado nada. Lo escrito "
+         "sigue en la ventana: anote lo que no quiera perder, ciérrela y vuelva a abrirla.";
+}
+
 std::string unseen(const std::string& folder, const Holder& other) {
   return "En la carpeta «" + folder + "» ya trabaja " + whoAndSince(other, {}) +
          ".\n\n"

@@ -21,6 +21,9 @@ std::string refusal(const LockEntry& wanted, const HeldEntry& held, const Holder
 std::string recordGone(const std::string& table);
 /// What those are told who cannot come in while somebody does this.
 std::string goingOn(const HeldEntry& work);
+/// Why nothing can be stored any more under locks that were lost for a while, and what is left to
+/// do. Who has one of them now, if anybody.
+std::string lostMeanwhile(const LockEntry* wanted, const HeldEntry* held);
 /// Why a program may not come into the folder where the other is, and what can be done.
 std::string unseen(const std::string& folder, const Holder& other);
 

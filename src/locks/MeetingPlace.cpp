@@ -1,6 +1,8 @@
 #include "locks/MeetingPlace.h"
 
+#include "locks/ServerMeeting.h"
 #include "locks/SharedDirectory.h"
+#include "store/postgres/ServerAccess.h"
 
 namespace fidaleon::locks {
 
@@ -13,7 +15,10 @@ void MeetingPlace::Guard::announce(const HeldEntry& work) noexcept {
 }
 
 std::unique_ptr<MeetingPlace> meetingAt(const std::filesystem::path& directory) {
-  return std::make_unique<SharedDirectory>(directory);
+  const auto address = store::serverAt(directory);
+  if (!address) return std::make_unique<SharedDirectory>(directory);
+  return std::make_unique<ServerMeeting>(
+      std::make_shared<Seat>(*address, store::passwordFor(*address)));
 }
 
 }  // namespace fidaleon::locks

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <stdexcept>
@@ -9,6 +10,8 @@
 
 #include "locks/LockEntry.h"
 #include "locks/LockSet.h"
+#include "locks/Reach.h"
+#include "store/Fence.h"
 
 namespace fidaleon::locks {
 
@@ -38,6 +41,14 @@ class MeetingPlace {
   MeetingPlace() = default;
   MeetingPlace(const MeetingPlace&) = delete;
   MeetingPlace& operator=(const MeetingPlace&) = delete;
+
+  /// A further session at the same place.
+  virtual std::unique_ptr<MeetingPlace> another() const = 0;
+  /// What goes with all that is stored under locks of this place; null where nothing has to. Lives
+  /// as long as any of its sessions.
+  virtual store::Fence* fence() { return nullptr; }
+  /// How far what is listed here can be seen.
+  virtual Reach reach() const { return Reach::Everywhere; }
 
   /// While somebody has it, nobody else looks or takes anything; given back when dropped.
   class Guard {
@@ -87,7 +98,10 @@ class MeetingPlace {
   virtual void withdraw() noexcept = 0;
 };
 
-/// That of the parish which lies in a directory.
+/// That of the parish which lies in a directory, or whose server is told there. Throws store::Error
+/// where the server cannot be entered.
 std::unique_ptr<MeetingPlace> meetingAt(const std::filesystem::path& directory);
+/// Who makes a session at the place of a directory: meetingAt, or a place that is there already.
+using Meet = std::function<std::unique_ptr<MeetingPlace>(const std::filesystem::path&)>;
 
 }  // namespace fidaleon::locks

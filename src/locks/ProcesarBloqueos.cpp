@@ -46,12 +46,16 @@ bool goesBy(const std::string& name, const LockEntry& e) {
 }  // namespace
 
 ProcesarBloqueos::ProcesarBloqueos(forms::UserInterface& ui, const Clock& clock, std::string user,
-                                   std::string host)
-    : ui_(ui), clock_(clock), user_(std::move(user)), host_(std::move(host)) {}
+                                   std::string host, Meet meet)
+    : ui_(ui),
+      clock_(clock),
+      user_(std::move(user)),
+      host_(std::move(host)),
+      meet_(std::move(meet)) {}
 
 void ProcesarBloqueos::Inicializar(const std::string& strDirectorioTemporal) {
   LiberarBloqueos();
-  meeting_ = meetingAt(strDirectorioTemporal);
+  meeting_ = meet_(strDirectorioTemporal);
 }
 
 void ProcesarBloqueos::DefinirBloqueo(DefinicionBloqueo definicion) {

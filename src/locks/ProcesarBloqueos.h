@@ -20,8 +20,8 @@ namespace fidaleon::locks {
 class ProcesarBloqueos : public FDAPI::cProcesarBloqueos {
  public:
   /// `user` and `host` are shown to whoever is refused.
-  ProcesarBloqueos(forms::UserInterface& ui, const Clock& clock, std::string user,
-                   std::string host);
+  ProcesarBloqueos(forms::UserInterface& ui, const Clock& clock, std::string user, std::string host,
+                   Meet meet = meetingAt);
 
   void Inicializar(const std::string& strDirectorioTemporal) override;
   void DefinirBloqueo(FDAPI::DefinicionBloqueo definicion) override;
@@ -55,6 +55,7 @@ class ProcesarBloqueos : public FDAPI::cProcesarBloqueos {
   const Clock& clock_;
   std::string user_;
   std::string host_;
+  Meet meet_;
   std::unique_ptr<MeetingPlace> meeting_;
   std::vector<FDAPI::DefinicionBloqueo> pending_;
   bool pendingRefused_ = false;

@@ -10,7 +10,6 @@
 #include "locks/Maker.h"
 #include "locks/MeetingPlace.h"
 #include "locks/OfdLock.h"
-#include "locks/Reach.h"
 
 namespace fidaleon::locks {
 
@@ -35,6 +34,10 @@ class SharedDirectory : public MeetingPlace {
                            std::chrono::milliseconds patience = PATIENCE, Vantage vantage = {});
   ~SharedDirectory() override { withdraw(); }
 
+  std::unique_ptr<MeetingPlace> another() const override {
+    return std::make_unique<SharedDirectory>(directory_, patience_, vantage_);
+  }
+  Reach reach() const override { return vantage_.reach(directory_); }
   Guard enter() const override;
   /// Throws UnseenOther, and Unusable when a session cannot be looked at.
   std::vector<Session> sessions(const Guard&) const override;

@@ -1,5 +1,7 @@
 #include "parish/Desk.h"
 
+#include "store/Engine.h"
+
 namespace fidaleon::app {
 namespace {
 
@@ -25,9 +27,14 @@ Desk::Desk(const ParishFiles& files, const std::string& user, forms::UserInterfa
       presence_(come(files_, user, clock)),
       open_(openParish(files_)),
       config_(configFor(user)),
-      support_(ui, settings, clock, config_),
+      support_(ui, settings, clock, config_, {},
+               [this](const auto& directory) {
+                 return presence_ ? presence_->session() : locks::meetingAt(directory);
+               }),
       entorno_{ui, support_, settings, clock, {open_.edition, editionName(open_.edition)}},
-      nucleo_(entorno_) {}
+      nucleo_(entorno_) {
+  if (presence_) parish().engine().fenceWith(presence_->fence());
+}
 
 std::string Desk::parishName() {
   const auto rows = parish().Execute("SELECT Nombre FROM Institucion ORDER BY IDInstitucion");

@@ -15,11 +15,18 @@ namespace fidaleon::app {
 /// each other: there the first one is the only one. Ends with the program, however that ends.
 class Presence {
  public:
-  /// `since` is "dd/mm/yyyy a las HH:mm". Throws locks::Unusable where locks do not work, while
-  /// somebody lets nobody in, and locks::UnseenOther.
+  /// `since` is "dd/mm/yyyy a las HH:mm". Throws store::Error where a server cannot be entered,
+  /// locks::Unusable where locks do not work, while somebody lets nobody in, and
+  /// locks::UnseenOther.
   Presence(const std::filesystem::path& parishDirectory, const std::string& user,
            const std::string& since);
 
+  /// A session at the same meeting place, for locks.
+  std::unique_ptr<locks::MeetingPlace> session() const { return meeting_->another(); }
+  /// What goes with all that the program stores; null where nothing has to.
+  store::Fence* fence() { return meeting_->fence(); }
+  /// False where only one workstation may work, since they do not see each other.
+  bool seesOthers() const { return meeting_->reach() == locks::Reach::Everywhere; }
   /// Tries again to tell who is here when that could not be written, for a full disk. The others
   /// know meanwhile that somebody is here.
   void tellAgain() noexcept;

@@ -13,12 +13,13 @@
 namespace fidaleon::support {
 
 HostSupport::HostSupport(forms::UserInterface& ui, Settings& settings, const Clock& clock,
-                         const FDAPI::cConfig& config, std::string host)
+                         const FDAPI::cConfig& config, std::string host, locks::Meet meet)
     : ui_(ui),
       settings_(settings),
       clock_(clock),
       config_(config),
-      host_(host.empty() ? locks::hostName() : std::move(host)) {}
+      host_(host.empty() ? locks::hostName() : std::move(host)),
+      meet_(std::move(meet)) {}
 
 std::unique_ptr<FDAPI::cFidaleon> HostSupport::create_cFidaleon() {
   return std::make_unique<Fidaleon>(ui_, settings_, clock_, &errors_);
@@ -29,7 +30,7 @@ std::unique_ptr<FDAPI::cIListas> HostSupport::create_cIListas() {
 }
 
 std::unique_ptr<FDAPI::cProcesarBloqueos> HostSupport::create_cProcesarBloqueos() {
-  return std::make_unique<locks::ProcesarBloqueos>(ui_, clock_, config_.Usuario, host_);
+  return std::make_unique<locks::ProcesarBloqueos>(ui_, clock_, config_.Usuario, host_, meet_);
 }
 
 std::unique_ptr<FDAPI::cInformes> HostSupport::create_cInformes() {

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "core/contract/Entorno.h"
+#include "locks/MeetingPlace.h"
 #include "support/ErrorLog.h"
 
 namespace fidaleon::support {
@@ -13,9 +14,11 @@ namespace fidaleon::support {
 class HostSupport : public SupportFactory {
  public:
   /// `config` is read when an object is made, so a change of user counts from the next one.
-  /// `host` names this machine to users of others; empty takes the system's own name.
+  /// `host` names this machine to users of others; empty takes the system's own name. `meet` makes
+  /// what lock sessions meet at.
   HostSupport(forms::UserInterface& ui, Settings& settings, const Clock& clock,
-              const FDAPI::cConfig& config, std::string host = {});
+              const FDAPI::cConfig& config, std::string host = {},
+              locks::Meet meet = locks::meetingAt);
 
   std::unique_ptr<FDAPI::cFidaleon> create_cFidaleon() override;
   std::unique_ptr<FDAPI::cIListas> create_cIListas() override;
@@ -31,6 +34,7 @@ class HostSupport : public SupportFactory {
   const Clock& clock_;
   const FDAPI::cConfig& config_;
   std::string host_;
+  locks::Meet meet_;
   ErrorLog errors_;
 };
 

@@ -15,7 +15,6 @@
 #include <QTreeView>
 #include <QVBoxLayout>
 
-#include "locks/Reach.h"
 #include "qt/Accessibility.h"
 #include "window/Icons.h"
 #include "window/MainWindow.h"
@@ -178,7 +177,7 @@ void MainWindow::buildCommands() {
 void MainWindow::buildStatusBar() {
   count_ = new QLabel(this);
   statusBar()->addWidget(count_, 1);
-  if (locks::reachOf(desk_.files().directory) == locks::Reach::OneMachine) {
+  if (!desk_.presence().seesOthers()) {
     auto* alone = new QLabel("  " + tr("Un solo equipo a la vez") + "  ", this);
     alone->setToolTip(tr(
         "Los datos están en una unidad en la que un equipo no ve lo que otro tiene abierto. Para "

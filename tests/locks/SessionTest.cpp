@@ -1,6 +1,7 @@
 #include <filesystem>
 #include <fstream>
 
+#include "locks/MeetingPlaces.h"
 #include "locks/SharedDirectory.h"
 #include "support/TestWorld.h"
 
@@ -39,7 +40,7 @@ DefinicionBloqueo sharedRecord(const std::string& table, const std::string& whic
   return d;
 }
 
-class Session : public ::testing::Test {
+class AtAPlace {
  protected:
   std::unique_ptr<FDAPI::cProcesarBloqueos> open() { return abrirSesion(w.contexto, w.con()); }
   static long take(FDAPI::cProcesarBloqueos& session, std::vector<DefinicionBloqueo> definitions) {
@@ -59,7 +60,18 @@ class Session : public ::testing::Test {
   TestWorld w;
 };
 
-TEST_F(Session, TwoOfOneProcess_ConflictAndTheUserIsTold) {
+class Session : public AtAPlace, public ::testing::TestWithParam<Place> {
+ protected:
+  Session() {
+    if (GetParam() == Place::Server) meetOnServer(w.directory.path());
+  }
+};
+MEETING_PLACES(Session);
+
+/// What is so of files alone.
+class SessionInAFolder : public AtAPlace, public ::testing::Test {};
+
+TEST_P(Session, TwoOfOneProcess_ConflictAndTheUserIsTold) {
   auto first = open();
   auto second = open();
   EXPECT_EQ(take(*first, {record("Bautismo", "7")}), 0);
@@ -71,7 +83,7 @@ TEST_F(Session, TwoOfOneProcess_ConflictAndTheUserIsTold) {
   EXPECT_EQ(second->lngUltimoBloqueoError(), 0);
 }
 
-TEST_F(Session, EachRefusal_HasItsKind) {
+TEST_P(Session, EachRefusal_HasItsKind) {
   w.user.answerAnything(Answer::Ok);
   auto other = w.otherSession();
   ASSERT_EQ(take(*other, {whole("Bautismo"), shared("Provincia"), record("Institucion", "2")}), 0);
@@ -88,7 +100,7 @@ TEST_F(Session, EachRefusal_HasItsKind) {
   EXPECT_EQ(take(*open(), {shared("Provincia"), sharedRecord("Institucion", "3")}), 0);
 }
 
-TEST_F(Session, RefusedToWhoGoesOnAllTheSame_SaysWhatIsLeftAndWhoHasIt) {
+TEST_P(Session, RefusedToWhoGoesOnAllTheSame_SaysWhatIsLeftAndWhoHasIt) {
   const std::string luis = "luis, en el equipo SACRISTIA, desde el 22/11/2026 a las 10:30";
   auto other = w.otherSession();
   ASSERT_EQ(take(*other, {record("Bautismo", "9"), whole("Municipio")}), 0);
@@ -108,7 +120,7 @@ TEST_F(Session, RefusedToWhoGoesOnAllTheSame_SaysWhatIsLeftAndWhoHasIt) {
   EXPECT_EQ(mine->strPoseedor(), "");
 }
 
-TEST_F(Session, Refused_TakesNothingNewAndKeepsWhatItHad) {
+TEST_P(Session, Refused_TakesNothingNewAndKeepsWhatItHad) {
   w.user.answerAnything(Answer::Ok);
   auto other = w.otherSession();
   auto mine = open();
@@ -120,7 +132,7 @@ TEST_F(Session, Refused_TakesNothingNewAndKeepsWhatItHad) {
   EXPECT_EQ(take(*w.otherSession(), {whole("Municipio")}), FDAPI::BloqueoTabla);
 }
 
-TEST_F(Session, RefusedDefinitions_AreTriedAgainButGiveWayToNewOnes) {
+TEST_P(Session, RefusedDefinitions_AreTriedAgainButGiveWayToNewOnes) {
   w.user.answerAnything(Answer::Ok);
   auto other = w.otherSession();
   auto mine = open();
@@ -130,7 +142,7 @@ TEST_F(Session, RefusedDefinitions_AreTriedAgainButGiveWayToNewOnes) {
   EXPECT_EQ(take(*mine, {whole("Confirmacion")}), 0);
 }
 
-TEST_F(Session, OnlyTesting_HoldsNothing) {
+TEST_P(Session, OnlyTesting_HoldsNothing) {
   auto mine = open();
   mine->DefinirBloqueo(whole("Bautismo"));
   EXPECT_EQ(mine->lngEfectuarBloqueos(true), 0);
@@ -140,7 +152,7 @@ TEST_F(Session, OnlyTesting_HoldsNothing) {
   EXPECT_EQ(take(*w.otherSession(), {whole("Bautismo")}), FDAPI::BloqueoTabla);
 }
 
-TEST_F(Session, Releasing_IsByTableOrByTableAndCounter) {
+TEST_P(Session, Releasing_IsByTableOrByTableAndCounter) {
   w.otherUser.answerAnything(Answer::Ok);
   auto mine = open();
   DefinicionBloqueo third = record("Grupo", "30");
@@ -155,7 +167,7 @@ TEST_F(Session, Releasing_IsByTableOrByTableAndCounter) {
   EXPECT_NE(take(*w.otherSession(), {whole("Cargo")}), 0);
 }
 
-TEST_F(Session, Dropped_LeavesNoLockAndNoFile) {
+TEST_F(SessionInAFolder, Dropped_LeavesNoLockAndNoFile) {
   {
     auto mine = open();
     ASSERT_EQ(take(*mine, {whole("Bautismo")}), 0);
@@ -165,7 +177,7 @@ TEST_F(Session, Dropped_LeavesNoLockAndNoFile) {
   EXPECT_EQ(take(*w.otherSession(), {whole("Bautismo")}), 0);
 }
 
-TEST_F(Session, RecordsOfAStatement_AreThoseOfTheMomentOfTaking) {
+TEST_P(Session, RecordsOfAStatement_AreThoseOfTheMomentOfTaking) {
   w.otherUser.answerAnything(Answer::Ok);
   auto mine = open();
   mine->DefinirBloqueo(record("Institucion", "SELECT IDInstitucion FROM Institucion", &w.con()));
@@ -175,7 +187,7 @@ TEST_F(Session, RecordsOfAStatement_AreThoseOfTheMomentOfTaking) {
   EXPECT_EQ(take(*w.otherSession(), {record("Institucion", "99")}), 0);
 }
 
-TEST_F(Session, RecordThatIsGone_IsToldAndTakesNothing) {
+TEST_P(Session, RecordThatIsGone_IsToldAndTakesNothing) {
   DefinicionBloqueo d = record("Institucion", "5", &w.con());
   d.blnComprobarExisteRegistro = true;
   d.strSQLExisteRegistro = "SELECT IDInstitucion FROM Institucion WHERE IDInstitucion=";
@@ -190,7 +202,7 @@ TEST_F(Session, RecordThatIsGone_IsToldAndTakesNothing) {
   EXPECT_EQ(take(*open(), {d}), 0);
 }
 
-TEST_F(Session, StatementWithoutConnectionOrThatFails_Throws) {
+TEST_P(Session, StatementWithoutConnectionOrThatFails_Throws) {
   auto mine = open();
   EXPECT_THROW(mine->DefinirBloqueo(record("Bautismo", "SELECT 1")), std::invalid_argument);
   mine->DefinirBloqueo(record("Bautismo", "SELECT Nada FROM Ninguna", &w.con()));
@@ -201,7 +213,7 @@ TEST_F(Session, StatementWithoutConnectionOrThatFails_Throws) {
   EXPECT_EQ(take(*w.otherSession(), {whole("Bautismo")}), 0);
 }
 
-TEST_F(Session, DirectoryThatIsMissingOrNotWritable_FailsTheSession) {
+TEST_F(SessionInAFolder, DirectoryThatIsMissingOrNotWritable_FailsTheSession) {
   w.user.answerAnything(Answer::Ok);
   auto mine = w.host.create_cProcesarBloqueos();
   EXPECT_EQ(take(*mine, {whole("Bautismo")}), FDAPI::BloqueoSesion);
@@ -213,7 +225,7 @@ TEST_F(Session, DirectoryThatIsMissingOrNotWritable_FailsTheSession) {
   lastMessage("No se puede trabajar con los bloqueos en la carpeta «/proc»");
 }
 
-TEST_F(Session, LeftOrDamagedFiles_AreSwept) {
+TEST_F(SessionInAFolder, LeftOrDamagedFiles_AreSwept) {
   const auto file = [&](const std::string& name) { return w.directory.path() / name; };
   std::ofstream(file(locks::SharedDirectory::GUARD_FILE)) << std::string(100, '\0') << "basura";
   std::ofstream(file(std::string(locks::SharedDirectory::SESSION_PREFIX) + "viejo.1.2"))
@@ -224,7 +236,7 @@ TEST_F(Session, LeftOrDamagedFiles_AreSwept) {
 }
 
 // It may be another account's, or this program may have no file descriptor left.
-TEST_F(Session, FileOfAnotherSessionThatCannotBeOpened_CountsAsHeld) {
+TEST_F(SessionInAFolder, FileOfAnotherSessionThatCannotBeOpened_CountsAsHeld) {
   w.user.answerAnything(Answer::Ok);
   const fs::path left =
       w.directory.path() / (std::string(locks::SharedDirectory::SESSION_PREFIX) + "ajeno.1.2");
@@ -235,7 +247,7 @@ TEST_F(Session, FileOfAnotherSessionThatCannotBeOpened_CountsAsHeld) {
   EXPECT_EQ(take(*open(), {whole("Bautismo")}), 0);
 }
 
-TEST_F(Session, FilesOfTheLocks_AreForWhoeverTheFolderIsFor) {
+TEST_F(SessionInAFolder, FilesOfTheLocks_AreForWhoeverTheFolderIsFor) {
   auto mine = open();
   ASSERT_EQ(take(*mine, {whole("Bautismo")}), 0);
   for (const auto& f : fs::directory_iterator(w.directory.path())) {
@@ -244,7 +256,7 @@ TEST_F(Session, FilesOfTheLocks_AreForWhoeverTheFolderIsFor) {
   }
 }
 
-TEST_F(Session, GuardFileRemovedUnderneath_IsMadeAgain) {
+TEST_F(SessionInAFolder, GuardFileRemovedUnderneath_IsMadeAgain) {
   auto mine = open();
   ASSERT_EQ(take(*mine, {whole("Bautismo")}), 0);
   fs::remove(w.directory.path() / locks::SharedDirectory::GUARD_FILE);
