@@ -7,7 +7,7 @@ namespace {
 const std::vector<std::string> BY_NAME{"PrimerApellido", "SegundoApellido", "Nombre"};
 
 RowPart ofPerson(const std::string& table) {
-  return {table, "SELECT CodPadron FROM " + table + " WHERE rowid="};
+  return {table, {"CodPadron", table, {}}};
 }
 
 void describeRole(NodeView& v, const char* satellite) {

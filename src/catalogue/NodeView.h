@@ -6,6 +6,7 @@
 
 #include "core/contract/Sacramento.h"
 #include "core/contract/cNodo.h"
+#include "store/TouchedRows.h"
 
 namespace fidaleon::app {
 
@@ -51,11 +52,11 @@ struct ColumnView {
   std::string word;  // of a Flag that is set
 };
 
-/// A table from which the rows of a list come, and how a row of it leads to the list's: a statement
-/// that ends in "=" and gives the list's key for the key of this row. Empty where the two are one.
+/// A table from which the rows of a list come, and how a row of it leads to the list's, whose key
+/// the lead gives. Without one where the two are one.
 struct RowPart {
   std::string table;
-  std::string statement;
+  store::TouchedRows::Lead lead;
 };
 
 /// One node of the tree with the list it shows.

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "store/Engine.h"
-#include "store/RowCounts.h"
+#include "store/Spelling.h"
 
 namespace fidaleon::store {
 
@@ -38,10 +38,14 @@ TouchedRows::Rows TouchedRows::take() {
   return touched;
 }
 
-std::vector<std::int64_t> TouchedRows::numbersOf(const std::string& statement,
-                                                 std::int64_t row) const {
-  const std::string sql = statement + std::to_string(row);
+std::vector<std::int64_t> TouchedRows::numbersOf(const Lead& lead, std::int64_t row) const {
+  const Spelling& spell = connection_.engine().spelling();
+  const std::string table = spell.name(lead.table);
+  const std::string by = lead.by.empty() ? spell.entryOrder(table) : spell.name(lead.by);
+  const std::string sql = "SELECT " + spell.name(lead.column) + " FROM " + table + " WHERE " + by +
+                          " = " + spell.parameter(1);
   const auto prepared = connection_.engine().prepare(sql, sql);
+  prepared->bind(1, {Literal::Kind::Integer, row}, Lifetime::Brief);
   RowStore rows(1);
   while (prepared->step()) prepared->read(rows);
   std::vector<std::int64_t> numbers;

@@ -33,9 +33,15 @@ class TouchedRows {
   TouchedRows& operator=(const TouchedRows&) = delete;
 
   Rows take();
-  /// The rows of a touched table are found by a statement that ends in "=": the numbers it gives
-  /// for this row, none when there is no such row any more.
-  std::vector<std::int64_t> numbersOf(const std::string& statement, std::int64_t row) const;
+  /// How a touched row leads to others: by the number in this column of the rows of `table` whose
+  /// column `by` holds its key; with none, of that very row.
+  struct Lead {
+    std::string column;
+    std::string table;
+    std::string by;
+  };
+  /// The numbers that it leads to, none when there is no such row any more.
+  std::vector<std::int64_t> numbersOf(const Lead& lead, std::int64_t row) const;
 
  private:
   Connection& connection_;

@@ -130,9 +130,8 @@ MainWindow::Touched MainWindow::touchedRows() {
       touched.all = touched.all || readsFrom(*node_, row.table);
       continue;
     }
-    const std::vector<std::int64_t> keys = part->statement.empty()
-                                               ? std::vector{row.key}
-                                               : touched_.numbersOf(part->statement, row.key);
+    const std::vector<std::int64_t> keys =
+        part->lead.column.empty() ? std::vector{row.key} : touched_.numbersOf(part->lead, row.key);
     lost = lost || keys.empty();
     for (const std::int64_t key : keys) touched.keys.push_back(static_cast<std::int32_t>(key));
   }

@@ -12,7 +12,8 @@ namespace {
 
 constexpr std::size_t kNull = std::numeric_limits<std::size_t>::max();
 constexpr int kFew = 20;
-constexpr int kFewest = 3;  // as many as are looked at when a record set is opened
+constexpr int kFewest = 3;    // as many as are looked at when a record set is opened
+constexpr int kMany = 50000;  // more than that are not held at once
 constexpr std::string_view kWhole = "::int8";
 
 /// How the server numbers the types that are not text.
@@ -81,8 +82,7 @@ PostgresStatement::PostgresStatement(PostgresEngine& engine, std::string_view sq
     : engine_(engine), sql_(sql), traits_(traitsOf(sql)), whole_(wholeValues(sql)) {
   places_.assign(whole_.size(), kNull);
   if (!traits_.sliced) return;
-  few_ = traits_.fromTheEnd ? kFewest : kFew;
-  slice_ = sql_ + " LIMIT " + std::to_string(few_);
+  slice_ = limited(traits_.fromTheEnd ? kFewest : kFew);
 }
 
 PostgresStatement::~PostgresStatement() {
@@ -160,6 +160,7 @@ void PostgresStatement::start() {
   const std::string& sql = traits_.sliced ? slice_ : sql_;
   answer_ = engine_.carryOut(wide_ ? widened(sql) : sql, traits_, request_);
   state_ = State::Begun;
+  few_ = traits_.fromTheEnd ? kFewest : kFew;
   row_ = -1;
 }
 
@@ -187,23 +188,38 @@ bool PostgresStatement::readOn() {
 /// The whole again, up to where the first rows end. They must still be what they were: whoever goes
 /// on reading is to see one state of the data.
 bool PostgresStatement::readRest() {
+  if (few_ < kMany) {
+    Answer many = engine_.carryOut(limited(kMany), traits_, request_);
+    for (int row = 0; row < few_; ++row) requireSame(row, many, row);
+    answer_ = std::move(many);
+    few_ = kMany;
+    return row_ < answer_.rows();
+  }
   engine_.read(wide_ ? widened(sql_) : sql_, request_, *this);
   state_ = State::Streaming;
-  for (int row = 0; row < few_; ++row)
-    if (!takeNext() || !isSameAs(row)) {
-      giveBack();
-      throw Error(ErrorKind::Busy,
-                  "Otro puesto ha cambiado los datos mientras se leían. Vuelva a intentarlo.");
+  try {
+    for (int row = 0; row < few_; ++row) {
+      takeNext();
+      requireSame(row, current_, 0);
     }
+  } catch (const Error&) {
+    if (state_ == State::Streaming) giveBack();
+    throw;
+  }
   return takeNext();
 }
 
-bool PostgresStatement::isSameAs(int row) const {
-  for (int column = 0; column < answer_.columns(); ++column)
-    if (answer_.isNull(row, column) != current_.isNull(0, column) ||
-        answer_.text(row, column) != current_.text(0, column))
-      return false;
-  return true;
+std::string PostgresStatement::limited(int rows) const {
+  return (wide_ ? widened(sql_) : sql_) + " LIMIT " + std::to_string(rows);
+}
+
+void PostgresStatement::requireSame(int row, const Answer& now, int at) const {
+  bool same = at < now.rows();
+  for (int i = 0; same && i < answer_.columns(); ++i)
+    same = answer_.isNull(row, i) == now.isNull(at, i) && answer_.text(row, i) == now.text(at, i);
+  if (same) return;
+  throw Error(ErrorKind::Busy,
+              "Otro puesto ha cambiado los datos mientras se leían. Vuelva a intentarlo.");
 }
 
 bool PostgresStatement::takeNext() {

@@ -9,8 +9,8 @@
 
 namespace fidaleon::store {
 
-/// The first rows of one table are asked for alone, and the others only when they are read on to:
-/// then they come one by one, as long as nobody else needs the link.
+/// The first rows of one table are asked for alone, and the others only when they are read on to;
+/// of a great many the last ones come one by one, as long as nobody else needs the link.
 class PostgresStatement : public Statement, private Link::Reader {
  public:
   PostgresStatement(PostgresEngine& engine, std::string_view sql);
@@ -34,7 +34,8 @@ class PostgresStatement : public Statement, private Link::Reader {
   bool readOn();
   bool readRest();
   bool takeNext();
-  bool isSameAs(int row) const;
+  std::string limited(int rows) const;
+  void requireSame(int row, const Answer& now, int at) const;
   void giveBack();
   static void addRow(RowStore& rows, const Answer& from, int row);
   bool isWide(const Literal& value) const;
@@ -48,7 +49,7 @@ class PostgresStatement : public Statement, private Link::Reader {
   std::string slice_;  // the same for the first rows alone
   Traits traits_;
   std::vector<char> whole_;  // for each value, whether a whole number is expected
-  int few_ = 0;
+  int few_ = 0;              // as many as were asked for
   Request request_;
   std::string texts_;                // the values, each closed by a zero byte
   std::vector<std::size_t> places_;  // where in there each begins; kNull for Null
