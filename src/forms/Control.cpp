@@ -40,6 +40,8 @@ void Control::setToolTip(std::string text) {
   changed(Change::ToolTip);
 }
 
+void Control::take(const Offer&) {}
+
 void Control::enteredByFocus() {
   if (onGotFocus) onGotFocus();
 }

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "forms/Key.h"
 
@@ -24,7 +26,14 @@ enum class Change {
   Grid,
   Tab,
   Progress,
-  ToolTip
+  ToolTip,
+  Doubt
+};
+
+/// What a field offers while one types.
+struct Offer {
+  std::string text;
+  std::int64_t data = 0;
 };
 
 /// A named part of a form. Lives as a member of its form and is registered by its constructor;
@@ -65,7 +74,16 @@ class Control {
   int widthChars() const { return widthChars_; }
   void setWidthChars(int n) { widthChars_ = n; }
 
+  /// Enter goes past it, as it does past buttons; Tab and mouse reach it.
+  bool passedByEnter() const { return passedByEnter_; }
+  void setPassedByEnter(bool on) { passedByEnter_ = on; }
+
   std::string Tag;
+
+  /// The best few for what has been typed, the likeliest first. Asked at every key.
+  std::function<std::vector<Offer>(const std::string& typed)> offers;
+  /// The user has chosen one of them.
+  virtual void take(const Offer& offer);
 
   std::function<void()> onGotFocus;
   /// `next` is where the focus goes; null when it is not known.
@@ -88,6 +106,7 @@ class Control {
   std::string name_;
   bool enabled_ = true;
   bool visible_ = true;
+  bool passedByEnter_ = false;
   int widthChars_ = 0;
   std::string toolTip_;
   Label* label_ = nullptr;

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "forms/Control.h"
+#include "text/Dates.h"
 
 namespace fidaleon::forms {
 
@@ -47,6 +48,9 @@ class Frame : public Control {
 /// another way (paste, code).
 enum class QuoteRule { Replace, Remove, Keep };
 
+/// What stands for a text that is not there.
+inline constexpr const char* DASHES = "---";
+
 /// A field for text. Positions and lengths count code points.
 class TextBox : public Control {
  public:
@@ -80,9 +84,18 @@ class TextBox : public Control {
   QuoteRule quoteRule() const { return quoteRule_; }
   void setQuoteRule(QuoteRule rule) { quoteRule_ = rule; }
 
-  /// What a window offers while one types; any other text may be typed as well.
+  /// Those of these texts that go on from what is typed are offered; any other may be typed too.
   const std::vector<std::string>& suggestions() const { return suggestions_; }
   void setSuggestions(std::vector<std::string> texts);
+  void take(const Offer& offer) override;
+
+  /// A quiet mark under the text, with the reason; empty takes it away, and so does any change.
+  const std::string& doubt() const { return doubt_; }
+  void setDoubt(std::string why);
+  /// It holds dashes alone: shown pale, and gone with the first key.
+  bool holdsDashes() const { return text_ == DASHES; }
+  /// Enter breaks the line. In a form whose fields it goes through, not of a text not yet begun.
+  bool breaksLines() const;
 
   int selStart() const { return selStart_; }
   int selLength() const { return selLength_; }
@@ -122,13 +135,14 @@ class TextBox : public Control {
   bool digitsOnly_ = false;
   QuoteRule quoteRule_ = QuoteRule::Replace;
   std::vector<std::string> suggestions_;
+  std::string doubt_;
   int selStart_ = 0;
   int selLength_ = 0;
 };
 
 /// A text field for a date "dd/mm/yyyy" that may be empty; a window adds a calendar. On leaving,
-/// a date typed in a shorter way ("1/2/98" is not one, "1/2/1998" and "01021998" are) takes its
-/// full form; a text that is no day of the calendar is told to the user and kept for mending.
+/// a date typed in a shorter way (text::parseTyped, by Form::dateSense) takes its full form; a text
+/// that is no day of the calendar is told to the user and kept for mending.
 class DateField : public TextBox {
  public:
   DateField(Form& form, std::string name, std::string caption = {});
@@ -140,6 +154,9 @@ class DateField : public TextBox {
   /// Empty or a day of the calendar.
   bool valid() const;
   void leftByFocus(Control* next) override;
+
+ private:
+  std::optional<text::Date> read() const;
 };
 
 /// A text field for a time of day "HH:mm" that may be empty.
@@ -202,6 +219,9 @@ class ListControl : public Control {
 class ComboBox : public ListControl {
  public:
   using ListControl::ListControl;
+  /// Runs onOffer; without one, chooses the line with the offer's data.
+  void take(const Offer& offer) override;
+  std::function<void(const Offer& offer)> onOffer;
 };
 
 class ListBox : public ListControl {

@@ -124,6 +124,7 @@ void Form::settleFocus(Control* target) {
   // A handler of arrival may send the focus on; a bound keeps two that disagree from looping.
   for (int hops = 0; target && hops < 8; ++hops) {
     active_ = target;
+    visited_.insert(target);
     {
       const Moving moving(moving_);
       active_->enteredByFocus();
@@ -184,16 +185,6 @@ bool Form::userClick(Button& button) {
   return true;
 }
 
-bool Form::pressEnter() {
-  auto* own = dynamic_cast<Button*>(active_);
-  if (own) return userClick(*own);
-  for (Control* control : controls_) {
-    auto* button = dynamic_cast<Button*>(control);
-    if (button && button->isDefault() && button->reachable()) return userClick(*button);
-  }
-  return false;
-}
-
 Control* Form::find(std::string_view name) const {
   const auto found = std::find_if(controls_.begin(), controls_.end(),
                                   [&](const Control* c) { return c->name() == name; });
@@ -207,6 +198,7 @@ void Form::adopt(Control& control) {
 
 void Form::disown(Control& control) {
   std::erase(controls_, &control);
+  visited_.erase(&control);
   if (active_ == &control) active_ = nullptr;
   if (pending_ == &control) pending_ = nullptr;
 }

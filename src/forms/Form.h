@@ -4,6 +4,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -80,7 +81,7 @@ class Form {
   /// What stood in it when it was shown or last stored.
   const Contents& saved() const { return saved_; }
   /// What stands in it now is stored: only what comes after it can be lost.
-  void markSaved() { saved_ = Contents::of(*this); }
+  void markSaved();
   /// Work that stands in no control, as in a list that is kept until the form is accepted: lines
   /// that a user can read, and that putBackOwnWork() understands. Empty when there is none.
   virtual std::string ownWork() const { return {}; }
@@ -100,8 +101,32 @@ class Form {
   void focusNext(bool backwards = false);
   /// Leaves the current field, then clicks if the focus could come and the button is usable.
   bool userClick(Button& button);
-  /// Enter in a form: leaves the field, then presses the default button.
+  /// Enter: presses the button that has the focus. Otherwise goes on to the next field where the
+  /// form enters fields, and presses the default button where it does not.
   bool pressEnter();
+  /// Ctrl+Enter: leaves the field, then presses the default button.
+  bool pressDefault();
+
+  /// Its fields are filled one after the other: Enter goes from each to the next, over the tabs,
+  /// and from the last to the default button.
+  bool entersFields() const { return entersFields_ && !readOnly_; }
+  void setEntersFields(bool on) { entersFields_ = on; }
+  /// Goes on to the next field that can be filled and is not settled.
+  void goOn();
+
+  /// F4: the field takes what stood there in the entry before; with `page`, all fields of its tab
+  /// that the user has not written do.
+  virtual void takeFormer(Control& field, bool page) { (void)field, (void)page; }
+  /// There are entries, and so one before.
+  virtual bool takesFormer() const { return false; }
+  /// What a date that was typed in a short way is read against.
+  virtual text::DateSense dateSense(const DateField& field) const {
+    (void)field;
+    return {};
+  }
+  /// A little work beside what the user does, of a few milliseconds; false when there is none left.
+  /// Whoever shows the form calls it between keys.
+  virtual bool workBeside() { return false; }
 
   const std::vector<Control*>& controls() const { return controls_; }
   /// Null when there is none of that name.
@@ -130,6 +155,11 @@ class Form {
   virtual bool asksOnCancel() const { return false; }
   /// For a form that searches, chooses or shows: nobody misses what stands in it.
   void setDisposable() { disposable_ = true; }
+  /// The program has filled it for the user, who need not stop there. By default: it is not as it
+  /// was when the form was shown or last stored, and the user has not been there since.
+  virtual bool settled(const Control& field) const;
+  /// The user has been in it since then.
+  bool visited(const Control& field) const { return visited_.contains(&field); }
   void setLayout(LayoutNode layout);
 
  private:
@@ -141,6 +171,10 @@ class Form {
   void assignMnemonics() const;
   char32_t mnemonicOf(const Control& control, int tab) const;
   bool mayBeThrownAway();
+  bool isStop(const Control& control) const;
+  Control* nextStop() const;
+  bool bringForward(Control& control);
+  Button* defaultButton() const;
 
   UserInterface& ui_;
   std::string name_;
@@ -157,6 +191,8 @@ class Form {
   bool unloaded_ = false;
   bool abandoned_ = false;
   bool disposable_ = false;
+  bool entersFields_ = false;
+  std::set<const Control*> visited_;
   Contents saved_;
   FormObserver* observer_ = nullptr;
   struct Mnemonic {

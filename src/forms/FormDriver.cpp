@@ -120,6 +120,33 @@ void FormDriver::enter() {
   form_.pressEnter();
 }
 
+void FormDriver::ctrlEnter() {
+  form_.pressDefault();
+}
+
+void FormDriver::former(bool page) {
+  if (form_.activeControl()) form_.takeFormer(*form_.activeControl(), page);
+}
+
+std::vector<std::string> FormDriver::offered(const std::string& name,
+                                             const std::string& typed) const {
+  while (form_.workBeside()) {
+  }
+  const Control& control = require(name);
+  std::vector<std::string> texts;
+  if (control.offers)
+    for (const Offer& offer : control.offers(typed)) texts.push_back(offer.text);
+  return texts;
+}
+
+void FormDriver::takeOffer(const std::string& name, const std::string& typed) {
+  Control& control = require(name);
+  if (!reach(control)) return;
+  const std::vector<Offer> all = control.offers ? control.offers(typed) : std::vector<Offer>();
+  if (all.empty()) return problem("«" + name + "» offers nothing for «" + typed + "»");
+  control.take(all.front());
+}
+
 void FormDriver::escape() {
   form_.requestClose();
 }

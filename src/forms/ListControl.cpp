@@ -75,6 +75,12 @@ void ListControl::setLocked(bool on) {
   changed(Change::Locked);
 }
 
+void ComboBox::take(const Offer& offer) {
+  if (locked() || !usable()) return;
+  if (onOffer) return onOffer(offer);
+  selectData(offer.data);
+}
+
 bool ListBox::selected(int index) const {
   return multiSelect_ ? items_.at(index).selected : index == listIndex();
 }

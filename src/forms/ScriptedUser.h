@@ -32,6 +32,13 @@ class FormDriver {
   void doubleClick(const std::string& grid, int row);
   void focus(const std::string& control);
   void enter();
+  void ctrlEnter();
+  /// F4, and Shift+F4 for the whole page.
+  void former(bool page = false);
+  /// What the field offers for these letters, once all that is read beside the typing has been.
+  std::vector<std::string> offered(const std::string& control, const std::string& typed) const;
+  /// Types them and takes the first offer.
+  void takeOffer(const std::string& control, const std::string& typed);
   void escape();
   void close();
 

@@ -41,6 +41,7 @@ TextBox::TextBox(Form& form, std::string name, std::string caption)
 void TextBox::setText(const std::string& text) {
   if (text == text_) return;
   text_ = text;
+  setDoubt({});
   const int end = static_cast<int>(text::length(text_));
   setSelection(std::min(selStart_, end), 0);
   changed(Change::Text);
@@ -49,7 +50,28 @@ void TextBox::setText(const std::string& text) {
 
 void TextBox::setSuggestions(std::vector<std::string> texts) {
   suggestions_ = std::move(texts);
-  changed(Change::Items);
+  offers = [this](const std::string& typed) {
+    std::vector<Offer> fit;
+    const std::string key = text::searchKey(typed);
+    for (const std::string& text : suggestions_)
+      if (!key.empty() && text::searchKey(text).starts_with(key)) fit.push_back({text, 0});
+    return fit;
+  };
+}
+
+void TextBox::take(const Offer& offer) {
+  enterText(offer.text);
+  setSelection(static_cast<int>(text::length(text_)), 0);
+}
+
+void TextBox::setDoubt(std::string why) {
+  if (doubt_ == why) return;
+  doubt_ = std::move(why);
+  changed(Change::Doubt);
+}
+
+bool TextBox::breaksLines() const {
+  return multiline() && (!text_.empty() || !form().entersFields());
 }
 
 std::string TextBox::accepted(const std::string& text) const {
@@ -135,6 +157,8 @@ void TextBox::leftByFocus(Control* next) {
 }
 
 void TextBox::filterKey(KeyPress& key) {
+  const bool edits = key.character >= U' ' || key.key == Key::Backspace || key.key == Key::Delete;
+  if (holdsDashes() && edits && !locked() && !key.ctrl && !key.alt) selectAll();
   if (onKeyPress) onKeyPress(key);
   if (key.changed() || locked() || key.ctrl || key.alt) return;
   if (key.character == U'"' && quoteRule_ != QuoteRule::Keep) key.replaceWith("''");
@@ -172,7 +196,7 @@ void TextBox::press(KeyPress key) {
   }
   if (key.key == Key::Character || key.key == Key::Space)
     return insertAtCaret(text::toUtf8(std::u32string(1, key.character)));
-  if (key.key == Key::Enter && multiline()) return insertAtCaret("\r\n");
+  if (key.key == Key::Enter && breaksLines()) return insertAtCaret("\r\n");
   if (key.key != Key::Backspace && key.key != Key::Delete) return;
   if (selLength_ == 0 && key.key == Key::Backspace && selStart_ > 0) setSelection(selStart_ - 1, 1);
   if (selLength_ == 0 && key.key == Key::Delete) setSelection(selStart_, 1);
@@ -181,12 +205,18 @@ void TextBox::press(KeyPress key) {
 
 DateField::DateField(Form& form, std::string name, std::string caption)
     : TextBox(form, std::move(name), std::move(caption)) {
-  setMaxLength(10);
+  setMaxLength(24);  // "12 de septiembre de 1924"
   setWidthChars(11);
 }
 
+std::optional<text::Date> DateField::read() const {
+  const std::string typed = text::trim(text());
+  const auto whole = text::parseShort(typed);
+  return whole || typed.empty() ? whole : text::parseTyped(typed, form().dateSense(*this));
+}
+
 std::string DateField::stored() const {
-  const auto date = text::parseShort(text::trim(text()));
+  const auto date = read();
   return date ? text::toStored(*date) : std::string();
 }
 
@@ -196,14 +226,12 @@ void DateField::setStored(std::string_view yyyymmdd) {
 }
 
 bool DateField::valid() const {
-  return text::trim(text()).empty() || text::parseShort(text::trim(text())).has_value();
+  return text::trim(text()).empty() || read().has_value();
 }
 
 void DateField::leftByFocus(Control* next) {
-  std::string typed = text::trim(text());
-  if (typed.size() == 8 && onlyDigits(typed) == typed)
-    typed = typed.substr(0, 2) + "/" + typed.substr(2, 2) + "/" + typed.substr(4);
-  if (const auto date = text::parseShort(typed); date && !locked()) setText(text::toShort(*date));
+  const std::string typed = text::trim(text());
+  if (const auto date = read(); date && !locked()) setText(text::toShort(*date));
   TextBox::leftByFocus(next);
   const auto* button = dynamic_cast<const Button*>(next);
   if (valid() || (button && button->isCancel())) return;

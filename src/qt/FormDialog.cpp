@@ -23,6 +23,8 @@ using forms::Control;
 namespace {
 
 constexpr double SHARE_OF_SCREEN = 0.95;
+constexpr int BESIDE_THE_KEYS_MS = 25;
+constexpr int NOTHING_TO_DO_MS = 1000;
 
 /// Counts a block in which the focus moves by our own doing.
 class Settling {
@@ -88,6 +90,10 @@ FormDialog::FormDialog(forms::Form& form, QWidget* parent, Use use, QSize room)
   fitScreen();
   if (use_ == Use::Picture) return;
   form_.setObserver(this);
+  connect(&beside_, &QTimer::timeout, this, [this] {
+    if (form_.isUnloaded()) return beside_.stop();
+    beside_.setInterval(form_.workBeside() ? BESIDE_THE_KEYS_MS : NOTHING_TO_DO_MS);
+  });
   connect(qApp, &QApplication::focusChanged, this,
           [this](QWidget*, QWidget* now) { userWent(now); });
 }
@@ -216,6 +222,7 @@ void FormDialog::showEvent(QShowEvent* event) {
   if (use_ == Use::Picture || event->spontaneous()) return;
   if (!form_.activeControl()) form_.focusFirst();
   pushFocus();
+  beside_.start(BESIDE_THE_KEYS_MS);
 }
 
 void FormDialog::changeEvent(QEvent* event) {
@@ -228,11 +235,16 @@ void FormDialog::changeEvent(QEvent* event) {
 
 void FormDialog::keyPressEvent(QKeyEvent* event) {
   const bool ctrl = event->modifiers().testFlag(Qt::ControlModifier);
+  const bool shift = event->modifiers().testFlag(Qt::ShiftModifier);
   switch (event->key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
-      if (!ctrl) form_.pressEnter();
-      return;
+      // One held too long must not run through the fields and file what is there.
+      if (!event->isAutoRepeat()) ctrl ? form_.pressDefault() : form_.pressEnter();
+      return pushFocus();
+    case Qt::Key_F4:
+      if (Control* at = form_.activeControl()) form_.takeFormer(*at, shift);
+      return pushFocus();
     case Qt::Key_Escape:
       return form_.requestClose();
     case Qt::Key_PageUp:

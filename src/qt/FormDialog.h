@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QDialog>
+#include <QTimer>
 #include <map>
 #include <memory>
 
@@ -63,6 +64,7 @@ class FormDialog : public QDialog, private forms::FormObserver {
   std::map<const QWidget*, ControlView*> byWidget_;
   int settling_ = 0;  // the focus moves by our own doing
   Qt::FocusReason reason_ = Qt::OtherFocusReason;
+  QTimer beside_;  // when the form may do what it has to do beside the keys
 };
 
 }  // namespace fidaleon::qt

@@ -116,6 +116,7 @@ void frmEncargado::elegirUltimo() {
   const store::Recordset rs = conBaseDatos->Execute("SELECT * FROM Ultimos WHERE IDInstitucion=" +
                                                     std::to_string(lngInstitucion));
   if (!rs.EOF_()) cboEncargado.selectText(rs.text("Encargado"));
+  if (cboEncargado.listIndex() < 0 && cboEncargado.listCount() == 1) cboEncargado.setListIndex(0);
 }
 
 void frmEncargado::agregarEncargado() {

@@ -70,6 +70,64 @@ std::optional<Date> parseShort(std::string_view typed) {
   return isValid(d) ? std::optional(d) : std::nullopt;
 }
 
+namespace {
+
+/// Runs of digits and of letters; empty when anything but one sign or blanks stands between them.
+std::vector<std::string> words(std::string_view typed) {
+  std::vector<std::string> found;
+  bool open = false;
+  int signs = 0;
+  for (const char c : typed) {
+    const bool digit = c >= '0' && c <= '9';
+    const bool letter = (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
+    if (!digit && !letter) {
+      open = false;
+      if (c == ' ') continue;
+      if (std::string_view("/-.,").find(c) == std::string_view::npos || ++signs > 1) return {};
+      continue;
+    }
+    const bool wasDigit = open && found.back().back() <= '9';
+    if (!open || wasDigit != digit) found.emplace_back();
+    found.back() += letter ? static_cast<char>(c | 0x20) : c;
+    open = true;
+    signs = 0;
+  }
+  return found;
+}
+
+/// 0 for what is no month, or not one alone.
+int monthOf(const std::string& word) {
+  if (allDigits(word)) return word.size() <= 2 ? number(word) : 0;
+  static constexpr std::array<std::string_view, 13> names = {
+      "enero",  "febrero",    "marzo",   "abril",     "mayo",      "junio",    "julio",
+      "agosto", "septiembre", "octubre", "noviembre", "diciembre", "setiembre"};
+  if (word.size() < 3) return 0;
+  for (std::size_t i = 0; i < names.size(); ++i)
+    if (names[i].starts_with(word)) return i == 12 ? 9 : static_cast<int>(i) + 1;
+  return 0;
+}
+
+/// 0 when it is none.
+int yearOf(const std::string& digits, const DateSense& sense) {
+  if (!allDigits(digits)) return 0;
+  if (digits.size() == 4) return number(digits);
+  if (digits.size() != 2 || sense.latestYear == 0) return 0;
+  return sense.latestYear - (sense.latestYear - number(digits)) % 100;
+}
+
+}  // namespace
+
+std::optional<Date> parseTyped(std::string_view typed, const DateSense& sense) {
+  std::vector<std::string> parts = words(typed);
+  std::erase_if(parts, [](const std::string& w) { return w == "de" || w == "del"; });
+  if (parts.size() == 1 && parts[0] == "hoy") return sense.today;
+  if (parts.size() == 1 && allDigits(parts[0]) && (parts[0].size() == 6 || parts[0].size() == 8))
+    parts = {parts[0].substr(0, 2), parts[0].substr(2, 2), parts[0].substr(4)};
+  if (parts.size() != 3 || !allDigits(parts[0]) || parts[0].size() > 2) return std::nullopt;
+  const Date d{yearOf(parts[2], sense), monthOf(parts[1]), number(parts[0])};
+  return isValid(d) ? std::optional(d) : std::nullopt;
+}
+
 std::string toStored(const Date& d) {
   return padded(d.year, 4) + padded(d.month, 2) + padded(d.day, 2);
 }

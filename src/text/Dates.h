@@ -21,6 +21,15 @@ bool isValid(const Date& d);
 std::optional<Date> parseStored(std::string_view stored);
 /// "d/m/yyyy" and "dd/mm/yyyy", also with "-" or "."; empty when it is no day of the calendar.
 std::optional<Date> parseShort(std::string_view typed);
+
+/// What a date typed in a short way is read against.
+struct DateSense {
+  std::optional<Date> today;  // what "hoy" is
+  int latestYear = 0;         // the last one that two digits may mean; 0: they mean none
+};
+/// What parseShort() reads, and besides "3-5-24", "030524", "03051924", "3 may 1924", "3 de mayo de
+/// 1924" and "hoy". Empty when it is no day of the calendar.
+std::optional<Date> parseTyped(std::string_view typed, const DateSense& sense);
 std::string toStored(const Date& d);
 std::string toShort(const Date& d);
 

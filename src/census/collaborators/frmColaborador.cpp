@@ -6,6 +6,7 @@
 
 #include "census/collaborators/TablasColaborador.h"
 #include "census/common/CamposPersona.h"
+#include "core/contract/Teclado.h"
 #include "core/dialogs/Guard.h"
 #include "core/lists/Rejilla.h"
 #include "core/lists/cIListas.h"
@@ -68,6 +69,7 @@ frmColaborador::frmColaborador(Contexto& contexto)
       msgActividades(*this, "msgActividades"),
       cmdActividad(*this, "cmdActividad"),
       cmdColaborador(*this, "cmdColaborador") {
+  setEntersFields(introPasaDeCampo(contexto.entorno.settings));
   crearTextos();
   crearLugar(DOMICILIO, ProvinciaDomicilio);
   crearLugar(BAUTISMO, ProvinciaBautismo);

@@ -2,6 +2,7 @@
 
 #include "census/common/CamposPersona.h"
 #include "census/persons/frmPadron.h"
+#include "core/contract/Teclado.h"
 
 namespace fidaleon {
 
@@ -45,6 +46,7 @@ frmPadron::frmPadron(Contexto& contexto)
       coincidencias_(contexto, txtPadron.add(Nombre, "NOMBRE:"),
                      txtPadron.add(PrimerApellido, "PRIMER APELLIDO:"),
                      txtPadron.add(SegundoApellido, "SEGUNDO APELLIDO:"), FDAPI::cCOrigen::PADRON) {
+  setEntersFields(introPasaDeCampo(contexto.entorno.settings));
   crearCampos();
   crearSacramentos();
   crearBotones();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -10,6 +11,7 @@ namespace fidaleon {
 
 inline constexpr const char* MODULO = "FidaleonNucleo";
 
+class Memoria;
 class TransaccionSinVuelta;
 
 /// What the operations and dialogs of the library share: the environment, and the one slot that
@@ -24,6 +26,8 @@ struct Contexto {
   std::string ficheroAyuda;
   /// Those that stand open, the innermost last; kept by themselves.
   mutable std::vector<TransaccionSinVuelta*> transacciones;
+  /// What has been written at this desk; made by who first asks for it.
+  mutable std::shared_ptr<Memoria> memoria;
 
   forms::UserInterface& ui() const { return entorno.ui; }
   std::unique_ptr<FDAPI::cFidaleon> fidaleon() const { return entorno.support.create_cFidaleon(); }

@@ -10,6 +10,12 @@ namespace fidaleon {
 
 /// A dialog of the library: a form that knows what its procedures work with.
 class Dialogo : public forms::Form {
+ public:
+  text::DateSense dateSense(const forms::DateField&) const override {
+    const text::Date today = contexto_.entorno.clock.today();
+    return {today, today.year};
+  }
+
  protected:
   Dialogo(Contexto& contexto, std::string nombre)
       : Form(contexto.ui(), std::move(nombre)), contexto_(contexto) {}

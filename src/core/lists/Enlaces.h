@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "core/lists/ParProvinciaPoblacion.h"
+#include "forms/Contents.h"
 #include "forms/Controls.h"
 
 namespace fidaleon {
@@ -54,6 +55,26 @@ struct Enlaces {
       else
         return valor != -1;
     });
+  }
+
+  /// The record as the fields show it.
+  std::vector<forms::Field> campos(const Registro& r) const {
+    std::vector<forms::Field> todos;
+    const auto poner = [&](const forms::Control& campo, std::string texto, std::int64_t clave = 0) {
+      todos.push_back({campo.name(), {}, std::move(texto), clave});
+    };
+    const auto dia = [](const std::string& guardada) {
+      const auto fecha = text::parseStored(guardada);
+      return fecha ? text::toShort(*fecha) : std::string();
+    };
+    for (const auto& [campo, m] : textos) poner(*campo, r.*m);
+    for (const auto& [campo, m] : numeros) poner(*campo, r.*m == 0 ? "" : std::to_string(r.*m));
+    for (const auto& [campo, m] : bytes) poner(*campo, r.*m == 0 ? "" : std::to_string(r.*m));
+    for (const auto& [campo, m] : fechas) poner(*campo, dia(r.*m));
+    for (const auto& [campo, m] : horas) poner(*campo, text::parseTime(r.*m).value_or(""));
+    for (const auto& [par, m] : municipios) poner(par->poblacion(), {}, r.*m);
+    for (const auto& [lista, m] : listas) poner(*lista, r.*m);
+    return todos;
   }
 
  private:

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "core/dialogs/Guard.h"
+#include "core/lists/Memoria.h"
 
 namespace fidaleon {
 
@@ -20,6 +21,32 @@ ParProvinciaPoblacion::ParProvinciaPoblacion(Contexto& contexto, forms::ComboBox
   poblacion_.onKeyPress = [this](forms::KeyPress& tecla) {
     contexto_.fidaleon()->Comprobar_borrarcombo(tecla, poblacion_);
   };
+  provincia_.setPassedByEnter(true);
+  poblacion_.offers = [this](const std::string& tecleado) { return proponer(tecleado); };
+  poblacion_.onOffer = [this](const forms::Offer& lugar) { elegir(lugar.data); };
+}
+
+std::vector<forms::Offer> ParProvinciaPoblacion::proponer(const std::string& tecleado) const {
+  std::vector<forms::Offer> lugares;
+  if (!conexion_) return lugares;
+  guarded(contexto_, provincia_.form().name(), "cboPoblacion_Change", [&] {
+    Memoria& memoria = Memoria::de(contexto_);
+    lugares =
+        memoria.lugares.proponer(*conexion_, memoria.vocabulario, tecleado, provincia_.data());
+  });
+  return lugares;
+}
+
+void ParProvinciaPoblacion::elegir(std::int64_t idMunicipio) {
+  if (!conexion_ || poblacion_.locked() || provincia_.locked()) return;
+  guarded(contexto_, provincia_.form().name(), "cboPoblacion_Click", [&] {
+    const store::Recordset fila = conexion_->Execute(
+        "SELECT CodProvincia FROM Municipio WHERE IDMunicipio=" + std::to_string(idMunicipio));
+    const std::int64_t suya = fila.EOF_() ? 0 : fila.integer("CodProvincia");
+    if (suya == 0 || (provincia_.data() != suya && !provincia_.selectData(suya)) ||
+        !poblacion_.selectData(idMunicipio))
+      provincia_.form().ui().beep();
+  });
 }
 
 void ParProvinciaPoblacion::abrir(FDAPI::Conexion& conexion) {

@@ -7,8 +7,8 @@
 
 namespace fidaleon {
 
-/// A municipality on a dialog: a list of provinces and, of the chosen one, its towns. The lists
-/// are the dialog's.
+/// A municipality on a dialog: a list of provinces and, of the chosen one, its towns. In the list
+/// of towns, those of all provinces are found by typing. The lists are the dialog's.
 class ParProvinciaPoblacion {
  public:
   ParProvinciaPoblacion(Contexto& contexto, forms::ComboBox& provincia, forms::ComboBox& poblacion);
@@ -23,12 +23,19 @@ class ParProvinciaPoblacion {
   std::int32_t valor() const { return static_cast<std::int32_t>(poblacion_.data()); }
   bool visible() const { return provincia_.visible(); }
   forms::ComboBox& poblacion() const { return poblacion_; }
+  bool tiene(const forms::Control& lista) const {
+    return &lista == &provincia_ || &lista == &poblacion_;
+  }
+  /// Chooses a municipality the way the user does: first the province, then the town. Locked lists
+  /// stay as they are.
+  void elegir(std::int64_t idMunicipio);
   /// Reads both lists anew and keeps what was chosen.
   void refrescar();
   /// The same without a town, which has been deleted.
   void olvidarPoblacion();
 
  private:
+  std::vector<forms::Offer> proponer(const std::string& tecleado) const;
   void llenarPoblaciones(std::int32_t elegida);
 
   Contexto& contexto_;

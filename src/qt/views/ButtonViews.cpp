@@ -20,6 +20,12 @@ ButtonView::ButtonView(forms::Button& button, QWidget* parent)
   watch();
 }
 
+/// An Enter held too long, which has come here through the fields.
+bool ButtonView::keyPressed(QKeyEvent& event) {
+  const bool enter = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+  return (enter && event.isAutoRepeat()) || ControlView::keyPressed(event);
+}
+
 QWidget* ButtonView::widget() const {
   return button_;
 }

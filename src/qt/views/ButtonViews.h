@@ -17,6 +17,9 @@ class ButtonView : public ControlView {
   QWidget* widget() const override;
   void showCaption() override;
 
+ protected:
+  bool keyPressed(QKeyEvent& event) override;
+
  private:
   forms::Button& model_;
   QPushButton* button_;

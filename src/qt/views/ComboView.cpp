@@ -10,6 +10,7 @@
 #include <QStylePainter>
 
 #include "qt/Appearance.h"
+#include "qt/Text.h"
 
 namespace fidaleon::qt {
 
@@ -29,10 +30,16 @@ class ListPopups : public QProxyStyle {
 class LockableCombo : public QComboBox {
  public:
   LockableCombo(const forms::ComboBox& list, QWidget* parent) : QComboBox(parent), list_(list) {}
+  /// Shown in the place of the chosen line while it is looked for.
+  void setTyped(const QString& typed) {
+    typed_ = typed;
+    update();
+  }
 
  protected:
   void paintEvent(QPaintEvent* event) override {
-    if (!list_.locked()) return QComboBox::paintEvent(event);
+    if (!list_.locked() && typed_.isEmpty()) return QComboBox::paintEvent(event);
+    if (!list_.locked()) return paintTyped();
     QStyleOptionFrame frame;
     frame.initFrom(this);
     frame.state |= QStyle::State_Sunken | QStyle::State_ReadOnly;
@@ -47,7 +54,17 @@ class LockableCombo : public QComboBox {
   }
 
  private:
+  void paintTyped() {
+    QStylePainter painter(this);
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    option.currentText = typed_ + QStringLiteral("\u2502");
+    painter.drawComplexControl(QStyle::CC_ComboBox, option);
+    painter.drawControl(QStyle::CE_ComboBoxLabel, option);
+  }
+
   const forms::ComboBox& list_;
+  QString typed_;
 };
 
 }  // namespace
@@ -63,6 +80,8 @@ ComboView::ComboView(forms::ComboBox& list, QWidget* parent)
   if (auto* lines = qobject_cast<QListView*>(combo_->view())) lines->setUniformItemSizes(true);
   combo_->setModel(&model());
   connect(combo_, &QComboBox::activated, this, [this](int index) { choose(index); });
+  offers_ = std::make_unique<OfferList>(*combo_);
+  offers_->onClick = [this](const forms::Offer& offer) { take(offer); };
   watch();
 }
 
@@ -78,6 +97,7 @@ void ComboView::fixWidth(int letters) {
 }
 
 bool ComboView::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == combo_ && event->type() == QEvent::FocusOut && !typed_.isEmpty()) look({});
   if (watched == combo_ && event->type() == QEvent::Wheel) {
     // Scrolling a page must not change a choice under the pointer.
     event->ignore();
@@ -89,7 +109,43 @@ bool ComboView::eventFilter(QObject* watched, QEvent* event) {
   return press && locked();
 }
 
+void ComboView::look(const QString& typed) {
+  typed_ = typed;
+  static_cast<LockableCombo*>(combo_)->setTyped(typed);
+  offers_->show(typed.isEmpty() ? std::vector<forms::Offer>() : list().offers(fromQt(typed)), true);
+}
+
+void ComboView::take(const forms::Offer& offer) {
+  const forms::Offer taken = offer;
+  look({});
+  list().take(taken);
+  flush();
+}
+
+/// Letters look for an offer, and Enter or Tab takes the one in front.
+bool ComboView::looksFor(QKeyEvent& event) {
+  const bool plain = !(event.modifiers() & (Qt::ControlModifier | Qt::AltModifier));
+  const QString letters = event.text();
+  if (plain && !letters.isEmpty() && letters.front().isPrint() &&
+      (letters != QStringLiteral(" ") || !typed_.isEmpty())) {
+    look(typed_ + letters);
+    return true;
+  }
+  if (typed_.isEmpty()) return false;
+  const bool enter = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+  if (enter || event.key() == Qt::Key_Tab) {
+    const forms::Offer* chosen = offers_->chosen();
+    if (!chosen) list().form().ui().beep();
+    if (chosen) take(*chosen);
+    return !chosen || (enter && !list().form().entersFields());
+  }
+  if (event.key() == Qt::Key_Backspace) look(typed_.chopped(1));
+  if (event.key() == Qt::Key_Escape) look({});
+  return event.key() == Qt::Key_Backspace || event.key() == Qt::Key_Escape || offers_->moves(event);
+}
+
 bool ComboView::keyPressed(QKeyEvent& event) {
+  if (list().offers && !locked() && looksFor(event)) return true;
   if (event.matches(QKeySequence::Copy)) {
     QGuiApplication::clipboard()->setText(combo_->currentText());
     return true;

@@ -1,6 +1,9 @@
 #pragma once
 
+#include <memory>
+
 #include "qt/views/ListView.h"
+#include "qt/views/OfferList.h"
 
 class QComboBox;
 class QStyle;
@@ -22,7 +25,13 @@ class ComboView : public ListView {
   void showLocked() override;
 
  private:
+  void look(const QString& typed);
+  void take(const forms::Offer& offer);
+  bool looksFor(QKeyEvent& event);
+
   QComboBox* combo_;
+  std::unique_ptr<OfferList> offers_;
+  QString typed_;  // of what is looked for among the offers
 };
 
 }  // namespace fidaleon::qt

@@ -67,14 +67,20 @@ bool ControlView::keyPressed(QKeyEvent& event) {
 
 namespace {
 
-/// Keys that switch the tabs of the form, whatever the widget would do with them.
-bool switchesTabs(const QKeyEvent& event) {
+/// Keys that are the form's, whatever the widget would do with them: those that switch its tabs,
+/// accept it, or take what stood in the entry before.
+bool isForTheForm(const QKeyEvent& event, const forms::Form& form) {
+  const bool ctrl = event.modifiers().testFlag(Qt::ControlModifier);
   switch (event.key()) {
     case Qt::Key_Tab:
     case Qt::Key_Backtab:
     case Qt::Key_PageUp:
     case Qt::Key_PageDown:
-      return event.modifiers().testFlag(Qt::ControlModifier);
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+      return ctrl;
+    case Qt::Key_F4:
+      return form.takesFormer() && !ctrl && !event.modifiers().testFlag(Qt::AltModifier);
     default:
       return false;
   }
@@ -86,7 +92,7 @@ bool ControlView::eventFilter(QObject* watched, QEvent* event) {
   switch (event->type()) {
     case QEvent::KeyPress:
       flush();
-      if (switchesTabs(static_cast<QKeyEvent&>(*event))) {
+      if (isForTheForm(static_cast<QKeyEvent&>(*event), control_.form())) {
         event->ignore();
         return true;
       }

@@ -22,7 +22,7 @@ DateView::DateView(forms::DateField& field, QWidget* parent)
   edit()->setPlaceholderText(QStringLiteral("dd/mm/aaaa"));
   button_->setFocusPolicy(Qt::NoFocus);
   button_->setIcon(calendarIcon(*button_));
-  button_->setToolTip(QStringLiteral("Elegir en el calendario (F4)"));
+  button_->setToolTip(QStringLiteral("Elegir en el calendario (Alt + flecha abajo)"));
   button_->setAccessibleName(QStringLiteral("Calendario"));
   connect(button_, &QToolButton::clicked, this, [this] { showCalendar(); });
   auto* row = new QHBoxLayout(both_);

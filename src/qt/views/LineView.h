@@ -1,5 +1,6 @@
 #pragma once
 
+#include "qt/views/OfferList.h"
 #include "qt/views/TextView.h"
 
 class QLineEdit;
@@ -13,9 +14,10 @@ class LineView : public TextView {
   QWidget* widget() const override;
   QWidget* focusWidget() const override;
   void fixWidth(int letters) override;
-  void refresh(forms::Change what) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
  protected:
+  bool keyPressed(QKeyEvent& event) override;
   QLineEdit* edit() const { return edit_; }
   std::string shownText() const override;
   void showText(const std::string& text, bool undoable) override;
@@ -23,11 +25,13 @@ class LineView : public TextView {
   std::pair<int, int> shownSelection() const override;
   void showSelection(int start, int length) override;
   void showLocked() override;
+  void showDoubt() override;
 
  private:
-  void offerSuggestions();
+  void offer();
 
   QLineEdit* edit_;
+  OfferList offers_;
 };
 
 }  // namespace fidaleon::qt

@@ -95,6 +95,13 @@ void MemoView::showText(const std::string& text, bool undoable) {
   edit_->setTextCursor(cursor);
 }
 
+bool MemoView::keyPressed(QKeyEvent& event) {
+  const bool enter = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+  if (!enter || box().breaksLines()) return TextView::keyPressed(event);
+  event.ignore();  // the form goes on with it
+  return true;
+}
+
 void MemoView::insertText(const QString& text) {
   edit_->insertPlainText(withoutCr(text));
 }
@@ -125,10 +132,7 @@ void MemoView::showLocked() {
   edit_->setReadOnly(box().locked());
   if (box().locked())  // readable with the keyboard too
     edit_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-  QPalette palette;
-  if (box().locked())
-    palette.setColor(QPalette::Base, lockedColour(edit_->parentWidget()->palette()));
-  edit_->setPalette(palette);
+  edit_->setPalette(tone());
 }
 
 }  // namespace fidaleon::qt

@@ -16,6 +16,7 @@ class MemoView : public TextView {
   QWidget* widget() const override;
 
  protected:
+  bool keyPressed(QKeyEvent& event) override;
   std::string shownText() const override;
   void showText(const std::string& text, bool undoable) override;
   void insertText(const QString& text) override;

@@ -4,6 +4,7 @@
 #include <QInputMethodEvent>
 #include <QScopedValueRollback>
 
+#include "qt/Appearance.h"
 #include "qt/Keys.h"
 #include "qt/Text.h"
 #include "text/Utf8.h"
@@ -16,10 +17,21 @@ using forms::KeyPress;
 void TextView::refresh(Change what) {
   ControlView::refresh(what);
   if (what == Change::Locked || what == Change::Enabled) return showLocked();
+  if (what == Change::Doubt) return showDoubt();
+  if (what == Change::Text && std::exchange(pale_, box_.holdsDashes()) != pale_) showLocked();
   if (showing_ || (what != Change::Text && what != Change::Selection)) return;
   const QScopedValueRollback guard(showing_, true);
   if (what == Change::Text && shownText() != box_.text()) showText(box_.text(), editing_);
   if (shownText() == box_.text() && !editing_) showSelection(box_.selStart(), box_.selLength());
+}
+
+QPalette TextView::tone() const {
+  QPalette palette;
+  const QPalette& around = focusWidget()->parentWidget()->palette();
+  if (box_.locked()) palette.setColor(QPalette::Base, lockedColour(around));
+  if (box_.holdsDashes())
+    palette.setColor(QPalette::Text, around.color(QPalette::Disabled, QPalette::Text));
+  return palette;
 }
 
 void TextView::userEdited() {

@@ -32,6 +32,9 @@ class TextView : public ControlView {
   virtual std::pair<int, int> shownSelection() const = 0;
   virtual void showSelection(int start, int length) = 0;
   virtual void showLocked() = 0;
+  /// Of the widget: locked, or pale where it holds dashes alone.
+  QPalette tone() const;
+  virtual void showDoubt() {}
 
  private:
   bool inputMethod(QInputMethodEvent& event);
@@ -42,6 +45,7 @@ class TextView : public ControlView {
   forms::TextBox& box_;
   bool editing_ = false;      // the user is at it, undo is to be kept
   bool showing_ = false;      // the widget's signals are our own doing
+  bool pale_ = false;         // as dashes are shown
   bool clickedInto_ = false;  // the button that brought the focus is still down
 };
 

@@ -75,6 +75,11 @@ frmPartidaBautismo::frmPartidaBautismo(Contexto& contexto)
   for (forms::TextBox* parroquia :
        {&txtSC[PadreParroquia], &txtPartida[ParroquiaMatrimonio], &txtPartida[ParroquiaBautismo]})
     parroquia->onGotFocus = [this] { BuscarDatos(0); };
+  for (const Texto suyo : {NombreHijo, Padrino, Madrina, Observaciones, NotasMarginales})
+    deCadaUno(txtPartida[suyo]);
+  for (const Texto nuestro : {TelefonoPadre, EmailPadre, TelefonoMadre, EmailMadre, TelefonoPadres})
+    deHoy(txtPartida[nuestro]);
+  for (const TextoSC suyo : {EdadPadrino, EdadMadrina}) deCadaUno(txtSC[suyo]);
   disponer(paginas());
 }
 
@@ -83,33 +88,41 @@ void frmPartidaBautismo::crearCampos() {
   using Hoy = RevisionFechas::Hoy;
   const CampoTexto campos[] = {
       {NombreHijo, "NOMBRE:", &B::NombreHijo, Clase::Nombre},
-      {PrimerApellidoHijo, "PRIMER APELLIDO", &B::PrimerApellidoHijo, Clase::Nombre},
-      {SegundoApellidoHijo, "SEGUNDO APELLIDO:", &B::SegundoApellidoHijo, Clase::Nombre},
-      {DireccionNac, "DIRECCION DE NACIMIENTO:", &B::DireccionNacHijo},
+      {PrimerApellidoHijo, "PRIMER APELLIDO", &B::PrimerApellidoHijo, Clase::Nombre, Voz::Apellido},
+      {SegundoApellidoHijo, "SEGUNDO APELLIDO:", &B::SegundoApellidoHijo, Clase::Nombre,
+       Voz::Apellido},
+      {DireccionNac, "DIRECCION DE NACIMIENTO:", &B::DireccionNacHijo, Clase::Texto,
+       Voz::Domicilio},
       {NombrePadre, "NOMBRE:", &B::NombrePadres, Clase::Nombre},
-      {PrimerApellidoPadre, "PRIMER APELLIDO:", &B::PrimerApellidoPadres, Clase::Nombre},
-      {SegundoApellidoPadre, "SEGUNDO APELLIDO:", &B::SegundoApellidoPadres, Clase::Nombre},
+      {PrimerApellidoPadre, "PRIMER APELLIDO:", &B::PrimerApellidoPadres, Clase::Nombre,
+       Voz::Apellido},
+      {SegundoApellidoPadre, "SEGUNDO APELLIDO:", &B::SegundoApellidoPadres, Clase::Nombre,
+       Voz::Apellido},
       {TelefonoPadre, "TELÉFONO DEL PADRE:", &B::TelefonoPadre},
       {EmailPadre, "EMAIL DEL PADRE:", &B::EmailPadre},
       {AbueloPaterno, "ABUELO PATERNO:", &B::AbueloPadres, Clase::Nombre},
       {AbuelaPaterna, "ABUELA PATERNA:", &B::AbuelaPadres, Clase::Nombre},
       {NombreMadre, "NOMBRE:", &B::NombreMadres, Clase::Nombre},
-      {PrimerApellidoMadre, "PRIMER APELLIDO:", &B::PrimerApellidoMadres, Clase::Nombre},
-      {SegundoApellidoMadre, "SEGUNDO APELLIDO:", &B::SegundoApellidoMadres, Clase::Nombre},
+      {PrimerApellidoMadre, "PRIMER APELLIDO:", &B::PrimerApellidoMadres, Clase::Nombre,
+       Voz::Apellido},
+      {SegundoApellidoMadre, "SEGUNDO APELLIDO:", &B::SegundoApellidoMadres, Clase::Nombre,
+       Voz::Apellido},
       {TelefonoMadre, "TELÉFONO DE LA MADRE:", &B::TelefonoMadre},
       {EmailMadre, "EMAIL DE LA MADRE:", &B::EmailMadre},
       {AbueloMaterno, "ABUELO MATERNO:", &B::AbueloMadres, Clase::Nombre},
       {AbuelaMaterna, "ABUELA MATERNA:", &B::AbuelaMadres, Clase::Nombre},
-      {ParroquiaMatrimonio, "PARROQUIA:", &B::ParroquiaMatrimonio},
-      {DiocesisMatrimonio, "DIOCESIS:", &B::DiocesisMatrimonio},
-      {DireccionPadres, "DIRECCION DEL MATRIMONIO:", &B::DireccionPadresMatrimonio},
+      {ParroquiaMatrimonio, "PARROQUIA:", &B::ParroquiaMatrimonio, Clase::Texto, Voz::Parroquia},
+      {DiocesisMatrimonio, "DIOCESIS:", &B::DiocesisMatrimonio, Clase::Texto, Voz::Diocesis},
+      {DireccionPadres, "DIRECCION DEL MATRIMONIO:", &B::DireccionPadresMatrimonio, Clase::Texto,
+       Voz::Domicilio},
       {TelefonoPadres, "TELEFONO:", &B::TelefonoPadres},
-      {Ministro, "MINISTRO:", &B::MinistroBautismo, Clase::Nombre},
-      {MinistroCargo, "CARGO:", &B::MinistroCargo},
-      {DiocesisBautismo, "DIOCESIS:", &B::DiocesisBautismo},
-      {ParroquiaBautismo, "PARROQUIA (Lugar):", &B::ParroquiaBautismo},
-      {Padrino, "PADRINO:", &B::PadrinoBautismo, Clase::Nombre},
-      {Madrina, "MADRINA:", &B::MadrinaBautismo, Clase::Nombre},
+      {Ministro, "MINISTRO:", &B::MinistroBautismo, Clase::Nombre, Voz::Ministro},
+      {MinistroCargo, "CARGO:", &B::MinistroCargo, Clase::Texto, Voz::Cargo},
+      {DiocesisBautismo, "DIOCESIS:", &B::DiocesisBautismo, Clase::Texto, Voz::Diocesis},
+      {ParroquiaBautismo, "PARROQUIA (Lugar):", &B::ParroquiaBautismo, Clase::Texto,
+       Voz::Parroquia},
+      {Padrino, "PADRINO:", &B::PadrinoBautismo, Clase::Nombre, Voz::Padrino},
+      {Madrina, "MADRINA:", &B::MadrinaBautismo, Clase::Nombre, Voz::Padrino},
       {NotasMarginales, "NOTAS MARGINALES:", &B::NotasMarginalesBautismo, Clase::Largo},
       {Observaciones, "OBSERVACIONES:", &B::ObservacionesBautismo, Clase::Largo},
   };
@@ -145,16 +158,16 @@ void frmPartidaBautismo::crearCamposDeEdicion() {
   constexpr const char* PROVINCIA = "PROVINCIA DE BAUTISMO:";
   constexpr const char* POBLACION = "POBLACION DE BAUTISMO:";
   const CampoTexto padres[] = {
-      {PadreProfesion, "PROFESION:", &B::PadreProfesion},
-      {MadreProfesion, "PROFESION:", &B::MadreProfesion},
+      {PadreProfesion, "PROFESION:", &B::PadreProfesion, Clase::Texto, Voz::Profesion},
+      {MadreProfesion, "PROFESION:", &B::MadreProfesion, Clase::Texto, Voz::Profesion},
   };
   const CampoTexto parroquias[] = {
-      {PadreParroquia, PARROQUIA, &B::PadreParroquiaBaut},
-      {MadreParroquia, PARROQUIA, &B::MadreParroquiaBaut},
-      {AbueloPatParroquia, PARROQUIA, &B::AbueloPatParroquiaBaut},
-      {AbuelaPatParroquia, PARROQUIA, &B::AbuelaPatParroquiaBaut},
-      {AbueloMatParroquia, PARROQUIA, &B::AbueloMatParroquiaBaut},
-      {AbuelaMatParroquia, PARROQUIA, &B::AbuelaMatParroquiaBaut},
+      {PadreParroquia, PARROQUIA, &B::PadreParroquiaBaut, Clase::Texto, Voz::Parroquia},
+      {MadreParroquia, PARROQUIA, &B::MadreParroquiaBaut, Clase::Texto, Voz::Parroquia},
+      {AbueloPatParroquia, PARROQUIA, &B::AbueloPatParroquiaBaut, Clase::Texto, Voz::Parroquia},
+      {AbuelaPatParroquia, PARROQUIA, &B::AbuelaPatParroquiaBaut, Clase::Texto, Voz::Parroquia},
+      {AbueloMatParroquia, PARROQUIA, &B::AbueloMatParroquiaBaut, Clase::Texto, Voz::Parroquia},
+      {AbuelaMatParroquia, PARROQUIA, &B::AbuelaMatParroquiaBaut, Clase::Texto, Voz::Parroquia},
   };
   const CampoMunicipio lugares[] = {
       {ProvinciaParroquiaPadre, PROVINCIA, POBLACION, &B::PadreCodMunicipioParrBaut},
@@ -167,12 +180,14 @@ void frmPartidaBautismo::crearCamposDeEdicion() {
   const CampoTexto padrinos[] = {
       {EdadPadrino, "EDAD:", &B::EdadPadrino, Clase::Cifras},
       {EdadMadrina, "EDAD:", &B::EdadMadrina, Clase::Cifras},
-      {DomicilioPadrino, "PARROQUIA DE DOMICILIO:", &B::ParroquiaDomicilioPadrino},
-      {DomicilioMadrina, "PARROQUIA DE DOMICILIO:", &B::ParroquiaDomicilioMadrina},
+      {DomicilioPadrino, "PARROQUIA DE DOMICILIO:", &B::ParroquiaDomicilioPadrino, Clase::Texto,
+       Voz::Parroquia},
+      {DomicilioMadrina, "PARROQUIA DE DOMICILIO:", &B::ParroquiaDomicilioMadrina, Clase::Texto,
+       Voz::Parroquia},
   };
   const CampoTexto masPadrinos[] = {
-      {ProfesionPadrino, "PROFESION:", &B::ProfesionPadrino},
-      {ProfesionMadrina, "PROFESION:", &B::ProfesionMadrina},
+      {ProfesionPadrino, "PROFESION:", &B::ProfesionPadrino, Clase::Texto, Voz::Profesion},
+      {ProfesionMadrina, "PROFESION:", &B::ProfesionMadrina, Clase::Texto, Voz::Profesion},
       {NaturalPadrino, "NATURAL DE:", &B::NaturalPadrino},
       {NaturalMadrina, "NATURAL DE:", &B::NaturalMadrina},
       {EstatPadrino, "ESTADO CIVIL:", &B::EstatPadrino},

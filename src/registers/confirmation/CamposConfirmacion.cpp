@@ -73,6 +73,9 @@ frmPartidaConfirmacion::frmPartidaConfirmacion(Contexto& contexto)
   serie(adtpPartida[FechaConfirmacion]);
   serie(cboPartida[ProvinciaParr + 1]);
   for (const Texto comun : {Parroquia, Diocesis, Ministro, CargoMinistro}) serie(txtPartida[comun]);
+  for (const Texto suyo : {Nombre, Padrino, Observaciones, NotasMarginales})
+    deCadaUno(txtPartida[suyo]);
+  for (const Texto nuestro : {Email, Telefono}) deHoy(txtPartida[nuestro]);
   disponer(paginas());
 }
 
@@ -81,21 +84,22 @@ void frmPartidaConfirmacion::crearCampos() {
   using Hoy = RevisionFechas::Hoy;
   const CampoTexto campos[] = {
       {Nombre, "NOMBRE:", &C::Nombre},
-      {PrimerApellido, "PRIMER APELLIDO:", &C::PrimerApellido},
-      {SegundoApellido, "SEGUNDO APELLIDO:", &C::SegundoApellido},
-      {Parroquia, "PARROQUIA (LUGAR):", &C::Parroquia},
-      {Diocesis, "DIÓCESIS:", &C::DiocesisParr},
-      {Ministro, "MINISTRO:", &C::MinistroPrinc},
-      {CargoMinistro, "CARGO DEL MINISTRO:", &C::CargoMinistro},
-      {ParroquiaBaut, "PARROQUIA DE BAUTISMO:", &C::ParroquiaBaut},
-      {DireccionBaut, "DIRECCION DE LA PARROQUIA:", &C::DireccionBaut},
+      {PrimerApellido, "PRIMER APELLIDO:", &C::PrimerApellido, Clase::Texto, Voz::Apellido},
+      {SegundoApellido, "SEGUNDO APELLIDO:", &C::SegundoApellido, Clase::Texto, Voz::Apellido},
+      {Parroquia, "PARROQUIA (LUGAR):", &C::Parroquia, Clase::Texto, Voz::Parroquia},
+      {Diocesis, "DIÓCESIS:", &C::DiocesisParr, Clase::Texto, Voz::Diocesis},
+      {Ministro, "MINISTRO:", &C::MinistroPrinc, Clase::Texto, Voz::Ministro},
+      {CargoMinistro, "CARGO DEL MINISTRO:", &C::CargoMinistro, Clase::Texto, Voz::Cargo},
+      {ParroquiaBaut, "PARROQUIA DE BAUTISMO:", &C::ParroquiaBaut, Clase::Texto, Voz::Parroquia},
+      {DireccionBaut, "DIRECCION DE LA PARROQUIA:", &C::DireccionBaut, Clase::Texto,
+       Voz::Domicilio},
       {LibroBaut, "LIBRO:", &C::LibroBaut},
       {NumeroBaut, "NÚMERO:", &C::NumeroBaut},
       {Email, "EMAIL DEL CONFIRMADO:", &C::EmailConfirmado},
       {Telefono, "TELÉFONO CONTACTO:", &C::TelefonoConfirmado},
-      {Domicilio, "DIRECCION DE RESIDENCIA:", &C::Domicilio},
-      {FeligresDe, "FELIGRESES DE LA PARROQUIA:", &C::FeligresDe},
-      {Padrino, "PADRINO (MADRINA):", &C::Padrino},
+      {Domicilio, "DIRECCION DE RESIDENCIA:", &C::Domicilio, Clase::Texto, Voz::Domicilio},
+      {FeligresDe, "FELIGRESES DE LA PARROQUIA:", &C::FeligresDe, Clase::Texto, Voz::Parroquia},
+      {Padrino, "PADRINO (MADRINA):", &C::Padrino, Clase::Texto, Voz::Padrino},
       {NombrePadre, "NOMBRE DEL PADRE:", &C::NombrePadre},
       {NombreMadre, "NOMBRE DE LA MADRE:", &C::NombreMadre},
       {NotasMarginales, "NOTAS MARGINALES:", &C::NotasMarginales, Clase::Largo},

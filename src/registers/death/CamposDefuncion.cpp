@@ -63,6 +63,7 @@ frmPartidaDefuncion::frmPartidaDefuncion(Contexto& contexto)
   revision().enEsteOrden(adtpPartida[FechaDefuncion], adtpPartida[FechaInhumacion]);
   proponerProgenitor(PrimerApellido, NombrePadre);
   proponerProgenitor(SegundoApellido, NombreMadre);
+  for (const Texto suyo : {Nombre, Observaciones, NotasMarginales}) deCadaUno(txtPartida[suyo]);
   cmdPartida[ACEPTAR].setCaption("&ACEPTAR");
   cmdPartida[CANCELAR].setCaption("&CANCELAR");
   disponer(paginas());
@@ -72,25 +73,27 @@ void frmPartidaDefuncion::crearCampos() {
   using D = cDefuncion;
   using Hoy = RevisionFechas::Hoy;
   const CampoTexto campos[] = {
-      {Parroquia, "PARROQUIA (LUGAR):", &D::Parroquia},
-      {DiocesisParr, "DIÓCESIS DE LA PARROQUIA:", &D::DiocesisParr},
-      {Parroco, "PÁRROCO:", &D::Parroco},
-      {Cementerio, "CEMENTERIO:", &D::Cementerio},
+      {Parroquia, "PARROQUIA (LUGAR):", &D::Parroquia, Clase::Texto, Voz::Parroquia},
+      {DiocesisParr, "DIÓCESIS DE LA PARROQUIA:", &D::DiocesisParr, Clase::Texto, Voz::Diocesis},
+      {Parroco, "PÁRROCO:", &D::Parroco, Clase::Texto, Voz::Ministro},
+      {Cementerio, "CEMENTERIO:", &D::Cementerio, Clase::Texto, Voz::Cementerio},
       {Nombre, "NOMBRE:", &D::Nombre},
-      {PrimerApellido, "PRIMER APELLIDO:", &D::PrimerApellido},
-      {SegundoApellido, "SEGUNDO APELLIDO:", &D::SegundoApellido},
+      {PrimerApellido, "PRIMER APELLIDO:", &D::PrimerApellido, Clase::Texto, Voz::Apellido},
+      {SegundoApellido, "SEGUNDO APELLIDO:", &D::SegundoApellido, Clase::Texto, Voz::Apellido},
       {Consorte, "CONSORTE:", &D::Consorte},
-      {DomicilioActual, "DOMICILIO DE RESIDENCIA:", &D::DomicilioActual},
+      {DomicilioActual, "DOMICILIO DE RESIDENCIA:", &D::DomicilioActual, Clase::Texto,
+       Voz::Domicilio},
       {EstadoCivil, "ESTADO CIVIL:", &D::EstadoCivil},
-      {Causa, "CAUSA:", &D::Causa},
-      {DomicilioDefn, "Domicilio de defunción:", &D::DomicilioDefn},
+      {Causa, "CAUSA:", &D::Causa, Clase::Texto, Voz::Causa},
+      {DomicilioDefn, "Domicilio de defunción:", &D::DomicilioDefn, Clase::Texto, Voz::Domicilio},
       {Edad, "EDAD:", &D::Edad, Clase::Cifras},
       {NombrePadre, "NOMBRE DEL PADRE:", &D::NombrePadre},
       {NombreMadre, "NOMBRE DE LA MADRE:", &D::NombreMadre},
       {NumeroHijos, "Nº hijos:", &D::NumeroHijos, Clase::Cifras},
       {NombresHijos, "NOMBRES DE LOS HIJOS:", &D::NombreHijos, Clase::Largo},
-      {Sacramentos, "RECIBIÓ LOS SANTOS SACRAMENTOS DE:", &D::Sacramentos},
-      {Sacerdote, "ADMINISTRADOS POR EL SACERDOTE:", &D::Sacerdote},
+      {Sacramentos, "RECIBIÓ LOS SANTOS SACRAMENTOS DE:", &D::Sacramentos, Clase::Texto,
+       Voz::Sacramentos},
+      {Sacerdote, "ADMINISTRADOS POR EL SACERDOTE:", &D::Sacerdote, Clase::Texto, Voz::Ministro},
       {Observaciones, "OBSERVACIONES:", &D::Observaciones, Clase::Largo},
       {NotasMarginales, "NOTAS MARGINALES:", &D::NotasMarginales, Clase::Largo},
   };
@@ -120,7 +123,10 @@ void frmPartidaDefuncion::crearCampos() {
   };
   textos(txtPartida, campos);
   textos(txtPartida, contacto);
-  for (const CampoTexto& c : contacto) puedeFaltar(c.indice);
+  for (const CampoTexto& c : contacto) {
+    puedeFaltar(c.indice);
+    deHoy(txtPartida[c.indice]);
+  }
   fechas(fechasDeCampos);
   municipios(lugares);
   hora(txtHoraDefuncion, &D::HoraDefuncion);

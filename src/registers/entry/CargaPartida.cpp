@@ -6,6 +6,7 @@
 #include "core/statements/Sentencia.h"
 #include "forms/Held.h"
 #include "registers/common/Guiones.h"
+#include "registers/entry/Fuentes.h"
 #include "registers/entry/frmPartida.h"
 
 namespace fidaleon {
@@ -51,6 +52,9 @@ void frmPartida::cargar() {
   ocupadas_.reset();
   if (!strPortapapeles.empty()) ui().setClipboardText(strPortapapeles);
   listas_->abrir(*conBaseDatos);
+  Memoria& memoria = Memoria::de(contexto_);
+  memoria.leerDe(fuentesDeRegistros());
+  memoria.ponerAlDia();
   posicion_->abrir(*conBaseDatos, Origen);
   vigilarElecciones();
   for (ParProvinciaPoblacion& par : pares_) par.abrir(*conBaseDatos);
@@ -90,6 +94,7 @@ void frmPartida::mostrarModo() {
   const bool sinNotas = esSolicitud() ? !variante_.notasEnSolicitud
                                       : Operacion == cCOperacion::ANADIR && !variante_.notasEnNueva;
   notas_->setVisible(!sinNotas);
+  for (forms::Control* campo : deHoy_) campo->setPassedByEnter(Operacion == cCOperacion::ANTIGUA);
 }
 
 void frmPartida::limpiarCampos(bool quedaLaSerie) {
@@ -138,6 +143,8 @@ void frmPartida::prepararAlta() {
     llenarLibros();
   }
   if (Origen == cCOrigen::PRINCIPAL && lngInstitucion == 0) listas_->elegirUltimaInstitucion();
+  elegirUnico(institucion());
+  if (lngLibro == 0) elegirUnico(libro());
 }
 
 void frmPartida::prepararSolicitud() {
@@ -161,8 +168,10 @@ void frmPartida::prepararSolicitud() {
     institucion().setLocked(variante_.fijaInstitucionDeSolicitud);
     cmdAltaInstitucion.setEnabled(!variante_.fijaInstitucionDeSolicitud);
     mostrarLeida();
-  } else if (InstitucionSolicitud == 0)
+  } else if (InstitucionSolicitud == 0) {
     listas_->elegirUltimaInstitucion();
+    elegirUnico(institucion());
+  }
 }
 
 void frmPartida::prepararEdicion() {

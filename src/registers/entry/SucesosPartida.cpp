@@ -41,6 +41,7 @@ void frmPartida::crearSucesos() {
       });
     };
   }
+  mirarApellidos();
   sucesosDeBotones();
 }
 
@@ -75,6 +76,7 @@ void frmPartida::cboInstitucion_Click() {
     if (esSolicitud() || lngLibro != 0) return;
     llenarLibros();
     vaciarPosicion();
+    elegirUnico(libro());
   });
 }
 
@@ -176,6 +178,7 @@ void frmPartida::altaMunicipio(AltaEnCatalogo alta) {
   bool agregado = false;
   (contexto_.fidaleon().get()->*alta)(agregado, *conBaseDatos, contexto_.config());
   if (!agregado) return;
+  Memoria::de(contexto_).ponerAlDia();
   for (ParProvinciaPoblacion& par : pares_) par.refrescar();
 }
 

@@ -2,6 +2,7 @@
 
 #include "registers/entry/frmPartida.h"
 
+#include "core/contract/Teclado.h"
 #include "registers/common/Guiones.h"
 
 namespace fidaleon {
@@ -35,6 +36,7 @@ frmPartida::frmPartida(Contexto& contexto, const VariantePartida& variante)
       cmdAltaProvincia(*this, "cmdAltaProvincia", "Agregar Provincia"),
       cmdAltaPoblacion(*this, "cmdAltaPoblacion", "Agregar Población"),
       variante_(variante) {
+  setEntersFields(introPasaDeCampo(contexto.entorno.settings));
   cboPartida.add(variante_.listaInstitucion, "INSTITUCIÓN:").setWidthChars(40);
   cboPartida.add(variante_.listaLibro, "LIBRO:").setWidthChars(40);
   for (auto [indice, etiqueta] : {std::pair{FOLIO, "FOLIO:"}, {NUMERO, "NÚMERO:"}}) {

@@ -12,6 +12,7 @@
 
 #include "core/dialogs/Dialogo.h"
 #include "core/lists/Elecciones.h"
+#include "core/lists/Memoria.h"
 #include "core/lists/ParProvinciaPoblacion.h"
 #include "registers/allocation/PosicionPartida.h"
 #include "registers/common/LimiteNotas.h"
@@ -50,6 +51,13 @@ class frmPartida : public Dialogo {
   /// The institution of a new request, 0 to let the user choose.
   std::int32_t InstitucionSolicitud = 0;
 
+  /// Of the entry stored last at this desk, or of the last one of the book. The page leaves out
+  /// what is of each entry alone.
+  void takeFormer(forms::Control& field, bool page) override;
+  bool takesFormer() const override { return esAlta() && !isReadOnly(); }
+  /// The century is that of the book.
+  text::DateSense dateSense(const forms::DateField& field) const override;
+  bool workBeside() override;
   std::string ownWork() const override;
   std::string putBackOwnWork(const std::string& work) override;
 
@@ -114,6 +122,12 @@ class frmPartida : public Dialogo {
   void crearAnexo(forms::TextBox& campo) { anexos_.push_back(&campo); }
   /// Stays as it is from one entry of a series to the next.
   void serie(const forms::Control& campo) { serie_.insert(&campo); }
+  /// Offers while one types what fields of this kind have held; a surname is looked at on leaving.
+  void ofrecer(forms::TextBox& campo, Voz voz);
+  /// Paper books do not have it: in an old entry Enter goes past it.
+  void deHoy(forms::Control& campo) { deHoy_.push_back(&campo); }
+  /// Hardly the same in two entries: taken over alone, never with its page.
+  void deCadaUno(const forms::Control& campo) { deCadaUno_.insert(&campo); }
   RevisionFechas& revision() { return fechasRevisadas_; }
   /// What the institution gives for a field, unless something else has been written there.
   void proponer(forms::TextBox& campo, const std::string& valor);
@@ -137,6 +151,8 @@ class frmPartida : public Dialogo {
   virtual bool leerRegistro() = 0;
   virtual void mostrarRegistro() = 0;
   virtual DatosPartida datos() const = 0;
+  /// The fields as they show that entry of the table; none when rows of it are missing.
+  virtual std::vector<forms::Field> camposDe(std::int32_t id) const = 0;
   /// Of the items of the list that are not to be deleted, without the one being edited.
   virtual std::vector<Posicion> posicionesEnLista() const = 0;
   /// The entry as it stands in the fields is in the book already.
@@ -167,6 +183,8 @@ class frmPartida : public Dialogo {
   void moverFechaDelLibro() const;
   /// "codlibro=1 OR codlibro=2", the books that the repeated-entry check looks in; empty for none.
   std::string librosDondeRepetida() const;
+  /// These are the fields of the entry that has been stored.
+  void recordar(std::vector<forms::Field> campos) const;
   /// The new entry is stored, and something beside it is not: it is gone on with as a correction.
   void seguirCorrigiendo();
 
@@ -207,6 +225,17 @@ class frmPartida : public Dialogo {
   const char* titulo() const;
   bool faltaInstitucionOLibro();
   bool faltaPosicion();
+
+  // What repeats
+  bool settled(const forms::Control& field) const override;
+  void elegirUnico(forms::ComboBox& lista);
+  void mirarApellidos();
+  void mirarApellido(forms::TextBox& campo);
+  const std::vector<forms::Field>& ultimaDelLibro() const;
+  const std::vector<forms::Field>& anterior() const;
+  bool tomar(forms::Control& campo);
+  bool sinTocar(const forms::Control& campo) const;
+  int anoDeLaUltima() const;
 
   // Events
   void crearSucesos();
@@ -252,6 +281,10 @@ class frmPartida : public Dialogo {
   std::vector<std::pair<forms::TextBox*, std::int64_t>> limites_;
   std::vector<forms::CheckBox*> marcas_;
   std::vector<forms::TextBox*> anexos_;
+  std::vector<forms::TextBox*> apellidos_;
+  std::set<const forms::Control*> deCadaUno_;
+  std::vector<forms::Control*> deHoy_;
+  mutable std::optional<std::pair<std::int64_t, std::vector<forms::Field>>> ultima_;  // of a book
   std::vector<std::function<void()>> bloqueados_;  // unlocks what the annulment has locked
 
   std::optional<Elecciones> elecciones_;
@@ -260,6 +293,7 @@ class frmPartida : public Dialogo {
   std::optional<std::vector<Posicion>> ocupadas_;  // in the list, until it changes
   std::optional<LimiteNotas> limiteNotas_;
   RevisionFechas fechasRevisadas_{contexto_};
+  bool leeAlLado_ = true;  // what has been written, while the user writes
   bool anulada_ = false;
   bool libroNuevo_ = true;
   bool cargando_ = false;

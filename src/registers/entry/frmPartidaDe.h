@@ -49,6 +49,7 @@ class frmPartidaDe : public frmPartida {
     const char* etiqueta;
     std::string Registro::*miembro;
     Clase clase = Clase::Texto;
+    Voz voz = Voz::Ninguna;
   };
   struct CampoFecha {
     int indice;
@@ -68,6 +69,7 @@ class frmPartidaDe : public frmPartida {
     for (const CampoTexto& c : campos) {
       forms::TextBox& campo = crearTexto(grupo, c.indice, c.etiqueta, c.clase);
       campo.setVisible(visibles);
+      ofrecer(campo, c.voz);
       enlaces_.textos.push_back({&campo, c.miembro});
     }
   }
@@ -174,21 +176,30 @@ class frmPartidaDe : public frmPartida {
       registro_ = colPartidas->at(lngPosicion);
       return true;
     }
+    return leer(lngID, registro_);
+  }
+  /// False when rows of it are missing.
+  bool leer(std::int32_t id, Registro& r) const {
     DatosPartida d;
-    d.id = lngID;
-    ponerDatos(registro_, d);
+    d.id = id;
+    ponerDatos(r, d);
     bool completa = true;
     for (const FilaLeida<Registro>& de : filas()) {
       const store::Recordset fila =
-          conBaseDatos->Execute(de.seleccion + std::to_string(registro_.*de.clave));
+          conBaseDatos->Execute(de.seleccion + std::to_string(r.*de.clave));
       const bool esta = !fila.EOF_();
       if (!esta && &de == &filas().front()) throw std::runtime_error("La partida ya no existe.");
-      if (esta) copiarFila(*de.tabla, fila, registro_);
+      if (esta) copiarFila(*de.tabla, fila, r);
       completa = completa && esta;
     }
-    registro_.Estado = true;
-    if (almacen_.alLeer) almacen_.alLeer(registro_);
+    r.Estado = true;
+    if (almacen_.alLeer) almacen_.alLeer(r);
     return completa;
+  }
+
+  std::vector<forms::Field> camposDe(std::int32_t id) const final {
+    Registro r;
+    return leer(id, r) ? enlaces_.campos(r) : std::vector<forms::Field>();
   }
 
   Registro leerCampos() const {
@@ -209,7 +220,11 @@ class frmPartidaDe : public frmPartida {
     ponerDatos(partida, datosTecleados(datosDe(partida)));
     // An item that only the list knows is still to be added, however often it is opened.
     if (esAlta() || partida.Estado) ponerOperacion(partida, Operacion);
-    return esAlta() ? guardarAlta(std::move(partida)) : guardarEdicion(std::move(partida));
+    if (!esAlta()) return guardarEdicion(std::move(partida));
+    std::vector<forms::Field> campos = enlaces_.campos(partida);
+    if (!guardarAlta(std::move(partida))) return false;
+    recordar(std::move(campos));
+    return true;
   }
   bool guardarAlta(Registro partida) {
     if (desdeLista()) {

@@ -73,11 +73,15 @@ frmPartidaMatrimonio::frmPartidaMatrimonio(Contexto& contexto)
       revision().enEsteOrden(adtpPartida[c + antes], adtpPartida[FechaMatrimonio]);
     for (const Texto queda : {Edad, Religion, ParroquiaBaut, DiocesisBaut, MunicipioInscrito})
       serie(txtPartida[c + queda]);
+    deCadaUno(txtPartida[c + Nombre]);
+    for (const Texto nuestro : {DNI, Email, Telefono}) deHoy(txtPartida[c + nuestro]);
   }
   for (const Texto queda : {DNI, Parroquia, Diocesis, Celebrante, ExpedInst, NihilObstat,
                             Demarcacion, CPCompromiso, Testigo1, Testigo1NaturalDe,
                             Testigo1Poblacion, Testigo2, Testigo2NaturalDe, Testigo2Poblacion})
     serie(txtPartida[queda]);
+  for (const Texto suyo : {Padrino, Madrina, Testigos, Observaciones, NotasMarginales})
+    deCadaUno(txtPartida[suyo]);
   ponerNotas(NotasMarginales);
   fechaDelSacramento(FechaMatrimonio);
   mostrarEdicion();
@@ -106,10 +110,11 @@ void frmPartidaMatrimonio::crearContrayente(int cual) {
     const char* etiqueta;
     std::array<std::string M::*, 2> miembros;
     Clase clase = Clase::Texto;
+    Voz voz = Voz::Ninguna;
   } const campos[] = {
       {Nombre, "NOMBRE:", AMBOS(Nombre)},
-      {PrimerApellido, "PRIMER APELLIDO:", AMBOS(PrimerApellido)},
-      {SegundoApellido, "SEGUNDO APELLIDO:", AMBOS(SegundoApellido)},
+      {PrimerApellido, "PRIMER APELLIDO:", AMBOS(PrimerApellido), Clase::Texto, Voz::Apellido},
+      {SegundoApellido, "SEGUNDO APELLIDO:", AMBOS(SegundoApellido), Clase::Texto, Voz::Apellido},
       {DNI, "DNI:", AMBOS(DNI)},
       {Edad, "EDAD:", AMBOS(Edad), Clase::Cifras},
       {Nacionalidad, "NACIONALIDAD:", AMBOS(Nacionalidad)},
@@ -119,22 +124,23 @@ void frmPartidaMatrimonio::crearContrayente(int cual) {
       {NombreMadre, "NOMBRE DE LA MADRE:", AMBOS(NombreMadre)},
       {Email, "EMAIL:", AMBOS_DETRAS(Email)},
       {Telefono, "TELÉFONO:", AMBOS_DETRAS(Telefono)},
-      {Profesion, "PROFESIÓN:", AMBOS(Profesion)},
-      {DiocesisNac, "DIÓCESIS DE NACIMIENTO:", AMBOS(DiocesisNac)},
+      {Profesion, "PROFESIÓN:", AMBOS(Profesion), Clase::Texto, Voz::Profesion},
+      {DiocesisNac, "DIÓCESIS DE NACIMIENTO:", AMBOS(DiocesisNac), Clase::Texto, Voz::Diocesis},
       {SujetoDerecho, "SUJETO AL DERECHO:", AMBOS(SujetoDerecho)},
-      {ParroquiaBaut, "PARROQUIA:", AMBOS(ParroquiaBaut)},
-      {DiocesisBaut, "DIÓCESIS:", AMBOS(DiocesisBaut)},
+      {ParroquiaBaut, "PARROQUIA:", AMBOS(ParroquiaBaut), Clase::Texto, Voz::Parroquia},
+      {DiocesisBaut, "DIÓCESIS:", AMBOS(DiocesisBaut), Clase::Texto, Voz::Diocesis},
       {LibroBaut, "LIBRO:", AMBOS(LibroBaut)},
       {NumeroBaut, "NÚMERO:", AMBOS(NumeroBaut)},
-      {DomicilioActual, "DOMICILIO:", AMBOS(DomicilioActual)},
-      {DomicilioAnterior, "DOMICILIO:", AMBOS(DomicilioAnterior)},
+      {DomicilioActual, "DOMICILIO:", AMBOS(DomicilioActual), Clase::Texto, Voz::Domicilio},
+      {DomicilioAnterior, "DOMICILIO:", AMBOS(DomicilioAnterior), Clase::Texto, Voz::Domicilio},
       {MunicipioInscrito, "MUNICIPIO:", AMBOS(MunicipioInscrito)},
       {Tomo, "TOMO:", AMBOS(Tomo)},
       {Pagina, "PÁGINA:", AMBOS(Pagina)},
       {NombreCivil, "NOMBRE CIVIL:", AMBOS(NombreCivil)},
-      {ParroquiaExhorto, "PARROQUIA:", AMBOS_DETRAS(ParroquiaExhorto)},
+      {ParroquiaExhorto, "PARROQUIA:", AMBOS_DETRAS(ParroquiaExhorto), Clase::Texto,
+       Voz::Parroquia},
       {PoblacionExhorto, "POBLACIÓN:", AMBOS_DETRAS(PoblacionExhorto)},
-      {DiocesisExhorto, "DIÓCESIS:", AMBOS_DETRAS(DiocesisExhorto)},
+      {DiocesisExhorto, "DIÓCESIS:", AMBOS_DETRAS(DiocesisExhorto), Clase::Texto, Voz::Diocesis},
   };
   struct {
     Fecha indice;
@@ -159,7 +165,8 @@ void frmPartidaMatrimonio::crearContrayente(int cual) {
       {ProvinciaAnterior, PROVINCIA, POBLACION, AMBOS(IDMunicipioAnterior)},
   };
   for (const auto& c : campos)
-    textos(txtPartida, {{CampoTexto{cual + c.indice, c.etiqueta, c.miembros[persona], c.clase}}});
+    textos(txtPartida,
+           {{CampoTexto{cual + c.indice, c.etiqueta, c.miembros[persona], c.clase, c.voz}}});
   for (const auto& d : dias)
     fechas({{CampoFecha{cual + d.indice, d.etiqueta, d.miembros[persona],
                         std::string(d.nombre) + (persona == 1 ? " de la novia" : " del novio"),
@@ -204,18 +211,19 @@ void frmPartidaMatrimonio::crearTestigos() {
 
 void frmPartidaMatrimonio::crearCompromiso() {
   const CampoTexto campos[] = {
-      {Parroquia, "PARROQUIA (LUGAR):", &M::Parroquia},
-      {Diocesis, "DIÓCESIS:", &M::Diocesis},
+      {Parroquia, "PARROQUIA (LUGAR):", &M::Parroquia, Clase::Texto, Voz::Parroquia},
+      {Diocesis, "DIÓCESIS:", &M::Diocesis, Clase::Texto, Voz::Diocesis},
       {Demarcacion, "Parroquia:", &M::Demarcacion},
-      {Padrino, "PADRINO:", &M::Padrino},
-      {Madrina, "MADRINA:", &M::Madrina},
+      {Padrino, "PADRINO:", &M::Padrino, Clase::Texto, Voz::Padrino},
+      {Madrina, "MADRINA:", &M::Madrina, Clase::Texto, Voz::Padrino},
       {Testigos, "TESTIGOS:", &M::Testigos},
-      {Celebrante, "CELEBRANTE:", &M::Celebrante},
+      {Celebrante, "CELEBRANTE:", &M::Celebrante, Clase::Texto, Voz::Ministro},
       {ExpedInst, "EXPEDIENTE INSTRUIDO EN:", &M::ExpedInst},
-      {DomicilioMatrimonio, "DOMICILIO:", &M::DomicilioMatrimonio},
+      {DomicilioMatrimonio, "DOMICILIO:", &M::DomicilioMatrimonio, Clase::Texto, Voz::Domicilio},
       {TelefonoDomicMatr, "TELÉFONO:", &M::TelefonoDomicMatr},
       {NihilObstat, "NIHIL OBSTAT:", &M::NihilObstat},
-      {TestigosParroquia, "PARROQUIA DE LOS TESTIGOS:", &M::TestigosParroquia},
+      {TestigosParroquia, "PARROQUIA DE LOS TESTIGOS:", &M::TestigosParroquia, Clase::Texto,
+       Voz::Parroquia},
       {CPCompromiso, "CÓDIGO POSTAL:", &M::CPCompromiso, Clase::Cifras},
       {Testigo1, "PRIMER TESTIGO:", &M::Testigo1},
       {Testigo1NaturalDe, "NATURAL DE:", &M::Testigo1_Natural_De},

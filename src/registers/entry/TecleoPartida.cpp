@@ -1,0 +1,197 @@
+// What an entry dialog does so that what repeats is not typed twice.
+
+#include <algorithm>
+#include <chrono>
+
+#include "core/statements/Sentencia.h"
+#include "registers/common/Guiones.h"
+#include "registers/entry/Fuentes.h"
+#include "registers/entry/frmPartida.h"
+#include "text/Utf8.h"
+
+namespace fidaleon {
+
+using FDAPI::cCOperacion;
+
+namespace {
+
+/// At once; a key that comes meanwhile waits no longer.
+constexpr std::chrono::milliseconds PLAZO{8};
+/// For how long entries may still come into a book after the last one that is known, and dates into
+/// an entry after that one.
+constexpr int ANOS_DE_UN_LIBRO = 50;
+constexpr int ANOS_DESDE_LA_ULTIMA = 10;
+
+const std::vector<forms::Field> VACIA;
+
+bool mismaPagina(const forms::Control& a, const forms::Control& b) {
+  return a.strip() == b.strip() && a.page() == b.page();
+}
+
+int anoDe(const std::string& guardada) {
+  const auto fecha = text::parseStored(guardada);
+  return fecha ? fecha->year : 0;
+}
+
+const forms::Field* buscar(const std::vector<forms::Field>& campos, const std::string& nombre) {
+  const auto it = std::find_if(campos.begin(), campos.end(),
+                               [&](const forms::Field& f) { return f.control == nombre; });
+  return it == campos.end() ? nullptr : &*it;
+}
+
+}  // namespace
+
+void frmPartida::ofrecer(forms::TextBox& campo, Voz voz) {
+  if (voz == Voz::Ninguna) return;
+  if (voz == Voz::Apellido) {
+    apellidos_.push_back(&campo);
+    return;
+  }
+  campo.offers = [this, voz](const std::string& tecleado) {
+    return Memoria::de(contexto_).vocabulario.proponer(voz, tecleado);
+  };
+}
+
+bool frmPartida::workBeside() {
+  if (!leeAlLado_ || !conBaseDatos || conBaseDatos->inTransaction()) return false;
+  try {
+    return Memoria::de(contexto_).leer(*conBaseDatos, PLAZO);
+  } catch (const std::exception&) {
+    // Nobody has asked for it: there is less to be offered, and what is typed goes on.
+    return leeAlLado_ = false;
+  }
+}
+
+/// A surname that nobody bears, beside one that many do.
+void frmPartida::mirarApellido(forms::TextBox& campo) {
+  const Memoria& memoria = Memoria::de(contexto_);
+  if (!memoria.completa() || campo.locked()) return;
+  const std::string otro = memoria.vocabulario.parecido(Voz::Apellido, campo.text());
+  if (otro.empty()) return campo.setDoubt({});
+  campo.setDoubt("¿" + otro + "? Así está escrito " +
+                 std::to_string(memoria.vocabulario.veces(Voz::Apellido, otro)) +
+                 " veces en los libros; «" + text::trim(campo.text()) + "», ninguna.");
+}
+
+void frmPartida::mirarApellidos() {
+  for (forms::TextBox* campo : apellidos_)
+    campo->onLostFocus = [this, campo, antes = campo->onLostFocus](forms::Control* siguiente) {
+      mirarApellido(*campo);
+      if (antes) antes(siguiente);
+    };
+}
+
+void frmPartida::elegirUnico(forms::ComboBox& lista) {
+  if (lista.listIndex() < 0 && lista.listCount() == 1 && !lista.locked()) lista.setListIndex(0);
+}
+
+void frmPartida::recordar(std::vector<forms::Field> campos) const {
+  Memoria& memoria = Memoria::de(contexto_);
+  memoria.anteriores[name()] = std::move(campos);
+  memoria.hayNuevas();
+}
+
+/// Read once for each book.
+const std::vector<forms::Field>& frmPartida::ultimaDelLibro() const {
+  const std::int64_t id = esSolicitud() ? 0 : libro().data();
+  if (id == 0) return VACIA;
+  if (ultima_ && ultima_->first == id) return ultima_->second;
+  ultima_.emplace(id, std::vector<forms::Field>());
+  procedimiento("takeFormer", [&] {
+    const store::Recordset fila = conBaseDatos->Execute(
+        sentencia(sacramento(), "SELECT TOP 1 {IDPartida} FROM {Partidas} WHERE CodLibro=") +
+        std::to_string(id) + " ORDER BY CodLibro DESC, Folio DESC, Val(Numero) DESC");
+    if (!fila.EOF_()) ultima_->second = camposDe(static_cast<std::int32_t>(fila.integer(0)));
+  });
+  return ultima_->second;
+}
+
+const std::vector<forms::Field>& frmPartida::anterior() const {
+  const auto& anteriores = Memoria::de(contexto_).anteriores;
+  const auto enEsteRato = anteriores.find(name());
+  return enEsteRato == anteriores.end() ? ultimaDelLibro() : enEsteRato->second;
+}
+
+/// Through the control, as the user would. False when there is nothing to be taken.
+bool frmPartida::tomar(forms::Control& campo) {
+  for (ParProvinciaPoblacion& par : pares_) {
+    if (!par.tiene(campo)) continue;
+    const forms::Field* de = buscar(anterior(), par.poblacion().name());
+    if (!de || de->data == 0) return false;
+    par.elegir(de->data);
+    return true;
+  }
+  const forms::Field* de = buscar(anterior(), campo.name());
+  if (!de || enBlanco(de->text)) return false;
+  if (auto* texto = dynamic_cast<forms::TextBox*>(&campo)) texto->enterText(de->text);
+  if (auto* lista = dynamic_cast<forms::ComboBox*>(&campo))
+    for (int i = 0; i < lista->listCount(); ++i)
+      if (lista->list(i) == de->text) lista->userSelect(i);
+  return true;
+}
+
+/// Blank, or as the program proposed it.
+bool frmPartida::sinTocar(const forms::Control& campo) const {
+  const auto* texto = dynamic_cast<const forms::TextBox*>(&campo);
+  const auto* lista = dynamic_cast<const forms::ListControl*>(&campo);
+  const std::string ahora = texto ? texto->text() : lista ? lista->text() : "?";
+  const forms::Field* era = buscar(saved().fields, campo.name());
+  return text::trim(ahora).empty() || (era && era->text == ahora);
+}
+
+void frmPartida::takeFormer(forms::Control& campo, bool pagina) {
+  if (!takesFormer()) return;
+  bool tomado = false;
+  if (!pagina) {
+    tomado = tomar(campo);
+    if (auto* texto = dynamic_cast<forms::TextBox*>(&campo)) texto->selectAll();
+  } else {
+    for (forms::Control* otro : tabOrder())
+      if (mismaPagina(*otro, campo) && !deCadaUno_.contains(otro) && !otro->passedByEnter() &&
+          otro->usable() && sinTocar(*otro) && tomar(*otro))
+        tomado = true;
+    if (tomado && !sinTocar(campo)) goOn();
+  }
+  if (!tomado) ui().beep();
+}
+
+bool frmPartida::settled(const forms::Control& campo) const {
+  if (Form::settled(campo)) return true;
+  const auto propuesto = propuestos_.find(&campo);
+  if (!esAlta() || visited(campo) || propuesto == propuestos_.end()) return false;
+  const auto* texto = dynamic_cast<const forms::TextBox*>(&campo);
+  const auto* lista = dynamic_cast<const forms::ListControl*>(&campo);
+  const std::string ahora = texto ? texto->text() : std::to_string(lista->data());
+  return !propuesto->second.empty() && propuesto->second != "0" && propuesto->second == ahora;
+}
+
+/// The year that a date of this entry hardly lies after.
+text::DateSense frmPartida::dateSense(const forms::DateField& campo) const {
+  text::DateSense sentido = Dialogo::dateSense(campo);
+  const bool antigua =
+      Operacion == cCOperacion::ANTIGUA || (Operacion == cCOperacion::EDITAR && !libroNuevo_);
+  if (!antigua || !fechaSacramento_) return sentido;
+  const bool delSacramento = &campo == fechaSacramento_;
+  int hasta = delSacramento ? 0 : anoDe(fechaSacramento_->stored());
+  if (hasta == 0)
+    if (const int ultimo = anoDeLaUltima(); ultimo != 0)
+      hasta = ultimo + (delSacramento ? ANOS_DE_UN_LIBRO : ANOS_DESDE_LA_ULTIMA);
+  if (hasta != 0) sentido.latestYear = std::min(hasta, sentido.latestYear);
+  return sentido;
+}
+
+/// Of the last entry of the book, or of the day on which the book begins; 0 when neither is known.
+int frmPartida::anoDeLaUltima() const {
+  if (const forms::Field* fecha = buscar(ultimaDelLibro(), fechaSacramento_->name()))
+    if (const auto dia = text::parseShort(fecha->text)) return dia->year;
+  int ano = 0;
+  procedimiento("dateSense", [&] {
+    const store::Recordset fila = conBaseDatos->Execute(
+        sentencia(sacramento(), "SELECT fechacreacion FROM {libros} WHERE {idlibro}=") +
+        std::to_string(libro().data()));
+    if (!fila.EOF_()) ano = anoDe(fila.text("fechacreacion"));
+  });
+  return ano;
+}
+
+}  // namespace fidaleon
