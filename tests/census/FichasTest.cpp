@@ -192,7 +192,7 @@ TEST_P(Fichas, New_IsStoredWithTheLeastAndHoldsItsTablesMeanwhile) {
     EXPECT_FALSE(isFree(f.tabla));
     for (const char* tabla : f.compartidas) EXPECT_FALSE(isFree(tabla)) << tabla;
     poner(u, f.minimo("Ana \"Anita\""));
-    u.enter();
+    u.ctrlEnter();
     EXPECT_TRUE(u.closed());
   });
   EXPECT_EQ(filas(nombres), antes + (antes.empty() ? "" : "/") + "Ana ''Anita''");

@@ -164,6 +164,16 @@ TEST_F(FormTest, WhatIsPutBack_RunsTheHandlersAndNamesWhatCouldNotBe) {
   EXPECT_EQ(form.txtNotes.text(), "mía") << "what stands there is not chosen again";
 }
 
+TEST_F(FormTest, Enter_GoesThroughWhatIsStillToBeFilled) {
+  form.setEntersFields(true);
+  form.txtNotes.setLines(3);
+  form.txtCode.onLostFocus = [&](Control*) { form.cbo.setListIndex(form.cbo.addItem("Soria", 1)); };
+  std::string way;
+  for (int enters = 0; !form.isUnloaded(); ++enters, driver.enter()) way += driver.focused() + " ";
+  EXPECT_EQ(way, "txtName txtCode txtDate txtNotes txtTime cmd(0) ") << "not the list, now filled";
+  EXPECT_EQ(form.accepted, 1);
+}
+
 TEST_F(FormTest, Tabs_MouseDownRefuses_StaysAndFiresNothing) {
   int clicks = 0;
   form.mst.onMouseDown = [](int) { return false; };

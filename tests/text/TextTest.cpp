@@ -109,6 +109,24 @@ TEST(Dates, Typed_IsReadWithAnySeparator) {
   EXPECT_FALSE(isBlankDate("20030101"));
 }
 
+TEST(Dates, TypedInAnyWay_TakeTheCenturyOfTheBook) {
+  const DateSense sense{Date{2026, 11, 22}, 1930};
+  for (const auto& [typed, read] : std::initializer_list<std::pair<const char*, const char*>>{
+           {"3-5-24", "19240503"},
+           {"030524", "19240503"},
+           {" 3 May 1924 ", "19240503"},
+           {"3 de septiembre del 30", "19300903"},
+           {"3set31", "18310903"},
+           {"1.1.00", "19000101"},
+           {"hoy", "20261122"},
+           {"03051998", "19980503"}})
+    EXPECT_EQ(toStored(parseTyped(typed, sense).value_or(Date{})), read) << typed;
+  for (const char* other :
+       {"31-2-24", "3 ma 24", "3 mayor 24", "1//2/24", "3-5", "ayer", "3-5-024"})
+    EXPECT_FALSE(parseTyped(other, sense)) << other;
+  EXPECT_FALSE(parseTyped("3-5-24", {})) << "no book, no century";
+}
+
 TEST(Dates, Time_IsReadWithAndWithoutColon) {
   EXPECT_EQ(parseTime("9:05"), "09:05");
   EXPECT_EQ(parseTime("905"), "09:05");

@@ -97,7 +97,8 @@ void ComboView::fixWidth(int letters) {
 }
 
 bool ComboView::eventFilter(QObject* watched, QEvent* event) {
-  if (watched == combo_ && event->type() == QEvent::FocusOut && !typed_.isEmpty()) look({});
+  if (watched == combo_ && event->type() == QEvent::FocusOut)
+    left(static_cast<QFocusEvent&>(*event));
   if (watched == combo_ && event->type() == QEvent::Wheel) {
     // Scrolling a page must not change a choice under the pointer.
     event->ignore();
@@ -120,6 +121,15 @@ void ComboView::take(const forms::Offer& offer) {
   look({});
   list().take(taken);
   flush();
+}
+
+/// Who goes on to another field has found the one in front.
+void ComboView::left(const QFocusEvent& event) {
+  if (typed_.isEmpty() || event.reason() == Qt::ActiveWindowFocusReason ||
+      event.reason() == Qt::PopupFocusReason)
+    return;
+  const forms::Offer* chosen = offers_->chosen();
+  chosen ? take(*chosen) : look({});
 }
 
 /// Letters look for an offer, and Enter or Tab takes the one in front.

@@ -6,6 +6,7 @@
 #include "qt/views/OfferList.h"
 
 class QComboBox;
+class QFocusEvent;
 class QStyle;
 
 namespace fidaleon::qt {
@@ -26,6 +27,7 @@ class ComboView : public ListView {
 
  private:
   void look(const QString& typed);
+  void left(const QFocusEvent& event);
   void take(const forms::Offer& offer);
   bool looksFor(QKeyEvent& event);
 

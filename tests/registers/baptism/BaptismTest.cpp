@@ -55,7 +55,7 @@ TEST_F(Baptism, BirthAndWeddingOfToday_AreAskedAboutUntilTheyAreTyped) {
     w.user.expectMessage(
         "La fecha de nacimiento y la fecha de la boda de los padres siguen siendo la de hoy "
         "(22/11/2026). ¿Es correcto?");
-    d.enter();
+    d.ctrlEnter();
     EXPECT_EQ(w.user.messages().back().byEnter, Answer::No);
     EXPECT_EQ(d.focused(), date(P::FechaNac));
     d.type(date(P::FechaNac), "22/11/2026");  // today indeed

@@ -174,6 +174,7 @@ TEST_P(RequestedEntry, New_IsStoredOutsideAnyBookAndCorrectedThere) {
 }
 
 TEST_P(RequestedEntry, WithoutInstitution_IsRefusedInItsOwnWords) {
+  w.institucion("Santa Ana");
   openAndCancel(cCOperacion::ANADIRSOLICITUD, [&](FormDriver& d) {
     w.user.expectMessage(
         std::string("¡Antes de introducir datos en la solicitud, tiene que elegir una ") +

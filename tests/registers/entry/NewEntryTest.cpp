@@ -10,9 +10,8 @@ INSTANTIATE_TEST_SUITE_P(Registers, NewEntry, EVERY_ENTRY, wordOf);
 TEST_P(NewEntry, UsualOne_IsStoredAndFollowedByTheNext) {
   book("Libro 1");
   openAndCancel(cCOperacion::ANADIR, [&](FormDriver& d) {
-    EXPECT_EQ(d.caption(), std::string(k.adds) + "nueva" + k.noPosition);
+    EXPECT_EQ(d.caption(), std::string(k.adds) + "nueva" + k.position) << "the only book";
     EXPECT_FALSE(d.visible(button(2)));
-    chooseBook(d, "Libro 1");
     EXPECT_TRUE(d.locked("txtLibro(1)"));
     typePerson(d, "Luis");
     EXPECT_EQ(d.caption(), std::string(k.adds) + "nueva" + k.position);
@@ -57,8 +56,11 @@ TEST_P(NewEntry, RequiredFields_AreAskedForOneByOneAndBlanksAfterThem) {
 
 TEST_P(NewEntry, WithoutInstitutionOrBook_TabsAndAcceptanceAreRefused) {
   book("Libro 1");
+  book("Libro 2");
   book("Cerrado", true, 3, "19900101", true);
+  w.institucion("Santa Ana");
   openAndCancel(cCOperacion::ANADIR, [&](FormDriver& d) {
+    EXPECT_EQ(d.caption(), std::string(k.adds) + "nueva" + k.noPosition);
     w.user.expectMessage(
         std::string("¡Antes de introducir datos en la partida, tiene que elegir una ") +
         k.institutionWord + "!");
@@ -66,10 +68,32 @@ TEST_P(NewEntry, WithoutInstitutionOrBook_TabsAndAcceptanceAreRefused) {
     EXPECT_EQ(tab(d), 0);
     EXPECT_EQ(d.focused(), list(k.institution));
     d.choose(list(k.institution), "San Pedro");
-    EXPECT_EQ(d.get<forms::ComboBox>(list(k.book)).listCount(), 1);  // no closed book
+    EXPECT_EQ(d.get<forms::ComboBox>(list(k.book)).listCount(), 2);  // no closed book
     w.user.expectMessage("¡Antes de introducir datos en la partida, tiene que elegir un libro!");
     accept(d);
     EXPECT_EQ(d.focused(), list(k.book));
+  });
+}
+
+TEST_P(NewEntry, WhatRepeats_IsOfferedAndTakenFromTheEntryBefore) {
+  const std::int32_t only = book("Libro 1");
+  for (int i = 1; i <= 5; ++i) entry("Luis", only, i, std::to_string(i));
+  w.con().Execute(std::string("UPDATE ") + k.s.tablaPartidas + " SET Parroquia=\"San Juan\"");
+  openAndCancel(cCOperacion::ANADIR, [&](FormDriver& d) {
+    k.settle(d);
+    tab(d, k.where.tab);
+    d.focus(text(k.where.index));
+    d.former();
+    EXPECT_EQ(d.text(text(k.where.index)), "San Juan");
+    EXPECT_THAT(d.offered(text(k.where.index), "JUÁ"), ElementsAre("San Juan"));
+    tab(d, k.born.tab);
+    d.takeOffer(list(k.born.index + 1), "alcala");
+    EXPECT_EQ(d.text(list(k.born.index)), "Madrid");
+    EXPECT_EQ(d.text(list(k.born.index + 1)), "Alcalá de Henares");
+    typePerson(d, "Ana", "Garcia", "Pérez");
+    tab(d, 0);
+    EXPECT_THAT(d.get<forms::TextBox>(text(k.name.index + 1)).doubt(), HasSubstr("¿García?"));
+    EXPECT_EQ(d.get<forms::TextBox>(text(k.name.index + 2)).doubt(), "");
   });
 }
 
@@ -96,9 +120,8 @@ TEST_P(NewEntry, PageLimitPassed_IsRefusedUntilComputedAnew) {
   entry("Luis", book("Libro 1"), 1, "1");
   w.contexto.guardarAjuste("documentos", "DOCUMENTOS_MAXPAGLIBRO", "1");
   const char* limit = "¡Ha llegado al límite de folios establecidos para un libro!";
+  w.user.expectMessage(limit);
   open(cCOperacion::ANADIR, [&](FormDriver& d) {
-    w.user.expectMessage(limit);
-    chooseBook(d, "Libro 1");
     EXPECT_EQ(d.text("txtLibro(1)"), "2");
     typePerson(d, "Eva", "Otro", "Más");
     w.user.expectMessage(limit);

@@ -136,6 +136,7 @@ TEST_P(OldEntry, AnnulledBeforeItIsStored_IsPutBackWholeAndStoredSo) {
 
 TEST_P(OldEntry, EmptyPosition_IsAskedForUnlessThereIsNoBook) {
   book("Antiguo", false);
+  book("Otro", false);
   const char* empty = "¡Debe introducir datos en el campo folio!";
   openAndCancel(cCOperacion::ANTIGUA, [&](FormDriver& d) {
     d.choose(list(k.institution), "San Pedro");
@@ -149,6 +150,11 @@ TEST_P(OldEntry, EmptyPosition_IsAskedForUnlessThereIsNoBook) {
     w.user.expectMessage(empty);
     d.focus("txtLibro(2)");
     EXPECT_EQ(d.focused(), "txtLibro(1)");
+    d.type("txtLibro(1)", "1");
+    tab(d, k.day.tab);
+    d.type(date(k.day.index), "3-5-91");
+    tab(d, 0);
+    EXPECT_EQ(d.text(date(k.day.index)), "03/05/1991") << "the century of the book";
   });
 }
 
