@@ -113,7 +113,12 @@ bool ComboView::eventFilter(QObject* watched, QEvent* event) {
 void ComboView::look(const QString& typed) {
   typed_ = typed;
   static_cast<LockableCombo*>(combo_)->setTyped(typed);
-  offers_->show(typed.isEmpty() ? std::vector<forms::Offer>() : list().offers(fromQt(typed)), true);
+  if (typed.isEmpty()) return offers_->hide();
+  std::vector<forms::Offer> offers = list().offers(fromQt(typed));
+  if (offers.empty())
+    offers_->say(QStringLiteral("No hay ninguna. Esc lo deja como estaba."));
+  else
+    offers_->show(std::move(offers), true);
 }
 
 void ComboView::take(const forms::Offer& offer) {

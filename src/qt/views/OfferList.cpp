@@ -21,6 +21,7 @@ void OfferList::make() {
   list_->setTextElideMode(Qt::ElideRight);
   list_->hide();
   connect(list_, &QListWidget::clicked, this, [this](const QModelIndex& at) {
+    if (offers_.empty()) return;
     const forms::Offer taken = offers_.at(static_cast<std::size_t>(at.row()));
     hide();
     if (onClick) onClick(taken);
@@ -34,6 +35,17 @@ void OfferList::show(std::vector<forms::Offer> offers, bool first) {
   list_->clear();
   for (const forms::Offer& offer : offers_) list_->addItem(toQt(offer.text));
   list_->setCurrentRow(first ? 0 : -1);
+  place();
+  list_->show();
+  list_->raise();
+}
+
+void OfferList::say(const QString& why) {
+  offers_.clear();
+  if (!list_) make();
+  list_->clear();
+  list_->addItem(why);
+  list_->item(0)->setFlags(Qt::NoItemFlags);
   place();
   list_->show();
   list_->raise();
@@ -62,6 +74,7 @@ bool OfferList::isShown() const {
 
 bool OfferList::moves(const QKeyEvent& event) {
   if (!isShown() || (event.key() != Qt::Key_Down && event.key() != Qt::Key_Up)) return false;
+  if (offers_.empty()) return true;
   const int row = list_->currentRow() + (event.key() == Qt::Key_Down ? 1 : -1);
   list_->setCurrentRow(row >= list_->count() || row < -1 ? -1 : row);
   if (const forms::Offer* at = chosen()) field_.setAccessibleDescription(toQt(at->text));
@@ -69,7 +82,7 @@ bool OfferList::moves(const QKeyEvent& event) {
 }
 
 const forms::Offer* OfferList::chosen() const {
-  if (!isShown() || list_->currentRow() < 0) return nullptr;
+  if (!isShown() || offers_.empty() || list_->currentRow() < 0) return nullptr;
   return &offers_.at(static_cast<std::size_t>(list_->currentRow()));
 }
 

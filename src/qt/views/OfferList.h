@@ -21,6 +21,8 @@ class OfferList : public QObject {
 
   /// `first`: the first offer is chosen already. Nothing to offer hides it.
   void show(std::vector<forms::Offer> offers, bool first);
+  /// In their place, where there is nothing to offer; it cannot be chosen.
+  void say(const QString& why);
   void hide();
   bool isShown() const;
   /// Moves the choice; false for any other key.

@@ -157,8 +157,10 @@ void frmPartida::takeFormer(forms::Control& campo, bool pagina) {
 
 bool frmPartida::settled(const forms::Control& campo) const {
   if (Form::settled(campo)) return true;
+  if (!esAlta() || visited(campo)) return false;
+  if (&campo == &libro()) return libro().listIndex() >= 0;
   const auto propuesto = propuestos_.find(&campo);
-  if (!esAlta() || visited(campo) || propuesto == propuestos_.end()) return false;
+  if (propuesto == propuestos_.end()) return false;
   const auto* texto = dynamic_cast<const forms::TextBox*>(&campo);
   const auto* lista = dynamic_cast<const forms::ListControl*>(&campo);
   const std::string ahora = texto ? texto->text() : std::to_string(lista->data());
