@@ -5,7 +5,7 @@
 // up.
 
 #include <QApplication>
-#include <QTest>
+#include <QKeyEvent>
 #include <string>
 #include <utility>
 #include <vector>
@@ -35,14 +35,15 @@ class Hands {
   Hands(forms::Form& form, bool enter, int& keys) : form_(form), enter_(enter), keys_(keys) {
     window_.show();
     window_.activateWindow();
-    (void)QTest::qWaitForWindowActive(&window_);
+    while (!window_.isActiveWindow()) QCoreApplication::processEvents();
   }
   void press(Qt::Key key, Qt::KeyboardModifiers with = {}) {
     ++keys_;
-    QTest::keyClick(window_.focusWidget(), key, with);
+    send(key, with, {});
   }
   void write(const std::string& text) {
-    QTest::keyClicks(window_.focusWidget(), QString::fromStdString(text::searchKey(text)));
+    for (const QChar letter : QString::fromStdString(text::searchKey(text)))
+      send(Qt::Key_unknown, {}, letter);
   }
   /// Page by page, then field by field.
   void goTo(const std::string& name) {
@@ -69,6 +70,14 @@ class Hands {
   void accept() { press(Qt::Key_Return, enter_ ? Qt::ControlModifier : Qt::NoModifier); }
 
  private:
+  void send(int key, Qt::KeyboardModifiers with, const QString& text) {
+    for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+      QKeyEvent event(type, key, with, text);
+      QCoreApplication::sendEvent(window_.focusWidget(), &event);
+    }
+    QCoreApplication::processEvents();
+  }
+
   forms::Form& form_;
   qt::FormDialog window_{form_};
   bool enter_;
@@ -76,8 +85,8 @@ class Hands {
 };
 
 struct Parish : bench::World {
-  explicit Parish(bool enter) : enter(enter) {
-    ponerIntroPasaDeCampo(entorno.settings, enter);
+  explicit Parish(bool goesOn) : enter(goesOn) {
+    ponerIntroPasaDeCampo(entorno.settings, goesOn);
     connection->Execute("INSERT INTO Institucion (Nombre) VALUES (\"San Pedro\")");
     for (const char* town : {"Buitrago del Lozoya", "Madrid"})
       connection->Execute(std::string("INSERT INTO Municipio (Nombre, CodProvincia) VALUES (\"") +
