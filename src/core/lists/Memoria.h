@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "core/contract/Contexto.h"
-#include "core/lists/Lugares.h"
+#include "core/lists/PoblacionesOfrecidas.h"
 #include "core/lists/Vocabulario.h"
 #include "forms/Contents.h"
 
@@ -43,7 +43,7 @@ class Memoria {
   bool completa() const { return completa_; }
 
   Vocabulario vocabulario;
-  Lugares lugares;
+  PoblacionesOfrecidas lugares;
   /// The fields of the entry stored last, by the name of its dialog.
   std::map<std::string, std::vector<forms::Field>> anteriores;
 

@@ -10,7 +10,7 @@
 namespace fidaleon {
 
 /// All towns with their provinces, to be found by typing.
-class Lugares {
+class PoblacionesOfrecidas {
  public:
   /// "Buitrago del Lozoya (Madrid)", with the key of the town: first those of the province that is
   /// chosen (0: none), then those used most. Reads the towns where they are not known. Throws

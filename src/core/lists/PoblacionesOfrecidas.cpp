@@ -1,4 +1,4 @@
-#include "core/lists/Lugares.h"
+#include "core/lists/PoblacionesOfrecidas.h"
 
 #include <algorithm>
 #include <tuple>
@@ -7,7 +7,7 @@
 
 namespace fidaleon {
 
-void Lugares::leer(FDAPI::Conexion& conexion) {
+void PoblacionesOfrecidas::leer(FDAPI::Conexion& conexion) {
   store::Recordset filas = conexion.Execute(
       "SELECT IDMunicipio, CodProvincia, Municipio.Nombre AS Poblacion, Provincia.Nombre AS "
       "Provincia FROM Municipio, Provincia WHERE CodProvincia = IDProvincia");
@@ -18,8 +18,10 @@ void Lugares::leer(FDAPI::Conexion& conexion) {
   }
 }
 
-std::vector<forms::Offer> Lugares::proponer(FDAPI::Conexion& conexion, const Vocabulario& usados,
-                                            const std::string& tecleado, std::int64_t provincia) {
+std::vector<forms::Offer> PoblacionesOfrecidas::proponer(FDAPI::Conexion& conexion,
+                                                         const Vocabulario& usados,
+                                                         const std::string& tecleado,
+                                                         std::int64_t provincia) {
   if (lugares_.empty()) leer(conexion);
   const std::string clave = text::searchKey(text::trim(tecleado));
   // Beginning before middle, the province that is chosen before others, used before unused.
