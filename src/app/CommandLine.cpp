@@ -13,12 +13,25 @@ struct Option {
   const char* needs;
 };
 
-constexpr std::array<Option, 6> OPTIONS{{
+constexpr std::array<Option, 18> OPTIONS{{
     {"--datos", CommandLine::Task::Desktop, "una carpeta"},
     {"--demo", CommandLine::Task::Demo, "una carpeta"},
     {"--pictures", CommandLine::Task::Pictures, "una carpeta"},
     {"--tabla", CommandLine::Task::Table, "un archivo"},
     {"--import", CommandLine::Task::Import, "un archivo"},
+    {"--servidor", CommandLine::Task::Server, "una carpeta"},
+    {"--trasladar", CommandLine::Task::Move, "una carpeta"},
+    {"--guion", CommandLine::Task::Script, "el nombre de una base de datos"},
+    // Go with --servidor or --trasladar.
+    {"--base", CommandLine::Task::Wrong, "SERVIDOR[:PUERTO]/BASE"},
+    {"--usuario", CommandLine::Task::Wrong, "un usuario del servidor"},
+    {"--clave", CommandLine::Task::Wrong, "un archivo con la contraseña"},
+    {"--certificado", CommandLine::Task::Wrong, "un archivo"},
+    {"--a", CommandLine::Task::Wrong, "una carpeta"},
+    {"--nueva", CommandLine::Task::Wrong, "el nombre de la parroquia"},
+    {"--poblacion", CommandLine::Task::Wrong, "una población"},
+    {"--provincia", CommandLine::Task::Wrong, "el código de una provincia, del 1 al 52"},
+    {"--edicion", CommandLine::Task::Wrong, "Madrid, Santiago, Zaragoza o Menorca"},
     // Goes with --tabla.
     {"--codigos", CommandLine::Task::Table, "una página de códigos, como 850 o 1252"},
 }};
@@ -63,6 +76,10 @@ CommandLine CommandLine::parse(const std::vector<std::string>& arguments) {
       line.codePage = value;
       continue;
     }
+    if (option->task == Task::Wrong) {
+      line.more[option->name] = value;
+      continue;
+    }
     if (given) return wrong("Solo puede darse una opción a la vez.");
     // A file may come from a disk that names its files in another way.
     const bool isFile = option->task == Task::Table || option->task == Task::Import;
@@ -73,7 +90,14 @@ CommandLine CommandLine::parse(const std::vector<std::string>& arguments) {
   }
   if (!line.codePage.empty() && line.task != Task::Table)
     return wrong("La opción --codigos solo va con --tabla.");
+  if (!line.more.empty() && line.task != Task::Server && line.task != Task::Move)
+    return wrong("La opción " + line.more.begin()->first + " va con --servidor o --trasladar.");
   return line;
+}
+
+std::string CommandLine::with(const std::string& option) const {
+  const auto found = more.find(option);
+  return found == more.end() ? std::string() : found->second;
 }
 
 std::string CommandLine::help() {
@@ -99,6 +123,22 @@ std::string CommandLine::help() {
          "  fidaleon --import ARCHIVO   trae los registros del programa anterior como diga ese "
          "archivo\n"
          "                              de texto (manual, capítulo 15)\n"
+         "\n"
+         "Para quien lleva un servidor PostgreSQL (manual, capítulo 16):\n"
+         "  fidaleon --guion BASE       escribe las órdenes que preparan la base de datos y sus\n"
+         "                              papeles: quien la posee, quien la usa y quien la lee\n"
+         "  fidaleon --servidor CARPETA --base SERVIDOR[:PUERTO]/BASE --usuario USUARIO\n"
+         "                              la carpeta será la de la parroquia que hay allí\n"
+         "           --nueva NOMBRE --poblacion POBLACIÓN --provincia CÓDIGO [--edicion EDICIÓN]\n"
+         "                              créala allí, vacía\n"
+         "  fidaleon --trasladar CARPETA --a CARPETA [--base ... --usuario ...]\n"
+         "                              lleva la parroquia entera a otra carpeta: con --base, al\n"
+         "                              servidor; sin ella, a un archivo. La primera no cambia.\n"
+         "                              Ctrl+C la deja a medias; la misma orden sigue\n"
+         "           --clave ARCHIVO    la contraseña es su primera línea (si no, PGPASSWORD, o\n"
+         "                              se pregunta sin mostrarla)\n"
+         "           --certificado ARCHIVO  el de quien firma el certificado del servidor\n"
+         "\n"
          "  fidaleon --help             muestra esta ayuda\n";
 }
 

@@ -6,7 +6,9 @@
 
 #include "app/CommandLine.h"
 #include "app/Import.h"
+#include "app/Server.h"
 #include "dbase/Csv.h"
+#include "parish/server/ServerParish.h"
 #include "qt/Spanish.h"
 #include "showroom/Demo.h"
 #include "showroom/Pictures.h"
@@ -76,6 +78,12 @@ int runProgram(int argc, char** argv) {
   }
   if (line.task == CommandLine::Task::Table) return printTable(line);
   if (line.task == CommandLine::Task::Import) return importRegisters(line.path);
+  if (line.task == CommandLine::Task::Server) return connectServer(line);
+  if (line.task == CommandLine::Task::Move) return moveToServer(line);
+  if (line.task == CommandLine::Task::Script) {
+    std::cout << rolesScript(line.path.string());
+    return 0;
+  }
   if (needsNoWindow(line)) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
   } else if (qEnvironmentVariableIsEmpty("DISPLAY") &&

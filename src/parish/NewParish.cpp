@@ -44,6 +44,28 @@ void makeDirectory(const std::filesystem::path& directory, const std::optional<g
   }
 }
 
+/// In its folder, which is there, and has the address where a server is to have it.
+void createThere(const NewParish& parish, const ParishFiles& files, const text::Date& today,
+                 const Filling& sample) {
+  // Nobody comes in meanwhile. Where the guard is not seen by all, the name alone decides.
+  const auto guard = locks::meetingAt(parish.directory)->enter();
+  if (!parish.server && files.exists()) throw store::NameTaken(files.parish());
+  // The note stands before the parish does: a power cut leaves a whole parish or none. That of
+  // somebody else, who may be making one too, stays until this one has won the name.
+  const bool noted = readEdition(files).empty();
+  if (noted) writeEdition(files, parish.edition);
+  try {
+    store::createDatabase(
+        files.parish(), store::parishSchema(),
+        [&](store::Connection& connection) { fill(connection, parish, today, sample); });
+  } catch (...) {
+    std::error_code ignored;
+    if (noted && (parish.server || !files.exists())) std::filesystem::remove(files.note(), ignored);
+    throw;
+  }
+  if (readEdition(files) != parish.edition) writeEdition(files, parish.edition);
+}
+
 }  // namespace
 
 std::vector<AccountGroup> ownGroups() {
@@ -74,23 +96,16 @@ std::string whatIsMissing(const NewParish& parish) {
 void createParish(const NewParish& parish, const text::Date& today, const Filling& sample) {
   const ParishFiles files(parish.directory);
   makeDirectory(parish.directory, parish.group);
-  // Nobody comes in meanwhile. Where the guard is not seen by all, the name alone decides.
-  const auto guard = locks::meetingAt(parish.directory)->enter();
   if (files.exists()) throw store::NameTaken(files.parish());
-  // The note stands before the parish does: a power cut leaves a whole parish or none. That of
-  // somebody else, who may be making one too, stays until this one has won the name.
-  const bool noted = readEdition(files).empty();
-  if (noted) writeEdition(files, parish.edition);
+  // First of all: it says where those who come meanwhile are to be met.
+  if (parish.server) store::writeAddress(files.address(), *parish.server);
   try {
-    store::createDatabase(
-        files.parish(), store::parishSchema(),
-        [&](store::Connection& connection) { fill(connection, parish, today, sample); });
+    createThere(parish, files, today, sample);
   } catch (...) {
     std::error_code ignored;
-    if (noted && !files.exists()) std::filesystem::remove(files.note(), ignored);
+    if (parish.server) std::filesystem::remove(files.address(), ignored);
     throw;
   }
-  if (readEdition(files) != parish.edition) writeEdition(files, parish.edition);
 }
 
 std::int32_t townKey(store::Connection& connection, const std::string& town,

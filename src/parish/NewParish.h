@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "store/Connection.h"
+#include "store/postgres/ServerAddress.h"
 #include "text/Dates.h"
 
 namespace fidaleon::app {
@@ -25,6 +26,7 @@ struct NewParish {
   std::int32_t province = 0;  // official code of its province
   Content content = Content::Empty;
   std::filesystem::path directory;
+  std::optional<store::ServerAddress> server;  // that is to have it; otherwise a file does
   std::optional<gid_t> group;  // whose accounts may work on it too; otherwise as the folder says
 };
 

@@ -2,6 +2,7 @@
 
 #include "locks/MeetingPlace.h"
 #include "parish/copies/SafetyCopies.h"
+#include "store/postgres/PostgresErrors.h"
 
 namespace fidaleon::app {
 namespace {
@@ -28,9 +29,46 @@ std::string named(const ParishFiles& files) {
   return "«" + files.parish().string() + "»";
 }
 
+struct ServerFault {
+  Kind kind;
+  const char* title;
+  const char* meaning;
+};
+
+constexpr const char* UNCHANGED = "Lo que está guardado en el servidor no ha cambiado.";
+
+/// The last is for all others.
+constexpr ServerFault SERVER_FAULTS[] = {
+    {Kind::Missing, "En el servidor no está la parroquia",
+     "Compruebe con quien lleva el servidor el nombre de la base de datos y el del usuario."},
+    {Kind::ReadOnly, "El servidor no deja entrar a este usuario",
+     "Pida a quien lleva el servidor que dé permiso a ese usuario. Si el programa es más nuevo que "
+     "la parroquia, tiene que abrirla una vez el usuario que es dueño de la base de datos."},
+    {Kind::NewerSchema, "La parroquia es de una versión más nueva",
+     "Actualice el programa en este equipo para poder abrirla."},
+    {Kind::NotADatabase, "La parroquia del servidor no puede abrirse", UNCHANGED},
+    {Kind::Busy, "El servidor está ocupado", "Espere un momento y vuelva a intentarlo."},
+    {Kind::DiskFull, "El disco del servidor está lleno",
+     "Avise a quien lleva el servidor. Lo que está guardado sigue a salvo."},
+    {Kind::Other, "No se puede entrar en el servidor", UNCHANGED},
+};
+
+OpeningFault describeServerFault(const store::Error& error, const ParishFiles& files) {
+  if (error.number() == store::kWrongPassword)
+    return fault("El servidor pide la contraseña", error.what(),
+                 {Remedy::Password, Remedy::Retry, Remedy::OtherFolder, Remedy::Exit});
+  const ServerFault* known = SERVER_FAULTS;
+  while (known->kind != error.kind() && known->kind != Kind::Other) ++known;
+  return fault(known->title,
+               std::string(error.what()) + "\n\n" + known->meaning +
+                   "\n\nLa dirección del servidor está en " + named(files) + ".",
+               WAIT);
+}
+
 }  // namespace
 
 OpeningFault describeFault(const store::Error& error, const ParishFiles& files) {
+  if (files.isOnServer()) return describeServerFault(error, files);
   const std::string file = named(files);
   switch (error.kind()) {
     case Kind::Missing:
@@ -89,6 +127,8 @@ std::string remedyName(Remedy remedy) {
   switch (remedy) {
     case Remedy::Retry:
       return "&Reintentar";
+    case Remedy::Password:
+      return "&Escribir la contraseña…";
     case Remedy::OtherIsOff:
       return "El otro equipo está &apagado…";
     case Remedy::ReturnToCopy:

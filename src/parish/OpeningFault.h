@@ -9,7 +9,7 @@
 namespace fidaleon::app {
 
 /// What can be done about a parish that does not open.
-enum class Remedy { Retry, OtherIsOff, ReturnToCopy, OtherFolder, NewParish, Exit };
+enum class Remedy { Retry, Password, OtherIsOff, ReturnToCopy, OtherFolder, NewParish, Exit };
 
 /// A parish that does not open, as its user is told: what is wrong, what it means for the data,
 /// and what can be done.

@@ -143,6 +143,11 @@ bool keptAsSample(store::Connection& parish) {
 OpenParish openParish(const ParishFiles& files) {
   if (!isReadable(files.directory))
     throw store::Error(store::ErrorKind::Connection, UNREADABLE_NAME);
+  if (files.isOnServer() && files::isThere(files.file()))
+    throw store::Error(
+        store::ErrorKind::NotADatabase,
+        "En la carpeta hay dos parroquias: la del fichero «parroquia.fidaleon» y la "
+        "del servidor de «parroquia.servidor». Mueva uno de los dos a otra carpeta.");
   OpenParish open;
   open.parish = store::openDatabase(files.parish(), store::parishSchema());
   settleEdition(files, open);

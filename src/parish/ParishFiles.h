@@ -8,16 +8,21 @@
 
 #include "files/Durable.h"
 #include "store/Connection.h"
+#include "store/postgres/ServerAccess.h"
 
 namespace fidaleon::app {
 
 /// The files of one parish: they lie together in one directory, which several workstations may
-/// share.
+/// share. Where a server has the database, its address lies there instead, for this desk alone.
 struct ParishFiles {
   explicit ParishFiles(std::filesystem::path dir) : directory(std::move(dir)) {}
 
   std::filesystem::path directory;
-  std::filesystem::path parish() const { return directory / "parroquia.fidaleon"; }
+  /// The database, or the address of the server that has it.
+  std::filesystem::path parish() const { return isOnServer() ? address() : file(); }
+  std::filesystem::path file() const { return directory / "parroquia.fidaleon"; }
+  std::filesystem::path address() const { return directory / store::ADDRESS_FILE; }
+  bool isOnServer() const { return files::isThere(address()); }
   std::filesystem::path note() const { return directory / "edicion.txt"; }
 
   /// The same where they lie: those who come through a symbolic link meet all the others.

@@ -1,6 +1,7 @@
 #include "window/Desktop.h"
 
 #include <QApplication>
+#include <QInputDialog>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTimer>
@@ -26,6 +27,24 @@ void takeOver(const ParishFiles& files) {
   try {
     dismissUnseen(files.resolved().directory);
   } catch (const locks::Unusable&) {
+  }
+}
+
+/// Whether it is the right one is seen when the parish is opened again.
+void askForPassword(const ParishFiles& files) {
+  try {
+    const store::ServerAddress address = store::readAddress(files.address());
+    bool given = false;
+    const QString password = QInputDialog::getText(
+        nullptr, QObject::tr("Contraseña del servidor"),
+        QObject::tr("Contraseña de «%1» para %2.\nSe guardará en este equipo, donde solo puede "
+                    "leerla su cuenta.")
+            .arg(QString::fromStdString(address.user), QString::fromStdString(address.shown())),
+        QLineEdit::Password, {}, &given);
+    if (given) store::passwords().keep(address, password.toStdString());
+  } catch (const store::Error& e) {
+    QMessageBox::critical(nullptr, QObject::tr("Contraseña del servidor"),
+                          QString::fromUtf8(e.what()));
   }
 }
 
@@ -151,6 +170,9 @@ bool Desktop::tryRemedy(const OpeningFault& fault, ParishFiles& files) {
   const auto chosen = buttons.find(box.clickedButton());
   switch (chosen == buttons.end() ? Remedy::Exit : chosen->second) {
     case Remedy::Retry:
+      return true;
+    case Remedy::Password:
+      askForPassword(files);
       return true;
     case Remedy::OtherIsOff:
       if (knowsThatNobodyIsThere()) takeOver(files);

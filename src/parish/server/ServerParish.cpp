@@ -1,0 +1,124 @@
+#include "parish/server/ServerParish.h"
+
+#include "files/Durable.h"
+#include "locks/MeetingPlace.h"
+#include "parish/ParishFiles.h"
+#include "parish/Presence.h"
+#include "store/FileFault.h"
+#include "store/Open.h"
+#include "store/postgres/ServerAccess.h"
+#include "text/Numbers.h"
+
+namespace fidaleon::app {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+void makeFolder(const fs::path& directory) {
+  try {
+    files::makeFolders(directory);
+  } catch (const fs::filesystem_error& e) {
+    throw store::fileFault("No se puede preparar la carpeta", directory, e.code());
+  }
+}
+
+void noteEdition(const ParishFiles& files, store::Connection& parish) {
+  const auto row = parish.Execute("SELECT Edicion FROM Instalacion");
+  if (!row.EOF_()) writeEdition(files, row.text("Edicion"));
+}
+
+/// Takes it away again unless it is kept.
+class NewAddress {
+ public:
+  /// A folder that has it already is no fault.
+  NewAddress(const fs::path& directory, const store::ServerAddress& address)
+      : file_(directory / store::ADDRESS_FILE) {
+    const ParishFiles files(directory);
+    if (files.exists() && store::serverAt(directory) != address)
+      throw store::NameTaken(files.parish());
+    if (files.exists()) return;
+    store::writeAddress(file_, address);
+    made_ = true;
+  }
+  ~NewAddress() {
+    std::error_code ignored;
+    if (made_) fs::remove(file_, ignored);
+  }
+  NewAddress(const NewAddress&) = delete;
+  NewAddress& operator=(const NewAddress&) = delete;
+  void keep() { made_ = false; }
+
+ private:
+  fs::path file_;
+  bool made_ = false;
+};
+
+void requireNobody(const std::vector<locks::Holder>& there) {
+  if (there.empty()) return;
+  std::string who;
+  for (const locks::Holder& holder : there) who += "\n  • " + spoken(holder);
+  throw store::Error(
+      store::ErrorKind::Busy,
+      "No se puede trasladar la parroquia mientras alguien más trabaja en ella:\n" + who);
+}
+
+}  // namespace
+
+std::optional<store::ServerAddress> addressFrom(const std::string& written,
+                                                const std::string& user) {
+  store::ServerAddress address;
+  const std::size_t slash = written.rfind('/');
+  if (slash == std::string::npos || slash == 0 || slash + 1 == written.size()) return std::nullopt;
+  address.database = written.substr(slash + 1);
+  address.host = written.substr(0, slash);
+  address.user = user;
+  const std::size_t colon = address.host.rfind(':');
+  const bool inBrackets = address.host.starts_with('[');
+  if (colon != std::string::npos && (!inBrackets || address.host[colon - 1] == ']')) {
+    const auto port = text::toInteger(address.host.substr(colon + 1));
+    if (!port || *port < 1 || *port > 65535) return std::nullopt;
+    address.port = static_cast<int>(*port);
+    address.host.resize(colon);
+  }
+  if (inBrackets && address.host.ends_with(']'))
+    address.host = address.host.substr(1, address.host.size() - 2);
+  if (address.host.empty() || user.empty()) return std::nullopt;
+  return address;
+}
+
+void connectParish(const fs::path& directory, const store::ServerAddress& address) {
+  makeFolder(directory);
+  NewAddress file(directory, address);
+  const ParishFiles files(directory);
+  noteEdition(files, *store::openDatabase(files.parish(), store::parishSchema()));
+  file.keep();
+}
+
+void moveParish(const fs::path& from, const fs::path& to,
+                const std::optional<store::ServerAddress>& address, const std::string& user,
+                const std::string& since, const store::Progress& progress,
+                const store::Telling& tell) {
+  const ParishFiles source = ParishFiles(from).resolved();
+  const ParishFiles target(to);
+  if (!source.exists())
+    throw store::Error(store::ErrorKind::Missing,
+                       "En la carpeta «" + from.string() + "» no hay ninguna parroquia.");
+  makeFolder(to);
+  // Stays, so that what is half done can be gone on with.
+  if (address)
+    NewAddress(to, *address).keep();
+  else if (target.exists())
+    throw store::NameTaken(target.parish());
+  const Presence presence(source.directory, user, since);
+  requireNobody(presence.alone("está trasladando la parroquia", [&] {
+    const auto meeting = locks::meetingAt(to);
+    const auto guard = meeting->enter();
+    const auto there = store::backendAt(target.parish());
+    store::moveDatabase(*store::backendAt(source.parish()), *there, store::parishSchema(), progress,
+                        tell);
+  }));
+  noteEdition(target, *store::openDatabase(target.parish(), store::parishSchema()));
+}
+
+}  // namespace fidaleon::app
