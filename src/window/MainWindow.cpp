@@ -314,7 +314,7 @@ void MainWindow::about() {
 bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
   if (watched == table_->viewport() && event->type() == QEvent::Resize)
     empty_->setGeometry(table_->viewport()->rect());
-  if (watched == table_ && event->type() == QEvent::FontChange) fitRowHeight();
+  if (watched == table_ && event->type() == QEvent::FontChange) fitLetters();
   if (event->type() != QEvent::KeyPress) return QMainWindow::eventFilter(watched, event);
   auto* key = static_cast<QKeyEvent*>(event);
   if (watched == filter_) {

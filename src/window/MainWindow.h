@@ -112,7 +112,8 @@ class MainWindow : public QMainWindow, private Workplace {
 
   void buildTree();
   void buildList();
-  void fitRowHeight();
+  /// Rows as high and columns as wide as the letters of the list need.
+  void fitLetters();
   void buildCommands();
   void buildStatusBar();
   void fillRecent();
@@ -186,6 +187,7 @@ class MainWindow : public QMainWindow, private Workplace {
   QStackedWidget* right_ = nullptr;
   QTableView* table_ = nullptr;
   QLineEdit* filter_ = nullptr;
+  int letter_ = 0;                // width of one, for which the columns are laid out
   QToolButton* scope_ = nullptr;  // which book's rows are shown; takes the limit away
   QLabel* folder_ = nullptr;
   QLabel* empty_ = nullptr;

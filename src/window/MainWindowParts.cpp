@@ -96,7 +96,7 @@ void MainWindow::buildList() {
   table_->setSortingEnabled(true);
   table_->setContextMenuPolicy(Qt::CustomContextMenu);
   table_->verticalHeader()->hide();
-  fitRowHeight();
+  fitLetters();
   table_->horizontalHeader()->setHighlightSections(false);
   table_->horizontalHeader()->setStretchLastSection(true);
   table_->horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
@@ -129,8 +129,14 @@ void MainWindow::buildList() {
           [this](const QPoint& at) { showContextMenu(at); });
 }
 
-void MainWindow::fitRowHeight() {
+void MainWindow::fitLetters() {
   table_->verticalHeader()->setDefaultSectionSize(table_->fontMetrics().height() + 8);
+  const int letter = table_->fontMetrics().averageCharWidth();
+  const QHeaderView* header = table_->horizontalHeader();
+  for (int c = 0; letter_ > 0 && c < header->count(); ++c)
+    if (!header->isSectionHidden(c))
+      table_->setColumnWidth(c, table_->columnWidth(c) * letter / letter_);
+  letter_ = letter;
 }
 
 void MainWindow::buildCommands() {

@@ -290,6 +290,7 @@ TEST_P(RegisterFacade, MovingRequests_HoldsTheInstitutionsAndThenTheBookAndItsEn
   });
   w.nucleo.ImportarSolicitudes(w.con(), w.config, w.requests());
   EXPECT_EQ(w.count(w.sql("{Partidas} WHERE CodLibro=1 AND Numero=\"1\"")), 1);
+  EXPECT_THAT(w.user.messages().back().text, HasSubstr(": folio 1, número 1"));
 }
 
 TEST_P(RegisterFacade, RequestMovedIntoABookMeanwhile_IsNoRequestAnyMore) {

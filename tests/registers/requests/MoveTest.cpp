@@ -33,11 +33,12 @@ class MovedRequests : public ::testing::TestWithParam<Requests> {
   }
   /// In the tables of the register.
   std::string sql(const PlantillaSql& text) const { return sentencia(s, text); }
-  void open(Act act) {
+  void open(Act act, std::int32_t chosen = 0) {
     w.user.expectForm("frmSolicitudes", std::move(act));
     frmSolicitudes dialog(w.contexto);
     dialog.conBaseDatos = &w.con();
     dialog.Origen = GetParam().origin;
+    dialog.elegida = chosen;
     dialog.Show();
   }
   static void choose(FormDriver& d) {
@@ -159,7 +160,13 @@ TEST_P(MovedRequests, NothingChosenOrBookClosed_MovesNothing) {
 
 TEST_P(MovedRequests, Details_AreThoseOfTheMarkedRequest) {
   book(true, 3);
-  request("Luis", parish);
+  const std::int32_t luis = request("Luis", parish);
+  open(
+      [&](FormDriver& d) {
+        EXPECT_EQ(lines(d, "lstSolicitudes(1)").size(), 1u) << "the one chosen in the list";
+        d.click("cmdBoton(1)");
+      },
+      luis);
   open([&](FormDriver& d) {
     choose(d);
     d.click("cmdDetalles");  // none marked
