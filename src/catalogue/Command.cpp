@@ -164,6 +164,13 @@ void addBookCommands(std::vector<Command>& all) {
                                              }))));
 }
 
+void addFamilyCommand(std::vector<Command>& all) {
+  all.push_back(line("familia", "La persona y su &familia…", "Ctrl+M",
+                     "Reúne los sacramentos de la persona y los de su familia",
+                     ENTRIES | REQUESTS | bit(NodeKind::People) | bit(NodeKind::Collaborators),
+                     Needs::Row, [](Workplace& w, const Choice& c) { w.showFamily(c); }));
+}
+
 void addRepairCommands(std::vector<Command>& all) {
   all.push_back(line(
       "partidas-incompletas", "Partidas &incompletas…", "",
@@ -253,6 +260,10 @@ void addWindowCommands(std::vector<Command>& all) {
       still(line("columnas", "&Columnas…", "", "Elige qué columnas se ven en la lista", 0,
                  Needs::List, [](Workplace& w, const Choice&) { w.chooseColumns(); })));
   add(Menu::View,
+      still(line("buscar", "&Buscar en todo", "Ctrl+K",
+                 "Busca en todos los registros, las solicitudes y el padrón", 0, Needs::Nothing,
+                 [](Workplace& w, const Choice&) { w.focusSearch(); })));
+  add(Menu::View,
       still(line("filtrar", "&Filtrar", "Ctrl+F", "Busca en la lista según se escribe", 0,
                  Needs::Nothing, [](Workplace& w, const Choice&) { w.focusFilter(); })));
   add(Menu::File, still(line("nueva-parroquia", "&Nueva parroquia…", "",
@@ -299,6 +310,7 @@ std::vector<Command> makeCommands() {
   addEntryCommands(all);
   addRequestCommands(all);
   addBookCommands(all);
+  addFamilyCommand(all);
   addRepairCommands(all);
   addCensusCommands(all);
   addCatalogueCommands(all);

@@ -13,6 +13,7 @@ struct Documento;
 
 namespace app {
 
+struct Choice;
 struct ListReport;
 
 /// How much of a report on the people or tasks of the parish: what the user chooses, or all.
@@ -37,6 +38,10 @@ class Workplace {
   /// report without rows is told to the user.
   virtual void showListReport(const ListReport& report, Extent extent) = 0;
   virtual void focusFilter() = 0;
+  /// Goes to the search over everything.
+  virtual void focusSearch() = 0;
+  /// Shows what else there is of whom the chosen row is about, and of the family.
+  virtual void showFamily(const Choice& chosen) = 0;
   virtual void readListAnew() = 0;
   /// Lets the user choose the columns of the list.
   virtual void chooseColumns() = 0;

@@ -74,36 +74,59 @@ void Finder::othersStored() {
   change([&] { compare_ = news_ = placesChanged_ = true; });
 }
 
+void Finder::familyOf(Register in, std::int32_t key) {
+  change([&] { family_ = Key{in, key}; });
+}
+
 void Finder::answerAll(const std::stop_token& stop) {
   for (;;) {
-    std::string typed;
+    std::optional<std::string> typed;
+    std::optional<Key> family;
     {
       std::unique_lock lock(mutex_);
-      if (!wake_.wait(lock, stop, [this] { return asked_; })) return;
-      asked_ = false;
-      typed = wanted_;
+      if (!wake_.wait(lock, stop, [this] { return asked_ || family_; })) return;
+      if (std::exchange(asked_, false)) typed = wanted_;
+      family = std::exchange(family_, {});
     }
-    Answer found;
-    try {
-      found = answer(typed);
-    } catch (const store::Error& e) {
-      found = {typed, {}, e.what()};
-      if (e.kind() == store::ErrorKind::NotADatabase && index_) {
-        index_->remove();
-        change([&] { damaged_ = soon_ = true; });
-      }
-      searcher_.reset();
-      index_.reset();
-      parish_.reset();
-    }
-    if (!found.found.stale.empty())
-      change(
-          [&] { keys_.insert(keys_.end(), found.found.stale.begin(), found.found.stale.end()); });
-    listener_.answered(std::move(found));
+    if (typed) answerFind(*typed);
+    if (family) answerFamily(*family);
   }
 }
 
-Finder::Answer Finder::answer(const std::string& typed) {
+template <class Given, class Ask>
+Given Finder::answer(const Ask& ask) {
+  Given given;
+  try {
+    ask(given);
+  } catch (const store::Error& e) {
+    given.fault = e.what();
+    if (e.kind() == store::ErrorKind::NotADatabase && index_) {
+      index_->remove();
+      change([&] { damaged_ = soon_ = true; });
+    }
+    searcher_.reset();
+    index_.reset();
+    parish_.reset();
+  }
+  return given;
+}
+
+void Finder::answerFind(const std::string& typed) {
+  Answer found = answer<Answer>([&](Answer& a) { a.found = searcher().find(typed); });
+  found.typed = typed;
+  if (!found.found.stale.empty())
+    change([&] { keys_.insert(keys_.end(), found.found.stale.begin(), found.found.stale.end()); });
+  listener_.answered(std::move(found));
+}
+
+void Finder::answerFamily(Key key) {
+  listener_.familyFound(answer<Pages>([&](Pages& p) {
+    Searcher& with = searcher();
+    p.pages = search::familyOf(*parish_, with, key.first, key.second);
+  }));
+}
+
+Searcher& Finder::searcher() {
   if (index_ && !index_->isInPlace()) {
     searcher_.reset();
     index_.reset();
@@ -114,7 +137,7 @@ Finder::Answer Finder::answer(const std::string& typed) {
   bool anew = false;
   change([&] { anew = std::exchange(placesChanged_, false); });
   if (anew) searcher_->placesChanged();
-  return {typed, searcher_->find(typed), {}};
+  return *searcher_;
 }
 
 void Finder::keepUp(const std::stop_token& stop) {

@@ -6,11 +6,13 @@
 #include <functional>
 #include <memory>
 #include <mutex>
+#include <optional>
 #include <string>
 #include <thread>
 #include <utility>
 #include <vector>
 
+#include "search/Family.h"
 #include "search/Searcher.h"
 #include "store/TouchedRows.h"
 
@@ -27,13 +29,18 @@ class Finder {
     Found found;
     std::string fault;  // why there is no answer; empty where there is one
   };
+  struct Pages {
+    std::vector<FamilyPage> pages;
+    std::string fault;
+  };
   struct Progress {
     bool whole = false;   // all entries have been looked at
     int thousandths = 0;  // of them, as long as it is not
   };
-  /// What happens outside of it. Both may be called until the Finder is gone.
+  /// What happens outside of it. They may be called until the Finder is gone.
   struct Listener {
     std::function<void(Answer)> answered;
+    std::function<void(Pages)> familyFound;
     std::function<void(Progress)> progressed;  // there may be other answers now
   };
   /// Opens the parish once more.
@@ -46,6 +53,8 @@ class Finder {
 
   /// Of several that wait, only the last is answered.
   void find(std::string typed);
+  /// Likewise.
+  void familyOf(Register in, std::int32_t key);
   /// What this desk has stored.
   void touched(const store::TouchedRows::Rows& rows);
   /// Others have stored something: it will be looked for, but not all the time.
@@ -55,7 +64,12 @@ class Finder {
   using Key = std::pair<Register, std::int32_t>;
 
   void answerAll(const std::stop_token& stop);
-  Answer answer(const std::string& typed);
+  /// The answer, or why there is none.
+  template <class Given, class Ask>
+  Given answer(const Ask& ask);
+  void answerFind(const std::string& typed);
+  void answerFamily(Key key);
+  Searcher& searcher();
   void keepUp(const std::stop_token& stop);
   void work(const std::stop_token& stop);
   void takeAllNew(Indexer& indexer, const std::stop_token& stop);
@@ -74,6 +88,7 @@ class Finder {
   std::condition_variable_any wake_;
   std::string wanted_;  // to be found
   bool asked_ = false;
+  std::optional<Key> family_;                  // to be put together
   std::vector<store::TouchedRows::Row> rows_;  // to be looked at
   std::vector<Key> keys_;                      // likewise
   bool compare_ = true;                        // all that is known is to be compared

@@ -273,9 +273,10 @@ class Matcher {
 }  // namespace
 
 bool Match::isExact() const {
-  return !missing && !swapped && std::all_of(pieces.begin(), pieces.end(), [](const Piece& p) {
-    return p.how <= Likeness::WrittenOut && (!isName(p.field) || whoOf(p.field) <= Who::Bride);
-  });
+  return !missing && !swapped && !pieces.empty() &&
+         std::all_of(pieces.begin(), pieces.end(), [](const Piece& p) {
+           return p.how <= Likeness::WrittenOut && isName(p.field) && whoOf(p.field) <= Who::Bride;
+         });
 }
 
 std::optional<Match> match(const Query& query, const std::vector<Meaning>& meanings,

@@ -66,13 +66,20 @@ std::string likenessOf(const Match::Piece& piece, const std::string& typed,
   }
 }
 
+/// "Libro VII", also where the book is called that.
+std::string bookOf(const Entry& entry, const Places& places) {
+  const std::string& name = places.book(entry.in, entry.number(Field::Book));
+  const auto words = wordsOf(name);
+  return !words.empty() && words.front() == "libro" ? name : "Libro " + name;
+}
+
 std::string placeOf(const Match::Piece& piece, const Entry& entry, const Vocabulary& words,
                     const Places& places) {
   switch (piece.field) {
     case Field::Town:
       return "lugar: " + places.town(piece.word);
     case Field::Book:
-      return "libro " + places.book(entry.in, entry.number(Field::Book));
+      return bookOf(entry, places);
     case Field::Institution:
       return "institución: " + places.institution(piece.word);
     default:
@@ -99,7 +106,7 @@ std::string whereOf(const Entry& entry, const Places& places) {
   }
   const std::int64_t book = entry.number(Field::Book);
   if (book == 0) return "Solicitud, " + places.institution(entry.number(Field::Institution));
-  return "Libro " + places.book(entry.in, book) + ", folio " + entry.text(Field::Folio) + ", n.º " +
+  return bookOf(entry, places) + ", folio " + entry.text(Field::Folio) + ", n.º " +
          entry.text(Field::Number) + ", " +
          places.institution(places.institutionOf(entry.in, book));
 }
@@ -167,7 +174,7 @@ std::string reasonOf(const Query& query, const Match& match, const Entry& entry,
     reason.add("falta " + quoted(capital(query.words[*match.missing].text)));
   reason.add(year(query, entry));
   if (query.folio != 0) reason.add("folio " + std::to_string(query.folio));
-  if (!query.book.empty()) reason.add("libro " + places.book(entry.in, entry.number(Field::Book)));
+  if (!query.book.empty()) reason.add(bookOf(entry, places));
   return reason.take();
 }
 

@@ -11,6 +11,7 @@ namespace {
 
 constexpr std::size_t LOOKED_AT = 1500;  // documents of one round
 constexpr std::size_t ENOUGH = 20;       // with so many, no letter is taken for wrong
+constexpr std::size_t PLACE_BEGUN = 4;   // letters
 constexpr std::size_t MOST_WORDS = 8;
 constexpr std::size_t KEPT_SETS = 48;
 
@@ -129,9 +130,9 @@ const Searcher::Sets& Searcher::setsOf(const Word& word, Vocabulary::Letters let
   }
   sets.subject |= sets.exact;
   sets.any |= sets.subject;
-  if (word.text.size() < 3 && word.typed != Vocabulary::Typed::Whole) return sets;
+  const auto typed = word.text.size() < PLACE_BEGUN ? Vocabulary::Typed::Whole : word.typed;
   const auto addPlaces = [&](Places::By by, std::unordered_set<MarkId>& to) {
-    for (const MarkId mark : places().like(word.text, word.typed, by)) {
+    for (const MarkId mark : places().like(word.text, typed, by)) {
       to.insert(mark);
       index_.add(sets.any, mark);
     }
@@ -187,22 +188,23 @@ std::vector<Searcher::Candidate> Searcher::candidates(const Query& query, std::s
 }
 
 Found Searcher::find(std::string_view typed, std::size_t most) {
+  const Query query = readQuery(typed);
+  Found found = find(query, most);
+  const bool kinds = !query.kinds.empty() || query.onlyRequests || query.onlyAnnulled;
+  if (!found.hits.empty() || !kinds) return found;
+  return find(readQuery(typed, true), most);
+}
+
+Found Searcher::find(const Query& asked, std::size_t most) {
   renewIfWritten();
   if (sets_.size() > KEPT_SETS) sets_.clear();
   places();
-  Query query = readQuery(typed);
+  Query query = asked;
+  if (query.words.size() > MOST_WORDS) query.words.resize(MOST_WORDS);
+  const bool tooShort = query.words.size() == 1 && query.words.front().text.size() < 2;
+  if (query.empty() || tooShort) return {};
   bool more = false;
-  const auto look = [&]() -> std::vector<Candidate> {
-    if (query.words.size() > MOST_WORDS) query.words.resize(MOST_WORDS);
-    const bool tooShort = query.words.size() == 1 && query.words.front().text.size() < 2;
-    if (query.empty() || tooShort) return {};
-    return candidates(query, most, more);
-  };
-  std::vector<Candidate> found = look();
-  if (found.empty() && (!query.kinds.empty() || query.onlyRequests || query.onlyAnnulled)) {
-    query = readQuery(typed, true);
-    found = look();
-  }
+  std::vector<Candidate> found = candidates(query, most, more);
   Found result = shown(query, std::move(found), most);
   result.more = result.more || more;
   return result;

@@ -45,6 +45,7 @@ class Searcher {
   Searcher(store::Connection& parish, IndexFile& index);
 
   Found find(std::string_view typed, std::size_t most = 60);
+  Found find(const Query& query, std::size_t most);
   /// Towns, books or institutions have changed.
   void placesChanged() { placesRead_ = false; }
   const Places& places();

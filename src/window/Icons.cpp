@@ -19,7 +19,7 @@ struct Drawing {
   const char* strokes;
 };
 
-constexpr std::array<Drawing, 26> DRAWINGS{{
+constexpr std::array<Drawing, 31> DRAWINGS{{
     {"new",
      "M 13 3 L 6 3 L 6 21 L 18 21 L 18 8 Z M 13 3 L 13 8 L 18 8 M 12 11 L 12 17 M 9 14 L "
      "15 14"},
@@ -42,6 +42,12 @@ constexpr std::array<Drawing, 26> DRAWINGS{{
     {"forward", "M 9 6 L 16 12 L 9 18"},
     {"last", "M 17 6 L 17 18 M 7 6 L 14 12 L 7 18"},
     {"close", "M 6 6 L 18 18 M 18 6 L 6 18"},
+    {"search", "O 10 10 6 M 14.500 14.500 L 20 20"},
+    {"baptism", "M 12 3 L 17 11 L 17 15 L 15 18 L 12 19 L 9 18 L 7 15 L 7 11 Z M 9.500 14 L 11 16"},
+    {"confirmation",
+     "M 12 3 L 15 9 L 17 12 L 16.500 17 L 14 20 L 10 20 L 7.500 17 L 7 13 L 9.500 11 L 10 7 Z"},
+    {"marriage", "O 9 13 5.500 O 15 13 5.500"},
+    {"death", "M 12 3 L 12 21 M 6.500 8.500 L 17.500 8.500"},
     {"folder", "M 3 6 L 10 6 L 12 8 L 21 8 L 21 19 L 3 19 Z"},
     {"book", "M 5 4 L 18 4 L 18 20 L 5 20 Z M 5 17 L 18 17 M 9 8 L 14 8"},
     {"entry", "M 6 3 L 18 3 L 18 21 L 6 21 Z M 9 8 L 15 8 M 9 12 L 15 12 M 9 16 L 13 16"},

@@ -161,8 +161,8 @@ Choice MainWindow::choice() const {
   return c;
 }
 
-void MainWindow::run(const Command& command) {
-  const Choice chosen = choice();
+void MainWindow::run(const Command& command, const Choice& chosen) {
+  const NodeView* const shown = node_;
   if (busy_ || !applies(command, chosen)) return;
   if (command.kinds != 0 && !isInPlace()) return;
   daily_.giveUp();
@@ -182,8 +182,9 @@ void MainWindow::run(const Command& command) {
   }
   busy_ = false;
   if (std::exchange(metDamage_, false)) sayDamaged();
-  if (node_ == chosen.node && stopped) renew();
-  if (node_ == chosen.node && command.refreshes) refresh(command, chosen.id);
+  if (node_ == shown && stopped) renew();
+  if (node_ == shown && command.refreshes)
+    refresh(command, chosen.node == shown ? chosen.id : choice().id);
   activateWindow();
 }
 
@@ -315,6 +316,12 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
   if (watched == table_->viewport() && event->type() == QEvent::Resize)
     empty_->setGeometry(table_->viewport()->rect());
   if (watched == table_ && event->type() == QEvent::FontChange) fitLetters();
+  // Ctrl+K is the search's, and not the text field's that would cut off what is behind the caret.
+  if (watched == filter_ && event->type() == QEvent::ShortcutOverride &&
+      static_cast<QKeyEvent*>(event)->matches(QKeySequence::DeleteEndOfLine)) {
+    event->ignore();
+    return true;
+  }
   if (event->type() != QEvent::KeyPress) return QMainWindow::eventFilter(watched, event);
   auto* key = static_cast<QKeyEvent*>(event);
   if (watched == filter_) {

@@ -22,6 +22,7 @@
 #include "window/ParishDoor.h"
 #include "window/RowsFilter.h"
 #include "window/RowsModel.h"
+#include "window/SearchBox.h"
 
 class QAction;
 class QLabel;
@@ -61,6 +62,7 @@ class MainWindow : public QMainWindow, private Workplace {
   QAction* action(const std::string& command) const;
   QTableView& table() { return *table_; }
   QLineEdit& filter() { return *filter_; }
+  SearchBox& search() { return *search_; }
   /// Tells of entries that lack a row, and shows them to whoever wants to see them.
   void tellOfIncompleteEntries();
   /// Chooses the row of that key; false when the list does not show it.
@@ -93,6 +95,8 @@ class MainWindow : public QMainWindow, private Workplace {
   void showDocument(const Documento& document, std::int32_t id) override;
   void showListReport(const ListReport& report, Extent extent) override;
   void focusFilter() override;
+  void showFamily(const Choice& chosen) override;
+  void focusSearch() override;
   void saveList() override;
   void backUp() override;
   void returnToCopy() override;
@@ -122,7 +126,12 @@ class MainWindow : public QMainWindow, private Workplace {
   void selectFirst();
   using Maker = std::function<std::optional<paper::Report>(paper::ReportOptions)>;
   void preview(const Maker& make);
-  void run(const Command& command);
+  void run(const Command& command) { run(command, choice()); }
+  void run(const Command& command, const Choice& chosen);
+  void runOnFound(SearchBox::Act act, const search::Hit& hit);
+  /// Shows its list, with the row chosen.
+  void showInList(const Choice& row);
+  void openFamily(search::Register in, std::int32_t key);
   /// Makes sure that there is a copy before the command takes anything away.
   void carryOut(const Command& command, const Choice& chosen);
   /// Makes the copy that goes before the command. False when there can be none and the user would
@@ -139,6 +148,8 @@ class MainWindow : public QMainWindow, private Workplace {
   void showParishName();
   /// After a command: reads what it has touched, or, where that is not known, the list.
   void refresh(const Command& after, std::int32_t keep);
+  /// Every one of them is told to the search.
+  store::TouchedRows::Rows takeTouched();
   struct Touched {
     bool all = false;  // any row may be
     std::vector<std::int32_t> keys;
@@ -194,6 +205,7 @@ class MainWindow : public QMainWindow, private Workplace {
   QLabel* count_ = nullptr;
   QLabel* parishName_ = nullptr;
   QToolBar* bar_ = nullptr;
+  SearchBox* search_ = nullptr;
   QMenu* recent_ = nullptr;
   RowsModel rows_;
   RowsFilter shown_;

@@ -174,6 +174,12 @@ void MainWindow::buildCommands() {
     if (command.toolbar) bar_->addAction(action);
     actions_[command.id] = action;
   }
+  search_ = new SearchBox(
+      desk_, [this](SearchBox::Act act, const search::Hit& hit) { runOnFound(act, hit); }, this);
+  connect(search_, &SearchBox::left, table_, [this] { table_->setFocus(Qt::OtherFocusReason); });
+  auto* finding = addToolBar(tr("Búsqueda"));
+  finding->setMovable(false);
+  finding->addWidget(search_);
   recent_ = new QMenu(tr("Parroquias &recientes"), this);
   menus.at(Menu::File)->insertMenu(actions_.at("cerrar-parroquia"), recent_);
   menus.at(Menu::File)->insertSeparator(actions_.at("guardar-lista"));

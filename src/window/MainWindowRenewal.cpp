@@ -50,7 +50,7 @@ std::int32_t newKey(std::vector<std::int32_t> before, const std::vector<std::int
 
 void MainWindow::loadRows() {
   others_.since();  // what is read now is what they have left
-  touched_.take();
+  takeTouched();
   chooseAdded_ = false;
   reading([this] { return rows_.begin(desk_.parish(), *node_, AT_ONCE); });
   if (rows_.view() != node_) rows_.clear();  // no command may take another list's row for its own
@@ -118,8 +118,14 @@ bool MainWindow::finishReading() {
   return rows_.isWhole();
 }
 
+store::TouchedRows::Rows MainWindow::takeTouched() {
+  store::TouchedRows::Rows rows = touched_.take();
+  search_->touched(rows);
+  return rows;
+}
+
 MainWindow::Touched MainWindow::touchedRows() {
-  const store::TouchedRows::Rows rows = touched_.take();
+  const store::TouchedRows::Rows rows = takeTouched();
   Touched touched{rows.all, {}};
   bool lost = false;  // rows beside the list's own that are gone, perhaps with it
   const std::vector<RowPart>& parts = node_->parts;

@@ -1,3 +1,4 @@
+#include "search/Family.h"
 #include "search/SearchWorld.h"
 
 namespace fidaleon::search {
@@ -95,6 +96,35 @@ TEST_F(Search, makes_a_damaged_or_missing_index_anew_and_keeps_it_to_its_account
   EXPECT_FALSE(index.isInPlace());
   Indexer(world.con(), anew).refresh(Register::Death, {world.key("D5")});
   EXPECT_THAT(world.codes(Searcher(world.con(), anew).find("quesada")), ElementsAre("D5"));
+}
+
+/// "+M1" for what is clear, "?M1" for what is doubtful, with its kinship in front.
+std::vector<std::string> family(SearchWorld& world, Searcher& searcher, const char* code) {
+  std::vector<std::string> all;
+  const auto in = static_cast<Register>(std::string("BCMDP").find(code[0]));
+  for (const FamilyPage& page : familyOf(world.con(), searcher, in, world.key(code)))
+    for (const Kin& kin : page.kin)
+      all.push_back(std::to_string(static_cast<int>(kin.kinship)) + (kin.sure ? "+" : "?") +
+                    world.codes({{kin.hit}, false, {}}).front());
+  return all;
+}
+
+TEST_F(Search, puts_a_person_and_the_family_together) {
+  bring();
+  // Herself; the wedding of her parents.
+  EXPECT_THAT(family(world, searcher, "B1"), ElementsAre("0+B1", "0+C1", "0+M1", "0+D2", "1+M3"));
+  // His spouse makes an own marriage sure; his sister; nobody with another mother.
+  EXPECT_THAT(family(world, searcher, "B10"),
+              ElementsAre("0+B10", "0+C2", "0+M2", "1+M4", "2+B11"));
+  // Of a marriage both, with their children.
+  EXPECT_THAT(family(world, searcher, "M5"), ElementsAre("0+M5", "3+B9", "0+M5", "3+B9"));
+  // Only the name agrees.
+  EXPECT_THAT(family(world, searcher, "D3"), ElementsAre("0+B7", "0+D3"));
+  EXPECT_THAT(family(world, searcher, "C4"), ElementsAre("0+C4"));
+  world.add("B98",
+            row("de=Teófilo|Quesada|Cuesta; dia=18800101; nac=18791230; libro=I; folio=1; num=1"));
+  bring();
+  EXPECT_THAT(family(world, searcher, "D5"), ElementsAre("0+D5", "0?B98"));
 }
 
 }  // namespace

@@ -1,0 +1,62 @@
+#include "window/FamilyDialog.h"
+#include "window/OpenWindow.h"
+
+namespace fidaleon::app::SearchWindowTest {
+
+class SearchWindow : public OpenWindow<> {
+ protected:
+  SearchBox& box() { return window->search(); }
+  /// Types as a person does, and waits for what is found.
+  void find(const QString& text) {
+    box().setFocus();
+    box().clear();
+    QTest::keyClicks(&box(), text);
+    QTRY_VERIFY_WITH_TIMEOUT(box().isWhole() && box().isAnswered(), 20000);
+  }
+  std::vector<std::string> names() {
+    std::vector<std::string> all;
+    for (int row = 0; row < box().found().hits().rowCount(); ++row)
+      all.push_back(box().found().hits().hit(row).name);
+    return all;
+  }
+  QString nameOf(const std::string& condition) {
+    const auto row =
+        desk->parish().Execute("SELECT Nombre, PrimerApellido, SegundoApellido FROM " + condition);
+    return QString::fromStdString(row.text(0) + " " + row.text(1) + " " + row.text(2));
+  }
+};
+
+TEST_F(SearchWindow, WhatIsTyped_IsFoundAndOpenedAndFoundAnewWhenItHasChanged) {
+  const std::string of = "Bautismo_Hijo, Bautismo WHERE IDBautismo=CodBautismo AND CodLibro<>0";
+  const QString name = nameOf(of);
+  find(name.toUpper());
+  ASSERT_THAT(names(), Contains(name.toStdString()));
+  const search::Hit hit = *box().found().chosen();
+  user.expectForm("frmPartidaBautismo", [](forms::FormDriver& form) { form.close(); });
+  QTest::keyClick(&box(), Qt::Key_Return);
+  QTest::keyClick(&box(), Qt::Key_Escape);
+  desk->parish().Execute("UPDATE Bautismo_Hijo SET Nombre='Zósimo' WHERE CodBautismo=" +
+                         std::to_string(hit.key));
+  give("actualizar");
+  QTRY_VERIFY((find("zosimo"), !names().empty()));
+}
+
+TEST_F(SearchWindow, TheFamilyOfAHit_IsShownAndLeadsBackToItsList) {
+  find(nameOf("Matrimonio_Novios"));
+  ASSERT_NE(box().found().chosen(), nullptr);
+  const std::int32_t key = box().found().chosen()->key;
+  bool seen = false;
+  QTimer::singleShot(0, [&] {
+    auto* page = qobject_cast<FamilyDialog*>(QApplication::activeModalWidget());
+    ASSERT_NE(page, nullptr);
+    QTRY_VERIFY(page->isAnswered());
+    seen = page->lines().topLevelItemCount() > 0;
+    QTest::keyClick(page, Qt::Key_Return, Qt::ControlModifier);
+  });
+  QTest::keyClick(&box(), Qt::Key_M, Qt::ControlModifier);
+  QCoreApplication::processEvents();
+  EXPECT_TRUE(seen);
+  EXPECT_EQ(window->choice().id, key);
+}
+
+}  // namespace fidaleon::app::SearchWindowTest
