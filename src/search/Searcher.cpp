@@ -9,9 +9,9 @@
 namespace fidaleon::search {
 namespace {
 
-constexpr std::size_t LOOKED_AT = 1500;  // documents of one round
-constexpr std::size_t ENOUGH = 20;       // with so many, no letter is taken for wrong
-constexpr std::size_t PLACE_BEGUN = 4;   // letters
+constexpr std::size_t LOOKED_AT = 600;  // documents of one round
+constexpr std::size_t ENOUGH = 20;      // with so many, no letter is taken for wrong
+constexpr std::size_t PLACE_BEGUN = 4;  // letters
 constexpr std::size_t MOST_WORDS = 8;
 constexpr std::size_t KEPT_SETS = 48;
 

@@ -236,8 +236,8 @@ bool SearchBox::event(QEvent* event) {
     auto* key = static_cast<QKeyEvent*>(event);
     const bool ctrl = key->modifiers() & Qt::ControlModifier;
     const auto is = [&](auto... keys) { return ctrl && ((key->key() == keys) || ...); };
-    if (is(Qt::Key_K)) return false;  // it would cut off the text behind the caret
-    if (panel_->isVisible() && is(Qt::Key_P, Qt::Key_M, Qt::Key_Return, Qt::Key_Enter)) {
+    if (is(Qt::Key_K) ||
+        (panel_->isVisible() && is(Qt::Key_P, Qt::Key_M, Qt::Key_Return, Qt::Key_Enter))) {
       event->accept();
       return true;
     }
@@ -271,6 +271,7 @@ void SearchBox::keyPressEvent(QKeyEvent* event) {
     default:
       break;
   }
+  if (ctrl && event->key() == Qt::Key_K) return selectAll();
   if (ctrl && event->key() == Qt::Key_P) return act(Act::Print);
   if (ctrl && event->key() == Qt::Key_M) return act(Act::ShowFamily);
   QLineEdit::keyPressEvent(event);
