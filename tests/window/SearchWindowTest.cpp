@@ -6,11 +6,11 @@ namespace fidaleon::app::SearchWindowTest {
 class SearchWindow : public OpenWindow<> {
  protected:
   SearchBox& box() { return window->search(); }
-  /// Types as a person does, and waits for what is found.
+  /// Waits for what is found.
   void find(const QString& text) {
     box().setFocus();
     box().clear();
-    QTest::keyClicks(&box(), text);
+    box().insert(text);
     QTRY_VERIFY_WITH_TIMEOUT(box().isWhole() && box().isAnswered(), 20000);
   }
   std::vector<std::string> names() {
@@ -37,8 +37,9 @@ TEST_F(SearchWindow, WhatIsTyped_IsFoundAndOpenedAndFoundAnewWhenItHasChanged) {
   QTest::keyClick(&box(), Qt::Key_Escape);
   desk->parish().Execute("UPDATE Bautismo_Hijo SET Nombre='Zósimo' WHERE CodBautismo=" +
                          std::to_string(hit.key));
-  give("actualizar");
-  QTRY_VERIFY((find("zosimo"), !names().empty()));
+  window->showNode("PartidasConfirmacion");
+  find("zosimo");
+  QTRY_VERIFY(!names().empty());
 }
 
 TEST_F(SearchWindow, TheFamilyOfAHit_IsShownAndLeadsBackToItsList) {
@@ -46,16 +47,17 @@ TEST_F(SearchWindow, TheFamilyOfAHit_IsShownAndLeadsBackToItsList) {
   ASSERT_NE(box().found().chosen(), nullptr);
   const std::int32_t key = box().found().chosen()->key;
   bool seen = false;
-  QTimer::singleShot(0, [&] {
+  QTimer look;
+  QObject::connect(&look, &QTimer::timeout, &look, [&] {
     auto* page = qobject_cast<FamilyDialog*>(QApplication::activeModalWidget());
-    ASSERT_NE(page, nullptr);
-    QTRY_VERIFY(page->isAnswered());
+    if (!page || !page->isAnswered()) return;
+    look.stop();
     seen = page->lines().topLevelItemCount() > 0;
     QTest::keyClick(page, Qt::Key_Return, Qt::ControlModifier);
   });
+  look.start(20);
   QTest::keyClick(&box(), Qt::Key_M, Qt::ControlModifier);
-  QCoreApplication::processEvents();
-  EXPECT_TRUE(seen);
+  QTRY_VERIFY(seen);
   EXPECT_EQ(window->choice().id, key);
 }
 
