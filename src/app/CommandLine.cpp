@@ -124,7 +124,7 @@ std::string CommandLine::help() {
          "archivo\n"
          "                              de texto (manual, capítulo 15)\n"
          "\n"
-         "Para quien lleva un servidor PostgreSQL (manual, capítulo 16):\n"
+         "Para quien lleva un servidor PostgreSQL (manual, capítulo 18):\n"
          "  fidaleon --guion BASE       escribe las órdenes que preparan la base de datos y sus\n"
          "                              papeles: quien la posee, quien la usa y quien la lee\n"
          "  fidaleon --servidor CARPETA --base SERVIDOR[:PUERTO]/BASE --usuario USUARIO\n"
