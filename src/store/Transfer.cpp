@@ -209,6 +209,7 @@ void copyTable(Engine& from, Engine& to, const Table& table, Way& way, const Tel
     if (tell) tell("La tabla «" + table.name() + "» no es como era: se copia de nuevo.");
     way.back(same);
     to.run("DELETE FROM " + to.spelling().name(table.name()));
+    source.reset();
     source = std::make_unique<Rows>(from, table);
   }
   Adding adding(to, table);

@@ -1,19 +1,28 @@
 // A database on its way to another place, and copies that are made of its rows.
 
 #include "files/Machine.h"
+#include "store/ChangeWatch.h"
 #include "store/FailingEngine.h"
 #include "store/Open.h"
+#include "store/Restore.h"
 #include "store/RowCounts.h"
 #include "store/Transfer.h"
-#include "store/sqlite/FileBackend.h"
+#include "store/postgres/ServerAccess.h"
+#include "support/PostgresCluster.h"
 
 namespace fidaleon::store::TransferTest {
 
 namespace fs = std::filesystem;
 
-class Transfer : public testing::Test {
+/// To a file, or to a server.
+class Transfer : public testing::TestWithParam<bool> {
  protected:
   void SetUp() override {
+    if (GetParam()) {
+      database = std::make_unique<tests::PostgresDatabase>();
+      target = directory.path() / ADDRESS_FILE;
+      writeAddress(target, database->address());
+    }
     connection = createDatabase(source, parishSchema());
     connection->BeginTrans();
     for (int i = 0; i < 3000; ++i)
@@ -40,12 +49,13 @@ class Transfer : public testing::Test {
 
   tests::TempDirectory directory;
   const fs::path source = directory.path() / "aquí.fidaleon";
-  const fs::path target = directory.path() / "allí.fidaleon";
+  std::unique_ptr<tests::PostgresDatabase> database;
+  fs::path target = directory.path() / "allí.fidaleon";
   std::unique_ptr<Connection> connection;
   std::string told;
 };
 
-TEST_F(Transfer, Moved_EveryRowIsThereAndNoKeyIsGivenAgain) {
+TEST_P(Transfer, Moved_EveryRowIsThereAndNoKeyIsGivenAgain) {
   const auto before = rowCounts(connection->engine(), parishSchema());
   move();
   requireSame();
@@ -58,11 +68,12 @@ TEST_F(Transfer, Moved_EveryRowIsThereAndNoKeyIsGivenAgain) {
 }
 
 /// Given up at every stage in turn: there is nothing before it is whole, and it goes on.
-TEST_F(Transfer, GivenUp_GoesOnWhereItStopped) {
+TEST_P(Transfer, GivenUp_GoesOnWhereItStopped) {
   for (const int stage : {1, 300, 500, 700, 990}) {
     const auto stop = [&](int done) { return done < stage; };
     EXPECT_EQ(kindOf([&] { move(stop); }), ErrorKind::Cancelled);
-    EXPECT_EQ(kindOf([&] { openDatabase(target, parishSchema()); }), ErrorKind::Missing);
+    EXPECT_EQ(kindOf([&] { openDatabase(target, parishSchema()); }),
+              GetParam() ? ErrorKind::NotADatabase : ErrorKind::Missing);
   }
   connection->Execute("UPDATE Municipio SET Nombre = \"Otro\" WHERE IDMunicipio = 5");
   move();
@@ -72,7 +83,7 @@ TEST_F(Transfer, GivenUp_GoesOnWhereItStopped) {
   requireSame();
 }
 
-TEST_F(Transfer, Different_TheFirstRowIsTold) {
+TEST_P(Transfer, Different_TheFirstRowIsTold) {
   move();
   std::string message;
   openDatabase(target, parishSchema())
@@ -80,5 +91,24 @@ TEST_F(Transfer, Different_TheFirstRowIsTold) {
   EXPECT_EQ(kindOf([&] { requireSame(); }, &message), ErrorKind::NotADatabase);
   EXPECT_EQ(message, "La tabla «Cargo» no tiene lo mismo que el original en la fila 1.");
 }
+
+/// What a server holds is copied into a file, which is returned to; no key is given again.
+TEST_P(Transfer, Copied_CanBeReturnedTo) {
+  move();
+  const fs::path copy = directory.path() / "antes.copia";
+  const auto there = openDatabase(target, parishSchema());
+  ChangeWatch watch(*there);
+  backupDatabase(*there, copy);
+  EXPECT_FALSE(watch.changed());
+  there->Execute("INSERT INTO Cargo (Nombre) VALUES (\"Organista\")");
+  there->Execute("DELETE FROM Municipio");
+  EXPECT_TRUE(watch.changed());
+  Restore(copy, target, parishSchema()).run();
+  requireSame();
+  there->Execute("INSERT INTO Cargo (Nombre) VALUES (\"Organista\")");
+  EXPECT_EQ(there->Execute("SELECT MAX(IDCargo) AS n FROM Cargo").integer("n"), GetParam() ? 4 : 3);
+}
+
+INSTANTIATE_TEST_SUITE_P(ToAFileOrAServer, Transfer, testing::Bool());
 
 }  // namespace fidaleon::store::TransferTest

@@ -215,6 +215,10 @@ Answer Link::next() {
   if (answer.isRow()) return answer;
   reader_ = nullptr;
   while (PGresult* further = PQgetResult(link_.get())) PQclear(further);
+  // The library goes on giving rows singly to what is sent next in a bundle, until something is
+  // sent by itself.
+  ++journeys_;
+  PQclear(PQexec(link_.get(), ""));
   check(answer);
   return answer;
 }
