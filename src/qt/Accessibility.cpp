@@ -23,9 +23,8 @@ std::string describe(QAccessibleInterface& control) {
 
 void walk(QAccessibleInterface* control, std::vector<std::string>& found) {
   if (!control || !control->isValid()) return;
-  const QAccessible::State state = control->state();
-  if (state.invisible) return;
-  if (state.focusable && control->text(QAccessible::Name).trimmed().isEmpty())
+  // Also what stands on a page that is not in front.
+  if (control->state().focusable && control->text(QAccessible::Name).trimmed().isEmpty())
     found.push_back(describe(*control));
   if (holdsLines(control->role())) return;
   for (int i = 0; i < control->childCount(); ++i) walk(control->child(i), found);

@@ -46,20 +46,17 @@ void PictureAlbum::add(const std::string& name, const std::optional<paper::Repor
 }
 
 void PictureAlbum::add(const std::string& name, forms::Form& form) {
+  if (look_) return qt::showUnseen(form, SCREEN, [&](QWidget& window) { look_(name, window); });
   forms::TabStrip* strip = tabsOf(form);
-  if (!strip) return addTab(name, form);
+  if (!strip) return add(name, qt::renderToPicture(form, SCREEN));
   const int front = strip->tab();
   for (int tab = 0; tab < strip->tabCount(); ++tab) {
     if (!strip->tabVisible(tab)) continue;
     strip->setTab(tab);
-    addTab(name + "-" + std::to_string(tab + 1) + "-" + plainName(strip->caption(tab)), form);
+    add(name + "-" + std::to_string(tab + 1) + "-" + plainName(strip->caption(tab)),
+        qt::renderToPicture(form, SCREEN));
   }
   strip->setTab(front);
-}
-
-void PictureAlbum::addTab(const std::string& name, forms::Form& form) {
-  if (!look_) return add(name, qt::renderToPicture(form, SCREEN));
-  qt::showUnseen(form, SCREEN, [&](QWidget& window) { look_(name, window); });
 }
 
 void PictureAlbum::miss(const std::string& name, const std::string& why) {

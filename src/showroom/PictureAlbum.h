@@ -35,8 +35,6 @@ class PictureAlbum {
   bool complete() const { return failures_ == 0; }
 
  private:
-  void addTab(const std::string& name, forms::Form& form);
-
   std::filesystem::path directory_;
   std::ostream& out_;
   Look look_;
