@@ -23,8 +23,9 @@ std::string describe(QAccessibleInterface& control) {
 
 void walk(QAccessibleInterface* control, std::vector<std::string>& found) {
   if (!control || !control->isValid()) return;
-  // Also what stands on a page that is not in front.
-  if (control->state().focusable && control->text(QAccessible::Name).trimmed().isEmpty())
+  const QAccessible::State state = control->state();
+  if (state.invisible) return;
+  if (state.focusable && control->text(QAccessible::Name).trimmed().isEmpty())
     found.push_back(describe(*control));
   if (holdsLines(control->role())) return;
   for (int i = 0; i < control->childCount(); ++i) walk(control->child(i), found);

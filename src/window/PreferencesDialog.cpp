@@ -16,6 +16,7 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include "core/contract/Teclado.h"
 #include "parish/copies/CopyRetention.h"
 #include "qt/Appearance.h"
 #include "qt/Letters.h"
@@ -141,6 +142,12 @@ QWidget* PreferencesDialog::generalPage() {
     letter_->addItem(tr("%1 puntos").arg(points), QString::number(points));
   const QString letter = toQt(readPreference(settings, desk_.config(), Preference::LetterSize));
   choose(*letter_, letter, letter);
+  enter_ = page->add(tr("La tecla I&ntro:"), new QComboBox(page),
+                     tr("Al escribir partidas y fichas, desde la próxima que se abra. Si pasa de "
+                        "campo, se acepta con Ctrl + Intro."));
+  enter_->addItem(tr("Pasa al campo siguiente"), true);
+  enter_->addItem(tr("Acepta"), false);
+  enter_->setCurrentIndex(introPasaDeCampo(settings) ? 0 : 1);
   return page;
 }
 
@@ -279,6 +286,7 @@ void PreferencesDialog::write() {
     for (const InstitutionKeepers& was : before)
       if (was.institution == one.institution && was.usual != one.usual)
         setUsualKeeper(desk_.parish(), one.institution, one.usual);
+  ponerIntroPasaDeCampo(settings, enter_->currentData().toBool());
   qt::useLetters(dataOf(*letter_).toInt());
 }
 

@@ -49,6 +49,7 @@ class PreferencesDialog : public QDialog {
   QComboBox* edition_ = nullptr;
   QLineEdit* folder_ = nullptr;
   QComboBox* letter_ = nullptr;
+  QComboBox* enter_ = nullptr;
   QComboBox* printer_ = nullptr;
   QComboBox* institution_ = nullptr;
   QComboBox* keeper_ = nullptr;
