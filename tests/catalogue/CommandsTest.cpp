@@ -37,18 +37,20 @@ TEST(Commands, withoutARow_onlyNewThings) {
 TEST(Commands, anEntryIsAnnulledOrValidated_neverBoth) {
   const Ids valid = given(at("PartidasBautismo", 5));
   const Ids annulled = given(at("PartidasBautismo", 5, true));
-  EXPECT_EQ(valid, (Ids{"nueva-partida", "antigua-partida", "propiedades-partida", "anular",
-                        "eliminar-partida", "certificado", "literal", "partida", "volante"}));
+  EXPECT_EQ(valid,
+            (Ids{"nueva-partida", "antigua-partida", "propiedades-partida", "anular",
+                 "eliminar-partida", "certificado", "literal", "partida", "volante", "familia"}));
   EXPECT_TRUE(annulled.count("validar"));
   EXPECT_FALSE(annulled.count("anular"));
 }
 
 TEST(Commands, peopleAreOpenedInEitherRole_andDeletedInTheirOwn) {
-  EXPECT_EQ(given(at("Padrón", 7)), (Ids{"nuevo-empadronado", "propiedades-empadronado",
-                                         "abrir-como-colaborador", "eliminar-empadronado"}));
+  EXPECT_EQ(given(at("Padrón", 7)),
+            (Ids{"nuevo-empadronado", "propiedades-empadronado", "abrir-como-colaborador",
+                 "eliminar-empadronado", "familia"}));
   EXPECT_EQ(given(at("Colaboradores", 7)),
             (Ids{"nuevo-colaborador", "propiedades-colaborador", "ver-en-el-padron",
-                 "eliminar-colaborador", "informe-de-la-lista"}));
+                 "eliminar-colaborador", "informe-de-la-lista", "familia"}));
   EXPECT_EQ(given(at("Actividades", 7)), (Ids{"nueva-actividad", "propiedades-actividad",
                                               "eliminar-actividad", "informe-de-la-lista"}));
   EXPECT_EQ(given(at("Cargos")), Ids{"nuevo-cargo"});

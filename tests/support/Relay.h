@@ -102,7 +102,7 @@ class Relay {
     const bool cut = toServer && cut_ != Cut::None && packet.find(text_) != std::string_view::npos;
     if (toServer) std::this_thread::sleep_for(delay_.load());
     const bool before = cut && cut_ == Cut::Before;
-    if (!before && write(to.number(), block, packet.size()) != got) return false;
+    if (!before && send(to.number(), block, packet.size(), MSG_NOSIGNAL) != got) return false;
     if (!cut) return true;
     if (!before) read(to.number(), block, sizeof block);  // the answer that nobody hears
     cut_ = Cut::None;

@@ -16,14 +16,14 @@ TEST_F(ParishTest, Preferences_RefuseAWrongUserAndGoAlongWithANewOne) {
   create();
   ParishDoor door(settings, clock);
   PreferencesDialog dialog(*desk, door);
-  auto& user = named<QLineEdit>(dialog, "Usuario");
+  auto& name = named<QLineEdit>(dialog, "Usuario");
   named<QSpinBox>(dialog, "Folios de un libro, como mucho").setValue(120);
   named<QSpinBox>(dialog, "Copias que hace el programa").setValue(7);
   named<QComboBox>(dialog, "Encargado que firma").setCurrentIndex(0);
   emit named<QComboBox>(dialog, "Encargado que firma").activated(0);
   named<QComboBox>(dialog, "La tecla Intro").setCurrentIndex(1);
   for (const char* wrong : {" ", "Ana\\Archivo"}) {
-    user.setText(wrong);
+    name.setText(wrong);
     QTimer::singleShot(0, [] {
       auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
       ASSERT_TRUE(box);
@@ -33,7 +33,7 @@ TEST_F(ParishTest, Preferences_RefuseAWrongUserAndGoAlongWithANewOne) {
     EXPECT_EQ(dialog.result(), 0);
   }
   EXPECT_EQ(readPreference(settings, desk->config(), Preference::PageLimit), "");
-  user.setText("Archivo");
+  name.setText("Archivo");
   dialog.accept();
   EXPECT_EQ(dialog.result(), QDialog::Accepted);
   EXPECT_EQ(dialog.reopens(), desk->files().directory);

@@ -29,6 +29,7 @@ constexpr const char* COPIES = "12-copias-de-seguridad.md";
 constexpr const char* TROUBLE = "14-si-algo-va-mal.md";
 constexpr const char* LEGACY = "15-programa-anterior.md";
 constexpr const char* PROGRAM = "16-el-programa.md";
+constexpr const char* SEARCH = "17-buscar.md";
 
 /// The first line that fits counts.
 constexpr Topic TOPICS[] = {
@@ -53,6 +54,11 @@ constexpr Topic TOPICS[] = {
     {"Instituciones", PROGRAM, "Instituciones, provincias y municipios"},
     {"Provincias", PROGRAM, "Instituciones, provincias y municipios"},
     {"Municipios", PROGRAM, "Instituciones, provincias y municipios"},
+
+    {"buscar", SEARCH, ""},
+    {"familia", SEARCH, "La persona y su familia"},
+    {"FamilyDialog", SEARCH, "La persona y su familia"},
+    {"SearchBox", SEARCH, ""},
 
     // Forms.
     {"frmAltaLibro*", BOOKS, "Abrir un libro"},
