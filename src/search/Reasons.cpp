@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "search/Words.h"
+#include "text/Dates.h"
 #include "text/Utf8.h"
 
 namespace fidaleon::search {
@@ -87,25 +88,38 @@ std::string placeOf(const Match::Piece& piece, const Entry& entry, const Vocabul
   }
 }
 
+std::string onDay(std::int32_t day, const Entry& entry) {
+  const text::Date date{day / 10000, day / 100 % 100, day % 100};
+  return (entry.day(Field::Day) == day ? "el " : "nacimiento el ") + text::toShort(date);
+}
+
 std::string year(const Query& query, const Entry& entry) {
   const auto fits = [&](Field field) {
     const int year = entry.day(field) / 10000;
     return year >= query.fromYear && year <= query.toYear && year != 0;
   };
   if (query.fromYear == 0) return {};
+  if (query.day != 0) return onDay(query.day, entry);
   if (fits(Field::Day)) return "año " + std::to_string(entry.day(Field::Day) / 10000);
   return "nacimiento en " + std::to_string(entry.day(Field::Born) / 10000);
 }
 
+/// "y Ana", "e Isabel", "y Hiedra".
+std::string conjoined(const std::string& name) {
+  const std::string plain = text::searchKey(name);
+  const bool sounds = plain.starts_with("i") || plain.starts_with("hi") || plain.starts_with("y ");
+  const bool glides = plain.starts_with("ia") || plain.starts_with("io") ||
+                      plain.starts_with("hia") || plain.starts_with("hie");
+  return (sounds && !glides ? " e " : " y ") + name;
+}
+
 std::string whereOf(const Entry& entry, const Places& places) {
   if (entry.in == Register::Census) {
-    const bool person = entry.number(Field::Person) != 0;
-    std::string roles = person ? "Padrón" : "";
-    if (entry.number(Field::Collaborator) != 0) roles += person ? " y colaborador" : "Colaborador";
-    return roles + ", " + places.institution(entry.number(Field::Institution));
+    const bool both = entry.number(Field::Person) != 0 && entry.number(Field::Collaborator) != 0;
+    return places.institution(entry.number(Field::Institution)) + (both ? ", y colaborador" : "");
   }
   const std::int64_t book = entry.number(Field::Book);
-  if (book == 0) return "Solicitud, " + places.institution(entry.number(Field::Institution));
+  if (book == 0) return places.institution(entry.number(Field::Institution));
   return bookOf(entry, places) + ", folio " + entry.text(Field::Folio) + ", n.º " +
          entry.text(Field::Number) + ", " +
          places.institution(places.institutionOf(entry.in, book));
@@ -146,7 +160,7 @@ Hit hitOf(const Entry& entry, const Places& places) {
   hit.annulled = entry.isAnnulled();
   hit.collaborator = entry.in == Register::Census && entry.number(Field::Person) == 0;
   hit.name = entry.name(Who::Self);
-  if (entry.in == Register::Marriage) hit.name += " y " + entry.name(Who::Bride);
+  if (entry.in == Register::Marriage) hit.name += conjoined(entry.name(Who::Bride));
   hit.day = entry.day(Field::Day);
   hit.born = entry.day(Field::Born);
   hit.where = whereOf(entry, places);

@@ -5,6 +5,7 @@
 
 #include "search/Reasons.h"
 #include "search/Source.h"
+#include "text/Utf8.h"
 
 namespace fidaleon::search {
 namespace {
@@ -202,7 +203,7 @@ Found Searcher::find(const Query& asked, std::size_t most) {
   Query query = asked;
   if (query.words.size() > MOST_WORDS) query.words.resize(MOST_WORDS);
   const bool tooShort = query.words.size() == 1 && query.words.front().text.size() < 2;
-  if (query.empty() || tooShort) return {};
+  if (query.empty() || tooShort) return {{}, false, false, {}};
   bool more = false;
   std::vector<Candidate> found = candidates(query, most, more);
   Found result = shown(query, std::move(found), most);
@@ -240,7 +241,8 @@ Found Searcher::shown(const Query& query, std::vector<Candidate> candidates, std
     found.hits.push_back(std::move(hit));
   }
   std::stable_sort(found.hits.begin(), found.hits.end(), [](const Hit& a, const Hit& b) {
-    return std::tie(a.cost, a.name, a.day) < std::tie(b.cost, b.name, b.day);
+    return std::tuple(a.cost, text::searchKey(a.name), a.day) <
+           std::tuple(b.cost, text::searchKey(b.name), b.day);
   });
   return found;
 }

@@ -25,7 +25,7 @@ struct Hit {
   std::string name;           // of a marriage both
   std::int32_t day = 0;       // of the sacrament, "yyyyMMdd"; 0 when it is not known
   std::int32_t born = 0;      // likewise
-  std::string where;          // "2003/01, folio 4, n.º 7", "Solicitud", "Padrón"; then of whom
+  std::string where;          // "Libro 2003/01, folio 4, n.º 7", and of whom
   std::string why;            // it was found
   int cost = 0;               // the less, the nearer to what was typed
   bool exact = false;         // word for word, about the one whom it is about
@@ -34,6 +34,7 @@ struct Hit {
 struct Found {
   std::vector<Hit> hits;  // the nearest first
   bool more = false;      // there are others
+  bool asked = true;      // what was typed is enough to look for
   /// Entries that are no longer as the index has them. They are not among the hits.
   std::vector<std::pair<Register, std::int32_t>> stale;
 };

@@ -14,10 +14,13 @@ namespace {
 constexpr QSize SCREEN(1366, 768);
 constexpr int DOCUMENT_DPI = 100;
 
-forms::TabStrip* tabsOf(const forms::Form& form) {
+/// The tabs of the form, or those that stand on a page of others.
+forms::TabStrip* tabsOf(const forms::Form& form, const forms::TabStrip* outer = nullptr,
+                        int page = 0) {
   forms::TabStrip* strip = nullptr;
   for (forms::Control* control : form.controls())
-    if (auto* found = dynamic_cast<forms::TabStrip*>(control); found && !found->strip())
+    if (auto* found = dynamic_cast<forms::TabStrip*>(control);
+        found && found->strip() == outer && (!outer || found->page() == page))
       strip = found;
   return strip;
 }
@@ -48,14 +51,17 @@ void PictureAlbum::add(const std::string& name, const std::optional<paper::Repor
 
 void PictureAlbum::add(const std::string& name, forms::Form& form) {
   if (look_) return qt::showUnseen(form, SCREEN, [&](QWidget& window) { look_(name, window); });
-  forms::TabStrip* strip = tabsOf(form);
+  addTabs(name, form, tabsOf(form));
+}
+
+void PictureAlbum::addTabs(const std::string& name, forms::Form& form, forms::TabStrip* strip) {
   if (!strip) return add(name, qt::renderToPicture(form, SCREEN));
   const int front = strip->tab();
   for (int tab = 0; tab < strip->tabCount(); ++tab) {
     if (!strip->tabVisible(tab)) continue;
     strip->setTab(tab);
-    add(name + "-" + std::to_string(tab + 1) + "-" + plainName(strip->caption(tab)),
-        qt::renderToPicture(form, SCREEN));
+    addTabs(name + "-" + std::to_string(tab + 1) + "-" + plainName(strip->caption(tab)), form,
+            tabsOf(form, strip, tab));
   }
   strip->setTab(front);
 }

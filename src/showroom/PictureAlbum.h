@@ -35,6 +35,8 @@ class PictureAlbum {
   bool complete() const { return failures_ == 0; }
 
  private:
+  void addTabs(const std::string& name, forms::Form& form, forms::TabStrip* strip);
+
   std::filesystem::path directory_;
   std::ostream& out_;
   Look look_;

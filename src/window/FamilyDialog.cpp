@@ -64,7 +64,10 @@ void FamilyDialog::build() {
   status_ = new QLabel(tr("Se está reuniendo…"), this);
   status_->setWordWrap(true);
   auto* layout = new QVBoxLayout(this);
-  layout->addWidget(lines_);
+  details_ = new QLabel(this);
+  details_->setWordWrap(true);
+  layout->addWidget(lines_, 1);
+  layout->addWidget(details_);
   layout->addWidget(status_);
   auto* foot = new QHBoxLayout;
   for (const Button& b : BUTTONS) {
@@ -161,6 +164,11 @@ const search::Hit* FamilyDialog::chosen() const {
 
 void FamilyDialog::chosenChanged() {
   const search::Hit* hit = chosen();
+  const QTreeWidgetItem* line = lines_->currentItem();
+  details_->setText(hit ? tr("<b>%1:</b> %2.<br><b>Por qué:</b> %3.")
+                              .arg(line->text(0).toHtmlEscaped(), line->text(5).toHtmlEscaped(),
+                                   line->text(4).toHtmlEscaped())
+                        : QString("<br>"));
   for (const auto& [act, button] : buttons_) button->setEnabled(hit != nullptr);
   buttons_[SearchBox::Act::Print]->setEnabled(hit &&
                                               printingCommand(choiceOf(*hit, search_.edition())));

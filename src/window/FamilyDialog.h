@@ -43,6 +43,7 @@ class FamilyDialog : public QDialog {
   std::int32_t key_;
   SearchBox::Chosen chosen_;
   QTreeWidget* lines_ = nullptr;
+  QLabel* details_ = nullptr;  // of the chosen line, whole
   QLabel* status_ = nullptr;
   std::map<SearchBox::Act, QPushButton*> buttons_;
   std::vector<search::Hit> hits_;

@@ -145,6 +145,7 @@ void SearchBox::answered(const search::Finder::Answer& answer) {
   answered_ = typed;
   fault_ = QString::fromStdString(answer.fault);
   more_ = answer.found.more;
+  enough_ = answer.found.asked;
   list_->show(answer.found.hits);
   for (int row = 0; row < list_->hits().rowCount(); ++row) {
     const search::Hit& hit = list_->hits().hit(row);
@@ -165,6 +166,7 @@ void SearchBox::progressed(const search::Finder::Progress& progress) {
 void SearchBox::showStatus() {
   const int count = list_->hits().rowCount();
   QString text = more_        ? tr("Hay más: siga escribiendo.")
+                 : !enough_   ? tr("Siga escribiendo.")
                  : count == 0 ? tr("No se encuentra nada parecido.")
                  : count == 1 ? tr("Se ha encontrado 1.")
                               : tr("Se han encontrado %1.").arg(count);

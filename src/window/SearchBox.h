@@ -80,6 +80,7 @@ class SearchBox : public QLineEdit {
   std::optional<Act> pending_;  // was asked for before the answer had come
   QString fault_;
   bool more_ = false;
+  bool enough_ = true;  // was typed to be looked for
   Family family_;
   search::Finder::Progress progress_;
   store::ForeignChanges others_;

@@ -59,6 +59,8 @@ TEST_F(Search, says_why_an_entry_was_found) {
            {"ana martin gil", "nombre y apellido; no consta el segundo apellido"},
            {"eloy jose reyes mallo", "nombre y apellidos; falta «Jose»"},
            {"hugo 2026", "nombre; año 2026"},
+           {"28/09/1920", "el 28/09/1920"},
+           {"20/09/1920 wenceslao", "nombre; nacimiento el 20/09/1920"},
            {"colomer colaboradora", "apellido"}})
     EXPECT_EQ(why(typed), reason) << typed;
 }
@@ -105,7 +107,7 @@ std::vector<std::string> family(SearchWorld& world, Searcher& searcher, const ch
   for (const FamilyPage& page : familyOf(world.con(), searcher, in, world.key(code)))
     for (const Kin& kin : page.kin)
       all.push_back(std::to_string(static_cast<int>(kin.kinship)) + (kin.sure ? "+" : "?") +
-                    world.codes({{kin.hit}, false, {}}).front());
+                    world.codes({{kin.hit}, false, true, {}}).front());
   return all;
 }
 

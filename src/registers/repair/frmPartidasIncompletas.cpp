@@ -12,6 +12,8 @@ namespace fidaleon {
 
 namespace {
 
+constexpr int MAYOR_DE_SOLICITUD = 255;  // requests keep the institution in one byte
+
 const Rejilla REJILLA{"Grids\\PartidasIncompletas\\PartidasIncompletas",
                       {{"Registro", 1100},
                        {"Libro", 1300},
@@ -136,6 +138,12 @@ bool frmPartidasIncompletas::hayInstitucion(const PartidaIncompleta& para) {
     return false;
   }
   if (!elecciones_->siguen()) return false;
+  if (!para.esLibro() && cboInstitucion.data() > MAYOR_DE_SOLICITUD) {
+    forms::warn(ui(), "Una solicitud no puede guardar la clave de esa institución (" +
+                          std::to_string(cboInstitucion.data()) +
+                          "): la mayor es 255. Elija otra.");
+    return false;
+  }
   if (!para.esLibro() || !hayOtroLibro(*conBaseDatos, para, cboInstitucion.data())) return true;
   forms::warn(ui(),
               "La institución ya tiene otro libro con ese nombre. Elija otra, o cambie antes el "
