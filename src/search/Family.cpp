@@ -170,6 +170,7 @@ class Family {
     add(Kinship::Own, base, true, "la partida de la que se parte");
     entries_.push_back(base);
     findOwn(self, own);
+    doubtWhatFollowsADeath(base);
     const Person& known = bestOf(own);
     findParentsWedding(known);
     findSiblings(known);
@@ -221,6 +222,21 @@ class Family {
       }
       return best;
     });
+  }
+
+  /// Each may be clear by itself, but not both of them.
+  void doubtWhatFollowsADeath(const Entry& base) {
+    const auto doubt = [&](Kin& kin, const char* why) {
+      if (kin.hit.in == base.in && kin.hit.key == base.key) return;
+      if (kin.reason.find(why) == std::string::npos) kin.reason += std::string("; pero ") + why;
+      kin.sure = false;
+    };
+    for (Kin& death : kin_)
+      for (Kin& kin : kin_)
+        if (death.hit.in == Register::Death && death.hit.day != 0 && kin.hit.day > death.hit.day) {
+          doubt(kin, "es posterior a la defunción");
+          doubt(death, "hay registros posteriores");
+        }
   }
 
   /// The one that says most of the parents.

@@ -127,6 +127,13 @@ TEST_F(Search, puts_a_person_and_the_family_together) {
             row("de=Teófilo|Quesada|Cuesta; dia=18800101; nac=18791230; libro=I; folio=1; num=1"));
   bring();
   EXPECT_THAT(family(world, searcher, "D5"), ElementsAre("0+D5", "0?B98"));
+  // Nobody is confirmed after the own death.
+  const std::string who =
+      "de=Máximo|Cabezas|Vivas; padre=Félix Cabezas; madre=Sixta Vivas; libro=I";
+  world.add("D97", row((who + "; folio=1; num=1; dia=19050101").c_str()));
+  world.add("C97", row((who + "; folio=1; num=1; dia=19110101").c_str()));
+  bring();
+  EXPECT_THAT(family(world, searcher, "B25"), ElementsAre("0+B25", "0?D97", "0?C97"));
 }
 
 }  // namespace
