@@ -269,7 +269,7 @@ class Builder {
       d.father = parents.father.full();
       d.mother = parents.mother.full();
       if (b.ownCouple >= 0) fromHere[static_cast<std::size_t>(b.ownCouple) * 2 + b.girl] = true;
-      die(d, b.birth);
+      die(d, b.birth, b.confirmed);
     }
     for (std::size_t c = 0; c < made_.couples.size(); ++c)
       for (const Person* p : {&made_.couples[c].father, &made_.couples[c].mother}) {
@@ -288,7 +288,8 @@ class Builder {
     findWidowed();
   }
 
-  void die(Burial& d, const text::Date& birth) {
+  /// Not before that day.
+  void die(Burial& d, const text::Date& birth, const text::Date& alive = {}) {
     d.age = d.couple < 0 && dice_.oneIn(9) ? dice_.between(1, 40) : dice_.between(61, 95);
     d.death = daysAfter({birth.year + d.age, birth.month, std::min(birth.day, 28)},
                         dice_.between(1, 330));
@@ -299,7 +300,7 @@ class Builder {
     d.anointed = !dice_.oneIn(4);
     d.minister = ministerOf(d.death.year);
     d.annulled = dice_.oneIn(40);
-    made_.burials.push_back(d);
+    if (alive < d.death) made_.burials.push_back(d);
   }
 
   void findWidowed() {

@@ -130,6 +130,8 @@ Searcher& Finder::searcher() {
   if (index_ && !index_->isInPlace()) {
     searcher_.reset();
     index_.reset();
+    change([&] { damaged_ = true; });
+    listener_.progressed({false, 0});  // until the other thread has seen what the new one holds
   }
   if (!parish_) parish_ = open_();
   if (!index_) index_ = std::make_unique<IndexFile>(file_);
@@ -179,10 +181,11 @@ void Finder::work(const std::stop_token& stop) {
           return !rows_.empty() || !keys_.empty() || news_ || damaged_ || isDue();
         };
         if (!isWork()) wake_.wait_for(lock, stop, AT_LEAST_BETWEEN, isWork);
-        news = std::exchange(news_, false);
+        news = std::exchange(news_, false) | std::exchange(damaged_, false);
         due = rows_.empty() && keys_.empty() && isDue();
         if (due) compare_ = soon_ = false;
       }
+      if (!index.isInPlace()) break;
       if (news) takeAllNew(indexer, stop);
       if (due) compareAll(indexer, stop);
     }

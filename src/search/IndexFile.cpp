@@ -91,7 +91,9 @@ void makeIfMissing(const std::filesystem::path& file) {
     files::create(file);
   } catch (const std::filesystem::filesystem_error& e) {
     if (e.code() != std::errc::file_exists)  // another desk has just made it
-      throw store::Error(store::ErrorKind::ReadOnly, e.what());
+      throw store::Error(store::ErrorKind::ReadOnly,
+                         "No se puede escribir el índice de la búsqueda en la carpeta «" +
+                             file.parent_path().string() + "» (" + e.code().message() + ").");
   }
 }
 

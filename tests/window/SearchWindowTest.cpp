@@ -40,6 +40,10 @@ TEST_F(SearchWindow, WhatIsTyped_IsFoundAndOpenedAndFoundAnewWhenItHasChanged) {
   window->showNode("PartidasConfirmacion");
   find("zosimo");
   QTRY_VERIFY(!names().empty());
+  const std::filesystem::path parish = desk->parish().Properties("DATA SOURCE").Value;
+  std::filesystem::remove(search::IndexFile::fileIn(parish.parent_path()));
+  find("zosim");
+  QTRY_VERIFY(!names().empty());
 }
 
 TEST_F(SearchWindow, TheFamilyOfAHit_IsShownAndLeadsBackToItsList) {

@@ -90,6 +90,7 @@ TEST_P(IncompleteEntries, WithoutInstitutionOrBook_AreGivenTheChosenOne) {
   w.con().Execute(sql("UPDATE {Libros} SET CodInstitucion=99"));
   w.con().Execute(sql("UPDATE {Partidas} SET InstitucionSolicitud=99"));
   w.institucion("San Juan");
+  w.con().Execute("UPDATE Institucion SET IDInstitucion=300 WHERE Nombre=\"San Juan\"");
   const std::string name = formaPartida(k.s)->registro;
   show([&](FormDriver& d) {
     ASSERT_EQ(grid(d).rowCount(), 4);
@@ -101,6 +102,11 @@ TEST_P(IncompleteEntries, WithoutInstitutionOrBook_AreGivenTheChosenOne) {
     w.user.answerAnything(Answer::Ok);
     for (const char* button : {"cmdBoton(0)", "cmdBoton(1)"}) d.click(button);
     ASSERT_EQ(grid(d).rowCount(), 4) << "none is chosen, and a book is not removed from here";
+    d.row("msgPartidas", 4);
+    d.choose("cboInstitucion", "San Juan");
+    d.click("cmdBoton(0)");
+    ASSERT_EQ(grid(d).rowCount(), 4) << "a request does not hold that key";
+    d.row("msgPartidas", 1);
     d.choose("cboInstitucion", "San Pedro");
     for (int i = 0; i < 4; ++i) d.click("cmdBoton(0)");
     EXPECT_TRUE(d.closed());
