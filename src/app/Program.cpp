@@ -6,6 +6,7 @@
 
 #include "app/CommandLine.h"
 #include "app/Import.h"
+#include "app/SecretKeeper.h"
 #include "app/Server.h"
 #include "dbase/Csv.h"
 #include "parish/server/ServerParish.h"
@@ -78,6 +79,7 @@ int runProgram(int argc, char** argv) {
   }
   if (line.task == CommandLine::Task::Table) return printTable(line);
   if (line.task == CommandLine::Task::Import) return importRegisters(line.path);
+  store::keepPasswordsIn(std::make_unique<SecretKeeper>(std::make_unique<store::PassFile>()));
   if (line.task == CommandLine::Task::Server) return connectServer(line);
   if (line.task == CommandLine::Task::Move) return moveToServer(line);
   if (line.task == CommandLine::Task::Script) {

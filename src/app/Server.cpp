@@ -88,7 +88,7 @@ void enter(const store::ServerAddress& address, const std::string& passwordFile)
     }
     password = asked(address);
   }
-  if (!password.empty()) store::passwords().keep(address, password);
+  if (!password.empty()) store::usePassword(address, password, store::Remember::Yes);
 }
 
 /// Throws std::invalid_argument with what is missing.
@@ -166,23 +166,24 @@ void move(const CommandLine& line) {
   const Interruption heeded;
   const support::SystemClock clock;
   auto meter = std::make_shared<Meter>();
+  Moved moved;
   try {
-    moveParish(
-        line.path, to, address, accountName(),
-        text::toShort(clock.today()) + " a las " + clock.now(),
-        [meter](int done) { return (*meter)(done); },
-        [](const std::string& sentence) {
-          clearLine();
-          std::cerr << sentence << "\n";
-        });
+    moved = moveParish({line.path, to, address}, accountName(),
+                       text::toShort(clock.today()) + " a las " + clock.now(),
+                       {[meter](int done) { return (*meter)(done); },
+                        [](const std::string& sentence) {
+                          clearLine();
+                          std::cerr << sentence << "\n";
+                        },
+                        {}});
   } catch (const store::Error& e) {
     if (e.kind() != store::ErrorKind::Cancelled) throw;
     throw store::Error(e.kind(), "Se ha dejado a medias. La parroquia de «" + line.path.string() +
                                      "» no ha cambiado. Para seguir, dé otra vez la misma orden.");
   }
   clearLine();
-  std::cout << "La parroquia está trasladada a «" << to.string()
-            << "», y se ha comprobado fila por fila.\nLa de «" << line.path.string()
+  std::cout << "La parroquia está trasladada a «" << to.string() << "»: " << moved.spoken()
+            << ", comparadas una por una.\nLa de «" << line.path.string()
             << "» sigue como estaba: guárdela, y que nadie siga anotando en ella.\n";
 }
 

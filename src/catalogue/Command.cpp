@@ -273,6 +273,10 @@ void addWindowCommands(std::vector<Command>& all) {
                              "Pasa a trabajar en la parroquia de otra carpeta", 0, Needs::Nothing,
                              [](Workplace& w, const Choice&) { w.openParish(); })));
   add(Menu::File,
+      still(line("conectar-servidor", "C&onectar con un servidor…", "",
+                 "Pasa a trabajar en la parroquia que está en un servidor PostgreSQL", 0,
+                 Needs::Nothing, [](Workplace& w, const Choice&) { w.connectToServer(); })));
+  add(Menu::File,
       still(line("cerrar-parroquia", "C&errar parroquia", "",
                  "Deja de trabajar en esta parroquia y vuelve al comienzo", 0, Needs::Nothing,
                  [](Workplace& w, const Choice&) { w.closeParish(); })));
@@ -285,6 +289,10 @@ void addWindowCommands(std::vector<Command>& all) {
   add(Menu::File, line("volver-a-una-copia", "&Volver a una copia…", "",
                        "Deja la parroquia como estaba cuando se hizo una copia", 0, Needs::Nothing,
                        [](Workplace& w, const Choice&) { w.returnToCopy(); }));
+  add(Menu::File,
+      still(line("trasladar-parroquia", "Tras&ladar la parroquia…", "",
+                 "La lleva de un fichero a un servidor, o de un servidor a un fichero", 0,
+                 Needs::Nothing, [](Workplace& w, const Choice&) { w.moveParish(); })));
   add(Menu::File, line("traer-datos", "&Traer datos del programa anterior…", "",
                        "Lee los registros de las tablas de dBase y hace con ellos libros antiguos",
                        0, Needs::Nothing, [](Workplace& w, const Choice&) { w.importLegacy(); }));

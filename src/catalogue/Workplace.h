@@ -66,6 +66,10 @@ class Workplace {
   virtual void newParish() = 0;
   /// Lets the user choose a parish, and works on that one from then on.
   virtual void openParish() = 0;
+  /// Lets the user enter the server that has a parish, and works on that one from then on.
+  virtual void connectToServer() = 0;
+  /// Lets the user move the open parish, with all that is in it, from a file to a server or back.
+  virtual void moveParish() = 0;
   /// Works on no parish until the user has chosen one.
   virtual void closeParish() = 0;
   virtual void leave() = 0;

@@ -48,6 +48,7 @@ constexpr ServerFault SERVER_FAULTS[] = {
      "Actualice el programa en este equipo para poder abrirla."},
     {Kind::NotADatabase, "La parroquia del servidor no puede abrirse", UNCHANGED},
     {Kind::Busy, "El servidor está ocupado", "Espere un momento y vuelva a intentarlo."},
+    {Kind::Cancelled, "Ha dejado de esperar al servidor", UNCHANGED},
     {Kind::DiskFull, "El disco del servidor está lleno",
      "Avise a quien lleva el servidor. Lo que está guardado sigue a salvo."},
     {Kind::Other, "No se puede entrar en el servidor", UNCHANGED},
@@ -55,7 +56,8 @@ constexpr ServerFault SERVER_FAULTS[] = {
 
 OpeningFault describeServerFault(const store::Error& error, const ParishFiles& files) {
   if (error.number() == store::kWrongPassword)
-    return fault("El servidor pide la contraseña", error.what(),
+    return fault("El servidor pide la contraseña",
+                 "No se ha entrado en el servidor porque falta la contraseña.",
                  {Remedy::Password, Remedy::Retry, Remedy::OtherFolder, Remedy::Exit});
   const ServerFault* known = SERVER_FAULTS;
   while (known->kind != error.kind() && known->kind != Kind::Other) ++known;

@@ -27,8 +27,10 @@
 #include "window/CopiesDialog.h"
 #include "window/FirstRunWizard.h"
 #include "window/MainWindow.h"
+#include "window/MoveDialog.h"
 #include "window/PreferencesDialog.h"
 #include "window/PreviewDialog.h"
+#include "window/ServerDialog.h"
 #include "window/StartDialog.h"
 #include "window/help/HelpTopics.h"
 #include "window/help/HelpWindow.h"
@@ -143,6 +145,10 @@ class EditionSitting {
     }
     StartDialog start(door);
     album_.add("comienzo", start);
+    ServerDialog server("/home/parroquia/fidaleon");
+    album_.add("conectar-servidor", server);
+    MoveDialog move(*desk_, "/home/parroquia/fidaleon");
+    album_.add("trasladar", move);
     const Manual manual(manualDirectory());
     HelpWindow help(manual);
     help.show(*helpPlace("frmPartidaBautismo"));

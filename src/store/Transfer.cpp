@@ -169,9 +169,18 @@ void Adding::write() {
 /// Tells of the rows of all tables how many are done.
 class Way {
  public:
-  Way(Engine& from, const Schema& schema, const Progress& progress) : progress_(progress) {
-    const std::vector<std::int64_t> counts = rowCounts(from, schema);
-    all_ = std::max<std::int64_t>(1, std::accumulate(counts.begin(), counts.end(), std::int64_t{}));
+  Way(Engine& from, const Schema& schema, const Progress& progress, const AtTable& at,
+      TransferStage stage)
+      : progress_(progress),
+        at_(at),
+        stage_(stage),
+        counts_(rowCounts(from, schema)),
+        all_(std::max<std::int64_t>(
+            1, std::accumulate(counts_.begin(), counts_.end(), std::int64_t{}))) {}
+  /// The tables come in the order of the schema.
+  void enter(const Table& table) {
+    if (at_) at_(stage_, table.name(), counts_.at(table_));
+    ++table_;
   }
   void step() {
     if (++done_ % kReadAtOnce == 0) tell();
@@ -186,7 +195,11 @@ class Way {
 
  private:
   const Progress& progress_;
-  std::int64_t all_ = 1;
+  const AtTable& at_;
+  TransferStage stage_;
+  std::vector<std::int64_t> counts_;
+  std::size_t table_ = 0;
+  std::int64_t all_;
   std::int64_t done_ = 0;
 };
 
@@ -248,10 +261,11 @@ void requireVersion(Engine& engine, const Schema& schema) {
 }  // namespace
 
 void copyRows(Engine& from, Engine& to, const Schema& schema, const Progress& progress,
-              const Telling& tell) {
+              const Telling& tell, const AtTable& at) {
   const LargeWrite bulk(to);
-  Way way(from, schema, progress);
+  Way way(from, schema, progress, at, TransferStage::Copying);
   for (const Table& table : schema.tables()) {
+    way.enter(table);
     try {
       copyTable(from, to, table, way, tell);
     } catch (const Error& e) {
@@ -262,9 +276,13 @@ void copyRows(Engine& from, Engine& to, const Schema& schema, const Progress& pr
   }
 }
 
-void requireSameRows(Engine& a, Engine& b, const Schema& schema, const Progress& progress) {
-  Way way(a, schema, progress);
-  for (const Table& table : schema.tables()) requireSameTable(a, b, table, way);
+void requireSameRows(Engine& a, Engine& b, const Schema& schema, const Progress& progress,
+                     const AtTable& at) {
+  Way way(a, schema, progress, at, TransferStage::Comparing);
+  for (const Table& table : schema.tables()) {
+    way.enter(table);
+    requireSameTable(a, b, table, way);
+  }
 }
 
 void copyIntoFile(Engine& from, const std::filesystem::path& to, const Schema& schema,
@@ -275,23 +293,26 @@ void copyIntoFile(Engine& from, const std::filesystem::path& to, const Schema& s
   copy.leaveWriteAheadLog();
 }
 
-void moveDatabase(Backend& from, Backend& to, const Schema& schema, const Progress& progress,
-                  const Telling& tell) {
+std::vector<std::int64_t> moveDatabase(Backend& from, Backend& to, const Schema& schema,
+                                       const TransferWatch& watch) {
+  const Progress& progress = watch.progress;
   const auto source = from.open();
   requireVersion(*source, schema);
   source->beginReading();
   {
     const Backend::Unfinished target = to.unfinished(schema);
-    if (target.resumed && tell) tell("Se sigue donde se quedó la otra vez.");
+    if (target.resumed && watch.tell) watch.tell("Se sigue donde se quedó la otra vez.");
     copyRows(*source, *target.engine, schema, partOf(progress, 0, 550),
-             target.resumed ? tell : Telling());
-    requireSameRows(*source, *target.engine, schema, partOf(progress, 550, 990));
+             target.resumed ? watch.tell : Telling(), watch.at);
+    requireSameRows(*source, *target.engine, schema, partOf(progress, 550, 990), watch.at);
     target.engine->requireSound(Check::Quick, {});
   }
   if (progress && !progress(990)) throw Error(ErrorKind::Cancelled, "Se ha cancelado.");
   to.finish(schema);
-  if (rowCounts(*to.open(), schema) != rowCounts(*source, schema))
+  std::vector<std::int64_t> rows = rowCounts(*source, schema);
+  if (rowCounts(*to.open(), schema) != rows)
     throw Error(ErrorKind::NotADatabase, "Lo que ha quedado no es lo que había en el original.");
+  return rows;
 }
 
 }  // namespace fidaleon::store

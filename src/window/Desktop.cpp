@@ -1,7 +1,6 @@
 #include "window/Desktop.h"
 
 #include <QApplication>
-#include <QInputDialog>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTimer>
@@ -11,10 +10,13 @@
 
 #include "printing/Templates.h"
 #include "qt/Letters.h"
+#include "window/Beside.h"
 #include "window/CarefulQuestion.h"
 #include "window/CopyReturn.h"
 #include "window/EditionQuestion.h"
 #include "window/LastWords.h"
+#include "window/ParishMove.h"
+#include "window/ServerEntry.h"
 #include "window/StartDialog.h"
 
 namespace fidaleon::app {
@@ -27,24 +29,6 @@ void takeOver(const ParishFiles& files) {
   try {
     dismissUnseen(files.resolved().directory);
   } catch (const locks::Unusable&) {
-  }
-}
-
-/// Whether it is the right one is seen when the parish is opened again.
-void askForPassword(const ParishFiles& files) {
-  try {
-    const store::ServerAddress address = store::readAddress(files.address());
-    bool given = false;
-    const QString password = QInputDialog::getText(
-        nullptr, QObject::tr("Contraseña del servidor"),
-        QObject::tr("Contraseña de «%1» para %2.\nSe guardará en este equipo, donde solo puede "
-                    "leerla su cuenta.")
-            .arg(QString::fromStdString(address.user), QString::fromStdString(address.shown())),
-        QLineEdit::Password, {}, &given);
-    if (given) store::passwords().keep(address, password.toStdString());
-  } catch (const store::Error& e) {
-    QMessageBox::critical(nullptr, QObject::tr("Contraseña del servidor"),
-                          QString::fromUtf8(e.what()));
   }
 }
 
@@ -79,9 +63,10 @@ int Desktop::run(const std::filesystem::path& asked) {
     if (departure.to == Departure::To::Start)
       files = start();
     else
-      files = ParishFiles(departure.directory);
+      files = ParishFiles(departure.move ? move(*departure.move) : departure.directory);
     returning_ = departure.to == Departure::To::Copy;
   }
+  awaitForgotten();
   return 0;
 }
 
@@ -112,8 +97,14 @@ std::optional<ParishFiles> Desktop::start() {
 
 std::unique_ptr<Desk> Desktop::open(ParishFiles& files) {
   if (std::exchange(returning_, false)) returnToCopy(files);
+  if (!std::exchange(settled_, false)) {
+    const auto chosen = chooseOfMoved(files.directory);
+    if (!chosen) return nullptr;
+    files = ParishFiles(*chosen);
+  }
   while (true) {
     try {
+      if (files.isOnServer()) enterServer(nullptr, files);
       auto desk = std::make_unique<Desk>(files, user(), watch_, settings_, clock_);
       remember(*desk);
       return desk;
@@ -170,9 +161,7 @@ bool Desktop::tryRemedy(const OpeningFault& fault, ParishFiles& files) {
   const auto chosen = buttons.find(box.clickedButton());
   switch (chosen == buttons.end() ? Remedy::Exit : chosen->second) {
     case Remedy::Retry:
-      return true;
-    case Remedy::Password:
-      askForPassword(files);
+    case Remedy::Password:  // asked for by whoever tries again
       return true;
     case Remedy::OtherIsOff:
       if (knowsThatNobodyIsThere()) takeOver(files);
@@ -190,6 +179,11 @@ bool Desktop::tryRemedy(const OpeningFault& fault, ParishFiles& files) {
       return false;
   }
   return false;
+}
+
+std::filesystem::path Desktop::move(const MoveOrder& order) {
+  settled_ = true;
+  return moveInSight(order, user(), text::toShort(clock_.today()) + " a las " + clock_.now());
 }
 
 Departure Desktop::work(Desk& desk) {

@@ -37,6 +37,8 @@ class Desktop {
   void returnToCopy(const ParishFiles& files);
   bool tryRemedy(const OpeningFault& fault, ParishFiles& files);
   Departure work(Desk& desk);
+  /// The folder to work on then.
+  std::filesystem::path move(const MoveOrder& order);
 
   support::FileSettings settings_;
   support::SystemClock clock_;
@@ -46,6 +48,7 @@ class Desktop {
   FormWatch watch_{person_, drafts_, clock_};
   Help help_;
   bool returning_ = false;  // to a copy, before the parish is opened again
+  bool settled_ = false;    // that it is this one, of two that a move has left
 };
 
 }  // namespace fidaleon::app

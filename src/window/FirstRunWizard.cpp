@@ -50,7 +50,8 @@ QLabel* explanation(const QString& text, QWidget* parent) {
 
 }  // namespace
 
-FirstRunWizard::FirstRunWizard(const NewParish& proposal, QWidget* parent) : QWizard(parent) {
+FirstRunWizard::FirstRunWizard(const NewParish& proposal, QWidget* parent)
+    : QWizard(parent), server_(proposal.server) {
   setWindowTitle(tr("Bienvenida a Fidaleon"));
   setWizardStyle(QWizard::ModernStyle);
   setOption(QWizard::NoBackButtonOnStartPage);
@@ -112,35 +113,49 @@ QWizardPage* FirstRunWizard::contentPage(const NewParish& proposal) {
   content_->addButton(empty, static_cast<int>(Content::Empty));
   content_->addButton(sample, static_cast<int>(Content::Sample));
   content_->button(static_cast<int>(proposal.content))->setChecked(true);
-  auto* label = new QLabel(tr("Carpeta de los &datos:"), page);
+  QWidget* place = placePart(proposal, page);
+  layout->addWidget(place);
+  place->setVisible(!proposal.server);
+  if (proposal.server)
+    layout->addWidget(new QLabel(
+        tr("Los datos se guardarán en %1.").arg(QString::fromStdString(proposal.server->shown())),
+        page));
+  layout->addStretch();
+  return page;
+}
+
+QWidget* FirstRunWizard::placePart(const NewParish& proposal, QWidget* page) {
+  auto* place = new QWidget(page);
+  auto* layout = new QVBoxLayout(place);
+  layout->setContentsMargins(0, 0, 0, 0);
+  auto* label = new QLabel(tr("Carpeta de los &datos:"), place);
   layout->addWidget(label);
   auto* line = new QHBoxLayout;
-  directory_ = new QLineEdit(QString::fromStdString(proposal.directory.string()), page);
+  directory_ = new QLineEdit(QString::fromStdString(proposal.directory.string()), place);
   label->setBuddy(directory_);
   line->addWidget(directory_);
-  auto* browse = new QToolButton(page);
+  auto* browse = new QToolButton(place);
   browse->setText(tr("E&xaminar…"));
   connect(browse, &QToolButton::clicked, this, [this] { chooseDirectory(); });
   line->addWidget(browse);
   layout->addLayout(line);
   layout->addWidget(explanation(
       tr("Si varios equipos van a trabajar a la vez, elija una carpeta compartida por todos."),
-      page));
-  accounts_ = new QComboBox(page);
+      place));
+  accounts_ = new QComboBox(place);
   accounts_->addItem(tr("Solo esta cuenta del equipo"));
   for (const AccountGroup& group : ownGroups())
     accounts_->addItem(
         tr("También las demás cuentas del grupo «%1»").arg(QString::fromStdString(group.name)),
         group.id);
-  auto* who = new QLabel(tr("&Quién puede abrirlos:"), page);
+  auto* who = new QLabel(tr("&Quién puede abrirlos:"), place);
   who->setBuddy(accounts_);
   const bool choice = accounts_->count() > 1;
   who->setVisible(choice);
   accounts_->setVisible(choice);
   layout->addWidget(who);
   layout->addWidget(accounts_);
-  layout->addStretch();
-  return page;
+  return place;
 }
 
 void FirstRunWizard::chooseDirectory() {
@@ -158,8 +173,9 @@ NewParish FirstRunWizard::parish() const {
   p.user = text::trim(text::sanitized(user_->text().toStdString()));
   p.content = static_cast<Content>(content_->checkedId());
   p.directory = directory_->text().trimmed().toStdString();
+  p.server = server_;
   const QVariant group = accounts_->currentData();
-  if (group.isValid()) p.group = group.toUInt();
+  if (group.isValid() && !server_) p.group = group.toUInt();
   return p;
 }
 

@@ -16,7 +16,8 @@ class FirstRunWizard : public QWizard {
   Q_OBJECT
 
  public:
-  /// `proposal` fills the fields; its directory is the one that is offered.
+  /// `proposal` fills the fields; its directory is the one that is offered, and settled already
+  /// where a server is to have the parish.
   explicit FirstRunWizard(const NewParish& proposal, QWidget* parent = nullptr);
 
   NewParish parish() const;
@@ -26,10 +27,12 @@ class FirstRunWizard : public QWizard {
   void reject() override;
 
  private:
+  QWidget* placePart(const NewParish& proposal, QWidget* page);
   QWizardPage* parishPage(const NewParish& proposal);
   QWizardPage* contentPage(const NewParish& proposal);
   void chooseDirectory();
 
+  std::optional<store::ServerAddress> server_;
   bool opensWhatIsThere_ = false;
   QLineEdit* name_ = nullptr;
   QComboBox* province_ = nullptr;

@@ -15,6 +15,7 @@
 #include "paper/Report.h"
 #include "parish/Desk.h"
 #include "parish/copies/Precaution.h"
+#include "parish/server/ServerParish.h"
 #include "store/ForeignChanges.h"
 #include "store/RemovalWatch.h"
 #include "store/TouchedRows.h"
@@ -40,9 +41,11 @@ namespace fidaleon::app {
 
 /// What is to come when the window has closed.
 struct Departure {
-  enum class To { End, Start, Parish, Copy };  // Copy: back to one, since the parish is damaged
+  // Copy: back to one, since the parish is damaged. Move: to another place with its content.
+  enum class To { End, Start, Parish, Copy, Move };
   To to = To::End;
   std::filesystem::path directory;  // of the parish
+  std::optional<MoveOrder> move = {};
 };
 
 /// The window of the program: the tree on the left, the rows of its node on the right, and the
@@ -108,6 +111,8 @@ class MainWindow : public QMainWindow, private Workplace {
   void preferences() override;
   void newParish() override;
   void openParish() override;
+  void connectToServer() override;
+  void moveParish() override;
   void closeParish() override { depart({Departure::To::Start, {}}); }
   /// When the command that asked for it has ended: until then the window refuses to close.
   void leave() override { depart({}); }
@@ -138,6 +143,8 @@ class MainWindow : public QMainWindow, private Workplace {
   /// rather not go on.
   bool protect(const Command& command, const Choice& chosen, std::unique_ptr<Precaution>& copy);
   void compressCopies();
+  /// Keeps a copy of the whole. False when there is none and the user would rather not go on.
+  bool copyBefore(const std::string& what);
   /// Whether the parish is still under its name; the user has been told otherwise.
   bool isInPlace();
   bool isDamaged() const;

@@ -97,6 +97,21 @@ bool MainWindow::protect(const Command& command, const Choice& chosen,
   }
 }
 
+bool MainWindow::copyBefore(const std::string& what) {
+  try {
+    const forms::Hourglass hourglass(desk_.entorno().ui);
+    runBeside(this, tr("Guardando antes una copia de la parroquia…"), MayCancel::Yes,
+              [&](const store::Progress& progress) {
+                const auto parish =
+                    store::openDatabase(desk_.files().parish(), store::parishSchema());
+                copies_.make(*parish, what, thisMoment(), progress);
+              });
+    return true;
+  } catch (const store::Error& e) {
+    return e.kind() != store::ErrorKind::Cancelled && askToGoOnWithoutCopy(this, e.what());
+  }
+}
+
 void MainWindow::backUp() {
   const std::string known =
       readPreference(desk_.entorno().settings, desk_.config(), Preference::CopiesFolder);

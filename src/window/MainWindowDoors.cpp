@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "window/MainWindow.h"
+#include "window/MoveDialog.h"
 #include "window/PreferencesDialog.h"
 
 namespace fidaleon::app {
@@ -17,6 +18,19 @@ void MainWindow::newParish() {
 
 void MainWindow::openParish() {
   if (const auto directory = door_.choose(this)) depart({Departure::To::Parish, *directory});
+}
+
+void MainWindow::connectToServer() {
+  if (const auto directory = door_.connectToServer(this))
+    depart({Departure::To::Parish, *directory});
+}
+
+// While it is moved nobody has it open, this program neither.
+void MainWindow::moveParish() {
+  MoveDialog dialog(desk_, ParishDoor::freeDirectory(), this);
+  if (dialog.exec() != QDialog::Accepted || !copyBefore("Trasladar la parroquia")) return;
+  const MoveOrder order = dialog.order();
+  depart({Departure::To::Move, order.from, order});
 }
 
 void MainWindow::preferences() {

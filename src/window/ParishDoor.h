@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "core/contract/Entorno.h"
+#include "parish/NewParish.h"
 #include "parish/ParishFiles.h"
 
 class QWidget;
@@ -36,12 +37,17 @@ class ParishDoor {
   /// Asks for what a new parish needs and makes it; `proposed` is the folder that is offered. A
   /// folder that holds a parish already is the one to open. Nothing when the user gave up.
   std::optional<std::filesystem::path> create(QWidget* over, const std::filesystem::path& proposed);
+  /// Connects a folder of this desk to the parish that a server has, or makes one there. Nothing
+  /// when the user gave up.
+  std::optional<std::filesystem::path> connectToServer(QWidget* over);
   /// Lets the user choose the folder of a parish. Nothing when the user gave up.
   std::optional<std::filesystem::path> choose(QWidget* over) const;
-  /// For a new parish: the usual folder, or one beside it that holds none.
+  /// For a new parish, or one that comes from elsewhere: the usual folder, or one beside it that
+  /// holds none.
   static std::filesystem::path freeDirectory();
 
  private:
+  std::optional<std::filesystem::path> create(QWidget* over, NewParish proposal);
   void rememberUser(const std::string& user);
 
   Settings& settings_;

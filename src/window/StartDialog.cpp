@@ -39,6 +39,9 @@ StartDialog::StartDialog(ParishDoor& door, QWidget* parent)
   button(tr("&Abrir una parroquia que ya existe…"),
          tr("La de otro equipo en una carpeta compartida, o la de otra carpeta de este"),
          [this] { open(door_.choose(this)); });
+  button(tr("Conectar con un ser&vidor…"),
+         tr("La parroquia que está, o va a estar, en un servidor PostgreSQL"),
+         [this] { open(door_.connectToServer(this)); });
   button(tr("&Salir"), tr("Cierra el programa"), [this] { reject(); });
   (known_.empty() ? make : marked)->setDefault(true);
   (known_.empty() ? static_cast<QWidget*>(make) : list_)->setFocus();

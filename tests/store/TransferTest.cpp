@@ -40,8 +40,10 @@ class Transfer : public testing::TestWithParam<bool> {
     told.clear();
     const auto from = backendAt(source);
     const auto to = backendAt(target);
-    moveDatabase(*from, *to, parishSchema(), progress,
-                 [this](const std::string& sentence) { told += sentence + "\n"; });
+    moved = moveDatabase(
+        *from, *to, parishSchema(),
+        {progress, [this](const std::string& sentence) { told += sentence + "\n"; },
+         [this](TransferStage, const std::string& table, std::int64_t rows) { at[table] = rows; }});
   }
   void requireSame() {
     requireSameRows(*backendAt(source)->open(), *backendAt(target)->open(), parishSchema());
@@ -53,6 +55,8 @@ class Transfer : public testing::TestWithParam<bool> {
   fs::path target = directory.path() / "allí.fidaleon";
   std::unique_ptr<Connection> connection;
   std::string told;
+  std::map<std::string, std::int64_t> at;
+  std::vector<std::int64_t> moved;
 };
 
 TEST_P(Transfer, Moved_EveryRowIsThereAndNoKeyIsGivenAgain) {
@@ -60,6 +64,8 @@ TEST_P(Transfer, Moved_EveryRowIsThereAndNoKeyIsGivenAgain) {
   move();
   requireSame();
   EXPECT_EQ(told, "");
+  EXPECT_EQ(moved, before);
+  EXPECT_EQ(at["Municipio"], 3000);
   EXPECT_EQ(rowCounts(connection->engine(), parishSchema()), before);
   const auto there = openDatabase(target, parishSchema());
   there->Execute("INSERT INTO Cargo (Nombre) VALUES (\"Organista\")");

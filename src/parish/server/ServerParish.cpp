@@ -4,6 +4,7 @@
 #include "locks/MeetingPlace.h"
 #include "parish/ParishFiles.h"
 #include "parish/Presence.h"
+#include "parish/server/MoveNote.h"
 #include "store/FileFault.h"
 #include "store/Open.h"
 #include "store/postgres/ServerAccess.h"
@@ -63,6 +64,13 @@ void requireNobody(const std::vector<locks::Holder>& there) {
       "No se puede trasladar la parroquia mientras alguien más trabaja en ella:\n" + who);
 }
 
+Moved counted(const std::vector<std::int64_t>& rows) {
+  Moved moved;
+  for (std::size_t i = 0; i < rows.size(); ++i)
+    moved.tables.emplace_back(store::parishSchema().tables()[i].name(), rows[i]);
+  return moved;
+}
+
 }  // namespace
 
 std::optional<store::ServerAddress> addressFrom(const std::string& written,
@@ -95,30 +103,44 @@ void connectParish(const fs::path& directory, const store::ServerAddress& addres
   file.keep();
 }
 
-void moveParish(const fs::path& from, const fs::path& to,
-                const std::optional<store::ServerAddress>& address, const std::string& user,
-                const std::string& since, const store::Progress& progress,
-                const store::Telling& tell) {
-  const ParishFiles source = ParishFiles(from).resolved();
-  const ParishFiles target(to);
+std::int64_t Moved::rows() const {
+  std::int64_t all = 0;
+  for (const auto& [table, count] : tables) all += count;
+  return all;
+}
+
+std::string Moved::spoken() const {
+  return std::to_string(tables.size()) + " tablas y " + std::to_string(rows()) + " filas";
+}
+
+Moved moveParish(const MoveOrder& order, const std::string& user, const std::string& since,
+                 const store::TransferWatch& watch) {
+  const ParishFiles source = ParishFiles(order.from).resolved();
+  const ParishFiles target(order.to);
   if (!source.exists())
     throw store::Error(store::ErrorKind::Missing,
-                       "En la carpeta «" + from.string() + "» no hay ninguna parroquia.");
-  makeFolder(to);
+                       "En la carpeta «" + order.from.string() + "» no hay ninguna parroquia.");
+  makeFolder(order.to);
   // Stays, so that what is half done can be gone on with.
-  if (address)
-    NewAddress(to, *address).keep();
+  if (order.address)
+    NewAddress(order.to, *order.address).keep();
   else if (target.exists())
     throw store::NameTaken(target.parish());
+  MoveNote note{fs::absolute(order.to), since};
+  Moved moved;
   const Presence presence(source.directory, user, since);
   requireNobody(presence.alone("está trasladando la parroquia", [&] {
-    const auto meeting = locks::meetingAt(to);
+    const auto meeting = locks::meetingAt(order.to);
     const auto guard = meeting->enter();
     const auto there = store::backendAt(target.parish());
-    store::moveDatabase(*store::backendAt(source.parish()), *there, store::parishSchema(), progress,
-                        tell);
+    writeMoveNote(source, note);
+    moved = counted(store::moveDatabase(*store::backendAt(source.parish()), *there,
+                                        store::parishSchema(), watch));
+    note.done = true;
+    writeMoveNote(source, note);
   }));
   noteEdition(target, *store::openDatabase(target.parish(), store::parishSchema()));
+  return moved;
 }
 
 }  // namespace fidaleon::app

@@ -4,6 +4,8 @@
 
 #include <cstdlib>
 #include <fstream>
+#include <map>
+#include <mutex>
 
 #include "files/AccountFolders.h"
 #include "files/Durable.h"
@@ -54,18 +56,26 @@ std::optional<std::string> PassFile::find(const ServerAddress& address) {
 void PassFile::keep(const ServerAddress& address, const std::string& password) {
   if (password.find_first_of("\r\n") != std::string::npos)
     throw Error(ErrorKind::Constraint, "Una contraseña no puede tener saltos de línea.");
+  write(address, password);
+}
+
+void PassFile::forget(const ServerAddress& address) {
+  if (find(address)) write(address, std::nullopt);
+}
+
+void PassFile::write(const ServerAddress& address, const std::optional<std::string>& password) {
   const std::string wanted = beginning(address);
   try {
     files::makeFolders(file_.parent_path());
     files::Replacement made(file_);
-    // Also in a folder that several accounts share.
+    std::ofstream out(made.passing());
+    // Before anything is in it, also in a folder that several accounts share.
     if (::chmod(made.passing().c_str(), S_IRUSR | S_IWUSR) != 0)
       throw fs::filesystem_error("chmod", file_, {errno, std::generic_category()});
-    std::ofstream out(made.passing());
     std::ifstream in(file_);
     for (std::string line; std::getline(in, line);)
       if (!line.starts_with(wanted)) out << line << "\n";
-    out << wanted << escaped(password) << "\n";
+    if (password) out << wanted << escaped(*password) << "\n";
     out.close();
     if (!out) throw fs::filesystem_error("write", file_, {ENOSPC, std::generic_category()});
     made.takeName();
@@ -81,6 +91,17 @@ std::unique_ptr<PasswordKeeper>& keeper() {
   return one;
 }
 
+/// What has been given since the program began.
+struct Given {
+  std::mutex alone;
+  std::map<std::string, std::string> passwords;
+};
+
+Given& given() {
+  static Given all;
+  return all;
+}
+
 }  // namespace
 
 PasswordKeeper& passwords() {
@@ -91,7 +112,23 @@ void keepPasswordsIn(std::unique_ptr<PasswordKeeper> other) {
   keeper() = std::move(other);
 }
 
+void usePassword(const ServerAddress& address, const std::string& password, Remember remember) {
+  {
+    const std::lock_guard guard(given().alone);
+    given().passwords[beginning(address)] = password;
+  }
+  if (remember == Remember::Yes)
+    passwords().keep(address, password);
+  else
+    passwords().forget(address);
+}
+
 std::string passwordFor(const ServerAddress& address) {
+  {
+    const std::lock_guard guard(given().alone);
+    const auto known = given().passwords.find(beginning(address));
+    if (known != given().passwords.end()) return known->second;
+  }
   if (std::getenv("PGPASSWORD") != nullptr) return {};
   return passwords().find(address).value_or("");
 }

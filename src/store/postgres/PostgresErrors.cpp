@@ -78,23 +78,51 @@ Error postgresError(const PGresult* answer, PGconn* link) {
   return Error(ErrorKind::Other, "No se entiende lo que responde el servidor.");
 }
 
+namespace {
+
+/// Words of the server and of the library that have no number, in the languages of their messages.
+struct Refusal {
+  const char* words;
+  const char* spanish;
+  ErrorKind kind;
+  const char* meaning;
+};
+
+/// The first that fits counts: the name of a file that is missing is one of the certificate's.
+constexpr Refusal kRefusals[] = {
+    {"pg_hba.conf", "pg_hba.conf", ErrorKind::Connection,
+     "el servidor no deja entrar a ese usuario en esa base desde este equipo."},
+    {"does not support SSL", "no soporta SSL", ErrorKind::Connection,
+     "el servidor no habla cifrado (TLS), y sin eso no se entra en el de otro equipo."},
+    {"does not match host name", "no coincide con el nombre de servidor", ErrorKind::Connection,
+     "el certificado del servidor es de otro nombre. Escriba el nombre que lleva el certificado."},
+    {"root certificate", "certificado ra", ErrorKind::Connection,
+     "no puede leerse el archivo del certificado con el que se comprueba el servidor."},
+    {"certificate", "certificado", ErrorKind::Connection,
+     "no puede comprobarse que sea el servidor que dice ser (su certificado)."},
+    {"SSL", "SSL", ErrorKind::Connection,
+     "no se ha podido entrar cifrado (TLS): puede que no sea un servidor PostgreSQL."},
+    {"translate host name", "traducir el nombre", ErrorKind::Connection,
+     "no se encuentra ningún equipo con ese nombre. Compruebe cómo está escrito, y la red."},
+    {"does not exist", "no existe", ErrorKind::Missing,
+     "el servidor no tiene esa base o ese usuario."},
+    {"too many c", "demasiadas conexiones", ErrorKind::Busy,
+     "el servidor no admite más puestos a la vez."},
+    {"", "", ErrorKind::Connection,
+     "el servidor no responde. Compruebe que está encendido y la red."},
+};
+
+}  // namespace
+
 Error connectionError(PGconn* link, const std::string& shown) {
-  const std::string where = "No se puede entrar en " + shown + ": ";
-  // Words of the server that the library does not number, in the languages of its messages.
   if (PQconnectionNeedsPassword(link) != 0 || says(link, "password authentication") ||
       says(link, "autentificación password"))
     return Error(ErrorKind::Connection, kRefused, kWrongPassword);
-  if (says(link, "does not exist") || says(link, "no existe"))
-    return Error(ErrorKind::Missing, where + "el servidor no tiene esa base o ese usuario.");
-  if (says(link, "too many c") || says(link, "demasiadas conexiones"))
-    return Error(ErrorKind::Busy, where + "el servidor no admite más puestos a la vez.");
-  if (says(link, "certificate") || says(link, "SSL"))
-    return Error(ErrorKind::Connection,
-                 where + "no puede comprobarse que sea el servidor que dice ser (su certificado).");
   if (says(link, "starting up") || says(link, "shutting down"))
     return Error(ErrorKind::Connection, kStopping);
-  return Error(ErrorKind::Connection,
-               where + "el servidor no responde. Compruebe que está encendido y la red.");
+  const Refusal* refusal = kRefusals;
+  while (!says(link, refusal->words) && !says(link, refusal->spanish)) ++refusal;
+  return Error(refusal->kind, "No se puede entrar en " + shown + ": " + refusal->meaning);
 }
 
 }  // namespace fidaleon::store

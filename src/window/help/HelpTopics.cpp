@@ -30,6 +30,7 @@ constexpr const char* TROUBLE = "14-si-algo-va-mal.md";
 constexpr const char* LEGACY = "15-programa-anterior.md";
 constexpr const char* PROGRAM = "16-el-programa.md";
 constexpr const char* SEARCH = "17-buscar.md";
+constexpr const char* SERVER = "18-servidor.md";
 
 /// The first line that fits counts.
 constexpr Topic TOPICS[] = {
@@ -97,6 +98,9 @@ constexpr Topic TOPICS[] = {
 
     // Windows of the program.
     {"StartDialog", START, "De una parroquia a otra"},
+    {"ServerDialog", SERVER, "Conectar un puesto"},
+    {"PasswordDialog", SERVER, "La contraseña"},
+    {"MoveDialog", SERVER, "Trasladar la parroquia"},
     {"FirstRunWizard", START, "La primera vez"},
     {"PreviewDialog", DOCUMENTS, ""},
     {"CopiesDialog", COPIES, "Volver a una copia"},
@@ -108,6 +112,8 @@ constexpr Topic TOPICS[] = {
     {"nueva-parroquia", START, "De una parroquia a otra"},
     {"abrir-parroquia", START, "De una parroquia a otra"},
     {"cerrar-parroquia", START, "De una parroquia a otra"},
+    {"conectar-servidor", SERVER, "Conectar un puesto"},
+    {"trasladar-parroquia", SERVER, "Trasladar la parroquia"},
     {"preferencias", PROGRAM, "Preferencias"},
     {"guardar-lista", LISTS, ""},
     {"copia", COPIES, "Las que hace usted"},

@@ -16,6 +16,7 @@ inline constexpr Library LIBRARIES[] = {
     {"Qt 6", "LGPL-3.0-only", "ventanas, impresión y PDF"},
     {"SQLite", "dominio público", "el fichero de la parroquia"},
     {"libpq", "PostgreSQL", "la parroquia en un servidor"},
+    {"libsecret", "LGPL-2.1-or-later", "contraseñas de los servidores"},
     {"ICU", "Unicode-3.0", "el orden y las letras del español"},
     {"Zstandard", "BSD-3-Clause", "copias comprimidas"},
     {"qpdf", "Apache-2.0", "documentos para archivar"},
