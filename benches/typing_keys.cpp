@@ -20,7 +20,6 @@
 #include "registers/common/FormaPartida.h"
 #include "registers/confirmation/frmPartidaConfirmacion.h"
 #include "registers/entry/Fuentes.h"
-#include "text/Utf8.h"
 
 namespace {
 
@@ -36,35 +35,39 @@ class Hands {
     window_.show();
     window_.activateWindow();
     while (!window_.isActiveWindow()) QCoreApplication::processEvents();
+    form_.begin();
   }
   void press(Qt::Key key, Qt::KeyboardModifiers with = {}) {
     ++keys_;
     send(key, with, {});
   }
   void write(const std::string& text) {
-    for (const QChar letter : QString::fromStdString(text::searchKey(text)))
-      send(Qt::Key_unknown, {}, letter);
+    for (const QChar letter : QString::fromStdString(text)) send(Qt::Key_unknown, {}, letter);
   }
-  /// Page by page, then field by field.
-  void goTo(const std::string& name) {
+  /// Page by page, then field by field. False when the text has come there on the way.
+  bool goTo(const std::string& name, const std::string& text) {
     const forms::Control& to = *form_.find(name);
-    for (int tries = 0; form_.activeControl() != &to && tries < 80; ++tries)
+    const auto* box = dynamic_cast<const forms::TextBox*>(&to);
+    for (int tries = 0; form_.activeControl() != &to && tries < 80; ++tries) {
+      if (box && box->text() == text) return false;
       if (!to.reachable() && !enter_)
         press(Qt::Key_PageDown, Qt::ControlModifier);
       else
         press(enter_ ? Qt::Key_Return : Qt::Key_Tab);
+    }
     if (form_.activeControl() != &to) std::printf("no se llega a %s\n", name.c_str());
+    return true;
   }
   void fill(const Data& data) {
     for (const auto& [name, text] : data) {
       const auto bar = text.find('|');
       if (!enter_ && bar != std::string::npos) {
         const auto open = name.find('(');
-        goTo(name.substr(0, open + 1) + std::to_string(std::stoi(name.substr(open + 1)) - 1) + ")");
+        goTo(name.substr(0, open + 1) + std::to_string(std::stoi(name.substr(open + 1)) - 1) + ")",
+             {});
         write(text.substr(bar + 1));
       }
-      goTo(name);
-      write(text.substr(0, bar));
+      if (goTo(name, text)) write(text.substr(0, bar));
     }
   }
   void accept() { press(Qt::Key_Return, enter_ ? Qt::ControlModifier : Qt::NoModifier); }

@@ -94,6 +94,9 @@ class TextBox : public Control {
   void setDoubt(std::string why);
   /// It holds dashes alone: shown pale, and gone with the first key.
   bool holdsDashes() const { return text_ == DASHES; }
+  /// All that can belong to it has been typed: in a form whose fields Enter goes through, it leaves
+  /// by itself.
+  virtual bool complete() const { return false; }
   /// Enter breaks the line. In a form whose fields it goes through, not of a text not yet begun.
   bool breaksLines() const;
 
@@ -153,6 +156,8 @@ class DateField : public TextBox {
   void setToday(const std::string& yyyymmdd) { setStored(yyyymmdd); }
   /// Empty or a day of the calendar.
   bool valid() const;
+  /// A day with all figures of its year.
+  bool complete() const override;
   void leftByFocus(Control* next) override;
 
  private:
@@ -167,6 +172,7 @@ class TimeField : public TextBox {
   std::string stored() const;
   void setStored(std::string_view time);
   bool valid() const;
+  bool complete() const override;
   void leftByFocus(Control* next) override;
 };
 

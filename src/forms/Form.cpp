@@ -124,6 +124,7 @@ void Form::settleFocus(Control* target) {
   // A handler of arrival may send the focus on; a bound keeps two that disagree from looping.
   for (int hops = 0; target && hops < 8; ++hops) {
     active_ = target;
+    cameByItself_ = {};
     visited_.insert(target);
     {
       const Moving moving(moving_);
@@ -166,7 +167,13 @@ bool Form::focusFirstOn(const TabStrip& strip) {
   return false;
 }
 
+void Form::begin() {
+  focusFirst();
+  if (entersFields() && beginsSettled()) goOn();
+}
+
 void Form::focusNext(bool backwards) {
+  if (!backwards && endsFieldBefore()) return;
   std::vector<Control*> order = tabOrder();
   if (backwards) std::reverse(order.begin(), order.end());
   auto at = std::find(order.begin(), order.end(), active_);
@@ -200,6 +207,7 @@ void Form::disown(Control& control) {
   std::erase(controls_, &control);
   visited_.erase(&control);
   if (active_ == &control) active_ = nullptr;
+  if (cameByItself_.at == &control) cameByItself_ = {};
   if (pending_ == &control) pending_ = nullptr;
 }
 

@@ -113,6 +113,14 @@ class Form {
   void setEntersFields(bool on) { entersFields_ = on; }
   /// Goes on to the next field that can be filled and is not settled.
   void goOn();
+  /// A key of the user has written this in a field; one that is complete goes on by itself. Enter
+  /// or Tab that follows by habit is then taken for its end, and leaves nothing out.
+  void typedInto(const TextBox& box);
+  /// Once, whether the key that is pressed now is that one.
+  bool endsFieldBefore();
+  /// Where the user begins: at the first field, or at the first that is not settled where what
+  /// comes before it could not be otherwise.
+  void begin();
 
   /// F4: the field takes what stood there in the entry before; with `page`, all fields of its tab
   /// that the user has not written do.
@@ -158,6 +166,8 @@ class Form {
   /// The program has filled it for the user, who need not stop there. By default: it is not as it
   /// was when the form was shown or last stored, and the user has not been there since.
   virtual bool settled(const Control& field) const;
+  /// What stands in front in a form whose fields Enter goes through is given: nobody need look.
+  virtual bool beginsSettled() const { return false; }
   /// The user has been in it since then.
   bool visited(const Control& field) const { return visited_.contains(&field); }
   void setLayout(LayoutNode layout);
@@ -193,6 +203,10 @@ class Form {
   bool disposable_ = false;
   bool entersFields_ = false;
   std::set<const Control*> visited_;
+  struct {
+    const Control* at = nullptr;
+    std::string text;
+  } cameByItself_;  // to where a complete field has gone on, as long as nothing is done there
   Contents saved_;
   FormObserver* observer_ = nullptr;
   struct Mnemonic {

@@ -1,6 +1,7 @@
 // Going through the fields of a form with Enter.
 
 #include <algorithm>
+#include <utility>
 
 #include "forms/Form.h"
 #include "text/Utf8.h"
@@ -9,11 +10,15 @@ namespace fidaleon::forms {
 
 namespace {
 
+std::string textOf(const Control& control) {
+  const auto* box = dynamic_cast<const TextBox*>(&control);
+  const auto* list = dynamic_cast<const ListControl*>(&control);
+  return box ? box->text() : list ? list->text() : std::string();
+}
+
 bool isBlank(const Control& control) {
-  if (const auto* box = dynamic_cast<const TextBox*>(&control))
-    return text::trim(box->text()).empty();
-  if (const auto* list = dynamic_cast<const ListControl*>(&control)) return list->listIndex() < 0;
-  return true;
+  const auto* list = dynamic_cast<const ListControl*>(&control);
+  return list ? list->listIndex() < 0 : text::trim(textOf(control)).empty();
 }
 
 bool isLocked(const Control& control) {
@@ -41,9 +46,7 @@ bool Form::settled(const Control& field) const {
   if (visited(field) || isBlank(field)) return false;
   const auto was = std::find_if(saved_.fields.begin(), saved_.fields.end(),
                                 [&](const Field& f) { return f.control == field.name(); });
-  const auto* box = dynamic_cast<const TextBox*>(&field);
-  const auto* list = dynamic_cast<const ListControl*>(&field);
-  return was != saved_.fields.end() && was->text != (box ? box->text() : list->text());
+  return was != saved_.fields.end() && was->text != textOf(field);
 }
 
 bool Form::isStop(const Control& control) const {
@@ -84,6 +87,17 @@ void Form::goOn() {
   if (Button* button = defaultButton()) moveFocus(*button);
 }
 
+void Form::typedInto(const TextBox& box) {
+  if (!entersFields() || &box != active_ || !box.complete()) return;
+  goOn();
+  if (active_ && active_ != &box) cameByItself_ = {active_, textOf(*active_)};
+}
+
+bool Form::endsFieldBefore() {
+  const auto came = std::exchange(cameByItself_, {});
+  return came.at && came.at == active_ && came.text == textOf(*active_);
+}
+
 Button* Form::defaultButton() const {
   for (Control* control : controls_) {
     auto* button = dynamic_cast<Button*>(control);
@@ -93,6 +107,7 @@ Button* Form::defaultButton() const {
 }
 
 bool Form::pressEnter() {
+  if (endsFieldBefore()) return true;
   if (auto* own = dynamic_cast<Button*>(active_)) return userClick(*own);
   if (!entersFields()) return pressDefault();
   goOn();

@@ -229,6 +229,15 @@ bool DateField::valid() const {
   return text::trim(text()).empty() || read().has_value();
 }
 
+bool DateField::complete() const {
+  const std::string typed = text();
+  const bool eightDigits = typed.size() == 8 && onlyDigits(typed) == typed;
+  const auto year = typed.find_last_of("/-.");
+  const bool wholeYear = year != std::string::npos && typed.size() == year + 5 &&
+                         typed.find_first_of("/-.") != year && onlyDigits(typed).size() >= 6;
+  return (eightDigits || wholeYear) && read().has_value();
+}
+
 void DateField::leftByFocus(Control* next) {
   const std::string typed = text::trim(text());
   if (const auto date = read(); date && !locked()) setText(text::toShort(*date));
@@ -256,6 +265,13 @@ void TimeField::setStored(std::string_view time) {
 
 bool TimeField::valid() const {
   return text::trim(text()).empty() || text::parseTime(text::trim(text())).has_value();
+}
+
+bool TimeField::complete() const {
+  const std::string typed = text();
+  const auto colon = typed.find(':');
+  const bool whole = colon == std::string::npos ? typed.size() == 4 : typed.size() == colon + 3;
+  return whole && text::parseTime(typed).has_value();
 }
 
 void TimeField::leftByFocus(Control* next) {

@@ -6,6 +6,7 @@
 #include <QLayout>
 #include <QScopedValueRollback>
 #include <QScreen>
+#include <algorithm>
 
 #include "qt/Appearance.h"
 #include "qt/LayoutBuilder.h"
@@ -59,6 +60,18 @@ int wishedWidth(const forms::Form& form, const QWidget& window, int atLeast) {
     width = std::max(width, own + charsWidth(window, 8));
   }
   return width;
+}
+
+/// Captions and texts have come in since the layouts asked for sizes.
+void askSizesAnew(QWidget& window) {
+  for (QWidget* inner : window.findChildren<QWidget*>()) inner->updateGeometry();
+  for (QLayout* inner : window.findChildren<QLayout*>()) inner->invalidate();
+  window.layout()->activate();
+}
+
+bool growsWithItsText(const forms::Control* control) {
+  const auto* text = dynamic_cast<const forms::TextBox*>(control);
+  return text && text->grows();
 }
 
 /// Lists of rows open with room for a good part of them.
@@ -143,10 +156,7 @@ void FormDialog::applyPalette() {
 }
 
 void FormDialog::fitScreen() {
-  // Captions came in after the layouts had asked for sizes.
-  for (QWidget* inner : findChildren<QWidget*>()) inner->updateGeometry();
-  for (QLayout* inner : findChildren<QLayout*>()) inner->invalidate();
-  layout()->activate();
+  askSizesAnew(*this);
   const QSize most = room_ * SHARE_OF_SCREEN;
   const QSize hint = sizeHint();
   const QSize wish(wishedWidth(form_, *this, hint.width()),
@@ -219,8 +229,14 @@ bool FormDialog::focusNextPrevChild(bool next) {
 
 void FormDialog::showEvent(QShowEvent* event) {
   QDialog::showEvent(event);
+  // Only now do they know their width, and so how many lines they take.
+  if (!event->spontaneous() && std::ranges::any_of(form_.controls(), growsWithItsText)) {
+    askSizesAnew(*this);
+    const int most = static_cast<int>(room_.height() * SHARE_OF_SCREEN);
+    resize(width(), std::max(height(), std::min(sizeHint().height(), most)));
+  }
   if (use_ == Use::Picture || event->spontaneous()) return;
-  if (!form_.activeControl()) form_.focusFirst();
+  if (!form_.activeControl()) form_.begin();
   pushFocus();
   beside_.start(BESIDE_THE_KEYS_MS);
 }
@@ -287,11 +303,10 @@ void FormDialog::controlChanged(Control& control, Change what) {
     const Settling refreshing(settling_);
     view->refresh(what);
   }
-  // A letter may now belong to another control.
-  if (what == Change::Caption) {
+  // A letter may now belong to another control, and stand in the label in front of it.
+  if (what == Change::Caption)
     for (auto& [other, view] : views_)
-      if (other != &control && other->canTakeFocus()) view->showCaption();
-  }
+      if (other != &control) view->showCaption();
 }
 
 void FormDialog::focusChanged(Control*) {

@@ -223,6 +223,30 @@ TEST_F(FormDialogTest, EnterInField_LeavesItThenPressesTheDefault) {
   EXPECT_THAT(form.log, ElementsAre("left txtNombre", "click cmdAceptar"));
 }
 
+TEST_F(FormDialogTest, CompleteDate_GoesOnByItself_AndTheEnterOfHabitLeavesNothingOut) {
+  form.setEntersFields(true);
+  for (const char* typed : {"31121998", "3/5/1998", "03-05-1998"}) {
+    form.setFocus(form.born);
+    QTest::keyClicks(&line(form.born), QString(typed).chopped(1));
+    focusIs(form.born);
+    QTest::keyClick(&line(form.born), typed[strlen(typed) - 1]);
+    focusIs(form.hour);
+    QTest::keyClick(&line(form.hour), Qt::Key_Return);
+    focusIs(form.hour);
+  }
+  EXPECT_EQ(form.born.text(), "03/05/1998");
+  QTest::keyClick(&line(form.hour), Qt::Key_Return);
+  focusIs(form.province);
+  go(form.born);
+  QTest::keyClicks(&line(form.born), "31021998");
+  focusIs(form.born);
+  form.born.setText("");
+  go(form.hour);
+  QTest::keyClicks(&line(form.hour), "0930");
+  QTest::keyClick(dialog->fieldOf(form.province), Qt::Key_Tab);
+  focusIs(form.province);
+}
+
 TEST_F(FormDialogTest, EnterOnButton_PressesThatOne) {
   go(form.addInstitution);
   QTest::keyClick(dialog->fieldOf(form.addInstitution), Qt::Key_Enter);

@@ -20,10 +20,12 @@ ButtonView::ButtonView(forms::Button& button, QWidget* parent)
   watch();
 }
 
-/// An Enter held too long, which has come here through the fields.
+/// An Enter held too long, which has come here through the fields, or pressed after the last of
+/// them had ended by itself.
 bool ButtonView::keyPressed(QKeyEvent& event) {
   const bool enter = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
-  return (enter && event.isAutoRepeat()) || ControlView::keyPressed(event);
+  if (enter && (event.isAutoRepeat() || model_.form().endsFieldBefore())) return true;
+  return ControlView::keyPressed(event);
 }
 
 QWidget* ButtonView::widget() const {

@@ -46,8 +46,11 @@ LineView::LineView(forms::TextBox& box, QWidget* parent)
   edit_->setMinimumWidth(charsWidth(*edit_, 11));
   if (box.password()) edit_->setEchoMode(QLineEdit::Password);
   connect(edit_, &QLineEdit::textEdited, this, [this] {
+    const auto before = this->box().text().size();
     userEdited();
     offer();
+    const bool atEnd = edit_->cursorPosition() == edit_->text().size();
+    if (atEnd && this->box().text().size() == before + 1) this->box().form().typedInto(this->box());
   });
   connect(edit_, &QLineEdit::cursorPositionChanged, this, [this] { selectionMoved(); });
   connect(edit_, &QLineEdit::selectionChanged, this, [this] { selectionMoved(); });

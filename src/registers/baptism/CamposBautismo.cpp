@@ -79,6 +79,8 @@ frmPartidaBautismo::frmPartidaBautismo(Contexto& contexto)
     deCadaUno(txtPartida[suyo]);
   for (const Texto nuestro : {TelefonoPadre, EmailPadre, TelefonoMadre, EmailMadre, TelefonoPadres})
     deHoy(txtPartida[nuestro]);
+  heredar(NombrePadre, PrimerApellidoPadre, PrimerApellidoHijo);
+  heredar(NombreMadre, PrimerApellidoMadre, SegundoApellidoHijo, NombrePadre);
   for (const TextoSC suyo : {EdadPadrino, EdadMadrina}) deCadaUno(txtSC[suyo]);
   disponer(paginas());
 }

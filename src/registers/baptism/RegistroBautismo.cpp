@@ -52,6 +52,9 @@ void frmPartidaBautismo::completarEdicion(cBautismo& b) const {
 void frmPartidaBautismo::importar(std::size_t, const frmBuscaPadres& de) {
   enlaces_.mostrarLoQue([&](cBautismo& b) { copiarFamilia(de.importado, b); });
   if (!esAlta()) return;
+  for (const forms::Frame* grupo : {&fraPadre, &fraAbuelosPaternos, &fraMadre, &fraAbuelosMaternos,
+                                    &fraMatrimonio, &fraDomicilio})
+    darPorHecho(*grupo);
   registro_.IDMadres = de.importado.IDMadres;
   registro_.IDPadres = de.importado.IDPadres;
   registro_.IDMatrimonio = de.importado.IDMatrimonio;

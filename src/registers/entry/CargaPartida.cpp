@@ -102,6 +102,7 @@ void frmPartida::limpiarCampos(bool quedaLaSerie) {
   vaciarRegistro();
   for (Persona& persona : personas_) persona.busqueda.empezar();
   propuestos_.clear();
+  hechos_.clear();
   for (forms::TextBox* campo : textos_) {
     if (!queda(*campo)) campo->setText("");
     propuestos_[campo] = campo->text();

@@ -155,9 +155,32 @@ void frmPartida::takeFormer(forms::Control& campo, bool pagina) {
   if (!tomado) ui().beep();
 }
 
+/// The only ones that there are need not be looked at.
+bool frmPartida::beginsSettled() const {
+  return esAlta() && institucion().listIndex() >= 0 && institucion().listCount() == 1 &&
+         (esSolicitud() || libro().listCount() == 1);
+}
+
+bool frmPartida::faltabaEnLaAnterior(const forms::Control& campo) const {
+  const forms::Field* era = buscar(anterior(), campo.name());
+  return era && enBlanco(era->text);
+}
+
+void frmPartida::heredar(int nombre, int apellido, int delHijo, int otroProgenitor) {
+  forms::TextBox& suyo = txtPartida[nombre];
+  suyo.onLostFocus = [this, &suyo, apellido, delHijo, otroProgenitor](forms::Control*) {
+    const bool propone = !enBlanco(suyo.text()) &&
+                         (otroProgenitor < 0 || !enBlanco(txtPartida[otroProgenitor].text()));
+    if (esAlta()) proponer(txtPartida[apellido], propone ? txtPartida[delHijo].text() : "");
+  };
+}
+
 bool frmPartida::settled(const forms::Control& campo) const {
   if (Form::settled(campo)) return true;
   if (!esAlta() || visited(campo)) return false;
+  if (hechos_.contains(campo.frame())) return true;
+  if (std::find(deHoy_.begin(), deHoy_.end(), &campo) != deHoy_.end())
+    return faltabaEnLaAnterior(campo);
   if (&campo == &libro()) return libro().listIndex() >= 0;
   const auto propuesto = propuestos_.find(&campo);
   if (propuesto == propuestos_.end()) return false;

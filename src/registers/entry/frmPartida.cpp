@@ -98,7 +98,7 @@ void frmPartida::ponerNotas(int indice) {
 void frmPartida::disponer(forms::Nodes paginas) {
   paginas.insert(paginas.begin(), paginaGeneral());
   setLayout(forms::column(
-      {forms::tabs(mstPartida, std::move(paginas)),
+      {item(lblPartidaAnulada), forms::tabs(mstPartida, std::move(paginas)),
        forms::row({forms::buttons({&cmdAltaProvincia, &cmdAltaPoblacion, &cmdPartida[ANULAR],
                                    &cmdPartida[ACEPTAR], &cmdPartida[CANCELAR]})})}));
   crearSucesos();
@@ -109,7 +109,7 @@ forms::LayoutNode frmPartida::paginaGeneral() {
       {fields(1, {item(institucion(), {&cmdAltaInstitucion}), item(libro(), {&cmdAltaLibro})}),
        forms::group(fraLibro, {fields(1, {item(txtLibro[FOLIO]), item(txtLibro[NUMERO]),
                                           item(lblNumeroRepetido)})}),
-       item(lblPartidaAnulada), forms::stretch()});
+       forms::stretch()});
 }
 
 const char* frmPartida::titulo() const {

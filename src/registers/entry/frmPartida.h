@@ -124,8 +124,14 @@ class frmPartida : public Dialogo {
   void serie(const forms::Control& campo) { serie_.insert(&campo); }
   /// Offers while one types what fields of this kind have held; a surname is looked at on leaving.
   void ofrecer(forms::TextBox& campo, Voz voz);
-  /// Paper books do not have it: in an old entry Enter goes past it.
+  /// Paper books do not have it, and not every parish keeps it: Enter goes past it in an old entry,
+  /// and in a new one where the entry before did not have it.
   void deHoy(forms::Control& campo) { deHoy_.push_back(&campo); }
+  /// Once the parent has a name, the surname of the child that comes from that side is proposed; of
+  /// the second parent only when the first is known, for the child bears its surnames otherwise.
+  void heredar(int nombre, int apellido, int delHijo, int otroProgenitor = -1);
+  /// What a look-up has filled as a whole: Enter stops no more in it, not at what is blank either.
+  void darPorHecho(const forms::Frame& grupo) { hechos_.insert(&grupo); }
   /// Hardly the same in two entries: taken over alone, never with its page.
   void deCadaUno(const forms::Control& campo) { deCadaUno_.insert(&campo); }
   RevisionFechas& revision() { return fechasRevisadas_; }
@@ -228,6 +234,8 @@ class frmPartida : public Dialogo {
 
   // What repeats
   bool settled(const forms::Control& field) const override;
+  bool beginsSettled() const override;
+  bool faltabaEnLaAnterior(const forms::Control& campo) const;
   void elegirUnico(forms::ComboBox& lista);
   void mirarApellidos();
   void mirarApellido(forms::TextBox& campo);
@@ -284,6 +292,7 @@ class frmPartida : public Dialogo {
   std::vector<forms::TextBox*> apellidos_;
   std::set<const forms::Control*> deCadaUno_;
   std::vector<forms::Control*> deHoy_;
+  std::set<const forms::Frame*> hechos_;
   mutable std::optional<std::pair<std::int64_t, std::vector<forms::Field>>> ultima_;  // of a book
   std::vector<std::function<void()>> bloqueados_;  // unlocks what the annulment has locked
 

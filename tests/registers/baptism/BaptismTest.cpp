@@ -45,6 +45,8 @@ TEST_F(Baptism, FieldsOfAllTabs_ReachTheirRows) {
   EXPECT_EQ(stored("FechaBautismo", "") + stored("Padrino", ""), "20261122---");
   EXPECT_EQ(stored("Sexo", "_hijo") + stored("HoraNac", "_hijo"), "Hombre09:05");
   EXPECT_EQ(stored("Nombre", "_padres") + stored("Nombre", "_madres"), "JuanAna");
+  EXPECT_EQ(stored("PrimerApellido", "_padres") + stored("PrimerApellido", "_madres"),
+            "GarcíaPérez");
 }
 
 TEST_F(Baptism, BirthAndWeddingOfToday_AreAskedAboutUntilTheyAreTyped) {
@@ -144,6 +146,9 @@ TEST_F(Baptism, SecondChild_TakesTheParentsOverIntoRowsOfItsOwn) {
     EXPECT_EQ(d.text(text(P::NombrePadre)) + d.text(text(P::AbueloPaterno)), "JuanTomás García");
     EXPECT_EQ(d.text(date(P::FechaMatr)), "06/06/1998");
     EXPECT_EQ(d.text(text(P::TelefonoPadre)), "");
+    d.focus(list(P::ProvinciaNac + 1));
+    d.enter();
+    EXPECT_EQ(d.focused(), text(P::ParroquiaMatrimonio)) << "the parents are known; been there";
     acceptNew(d, Answer::No);
   });
   EXPECT_EQ(w.count("bautismo_padres WHERE Abuelo=\"Tomás García\""), 2);
