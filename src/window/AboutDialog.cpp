@@ -17,6 +17,7 @@
 #include "files/Durable.h"
 #include "parish/copies/SafetyCopies.h"
 #include "qt/Appearance.h"
+#include "qt/Room.h"
 #include "support/FileSettings.h"
 #include "text/SystemErrors.h"
 #include "window/help/SupportReport.h"
@@ -61,7 +62,7 @@ AboutDialog::AboutDialog(Desk& desk, QWidget* parent) : QDialog(parent), desk_(d
   connect(report, &QPushButton::clicked, this, [this] { saveReport(); });
   connect(close, &QPushButton::clicked, this, &QDialog::reject);
   layout->addWidget(buttons);
-  resize(qt::charsWidth(*this, 78), fontMetrics().height() * 20);
+  qt::resizeWithin(*this, {qt::charsWidth(*this, 78), fontMetrics().height() * 20});
   close->setFocus();
 }
 

@@ -13,6 +13,7 @@
 
 #include "parish/copies/CopyRetention.h"
 #include "qt/Appearance.h"
+#include "qt/Room.h"
 
 namespace fidaleon::app {
 namespace {
@@ -85,7 +86,7 @@ CopiesDialog::CopiesDialog(const SafetyCopies& copies, QWidget* parent)
   connect(other, &QPushButton::clicked, this, [this] { chooseFile(); });
   connect(close, &QPushButton::clicked, this, &QDialog::reject);
   connect(table_, &QTableWidget::cellDoubleClicked, this, [this] { chooseRow(); });
-  resize(qt::charsWidth(*this, 92), 420);
+  qt::resizeWithin(*this, {qt::charsWidth(*this, 92), 420});
 }
 
 void CopiesDialog::fillTable() {

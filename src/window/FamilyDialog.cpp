@@ -59,6 +59,7 @@ void FamilyDialog::build() {
       {tr("Registro"), tr("Nombre"), tr("Fecha"), tr("Enlace"), tr("Por qué"), tr("Dónde está")});
   lines_->setRootIsDecorated(false);
   lines_->setUniformRowHeights(true);
+  lines_->setIconSize(QSize(1, 1) * (fontMetrics().height() + 4));  // and so the rows
   lines_->setAllColumnsShowFocus(true);
   lines_->setAccessibleName(tr("La persona y su familia"));
   status_ = new QLabel(tr("Se está reuniendo…"), this);

@@ -22,6 +22,7 @@
 #include "parish/legacy/ImportRun.h"
 #include "parish/legacy/LegacyTables.h"
 #include "qt/Appearance.h"
+#include "qt/Room.h"
 #include "window/CarefulQuestion.h"
 #include "window/ImportReport.h"
 
@@ -139,7 +140,7 @@ ImportDialog::ImportDialog(Desk& desk, QWidget* parent) : QDialog(parent), desk_
   for (auto* box : findChildren<QCheckBox*>())
     connect(box, &QCheckBox::toggled, this, [this] { changed(); });
   lookInto({});
-  resize(qt::charsWidth(*this, 120), 460);
+  qt::resizeWithin(*this, {qt::charsWidth(*this, 120), 460});
 }
 
 QWidget* ImportDialog::registersPage() {

@@ -11,6 +11,7 @@
 #include "files/Durable.h"
 #include "printing/TextReport.h"
 #include "qt/Appearance.h"
+#include "qt/Room.h"
 #include "text/SystemErrors.h"
 #include "window/PreviewDialog.h"
 
@@ -39,7 +40,7 @@ ImportReport::ImportReport(const std::string& text, const QString& saved, QWidge
   connect(close, &QPushButton::clicked, this, &QDialog::accept);
   close->setDefault(true);
   layout->addWidget(buttons);
-  resize(qt::charsWidth(*this, 100), 480);
+  qt::resizeWithin(*this, {qt::charsWidth(*this, 100), 480});
 }
 
 void ImportReport::print() {

@@ -24,6 +24,7 @@
 #include "parish/WindowSettings.h"
 #include "printing/DocumentReport.h"
 #include "qt/Appearance.h"
+#include "qt/Room.h"
 #include "window/AboutDialog.h"
 #include "window/PreviewDialog.h"
 #include "window/TreeModel.h"
@@ -355,13 +356,13 @@ void MainWindow::write(const std::string& key, const std::string& value) {
 void MainWindow::restoreWindow() {
   const std::string geometry = read("geometria");
   if (geometry.empty() || !restoreGeometry(QByteArray::fromBase64(geometry.c_str())))
-    resize(1180, 680);
+    qt::resizeWithin(*this, {1180, 680});
   const std::string splitter = read("division");
-  // Every node can be read without drawing the tree wider.
+  // Every node can be read without drawing the tree wider, but most of the room is the list's.
   tree_->resizeColumnToContents(0);
-  const int treeWidth = tree_->columnWidth(0) + 2 * tree_->frameWidth();
+  const int treeWidth = std::min(tree_->columnWidth(0) + 2 * tree_->frameWidth(), width() * 2 / 5);
   if (splitter.empty() || !splitter_->restoreState(QByteArray::fromBase64(splitter.c_str())))
-    splitter_->setSizes({treeWidth, 1180 - treeWidth});
+    splitter_->setSizes({treeWidth, width() - treeWidth});
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {

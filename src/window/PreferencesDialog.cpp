@@ -11,6 +11,7 @@
 #include <QMessageBox>
 #include <QPrinterInfo>
 #include <QPushButton>
+#include <QScreen>
 #include <QSpinBox>
 #include <QTabWidget>
 #include <QToolButton>
@@ -20,6 +21,8 @@
 #include "parish/copies/CopyRetention.h"
 #include "qt/Appearance.h"
 #include "qt/Letters.h"
+#include "qt/PageScroll.h"
+#include "qt/Room.h"
 #include "registers/allocation/LimiteFolios.h"
 #include "text/Utf8.h"
 #include "window/CarefulQuestion.h"
@@ -103,9 +106,12 @@ PreferencesDialog::PreferencesDialog(Desk& desk, ParishDoor& door, QWidget* pare
   auto* layout = new QVBoxLayout(this);
   auto* pages = new QTabWidget(this);
   pages->setAccessibleName(tr("Apartados"));
-  pages->addTab(generalPage(), tr("&General"));
-  pages->addTab(paperPage(), tr("&Libros y documentos"));
-  pages->addTab(copiesPage(), tr("Cop&ias"));
+  const auto add = [&](QWidget* page, const QString& title) {
+    pages->addTab(new qt::PageScroll(page, screen()->availableSize(), pages), title);
+  };
+  add(generalPage(), tr("&General"));
+  add(paperPage(), tr("&Libros y documentos"));
+  add(copiesPage(), tr("Cop&ias"));
   layout->addWidget(pages);
   auto* buttons = new QDialogButtonBox(this);
   auto* ok = buttons->addButton(tr("&Aceptar"), QDialogButtonBox::AcceptRole);
@@ -114,7 +120,7 @@ PreferencesDialog::PreferencesDialog(Desk& desk, ParishDoor& door, QWidget* pare
   connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
   layout->addWidget(buttons);
-  resize(qt::charsWidth(*this, 84), sizeHint().height());
+  qt::resizeWithin(*this, {qt::charsWidth(*this, 84), sizeHint().height()});
   user_->setFocus();
 }
 

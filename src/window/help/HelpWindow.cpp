@@ -22,6 +22,7 @@
 
 #include "qt/Accessibility.h"
 #include "qt/Appearance.h"
+#include "qt/Room.h"
 #include "window/Icons.h"
 #include "window/help/HelpPage.h"
 
@@ -118,7 +119,7 @@ HelpWindow::HelpWindow(const Manual& manual, QWidget* parent)
   layout->addWidget(both);
   const QSize wish(qt::charsWidth(*this, LEFT_CHARS + PAGE_CHARS),
                    fontMetrics().height() * HEIGHT_LINES);
-  resize(wish.boundedTo(screen()->availableSize() * 0.9));
+  qt::resizeWithin(*this, wish);
   connect(page_, &QTextBrowser::sourceChanged, this, [this] { follow(); });
   connect(page_->verticalScrollBar(), &QScrollBar::valueChanged, this, [this] { follow(); });
 }
