@@ -3,10 +3,15 @@
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
+#include <QScopedValueRollback>
+#include <algorithm>
+#include <numeric>
+#include <vector>
 
 #include "forms/Controls.h"
 #include "qt/Appearance.h"
 #include "qt/PageScroll.h"
+#include "qt/Text.h"
 #include "qt/views/MemoView.h"
 #include "qt/views/PlainViews.h"
 #include "qt/views/TabsView.h"
@@ -64,6 +69,58 @@ bool widens(const LayoutNode& node) {
 
 bool anyGrows(const forms::Nodes& nodes) {
   return std::any_of(nodes.begin(), nodes.end(), grows);
+}
+
+/// Where the next field of a grid stands: beside the one before, or in a new row.
+struct Place {
+  int pairs;  // of label and field in a row
+  int row = 0, pair = 0;
+  /// How many pairs it takes.
+  int take(const LayoutNode& node) {
+    const int span = node.kind == Kind::Item ? std::clamp(node.span, 1, pairs) : pairs;
+    if (pair + span > pairs) {
+      ++row;
+      pair = 0;
+    }
+    return span;
+  }
+};
+
+/// What a row of so many pairs needs at least.
+int widthOf(const LayoutNode& fields, int pairs, const QWidget& window) {
+  constexpr int GAP = 12, FIELD_LETTERS = 14;
+  const auto advance = [&](const std::string& caption) {
+    return window.fontMetrics().horizontalAdvance(plainCaption(caption));
+  };
+  std::vector<int> labels(static_cast<std::size_t>(pairs)), boxes(labels);
+  Place place{pairs};
+  for (const LayoutNode& node : fields.children) {
+    const int span = place.take(node);
+    const auto at = static_cast<std::size_t>(place.pair);
+    place.pair += span;
+    if (node.kind != Kind::Item || !node.control->visible()) continue;
+    const forms::Label* front = node.control->label();
+    labels[at] = std::max(labels[at], front ? advance(front->caption()) : 0);
+    if (span == 1) boxes[at] = charsWidth(window, FIELD_LETTERS);
+  }
+  return std::accumulate(labels.begin(), labels.end(), 0) +
+         std::accumulate(boxes.begin(), boxes.end(), 0) + pairs * (GAP + charsWidth(window, 2));
+}
+
+/// Tabs in a list stand beside their pages.
+int widthBeside(const forms::TabStrip& tabs, const QWidget& window) {
+  int width = 0;
+  for (int tab = 0; tabs.isList() && tab < tabs.tabCount(); ++tab)
+    width =
+        std::max(width, window.fontMetrics().horizontalAdvance(plainCaption(tabs.caption(tab))));
+  return width * 5 / 4;
+}
+
+/// As many beside each other as are wished and have room.
+int pairsThatFit(const LayoutNode& fields, int room, const QWidget& window) {
+  int pairs = std::max(1, fields.columns);
+  while (pairs > 1 && widthOf(fields, pairs, window) > room) --pairs;
+  return pairs;
 }
 
 }  // namespace
@@ -196,6 +253,8 @@ void LayoutBuilder::addGroup(const LayoutNode& node, QBoxLayout& box, QWidget* p
 
 void LayoutBuilder::addTabs(const LayoutNode& node, QBoxLayout& box, QWidget* parent) {
   auto& tabs = static_cast<TabsView&>(make_(*node.control, parent));
+  const auto& strip = static_cast<const forms::TabStrip&>(*node.control);
+  const QScopedValueRollback room(room_, room_ - QSize(widthBeside(strip, *parent), 0));
   for (const LayoutNode& page : node.children) {
     auto* area = new PageScroll(
         scrolled(page.kind == Kind::Page ? page.children : forms::Nodes{page}, tabs.widget()),
@@ -237,24 +296,20 @@ void LayoutBuilder::addItem(const LayoutNode& node, QBoxLayout& box, QWidget* pa
 void LayoutBuilder::addFields(const LayoutNode& node, QBoxLayout& box, QWidget* parent) {
   auto* grid = new QGridLayout;
   box.addLayout(grid, grows(node) ? 1 : 0);
-  const int pairs = std::max(1, node.columns);
+  constexpr double SHARE_OF_SCREEN = 0.88;  // without the edges of window, page and group
+  Place place{pairsThatFit(node, static_cast<int>(room_.width() * SHARE_OF_SCREEN), *parent)};
+  const int pairs = place.pairs;
   for (int pair = 0; pair < pairs; ++pair) grid->setColumnStretch(2 * pair + 1, 1);
-  int row = 0, pair = 0;
   for (const LayoutNode& child : node.children) {
-    const bool field = child.kind == Kind::Item;
-    const int span = field ? std::clamp(child.span, 1, pairs) : pairs;
-    if (pair + span > pairs) {
-      ++row;
-      pair = 0;
-    }
-    if (field) {
-      addField(child, *grid, row, pair, span, parent);
+    const int span = place.take(child);
+    if (child.kind == Kind::Item) {
+      addField(child, *grid, place.row, place.pair, span, parent);
     } else {
       auto* part = new QVBoxLayout;
-      grid->addLayout(part, row, 0, 1, 2 * pairs);
+      grid->addLayout(part, place.row, 0, 1, 2 * pairs);
       add(child, *part, parent);
     }
-    pair += span;
+    place.pair += span;
   }
 }
 

@@ -54,6 +54,20 @@ TEST(Rendering, TallFormOnSmallScreen_PagesScrollAndTheFieldReachedIsSeen) {
     EXPECT_FALSE(dialog.fieldOf(*control)->visibleRegion().isEmpty()) << control->name();
 }
 
+TEST(Rendering, SmallScreen_FieldsStandBelowEachOtherInsteadOfScrollingSideways) {
+  ScriptedUser user;
+  SampleForm form(user);
+  form.Load();
+  for (const auto& [room, beside] : {std::pair(QSize(1366, 768), true), {QSize(380, 768), false}}) {
+    FormDialog dialog(form, nullptr, FormDialog::Use::Picture, room);
+    dialog.show();
+    const auto top = [&](const Control& field) {
+      return dialog.fieldOf(field)->mapTo(&dialog, QPoint()).y();
+    };
+    EXPECT_EQ(top(form.surname1) == top(form.surname2), beside) << room.width();
+  }
+}
+
 TEST(Rendering, DisabledAndWarningTexts_StandOutFromTheirGround) {
   const auto contrast = [](QColor a, QColor b) {
     const auto light = [](QColor c) {

@@ -97,10 +97,10 @@ void frmPartida::ponerNotas(int indice) {
 
 void frmPartida::disponer(forms::Nodes paginas) {
   paginas.insert(paginas.begin(), paginaGeneral());
-  setLayout(forms::column(
-      {item(lblPartidaAnulada), forms::tabs(mstPartida, std::move(paginas)),
-       forms::row({forms::buttons({&cmdAltaProvincia, &cmdAltaPoblacion, &cmdPartida[ANULAR],
-                                   &cmdPartida[ACEPTAR], &cmdPartida[CANCELAR]})})}));
+  setLayout(
+      forms::column({item(lblPartidaAnulada), forms::tabs(mstPartida, std::move(paginas)),
+                     forms::buttons({&cmdAltaProvincia, &cmdAltaPoblacion, &cmdPartida[ANULAR],
+                                     &cmdPartida[ACEPTAR], &cmdPartida[CANCELAR]})}));
   crearSucesos();
 }
 
