@@ -23,8 +23,11 @@ Table entry() {
       .texts({"Numero"})
       .yesNos({"Anulada"})
       .index({"CodLibro", "Folio", "Val(Numero)"})
+      .figures({1000000, 1000, 4, 1})
       .index({"CodNovios"})
-      .index({"CodNovias"});
+      .figures({1000000, 1})
+      .index({"CodNovias"})
+      .figures({1000000, 1});
   return table;
 }
 
@@ -54,7 +57,8 @@ void addSpouse(std::vector<Table>& tables, const std::string& spouse) {
                        .texts({"EstadoCivil", "NombrePadre", "NombreMadre"})
                        .refers("Municipio", {"MunicipioInscrito"}, Type::Text)
                        .texts({"Tomo", "Pagina", "NombreCivil", "SujetoDerecho"})
-                       .key({link.c_str()}, false));
+                       .key({link.c_str()}, false)
+                       .figures({100000, 1}));
   tables.push_back(Table(base + "_Bautismo")
                        .belongsTo(base, link)
                        .add(Type::Text, {"FechaBaut"}, 10)
@@ -63,7 +67,8 @@ void addSpouse(std::vector<Table>& tables, const std::string& spouse) {
                        .texts({"LibroBaut"})
                        .longs({"FolioBaut"})
                        .texts({"NumeroBaut"})
-                       .key({link.c_str()}, false));
+                       .key({link.c_str()}, false)
+                       .figures({100000, 1}));
 }
 
 Table celebration() {
@@ -75,7 +80,11 @@ Table celebration() {
       .texts({"TelefonoDomicMatr", "CPCompromiso", "NihilObstat", "Demarcacion",
               "TestigosParroquia", "Testigo1", "Testigo1_Natural_de", "Testigo1_Poblacion",
               "Testigo2", "Testigo2_Natural_de", "Testigo2_Poblacion"})
-      .key({"CodMatrimonio"}, false);
+      .key({"CodMatrimonio"}, false)
+      .figures({100000, 1})
+      .from(6)
+      .index({"FechaMatrimonio"})
+      .figures({100000, 200});
   return table;
 }
 
@@ -88,7 +97,7 @@ Table dossier() {
                  ("DomicilioTestigo" + n).c_str()});
     table.refers("Municipio", {("CodMunicipioTestigo" + n).c_str()});
   }
-  table.key({"CodMatrimonio"}, false);
+  table.key({"CodMatrimonio"}, false).figures({100000, 1});
   return table;
 }
 

@@ -5,7 +5,7 @@
 namespace fidaleon::store {
 
 const Schema& parishSchema() {
-  static const Schema schema("Parroquia", 5, [] {
+  static const Schema schema("Parroquia", 6, [] {
     std::vector<Table> tables;
     addCatalogues(tables);
     addBooks(tables);
