@@ -97,6 +97,14 @@ void makeIfMissing(const std::filesystem::path& file) {
   }
 }
 
+void endUnfinished(store::SqliteEngine& engine) {
+  try {
+    if (engine.inTransaction()) engine.rollback(0);
+  } catch (const store::Error&) {
+    // The engine undoes it when the connection closes.
+  }
+}
+
 sqlite3* withTables(store::SqliteEngine& engine) {
   engine.run(TABLES);
   return engine.handle();
@@ -212,15 +220,20 @@ std::int64_t IndexFile::reached(Register in) {
   return impl_->reached.with(static_cast<std::int64_t>(in)).number();
 }
 
+IndexFile::Reading::Reading(IndexFile& file) : file_(file) {
+  file_.impl_->engine.beginReading();
+}
+
+IndexFile::Reading::~Reading() {
+  endUnfinished(file_.impl_->engine);
+}
+
 IndexFile::Writing::Writing(IndexFile& file) : file_(file) {
   file_.impl_->engine.begin(0);
 }
 
 IndexFile::Writing::~Writing() {
-  try {
-    if (!committed_ && file_.impl_->engine.inTransaction()) file_.impl_->engine.rollback(0);
-  } catch (const store::Error&) {
-  }
+  if (!committed_) endUnfinished(file_.impl_->engine);
 }
 
 void IndexFile::Writing::setReached(Register in, std::int64_t key) {

@@ -54,6 +54,18 @@ class IndexFile {
   /// All entries of the register up to this key have been looked at.
   std::int64_t reached(Register in);
 
+  /// For the length of a block all that is read stands as it stood together; whoever writes waits.
+  class Reading {
+   public:
+    explicit Reading(IndexFile& file);
+    ~Reading();
+    Reading(const Reading&) = delete;
+    Reading& operator=(const Reading&) = delete;
+
+   private:
+    IndexFile& file_;
+  };
+
   /// The right to write, which one desk has at a time, for the length of a block; what was not
   /// committed is undone. Whoever writes what is stored reads it only after it has this.
   class Writing {

@@ -197,6 +197,7 @@ Found Searcher::find(std::string_view typed, std::size_t most) {
 }
 
 Found Searcher::find(const Query& asked, std::size_t most) {
+  const IndexFile::Reading together(index_);  // one lock for all documents
   renewIfWritten();
   if (sets_.size() > KEPT_SETS) sets_.clear();
   places();
