@@ -41,12 +41,12 @@ set(CPACK_PACKAGE_CONTACT "Fidaleon <mantenimiento@fidaleon.example>")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "registers of a Spanish parish")
 set(CPACK_DEBIAN_PACKAGE_DESCRIPTION
     "The books of baptism, confirmation, marriage and death of a Spanish parish,
- every entry on its folio under its number; the certificates, copies, notices
- and duplicates that a parish signs and stamps; the dossier of a marriage; the
- census and the groups of the parish.
- .
- Drafts are kept while one types, and a checked copy is made before anything
- is taken away. Several desks may share one parish.")
+every entry on its folio under its number; the certificates, copies, notices
+and duplicates that a parish signs and stamps; the dossier of a marriage; the
+census and the groups of the parish.
+
+Drafts are kept while one types, and a checked copy is made before anything
+is taken away. Several desks may share one parish.")
 set(CPACK_DEBIAN_PACKAGE_RELEASE 1)
 set(CPACK_DEBIAN_PACKAGE_SECTION misc)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
