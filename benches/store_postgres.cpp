@@ -118,23 +118,48 @@ void insertOurs(store::Connection& connection, const std::vector<cBautismo>& row
   connection.CommitTrans();
 }
 
-std::vector<std::vector<std::string>> readByHand(ByHand& db) {
+/// A row as somebody would hold it who needs nothing else.
+struct Slim {
+  std::vector<std::int64_t> numbers;
+  std::vector<std::string> texts;
+  friend bool operator==(const Slim&, const Slim&) = default;
+};
+
+/// Which columns are numbers, in the order of the catalogue.
+std::vector<bool> numbers() {
+  std::vector<bool> all;
+  for (const store::Column& c : store::parishSchema().find("Bautismo")->columns())
+    all.push_back(!store::isText(c.type));
+  return all;
+}
+
+std::vector<Slim> readByHand(ByHand& db) {
   const store::Answer answer =
       db.prepared("SELECT * FROM \"Bautismo\" ORDER BY \"IDBautismo\"", {});
-  std::vector<std::vector<std::string>> rows;
+  const std::vector<bool> isNumber = numbers();
+  std::vector<Slim> rows;
   for (int r = 0; r < answer.rows(); ++r) {
-    auto& row = rows.emplace_back();
-    for (int c = 0; c < answer.columns(); ++c) row.emplace_back(answer.text(r, c));
+    Slim& row = rows.emplace_back();
+    for (int c = 0; c < answer.columns(); ++c)
+      if (isNumber[static_cast<std::size_t>(c)])
+        row.numbers.push_back(answer.integer(r, c));
+      else
+        row.texts.emplace_back(answer.text(r, c));
   }
   return rows;
 }
 
-std::vector<std::vector<std::string>> readOurs(store::Connection& connection) {
-  std::vector<std::vector<std::string>> rows;
+std::vector<Slim> readOurs(store::Connection& connection) {
+  const std::vector<bool> isNumber = numbers();
+  std::vector<Slim> rows;
   for (auto set = connection.Execute("SELECT * FROM Bautismo ORDER BY IDBautismo"); !set.EOF_();
        set.MoveNext()) {
-    auto& row = rows.emplace_back();
-    for (int c = 0; c < set.FieldCount(); ++c) row.push_back(set.text(c));
+    Slim& row = rows.emplace_back();
+    for (int c = 0; c < set.FieldCount(); ++c)
+      if (isNumber[static_cast<std::size_t>(c)])
+        row.numbers.push_back(set.integer(c));
+      else
+        row.texts.push_back(set.text(c));
   }
   return rows;
 }

@@ -1,6 +1,5 @@
 #include "store/postgres/PostgresEngine.h"
 
-#include <thread>
 #include <utility>
 
 #include "store/Fence.h"
@@ -14,18 +13,8 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr std::size_t kMostAtOnce = 200;  // statements that go along with a later one
-constexpr std::size_t kMostNames = 600;
 constexpr const char* kStored = "fidaleon_guardado";
 constexpr const char* kTrial = "intento";
-
-constexpr const char* kStoredAfterAll =
-    "Lo último que se aceptó antes de perderse la conexión con el servidor sí quedó guardado. No "
-    "lo "
-    "acepte otra vez: cierre sin guardar y compruébelo en la lista.";
-constexpr const char* kNotKnown =
-    "Se ha perdido la conexión con el servidor mientras guardaba, y no puede saberse todavía si lo "
-    "ha guardado. No cierre lo que tiene escrito: cuando el servidor responda, vuelva a aceptar y "
-    "el programa lo comprobará antes de guardar nada.";
 
 std::string part(int depth) {
   return "parte" + std::to_string(depth);
@@ -79,43 +68,27 @@ void PostgresEngine::takeUp() {
     // Taken up right here.
   }
   if (!link_.isOpen()) link_.renew();
-  if (names_.size() > kMostNames) forgetNames();
+  if (names_.areTooMany()) forgetNames();
   if (link_.generation() == generation_) return;
   generation_ = link_.generation();
-  names_.clear();
-  fresh_.clear();
+  names_.forget();
   if (!listening_) return;
   link_.run(std::string("LISTEN ") + kStored);
   ++heard_;  // whatever was told meanwhile was not heard
 }
 
-void PostgresEngine::name(const std::string& sql, Request& request) {
-  request.sql.clear();
-  const auto known = names_.find(sql);
-  if (known != names_.end()) {
-    request.name = known->second;
-    return;
-  }
-  request.name = "s" + std::to_string(++named_);
-  request.sql = sql;
-  names_.emplace(sql, request.name);
-  fresh_.push_back(sql);
-}
-
 void PostgresEngine::forgetNames() {
-  names_.clear();
-  fresh_.clear();
+  names_.forget();
   if (link_.isOpen() && !link_.isBroken()) link_.run("DEALLOCATE ALL");
 }
 
 Answer PostgresEngine::finish() {
   try {
     Answer last = link_.finish();
-    fresh_.clear();
+    names_.confirm();
     return last;
   } catch (const Error&) {
-    for (const std::string& sql : fresh_) names_.erase(sql);
-    fresh_.clear();
+    names_.takeBack();
     throw;
   }
 }
@@ -190,15 +163,15 @@ void PostgresEngine::commit(int depth) {
     if (wrote_) link_.add({{}, std::string("NOTIFY ") + kStored});
     link_.add({{}, "COMMIT"});
     const std::string number = transaction_;
-    if (wrote_) doubt_ = number;
+    if (wrote_) doubt_.raise(number);
     finish();
-    doubt_.clear();
+    doubt_.drop();
     end();
   } catch (const Error& error) {
     const bool answered = link_.isOpen();
     giveUp();
-    if (answered) doubt_.clear();
-    if (doubt_.empty()) throw;
+    if (answered) doubt_.drop();
+    if (!doubt_.any()) throw;
     requireStored(error);
   }
 }
@@ -208,69 +181,32 @@ void PostgresEngine::requireStored(const Error& error) {
   bool stored = false;
   try {
     takeUp();
-    stored = isStored(doubt_);
+    stored = doubt_.resolve(link_);
   } catch (const Error&) {
-    throw Error(ErrorKind::Connection, kNotKnown);
+    throw notKnown();
   }
-  doubt_.clear();
   if (!stored) throw error;
 }
 
-bool PostgresEngine::isStored(const std::string& transaction) {
-  for (int tries = 0;; ++tries) {
-    const std::string state(
-        link_.ask("SELECT pg_xact_status($1::text::xid8)", {transaction}).text(0, 0));
-    if (state != "in progress") return state == "committed";
-    // The server has not noticed yet that nobody listens to it.
-    if (tries > 20) throw Error(ErrorKind::Connection, kNotKnown);
-    link_.ask(
-        "SELECT pg_terminate_backend(pid) FROM pg_stat_activity WHERE usename = current_user AND "
-        "backend_xid = ($1::text::xid8)::xid",
-        {transaction});
-    std::this_thread::sleep_for(50ms);
-  }
-}
-
 void PostgresEngine::settleDoubt() {
-  if (doubt_.empty()) return;
+  if (!doubt_.any()) return;
   takeUp();
-  const bool stored = isStored(doubt_);
-  doubt_.clear();
-  if (stored) throw Error(ErrorKind::Other, kStoredAfterAll);
+  if (doubt_.resolve(link_)) throw storedAfterAll();
 }
 
 void PostgresEngine::readCatalogue() {
   if (link_.added() > 0) finish();
-  const Answer tables = link_.ask(
-      "SELECT c.oid, c.relname, a.attname, EXISTS (SELECT FROM pg_index i WHERE i.indrelid = c.oid "
-      "AND i.indisunique AND NOT i.indisprimary) FROM pg_class c JOIN pg_namespace n ON n.oid = "
-      "c.relnamespace AND n.nspname = 'fidaleon' LEFT JOIN pg_attribute a ON a.attrelid = c.oid "
-      "AND a.attidentity <> '' WHERE c.relkind = 'r'");
-  facts_.clear();
-  tables_.clear();
-  for (int row = 0; row < tables.rows(); ++row) {
-    const std::string table(tables.text(row, 1));
-    tables_.emplace(static_cast<Oid>(tables.integer(row, 0)), table);
-    facts_[table] = {table, std::string(tables.text(row, 2)), tables.text(row, 3) == "f"};
-  }
+  tables_.read(link_);
 }
 
-const PostgresEngine::TableFacts* PostgresEngine::factsOf(const std::string& table) {
-  auto found = facts_.find(table);
-  if (found == facts_.end()) {
-    readCatalogue();
-    found = facts_.find(table);
-  }
-  return found == facts_.end() ? nullptr : &found->second;
+const TableFacts* PostgresEngine::factsOf(const std::string& table) {
+  if (tables_.find(table) == nullptr) readCatalogue();
+  return tables_.find(table);
 }
 
 std::string PostgresEngine::tableOf(Oid number) {
-  auto found = tables_.find(number);
-  if (found == tables_.end()) {
-    readCatalogue();
-    found = tables_.find(number);
-  }
-  return found == tables_.end() ? std::string() : found->second;
+  if (tables_.name(number).empty()) readCatalogue();
+  return tables_.name(number);
 }
 
 void PostgresEngine::tell(const std::string& table, const Answer& answer) {
@@ -310,7 +246,7 @@ bool PostgresEngine::mayTryAgain(const Error& error) {
 Answer PostgresEngine::attempt(const std::string& sql, const Traits& traits, Request& request) {
   if (stage_ == Stage::None) {
     takeUp();
-    name(sql, request);
+    names_.give(sql, request);
     if (request.sql.empty()) return link_.exec(request);
     link_.add(request);
     return finish();
@@ -326,7 +262,7 @@ Answer PostgresEngine::attempt(const std::string& sql, const Traits& traits, Req
 
 Answer PostgresEngine::readInside(const std::string& sql, const Traits& traits, Request& request) {
   if (!traits.harmless) return tried(sql, request, {});
-  name(sql, request);
+  names_.give(sql, request);
   link_.add(request);
   return finish();
 }
@@ -344,7 +280,7 @@ Answer PostgresEngine::write(const std::string& sql, const Traits& traits, Reque
     tried(text, request, heard);
     return Answer();
   }
-  name(text, request);
+  names_.give(text, request);
   link_.add(request, heard);
   // Whether the transaction may begin is known before anything else is done in it.
   const bool first = transaction_.empty();
@@ -357,7 +293,7 @@ Answer PostgresEngine::tried(const std::string& sql, Request& request, const Lin
   const std::size_t at = link_.added();
   Answer answer;
   link_.add({{}, std::string("SAVEPOINT ") + kTrial});
-  name(sql, request);
+  names_.give(sql, request);
   link_.add(request, [&](Answer& a) {
     if (heard) heard(a);
     answer = std::move(a);
@@ -375,7 +311,7 @@ Answer PostgresEngine::tried(const std::string& sql, Request& request, const Lin
 
 void PostgresEngine::read(const std::string& sql, Request& request, Link::Reader& reader) {
   if (stage_ == Stage::None) takeUp();
-  name(sql, request);
+  names_.give(sql, request);
   if (link_.added() > 0 || !request.sql.empty()) {
     // Known to the server first: the rows come one by one only outside of a bundle.
     if (!request.sql.empty()) link_.addPrepared(request);

@@ -2,12 +2,13 @@
 
 #include <memory>
 #include <string>
-#include <unordered_map>
-#include <vector>
 
 #include "store/Engine.h"
+#include "store/postgres/Doubt.h"
 #include "store/postgres/Link.h"
 #include "store/postgres/PostgresSpelling.h"
+#include "store/postgres/PreparedNames.h"
+#include "store/postgres/TableFacts.h"
 #include "store/postgres/Traits.h"
 
 namespace fidaleon::store {
@@ -64,16 +65,8 @@ class PostgresEngine : public Engine {
 
  private:
   enum class Stage { None, Wanted, Open };
-  struct TableFacts {
-    std::string table;
-    std::string key;       // the counter, or the column of the engine's own
-    bool harmless = true;  // no key but the counter
-  };
-
   const TableFacts* factsOf(const std::string& table);
   void readCatalogue();
-  /// The name under which the link has it prepared, or is about to.
-  void name(const std::string& sql, Request& request);
   void forgetNames();
   void takeUp();
   void open();
@@ -90,8 +83,6 @@ class PostgresEngine : public Engine {
   void savepoint(const char* what, const std::string& name);
   void hear();
   void requireStored(const Error& error);
-  /// Whether the transaction came to its end; throws Connection when the server does not say.
-  bool isStored(const std::string& transaction);
   void settleDoubt();
 
   Link link_;
@@ -100,13 +91,10 @@ class PostgresEngine : public Engine {
   bool reading_ = false;     // the transaction only reads
   bool wrote_ = false;       // the transaction has something to tell others of
   std::string transaction_;  // its number, once the server has told it
-  std::string doubt_;        // one of which it is not known whether it came to its end
-  std::unordered_map<std::string, std::string> names_;
-  std::vector<std::string> fresh_;  // of those, what the server has not confirmed
-  int generation_ = 0;
-  std::int64_t named_ = 0;
-  std::unordered_map<std::string, TableFacts> facts_;
-  std::unordered_map<Oid, std::string> tables_;
+  Doubt doubt_;
+  PreparedNames names_;
+  int generation_ = 0;  // of the link that has these
+  KnownTables tables_;
   Fence* fence_ = nullptr;
   Touched touched_;
   std::int64_t touchedSoFar_ = 0;

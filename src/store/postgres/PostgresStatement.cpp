@@ -243,12 +243,16 @@ void PostgresStatement::takeAll() {
 }
 
 void PostgresStatement::addRow(RowStore& rows, const Answer& from, int row) {
+  if (types_.empty())
+    for (int i = 0; i < from.columns(); ++i) types_.push_back(PQftype(from.get(), i));
+  const int columns = static_cast<int>(types_.size());
   rows.beginRow();
   for (int i = 0; i < rows.width(); ++i) {
-    if (i >= from.columns() || from.isNull(row, i))
+    const std::string_view cell = i < columns ? from.text(row, i) : std::string_view();
+    if (cell.empty() && (i >= columns || from.isNull(row, i)))
       rows.addNull();
     else
-      addCell(rows, PQftype(from.get(), i), from.text(row, i));
+      addCell(rows, types_[static_cast<std::size_t>(i)], cell);
   }
   rows.endRow();
 }
@@ -277,6 +281,7 @@ void PostgresStatement::reset() {
   state_ = State::Bound;
   answer_ = Answer();
   current_ = Answer();
+  types_.clear();
   parked_ = nullptr;
   failure_ = nullptr;
   texts_.clear();

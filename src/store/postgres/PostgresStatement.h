@@ -37,7 +37,7 @@ class PostgresStatement : public Statement, private Link::Reader {
   std::string limited(int rows) const;
   void requireSame(int row, const Answer& now, int at) const;
   void giveBack();
-  static void addRow(RowStore& rows, const Answer& from, int row);
+  void addRow(RowStore& rows, const Answer& from, int row);
   bool isWide(const Literal& value) const;
   void put(int number, std::string_view text);
   /// With every whole number that is compared as a real one.
@@ -55,8 +55,9 @@ class PostgresStatement : public Statement, private Link::Reader {
   std::vector<std::size_t> places_;  // where in there each begins; kNull for Null
   bool wide_ = false;
   State state_ = State::Bound;
-  Answer answer_;   // all rows, or the first ones
-  Answer current_;  // the one that has come
+  Answer answer_;           // all rows, or the first ones
+  Answer current_;          // the one that has come
+  std::vector<Oid> types_;  // of its columns
   int row_ = -1;
   std::unique_ptr<RowStore> parked_;  // rows that came when somebody else needed the link
   std::int64_t next_ = 0;             // of those
