@@ -41,6 +41,8 @@ class Spelling {
   /// an index for the sake of a few rows.
   virtual std::string unindexed(const std::string& item, const Column&) const { return item; }
 
+  /// By the libraries of this machine, and not by those of a server, alike for all.
+  virtual bool ordersTextHere() const { return true; }
   /// What has to be there before the first table; empty when nothing has.
   virtual std::string preparation() const { return {}; }
   /// Keeps other upgraders out till the end of the transaction; empty where each transaction that

@@ -107,4 +107,33 @@ TEST_F(PostgresFaults, DiskFullOnTheServer_IsToldAndUndoesTheWhole) {
   EXPECT_EQ(names(), "");
 }
 
+TEST(PostgresUpgrade, OfTwoAtOnce_OneWaitsAndFindsItDone) {
+  const auto version = [](int n) {
+    Table table("Persona");
+    table.counter("ID").texts({"Nombre"});
+    if (n > 1) table.from(2).longs({"Edad"}).index({"Edad"});
+    return Schema("Prueba", n, {table});
+  };
+  const PostgresDatabase database;
+  PostgresEngine one(database.address()), two(database.address());
+  Installer(one, version(1)).create();
+  Link keeper(database.address());
+  keeper.run("SELECT pg_advisory_lock(1330, 2)");
+  const auto upgrade = [&](PostgresEngine& engine) {
+    Installer(engine, version(2)).upgrade();
+    engine.run("INSERT INTO \"Persona\" (\"Edad\") VALUES (7)");
+  };
+  std::thread other([&] { EXPECT_NO_THROW(upgrade(two)); });
+  std::thread free([&] {
+    while (keeper.ask("SELECT count(*) FROM pg_locks WHERE NOT granted").integer(0, 0) < 2)
+      usleep(1000);
+    keeper.run("SELECT pg_advisory_unlock(1330, 2)");
+  });
+  EXPECT_NO_THROW(upgrade(one));
+  other.join();
+  free.join();
+  EXPECT_EQ(keeper.ask("SELECT sum(\"Edad\") FROM \"Persona\"").integer(0, 0), 14);
+  EXPECT_EQ(kindOf([&] { Installer(two, version(1)).upgrade(); }), ErrorKind::NewerSchema);
+}
+
 }  // namespace fidaleon::store::PostgresFaultsTest

@@ -33,6 +33,9 @@ TEST(PostgresLink, Refusals_AreToldApart) {
   EXPECT_EQ(kind(known, "cerrado"), ErrorKind::Connection);
   EXPECT_EQ(number, kWrongPassword);
   EXPECT_EQ(kind(known, "abierto"), ErrorKind::Other) << "that is the password";
+  std::string words;
+  EXPECT_EQ(kindOf([] { Link::requireRecent(130014); }, &words), ErrorKind::NotADatabase);
+  EXPECT_NE(words.find("tiene PostgreSQL 13: hace falta"), std::string::npos);
 }
 
 TEST(PostgresLink, Journeys_AreAsManyAsAnswersWaitedFor) {
@@ -75,6 +78,8 @@ TEST(PostgresLink, Address_IsReadAsItWasWritten) {
   const ServerAddress address{"archivo.diocesis.es", 5433, "parroquia", "ana", "/etc/raiz.pem"};
   EXPECT_EQ(ServerAddress::parse("# diócesis\n" + address.written()), address);
   EXPECT_FALSE(address.isThisMachine());
+  for (const auto& [hosts, here] : {std::pair{"/run/a,127.0.0.1", true}, {"/run/a,b.es", false}})
+    EXPECT_EQ(ServerAddress({hosts, 5432, "p", "ana", {}}).isThisMachine(), here) << hosts;
   for (const char* broken : {"", "servidor=a\nbase=b", "servidor=a\nbase=b\nusuario=c\npuerto=0"})
     EXPECT_EQ(kindOf([&] { ServerAddress::parse(broken); }), ErrorKind::NotADatabase);
 }

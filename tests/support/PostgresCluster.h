@@ -34,6 +34,16 @@ class PostgresCluster {
     return address;
   }
   store::Link& link() { return *link_; }
+  /// Runs tests/support/servidor, from above the program.
+  static int script(const std::string& arguments) {
+    std::filesystem::path at = std::filesystem::read_symlink("/proc/self/exe");
+    while (at.has_relative_path()) {
+      at = at.parent_path();
+      if (exists(at / "tests/support/servidor"))
+        return std::system(((at / "tests/support/servidor").string() + " " + arguments).c_str());
+    }
+    throw std::runtime_error("tests/support/servidor");
+  }
 
  private:
   PostgresCluster() {
@@ -49,17 +59,8 @@ class PostgresCluster {
     link_->run("SET lock_timeout TO 0");  // other programs of the run may be making the same model
   }
   void start() {
-    if (std::system((script().string() + " " + folder_).c_str()) != 0)
+    if (script(folder_) != 0)
       throw std::runtime_error("No server could be started; see " + folder_ + ".registro");
-  }
-  /// The program is built somewhere below the sources.
-  static std::filesystem::path script() {
-    std::filesystem::path at = std::filesystem::read_symlink("/proc/self/exe");
-    while (at.has_relative_path()) {
-      at = at.parent_path();
-      if (exists(at / "tests/support/servidor")) return at / "tests/support/servidor";
-    }
-    throw std::runtime_error("tests/support/servidor");
   }
   files::Descriptor open(const char* ending) const {
     const std::string name = folder_ + ending;

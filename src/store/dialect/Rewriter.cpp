@@ -105,6 +105,8 @@ void Rewriter::remove() {
 
 void Rewriter::assigned(std::size_t end, const Column& target, const Scope& scope) {
   const bool single = end == at_ + 1;
+  if (single && target.type == Type::YesNo && token().is(packed("null")))
+    throw Error(ErrorKind::Constraint, "El campo «" + target.name + "» tiene que ser Sí o No.");
   if (single && token().kind == Token::Kind::Marker) {
     result_.targets[token().code - 1] = &target;
   } else if (target.type == Type::YesNo && !(single && token().kind == Token::Kind::Word)) {

@@ -72,7 +72,8 @@ const Column* Rewriter::comparedColumn(const Scope& scope) const {
   if (is(1, packed("between"))) return columnBefore(at_ - 1, scope);
   if (is(1, packed("and")) && is(3, packed("between"))) return columnBefore(at_ - 3, scope);
   std::size_t open = at_;
-  while (open > 0 && (tokens_[open - 1].is(',') || tokens_[open - 1].kind == Token::Kind::Marker))
+  while (open > 0 && (tokens_[open - 1].is(',') || tokens_[open - 1].is(packed("null")) ||
+                      tokens_[open - 1].kind == Token::Kind::Marker))
     --open;
   if (open < 3 || !tokens_[open - 1].is('(') || !tokens_[open - 2].is(packed("in"))) return nullptr;
   const bool negated = tokens_[open - 3].is(packed("not"));

@@ -9,11 +9,15 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr int kTries = 20;
+constexpr int kNotYetGiven = sqlState("22023");
+
+std::string stateOf(Link& link, const std::string& transaction) {
+  return std::string(link.ask("SELECT pg_xact_status($1::text::xid8)", {transaction}).text(0, 0));
+}
 
 bool isStored(Link& link, const std::string& transaction) {
   for (int tries = 0; tries <= kTries; ++tries) {
-    const std::string state(
-        link.ask("SELECT pg_xact_status($1::text::xid8)", {transaction}).text(0, 0));
+    const std::string state = stateOf(link, transaction);
     if (state != "in progress") return state == "committed";
     // The server has not noticed yet that nobody listens to it.
     link.ask(
@@ -25,12 +29,33 @@ bool isStored(Link& link, const std::string& transaction) {
   throw notKnown();
 }
 
+/// Only what is stored under the number may be another's.
+bool mayBeStored(Link& link, const std::string& transaction) {
+  try {
+    return stateOf(link, transaction) == "committed";
+  } catch (const Error& error) {
+    if (error.number() != kNotYetGiven) throw;
+    return false;
+  }
+}
+
 }  // namespace
 
 bool Doubt::resolve(Link& link) {
-  const bool stored = isStored(link, transaction_);
+  const Answer now = link.ask(std::string("SELECT ") + ServerTransaction::kEra);
+  if (now.text(0, 0) == transaction_.era) {
+    const bool stored = isStored(link, transaction_.number);
+    drop();
+    return stored;
+  }
+  const bool mayBe = mayBeStored(link, transaction_.number);
   drop();
-  return stored;
+  if (!mayBe) return false;
+  throw Error(ErrorKind::Other,
+              "El servidor de la parroquia se paró, o lo ha relevado otro, mientras guardaba, y no "
+              "es seguro "
+              "que lo último que se aceptó haya quedado guardado. No lo acepte otra vez antes de "
+              "comprobarlo en la lista.");
 }
 
 Error notKnown() {

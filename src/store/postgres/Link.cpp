@@ -36,6 +36,12 @@ PGconn* connect(const ServerAddress& address, const std::string& password,
   return PQconnectdbParams(keys.data(), values.data(), 0);
 }
 
+/// An answer that is not the server's: the library found out that the link is lost. Of a link that
+/// can only not be written to any more it says elsewhere that all is well.
+bool isOfLibrary(const PGresult* failure) {
+  return PQresultErrorField(failure, PG_DIAG_SQLSTATE) == nullptr;
+}
+
 bool isFailure(const PGresult* answer) {
   switch (PQresultStatus(answer)) {
     case PGRES_COMMAND_OK:
@@ -73,9 +79,7 @@ Link::Link(const ServerAddress& address, const std::string& password, const std:
 
 void Link::settle() {
   if (!isOpen()) throw connectionError(link_.get(), address_.shown());
-  if (PQserverVersion(link_.get()) < kOldest)
-    throw Error(ErrorKind::NotADatabase,
-                "El servidor es demasiado antiguo: hace falta PostgreSQL 14 o posterior.");
+  requireRecent(PQserverVersion(link_.get()));
   PQsetNoticeProcessor(
       link_.get(), [](void*, const char*) {}, nullptr);
   {
@@ -85,10 +89,18 @@ void Link::settle() {
   run(kSettings);
 }
 
+void Link::requireRecent(int version) {
+  if (version >= kOldest) return;
+  throw Error(ErrorKind::NotADatabase, "El servidor tiene PostgreSQL " +
+                                           std::to_string(version / 10000) +
+                                           ": hace falta PostgreSQL 14 o posterior.");
+}
+
 void Link::renew() {
   freeForOthers();
   heard_.clear();
   PQreset(link_.get());
+  isLost_ = false;
   ++generation_;
   settle();
 }
@@ -105,13 +117,15 @@ bool Link::inTransaction() const {
 }
 
 void Link::check(const Answer& answer) {
-  if (answer.get() == nullptr) lost();
-  if (isFailure(answer.get())) throw postgresError(answer.get(), link_.get());
+  if (answer.get() != nullptr && !isFailure(answer.get())) return;
+  if (isOfLibrary(answer.get())) lost();
+  throw postgresError(answer.get());
 }
 
 void Link::lost() {
   heard_.clear();
-  throw postgresError(nullptr, link_.get());
+  isLost_ = true;
+  throw postgresError(nullptr);
 }
 
 void Link::freeForOthers() {
@@ -190,7 +204,7 @@ Answer Link::finish() {
     if (last.get() == nullptr || isFailure(last.get())) {
       failedAt_ = i;
       failure = std::move(last);
-      if (failure.get() == nullptr || !isOpen()) break;
+      if (isOfLibrary(failure.get()) || !isOpen()) lost();
     } else if (heard[i]) {
       heard[i](last);
     }
@@ -224,7 +238,7 @@ Answer Link::next() {
 }
 
 std::vector<Link::Notice> Link::notices() {
-  if (PQconsumeInput(link_.get()) == 0) throw postgresError(nullptr, link_.get());
+  if (PQconsumeInput(link_.get()) == 0) lost();
   std::vector<Notice> all;
   while (PGnotify* notice = PQnotifies(link_.get())) {
     all.push_back({notice->relname, notice->extra, notice->be_pid == PQbackendPID(link_.get())});

@@ -65,9 +65,12 @@ class Link {
   Link(const Link&) = delete;
   Link& operator=(const Link&) = delete;
 
+  /// Throws as the maker does; a version as the library numbers it, 150006 for 15.6.
+  static void requireRecent(int version);
+
   const ServerAddress& address() const { return address_; }
   /// False once an answer has not come. That a silent link is lost is not known before it is used.
-  bool isOpen() const { return PQstatus(link_.get()) == CONNECTION_OK; }
+  bool isOpen() const { return !isLost_ && PQstatus(link_.get()) == CONNECTION_OK; }
   /// A new link in the place of a lost one; whatever the old one had prepared or held is gone.
   void renew();
   /// Counts the links that this has been, so that others see that theirs is gone.
@@ -154,6 +157,7 @@ class Link {
   std::deque<Heard> heard_;  // for each that was added, and one more for what prepares it
   std::size_t failedAt_ = 0;
   Reader* reader_ = nullptr;
+  bool isLost_ = false;
   int generation_ = 0;
   std::int64_t journeys_ = 0;
 };

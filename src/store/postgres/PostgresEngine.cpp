@@ -1,5 +1,6 @@
 #include "store/postgres/PostgresEngine.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "store/Fence.h"
@@ -25,6 +26,12 @@ constexpr int kFenceLost = sqlState("FB001");
 /// The server has forgotten what it had prepared, or it does not suit the tables any more.
 bool isStale(const Error& error) {
   return error.number() == sqlState("26000") || error.number() == sqlState("0A000");
+}
+
+/// A key that is given by the statement may be one that is there already.
+bool setsKey(const Traits& traits, const TableFacts& facts) {
+  return !facts.key.empty() && std::find(traits.sets.begin(), traits.sets.end(),
+                                         Link::name(facts.key)) != traits.sets.end();
 }
 
 }  // namespace
@@ -106,7 +113,7 @@ void PostgresEngine::giveUp() {
 void PostgresEngine::end() {
   stage_ = Stage::None;
   reading_ = wrote_ = false;
-  transaction_.clear();
+  transaction_ = {};
 }
 
 void PostgresEngine::open() {
@@ -116,8 +123,10 @@ void PostgresEngine::open() {
   link_.add({{}, "BEGIN"});
   link_.add({{},
              "SELECT pg_advisory_xact_lock(" + std::to_string(kFamily) + ", " +
-                 std::to_string(kWriters) + "), pg_current_xact_id()"},
-            [this](Answer& answer) { transaction_ = answer.text(0, 1); });
+                 std::to_string(kWriters) + "), pg_current_xact_id(), " + ServerTransaction::kEra},
+            [this](Answer& answer) {
+              transaction_ = {std::string(answer.text(0, 1)), std::string(answer.text(0, 2))};
+            });
   if (fence_ != nullptr) link_.add({{}, fence_->statement()});
 }
 
@@ -159,11 +168,10 @@ void PostgresEngine::commit(int depth) {
   if (stage_ == Stage::Wanted) return end();
   if (reading_) return rollback(0);
   try {
-    if (transaction_.empty()) finish();  // it has to be known before it ends
+    if (!transaction_.isKnown()) finish();  // it has to be known before it ends
     if (wrote_) link_.add({{}, std::string("NOTIFY ") + kStored});
     link_.add({{}, "COMMIT"});
-    const std::string number = transaction_;
-    if (wrote_) doubt_.raise(number);
+    if (wrote_) doubt_.raise(transaction_);
     finish();
     doubt_.drop();
     end();
@@ -183,6 +191,7 @@ void PostgresEngine::requireStored(const Error& error) {
     takeUp();
     stored = doubt_.resolve(link_);
   } catch (const Error&) {
+    if (!doubt_.any()) throw;
     throw notKnown();
   }
   if (!stored) throw error;
@@ -276,14 +285,14 @@ Answer PostgresEngine::write(const std::string& sql, const Traits& traits, Reque
     tell(*table, a);
   };
   wrote_ = true;
-  if (!traits.harmless || facts == nullptr || !facts->harmless) {
+  if (!traits.harmless || facts == nullptr || !facts->harmless || setsKey(traits, *facts)) {
     tried(text, request, heard);
     return Answer();
   }
   names_.give(text, request);
   link_.add(request, heard);
   // Whether the transaction may begin is known before anything else is done in it.
-  const bool first = transaction_.empty();
+  const bool first = !transaction_.isKnown();
   if (first || link_.added() > kMostAtOnce) finish();
   return Answer();
 }

@@ -88,9 +88,9 @@ class PostgresEngine : public Engine {
   Link link_;
   PostgresSpelling spelling_;
   Stage stage_ = Stage::None;
-  bool reading_ = false;     // the transaction only reads
-  bool wrote_ = false;       // the transaction has something to tell others of
-  std::string transaction_;  // its number, once the server has told it
+  bool reading_ = false;           // the transaction only reads
+  bool wrote_ = false;             // the transaction has something to tell others of
+  ServerTransaction transaction_;  // once the server has told it
   Doubt doubt_;
   PreparedNames names_;
   int generation_ = 0;  // of the link that has these

@@ -71,11 +71,9 @@ bool says(PGconn* link, const char* words) {
 
 }  // namespace
 
-Error postgresError(const PGresult* answer, PGconn* link) {
+Error postgresError(const PGresult* answer) {
   const char* state = PQresultErrorField(answer, PG_DIAG_SQLSTATE);
-  if (state != nullptr) return told(state);
-  if (PQstatus(link) == CONNECTION_BAD) return Error(ErrorKind::Connection, kGone);
-  return Error(ErrorKind::Other, "No se entiende lo que responde el servidor.");
+  return state != nullptr ? told(state) : Error(ErrorKind::Connection, kGone);
 }
 
 namespace {

@@ -18,8 +18,9 @@ constexpr int sqlState(std::string_view signs) {
 
 constexpr int kWrongPassword = sqlState("28P01");
 
-/// What the server, or the way to it, says by an answer, told in Spanish.
-Error postgresError(const PGresult* answer, PGconn* link);
+/// What the server says by an answer, told in Spanish; that it is gone, where it is not the
+/// server's or there is none.
+Error postgresError(const PGresult* answer);
 /// The same when no link came about; the library tells only words. `shown` names the server.
 Error connectionError(PGconn* link, const std::string& shown);
 

@@ -18,6 +18,7 @@ class PostgresSpelling : public Spelling {
   std::string limit(const std::string& count) const override;
   std::string allColumns(const Table& table, const std::string& source) const override;
   std::string entryOrder(std::string_view source) const override;
+  bool ordersTextHere() const override { return false; }
   bool keepsEntryOrder() const override { return false; }
   std::string ordered(const std::string& item, bool descending, bool mayBeNull) const override;
   std::string unindexed(const std::string& item, const Column& column) const override;

@@ -1,5 +1,7 @@
 #include "store/postgres/ServerAddress.h"
 
+#include <algorithm>
+
 #include "store/Error.h"
 #include "text/Numbers.h"
 #include "text/Utf8.h"
@@ -19,11 +21,20 @@ void read(ServerAddress& address, std::string_view key, const std::string& value
   if (key == "certificado") address.rootCertificate = value;
 }
 
+bool isLocal(std::string_view host) {
+  return host.starts_with('/') || host.starts_with('@') || host == "localhost" || host == "::1" ||
+         host.starts_with("127.");
+}
+
 }  // namespace
 
 bool ServerAddress::isThisMachine() const {
-  return host.starts_with('/') || host.starts_with('@') || host == "localhost" || host == "::1" ||
-         (host.starts_with("127.") && host.find(',') == std::string::npos);
+  for (std::string_view rest = host; !rest.empty();) {
+    const auto end = std::min(rest.find(','), rest.size());
+    if (!isLocal(rest.substr(0, end))) return false;
+    rest.remove_prefix(std::min(end + 1, rest.size()));
+  }
+  return true;
 }
 
 std::string ServerAddress::shown() const {

@@ -16,7 +16,8 @@ struct ServerAddress {
   std::string user;
   std::string rootCertificate;  // a file; empty: those that this machine trusts
 
-  /// The server is on this machine, so that nobody can stand in between.
+  /// The server, and each that may take its place, is on this machine, so that nobody can stand in
+  /// between.
   bool isThisMachine() const;
   /// For a user to read: "parroquia en archivo.diocesis.es".
   std::string shown() const;

@@ -72,6 +72,16 @@ bool isHarmless(const std::vector<std::string_view>& pieces, bool reads) {
   return reads || !putsColumns(pieces);
 }
 
+std::vector<std::string> namesBefore(const std::vector<std::string_view>& pieces,
+                                     std::string_view word) {
+  std::vector<std::string> names;
+  for (const std::string_view piece : pieces) {
+    if (piece == word) break;
+    if (isName(piece)) names.emplace_back(piece);
+  }
+  return names;
+}
+
 std::string plain(std::string_view name) {
   return isName(name) ? std::string(name.substr(1, name.size() - 2)) : std::string(name);
 }
@@ -89,6 +99,7 @@ Traits traitsOf(std::string_view sql) {
   traits.harmless = isHarmless(pieces, traits.reads);
   if (!traits.reads) {
     traits.table = plain(pieces[0] == "UPDATE" ? pieces[1] : pieces[2]);
+    traits.sets = namesBefore(pieces, pieces[0] == "UPDATE" ? "WHERE" : "VALUES");
     return traits;
   }
   const auto from = std::find(pieces.begin(), pieces.end(), "FROM");

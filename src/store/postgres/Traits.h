@@ -2,6 +2,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace fidaleon::store {
 
@@ -17,6 +18,8 @@ struct Traits {
   bool fromTheEnd = false;
   /// The table that is written to; empty where rows are read.
   std::string table;
+  /// The columns that it sets, each as it is quoted.
+  std::vector<std::string> sets;
 };
 
 Traits traitsOf(std::string_view sql);

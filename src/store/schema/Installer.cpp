@@ -122,9 +122,9 @@ int Installer::version() {
 }
 
 void Installer::adoptTextOrder() {
-  if (stored("Orden").text() == text::orderVersion()) return;
-  Step step(engine_);
   const Spelling& spell = engine_.spelling();
+  if (!spell.ordersTextHere() || stored("Orden").text() == text::orderVersion()) return;
+  Step step(engine_);
   engine_.renewTextOrder();
   engine_.run("UPDATE " + spell.name("Esquema") + " SET " + spell.name("Orden") + " = " +
               spell.text(text::orderVersion()));

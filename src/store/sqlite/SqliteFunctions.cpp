@@ -30,12 +30,12 @@ void val(sqlite3_context* context, int, sqlite3_value** args) {
 void whole(sqlite3_context* context, sqlite3_value* value, double low, double high) {
   if (sqlite3_value_type(value) == SQLITE_NULL) return sqlite3_result_null(context);
   if (sqlite3_value_type(value) == SQLITE_TEXT && !text::isNumeric(textOf(value))) {
-    return sqlite3_result_error(context, "no es un número", -1);
+    return sqlite3_result_error_code(context, SQLITE_MISMATCH);
   }
   const double n =
       std::nearbyint(sqlite3_value_type(value) == SQLITE_TEXT ? text::Val(textOf(value))
                                                               : sqlite3_value_double(value));
-  if (n < low || n > high) return sqlite3_result_error(context, "número demasiado grande", -1);
+  if (n < low || n > high) return sqlite3_result_error_code(context, SQLITE_MISMATCH);
   sqlite3_result_int64(context, static_cast<sqlite3_int64>(n));
 }
 
