@@ -161,12 +161,12 @@ class Session {
     for (const char* node : {"LibrosBautismo", CcNodos::PADRON, CcNodos::COLABORADOR, "Municipios",
                              "PartidasBautismo"})
       measure(std::string("elegir ") + node, [&] { show(node); });
-    onRows("PartidasBautismo", "propiedades-partida", "nueva-partida");
+    onRows("PartidasBautismo", "propiedades-partida", "nueva-partida", "eliminar-partida");
     command("anular", "anular una partida");
     command("validar", "validarla");
     show(CcNodos::PADRON);
     settle();
-    onRows("Padrón", "propiedades-empadronado", "nuevo-empadronado");
+    onRows("Padrón", "propiedades-empadronado", "nuevo-empadronado", "eliminar-empadronado");
     for (const char* ending : {"csv", "ods"}) {
       closer_.ending = ending;
       command("guardar-lista", std::string("guardar la lista del padrón en ") + ending);
@@ -183,7 +183,7 @@ class Session {
     window_->grab();
   }
 
-  void onRows(const std::string& list, const char* open, const char* add) {
+  void onRows(const std::string& list, const char* open, const char* add, const char* remove) {
     for (const QString text : {"b", "be", "bez", ""})
       measure(list + ": filtrar por «" + text.toStdString() + "»", [&] {
         window_->filter().setText(text);
@@ -199,6 +199,7 @@ class Session {
     window_->table().selectRow(window_->table().model()->rowCount() / 2);
     command(open, list + ": abrir uno y cancelar");
     command(add, list + ": uno nuevo y cancelar");
+    command(remove, list + ": eliminar uno");
   }
 
   void command(const char* id, const std::string& name) {

@@ -1,5 +1,7 @@
 #include "catalogue/Command.h"
 
+#include <tuple>
+
 #include "catalogue/Catalogue.h"
 #include "catalogue/CensusCommands.h"
 #include "catalogue/CommandParts.h"
@@ -252,6 +254,20 @@ void addDocumentCommands(std::vector<Command>& all) {
                         REPORTS))));
 }
 
+void addCommandsForSeveral(std::vector<Command>& all) {
+  const auto print = [](Workplace& w, const Choice& c) { w.makeDocumentsOfChosen(c); };
+  for (const auto& [id, text, tip, kinds] :
+       {std::tuple{"certificados-elegidas", "C&ertificados de las elegidas…",
+                   "El mismo documento de cada partida elegida: en un PDF, en uno cada una o en "
+                   "papel",
+                   ENTRIES},
+        {"documentos-elegidas", "Documentos de las &elegidas…",
+         "El mismo documento de cada solicitud elegida: en un PDF, en uno cada una o en papel",
+         REQUESTS}})
+    all.push_back(inMenu(Menu::Documents, still(line(id, text, "Ctrl+Shift+P", tip, kinds,
+                                                     Needs::SeveralRows, print))));
+}
+
 void addWindowCommands(std::vector<Command>& all) {
   const auto add = [&](Menu menu, Command c) { all.push_back(inMenu(menu, std::move(c))); };
   add(Menu::View, still(line("actualizar", "&Actualizar", "F5", "Vuelve a leer la lista", 0,
@@ -280,9 +296,13 @@ void addWindowCommands(std::vector<Command>& all) {
       still(line("cerrar-parroquia", "C&errar parroquia", "",
                  "Deja de trabajar en esta parroquia y vuelve al comienzo", 0, Needs::Nothing,
                  [](Workplace& w, const Choice&) { w.closeParish(); })));
-  add(Menu::File, still(line("guardar-lista", "&Guardar la lista…", "Ctrl+S",
-                             "Guarda la lista tal como se ve, para una hoja de cálculo", 0,
-                             Needs::List, [](Workplace& w, const Choice&) { w.saveList(); })));
+  add(Menu::File,
+      still(line("guardar-lista", "&Guardar la lista…", "Ctrl+S",
+                 "Guarda la lista tal como se ve, para una hoja de cálculo", 0, Needs::List,
+                 [](Workplace& w, const Choice&) { w.saveList(Extent::Entire); })));
+  add(Menu::File, still(line("guardar-elegidas", "Gua&rdar las elegidas…", "Ctrl+Shift+S",
+                             "Guarda solo las filas elegidas de la lista", 0, Needs::SeveralRows,
+                             [](Workplace& w, const Choice&) { w.saveList(Extent::Chosen); })));
   add(Menu::File, still(line("copia", "&Copia de seguridad…", "",
                              "Guarda una copia de la parroquia en otro sitio", 0, Needs::Nothing,
                              [](Workplace& w, const Choice&) { w.backUp(); })));
@@ -323,6 +343,7 @@ std::vector<Command> makeCommands() {
   addCensusCommands(all);
   addCatalogueCommands(all);
   addDocumentCommands(all);
+  addCommandsForSeveral(all);
   addListReportCommands(all);
   addWindowCommands(all);
   return all;
@@ -348,17 +369,20 @@ bool belongs(const Command& command, const Choice& choice) {
 
 bool applies(const Command& command, const Choice& choice) {
   if (!belongs(command, choice)) return false;
+  const bool one = choice.id != 0 && !choice.several;
   switch (command.needs) {
     case Needs::Nothing:
       return true;
     case Needs::List:
       return choice.node && hasRows(choice.node->kind);
     case Needs::Row:
-      return choice.id != 0;
+      return one;
     case Needs::ValidRow:
-      return choice.id != 0 && !choice.annulled;
+      return one && !choice.annulled;
     case Needs::AnnulledRow:
-      return choice.id != 0 && choice.annulled;
+      return one && choice.annulled;
+    case Needs::SeveralRows:
+      return choice.several;
   }
   return false;
 }

@@ -13,15 +13,17 @@ namespace fidaleon::app {
 /// Where a command is shown.
 enum class Menu { File, Record, Documents, View, Help };
 
-/// Which row a command needs; List is a list, whether or not it has rows.
-enum class Needs { Nothing, List, Row, ValidRow, AnnulledRow };
+/// Which row a command needs; List is a list, whether or not it has rows. What needs one row is not
+/// given while several are chosen: it would be a guess which.
+enum class Needs { Nothing, List, Row, ValidRow, AnnulledRow, SeveralRows };
 
 /// What is chosen in the window.
 struct Choice {
   const NodeView* node = nullptr;
-  std::int32_t id = 0;  // key of the chosen row, 0 when none is
+  std::int32_t id = 0;  // key of the chosen row, 0 when none is; of the current one of several
   bool annulled = false;
   std::string edition = {};  // of the parish
+  bool several = false;      // more rows are chosen than that one
 };
 
 /// One command of the program. All menus, the toolbar and the keys come from these lines.

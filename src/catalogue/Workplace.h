@@ -16,7 +16,7 @@ namespace app {
 struct Choice;
 struct ListReport;
 
-/// How much of a report on the people or tasks of the parish: what the user chooses, or all.
+/// How much of a list, or of a report on the people or tasks: what the user chooses, or all.
 enum class Extent { Chosen, Entire };
 
 /// What a command works with: the open parish, and the window around it. The window refreshes its
@@ -37,6 +37,9 @@ class Workplace {
   /// Asks what to print, where that is to be chosen, writes the report and shows it. An entire
   /// report without rows is told to the user.
   virtual void showListReport(const ListReport& report, Extent extent) = 0;
+  /// Asks which document, and makes that of each entry or request that is chosen: those of which
+  /// there can be none are told at the end.
+  virtual void makeDocumentsOfChosen(const Choice& chosen) = 0;
   virtual void focusFilter() = 0;
   /// Goes to the search over everything.
   virtual void focusSearch() = 0;
@@ -49,8 +52,8 @@ class Workplace {
   virtual void showNode(const std::string& name) = 0;
   /// Chooses the entries of that book.
   virtual void showEntriesOf(const Sacramento& sacrament, std::int32_t book) = 0;
-  /// Asks where and in which format, and saves the list as it is shown.
-  virtual void saveList() = 0;
+  /// Asks where and in which format, and saves the list as it is shown, or its chosen rows.
+  virtual void saveList(Extent extent) = 0;
   /// Asks where, and saves a verified copy of the parish there.
   virtual void backUp() = 0;
   /// Lets the user return the parish to a copy saved earlier.

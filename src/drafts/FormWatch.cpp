@@ -106,7 +106,7 @@ bool FormWatch::write(const std::function<void()>& writing) {
     return true;
   } catch (const std::system_error& e) {
     if (!std::exchange(failed_, true))
-      behind_.msgBox(
+      behind().msgBox(
           "No se puede guardar el borrador de lo que escribe: " + text::systemReason(e.code()) +
               "\nPuede seguir, pero acepte a menudo: si el programa se cerrara de golpe, "
               "se perdería lo que no haya aceptado.",
@@ -119,7 +119,7 @@ void FormWatch::showModal(forms::Form& form) {
   {
     const Opened opened(open_, form);
     offer(form);
-    if (!form.isUnloaded()) behind_.showModal(form);
+    if (!form.isUnloaded()) behind().showModal(form);
     if (form.isAbandoned()) ending_ = keep();
   }
   if (!open_.empty()) {
@@ -148,16 +148,16 @@ std::optional<FormWatch::Found> FormWatch::foundFor(const forms::Form& form) con
 }
 
 forms::Answer FormWatch::ask(const Draft& draft) {
-  return behind_.showMessage({"Se ha recuperado lo que se estaba escribiendo el " +
-                                  shortDay(draft.day) + " a las " + draft.time + " en «" +
-                                  draft.levels.back().caption +
-                                  "».\n\n¿Desea seguir con ello? Si contesta que no, se descarta; "
-                                  "si cancela, se guarda para más tarde.",
-                              forms::MsgButtons::YesNoCancel,
-                              forms::MsgIcon::Question,
-                              {},
-                              beginning(draft.readable()),
-                              forms::Answer::Yes});
+  return behind().showMessage({"Se ha recuperado lo que se estaba escribiendo el " +
+                                   shortDay(draft.day) + " a las " + draft.time + " en «" +
+                                   draft.levels.back().caption +
+                                   "».\n\n¿Desea seguir con ello? Si contesta que no, se descarta; "
+                                   "si cancela, se guarda para más tarde.",
+                               forms::MsgButtons::YesNoCancel,
+                               forms::MsgIcon::Question,
+                               {},
+                               beginning(draft.readable()),
+                               forms::Answer::Yes});
 }
 
 void FormWatch::offerLeft(const std::function<Resumed(const Task&)>& run) {
@@ -202,7 +202,7 @@ void FormWatch::offerWaiting(forms::Form& form) {
 
 void FormWatch::resume(forms::Form& form, Found found) {
   if (form.isReadOnly()) {
-    forms::warn(behind_,
+    forms::warn(behind(),
                 "Ahora no se puede seguir con lo que se estaba escribiendo: la ficha solo se puede "
                 "consultar. Se conserva, y se ofrecerá la próxima vez que la abra.");
     return;
@@ -215,9 +215,9 @@ void FormWatch::resume(forms::Form& form, Found found) {
   kept_.reset();
   keep();
   if (!waiting_.empty())
-    behind_.msgBox("También se estaba escribiendo en «" + waiting_.front().caption +
-                       "». Vuelva a abrirla desde esta ventana y se pondrá lo que falta.",
-                   forms::MsgButtons::Ok, forms::MsgIcon::Information, {});
+    behind().msgBox("También se estaba escribiendo en «" + waiting_.front().caption +
+                        "». Vuelva a abrirla desde esta ventana y se pondrá lo que falta.",
+                    forms::MsgButtons::Ok, forms::MsgIcon::Information, {});
 }
 
 // Fields that somebody has stored since then in another way are not written over with what was
@@ -242,7 +242,7 @@ void FormWatch::fill(forms::Form& form, const Draft::Level& level) {
 }
 
 void FormWatch::showLeft(const char* why, const Found& found) {
-  DraftView view(behind_, why, found.draft.readable());
+  DraftView view(behind(), why, found.draft.readable());
   view.Show();
   if (view.discarded()) DraftFolder::remove(found.left);
 }
@@ -251,28 +251,20 @@ void FormWatch::showRest(const char* why, std::vector<Draft::Level> levels) {
   Draft rest = present();
   rest.levels = std::move(levels);
   rest.task.place = Task::NO_WAY;
-  DraftView view(behind_, why, rest.readable());
+  DraftView view(behind(), why, rest.readable());
   view.Show();
   if (!view.discarded()) write([&] { folder_.leave(rest.text()); });
 }
 
 forms::Answer FormWatch::showMessage(const forms::Message& message) {
   keep();
-  return behind_.showMessage(message);
+  return behind().showMessage(message);
 }
 
 std::optional<std::string> FormWatch::inputBox(const std::string& prompt, const std::string& title,
                                                const std::string& initial) {
   keep();
-  return behind_.inputBox(prompt, title, initial);
-}
-
-double FormWatch::printerTextWidth(const std::string& text, const std::string& font) const {
-  return behind_.printerTextWidth(text, font);
-}
-
-void FormWatch::progressOpen(std::int64_t count, const std::string& message) {
-  behind_.progressOpen(count, message);
+  return behind().inputBox(prompt, title, initial);
 }
 
 }  // namespace fidaleon::app

@@ -10,6 +10,7 @@
 #include "drafts/Draft.h"
 #include "drafts/DraftFolder.h"
 #include "forms/Form.h"
+#include "forms/PassedOn.h"
 
 namespace fidaleon::app {
 
@@ -17,11 +18,11 @@ namespace fidaleon::app {
 /// typed in them as a draft. It offers a draft that an ended program has left when its form is
 /// opened again. A draft goes when its form has stored or closed; one that cannot be put back is
 /// shown as a text.
-class FormWatch : public forms::UserInterface {
+class FormWatch : public forms::PassedOn {
  public:
   /// All must outlive it.
   FormWatch(forms::UserInterface& behind, DraftFolder& folder, const Clock& clock)
-      : behind_(behind), folder_(folder), clock_(clock) {}
+      : PassedOn(behind), folder_(folder), clock_(clock) {}
 
   /// From now on drafts are those of this parish.
   void workOn(const std::filesystem::path& database);
@@ -55,15 +56,6 @@ class FormWatch : public forms::UserInterface {
   forms::Answer showMessage(const forms::Message& message) override;
   std::optional<std::string> inputBox(const std::string& prompt, const std::string& title,
                                       const std::string& initial = {}) override;
-  void beep() override { behind_.beep(); }
-  void setHourglass(bool on) override { behind_.setHourglass(on); }
-  std::string clipboardText() const override { return behind_.clipboardText(); }
-  void setClipboardText(const std::string& text) override { behind_.setClipboardText(text); }
-  bool hasPrinter() const override { return behind_.hasPrinter(); }
-  double printerTextWidth(const std::string& text, const std::string& font) const override;
-  void progressOpen(std::int64_t count, const std::string& message) override;
-  void progressMove(std::int64_t position) override { behind_.progressMove(position); }
-  void progressClose() override { behind_.progressClose(); }
 
  private:
   struct Open {
@@ -90,7 +82,6 @@ class FormWatch : public forms::UserInterface {
   void showLeft(const char* why, const Found& found);
   void showRest(const char* why, std::vector<Draft::Level> levels);
 
-  forms::UserInterface& behind_;
   DraftFolder& folder_;
   const Clock& clock_;
   std::string parish_;

@@ -1,10 +1,8 @@
 #include "paper/Report.h"
 
-#include <QBuffer>
 #include <QPageLayout>
 #include <QPainter>
 #include <QPainterPath>
-#include <QPdfWriter>
 #include <QPrinter>
 #include <QtMath>
 #include <algorithm>
@@ -13,10 +11,7 @@
 #include <stdexcept>
 #include <utility>
 
-#include "paper/ArchivedPdf.h"
-#include "paper/CheckedFile.h"
 #include "paper/Pages.h"
-#include "paper/SheetTurner.h"
 #include "paper/SortOrder.h"
 #include "paper/TemplateReader.h"
 #include "paper/Units.h"
@@ -41,7 +36,6 @@ struct Report::Impl {
   void paintFurniture(QPainter& painter, const Page& page, int total) const;
   void paintMarks(QPainter& painter, const Page& page);
   QRectF areaOf(const Placed& part) const;
-  QByteArray pdf();
   void reportProgress(std::size_t done, std::size_t total) const {
     if (options.progress && !options.progress(done, total))
       throw Error(ErrorKind::Cancelled, "Se ha cancelado el documento.");
@@ -291,46 +285,31 @@ QImage Report::pageImage(int page, int dotsPerInch) const {
   return image;
 }
 
-void Report::savePdf(const std::filesystem::path& path) const {
-  const QString name = QString::fromStdString(path.string());
-  const auto refuse = [&] {
-    throw Error(ErrorKind::CannotWrite,
-                QStringLiteral("No se puede guardar el documento en «%1». Compruebe que la carpeta "
-                               "existe, que puede escribir en ella y que queda sitio en el disco.")
-                    .arg(name)
-                    .toStdString());
-  };
-  CheckedFile file(name);
-  if (!file.start()) refuse();
-  writeArchived(impl_->pdf(), {impl_->options.author, impl_->layout.language}, file);
-  if (!file.commit()) refuse();
+void Report::savePdf(const std::filesystem::path& file) const {
+  const std::unique_ptr<Volume> alone = volume(file, title());
+  bindInto(*alone);
+  alone->close();
 }
 
-QByteArray Report::Impl::pdf() {
-  QBuffer content;
-  content.open(QIODevice::WriteOnly);
-  QPdfWriter writer(&content);
-  writer.setPdfVersion(QPdfWriter::PdfVersion_A1b);
-  writer.setTitle(title);
-  writer.setCreator(QStringLiteral("Fidaleon"));
-  writer.setResolution(static_cast<int>(kDotsPerInch));
-  writer.setPageLayout(sheetOf(layout));
-  QPainter painter(&writer);
+std::unique_ptr<Volume> Report::volume(const std::filesystem::path& file,
+                                       const QString& title) const {
+  return std::make_unique<Volume>(
+      file, title, PdfFacts{impl_->options.author, impl_->layout.language}, sheetOf(impl_->layout));
+}
+
+void Report::bindInto(Volume& volume) const {
+  Pages& pages = impl_->pages;
   const bool counted = pages.complete();
-  std::optional<SheetTurner> turner(std::in_place, writer);
   for (int page = 0; pages.has(page); ++page) {
     pages.page(page);
-    turner->wait();
-    paint(painter, page);
-    if (pages.goesOnAfter(page)) turner->turn();
+    impl_->paint(volume.sheet(), page);
+    if (pages.goesOnAfter(page)) volume.turn();
     if (counted)
-      reportProgress(static_cast<std::size_t>(page) + 1, static_cast<std::size_t>(pages.count()));
+      impl_->reportProgress(static_cast<std::size_t>(page) + 1,
+                            static_cast<std::size_t>(pages.count()));
     else
-      reportProgress(pages.rows(), rows.size());
+      impl_->reportProgress(pages.rows(), impl_->rows.size());
   }
-  turner.reset();
-  painter.end();
-  return content.data();
 }
 
 void Report::print(QPrinter& printer) const {

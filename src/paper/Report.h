@@ -13,6 +13,7 @@
 #include "paper/Error.h"
 #include "paper/Expansion.h"
 #include "paper/Row.h"
+#include "paper/Volume.h"
 #include "store/Connection.h"
 
 class QPainter;
@@ -98,6 +99,10 @@ class Report {
   /// complete or not at all; one that stood there before is replaced.
   /// Throws Error: CannotWrite, Cancelled.
   void savePdf(const std::filesystem::path& file) const;
+  /// Several documents of one template are bound into one file like this: an empty volume of that
+  /// title, and each of them into it. Throws Error as savePdf does.
+  std::unique_ptr<Volume> volume(const std::filesystem::path& file, const QString& title) const;
+  void bindInto(Volume& volume) const;
   /// Prints the printer's page range and copies. Throws Error: NoPrinter, Cancelled.
   void print(QPrinter& printer) const;
 

@@ -27,11 +27,12 @@ Desk::Desk(const ParishFiles& files, const std::string& user, forms::UserInterfa
       presence_(come(files_, user, clock)),
       open_(openParish(files_)),
       config_(configFor(user)),
-      support_(ui, settings, clock, config_, {},
+      front_(ui),
+      support_(front_, settings, clock, config_, {},
                [this](const auto& directory) {
                  return presence_ ? presence_->session() : locks::meetingAt(directory);
                }),
-      entorno_{ui, support_, settings, clock, {open_.edition, editionName(open_.edition)}},
+      entorno_{front_, support_, settings, clock, {open_.edition, editionName(open_.edition)}},
       nucleo_(entorno_) {
   if (presence_) parish().engine().fenceWith(presence_->fence());
 }

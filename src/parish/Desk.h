@@ -3,6 +3,7 @@
 #include <string>
 
 #include "core/facade/cNucleo.h"
+#include "forms/PassedOn.h"
 #include "parish/ParishFiles.h"
 #include "parish/Presence.h"
 #include "support/HostSupport.h"
@@ -23,6 +24,9 @@ class Desk {
   cNucleo& nucleo() { return nucleo_; }
   Entorno& entorno() { return entorno_; }
   const FDAPI::cConfig& config() const { return config_; }
+  /// Whom all questions and messages of the library reach first: the user interface stands behind
+  /// it, or who relieves that for a while.
+  forms::PassedOn& front() { return front_; }
   store::Connection& parish() { return *open_.parish; }
   store::Connection& reports() { return *open_.reports; }
   const ParishFiles& files() const { return files_; }
@@ -49,6 +53,7 @@ class Desk {
   std::unique_ptr<Presence> presence_;  // before anything of the parish is touched
   OpenParish open_;
   FDAPI::cConfig config_;
+  forms::PassedOn front_;
   support::HostSupport support_;
   Entorno entorno_;
   cNucleo nucleo_;

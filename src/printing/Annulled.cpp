@@ -63,6 +63,13 @@ QStringList personColumns(const PersonaDocumento& person) {
 
 }  // namespace
 
+bool isAnnulled(store::Connection& parish, const Sacramento& sacrament, std::int32_t entry) {
+  const auto rows =
+      parish.Execute(sentencia(sacrament, "SELECT Anulada FROM {Partidas} WHERE {IDPartida}=") +
+                     std::to_string(entry));
+  return !rows.EOF_() && rows.flag("Anulada");
+}
+
 QString annulledMark(bool catalan) {
   return catalan ? QStringLiteral("ANUL·LADA") : QStringLiteral("ANULADA");
 }

@@ -15,6 +15,8 @@ namespace fidaleon::app {
 /// The word that is printed across an annulled entry.
 QString annulledMark(bool catalan = false);
 
+bool isAnnulled(store::Connection& parish, const Sacramento& sacrament, std::int32_t entry);
+
 /// Which printed rows belong to annulled entries: the rows themselves do not say so, and are known
 /// by their place in the book.
 class Annulled {

@@ -4,7 +4,6 @@
 #include <utility>
 
 #include "core/contract/CcNodos.h"
-#include "core/statements/Sentencia.h"
 #include "paper/ScratchTables.h"
 #include "parish/Desk.h"
 #include "printing/Annulled.h"
@@ -18,13 +17,6 @@ namespace fidaleon::app {
 namespace {
 
 using Editions = FDAPI::cCAplicacion;
-
-bool isAnnulled(FDAPI::Conexion& parish, const Sacramento& sacrament, std::int32_t id) {
-  const auto rows =
-      parish.Execute(sentencia(sacrament, "SELECT Anulada FROM {Partidas} WHERE {IDPartida}=") +
-                     std::to_string(id));
-  return !rows.EOF_() && rows.flag("Anulada");
-}
 
 // What a run that failed left half done must not be printed, nor hold back the runs after it.
 void takeBackUnfinished(FDAPI::Conexion& reports) {

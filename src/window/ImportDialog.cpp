@@ -24,7 +24,7 @@
 #include "qt/Appearance.h"
 #include "qt/Room.h"
 #include "window/CarefulQuestion.h"
-#include "window/ImportReport.h"
+#include "window/OutcomeReport.h"
 
 namespace fidaleon::app {
 namespace {
@@ -425,7 +425,8 @@ void ImportDialog::carryOut(bool trial) {
       // It stands in the window, from where it can be saved elsewhere.
     }
   }
-  ImportReport(result.texto(), saved, this).exec();
+  OutcomeReport(tr("Informe de la importación"), result.texto(), "importacion.txt", this, saved)
+      .exec();
   bring_->setEnabled(trial && !result.cancelada);
   if (!trial) accept();
 }

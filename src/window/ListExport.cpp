@@ -18,6 +18,7 @@
 #include "parish/WindowSettings.h"
 #include "text/Dates.h"
 #include "text/SystemErrors.h"
+#include "window/ChosenRows.h"
 #include "window/LongRun.h"
 #include "window/RowsFilter.h"
 
@@ -175,7 +176,7 @@ bool save(Desk& desk, ListTable table, const Target& target, QWidget* over) {
 
 }  // namespace
 
-ListTable readList(const QTableView& view) {
+ListTable readList(const QTableView& view, Extent extent) {
   const auto& shown = static_cast<const RowsFilter&>(*view.model());
   const RowsModel& rows = shown.rows();
   const std::vector<int> columns = columnsFromLeft(view);
@@ -184,9 +185,12 @@ ListTable readList(const QTableView& view) {
   for (const int column : columns)
     table.columns.push_back({rows.view()->columns[static_cast<std::size_t>(column)].title,
                              view.columnWidth(column) * CENTIMETRES_PER_INCH / view.logicalDpiX()});
-  table.count = static_cast<std::size_t>(shown.rowCount());
-  table.row = [&shown, &rows, columns](std::size_t row) {
-    const int source = shown.mapToSource(shown.index(static_cast<int>(row), 0)).row();
+  const std::vector<int> chosen = extent == Extent::Chosen ? chosenRows(view) : std::vector<int>();
+  table.count =
+      extent == Extent::Chosen ? chosen.size() : static_cast<std::size_t>(shown.rowCount());
+  table.row = [&shown, &rows, columns, extent, chosen](std::size_t n) {
+    const int row = extent == Extent::Chosen ? chosen[n] : static_cast<int>(n);
+    const int source = shown.mapToSource(shown.index(row, 0)).row();
     ListLine cells;
     for (const int column : columns) cells.push_back(cellOf(rows, source, column));
     return cells;
@@ -217,13 +221,14 @@ std::string writeList(const ListTable& table, ListFormat format, const QString& 
   }
 }
 
-QString saveList(Desk& desk, const QTableView& view, QWidget* over) {
-  const ListTable table = readList(view);
+QString saveList(Desk& desk, const QTableView& view, Extent extent, QWidget* over) {
+  const ListTable table = readList(view, extent);
   const QString known = QString::fromStdString(readWindowSetting(desk, FOLDER));
   TargetDialog dialog(QDir(known).exists() && !known.isEmpty() ? known : QDir::homePath(),
                       readWindowSetting(desk, FORMAT) == "csv" ? ListFormat::Csv : ListFormat::Ods,
                       over);
-  dialog.selectFile(QString::fromStdString(table.name).replace('\\', ' ') + " " +
+  dialog.selectFile(QString::fromStdString(table.name).replace('\\', ' ') +
+                    (extent == Extent::Chosen ? QObject::tr(" elegidas ") : " ") +
                     QDate::currentDate().toString(Qt::ISODate));
   if (dialog.exec() != QDialog::Accepted) return {};
   const Target target = dialog.chosen();

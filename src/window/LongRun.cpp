@@ -1,37 +1,47 @@
 #include "window/LongRun.h"
 
+#include <QCoreApplication>
 #include <QProgressDialog>
-#include <QPushButton>
+#include <limits>
 
 #include "paper/Error.h"
 
 namespace fidaleon::app {
 namespace {
 
-constexpr int QUIET_MS = 400;  // work that ends within this time is not spoken of
+using namespace std::chrono_literals;
+using Steady = std::chrono::steady_clock;
 
-class Ended {
- public:
-  explicit Ended(std::unique_ptr<QProgressDialog>& dialog) : dialog_(dialog) {}
-  ~Ended() { dialog_.reset(); }
-
- private:
-  std::unique_ptr<QProgressDialog>& dialog_;
-};
+constexpr auto QUIET = 150ms;  // work that ends within this time is not spoken of
+constexpr auto LOOK = 40ms;
 
 }  // namespace
+
+class LongRun::Dialog : public QProgressDialog {
+ public:
+  Dialog(QWidget* over, const QString& what)
+      : QProgressDialog(what, QObject::tr("&Cancelar"), 0, 1000, over) {
+    setWindowModality(Qt::ApplicationModal);
+    // Never by itself: it would come up over a dialog that the work has opened, and bar the way.
+    setMinimumDuration(std::numeric_limits<int>::max());
+    setValue(0);  // only this stops the clock that was started before
+    setMinimumWidth(fontMetrics().averageCharWidth() * 50);
+    setAutoReset(false);
+    setAutoClose(false);
+  }
+};
 
 LongRun::LongRun() = default;
 LongRun::~LongRun() = default;
 
 bool LongRun::run(QWidget* over, const QString& what, const std::function<void()>& work) {
-  dialog_ = std::make_unique<QProgressDialog>(what, QObject::tr("&Cancelar"), 0, 0, over);
-  const Ended ended(dialog_);
-  dialog_->setWindowModality(Qt::WindowModal);
-  dialog_->setAutoReset(false);
-  dialog_->setAutoClose(false);
-  dialog_->setMinimumDuration(QUIET_MS);
-  dialog_->setMinimumWidth(dialog_->fontMetrics().averageCharWidth() * 50);
+  struct Ended {
+    std::unique_ptr<Dialog>& dialog;
+    ~Ended() { dialog.reset(); }
+  };
+  dialog_ = std::make_unique<Dialog>(over, what);
+  const Ended ended{dialog_};
+  looked_ = Steady::now() + QUIET - LOOK;
   try {
     work();
   } catch (const paper::Error& e) {
@@ -43,8 +53,13 @@ bool LongRun::run(QWidget* over, const QString& what, const std::function<void()
 
 bool LongRun::tell(std::size_t done, std::size_t total) {
   if (!dialog_) return true;
-  dialog_->setMaximum(static_cast<int>(total));
-  dialog_->setValue(static_cast<int>(done));
+  if (Steady::now() - looked_ > LOOK) {
+    dialog_->setMaximum(static_cast<int>(total));
+    dialog_->setValue(static_cast<int>(done));
+    if (!dialog_->isVisible() && !dialog_->wasCanceled()) dialog_->show();
+    QCoreApplication::processEvents();
+    looked_ = Steady::now();
+  }
   return !dialog_->wasCanceled();
 }
 

@@ -26,6 +26,7 @@
 #include "qt/Appearance.h"
 #include "qt/Room.h"
 #include "window/AboutDialog.h"
+#include "window/ChosenRows.h"
 #include "window/PreviewDialog.h"
 #include "window/TreeModel.h"
 #include "window/help/Help.h"
@@ -126,7 +127,7 @@ void MainWindow::selectFirst() {
   if (shown_.rowCount() == 0) return;
   const int coming = rows_.nextFrom(text::toStored(desk_.entorno().clock.today()));
   const QModelIndex index = shown_.mapFromSource(rows_.index(coming, 0));
-  table_->selectRow(index.isValid() ? index.row() : 0);
+  chooseOnly(*table_, index.isValid() ? index.row() : 0);
   if (index.isValid()) table_->scrollTo(index, QAbstractItemView::PositionAtTop);
 }
 
@@ -159,6 +160,7 @@ Choice MainWindow::choice() const {
   if (!index.isValid() || !table_->selectionModel()->hasSelection()) return c;
   c.id = rows_.key(index.row());
   c.annulled = rows_.annulled(index.row());
+  c.several = chosenCount(*table_) > 1;
   return c;
 }
 
@@ -192,7 +194,7 @@ void MainWindow::run(const Command& command, const Choice& chosen) {
 bool MainWindow::chooseRow(std::int32_t key) {
   const QModelIndex index = shown_.mapFromSource(rows_.index(rows_.rowOf(key), 0));
   if (!index.isValid()) return false;
-  table_->selectRow(index.row());
+  chooseOnly(*table_, index.row());
   table_->scrollTo(index);
   return true;
 }
@@ -224,6 +226,8 @@ void MainWindow::updateCount() {
   count_->setText(shown == all ? tr("%L1 %2").arg(all).arg(
                                      all == 1 ? QString::fromStdString(node_->thing) : things)
                                : tr("%L1 de %L2 %3").arg(shown).arg(all).arg(things));
+  if (const int chosen = chosenCount(*table_); chosen > 1)
+    count_->setText(count_->text() + tr(" · %L1 filas elegidas").arg(chosen));
   if (rows_.isFilling())
     count_->setText(count_->text() + tr(" y se siguen leyendo…"));
   else if (!rows_.isWhole())
@@ -239,7 +243,7 @@ void MainWindow::updateCount() {
 void MainWindow::filterChanged() {
   const std::int32_t keep = choice().id;
   shown_.setText(filter_->text());
-  if (!chooseRow(keep) && shown_.rowCount() > 0) table_->selectRow(0);
+  if (!chooseRow(keep) && shown_.rowCount() > 0) chooseOnly(*table_, 0);
   updateCommands();
 }
 

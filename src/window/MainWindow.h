@@ -97,10 +97,11 @@ class MainWindow : public QMainWindow, private Workplace {
   const FDAPI::cConfig& config() const override { return desk_.config(); }
   void showDocument(const Documento& document, std::int32_t id) override;
   void showListReport(const ListReport& report, Extent extent) override;
+  void makeDocumentsOfChosen(const Choice& chosen) override;
   void focusFilter() override;
   void showFamily(const Choice& chosen) override;
   void focusSearch() override;
-  void saveList() override;
+  void saveList(Extent extent) override;
   void backUp() override;
   void returnToCopy() override;
   void readListAnew() override { renew(); }

@@ -18,10 +18,12 @@
 #include "text/Utf8.h"
 #include "window/Beside.h"
 #include "window/CarefulQuestion.h"
+#include "window/ChosenRows.h"
 #include "window/CopyReturn.h"
 #include "window/ImportDialog.h"
 #include "window/ListExport.h"
 #include "window/MainWindow.h"
+#include "window/ManyDocuments.h"
 
 namespace fidaleon::app {
 namespace {
@@ -225,9 +227,14 @@ void MainWindow::showParishName() {
   parishName_->setText("  " + tr("Parroquia: %1").arg(name) + "  ");
 }
 
-void MainWindow::saveList() {
-  if (!finishReading()) return;
-  const QString done = app::saveList(desk_, *table_, this);
+void MainWindow::makeDocumentsOfChosen(const Choice& chosen) {
+  const QString done = makeDocuments(desk_, *chosen.node, chosenKeys(*table_), this);
+  if (!done.isEmpty()) statusBar()->showMessage(done, PASSING_MS);
+}
+
+void MainWindow::saveList(Extent extent) {
+  if (extent == Extent::Entire && !finishReading()) return;
+  const QString done = app::saveList(desk_, *table_, extent, this);
   if (!done.isEmpty()) statusBar()->showMessage(done, PASSING_MS);
 }
 

@@ -16,6 +16,7 @@
 #include <QVBoxLayout>
 
 #include "qt/Accessibility.h"
+#include "window/Beside.h"
 #include "window/Icons.h"
 #include "window/MainWindow.h"
 #include "window/TreeModel.h"
@@ -82,11 +83,20 @@ void MainWindow::buildList() {
   layout->addLayout(top);
 
   shown_.setSourceModel(&rows_);
+  shown_.setBeside([this](const auto& work) {
+    try {
+      runBeside(this, tr("Se está ordenando la lista…"), MayCancel::Yes, work);
+      return true;
+    } catch (const store::Error& e) {
+      if (e.kind() != store::ErrorKind::Cancelled) throw;
+      return false;
+    }
+  });
   table_ = new QTableView(page);
   table_->setAccessibleName(tr("Lista"));
   table_->setModel(&shown_);
   table_->setSelectionBehavior(QAbstractItemView::SelectRows);
-  table_->setSelectionMode(QAbstractItemView::SingleSelection);
+  table_->setSelectionMode(QAbstractItemView::ExtendedSelection);
   table_->setEditTriggers(QAbstractItemView::NoEditTriggers);
   table_->setAlternatingRowColors(true);
   table_->setShowGrid(false);
@@ -116,6 +126,11 @@ void MainWindow::buildList() {
   empty_->setAttribute(Qt::WA_TransparentForMouseEvents);
   empty_->hide();
 
+  connect(&shown_, &RowsFilter::sortGivenUp, this, [this](int column, Qt::SortOrder order) {
+    const QSignalBlocker quiet(table_->horizontalHeader());
+    table_->horizontalHeader()->setSortIndicator(column, order);
+    table_->horizontalHeader()->viewport()->update();
+  });
   connect(scope_, &QToolButton::clicked, this, [this] {
     setScope(0, {});
     filterChanged();
@@ -123,6 +138,8 @@ void MainWindow::buildList() {
   });
   connect(filter_, &QLineEdit::textChanged, this, [this] { filterChanged(); });
   connect(table_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+          [this] { updateCommands(); });
+  connect(table_->selectionModel(), &QItemSelectionModel::selectionChanged, this,
           [this] { updateCommands(); });
   connect(table_, &QTableView::doubleClicked, this, [this] { openChosen(); });
   connect(table_, &QTableView::customContextMenuRequested, this,

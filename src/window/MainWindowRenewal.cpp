@@ -6,6 +6,7 @@
 #include <QTimer>
 #include <algorithm>
 
+#include "window/ChosenRows.h"
 #include "window/LongRun.h"
 #include "window/MainWindow.h"
 
@@ -86,7 +87,9 @@ void MainWindow::readingEnded() {
 }
 
 void MainWindow::takeOver() {
-  const std::int32_t keep = choice().id;
+  const Choice chosen = choice();
+  const std::vector<std::int32_t> all =
+      chosen.several ? chosenKeys(*table_) : std::vector<std::int32_t>();
   const int place = table_->currentIndex().row();
   const Sight sight(*table_);
   std::vector<std::int32_t> before;
@@ -94,9 +97,10 @@ void MainWindow::takeOver() {
   rows_.takeOver();
   shown_.sortIfRead();
   const std::int32_t added = std::exchange(chooseAdded_, false) ? newKey(before, rows_.keys()) : 0;
-  const bool chosen = (added != 0 && chooseRow(added)) || keep == 0 || chooseRow(keep);
-  if (!chosen && shown_.rowCount() > 0)
-    table_->selectRow(std::clamp(place, 0, shown_.rowCount() - 1));
+  const bool found = (added != 0 && chooseRow(added)) || chosen.id == 0 || chooseRow(chosen.id);
+  if (!found && shown_.rowCount() > 0)
+    chooseOnly(*table_, std::clamp(place, 0, shown_.rowCount() - 1));
+  if (added == 0 && !all.empty()) chooseKeys(*table_, all);
   if (!table_->currentIndex().isValid()) readingEnded();
   if (added == 0) sight.restore(shown_.mapFromSource(rows_.index(rows_.rowOf(sight.top()), 0)));
   updateCommands();
@@ -170,7 +174,7 @@ void MainWindow::update(const std::vector<std::int32_t>& keys, bool mayAdd, bool
   anew = anew || !update.placed;
   const bool chosen = (mayAdd && update.added != 0 && chooseRow(update.added)) || chooseRow(keep);
   if (!chosen && shown_.rowCount() > 0)
-    table_->selectRow(std::clamp(place, 0, shown_.rowCount() - 1));
+    chooseOnly(*table_, std::clamp(place, 0, shown_.rowCount() - 1));
 }
 
 void MainWindow::renewIfChanged() {

@@ -2,20 +2,14 @@
 
 #include <QAction>
 #include <QComboBox>
-#include <QDir>
-#include <QFileDialog>
-#include <QFileInfo>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMessageBox>
 #include <QPainter>
-#include <QPrintDialog>
 #include <QPrinter>
-#include <QPrinterInfo>
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
-#include <QStandardPaths>
 #include <QTimer>
 #include <QToolBar>
 #include <QToolButton>
@@ -23,9 +17,9 @@
 #include <array>
 #include <cmath>
 
-#include "parish/WindowSettings.h"
 #include "qt/Appearance.h"
 #include "text/Names.h"
+#include "window/DocumentHabits.h"
 #include "window/Icons.h"
 
 namespace fidaleon::app {
@@ -36,8 +30,6 @@ constexpr int MARGIN = 16;                       // around the sheet, in pixels
 constexpr std::chrono::milliseconds BREATH{25};  // between two looks at the keyboard
 constexpr int FIT_WIDTH = 0;
 constexpr int FIT_PAGE = -1;
-constexpr const char* FOLDER = "CarpetaDocumentos";
-constexpr const char* PRINTER = "Impresora";
 constexpr std::array<int, 7> ZOOMS{50, 75, 100, 125, 150, 200, 300};
 
 }  // namespace
@@ -268,44 +260,18 @@ void PreviewDialog::resizeEvent(QResizeEvent* event) {
 }
 
 void PreviewDialog::print() {
-  if (QPrinterInfo::availablePrinterNames().isEmpty()) {
-    QMessageBox::information(this, windowTitle(),
-                             tr("No hay ninguna impresora instalada en este equipo.\n"
-                                "Puede guardar el documento como PDF e imprimirlo en otro."));
-    return;
-  }
+  if (!hasPrinter(this)) return;
   if (!work(tr("Preparando las páginas…"), [this] { report_.pageCount(); })) return;
-  QPrinter printer(QPrinter::HighResolution);
-  if (const QPrinterInfo last = QPrinterInfo::printerInfo(habit(PRINTER)); !last.isNull())
-    printer.setPrinterName(last.printerName());
-  QPrintDialog dialog(&printer, this);
-  dialog.setMinMax(1, report_.pageCount());
-  if (dialog.exec() != QDialog::Accepted) return;
-  if (printer.outputFormat() == QPrinter::NativeFormat) setHabit(PRINTER, printer.printerName());
-  work(tr("Imprimiendo…"), [&] { report_.print(printer); });
+  if (const auto printer = choosePrinter(desk_, this, report_.pageCount()))
+    work(tr("Imprimiendo…"), [&] { report_.print(*printer); });
 }
 
 void PreviewDialog::savePdf() {
-  const QString last = habit(FOLDER);
-  const QString folder = !last.isEmpty() && QFileInfo(last).isWritable()
-                             ? last
-                             : QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
   const QString name = QString::fromStdString(text::fileName(report_.title().toStdString()));
-  QString file = QFileDialog::getSaveFileName(this, tr("Guardar como PDF"),
-                                              QDir(folder).filePath(name + ".pdf"),
-                                              tr("Documentos PDF (*.pdf)"));
-  if (file.isEmpty()) return;
-  if (!file.endsWith(".pdf", Qt::CaseInsensitive)) file += ".pdf";
-  if (work(tr("Guardando el documento…"), [&] { report_.savePdf(file.toStdString()); }))
-    setHabit(FOLDER, QFileInfo(file).absolutePath());
-}
-
-QString PreviewDialog::habit(const char* key) const {
-  return desk_ ? QString::fromStdString(readWindowSetting(*desk_, key)) : QString();
-}
-
-void PreviewDialog::setHabit(const char* key, const QString& value) {
-  if (desk_) writeWindowSetting(*desk_, key, value.toStdString());
+  const QString file = choosePdf(desk_, this, tr("Guardar como PDF"), name);
+  if (!file.isEmpty() &&
+      work(tr("Guardando el documento…"), [&] { report_.savePdf(file.toStdString()); }))
+    rememberFolderOf(desk_, file);
 }
 
 }  // namespace fidaleon::app

@@ -54,8 +54,6 @@ class PreviewDialog : public QDialog {
   bool work(const QString& what, const std::function<void()>& body);
   void print();
   void savePdf();
-  QString habit(const char* key) const;
-  void setHabit(const char* key, const QString& value);
 
   Desk* desk_ = nullptr;
   paper::Report report_;

@@ -2,10 +2,17 @@
 
 #include <algorithm>
 #include <sstream>
+#include <tuple>
+#include <utility>
 
 #include "text/Utf8.h"
 
 namespace fidaleon::app {
+namespace {
+
+constexpr int LONG = 50000;  // rows, of which the order may take a while
+
+}  // namespace
 
 void RowsFilter::setSourceModel(QAbstractItemModel* rows) {
   beginResetModel();
@@ -15,7 +22,8 @@ void RowsFilter::setSourceModel(QAbstractItemModel* rows) {
     for (Word& word : words_) word.known.clear();
   });
   connect(rows, &QAbstractItemModel::modelReset, this, [this] {
-    choose();
+    if (isLong()) sorted_ = -1;  // sortIfRead() does it beside
+    take(chosen({}));
     endResetModel();
   });
   connect(rows, &QAbstractItemModel::rowsInserted, this,
@@ -30,7 +38,7 @@ void RowsFilter::setSourceModel(QAbstractItemModel* rows) {
           [this](const QModelIndex& first, const QModelIndex& last) {
             rowsChanged(first.row(), last.row());
           });
-  choose();
+  take(chosen({}));
   endResetModel();
 }
 
@@ -47,11 +55,21 @@ void RowsFilter::setGroup(std::int32_t group) {
   arrange();
 }
 
+bool RowsFilter::isLong() const {
+  return beside_ && sourceModel() && rows().rowCount() > LONG;
+}
+
 void RowsFilter::sort(int column, Qt::SortOrder order) {
-  column_ = column;
-  order_ = order;
-  sorted_ = sourceModel() && rows().isFilling() ? -1 : column;
-  arrange();
+  const auto before = std::tuple(std::exchange(column_, column), std::exchange(order_, order),
+                                 std::exchange(sorted_, column));
+  if (sourceModel() && rows().isFilling()) sorted_ = -1;
+  if (sorted_ < 0 || !isLong()) return arrange();
+  std::vector<int> next;
+  if (beside_([&](const store::Progress& progress) { next = chosen(progress); }))
+    return arrange(std::move(next));
+  std::tie(std::ignore, order_, sorted_) = before;
+  column_ = sorted_;
+  emit sortGivenUp(column_, order_);
 }
 
 bool RowsFilter::sortIfRead() {
@@ -75,31 +93,37 @@ bool RowsFilter::isBefore(int row, int other) const {
   return row < other;
 }
 
-void RowsFilter::choose() {
-  shown_.clear();
+std::vector<int> RowsFilter::chosen(const store::Progress& progress) const {
+  std::vector<int> shown;
   const int count = sourceModel() ? rows().rowCount() : 0;
   for (int row = 0; row < count; ++row)
-    if (accepts(row)) shown_.push_back(row);
-  if (sorted_ >= columnCount()) sorted_ = -1;
-  if (sorted_ >= 0 && !shown_.empty()) putInOrder();
-  number();
+    if (accepts(row)) shown.push_back(row);
+  return sorted_ >= 0 && sorted_ < columnCount() && !shown.empty() ? inOrder(shown, progress)
+                                                                   : shown;
 }
 
 // The rows are dealt out to their ranks: comparing them with each other is slow where there are
 // very many.
-void RowsFilter::putInOrder() {
-  const std::vector<int> ranks = rows().ranks(sorted_);
+std::vector<int> RowsFilter::inOrder(const std::vector<int>& shown,
+                                     const store::Progress& progress) const {
+  const std::vector<int> ranks = rows().ranks(sorted_, progress);
   const int last = *std::max_element(ranks.begin(), ranks.end());
   const auto slot = [&](int row) {
     const int rank = ranks[static_cast<std::size_t>(row)];
     return static_cast<std::size_t>(order_ == Qt::AscendingOrder ? rank : last - rank);
   };
   std::vector<std::size_t> next(static_cast<std::size_t>(last) + 2);
-  for (const int row : shown_) ++next[slot(row) + 1];
+  for (const int row : shown) ++next[slot(row) + 1];
   for (std::size_t i = 1; i < next.size(); ++i) next[i] += next[i - 1];
-  std::vector<int> ordered(shown_.size());
-  for (const int row : shown_) ordered[next[slot(row)]++] = row;
-  shown_ = std::move(ordered);
+  std::vector<int> ordered(shown.size());
+  for (const int row : shown) ordered[next[slot(row)]++] = row;
+  return ordered;
+}
+
+void RowsFilter::take(std::vector<int> shown) {
+  if (sorted_ >= columnCount()) sorted_ = -1;
+  shown_ = std::move(shown);
+  number();
 }
 
 void RowsFilter::number() {
@@ -109,12 +133,12 @@ void RowsFilter::number() {
 }
 
 /// Who looks at them anew keeps what is chosen, wherever it goes.
-void RowsFilter::arrange() {
+void RowsFilter::arrange(std::vector<int> shown) {
   emit layoutAboutToBeChanged();
   const QModelIndexList kept = persistentIndexList();
   QModelIndexList sources;
   for (const QModelIndex& index : kept) sources.push_back(mapToSource(index));
-  choose();
+  take(std::move(shown));
   QModelIndexList now;
   for (const QModelIndex& source : sources) now.push_back(mapFromSource(source));
   changePersistentIndexList(kept, now);

@@ -2,9 +2,11 @@
 
 #include <QAbstractProxyModel>
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <vector>
 
+#include "store/Progress.h"
 #include "window/RowsModel.h"
 
 namespace fidaleon::app {
@@ -25,7 +27,11 @@ class RowsFilter : public QAbstractProxyModel {
   void setGroup(std::int32_t group);
   std::int32_t group() const { return group_; }
   const RowsModel& rows() const { return *static_cast<const RowsModel*>(sourceModel()); }
-  /// -1 for the order of the list.
+  /// Does long work while the window lives; false when the user has given it up.
+  using Beside = std::function<bool(const std::function<void(const store::Progress&)>&)>;
+  /// For the order of a long list.
+  void setBeside(Beside beside) { beside_ = std::move(beside); }
+  /// -1 for the order of the list. Given up it is as it was, and sortGivenUp() tells.
   void sort(int column, Qt::SortOrder order = Qt::AscendingOrder) override;
   /// Brings the rows into the order that was asked for. True when that moves them.
   bool sortIfRead();
@@ -38,6 +44,9 @@ class RowsFilter : public QAbstractProxyModel {
   QModelIndex mapFromSource(const QModelIndex& source) const override;
   QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
+ signals:
+  void sortGivenUp(int column, Qt::SortOrder order);
+
  private:
   struct Word {
     std::string text;
@@ -45,10 +54,14 @@ class RowsFilter : public QAbstractProxyModel {
   };
   bool accepts(int row) const;
   bool isBefore(int row, int other) const;
-  void choose();
-  void putInOrder();
+  /// The rows that are shown, as they are to stand.
+  std::vector<int> chosen(const store::Progress& progress) const;
+  std::vector<int> inOrder(const std::vector<int>& rows, const store::Progress& progress) const;
+  void take(std::vector<int> shown);
   void number();
-  void arrange();
+  void arrange() { arrange(chosen({})); }
+  void arrange(std::vector<int> shown);
+  bool isLong() const;
   void show(int row);
   void hide(int row);
   void rowsCame(int first, int last);
@@ -57,6 +70,7 @@ class RowsFilter : public QAbstractProxyModel {
 
   mutable std::vector<Word> words_;
   std::int32_t group_ = 0;
+  Beside beside_;
   int column_ = -1;  // as asked for
   Qt::SortOrder order_ = Qt::AscendingOrder;
   int sorted_ = -1;         // the column by which they stand, or -1

@@ -4,6 +4,7 @@
 #include <QGuiApplication>
 #include <QPalette>
 #include <algorithm>
+#include <cmath>
 #include <numeric>
 #include <utility>
 
@@ -49,12 +50,6 @@ int sign(double n) {
   return n < 0 ? -1 : n > 0 ? 1 : 0;
 }
 
-struct Unwanted {};
-
-/// Where each of the texts comes in their order. Throws Unwanted once it is.
-std::vector<int> ranksOf(const Texts& texts, ColumnKind kind,
-                         const std::atomic<bool>* wanted = nullptr);
-
 /// Below, equal or above 0, as the values of such a column sort.
 int compared(ColumnKind kind, std::string_view a, std::string_view b) {
   if (kind == ColumnKind::Date || kind == ColumnKind::Time) return a.compare(b);
@@ -64,11 +59,32 @@ int compared(ColumnKind kind, std::string_view a, std::string_view b) {
   return text::compare(a, b);
 }
 
-std::vector<int> ranksOf(const Texts& texts, ColumnKind kind, const std::atomic<bool>* wanted) {
+/// Says how far the sorting of so many is, and ends it by an error when nobody wants it any more.
+class SortProgress {
+ public:
+  SortProgress(std::size_t count, const store::Progress& progress)
+      : progress_(progress), whole_(static_cast<double>(count) * std::log2(count + 2.0)) {}
+  void compared() {
+    if (++done_ % BETWEEN != 0 || !progress_) return;
+    const double part = static_cast<double>(done_) / whole_;
+    if (!progress_(static_cast<int>(std::min(part, 0.99) * 1000)))
+      throw store::Error(store::ErrorKind::Cancelled, "Se ha cancelado.");
+  }
+
+ private:
+  static constexpr std::size_t BETWEEN = 4096;
+  const store::Progress& progress_;
+  double whole_;
+  std::size_t done_ = 0;
+};
+
+/// Where each of the texts comes in their order.
+std::vector<int> ranksOf(const Texts& texts, ColumnKind kind, const store::Progress& progress) {
+  SortProgress told(texts.count(), progress);
   std::vector<std::uint32_t> sorted(texts.count());
   std::iota(sorted.begin(), sorted.end(), 0u);
   std::sort(sorted.begin(), sorted.end(), [&](auto a, auto b) {
-    if (wanted && !*wanted) throw Unwanted();
+    told.compared();
     return compared(kind, texts.at(a), texts.at(b)) < 0;
   });
   std::vector<int> ranks(sorted.size());
@@ -85,13 +101,14 @@ struct OrderedBy {
 };
 
 /// The rows in the order of those columns, and of their keys where they are alike.
-SlimRows ordered(SlimRows rows, const std::vector<OrderedBy>& by, const std::atomic<bool>& wanted) {
+SlimRows ordered(SlimRows rows, const std::vector<OrderedBy>& by, const store::Progress& wanted) {
+  SortProgress told(static_cast<std::size_t>(rows.count()), wanted);
   std::vector<int> order(static_cast<std::size_t>(rows.count()));
   std::iota(order.begin(), order.end(), 0);
   std::vector<std::vector<int>> ranks;
-  for (const OrderedBy& b : by) ranks.push_back(ranksOf(rows.texts(b.column), b.kind, &wanted));
+  for (const OrderedBy& b : by) ranks.push_back(ranksOf(rows.texts(b.column), b.kind, wanted));
   std::sort(order.begin(), order.end(), [&](int a, int b) {
-    if (!wanted) throw Unwanted();
+    told.compared();
     for (std::size_t i = 0; i < by.size(); ++i) {
       const int of = ranks[i][rows.number(a, by[i].column)];
       const int other = ranks[i][rows.number(b, by[i].column)];
@@ -154,7 +171,7 @@ RowsModel::Reading RowsModel::putInOrder(Time atMost) {
     wanted_ = std::make_shared<std::atomic<bool>>(true);
     ordering_ = std::async(std::launch::async, [rows = std::move(*coming_), by = std::move(by),
                                                 wanted = wanted_]() mutable {
-      return ordered(std::move(rows), by, *wanted);
+      return ordered(std::move(rows), by, [wanted](int) { return wanted->load(); });
     });
     patience = atMost;
   }
@@ -337,9 +354,9 @@ std::string RowsModel::shown(std::string_view text, int column) const {
   }
 }
 
-const std::vector<int>& RowsModel::ranksOfTexts(int column) const {
+const std::vector<int>& RowsModel::ranksOfTexts(int column, const store::Progress& progress) const {
   std::vector<int>& all = ranks_[static_cast<std::size_t>(column)];
-  if (all.empty()) all = ranksOf(rows_.texts(column), kind(column));
+  if (all.empty()) all = ranksOf(rows_.texts(column), kind(column), progress);
   return all;
 }
 
@@ -351,10 +368,10 @@ bool RowsModel::isBefore(int row, int other, int column) const {
   return app::compared(kind(column), stored(row, column), stored(other, column)) < 0;
 }
 
-std::vector<int> RowsModel::ranks(int column) const {
+std::vector<int> RowsModel::ranks(int column, const store::Progress& progress) const {
   std::vector<int>& known = ranks_[static_cast<std::size_t>(column)];
   if (known.size() != rows_.texts(column).count()) known.clear();  // texts have been added since
-  const std::vector<int>& all = ranksOfTexts(column);
+  const std::vector<int>& all = ranksOfTexts(column, progress);
   std::vector<int> ranks(static_cast<std::size_t>(count_));
   for (int row = 0; row < count_; ++row)
     ranks[static_cast<std::size_t>(row)] = all[rows_.number(row, column)];

@@ -13,6 +13,7 @@
 
 #include "catalogue/NodeView.h"
 #include "store/Connection.h"
+#include "store/Progress.h"
 #include "window/RowsReader.h"
 
 namespace fidaleon::app {
@@ -86,8 +87,9 @@ class RowsModel : public QAbstractTableModel {
   std::string shown(int row, int column) const;
   /// Whether that row comes before the other when the column is sorted.
   bool isBefore(int row, int other, int column) const;
-  /// Of each row, from 0 on, where it comes then; those that are alike have the same rank.
-  std::vector<int> ranks(int column) const;
+  /// Of each row, from 0 on, where it comes then; those that are alike have the same rank. Throws
+  /// store::Error(Cancelled) when `progress` says so.
+  std::vector<int> ranks(int column, const store::Progress& progress = {}) const;
   /// The row shows that word, folded for the filter, in one of its columns. `known` remembers for
   /// this word what has been found out; empty at first.
   using Known = std::vector<std::vector<bool>>;
@@ -98,7 +100,7 @@ class RowsModel : public QAbstractTableModel {
   Reading read(SlimRows& rows, Time atMost);
   QVariant appearance(int row, int column, int role) const;
   std::string shown(std::string_view stored, int column) const;
-  const std::vector<int>& ranksOfTexts(int column) const;
+  const std::vector<int>& ranksOfTexts(int column, const store::Progress& progress = {}) const;
   void startAnew(store::Connection& connection);
   Reading putInOrder(Time atMost);
   bool giveUpOrdering();

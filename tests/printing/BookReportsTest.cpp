@@ -2,6 +2,7 @@
 
 #include <QtTest/QtTest>
 #include <QtWidgets/QtWidgets>
+#include <fstream>
 
 #include "core/contract/CcNodos.h"
 #include "core/statements/Sentencia.h"
@@ -10,6 +11,7 @@
 #include "parish/Parish.h"
 #include "printing/Annulled.h"
 #include "printing/BookHeader.h"
+#include "printing/DocumentBatch.h"
 #include "printing/DocumentReport.h"
 #include "registers/common/FormaPartida.h"
 #include "showroom/DemoScripts.h"
@@ -266,6 +268,42 @@ TEST_F(BookReports, certificateWithoutKeeper_isSaidAboveItsPage) {
   EXPECT_THAT(notice->text().toStdString(), HasSubstr("no dice quién lo firma"));
   const auto unsaid = make("partida");
   EXPECT_TRUE(unsaid->notices().isEmpty());
+}
+
+TEST_F(BookReports, ofSeveral_whoSignsIsAskedOnceAndWhatCannotBeMadeIsTold) {
+  desk->parish().Execute("UPDATE Bautismo SET Anulada=1 WHERE IDBautismo=2");
+  desk->parish().Execute("DELETE FROM Bautismo WHERE IDBautismo=3");
+  forms::ScriptedUser colleague;
+  Desk other(files(), "Archivo", colleague, settings, clock);
+  const auto lock = other.entorno().support.create_cProcesarBloqueos();
+  lock->Inicializar(directory().string());
+  FDAPI::DefinicionBloqueo entry;
+  entry.strTabla = "Bautismo";
+  entry.strRegistro = "4";
+  entry.conBd = &other.parish();
+  lock->DefinirBloqueo(entry);
+  ASSERT_EQ(lock->lngEfectuarBloqueos(), 0);
+  user.expectForm("frmEncargado", [](FormDriver& d) { d.click("cmdBoton(0)"); });
+  DocumentBatch batch(*desk, *documento(BAUTISMO, "certificado", ""));
+  const auto whole = (directory() / "todos.pdf").string();
+  std::unique_ptr<paper::Volume> volume;
+  const std::map<int, const char*> told{
+      {1, ""}, {2, "anulada"}, {3, "ya no existe"}, {4, "Archivo"}, {5, ""}};
+  for (const auto& [id, why] : told) {
+    const auto report = batch.make(id);
+    EXPECT_EQ(report.has_value(), id != 3 && id != 4) << id;
+    EXPECT_THAT(batch.told(), HasSubstr(why)) << id;
+    if (!report) continue;
+    if (!volume) volume = report->volume(whole, "Todos");
+    report->bindInto(*volume);
+  }
+  EXPECT_FALSE(std::filesystem::exists(whole)) << "half of it";
+  volume->close();
+  std::ifstream in(whole);
+  const std::string pdf(std::istreambuf_iterator<char>(in), {});
+  EXPECT_THAT(pdf, HasSubstr("/Count 3"));
+  EXPECT_THAT(user.problems(), IsEmpty());
+  EXPECT_TRUE(user.messages().empty());
 }
 
 TEST_F(BookReports, preview_showsItsFirstPageAndCountsTheRest) {

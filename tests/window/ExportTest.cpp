@@ -8,6 +8,7 @@
 #include "export/OdsDocument.h"
 #include "files/Machine.h"
 #include "parish/Insert.h"
+#include "window/ChosenRows.h"
 #include "window/ListExport.h"
 #include "window/OpenWindow.h"
 #include "window/RowsFilter.h"
@@ -221,6 +222,28 @@ TEST_F(SavedList, IsWhatIsShown) {
   EXPECT_THAT(texts(readList(view)), ElementsAre("[Sacristán]"));
   window->showNode("Partidas");
   EXPECT_FALSE(window->action("guardar-lista")->isEnabled()) << "a folder has no list";
+}
+
+TEST_F(SavedList, OfSeveralChosen_IsTheirsAndWhatIsOfOneRowIsNotGiven) {
+  QTableView& view = window->table();
+  view.horizontalHeader()->moveSection(1, 0);
+  view.sortByColumn(0, Qt::DescendingOrder);
+  view.setFocus();
+  chooseOnly(view, 0);
+  QTest::keyClick(&view, Qt::Key_Down, Qt::ShiftModifier);
+  EXPECT_THAT(texts(readList(view, Extent::Chosen)),
+              ElementsAre("[Abre y cierra.\r\nToca.][Sacristán]", "[=2+2][Organista]"));
+  EXPECT_TRUE(window->statusBar()->findChild<QLabel*>()->text().contains("2 filas elegidas"));
+  for (const char* ofOne : {"propiedades-cargo", "eliminar-cargo"})
+    EXPECT_FALSE(window->action(ofOne)->isEnabled()) << ofOne;
+  EXPECT_TRUE(window->action("guardar-elegidas")->isEnabled());
+  give("actualizar");
+  EXPECT_EQ(readList(view, Extent::Chosen).count, 2u) << "they stay chosen";
+  QTest::keyClick(&view, Qt::Key_A, Qt::ControlModifier);
+  EXPECT_EQ(readList(view, Extent::Chosen).count, 3u);
+  chooseOnly(view, 1);
+  EXPECT_TRUE(window->action("eliminar-cargo")->isEnabled());
+  EXPECT_FALSE(window->action("guardar-elegidas")->isEnabled());
 }
 
 TEST_F(SavedList, NumbersAndDates_AreWhatTheyAre) {

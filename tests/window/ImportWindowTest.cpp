@@ -2,7 +2,7 @@
 #include "dbase/LegacyTable.h"
 #include "window/CopiesFixture.h"
 #include "window/ImportDialog.h"
-#include "window/ImportReport.h"
+#include "window/OutcomeReport.h"
 
 namespace fidaleon::app {
 namespace {
@@ -10,7 +10,7 @@ namespace {
 /// Reads the report when it is shown, and closes it.
 void readReport(QString& text) {
   QTimer::singleShot(0, [&text] {
-    auto* report = qobject_cast<ImportReport*>(QApplication::activeModalWidget());
+    auto* report = qobject_cast<OutcomeReport*>(QApplication::activeModalWidget());
     if (report == nullptr) return readReport(text);
     text = report->findChild<QPlainTextEdit*>()->toPlainText();
     report->accept();

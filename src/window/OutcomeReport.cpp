@@ -1,4 +1,4 @@
-#include "window/ImportReport.h"
+#include "window/OutcomeReport.h"
 
 #include <QDialogButtonBox>
 #include <QFileDialog>
@@ -17,9 +17,10 @@
 
 namespace fidaleon::app {
 
-ImportReport::ImportReport(const std::string& text, const QString& saved, QWidget* parent)
-    : QDialog(parent), text_(text) {
-  setWindowTitle(tr("Informe de la importación"));
+OutcomeReport::OutcomeReport(const QString& title, const std::string& text, QString file,
+                             QWidget* parent, const QString& saved)
+    : QDialog(parent), text_(text), file_(std::move(file)) {
+  setWindowTitle(title);
   auto* layout = new QVBoxLayout(this);
   auto* view = new QPlainTextEdit(QString::fromStdString(text), this);
   view->setReadOnly(true);
@@ -43,7 +44,7 @@ ImportReport::ImportReport(const std::string& text, const QString& saved, QWidge
   qt::resizeWithin(*this, {qt::charsWidth(*this, 100), 480});
 }
 
-void ImportReport::print() {
+void OutcomeReport::print() {
   const auto run = std::make_shared<LongRun>();
   paper::ReportOptions options;
   options.composition = paper::ReportOptions::Composition::AsNeeded;
@@ -56,9 +57,9 @@ void ImportReport::print() {
   }
 }
 
-void ImportReport::save() {
-  const QString file = QFileDialog::getSaveFileName(this, tr("Guardar el informe"),
-                                                    "importacion.txt", tr("Textos (*.txt)"));
+void OutcomeReport::save() {
+  const QString file =
+      QFileDialog::getSaveFileName(this, tr("Guardar el informe"), file_, tr("Textos (*.txt)"));
   if (file.isEmpty()) return;
   try {
     files::replace(file.toStdString(), text_);
