@@ -95,7 +95,7 @@ class FileEach : public Outlet {
         QObject::tr("En la carpeta ya está «%1».\n\n¿Desea conservar los que ya están y "
                     "guardar los nuevos con un número detrás, o sustituirlos?")
             .arg(QString::fromStdString(file.filename().string())),
-        QMessageBox::NoButton, QApplication::activeModalWidget());
+        QMessageBox::NoButton, QApplication::activeWindow());
     auto* keep = box.addButton(QObject::tr("&Conservar"), QMessageBox::AcceptRole);
     auto* replace = box.addButton(QObject::tr("&Sustituir"), QMessageBox::DestructiveRole);
     box.setEscapeButton(box.addButton(QObject::tr("C&ancelar"), QMessageBox::RejectRole));
