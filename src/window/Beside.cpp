@@ -108,9 +108,10 @@ void runBeside(QWidget* over, const QString& what, MayCancel mayCancel,
   };
   std::future<void> ended = std::async(std::launch::async, [&] { work(progress); });
   if (ended.wait_for(QUIET) != std::future_status::ready) {
-    Dialog dialog(over, what, mayCancel, 1000);
+    Dialog dialog(over, what, mayCancel, 0);  // how much there is to do may never be told
     showUntil(dialog, [&] {
-      dialog.setValue(done);
+      if (done > 0) dialog.setMaximum(1000);
+      if (done > 0) dialog.setValue(done);
       if (const QString words = now ? now() : QString(); !words.isEmpty())
         dialog.setLabelText(words);
       if (dialog.wasCanceled()) wanted = false;
