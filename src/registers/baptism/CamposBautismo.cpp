@@ -81,6 +81,9 @@ frmPartidaBautismo::frmPartidaBautismo(Contexto& contexto)
     deHoy(txtPartida[nuestro]);
   heredar(NombrePadre, PrimerApellidoPadre, PrimerApellidoHijo);
   heredar(NombreMadre, PrimerApellidoMadre, SegundoApellidoHijo, NombrePadre);
+  deCadaUno(cboPartida[Sexo]);
+  deCadaUno(adtpPartida[FechaNac]);
+  deCadaUno(txtHoraNac);
   for (const TextoSC suyo : {EdadPadrino, EdadMadrina}) deCadaUno(txtSC[suyo]);
   disponer(paginas());
 }

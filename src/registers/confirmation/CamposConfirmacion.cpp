@@ -75,6 +75,7 @@ frmPartidaConfirmacion::frmPartidaConfirmacion(Contexto& contexto)
   for (const Texto comun : {Parroquia, Diocesis, Ministro, CargoMinistro}) serie(txtPartida[comun]);
   for (const Texto suyo : {Nombre, Padrino, Observaciones, NotasMarginales})
     deCadaUno(txtPartida[suyo]);
+  for (const Fecha suya : {FechaNac, FechaBaut}) deCadaUno(adtpPartida[suya]);
   for (const Texto nuestro : {Email, Telefono}) deHoy(txtPartida[nuestro]);
   disponer(paginas());
 }

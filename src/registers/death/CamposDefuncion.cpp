@@ -63,7 +63,11 @@ frmPartidaDefuncion::frmPartidaDefuncion(Contexto& contexto)
   revision().enEsteOrden(adtpPartida[FechaDefuncion], adtpPartida[FechaInhumacion]);
   proponerProgenitor(PrimerApellido, NombrePadre);
   proponerProgenitor(SegundoApellido, NombreMadre);
-  for (const Texto suyo : {Nombre, Observaciones, NotasMarginales}) deCadaUno(txtPartida[suyo]);
+  for (const Texto suyo :
+       {Nombre, Consorte, Causa, Edad, NumeroHijos, NombresHijos, Observaciones, NotasMarginales})
+    deCadaUno(txtPartida[suyo]);
+  for (const Fecha suya : {FechaDefuncion, FechaInhumacion}) deCadaUno(adtpPartida[suya]);
+  deCadaUno(txtHoraDefuncion);
   cmdPartida[ACEPTAR].setCaption("&ACEPTAR");
   cmdPartida[CANCELAR].setCaption("&CANCELAR");
   disponer(paginas());

@@ -74,6 +74,8 @@ frmPartidaMatrimonio::frmPartidaMatrimonio(Contexto& contexto)
     for (const Texto queda : {Edad, Religion, ParroquiaBaut, DiocesisBaut, MunicipioInscrito})
       serie(txtPartida[c + queda]);
     deCadaUno(txtPartida[c + Nombre]);
+    for (const Fecha suya : {FechaNac, FechaBaut, FechaConfirmacion})
+      deCadaUno(adtpPartida[c + suya]);
     for (const Texto nuestro : {DNI, Email, Telefono}) deHoy(txtPartida[c + nuestro]);
   }
   for (const Texto queda : {DNI, Parroquia, Diocesis, Celebrante, ExpedInst, NihilObstat,
