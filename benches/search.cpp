@@ -140,7 +140,8 @@ std::vector<std::string> variants(const std::string& name, const std::string& fi
 }
 
 void recall(store::Connection& connection, Searcher& searcher, int entries) {
-  int asked = 0, found = 0, first = 0;
+  int asked = 0, found = 0, first = 0, shownHits = 0, ofThatName = 0, exact = 0,
+      exactOfThatName = 0;
   for (int i = 1; i <= 150; ++i) {
     const std::int32_t key = 1 + static_cast<int>(i * 7919LL % entries);
     search::readKeys(
@@ -159,15 +160,24 @@ void recall(store::Connection& connection, Searcher& searcher, int entries) {
             found += std::any_of(answer.hits.begin(), answer.hits.end(),
                                  [&](const auto& h) { return h.key == key; });
             first += !answer.hits.empty() && answer.hits.front().name == name;
+            for (const search::Hit& hit : answer.hits) {
+              const bool his = hit.name == name;
+              ++shownHits;
+              ofThatName += his;
+              exact += hit.exact;
+              exactOfThatName += hit.exact && his;
+            }
           }
         });
   }
-  const auto share = [asked](const char* what, int n, double aim) {
-    const double percent = 100.0 * n / asked;
+  const auto share = [](const char* what, int n, int of, double aim) {
+    const double percent = of == 0 ? 0 : 100.0 * n / of;
     line(what, shown(percent, " %"), "-", "-", ">= " + shown(aim, " %"), percent >= aim);
   };
-  share("búsqueda: variantes que llevan a su partida", found, 98);
-  share("búsqueda: variantes con su nombre en el primer lugar", first, 95);
+  share("búsqueda: variantes que llevan a su partida", found, asked, 98);
+  share("búsqueda: variantes con su nombre en el primer lugar", first, asked, 95);
+  share("búsqueda: aciertos de ese nombre entre los que se enseñan", ofThatName, shownHits, 50);
+  share("búsqueda: de ese nombre entre los exactos", exactOfThatName, exact, 99);
 }
 
 void asOneTypes(Searcher& searcher, const std::string& size) {

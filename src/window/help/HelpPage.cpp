@@ -119,6 +119,7 @@ void HelpPage::fitPictures() {
       QTextImageFormat picture = part.fragment().charFormat().toImageFormat();
       if (!picture.isValid()) continue;
       const QString file = source().resolved(QUrl(picture.name())).toLocalFile();
+      if (file.isEmpty()) continue;  // of no chapter that stands in a file
       const QSize natural = QImageReader(file).size();
       if (natural.isEmpty()) continue;
       const double width = std::min<double>(natural.width(), std::max(100.0, room));
