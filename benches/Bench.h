@@ -10,20 +10,31 @@
 
 namespace fidaleon::bench {
 
-/// Processor time of this program in milliseconds: what other programs do does not count.
-inline double now() {
+inline double millisecondsOf(clockid_t clock) {
   timespec t{};
-  clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &t);
+  clock_gettime(clock, &t);
   return static_cast<double>(t.tv_sec) * 1e3 + static_cast<double>(t.tv_nsec) / 1e6;
 }
 
+/// Processor time of this program in milliseconds: what other programs do does not count.
+inline double now() {
+  return millisecondsOf(CLOCK_PROCESS_CPUTIME_ID);
+}
+
+/// The same by the clock, where something is waited for that costs no processor time here.
+inline double wall() {
+  return millisecondsOf(CLOCK_MONOTONIC);
+}
+
+using Time = double (*)();
+
 /// The fastest of `runs` runs, in milliseconds.
-inline double milliseconds(int runs, const std::function<void()>& work) {
+inline double milliseconds(int runs, const std::function<void()>& work, Time time = now) {
   double best = 1e300;
   for (int i = 0; i < runs; ++i) {
-    const double start = now();
+    const double start = time();
     work();
-    best = std::min(best, now() - start);
+    best = std::min(best, time() - start);
   }
   return best;
 }
@@ -34,12 +45,12 @@ struct Pair {
   double limit = 1e300;
 };
 
-inline Pair inTurn(int runs, const std::function<void()>& ours,
-                   const std::function<void()>& limit) {
+inline Pair inTurn(int runs, const std::function<void()>& ours, const std::function<void()>& limit,
+                   Time time = now) {
   Pair pair;
   for (int i = 0; i < runs; ++i) {
-    pair.limit = std::min(pair.limit, milliseconds(1, limit));
-    pair.ours = std::min(pair.ours, milliseconds(1, ours));
+    pair.limit = std::min(pair.limit, milliseconds(1, limit, time));
+    pair.ours = std::min(pair.ours, milliseconds(1, ours, time));
   }
   return pair;
 }

@@ -11,16 +11,19 @@
 
 namespace fidaleon::bench {
 
-/// `entries` of a register in books of at most `perBook`, one on a folio. Keys count from 1.
+/// `entries` of a register in books of at most `perBook`, one on a folio, the books in turn of as
+/// many parishes. Keys count from 1.
 class FilledRegister {
  public:
-  FilledRegister(store::Connection& connection, const FormaPartida& form, int entries, int perBook)
+  FilledRegister(store::Connection& connection, const FormaPartida& form, int entries, int perBook,
+                 int parishes = 1)
       : connection_(connection), form_(form), perBook_(std::to_string(perBook)) {
     const int books = 1 + (entries - 1) / perBook;
     store::Transaction together(connection);
     for (int b = 1; b <= books; ++b)
       insertarLibro(connection, form.sacramento,
-                    {1, 3, 4, "L" + std::to_string(b), std::to_string(19000101 + b), true});
+                    {1 + (b - 1) % parishes, 3, 4, "L" + std::to_string(b),
+                     std::to_string(19000101 + b), true});
     connection.Execute(sentencia(form.sacramento,
                                  "UPDATE {Libros} SET Cerrado=true WHERE "
                                  "{IDLibro}<") +
@@ -32,16 +35,17 @@ class FilledRegister {
  private:
   void fill(const store::Table& table, int rows) {
     std::string names, values;
+    const store::Spelling& spell = connection_.engine().spelling();
     for (const store::Column& c : table.columns()) {
       if (c.type == store::Type::Counter) continue;
-      names += (names.empty() ? "" : ", ") + c.name;
+      names += (names.empty() ? "" : ", ") + spell.name(c.name);
       values += (values.empty() ? "" : ", ") + valueOf(c);
     }
     connection_.engine().run(
-        "WITH RECURSIVE c(n) AS (SELECT 1 UNION ALL SELECT n + 1 FROM c WHERE "
+        "WITH RECURSIVE c(n) AS (SELECT CAST(1 AS BIGINT) UNION ALL SELECT n + 1 FROM c WHERE "
         "n < " +
-        std::to_string(rows) + ") INSERT INTO " + table.name() + " (" + names + ") SELECT " +
-        values + " FROM c");
+        std::to_string(rows) + ") INSERT INTO " + spell.name(table.name()) + " (" + names +
+        ") SELECT " + values + " FROM c");
   }
 
   std::string valueOf(const store::Column& c) const {
@@ -51,10 +55,14 @@ class FilledRegister {
     if (c.name == "Numero") return "CAST(1 + " + place + " AS TEXT)";
     if (c.name.starts_with("Fecha")) return "CAST(19000101 + n * 7919 % 1200000 AS TEXT)";
     if (c.name.find("Apellido") != std::string::npos)
-      return "char(65 + n * 7 % 26) || 'a' || char(97 + n * 11 % 26) || 'ez'";
+      return letter("n * 7") + " || 'a' || lower(" + letter("n * 11") + ") || 'ez'";
     for (const FilaDePartida& row : form_.filas)
       if (c.name == row.enlace || c.name == row.clave) return "n";
     return store::isText(c.type) ? "'---'" : "0";
+  }
+
+  static std::string letter(const std::string& number) {
+    return "substr('ABCDEFGHIJKLMNOPQRSTUVWXYZ', 1 + CAST(" + number + " % 26 AS INTEGER), 1)";
   }
 
   store::Connection& connection_;

@@ -1,6 +1,7 @@
-// rooms: locks support
+// rooms: locks store support
 // Lock sessions: that of one command beside the bare system calls, one that holds thousands, and
-// one among a hundred.
+// one among a hundred; in a folder, and on a server, where what is waited for counts by the clock
+// and a session of one command is two journeys.
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -15,7 +16,9 @@
 #include "forms/ScriptedUser.h"
 #include "locks/OfdLock.h"
 #include "locks/ProcesarBloqueos.h"
+#include "locks/ServerMeeting.h"
 #include "support/Clocks.h"
+#include "tests/support/PostgresCluster.h"
 
 namespace {
 
@@ -27,14 +30,16 @@ constexpr int DESKS = 100;
 
 using Session = std::unique_ptr<locks::ProcesarBloqueos>;
 
-/// A directory with a scripted user at each desk.
+/// A place to meet with a scripted user at each desk.
 struct Office {
+  explicit Office(locks::Meet where = locks::meetingAt) : meet(std::move(where)) {}
   Session open() {
-    auto session = std::make_unique<locks::ProcesarBloqueos>(user, clock, "ana", "despacho");
+    auto session = std::make_unique<locks::ProcesarBloqueos>(user, clock, "ana", "despacho", meet);
     session->Inicializar(folder.path().string());
     return session;
   }
   bench::Folder folder;
+  locks::Meet meet;
   forms::ScriptedUser user;
   support::FixedClock clock{text::Date{2026, 11, 22}};
 };
@@ -86,37 +91,78 @@ void bareSession(const std::filesystem::path& directory) {
   std::filesystem::remove(directory / "propio");
 }
 
-}  // namespace
+/// What each of them costs, and what it may, in milliseconds.
+struct Aims {
+  double atOnce, amongMany, besideThousands;
+};
 
-int main() {
-  Office office;
-  const auto commands = [&](int rounds) {
-    for (int i = 0; i < rounds; ++i) commandSession(office, "Bautismo");
+void measure(Office& office, const std::string& where, bench::Time time, const Aims& aims) {
+  const auto one = [&] { commandSession(office, "Confirmacion"); };
+  const auto oneByOne = [&](int entries) {
+    return bench::milliseconds(
+        2, [&] { takeMany(office, entries, false); }, time);
   };
-  bench::ratio("2.000 sesiones de bloqueo de una orden",
-               bench::inTurn(
-                   5, [&] { commands(ROUNDS); },
-                   [&] {
-                     for (int i = 0; i < ROUNDS; ++i) bareSession(office.folder.path());
-                   }),
-               3);
-  bench::within("10.000 bloqueos de una vez",
-                bench::milliseconds(5, [&] { takeMany(office, MANY, true); }), 10);
-  bench::growth("cada bloqueo de 10.000 uno a uno, frente a 1.000",
-                bench::milliseconds(1, [&] { takeMany(office, MANY, false); }),
-                bench::milliseconds(1, [&] { takeMany(office, MANY / 10, false); }) * 10, 1.5);
+  bench::within("10.000 bloqueos de una vez" + where,
+                bench::milliseconds(
+                    5, [&] { takeMany(office, MANY, true); }, time),
+                aims.atOnce);
+  bench::growth("cada bloqueo de 10.000 uno a uno, frente a 1.000" + where, oneByOne(MANY),
+                oneByOne(MANY / 10) * 10, 1.5);
   std::vector<Session> desks;
   for (int i = 0; i < DESKS; ++i) {
     desks.push_back(office.open());
     define(*desks.back(), "mesa" + std::to_string(i));
     take(*desks.back());
   }
-  bench::within("una orden entre 100 sesiones",
-                bench::milliseconds(5, [&] { commandSession(office, "Confirmacion"); }), 5);
+  bench::within("una orden entre 100 sesiones" + where, bench::milliseconds(5, one, time),
+                aims.amongMany);
   desks.push_back(office.open());
   for (int i = 1; i <= MANY; ++i) define(*desks.back(), std::to_string(i));
   take(*desks.back());
-  bench::within("una orden junto a quien tiene 10.000",
-                bench::milliseconds(5, [&] { commandSession(office, "Confirmacion"); }), 10);
+  bench::within("una orden junto a quien tiene 10.000" + where, bench::milliseconds(5, one, time),
+                aims.besideThousands);
+}
+
+/// What any such session must do: store its locks and take them away again.
+void bareServerSession(store::Link& link) {
+  link.ask(
+      "INSERT INTO bloqueos SELECT 0, 0, 'T', 'tabla' || n, '', '' FROM generate_series(1, 4) n");
+  link.ask("DELETE FROM bloqueos WHERE puesto = 0");
+}
+
+}  // namespace
+
+int main() {
+  Office office;
+  const auto commands = [&](Office& at, int rounds) {
+    for (int i = 0; i < rounds; ++i) commandSession(at, "Bautismo");
+  };
+  bench::ratio("2.000 sesiones de bloqueo de una orden",
+               bench::inTurn(
+                   5, [&] { commands(office, ROUNDS); },
+                   [&] {
+                     for (int i = 0; i < ROUNDS; ++i) bareSession(office.folder.path());
+                   }),
+               3);
+  measure(office, "", bench::now, {10, 5, 10});
+
+  const tests::PostgresDatabase database;
+  const auto seat = std::make_shared<locks::Seat>(database.address());
+  Office onServer([&](const auto&) { return std::make_unique<locks::ServerMeeting>(seat); });
+  store::Link bare(database.address());
+  bench::ratio("2.000 sesiones de bloqueo de una orden, en el servidor",
+               bench::inTurn(
+                   5, [&] { commands(onServer, ROUNDS); },
+                   [&] {
+                     for (int i = 0; i < ROUNDS; ++i) bareServerSession(bare);
+                   },
+                   bench::wall),
+               3);
+  const auto before = seat->journeys();
+  commands(onServer, 1);
+  const auto journeys = seat->journeys() - before;
+  bench::line("viajes al servidor de una sesión de bloqueo", std::to_string(journeys), "-", "-",
+              "<= 2", journeys <= 2);
+  measure(onServer, ", en el servidor", bench::wall, {150, 10, 10});
   return 0;
 }

@@ -244,12 +244,6 @@ struct Desk : Server {
   int entered = 0;
 };
 
-double wall() {
-  timespec t{};
-  clock_gettime(CLOCK_MONOTONIC, &t);
-  return static_cast<double>(t.tv_sec) * 1e3 + static_cast<double>(t.tv_nsec) / 1e6;
-}
-
 /// By the clock: what is waited for costs no processor time.
 void measureJourneys() {
   Desk desk(1000);
@@ -263,10 +257,10 @@ void measureJourneys() {
                 aim > 0 ? "<= " + bench::shown(aim, "") : "-", aim <= 0 || taken <= aim);
     for (const int delay : {1, 20}) {
       desk.relay.setDelay(std::chrono::milliseconds(delay));
-      before = wall();
+      before = bench::wall();
       work();
       bench::line(what + ", red de " + std::to_string(delay) + " ms",
-                  bench::shown(wall() - before, " ms"), "-", "-", "-", true);
+                  bench::shown(bench::wall() - before, " ms"), "-", "-", "-", true);
     }
     desk.relay.setDelay({});
   };

@@ -21,7 +21,8 @@ constexpr std::int64_t NEVER = -2;  // no desk has this turn
 /// How the link behaves: waits for the guard as long as the patience lasts, sees at once that the
 /// program is gone, and leaves it to the server when a list reaches its disk.
 constexpr const char* MANNERS =
-    ", set_config('lock_timeout', $1, false), set_config('synchronous_commit', 'off', false), "
+    ", set_config('lock_timeout', $1 || 'ms', false), set_config('synchronous_commit', 'off', "
+    "false), "
     "set_config('client_connection_check_interval', '500ms', false)";
 
 /// Texts as the server reads a list of them.
@@ -90,8 +91,7 @@ bool isLostLink(const Error& error) {
 
 Seat::Seat(const store::ServerAddress& address, const std::string& password,
            std::chrono::milliseconds patience)
-    : patience_(std::to_string(patience.count()) + "ms"),
-      link_(address, password, "Fidaleon (" + hostName() + ", bloqueos)") {
+    : patience_(patience), link_(address, password, "Fidaleon (" + hostName() + ", bloqueos)") {
   arrive();
 }
 
@@ -105,13 +105,14 @@ Seat::~Seat() {
 
 void Seat::arrive() {
   const std::string sql = std::string("SELECT bloqueos_llegar()") + MANNERS;
+  const std::string patience = std::to_string(patience_.count());
   store::Answer answer;
   try {
-    answer = link_.ask(sql, {patience_});
+    answer = link_.ask(sql, {patience});
   } catch (const Error& e) {
     if (e.number() != NO_SUCH_FUNCTION) throw;
     prepareServer(link_);
-    answer = link_.ask(sql, {patience_});
+    answer = link_.ask(sql, {patience});
   }
   desk_ = answer.text(0, 0);
   turn_ = 0;
@@ -130,7 +131,8 @@ void Seat::comeBack(bool byNewLink) {
   turn_ += 2;
   const bool isKnown = link_
                            .ask(std::string("SELECT bloqueos_volver($2, $3, $4)") + MANNERS,
-                                {patience_, desk_, std::to_string(turn_), "{" + sessions + "}"})
+                                {std::to_string(patience_.count()), desk_, std::to_string(turn_),
+                                 "{" + sessions + "}"})
                            .text(0, 0) == "t";
   if (!isKnown) arrive();
   for (auto& [number, list] : lists_) regain(number, list, isKnown);
@@ -228,13 +230,9 @@ std::optional<MeetingPlace::Clash> Seat::take(int session, const LockSet& wanted
   const std::scoped_lock alone(mutex_);
   requireOpen();
   List& list = lists_.at(session);
-  const auto values = columns(wanted, more);
-  const store::Answer answer = carryOut([&] {
-    requireHeld(list);
-    std::vector<std::string> rest = values;
-    rest.insert(rest.begin(), std::to_string(turn_));
-    return ask("bloqueos_tomar", session, rest);
-  });
+  const auto now = Watch::now();
+  const store::Answer answer =
+      inLine(list, session, columns(wanted, more), more ? now + std::min(patience_, IN_LINE) : now);
   if (answer.rows() > 0) {
     const auto held = decode(answer.text(0, 1));
     const auto place = static_cast<std::size_t>(answer.integer(0, 0) - 1);
@@ -245,6 +243,32 @@ std::optional<MeetingPlace::Clash> Seat::take(int session, const LockSet& wanted
   ++turn_;
   list.held.insert(list.held.end(), more->begin(), more->end());
   return std::nullopt;
+}
+
+store::Answer Seat::inLine(List& list, int session, const std::vector<std::string>& values,
+                           Watch::time_point until) {
+  for (;;) {
+    const auto left = std::max(std::chrono::ceil<std::chrono::milliseconds>(until - Watch::now()),
+                               std::chrono::milliseconds(0));
+    store::Answer answer = carryOut([&] {
+      requireHeld(list);
+      std::vector<std::string> rest{std::to_string(turn_), std::to_string(left.count())};
+      rest.insert(rest.end(), values.begin(), values.end());
+      return ask("bloqueos_tomar", session, rest);
+    });
+    const bool byAnother = answer.rows() > 0 && answer.text(0, 2) == "t";
+    if (!byAnother || left.count() == 0) return answer;
+    waitForCall(left);
+  }
+}
+
+void Seat::waitForCall(std::chrono::milliseconds most) {
+  try {
+    // It may have come with the last answer.
+    if (link_.notices().empty() && link_.wait(most)) link_.notices();
+  } catch (const Error&) {
+    // Whoever asks next comes back.
+  }
 }
 
 void Seat::put(int session, const Entries& entries) {

@@ -28,6 +28,8 @@ namespace fidaleon::locks {
 class Seat final : public store::Fence {
  public:
   static constexpr std::chrono::milliseconds PATIENCE{5000};
+  /// Nobody notices that a refusal takes this long.
+  static constexpr std::chrono::milliseconds IN_LINE{250};
   /// Throws store::Error where the server cannot be entered.
   explicit Seat(const store::ServerAddress& address, const std::string& password = {},
                 std::chrono::milliseconds patience = PATIENCE);
@@ -39,7 +41,8 @@ class Seat final : public store::Fence {
   /// The number of a new session, with an empty list.
   int open();
   void close(int session) noexcept;
-  /// As MeetingPlace has them. Without `more` it is only asked.
+  /// As MeetingPlace has them. Without `more` it is only asked. What another desk has is waited for
+  /// a moment, in the order in which the desks came.
   std::optional<MeetingPlace::Clash> take(int session, const LockSet& wanted, const Entries* more);
   void publish(int session, const Entries& entries);
   /// The same for one that is lost by nothing: it is listed again when the program comes back.
@@ -63,6 +66,11 @@ class Seat final : public store::Fence {
     bool isLost = false;
   };
   using Step = std::function<store::Answer()>;
+  using Watch = std::chrono::steady_clock;
+  /// The answer of the server; when another desk stands in the way it was waited for until then.
+  store::Answer inLine(List& list, int session, const std::vector<std::string>& values,
+                       Watch::time_point until);
+  void waitForCall(std::chrono::milliseconds most);
 
   void arrive();
   void comeBack(bool byNewLink);
@@ -78,7 +86,7 @@ class Seat final : public store::Fence {
   void put(int session, const Entries& entries);
 
   std::recursive_mutex mutex_;
-  std::string patience_;
+  std::chrono::milliseconds patience_;
   store::Link link_;
   int generation_ = -1;  // of the link on which the server was told who this is
   std::string desk_;     // its number there

@@ -25,7 +25,17 @@ CREATE TABLE IF NOT EXISTS bloqueos (
 CREATE INDEX IF NOT EXISTS bloqueos_donde ON bloqueos (tabla, registro);
 CREATE INDEX IF NOT EXISTS bloqueos_de ON bloqueos (puesto, sesion);
 CREATE TABLE IF NOT EXISTS bloqueos_aviso (linea text NOT NULL);
-GRANT SELECT, INSERT, UPDATE, DELETE ON bloqueos, bloqueos_puesto, bloqueos_aviso TO PUBLIC;
+CREATE UNLOGGED TABLE IF NOT EXISTS bloqueos_espera (
+  puesto integer PRIMARY KEY,
+  sesion integer NOT NULL,
+  clase text COLLATE "C" NOT NULL,
+  tabla text COLLATE "C" NOT NULL,
+  registro text COLLATE "C" NOT NULL,
+  linea text COLLATE "C" NOT NULL,
+  desde timestamptz NOT NULL DEFAULT clock_timestamp(),
+  hasta timestamptz NOT NULL);
+GRANT SELECT, INSERT, UPDATE, DELETE
+  ON bloqueos, bloqueos_puesto, bloqueos_aviso, bloqueos_espera TO PUBLIC;
 )";
 
 constexpr const char* COMING = R"(
@@ -36,13 +46,16 @@ BEGIN
   DELETE FROM bloqueos_puesto x
     WHERE x.visto < now() - interval '7 days' AND pg_try_advisory_xact_lock(1331, x.puesto);
   DELETE FROM bloqueos b WHERE NOT EXISTS (SELECT FROM bloqueos_puesto x WHERE x.puesto = b.puesto);
+  DELETE FROM bloqueos_espera w WHERE w.hasta < now() - interval '1 minute';
   INSERT INTO bloqueos_puesto DEFAULT VALUES RETURNING puesto INTO p;
   PERFORM pg_advisory_lock_shared(1331, p);
+  EXECUTE 'LISTEN bloqueos_' || p;
   RETURN p;
 END $$;
 
 CREATE OR REPLACE FUNCTION bloqueos_irse(p integer) RETURNS void LANGUAGE sql AS $$
   DELETE FROM bloqueos WHERE puesto = p;
+  DELETE FROM bloqueos_espera WHERE puesto = p;
   DELETE FROM bloqueos_puesto WHERE puesto = p;
 $$;
 )";
@@ -86,6 +99,52 @@ RETURNS TABLE (lugar bigint, puesto integer, fila tid, linea text) LANGUAGE sql 
 $$;
 )";
 
+// Desks that are refused wait in line for a moment. Who asks again soon has kept its place, and
+// what is given back goes to the first of those who wait right then: who is away keeps nobody out,
+// and who could not have it yet keeps nobody from anything else.
+constexpr const char* IN_LINE = R"(
+CREATE OR REPLACE FUNCTION bloqueos_ponerse(p integer, s integer, c text, t text, r text, l text,
+                                            plazo integer)
+RETURNS void LANGUAGE sql AS $$
+  INSERT INTO bloqueos_espera AS w (puesto, sesion, clase, tabla, registro, linea, hasta)
+    VALUES (p, s, c, t, r, l, clock_timestamp() + plazo * interval '1 ms')
+  ON CONFLICT (puesto) DO UPDATE
+    SET sesion = s, clase = c, tabla = t, registro = r, linea = l, hasta = EXCLUDED.hasta,
+        desde = CASE WHEN (w.clase, w.tabla, w.registro) = (c, t, r)
+                          AND w.hasta > clock_timestamp() - interval '10 s'
+                     THEN w.desde ELSE EXCLUDED.desde END
+$$;
+
+CREATE OR REPLACE FUNCTION bloqueos_antes(p integer, clases text[], tablas text[],
+                                          registros text[])
+RETURNS TABLE (lugar bigint, puesto integer, linea text) LANGUAGE plpgsql AS $$
+DECLARE
+  e record;
+BEGIN
+  FOR e IN SELECT w.*, u.lugar
+    FROM bloqueos_espera w
+    JOIN unnest(clases, tablas, registros) WITH ORDINALITY AS u(clase, tabla, registro, lugar)
+      ON u.tabla = w.tabla AND (u.clase = 'T' OR w.clase = 'T'
+        OR u.registro = w.registro AND u.clase IN ('R', 'r') AND w.clase IN ('R', 'r')
+          AND (u.clase = 'R' OR w.clase = 'R'))
+    WHERE w.puesto <> p AND w.hasta > clock_timestamp()
+      AND w.desde < coalesce((SELECT x.desde FROM bloqueos_espera x
+                              WHERE x.puesto = p AND x.hasta > clock_timestamp() - interval '10 s'),
+                             'infinity')
+    ORDER BY w.desde, u.lugar
+  LOOP
+    IF NOT EXISTS (SELECT FROM bloqueos_estorbos(e.puesto, e.sesion, ARRAY[e.clase],
+                                                 ARRAY[e.tabla], ARRAY[e.registro])) THEN
+      lugar := e.lugar;
+      puesto := e.puesto;
+      linea := e.linea;
+      RETURN NEXT;
+      RETURN;
+    END IF;
+  END LOOP;
+END $$;
+)";
+
 // What is listed already comes without a line; without any line it is only asked. The dead keep
 // nobody out, and learn it when they come back. The server never knows how many rows there are, and
 // would rather read them all than use the index.
@@ -102,9 +161,10 @@ BEGIN
     WHERE u.linea IS NOT NULL;
 END $$;
 
-CREATE OR REPLACE FUNCTION bloqueos_tomar(p integer, s integer, t bigint, clases text[],
-                                          tablas text[], registros text[], lineas text[])
-RETURNS TABLE (lugar bigint, linea text) LANGUAGE plpgsql
+CREATE OR REPLACE FUNCTION bloqueos_tomar(p integer, s integer, t bigint, plazo integer,
+                                          clases text[], tablas text[], registros text[],
+                                          lineas text[])
+RETURNS TABLE (lugar bigint, linea text, espera boolean) LANGUAGE plpgsql
 SET enable_seqscan = off SET enable_hashjoin = off SET enable_mergejoin = off AS $$
 DECLARE
   e record;
@@ -119,11 +179,30 @@ BEGIN
     ELSE
       lugar := e.lugar;
       linea := e.linea;
-      RETURN NEXT;
-      RETURN;
+      espera := e.puesto <> p;
+      EXIT;
     END IF;
   END LOOP;
+  IF lugar IS NULL AND cardinality(lineas) > 0
+      AND EXISTS (SELECT FROM bloqueos_espera w WHERE w.hasta > clock_timestamp()) THEN
+    SELECT * INTO e FROM bloqueos_antes(p, clases, tablas, registros);
+    IF FOUND THEN
+      lugar := e.lugar;
+      linea := e.linea;
+      espera := true;
+      PERFORM pg_notify('bloqueos_' || e.puesto, '');
+    END IF;
+  END IF;
+  IF lugar IS NOT NULL THEN
+    IF espera AND cardinality(lineas) > 0 THEN
+      PERFORM bloqueos_ponerse(p, s, clases[lugar], tablas[lugar], registros[lugar],
+                               lineas[lugar], plazo);
+    END IF;
+    RETURN NEXT;
+    RETURN;
+  END IF;
   IF cardinality(lineas) = 0 THEN RETURN; END IF;
+  DELETE FROM bloqueos_espera w WHERE w.puesto = p;
   IF cardinality(muertos) > 0 THEN
     DELETE FROM bloqueos b USING bloqueos_estorbos(p, s, clases, tablas, registros) x
       WHERE b.ctid = x.fila AND x.puesto = ANY (muertos);
@@ -137,6 +216,9 @@ CREATE OR REPLACE FUNCTION bloqueos_poner(p integer, s integer, t bigint, clases
 RETURNS void LANGUAGE plpgsql AS $$
 BEGIN
   DELETE FROM bloqueos WHERE puesto = p AND sesion = s;
+  PERFORM pg_notify('bloqueos_' || x.puesto, '') FROM (
+    SELECT DISTINCT ON (w.tabla, w.registro) w.puesto FROM bloqueos_espera w
+      WHERE w.hasta > clock_timestamp() ORDER BY w.tabla, w.registro, w.desde) x;
   PERFORM bloqueos_anotar(p, s, t, clases, tablas, registros, lineas);
 END $$;
 )";
@@ -174,6 +256,7 @@ CREATE OR REPLACE FUNCTION bloqueos_volver(p integer, t bigint, sesiones integer
 RETURNS boolean LANGUAGE plpgsql AS $$
 BEGIN
   PERFORM pg_advisory_lock_shared(1331, p);
+  EXECUTE 'LISTEN bloqueos_' || p;
   DELETE FROM bloqueos b WHERE b.puesto = p AND b.sesion <> ALL (sesiones);
   UPDATE bloqueos_puesto SET turno = t, visto = now() WHERE puesto = p;
   RETURN FOUND;
@@ -193,7 +276,7 @@ END $$;
 void prepareServer(store::Link& link) {
   link.run(std::string("BEGIN; SELECT pg_advisory_xact_lock(1331, 0); ") +
            "CREATE SCHEMA IF NOT EXISTS fidaleon; " + TABLES + COMING + SHUTTING + IN_THE_WAY +
-           TAKING + LOOKING + KEEPING + "COMMIT");
+           IN_LINE + TAKING + LOOKING + KEEPING + "COMMIT");
 }
 
 }  // namespace fidaleon::locks

@@ -91,6 +91,24 @@ TEST(Server, OverLocksThatAnotherHasTakenMeanwhile_NothingIsStored) {
   EXPECT_EQ(ana.whyNotStored(), "");
 }
 
+TEST(Server, WhatIsGivenBack_GoesToTheFirstOfThoseWhoWait) {
+  Desk ana("ana"), luis("luis"), eva("eva");
+  const auto anaWaitsTill = [](const char* moment) {
+    store::Link(meetingServer()).run(std::string("UPDATE bloqueos_espera SET hasta = ") + moment);
+  };
+  ASSERT_TRUE(eva.take("7"));
+  ASSERT_FALSE(ana.take(""));
+  anaWaitsTill("'infinity'");
+  EXPECT_TRUE(luis.take("8")) << "she could not have it yet";
+  luis.meeting.withdraw();
+  eva.meeting.withdraw();
+  EXPECT_FALSE(luis.take("8"));
+  anaWaitsTill("clock_timestamp()");
+  EXPECT_TRUE(luis.take("8")) << "she is gone";
+  luis.meeting.withdraw();
+  EXPECT_TRUE(ana.take(""));
+}
+
 TEST(Server, WhoWorksAloneWhileADeskIsCutOff_TakesAllThatItHad) {
   Desk ana("ana"), luis("luis");
   ServerMeeting presence(ana.seat);
