@@ -26,10 +26,10 @@ inline double wall() {
   return millisecondsOf(CLOCK_MONOTONIC);
 }
 
-using Time = double (*)();
+using Time = std::function<double()>;
 
 /// The fastest of `runs` runs, in milliseconds.
-inline double milliseconds(int runs, const std::function<void()>& work, Time time = now) {
+inline double milliseconds(int runs, const std::function<void()>& work, const Time& time = now) {
   double best = 1e300;
   for (int i = 0; i < runs; ++i) {
     const double start = time();

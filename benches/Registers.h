@@ -7,6 +7,7 @@
 #include "registers/common/Almacen.h"
 #include "registers/entry/DatosPartida.h"
 #include "store/Engine.h"
+#include "store/Spelling.h"
 #include "store/schema/Schema.h"
 
 namespace fidaleon::bench {

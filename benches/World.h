@@ -1,5 +1,7 @@
 #pragma once
-// A parish file of its own with a scripted user before it, for the measurements.
+// A parish with a scripted user before it, for the measurements; in a file of its own.
+
+#include <functional>
 
 #include "benches/Folder.h"
 #include "core/contract/Contexto.h"
@@ -12,7 +14,12 @@
 namespace fidaleon::bench {
 
 struct World {
-  World() { contexto.gobjConfig = &config; }
+  World() : World([this] { return store::createDatabase(file(), store::parishSchema()); }) {}
+  /// In a database that is made somewhere else.
+  explicit World(const std::function<std::unique_ptr<store::Connection>()>& make)
+      : connection(make()) {
+    contexto.gobjConfig = &config;
+  }
   World(const World&) = delete;
   World& operator=(const World&) = delete;
 
@@ -26,8 +33,7 @@ struct World {
   support::HostSupport host{user, settings, clock, config, "DESPACHO"};
   Entorno entorno{user, host, settings, clock, {}};
   Contexto contexto{entorno};
-  std::unique_ptr<store::Connection> connection =
-      store::createDatabase(file(), store::parishSchema());
+  std::unique_ptr<store::Connection> connection;
 };
 
 }  // namespace fidaleon::bench

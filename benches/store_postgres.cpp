@@ -2,24 +2,16 @@
 // Rows in and out of a server beside the same done by hand against the library, prepared, in one
 // transaction; and how often the server is waited for, with the time that a slow network adds.
 
-#include <fstream>
 #include <vector>
 
 #include "benches/Baptisms.h"
 #include "benches/Bench.h"
-#include "benches/Folder.h"
-#include "core/contract/Contexto.h"
-#include "forms/ScriptedUser.h"
+#include "benches/ServerWorld.h"
 #include "registers/baptism/frmPartidaBautismo.h"
 #include "registers/books/LibroNuevo.h"
 #include "store/Transaction.h"
 #include "store/dialect/LiteralLifter.h"
 #include "store/dialect/Rewriter.h"
-#include "support/Clocks.h"
-#include "support/HostSupport.h"
-#include "support/MemorySettings.h"
-#include "tests/support/NewDatabase.h"
-#include "tests/support/Relay.h"
 
 namespace {
 
@@ -28,25 +20,10 @@ using namespace fidaleon;
 constexpr int kRows = 20000;
 constexpr int kRuns = 5;
 
-/// Processor time of one process in milliseconds.
-double timeOf(int process) {
-  std::ifstream in("/proc/" + std::to_string(process) + "/schedstat");
-  double nanoseconds = 0;
-  in >> nanoseconds;
-  return nanoseconds / 1e6;
-}
-
-/// What this program and its server process take together.
-double together(int server, const std::function<void()>& work) {
-  const double before = bench::now() + timeOf(server);
-  work();
-  return bench::now() + timeOf(server) - before;
-}
-
 class ByHand {
  public:
   explicit ByHand(const store::ServerAddress& address) : link_(address) {
-    server = static_cast<int>(link_.ask("SELECT pg_backend_pid()").integer(0, 0));
+    server = bench::processOf(link_);
   }
   void run(const char* sql) { link_.run(sql); }
   store::Answer prepared(const std::string& sql, const std::vector<const char*>& values) {
@@ -157,50 +134,40 @@ std::vector<Slim> readOurs(store::Connection& connection) {
   return rows;
 }
 
-struct Server {
-  tests::PostgresDatabase database{tests::modelOf(store::parishSchema())};
-  bench::Folder folder;
-  tests::Relay relay{database.address(), folder.path()};
-
-  std::unique_ptr<store::Connection> connection(const store::ServerAddress& address,
-                                                store::PostgresEngine** made) {
-    auto engine = std::make_unique<store::PostgresEngine>(address);
-    *made = engine.get();
-    return std::make_unique<store::Connection>(std::move(engine), store::parishSchema(),
-                                               (folder.path() / "parroquia.mdb").string());
-  }
-};
-
 void measureRows() {
   const std::vector<cBautismo> all = entries();
   const Insertion byHand = insertions(all);
   bench::Pair insert, read;
   for (int run = 0; run < kRuns; ++run) {
-    Server ours, theirs;
-    store::PostgresEngine* engine = nullptr;
-    const auto connection = ours.connection(ours.database.address(), &engine);
-    const int server =
-        static_cast<int>(engine->link().ask("SELECT pg_backend_pid()").integer(0, 0));
+    bench::Server ours, theirs;
+    const auto connection = ours.connect(ours.database.address());
+    const int server = bench::processOf(ours.engine->link());
     ByHand db(theirs.database.address());
-    insert.limit = std::min(insert.limit, together(db.server, [&] { insertByHand(db, byHand); }));
-    insert.ours = std::min(insert.ours, together(server, [&] { insertOurs(*connection, all); }));
+    const auto here = bench::withServer(server), there = bench::withServer(db.server);
+    const auto least = [](double& best, const std::function<void()>& work, const auto& time) {
+      best = std::min(best, bench::milliseconds(1, work, time));
+    };
+    least(
+        insert.limit, [&] { insertByHand(db, byHand); }, there);
+    least(
+        insert.ours, [&] { insertOurs(*connection, all); }, here);
     if (readOurs(*connection) != readByHand(db)) throw std::runtime_error("they differ");
-    read.limit = std::min(read.limit, together(db.server, [&] { readByHand(db); }));
-    read.ours = std::min(read.ours, together(server, [&] { readOurs(*connection); }));
+    least(
+        read.limit, [&] { readByHand(db); }, there);
+    least(
+        read.ours, [&] { readOurs(*connection); }, here);
   }
   bench::ratio("servidor: insertar 20.000 bautismos (programa y servidor)", insert, 1.25);
   bench::ratio("servidor: leer 20.000 bautismos (programa y servidor)", read, 1.3);
 }
 
 /// A desk that enters baptisms through the dialog.
-struct Desk : Server {
-  explicit Desk(int there) {
-    contexto.gobjConfig = &config;
-    parish = connection(relay.address(), &engine);
-    parish->Execute("INSERT INTO Institucion (Nombre) VALUES (\"San Pedro\")");
-    insertarLibro(*parish, BAUTISMO, {1, 3, 4, "L1", "19000101", true});
-    store::Transaction whole(*parish);
-    for (int n = 1; n <= there; ++n) bench::insertBaptism(*parish, n, 1, n);
+struct Desk : bench::ServerWorld {
+  explicit Desk(int there) : ServerWorld(true) {
+    connection->Execute("INSERT INTO Institucion (Nombre) VALUES (\"San Pedro\")");
+    insertarLibro(*connection, BAUTISMO, {1, 3, 4, "L1", "19000101", true});
+    store::Transaction whole(*connection);
+    for (int n = 1; n <= there; ++n) bench::insertBaptism(*connection, n, 1, n);
     whole.commit();
     engine->run("ANALYZE");
     user.answerAnything(forms::Answer::Yes);
@@ -225,22 +192,13 @@ struct Desk : Server {
       d.click("cmdBautismo(1)");
     });
     frmPartidaBautismo dialog(contexto);
-    dialog.conBaseDatos = parish.get();
+    dialog.conBaseDatos = connection.get();
     dialog.Operacion = FDAPI::cCOperacion::ANADIR;
     dialog.Origen = FDAPI::cCOrigen::PRINCIPAL;
     dialog.Show();
     for (const std::string& problem : user.problems()) std::printf("%s\n", problem.c_str());
   }
 
-  FDAPI::cConfig config{"Fidaleon", "", "ana", "Castellano", false};
-  forms::ScriptedUser user;
-  support::MemorySettings settings;
-  support::FixedClock clock{text::Date{2026, 11, 22}, "10:30"};
-  support::HostSupport host{user, settings, clock, config, "DESPACHO"};
-  Entorno entorno{user, host, settings, clock, {}};
-  Contexto contexto{entorno};
-  store::PostgresEngine* engine = nullptr;
-  std::unique_ptr<store::Connection> parish;
   int entered = 0;
 };
 
@@ -266,9 +224,9 @@ void measureJourneys() {
   };
   int n = 2000;
   count(10, "guardar un bautismo con sus cinco filas", [&] {
-    store::Transaction whole(*desk.parish);
+    store::Transaction whole(*desk.connection);
     ++n;
-    bench::insertBaptism(*desk.parish, n, 1, n);
+    bench::insertBaptism(*desk.connection, n, 1, n);
     whole.commit();
   });
   double before = 0, accepted = 0;
@@ -281,7 +239,7 @@ void measureJourneys() {
   bench::line("aceptar un bautismo en su diálogo: viajes al servidor", bench::shown(accepted, ""),
               "-", "-", "-", true);
   count(0, "leer la lista de un libro de 1.000", [&] {
-    auto list = desk.parish->Execute(
+    auto list = desk.connection->Execute(
         "SELECT Bautismo.IDBautismo, Bautismo.Folio, Bautismo.Numero, Bautismo_Hijo.Nombre FROM "
         "Bautismo, Bautismo_Hijo WHERE CodLibro=1 AND IDBautismo=CodBautismo ORDER BY Folio, "
         "Val(Numero), IDBautismo");
