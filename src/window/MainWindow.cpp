@@ -43,7 +43,7 @@ const char* hintOf(NodeKind kind) {
       return "Pulse Intro en el árbol, o Ctrl+P, para imprimir.";
     case NodeKind::ListReports:
       return "Pulse Intro en el árbol, o Ctrl+P, para elegir qué se imprime.\n"
-             "Con Ctrl+Mayús+P se imprime todo.";
+             "Con Ctrl+Mayúsculas+P se imprime todo.";
     default:
       return "Elija un apartado del árbol.";
   }

@@ -29,6 +29,11 @@ void comeBackTo(QWidget& window) {
   EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
 }
 
+TEST(QtUserInterface, Keys_AreNamedAsTheyStandOnTheKeyboard) {
+  const QKeySequence keys(QStringLiteral("Ctrl+Shift+P,Return,Del,Esc"));
+  EXPECT_EQ(keys.toString(QKeySequence::NativeText), "Ctrl+Mayúsculas+P, Intro, Supr, Esc");
+}
+
 TEST(QtUserInterface, Messages_HaveSpanishButtonsInOrderAndEscapeIsTheSafeOne) {
   QtUserInterface ui;
   std::vector<std::string> captions;
