@@ -1,5 +1,10 @@
 // Every dialog that a command opens, in a window of the smallest screen.
 
+#include <QAbstractButton>
+#include <QGroupBox>
+#include <QLabel>
+#include <QMenuBar>
+#include <QTabBar>
 #include <set>
 #include <sstream>
 
@@ -49,17 +54,37 @@ TEST_F(ParishTest, EveryFormACommandOpens_PassesTheSweep) {
   EXPECT_GE(inspector.seen(), 17u);
 }
 
-TEST(Windows, EveryControlThatTakesTheFocus_HasAName) {
+/// What Alt and a letter reach on a widget.
+QStringList marked(const QWidget& widget) {
+  QStringList texts;
+  if (auto* label = qobject_cast<const QLabel*>(&widget); label && label->buddy())
+    texts << label->text();
+  if (auto* button = qobject_cast<const QAbstractButton*>(&widget)) texts << button->text();
+  if (auto* group = qobject_cast<const QGroupBox*>(&widget)) texts << group->title();
+  if (auto* bar = qobject_cast<const QTabBar*>(&widget))
+    for (int tab = 0; tab < bar->count(); ++tab) texts << bar->tabText(tab);
+  if (auto* menu = qobject_cast<const QMenuBar*>(&widget))
+    for (const QAction* action : menu->actions()) texts << action->text();
+  return texts;
+}
+
+TEST(Windows, EveryControlThatTakesTheFocus_HasANameAndALetterOfItsOwn) {
   std::ostringstream out;
-  std::vector<std::string> nameless;
+  std::vector<std::string> found;
   EXPECT_TRUE(lookAtWindows(
       [&](const std::string& picture, QWidget& window) {
         for (const std::string& control : qt::namelessControls(window))
-          nameless.push_back(picture + ": " + control);
+          found.push_back(picture + ": " + control);
+        std::map<QKeySequence, QString> letters;
+        for (const QWidget* widget : window.findChildren<QWidget*>())
+          for (const QString& text : widget->isVisible() ? marked(*widget) : QStringList())
+            if (const QKeySequence letter = QKeySequence::mnemonic(text);
+                !letter.isEmpty() && !letters.emplace(letter, text).second)
+              found.push_back(picture + ": " + (letters[letter] + " / " + text).toStdString());
       },
       out))
       << out.str();
-  EXPECT_THAT(nameless, IsEmpty());
+  EXPECT_THAT(found, IsEmpty());
 }
 
 }  // namespace fidaleon::app::EveryFormTest
