@@ -27,6 +27,13 @@ bool isLocked(const Control& control) {
   return (box && box->locked()) || (list && list->locked());
 }
 
+/// Two of which one is chosen: they are one field, and arrows go from the one to the other.
+bool areOne(const Control* a, const Control& b) {
+  const auto* first = dynamic_cast<const OptionButton*>(a);
+  const auto* second = dynamic_cast<const OptionButton*>(&b);
+  return first && second && first->group() == second->group();
+}
+
 /// On a tab that can be brought to the front, as are those around it.
 bool hasShownPage(const Control& control) {
   for (const Control* at = &control; at->strip(); at = at->strip())
@@ -54,7 +61,7 @@ bool Form::isStop(const Control& control) const {
                      !dynamic_cast<const TabStrip*>(&control) &&
                      !dynamic_cast<const Grid*>(&control);
   return field && !control.passedByEnter() && control.usable() && hasShownPage(control) &&
-         !isLocked(control) && !settled(control);
+         !isLocked(control) && !settled(control) && !areOne(active_, control);
 }
 
 Control* Form::nextStop() const {
