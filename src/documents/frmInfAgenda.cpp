@@ -1,5 +1,6 @@
 #include "documents/frmInfAgenda.h"
 
+#include "core/contract/Teclado.h"
 #include "core/dialogs/Guard.h"
 #include "documents/CensoRows.h"
 #include "documents/CensoStatements.h"
@@ -30,6 +31,12 @@ frmInfAgenda::frmInfAgenda(Contexto& contexto)
 
 void frmInfAgenda::Form_Load() {
   for (const auto& [indice, fecha] : adtpFecha.all()) fecha->setToday(contexto_.hoy());
+}
+
+text::DateSense frmInfAgenda::dateSense(const forms::DateField& field) const {
+  text::DateSense sentido = Dialogo::dateSense(field);
+  sentido.latestYear += ANOS_POR_DELANTE;
+  return sentido;
 }
 
 void frmInfAgenda::adtpFecha_LostFocus(const forms::Control* siguiente) {

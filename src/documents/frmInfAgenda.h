@@ -11,6 +11,8 @@ class frmInfAgenda : public Dialogo {
  public:
   explicit frmInfAgenda(Contexto& contexto);
 
+  text::DateSense dateSense(const forms::DateField& field) const override;
+
   /// Not owned; must be set before the dialog is accepted.
   FDAPI::Conexion* conBaseDatos = nullptr;
   FDAPI::Conexion* conInformes = nullptr;

@@ -1,5 +1,6 @@
 #include "support/frmTarea.h"
 
+#include "core/contract/Teclado.h"
 #include "store/Transaction.h"
 #include "text/Utf8.h"
 
@@ -42,6 +43,10 @@ void frmTarea::cargar() {
   txtHoraFin.setStored(rs.text("HoraFin"));
   txtNombre.setText(rs.text("Nombre"));
   txtDescripcion.setText(rs.text("Descripcion"));
+}
+
+text::DateSense frmTarea::dateSense(const forms::DateField&) const {
+  return {clock_.today(), clock_.today().year + ANOS_POR_DELANTE};
 }
 
 bool frmTarea::comprobar() {

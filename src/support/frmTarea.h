@@ -11,6 +11,8 @@ class frmTarea : public Ficha {
   frmTarea(forms::UserInterface& ui, Settings& settings, const Clock& clock,
            FDAPI::Conexion& conexion, const FDAPI::cConfig& config, std::int32_t id = 0);
 
+  text::DateSense dateSense(const forms::DateField& field) const override;
+
   forms::DateField txtFecha{*this, "txtFecha", "FECHA:"};
   forms::TimeField txtHoraInicio{*this, "txtHoraInicio", "HORA DE INICIO:"};
   forms::TimeField txtHoraFin{*this, "txtHoraFin", "HORA DE FIN:"};

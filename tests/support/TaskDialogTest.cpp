@@ -27,6 +27,9 @@ class Tasks : public ::testing::Test {
 TEST_F(Tasks, New_IsStoredWithItsTimesAsFourDigitsAndShownAgain) {
   w.user.expectForm("frmTarea", [](FormDriver& u) {
     EXPECT_EQ(u.text("txtFecha"), "22/11/2026");
+    u.type("txtFecha", "6-1-27");
+    u.focus("txtNombre");
+    EXPECT_EQ(u.text("txtFecha"), "06/01/2027");
     fill(u, "9:05", "1030");
     u.type("txtDescripcion", "Con el coro");
     u.click("cmdBoton(0)");

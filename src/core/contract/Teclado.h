@@ -11,4 +11,7 @@ bool introPasaDeCampo(const Settings& ajustes);
 /// Throws std::runtime_error with a message in Spanish when it cannot be kept.
 void ponerIntroPasaDeCampo(Settings& ajustes, bool pasa);
 
+/// So far ahead of today may lie what is still to be held: two digits of a year mean it then.
+inline constexpr int ANOS_POR_DELANTE = 20;
+
 }  // namespace fidaleon
