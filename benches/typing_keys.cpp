@@ -19,7 +19,6 @@
 #include "registers/baptism/frmPartidaBautismo.h"
 #include "registers/common/FormaPartida.h"
 #include "registers/confirmation/frmPartidaConfirmacion.h"
-#include "registers/entry/Fuentes.h"
 
 namespace {
 
@@ -238,7 +237,6 @@ void offersAmong(int entries) {
       "UPDATE Bautismo SET Ministro = 'Don Pedro ' || (IDBautismo % 40), Padrino = 'Raúl ' || "
       "(IDBautismo % 90000), Parroquia = 'San ' || (IDBautismo % 300)");
   Memoria memory;
-  memory.leerDe(fuentesDeRegistros());
   double longest = 0, first = 0;
   const double start = bench::now();
   for (bool more = true; more;) {

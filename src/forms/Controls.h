@@ -84,9 +84,6 @@ class TextBox : public Control {
   QuoteRule quoteRule() const { return quoteRule_; }
   void setQuoteRule(QuoteRule rule) { quoteRule_ = rule; }
 
-  /// Those of these texts that go on from what is typed are offered; any other may be typed too.
-  const std::vector<std::string>& suggestions() const { return suggestions_; }
-  void setSuggestions(std::vector<std::string> texts);
   void take(const Offer& offer) override;
 
   /// A quiet mark under the text, with the reason; empty takes it away, and so does any change.
@@ -137,7 +134,6 @@ class TextBox : public Control {
   bool password_ = false;
   bool digitsOnly_ = false;
   QuoteRule quoteRule_ = QuoteRule::Replace;
-  std::vector<std::string> suggestions_;
   std::string doubt_;
   int selStart_ = 0;
   int selLength_ = 0;

@@ -48,17 +48,6 @@ void TextBox::setText(const std::string& text) {
   if (onChange) onChange();
 }
 
-void TextBox::setSuggestions(std::vector<std::string> texts) {
-  suggestions_ = std::move(texts);
-  offers = [this](const std::string& typed) {
-    std::vector<Offer> fit;
-    const std::string key = text::searchKey(typed);
-    for (const std::string& text : suggestions_)
-      if (!key.empty() && text::searchKey(text).starts_with(key)) fit.push_back({text, 0});
-    return fit;
-  };
-}
-
 void TextBox::take(const Offer& offer) {
   enterText(offer.text);
   setSelection(static_cast<int>(text::length(text_)), 0);

@@ -14,16 +14,19 @@ struct Campo {
   const char* etiqueta;
   std::string FDAPI::cInstitucion::*miembro;
   const char* falta;
+  Voz voz;
 };
 
 // By frmDatosSetup::Dato.
 constexpr std::array<Campo, 4> CAMPOS{{
-    {"PARROCO:", &FDAPI::cInstitucion::Parroco, "¡Tiene que introducir un nombre para el Párroco!"},
+    {"PARROCO:", &FDAPI::cInstitucion::Parroco, "¡Tiene que introducir un nombre para el Párroco!",
+     Voz::Ministro},
     {"ENCARGADO DEL ARCHIVO:", &FDAPI::cInstitucion::EncargadoArchivo,
-     "¡Tiene que introducir el nombre para el Encargado del archivo!"},
-    {"DIOCESIS:", &FDAPI::cInstitucion::Diocesis,
-     "¡Tiene que introducir el nombre de la Diócesis!"},
-    {"VICARIA:", &FDAPI::cInstitucion::Vicaria, "¡Tiene que introducir el nombre de la Vicaría!"},
+     "¡Tiene que introducir el nombre para el Encargado del archivo!", Voz::Ninguna},
+    {"DIOCESIS:", &FDAPI::cInstitucion::Diocesis, "¡Tiene que introducir el nombre de la Diócesis!",
+     Voz::Diocesis},
+    {"VICARIA:", &FDAPI::cInstitucion::Vicaria, "¡Tiene que introducir el nombre de la Vicaría!",
+     Voz::Ninguna},
 }};
 
 constexpr int MAXIMO_ENCARGADO = 120;
@@ -32,7 +35,7 @@ constexpr int MAXIMO_TEXTO = 255;
 }  // namespace
 
 frmDatosSetup::frmDatosSetup(Contexto& contexto)
-    : Dialogo(contexto, "frmDatosSetup"),
+    : DialogoConMemoria(contexto, "frmDatosSetup"),
       cboInstitucion(*this, "cboInstitucion", "INSTITUCION"),
       txtDatos(*this, "txtDatos"),
       cmdBoton(*this, "cmdBoton") {
@@ -41,6 +44,7 @@ frmDatosSetup::frmDatosSetup(Contexto& contexto)
     forms::TextBox& campo = txtDatos.add(dato, CAMPOS[static_cast<std::size_t>(dato)].etiqueta);
     campo.setMaxLength(dato == ENCARGADO ? MAXIMO_ENCARGADO : MAXIMO_TEXTO);
     campo.setWidthChars(50);
+    ofrecer(campo, CAMPOS[static_cast<std::size_t>(dato)].voz);
   }
   cboInstitucion.onClick = [this] {
     procedimiento("cboInstitucion_Click()", [this] { cboInstitucion_Click(); });

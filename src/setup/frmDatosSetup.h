@@ -2,19 +2,17 @@
 
 #include <vector>
 
-#include "core/dialogs/Dialogo.h"
+#include "core/lists/DialogoConMemoria.h"
 
 namespace fidaleon {
 
 /// Asks for what documents need of an institution, of every institution that has none of it. With
 /// no such institution it is not shown and the result is true. Nothing is stored before all is
 /// complete.
-class frmDatosSetup : public Dialogo {
+class frmDatosSetup : public DialogoConMemoria {
  public:
   explicit frmDatosSetup(Contexto& contexto);
 
-  /// Not owned; must be set before the dialog loads.
-  FDAPI::Conexion* conBaseDatos = nullptr;
   /// All data are there; false when the user left before.
   bool blnResultado = false;
 

@@ -1,5 +1,6 @@
 #include "support/Ficha.h"
 
+#include "core/contract/Teclado.h"
 #include "core/statements/Citas.h"
 #include "text/Utf8.h"
 
@@ -15,6 +16,7 @@ Ficha::Ficha(forms::UserInterface& ui, Settings& settings, const Clock& clock,
       clock_(clock),
       fidaleon_(ui, settings, clock),
       id_(id) {
+  setEntersFields(introPasaDeCampo(settings));
   forms::Button& accept = cmdBoton.add(Aceptar, "ACEPTAR");
   accept.setDefault(true);
   accept.onClick = [this] { aceptar(); };

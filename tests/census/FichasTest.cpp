@@ -199,6 +199,7 @@ TEST_P(Fichas, New_IsStoredWithTheLeastAndHoldsItsTablesMeanwhile) {
 }
 
 TEST_P(Fichas, FieldMissingOrBlank_IsToldThereAndCancellingStoresNothing) {
+  institucion("San Blas");
   const std::string antes = censo();
   abrir(0, [&](FormDriver& u) {
     for (const auto& [campo, valor, falta] : f.exigidos) {

@@ -27,7 +27,7 @@ const Rejilla& rejillaGrupos() {
 }  // namespace
 
 frmActividad::frmActividad(Contexto& contexto)
-    : Dialogo(contexto, "frmActividad"),
+    : DialogoConMemoria(contexto, "frmActividad"),
       mstActividad(*this, "mstActividad", {"ACTIVIDAD", "GRUPOS"}),
       txtActividad(*this, "txtActividad"),
       cboInstitucion(*this, "cboInstitucion", "INSTITUCIÓN:"),
@@ -74,6 +74,7 @@ void frmActividad::cargar() {
   bloqueos_ = std::make_unique<BloqueosDeLista>(contexto_, *conBaseDatos, "Grupo", "IdGrupo");
   setCaption("Agregar actividad");
   contexto_.entorno.support.create_cIListas()->fillInstituciones(cboInstitucion, 0, *conBaseDatos);
+  if (Operacion == cCOperacion::ANADIR) elegirUnico(cboInstitucion);
   cIListas(contexto_).ConfigGrid(msgGrupos, rejillaGrupos(), "ConfigGridGrupos", "frmActividad");
   for (const Boton boton : {AGREGAR, MODIFICAR, QUITAR})
     cmdActividad[boton].setVisible(!blnOcultar);
@@ -128,7 +129,10 @@ void frmActividad::cmdActividad_Click(Boton boton) {
 void frmActividad::aceptar() {
   if (!validar()) return;
   const forms::Hourglass reloj(ui());
-  if (Operacion == cCOperacion::ANADIR ? AgregarActividad() : EditarActividad()) Unload();
+  const bool alta = Operacion == cCOperacion::ANADIR;
+  if (!(alta ? AgregarActividad() : EditarActividad())) return;
+  if (alta) recordar({{cboInstitucion.name(), {}, {}, cboInstitucion.data()}});
+  Unload();
 }
 
 bool frmActividad::validar() {

@@ -6,7 +6,7 @@
 
 #include "census/activities/AlmacenActividades.h"
 #include "census/activities/BloqueosDeLista.h"
-#include "core/dialogs/Dialogo.h"
+#include "core/lists/DialogoConMemoria.h"
 
 namespace fidaleon {
 
@@ -14,12 +14,10 @@ namespace fidaleon {
 /// The groups are a working copy: nothing is stored before the dialog is accepted, and then all of
 /// it or, with an error, nothing and the dialog stays. The caller holds the lock of the activity;
 /// those of the groups are the dialog's own and are kept until it closes.
-class frmActividad : public Dialogo {
+class frmActividad : public DialogoConMemoria {
  public:
   explicit frmActividad(Contexto& contexto);
 
-  /// Not owned; must be set before the dialog loads.
-  FDAPI::Conexion* conBaseDatos = nullptr;
   FDAPI::cCOperacion Operacion{};  // ANADIR or EDITAR
   std::int32_t IDActividad = 0;    // with EDITAR
   /// COLABORADOR when the card of a collaborator has led here.
@@ -27,6 +25,9 @@ class frmActividad : public Dialogo {
   /// The groups can be looked at and no more.
   bool blnOcultar = false;
 
+  bool takesFormer() const override {
+    return Operacion == FDAPI::cCOperacion::ANADIR && !isReadOnly();
+  }
   /// The changed groups; they cannot be put back, only read.
   std::string ownWork() const override;
 

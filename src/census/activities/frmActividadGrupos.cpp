@@ -22,14 +22,15 @@ constexpr int ANCHO_LISTAS = 120;
 struct DatoGrupo {
   const char* etiqueta;
   std::string cPadronActGrupos::*miembro;
+  Voz voz = Voz::Ninguna;
 };
 
 // By frmActividadGrupos::Campo.
 constexpr std::array<DatoGrupo, 6> DATOS{{{"NOMBRE:", &cPadronActGrupos::Nombre},
-                                          {"AÑO:", &cPadronActGrupos::Año},
-                                          {"DIA:", &cPadronActGrupos::Dia},
-                                          {"HORA:", &cPadronActGrupos::Hora},
-                                          {"SALA:", &cPadronActGrupos::Sala},
+                                          {"AÑO:", &cPadronActGrupos::Año, Voz::Curso},
+                                          {"DIA:", &cPadronActGrupos::Dia, Voz::Dia},
+                                          {"HORA:", &cPadronActGrupos::Hora, Voz::Hora},
+                                          {"SALA:", &cPadronActGrupos::Sala, Voz::Sala},
                                           {"COMENTARIOS:", &cPadronActGrupos::Comentarios}}};
 
 ListaDoble::Textos textos() {
@@ -47,7 +48,7 @@ ListaDoble::Textos textos() {
 }  // namespace
 
 frmActividadGrupos::frmActividadGrupos(Contexto& contexto)
-    : Dialogo(contexto, "frmActividadGrupos"),
+    : DialogoConMemoria(contexto, "frmActividadGrupos"),
       mstGrupo(*this, "mstGrupo", {"GRUPO", "COLABORADORES"}),
       txtGrupo(*this, "txtGrupo"),
       lstColaboradores(*this, "lstColaboradores"),
@@ -60,9 +61,12 @@ frmActividadGrupos::frmActividadGrupos(Contexto& contexto)
 }
 
 void frmActividadGrupos::prepararControles() {
-  for (int campo = NOMBRE; campo <= COMENTARIOS; ++campo)
-    txtGrupo.add(campo, DATOS[static_cast<std::size_t>(campo)].etiqueta)
-        .setMaxLength(campo == COMENTARIOS ? 0 : MAXIMO_TEXTO);
+  for (int campo = NOMBRE; campo <= COMENTARIOS; ++campo) {
+    const DatoGrupo& dato = DATOS[static_cast<std::size_t>(campo)];
+    txtGrupo.add(campo, dato.etiqueta).setMaxLength(campo == COMENTARIOS ? 0 : MAXIMO_TEXTO);
+    ofrecer(txtGrupo[campo], dato.voz);
+    if (dato.voz == Voz::Ninguna) deCadaUno(txtGrupo[campo]);
+  }
   txtGrupo[COMENTARIOS].setLines(5);
   for (const auto& [indice, lista] : lstColaboradores.all()) lista->setWidthChars(ANCHO_LISTAS);
   cmdGrupo.add(ACEPTAR, "ACEPTAR").setDefault(true);
@@ -92,6 +96,7 @@ void frmActividadGrupos::Form_Load() {
 
 void frmActividadGrupos::cargar() {
   setCaption("Agregar grupo");
+  refrescarMemoria();
   personas_ = leerColaboradores();
   ListaDoble::Claves elegidas;
   if (Operacion == cCOperacion::EDITAR) {
@@ -126,6 +131,7 @@ void frmActividadGrupos::aceptar() {
     nuevo.IDActividad = IDActividad;
     nuevo.Operacion = cCOperacion::ANADIR;
     guardar(nuevo);
+    recordar(campos(nuevo));
     colGrupos->push_back(std::move(nuevo));
   } else {
     cPadronActGrupos& grupo = *buscarGrupo(*colGrupos, IDGrupo);
@@ -134,6 +140,21 @@ void frmActividadGrupos::aceptar() {
   }
   blnAceptado = true;
   Unload();
+}
+
+std::vector<forms::Field> frmActividadGrupos::campos(const cPadronActGrupos& grupo) const {
+  std::vector<forms::Field> todos;
+  for (const auto& [indice, campo] : txtGrupo.all())
+    todos.push_back({campo->name(), {}, grupo.*DATOS[static_cast<std::size_t>(indice)].miembro});
+  return todos;
+}
+
+/// Of the activity.
+const std::vector<forms::Field>& frmActividadGrupos::ultima() const {
+  ultima_.clear();
+  for (const cPadronActGrupos& grupo : *colGrupos)
+    if (grupo.Operacion != cCOperacion::Borrar) ultima_ = campos(grupo);
+  return ultima_;
 }
 
 bool frmActividadGrupos::validar() {

@@ -6,25 +6,25 @@
 #include <vector>
 
 #include "census/activities/cPadronActGrupos.h"
-#include "core/dialogs/Dialogo.h"
+#include "core/lists/DialogoConMemoria.h"
 #include "core/lists/ListaDoble.h"
 
 namespace fidaleon {
 
 /// A group of an activity: its data on one tab, its members on another. Set the public fields, then
 /// Show(). It changes the collection when it is accepted and stores nothing.
-class frmActividadGrupos : public Dialogo {
+class frmActividadGrupos : public DialogoConMemoria {
  public:
   explicit frmActividadGrupos(Contexto& contexto);
 
-  /// Not owned; must be set before the dialog loads.
-  FDAPI::Conexion* conBaseDatos = nullptr;
   ColeccionGrupos* colGrupos = nullptr;
   FDAPI::cCOperacion Operacion{};  // ANADIR or EDITAR
   std::int32_t IDGrupo = 0;        // with EDITAR: one of the collection
   std::int32_t IDActividad = 0;    // 0 as long as it is not stored
   /// COLABORADOR when the card of a collaborator has led here: no other can be opened then.
   FDAPI::cCOrigen Origen = FDAPI::cCOrigen::PRINCIPAL;
+
+  bool takesFormer() const override { return Operacion == FDAPI::cCOperacion::ANADIR; }
 
   /// Result.
   bool blnAceptado = false;
@@ -67,12 +67,15 @@ class frmActividadGrupos : public Dialogo {
   bool validar();
   bool repetido(const std::string& nombre) const;
   void guardar(cPadronActGrupos& grupo);
+  std::vector<forms::Field> campos(const cPadronActGrupos& grupo) const;
+  const std::vector<forms::Field>& ultima() const override;
 
   ListaDoble listas_;
   std::vector<Persona> personas_;                        // all that the lists show
   std::map<std::int32_t, std::int32_t> cargos_;          // of the selected persons
   std::map<std::int32_t, std::int32_t> cargosAlCargar_;  // as the record had them
   std::map<std::int32_t, std::string> nombresCargo_;
+  mutable std::vector<forms::Field> ultima_;
 };
 
 }  // namespace fidaleon

@@ -4,6 +4,7 @@
 #include <stdexcept>
 
 #include "census/Operaciones.h"
+#include "core/contract/Teclado.h"
 #include "core/dialogs/Guard.h"
 #include "core/statements/Citas.h"
 #include "text/Utf8.h"
@@ -49,6 +50,7 @@ void frmCargo::Form_Load() {
 }
 
 void frmCargo::cargar() {
+  setEntersFields(!seElige() && introPasaDeCampo(contexto_.entorno.settings));
   setCaption(seElige() ? "Asignar cargo" : "Agregar cargo");
   if (seElige()) return listarCargos();
   if (Operacion == cCOperacion::EDITAR) mostrarCargo();

@@ -26,7 +26,10 @@ std::string fechaDe(const std::string& cumpleaños, const std::string& año) {
 
 void frmColaborador::aceptar() {
   if (faltaNombre() || faltaNacimiento() || faltaGrupoOCargo()) return;
-  if (guardar(leerCampos())) Unload();
+  const Persona persona = leerCampos();
+  if (!guardar(persona)) return;
+  if (Operacion == cCOperacion::ANADIR) recordar(enlaces_.campos(persona));
+  Unload();
 }
 
 bool frmColaborador::faltaNombre() {
@@ -72,10 +75,10 @@ Persona frmColaborador::leerCampos() const {
   Persona persona = persona_;
   for (const auto& e : enlaces_.textos)
     persona.*e.miembro = e.campo->multiline() ? e.campo->text() : text::trim(e.campo->text());
-  persona.CodMunicipio = lugares_[DOMICILIO].valor();
-  persona.CodMunicipioParrBaut = lugares_[BAUTISMO].valor();
+  for (const auto& [par, miembro] : enlaces_.municipios) persona.*miembro = par->valor();
   persona.FechaNacimiento = fechaNacimiento();
-  persona.FechaBautizo = fechaEnLugarDe(persona_.FechaBautizo, adtpFechaBautizo);
+  for (const auto& [campo, miembro] : enlaces_.fechas)
+    persona.*miembro = fechaEnLugarDe(persona_.*miembro, *campo);
   return persona;
 }
 

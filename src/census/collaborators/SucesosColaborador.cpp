@@ -68,7 +68,7 @@ void frmColaborador::agregarMunicipio() {
 }
 
 void frmColaborador::refrescarLugares() {
-  for (ParProvinciaPoblacion& lugar : lugares_) lugar.refrescar();
+  for (ParProvinciaPoblacion& lugar : pares_) lugar.refrescar();
 }
 
 }  // namespace fidaleon

@@ -6,7 +6,6 @@
 
 #include "census/collaborators/TablasColaborador.h"
 #include "census/common/CamposPersona.h"
-#include "core/contract/Teclado.h"
 #include "core/dialogs/Guard.h"
 #include "core/lists/Rejilla.h"
 #include "core/lists/cIListas.h"
@@ -30,6 +29,7 @@ struct CampoTexto {
   frmColaborador::Texto indice;
   const char* etiqueta;
   std::string Persona::*miembro;
+  Voz voz = Voz::Ninguna;
   int maximo = ANCHO_TEXTO;
   int lineas = 1;
 };
@@ -39,26 +39,26 @@ constexpr CampoTexto CAMPOS[] = {
     {C::Nombre, "NOMBRE:", &Persona::Nombre},
     {C::PrimerApellido, "PRIMER APELLIDO:", &Persona::PrimerApellido},
     {C::SegundoApellido, "SEGUNDO APELLIDO:", &Persona::SegundoApellido},
-    {C::Direccion, "DIRECCION:", &Persona::Direccion},
-    {C::CPostal, "C.POSTAL:", &Persona::CPostal, ANCHO_CPOSTAL},
+    {C::Direccion, "DIRECCION:", &Persona::Direccion, Voz::Domicilio},
+    {C::CPostal, "C.POSTAL:", &Persona::CPostal, Voz::CodigoPostal, ANCHO_CPOSTAL},
     {C::Telefono, "TELEFONO (1):", &Persona::Telefono},
     {C::Telefono2, "TELEFONO (2):", &Persona::Telefono2},
     {C::CorreoElectronico, "EMAIL:", &Persona::CorreoElectronico},
-    {C::ProfesionColegio, "PROFESIÓN / COLEGIO:", &Persona::ProfesionColegio},
-    {C::Comentarios, "COMENTARIOS:", &Persona::Comentarios, MEMO, 4},
+    {C::ProfesionColegio, "PROFESIÓN / COLEGIO:", &Persona::ProfesionColegio, Voz::Profesion},
+    {C::Comentarios, "COMENTARIOS:", &Persona::Comentarios, Voz::Ninguna, MEMO, 4},
     {C::Cumpleaños, "CUMPLEAÑOS:", &Persona::Cumpleaños},
-    {C::AñoNacimiento, "AÑO DE NACIMIENTO:", &Persona::AñoNacimiento, ANCHO_AÑO},
+    {C::AñoNacimiento, "AÑO DE NACIMIENTO:", &Persona::AñoNacimiento, Voz::Ninguna, ANCHO_AÑO},
     {C::NombrePadre, "NOMBRE DEL PADRE:", &Persona::NombrePadre},
     {C::NombreMadre, "NOMBRE DE LA MADRE:", &Persona::NombreMadre},
-    {C::ParroquiaBaut, "PARROQUIA:", &Persona::ParroquiaBaut},
-    {C::DireccionParrBaut, "DIRECCION:", &Persona::DireccionParrBaut},
-    {C::Observaciones, "OBSERVACIONES:", &Persona::Observaciones, MEMO, 10},
+    {C::ParroquiaBaut, "PARROQUIA:", &Persona::ParroquiaBaut, Voz::Parroquia},
+    {C::DireccionParrBaut, "DIRECCION:", &Persona::DireccionParrBaut, Voz::Domicilio},
+    {C::Observaciones, "OBSERVACIONES:", &Persona::Observaciones, Voz::Ninguna, MEMO, 10},
 };
 
 }  // namespace
 
 frmColaborador::frmColaborador(Contexto& contexto)
-    : Dialogo(contexto, "frmColaborador"),
+    : DialogoConMemoria(contexto, "frmColaborador"),
       mstColaborador(*this, "mstColaborador",
                      {"DATOS", "NACIMIENTO", "BAUTISMO", "OBSERVACIONES", "ACTIVIDADES"}),
       txtColaborador(*this, "txtColaborador"),
@@ -69,10 +69,11 @@ frmColaborador::frmColaborador(Contexto& contexto)
       msgActividades(*this, "msgActividades"),
       cmdActividad(*this, "cmdActividad"),
       cmdColaborador(*this, "cmdColaborador") {
-  setEntersFields(introPasaDeCampo(contexto.entorno.settings));
   crearTextos();
-  crearLugar(DOMICILIO, ProvinciaDomicilio);
-  crearLugar(BAUTISMO, ProvinciaBautismo);
+  crearLugar(DOMICILIO, ProvinciaDomicilio, &Persona::CodMunicipio);
+  crearLugar(BAUTISMO, ProvinciaBautismo, &Persona::CodMunicipioParrBaut);
+  enlaces_.fechas.push_back({&adtpFechaBautizo, &Persona::FechaBautizo});
+  deCadaUno(adtpFechaBautizo);
   crearBotones();
   setLayout(disposicion());
   crearSucesos();
@@ -83,8 +84,12 @@ void frmColaborador::crearTextos() {
     forms::TextBox& campo = txtColaborador.add(c.indice, c.etiqueta);
     campo.setMaxLength(c.maximo);
     campo.setLines(c.lineas);
+    ofrecer(campo, c.voz);
     enlaces_.textos.push_back({&campo, c.miembro});
   }
+  for (const Texto suyo : {Nombre, PrimerApellido, SegundoApellido, Telefono2, CorreoElectronico,
+                           ProfesionColegio, Comentarios, Cumpleaños, AñoNacimiento, Observaciones})
+    deCadaUno(txtColaborador[suyo]);
   for (const Texto cifras : {CPostal, Telefono, Telefono2, AñoNacimiento})
     soloDigitos(contexto_, txtColaborador[cifras]);
   txtColaborador[CPostal].setWidthChars(ANCHO_CPOSTAL + 1);
@@ -95,10 +100,11 @@ void frmColaborador::crearTextos() {
                          txtColaborador[SegundoApellido], FDAPI::cCOrigen::COLABORADOR);
 }
 
-void frmColaborador::crearLugar(Lugar lugar, Lista provincia) {
+void frmColaborador::crearLugar(Lugar lugar, Lista provincia, std::int32_t Persona::*miembro) {
   forms::ComboBox& provincias = cboColaborador.add(provincia, "PROVINCIA:");
   forms::ComboBox& poblaciones = cboColaborador.add(provincia + 1, "POBLACION:");
-  lugares_.emplace_back(contexto_, provincias, poblaciones);
+  enlaces_.municipios.push_back(
+      {&pares_.emplace_back(contexto_, provincias, poblaciones), miembro});
   cmdAgregarProvincia.add(lugar, "Agregar Provincia").onClick = [this] {
     procedimiento("cmdAgregarProvincia_Click", [this] { agregarProvincia(); });
   };
@@ -167,7 +173,8 @@ void frmColaborador::cargar() {
   const forms::Hourglass reloj(ui());
   ConfigGridActividadColaborador();
   for (const auto& [indice, boton] : cmdActividad.all()) boton->setVisible(!blnOcultar);
-  for (ParProvinciaPoblacion& lugar : lugares_) lugar.abrir(*conBaseDatos);
+  refrescarMemoria();
+  for (ParProvinciaPoblacion& lugar : pares_) lugar.abrir(*conBaseDatos);
   LimpiarDatosColaborador();
   if (Operacion == cCOperacion::EDITAR) {
     if (!cargarPersona() || !LlenaColeccionActividad() || !CargaGridActividadColaborador())
@@ -185,35 +192,49 @@ void frmColaborador::LimpiarDatosColaborador() {
 }
 
 bool frmColaborador::cargarPersona() {
-  persona_.IDPadron = persona_.CodPadron = IDPadron;
-  if (!leerTabla(ALTA_COLABORADOR, "IDPadron")) {
+  if (!leerPersona(IDPadron, persona_)) {
     forms::warn(ui(), "Esta persona ya no está en el padrón.");
     return false;
   }
-  // A person may lack the row of a satellite; it is added when the card is accepted.
-  leerTabla(ALTA_COLABORADOR_NACIMIENTO, "CodPadron");
-  leerTabla(ALTA_COLABORADOR_BAUTISMO, "CodPadron");
   mostrarPersona();
   setCaption("Propiedades del colaborador " + persona_.Nombre + " " + persona_.PrimerApellido +
              " " + persona_.SegundoApellido);
   return true;
 }
 
-bool frmColaborador::leerTabla(const Tabla<Persona>& tabla, const char* clave) {
-  const store::Recordset fila =
-      conBaseDatos->Execute(std::string("SELECT * FROM ") + tabla.nombre + " WHERE " + clave + "=" +
-                            std::to_string(IDPadron));
-  if (fila.EOF_()) return false;
-  copiarFila(tabla, fila, persona_, true);
+bool frmColaborador::leerPersona(std::int32_t id, Persona& persona) const {
+  const auto leer = [&](const Tabla<Persona>& tabla, const char* clave) {
+    const store::Recordset fila =
+        conBaseDatos->Execute(std::string("SELECT * FROM ") + tabla.nombre + " WHERE " + clave +
+                              "=" + std::to_string(id));
+    if (fila.EOF_()) return false;
+    copiarFila(tabla, fila, persona, true);
+    return true;
+  };
+  persona.IDPadron = persona.CodPadron = id;
+  if (!leer(ALTA_COLABORADOR, "IDPadron")) return false;
+  // A person may lack the row of a satellite; it is added when the card is accepted.
+  leer(ALTA_COLABORADOR_NACIMIENTO, "CodPadron");
+  leer(ALTA_COLABORADOR_BAUTISMO, "CodPadron");
   return true;
+}
+
+const std::vector<forms::Field>& frmColaborador::ultima() const {
+  if (ultima_) return *ultima_;
+  ultima_.emplace();
+  procedimiento("takeFormer", [&] {
+    const store::Recordset fila = conBaseDatos->Execute(
+        "SELECT MAX(CodPadron) AS IDPadron FROM Padron_TipoPersona WHERE CodTipoPersona=3");
+    Persona persona;
+    if (!fila.EOF_() && leerPersona(static_cast<std::int32_t>(fila.integer("IDPadron")), persona))
+      ultima_ = enlaces_.campos(persona);
+  });
+  return *ultima_;
 }
 
 void frmColaborador::mostrarPersona() {
   enlaces_.mostrar(persona_);
   cumpleaños_->poner(persona_.Cumpleaños);
-  adtpFechaBautizo.setStored(persona_.FechaBautizo);
-  lugares_[DOMICILIO].poner(persona_.CodMunicipio);
-  lugares_[BAUTISMO].poner(persona_.CodMunicipioParrBaut);
   comprobarPoblaciones();
 }
 

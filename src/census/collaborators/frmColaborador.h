@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstdint>
-#include <deque>
 #include <optional>
 #include <string>
 #include <vector>
@@ -11,7 +10,7 @@
 #include "census/collaborators/CampoCumpleanos.h"
 #include "census/persons/Persona.h"
 #include "census/search/BuscaCoincidencias.h"
-#include "core/dialogs/Dialogo.h"
+#include "core/lists/DialogoConMemoria.h"
 #include "core/lists/Enlaces.h"
 #include "core/statements/Columnas.h"
 #include "store/Transaction.h"
@@ -22,12 +21,10 @@ namespace fidaleon {
 /// the public fields, then Show(). What is accepted is stored as a whole or not at all, and a
 /// failure leaves the dialog open with all that was typed. The caller holds the person's lock;
 /// those of the memberships are held here, for as long as the dialog is open.
-class frmColaborador : public Dialogo {
+class frmColaborador : public DialogoConMemoria {
  public:
   explicit frmColaborador(Contexto& contexto);
 
-  /// Not owned; must be set before the dialog loads.
-  FDAPI::Conexion* conBaseDatos = nullptr;
   /// ANADIR or EDITAR.
   FDAPI::cCOperacion Operacion{};
   /// ACTIVIDAD when the dialog was reached from the card of an activity.
@@ -40,6 +37,9 @@ class frmColaborador : public Dialogo {
   /// IDPadron of a person found while a new one was being typed, to be opened instead; else 0.
   std::int32_t lngSeleccionado = 0;
 
+  bool takesFormer() const override {
+    return Operacion == FDAPI::cCOperacion::ANADIR && !isReadOnly();
+  }
   /// The changed memberships; they cannot be put back, only read.
   std::string ownWork() const override;
 
@@ -87,7 +87,7 @@ class frmColaborador : public Dialogo {
  private:
   // Fields and layout
   void crearTextos();
-  void crearLugar(Lugar lugar, Lista provincia);
+  void crearLugar(Lugar lugar, Lista provincia, std::int32_t Persona::*miembro);
   void crearBotones();
   void crearSucesos();
   forms::LayoutNode disposicion();
@@ -98,7 +98,8 @@ class frmColaborador : public Dialogo {
   void LimpiarDatosColaborador();
   /// False when there is no such person any more; the user is told.
   bool cargarPersona();
-  bool leerTabla(const Tabla<Persona>& tabla, const char* clave);
+  bool leerPersona(std::int32_t id, Persona& persona) const;
+  const std::vector<forms::Field>& ultima() const override;
   void mostrarPersona();
   void comprobarPoblaciones() const;
 
@@ -152,9 +153,9 @@ class frmColaborador : public Dialogo {
   void insertarActividad(const cPadronActividad& actividad, std::int32_t idPadron);
 
   Enlaces<Persona> enlaces_;
-  std::deque<ParProvinciaPoblacion> lugares_;  // by Lugar
   std::optional<CampoCumpleaños> cumpleaños_;
   std::optional<BuscaCoincidencias> coincidencias_;
+  mutable std::optional<std::vector<forms::Field>> ultima_;
   /// As it was read; blank for a new one.
   Persona persona_;
   /// Those that are stored come before the new ones.

@@ -59,7 +59,7 @@ void distinguir(FDAPI::Conexion& conexion, std::vector<Linea>& lineas) {
 }  // namespace
 
 frmColaboradorActividad::frmColaboradorActividad(Contexto& contexto)
-    : Dialogo(contexto, "frmColaboradorActividad"),
+    : DialogoConMemoria(contexto, "frmColaboradorActividad"),
       cboColaboraAct(*this, "cboColaboraAct"),
       cmdAgregar(*this, "cmdAgregar"),
       cmdColaboraAct(*this, "cmdColaboraAct") {
@@ -237,6 +237,10 @@ void frmColaboradorActividad::guardar() {
     nueva.Operacion = cCOperacion::ANADIR;
     colActividades->push_back(nueva);
     posicion = colActividades->size() - 1;
+    std::vector<forms::Field> campos;
+    for (const auto& [indice, lista] : cboColaboraAct.all())
+      campos.push_back({lista->name(), {}, {}, lista->data()});
+    recordar(std::move(campos));
   }
   cPadronActividad& actividad = colActividades->at(posicion);
   actividad.IDGrupo = clave(GRUPO);

@@ -8,19 +8,17 @@
 #include <vector>
 
 #include "census/activities/cPadronActividad.h"
-#include "core/dialogs/Dialogo.h"
+#include "core/lists/DialogoConMemoria.h"
 
 namespace fidaleon {
 
 /// A group that a collaborator works in, and the office they have in it. Works on the collection of
 /// the caller and stores nothing of it; activities, groups and offices that are added from here are
 /// stored. Set the public fields, then Show(). The caller holds the locks.
-class frmColaboradorActividad : public Dialogo {
+class frmColaboradorActividad : public DialogoConMemoria {
  public:
   explicit frmColaboradorActividad(Contexto& contexto);
 
-  /// Not owned; must be set before the dialog loads.
-  FDAPI::Conexion* conBaseDatos = nullptr;
   /// ANADIR or EDITAR.
   FDAPI::cCOperacion Operacion{};
   /// ACTIVIDAD when the collaborator was reached from an activity: neither activities nor offices
@@ -38,6 +36,8 @@ class frmColaboradorActividad : public Dialogo {
   /// What the caller's grid shows of it: group, office, activity, room, day, hour. Empty when the
   /// dialog was cancelled.
   std::vector<std::string> celdas;
+
+  bool takesFormer() const override { return Operacion == FDAPI::cCOperacion::ANADIR; }
 
   enum Lista { ACTIVIDAD, GRUPO, CARGO };
   enum Boton { ACEPTAR = 0, CANCELAR = 1 };

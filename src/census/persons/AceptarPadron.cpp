@@ -20,7 +20,10 @@ void frmPadron::aceptar() {
   if (!ComprobarCampos()) return;
   leerCampos();
   const bool alta = Operacion == cCOperacion::ANADIR;
-  if (alta ? AgregarEmpadronado() : EditarEmpadronado()) return Unload();
+  if (alta ? AgregarEmpadronado() : EditarEmpadronado()) {
+    if (alta) recordar(campos(ficha_.persona));
+    return Unload();
+  }
   if (!alta || ficha_.persona.IDPadron == 0) return;
   // Their first row is there for good: accepting again must not add them a second time.
   Operacion = cCOperacion::EDITAR;

@@ -2,7 +2,6 @@
 
 #include "census/common/CamposPersona.h"
 #include "census/persons/frmPadron.h"
-#include "core/contract/Teclado.h"
 
 namespace fidaleon {
 
@@ -23,7 +22,7 @@ constexpr int ANCHO_IMPORTE = 14;
 }  // namespace
 
 frmPadron::frmPadron(Contexto& contexto)
-    : Dialogo(contexto, "frmPadron"),
+    : DialogoConMemoria(contexto, "frmPadron"),
       mstPadron(*this, "mstPadron",
                 {"DATOS PERSONALES", "NACIMIENTO Y BAUTISMO", "OTROS SACRAMENTOS", "DEFUNCIÓN",
                  "COMENTARIOS", "NOTAS PERSONALES"}),
@@ -46,19 +45,20 @@ frmPadron::frmPadron(Contexto& contexto)
       coincidencias_(contexto, txtPadron.add(Nombre, "NOMBRE:"),
                      txtPadron.add(PrimerApellido, "PRIMER APELLIDO:"),
                      txtPadron.add(SegundoApellido, "SEGUNDO APELLIDO:"), FDAPI::cCOrigen::PADRON) {
-  setEntersFields(introPasaDeCampo(contexto.entorno.settings));
   crearCampos();
   crearSacramentos();
   crearBotones();
+  marcarDeCadaUno();
   setLayout(disposicion());
   crearSucesos();
 }
 
-forms::TextBox& frmPadron::texto(Texto indice, const char* etiqueta,
-                                 std::string Persona::*miembro) {
+forms::TextBox& frmPadron::texto(Texto indice, const char* etiqueta, std::string Persona::*miembro,
+                                 Voz voz) {
   forms::TextBox& campo =
       txtPadron.has(indice) ? txtPadron[indice] : txtPadron.add(indice, etiqueta);
   campo.setMaxLength(ANCHO_TEXTO);
+  ofrecer(campo, voz);
   enlaces_.textos.push_back({&campo, miembro});
   return campo;
 }
@@ -80,8 +80,8 @@ void frmPadron::municipio(Lista provincia, std::int32_t Persona::*miembro) {
 
 void frmPadron::parroquia(Texto indice, Lista provincia, std::string Persona::*nombre,
                           std::string Persona::*direccion, std::int32_t Persona::*dondeEsta) {
-  texto(indice, "PARROQUIA:", nombre);
-  texto(Texto(indice + 1), "DIRECCIÓN:", direccion);
+  texto(indice, "PARROQUIA:", nombre, Voz::Parroquia);
+  texto(Texto(indice + 1), "DIRECCIÓN:", direccion, Voz::Domicilio);
   municipio(provincia, dondeEsta);
 }
 
@@ -97,17 +97,17 @@ void frmPadron::crearCampos() {
   forms::TextBox& letra = txtPadron.add(LetraNIF, "-");
   letra.setMaxLength(1);
   letra.setWidthChars(3);
-  texto(Direccion, "DIRECCIÓN:", &P::Direccion);
+  texto(Direccion, "DIRECCIÓN:", &P::Direccion, Voz::Domicilio);
   municipio(ProvinciaDireccion, &P::CodMunicipio);
-  texto(CPostal, "CÓDIGO POSTAL:", &P::CPostal).setMaxLength(CIFRAS_CPOSTAL);
+  texto(CPostal, "CÓDIGO POSTAL:", &P::CPostal, Voz::CodigoPostal).setMaxLength(CIFRAS_CPOSTAL);
   txtPadron[CPostal].setWidthChars(CIFRAS_CPOSTAL + 2);
   texto(Telefono, "TELÉFONO (1):", &P::Telefono);
   texto(Telefono2, "TELÉFONO  (2):", &P::Telefono2);
   enMinusculas(texto(CorreoElectronico, "EMAIL:", &P::CorreoElectronico));
   cboPadron.add(Sexo, "SEXO:").setWidthChars(12);
-  texto(EstadoCivil, "ESTADO CIVIL:", &P::EstadoCivil);
-  texto(ProfesionColegio, "PROFESIÓN / COLEGIO:", &P::ProfesionColegio);
-  texto(PosicionFamiliar, "POSICIÓN FAMILIAR:", &P::PosicionFamiliar);
+  texto(EstadoCivil, "ESTADO CIVIL:", &P::EstadoCivil, Voz::EstadoCivil);
+  texto(ProfesionColegio, "PROFESIÓN / COLEGIO:", &P::ProfesionColegio, Voz::Profesion);
+  texto(PosicionFamiliar, "POSICIÓN FAMILIAR:", &P::PosicionFamiliar, Voz::PosicionFamiliar);
   texto(Comentarios, "COMENTARIOS:", &P::Comentarios);
   texto(Observaciones, "OBSERVACIONES:", &P::Observaciones);
   for (const Texto largo : {Comentarios, Observaciones}) {
@@ -130,7 +130,7 @@ void frmPadron::crearSacramentos() {
   texto(AñoComunion, "AÑO:", &P::AñoComunion).setMaxLength(CIFRAS_AÑO);
   txtPadron[AñoComunion].setWidthChars(CIFRAS_AÑO + 2);
   soloDigitos(contexto_, txtPadron[AñoComunion]);
-  texto(ParroquiaCom, "PARROQUIA:", &P::ParroquiaCom);
+  texto(ParroquiaCom, "PARROQUIA:", &P::ParroquiaCom, Voz::Parroquia);
   parroquia(ParroquiaConf, ProvinciaConf, &P::ParroquiaConf, &P::DireccionParrConf,
             &P::CodMunicipioParrConf);
   fecha(FechaConfirmacion, &P::FechaConfirmacion);
@@ -153,6 +153,15 @@ void frmPadron::crearBotones() {
   cmdPadron.add(ACEPTAR, "ACEPTAR").setDefault(true);
   cmdPadron.add(CANCELAR, "CANCELAR").setCancel(true);
   cmdPadron.add(BUSCAR, "BÚS&QUEDA").setToolTip("Busca a la persona entre las que ya están");
+}
+
+/// What a family has in common goes over with its page: where they live, and where they come from.
+void frmPadron::marcarDeCadaUno() {
+  for (const Texto suyo :
+       {Nombre, PrimerApellido, SegundoApellido, Telefono2, CorreoElectronico, EstadoCivil,
+        ProfesionColegio, PosicionFamiliar, AñoComunion, Nicho, Comentarios, Observaciones})
+    deCadaUno(txtPadron[suyo]);
+  for (const auto& [indice, fecha] : adtpPadron.all()) deCadaUno(*fecha);
 }
 
 LayoutNode frmPadron::disposicion() {

@@ -13,9 +13,11 @@ void frmPadron::Form_Load() {
   const bool cargado = procedimiento("Form_Load", [this] {
     const forms::Hourglass reloj(ui());
     ConfigGridNotasPersonales();
+    refrescarMemoria();
     cargarListas();
     BorrarDatosEmpadronado();
     if (Operacion == cCOperacion::EDITAR && !leerEmpadronado()) return Unload();
+    if (Operacion == cCOperacion::ANADIR) elegirUnico(cboPadron[Institucion]);
     mostrarModo();
   });
   // A person shown in part would be stored in part.
@@ -27,20 +29,7 @@ void frmPadron::cargarListas() {
                                                                  *conBaseDatos);
   for (ParProvinciaPoblacion& par : pares_) par.abrir(*conBaseDatos);
   cIListas(contexto_).fillSexo(cboPadron[Sexo]);
-  cargarSugerencias(EstadoCivil, "EstadoCivil");
-  cargarSugerencias(PosicionFamiliar, "PosicionFamiliar");
   contexto_.fidaleon()->CambioEtiquetasMoneda(*this, txtPadron[ImporteNicho], contexto_.config());
-}
-
-void frmPadron::cargarSugerencias(Texto campo, const char* columna) {
-  const std::string nombre = columna;
-  std::vector<std::string> enUso;
-  store::Recordset filas =
-      conBaseDatos->Execute("SELECT DISTINCT " + nombre + " FROM Padron ORDER BY " + nombre);
-  for (; !filas.EOF_(); filas.MoveNext())
-    if (std::string texto = text::trim(filas.text(nombre)); !texto.empty())
-      enUso.push_back(std::move(texto));
-  txtPadron[campo].setSuggestions(std::move(enUso));
 }
 
 void frmPadron::BorrarDatosEmpadronado() {
@@ -48,6 +37,26 @@ void frmPadron::BorrarDatosEmpadronado() {
   mostrarPersona();
   txtPadron[ImporteNicho].setText(importeCero());
   cboPadron[Pagado].setListIndex(-1);
+}
+
+std::vector<forms::Field> frmPadron::campos(const Persona& persona) const {
+  std::vector<forms::Field> todos = enlaces_.campos(persona);
+  todos.push_back({cboPadron[Institucion].name(), {}, {}, persona.CodInstitucionEmpadronado});
+  return todos;
+}
+
+const std::vector<forms::Field>& frmPadron::ultima() const {
+  if (ultima_) return *ultima_;
+  ultima_.emplace();
+  procedimiento("takeFormer", [&] {
+    const store::Recordset fila = conBaseDatos->Execute(
+        "SELECT MAX(CodPadron) AS IDPadron FROM Padron_TipoPersona WHERE CodTipoPersona=2");
+    FichaEmpadronado ficha;
+    if (!fila.EOF_() &&
+        ficha.leer(*conBaseDatos, static_cast<std::int32_t>(fila.integer("IDPadron"))))
+      ultima_ = campos(ficha.persona);
+  });
+  return *ultima_;
 }
 
 bool frmPadron::leerEmpadronado() {

@@ -74,6 +74,12 @@ bool frmPadron::mstPadron_MouseDown(int pestana) {
   return false;
 }
 
+/// Without a number there is no letter to be typed.
+bool frmPadron::settled(const forms::Control& campo) const {
+  const bool sinNIF = txtPadron[NIF].text().empty() && txtPadron[LetraNIF].text().empty();
+  return (sinNIF && &campo == &txtPadron[LetraNIF]) || DialogoConMemoria::settled(campo);
+}
+
 bool frmPadron::vaACancelar(const forms::Control* siguiente) const {
   return siguiente == &cmdPadron[CANCELAR];
 }

@@ -1,14 +1,14 @@
 #pragma once
 
 #include <cstdint>
-#include <deque>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "census/persons/FichaEmpadronado.h"
 #include "census/search/BuscaCoincidencias.h"
-#include "core/dialogs/Dialogo.h"
+#include "core/lists/DialogoConMemoria.h"
 #include "core/lists/Enlaces.h"
 
 namespace fidaleon {
@@ -16,12 +16,10 @@ namespace fidaleon {
 /// One person of the parish census with family, sacraments, burial and notes. Set the public
 /// fields, then Show(). Accepting stores at once; cancelled, all is left as it was. What fails is
 /// told and keeps the dialog open with what was typed. The caller holds the locks.
-class frmPadron : public Dialogo {
+class frmPadron : public DialogoConMemoria {
  public:
   explicit frmPadron(Contexto& contexto);
 
-  /// Not owned; must be set before the dialog loads.
-  FDAPI::Conexion* conBaseDatos = nullptr;
   /// ANADIR or EDITAR. A new person becomes EDITAR when their DNI turns out to be that of somebody
   /// whose data the user takes, and when storing fails behind their first row.
   FDAPI::cCOperacion Operacion{};
@@ -31,6 +29,9 @@ class frmPadron : public Dialogo {
   /// Somebody found by the search, to be opened instead of adding a new person; 0 when none was.
   std::int32_t lngSeleccionado = 0;
 
+  bool takesFormer() const override {
+    return Operacion == FDAPI::cCOperacion::ANADIR && !isReadOnly();
+  }
   std::string ownWork() const override;
   std::string putBackOwnWork(const std::string& work) override;
 
@@ -113,7 +114,8 @@ class frmPadron : public Dialogo {
   void crearCampos();
   void crearSacramentos();
   void crearBotones();
-  forms::TextBox& texto(Texto indice, const char* etiqueta, std::string Persona::*miembro);
+  forms::TextBox& texto(Texto indice, const char* etiqueta, std::string Persona::*miembro,
+                        Voz voz = Voz::Ninguna);
   void fecha(Fecha indice, std::string Persona::*miembro);
   void municipio(Lista provincia, std::int32_t Persona::*miembro);
   void parroquia(Texto indice, Lista provincia, std::string Persona::*nombre,
@@ -130,7 +132,7 @@ class frmPadron : public Dialogo {
 
   // Loading
   void cargarListas();
-  void cargarSugerencias(Texto campo, const char* columna);
+  void marcarDeCadaUno();
   void BorrarDatosEmpadronado();
   bool leerEmpadronado();
   void mostrarPersona();
@@ -162,6 +164,9 @@ class frmPadron : public Dialogo {
   void altaProvincia();
   void altaPoblacion();
   bool vaACancelar(const forms::Control* siguiente) const;
+  std::vector<forms::Field> campos(const Persona& persona) const;
+  const std::vector<forms::Field>& ultima() const override;
+  bool settled(const forms::Control& campo) const override;
 
   // Personal notes
   void ConfigGridNotasPersonales();
@@ -192,7 +197,7 @@ class frmPadron : public Dialogo {
   const char* importeCero() const { return conPesetas() ? "0" : "0,00"; }
 
   Enlaces<Persona> enlaces_;
-  std::deque<ParProvinciaPoblacion> pares_;
+  mutable std::optional<std::vector<forms::Field>> ultima_;
   BuscaCoincidencias coincidencias_;
   FichaEmpadronado ficha_;
   bool dniCambiado_ = false;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core/contract/Teclado.h"
 #include "core/dialogs/Guard.h"
 #include "text/Utf8.h"
 
@@ -21,6 +22,7 @@ frmPadronNotas::frmPadronNotas(Contexto& contexto)
       txtTitulo(*this, "txtTitulo", "TÍTULO:"),
       txtDescripcion(*this, "txtDescripcion", "DESCRIPCIÓN:"),
       cmdPadronNota(*this, "cmdPadronNota") {
+  setEntersFields(introPasaDeCampo(contexto.entorno.settings));
   txtTitulo.setMaxLength(MAXIMO_TITULO);
   txtDescripcion.setLines(LINEAS_DESCRIPCION);
   cmdPadronNota.add(ACEPTAR, "ACEPTAR").setDefault(true);

@@ -1,8 +1,8 @@
-#include "registers/entry/Fuentes.h"
+#include "core/lists/Fuentes.h"
 
 namespace fidaleon {
 
-std::span<const Fuente> fuentesDeRegistros() {
+std::span<const Fuente> fuentes() {
   using enum Voz;
   static const std::vector<Fuente> FUENTES{
       {"Bautismo",
@@ -106,6 +106,32 @@ std::span<const Fuente> fuentesDeRegistros() {
         {"Sacramentos", Sacramentos},
         {"Sacerdote", Ministro},
         {"CodMunicipioDefn", Lugar}}},
+      {"Padron",
+       "IDPadron",
+       {{"Direccion", Domicilio},
+        {"CPostal", CodigoPostal},
+        {"EstadoCivil", EstadoCivil},
+        {"[Profesion/Colegio]", Profesion},
+        {"PosicionFamiliar", PosicionFamiliar},
+        {"CodMunicipio", Lugar}}},
+      {"Padron_Nacimiento", "CodPadron", {{"CodMunicipioNac", Lugar}}},
+      {"Padron_Bautismo",
+       "CodPadron",
+       {{"ParroquiaBaut", Parroquia},
+        {"DireccionParrBaut", Domicilio},
+        {"CodMunicipioParrBaut", Lugar}}},
+      {"Padron_Comunion", "CodPadron", {{"ParroquiaCom", Parroquia}}},
+      {"Padron_Confirmacion",
+       "CodPadron",
+       {{"ParroquiaConf", Parroquia},
+        {"DireccionParrConf", Domicilio},
+        {"CodMunicipioParrConf", Lugar}}},
+      {"Padron_Matrimonio",
+       "CodPadron",
+       {{"ParroquiaMatr", Parroquia},
+        {"DireccionParrMatr", Domicilio},
+        {"CodMunicipioParrMatr", Lugar}}},
+      {"Grupo", "IDGrupo", {{"Año", Curso}, {"Dia", Dia}, {"Hora", Hora}, {"Sala", Sala}}},
   };
   return FUENTES;
 }

@@ -6,7 +6,7 @@
 
 namespace fidaleon {
 
-/// What the registers have written, by kind.
-std::span<const Fuente> fuentesDeRegistros();
+/// What has been written in the registers and in the census, by kind.
+std::span<const Fuente> fuentes();
 
 }  // namespace fidaleon

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "core/lists/Fuentes.h"
+
 namespace fidaleon {
 
 namespace {
@@ -15,9 +17,8 @@ Memoria& Memoria::de(const Contexto& contexto) {
   return *contexto.memoria;
 }
 
-void Memoria::leerDe(std::span<const Fuente> fuentes) {
-  if (!lecturas_.empty()) return;
-  for (const Fuente& fuente : fuentes) lecturas_.push_back({&fuente});
+Memoria::Memoria() {
+  for (const Fuente& fuente : fuentes()) lecturas_.push_back({&fuente});
 }
 
 void Memoria::ponerAlDia() {

@@ -3,7 +3,6 @@
 #include <chrono>
 #include <cstdint>
 #include <map>
-#include <span>
 #include <string>
 #include <vector>
 
@@ -29,11 +28,10 @@ struct Fuente {
 /// the tables a little at a time, the newest rows first, and taken up from what is stored here.
 class Memoria {
  public:
+  Memoria();
   /// The one of the desk.
   static Memoria& de(const Contexto& contexto);
 
-  /// From where it reads; a second call changes nothing. Not copied.
-  void leerDe(std::span<const Fuente> fuentes);
   /// Rows that have come since are read first.
   void hayNuevas();
   /// The same, and towns are read anew.

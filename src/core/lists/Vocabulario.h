@@ -25,6 +25,13 @@ enum class Voz {
   Profesion,
   Causa,
   Sacramentos,
+  CodigoPostal,
+  EstadoCivil,
+  PosicionFamiliar,
+  Curso,
+  Dia,
+  Hora,
+  Sala,
   Apellido,
   Lugar,  // the key of a town
   CUANTAS

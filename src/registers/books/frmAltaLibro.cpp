@@ -38,7 +38,7 @@ bool vacio(const std::string& texto) {
 }  // namespace
 
 frmAltaLibro::frmAltaLibro(Contexto& contexto, const Sacramento& sacramento)
-    : Dialogo(contexto, std::string("frmAltaLibro") + sacramento.palabra),
+    : DialogoConMemoria(contexto, std::string("frmAltaLibro") + sacramento.palabra),
       cboInstituciones(*this, "cboInstituciones", "Institución:"),
       cmdAgregarInstitucion(*this, "cmdAgregarInstitucion", "Agregar Institución"),
       optNuevo(*this, "optNuevo", "Nuevo", "libro"),
@@ -105,6 +105,7 @@ void frmAltaLibro::cargarInstituciones() {
   }
   cboInstituciones.selectText(
       contexto_.leerAjuste(cCRegistry::ultimos, cCRegistry::ultimos_Institucion));
+  elegirUnico(cboInstituciones);
 }
 
 void frmAltaLibro::vaciarInstituciones() {
@@ -148,6 +149,7 @@ void frmAltaLibro::optNuevo_Click() {
     listas.fillTipoNombre(cboTipoNombre, *conBaseDatos, "Nuevo");
     listas.fillFormatoLibro(cboFormato, FDAPI::cCOrigen::NuevoLibro, *conBaseDatos, 1);
     cboFormato.setEnabled(true);
+    elegirUnico(cboFormato);
     txtNombreLibro.setText("");
     adtpAltaLibro.setToday(contexto_.hoy());
     adtpAltaLibro.setLocked(true);

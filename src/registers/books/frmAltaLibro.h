@@ -6,7 +6,7 @@
 #include <string>
 
 #include "core/contract/Sacramento.h"
-#include "core/dialogs/Dialogo.h"
+#include "core/lists/DialogoConMemoria.h"
 #include "core/lists/Elecciones.h"
 #include "core/statements/Sentencia.h"
 
@@ -17,10 +17,8 @@ struct VarianteAltaLibro;
 
 /// Creation of a book. Set the public fields, then Show(). What was created is found in the store;
 /// a cancelled dialog leaves nothing behind.
-class frmAltaLibro : public Dialogo {
+class frmAltaLibro : public DialogoConMemoria {
  public:
-  /// Not owned; must be set before the dialog loads.
-  FDAPI::Conexion* conBaseDatos = nullptr;
   /// When not 0, the book can only be of this institution.
   std::int32_t lngInstitucion = 0;
   /// Name of the book that was created; empty when none was.

@@ -6,7 +6,6 @@
 #include "core/statements/Sentencia.h"
 #include "forms/Held.h"
 #include "registers/common/Guiones.h"
-#include "registers/entry/Fuentes.h"
 #include "registers/entry/frmPartida.h"
 
 namespace fidaleon {
@@ -52,9 +51,7 @@ void frmPartida::cargar() {
   ocupadas_.reset();
   if (!strPortapapeles.empty()) ui().setClipboardText(strPortapapeles);
   listas_->abrir(*conBaseDatos);
-  Memoria& memoria = Memoria::de(contexto_);
-  memoria.leerDe(fuentesDeRegistros());
-  memoria.ponerAlDia();
+  refrescarMemoria();
   posicion_->abrir(*conBaseDatos, Origen);
   vigilarElecciones();
   for (ParProvinciaPoblacion& par : pares_) par.abrir(*conBaseDatos);

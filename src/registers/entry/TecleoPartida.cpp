@@ -1,11 +1,10 @@
 // What an entry dialog does so that what repeats is not typed twice.
 
 #include <algorithm>
-#include <chrono>
 
+#include "core/contract/Teclado.h"
 #include "core/statements/Sentencia.h"
 #include "registers/common/Guiones.h"
-#include "registers/entry/Fuentes.h"
 #include "registers/entry/frmPartida.h"
 #include "text/Utf8.h"
 
@@ -15,51 +14,23 @@ using FDAPI::cCOperacion;
 
 namespace {
 
-/// At once; a key that comes meanwhile waits no longer.
-constexpr std::chrono::milliseconds PLAZO{8};
 /// For how long entries may still come into a book after the last one that is known, and dates into
 /// an entry after that one.
 constexpr int ANOS_DE_UN_LIBRO = 50;
 constexpr int ANOS_DESDE_LA_ULTIMA = 10;
-
-const std::vector<forms::Field> VACIA;
-
-bool mismaPagina(const forms::Control& a, const forms::Control& b) {
-  return a.strip() == b.strip() && a.page() == b.page();
-}
 
 int anoDe(const std::string& guardada) {
   const auto fecha = text::parseStored(guardada);
   return fecha ? fecha->year : 0;
 }
 
-const forms::Field* buscar(const std::vector<forms::Field>& campos, const std::string& nombre) {
-  const auto it = std::find_if(campos.begin(), campos.end(),
-                               [&](const forms::Field& f) { return f.control == nombre; });
-  return it == campos.end() ? nullptr : &*it;
-}
-
 }  // namespace
 
 void frmPartida::ofrecer(forms::TextBox& campo, Voz voz) {
-  if (voz == Voz::Ninguna) return;
-  if (voz == Voz::Apellido) {
+  if (voz == Voz::Apellido)
     apellidos_.push_back(&campo);
-    return;
-  }
-  campo.offers = [this, voz](const std::string& tecleado) {
-    return Memoria::de(contexto_).vocabulario.proponer(voz, tecleado);
-  };
-}
-
-bool frmPartida::workBeside() {
-  if (!leeAlLado_ || !conBaseDatos || conBaseDatos->inTransaction()) return false;
-  try {
-    return Memoria::de(contexto_).leer(*conBaseDatos, PLAZO);
-  } catch (const std::exception&) {
-    // Nobody has asked for it: there is less to be offered, and what is typed goes on.
-    return leeAlLado_ = false;
-  }
+  else
+    DialogoConMemoria::ofrecer(campo, voz);
 }
 
 /// A surname that nobody bears, beside one that many do.
@@ -81,20 +52,10 @@ void frmPartida::mirarApellidos() {
     };
 }
 
-void frmPartida::elegirUnico(forms::ComboBox& lista) {
-  if (lista.listIndex() < 0 && lista.listCount() == 1 && !lista.locked()) lista.setListIndex(0);
-}
-
-void frmPartida::recordar(std::vector<forms::Field> campos) const {
-  Memoria& memoria = Memoria::de(contexto_);
-  memoria.anteriores[name()] = std::move(campos);
-  memoria.hayNuevas();
-}
-
 /// Read once for each book.
-const std::vector<forms::Field>& frmPartida::ultimaDelLibro() const {
+const std::vector<forms::Field>& frmPartida::ultima() const {
   const std::int64_t id = esSolicitud() ? 0 : libro().data();
-  if (id == 0) return VACIA;
+  if (id == 0) return DialogoConMemoria::ultima();
   if (ultima_ && ultima_->first == id) return ultima_->second;
   ultima_.emplace(id, std::vector<forms::Field>());
   procedimiento("takeFormer", [&] {
@@ -106,55 +67,6 @@ const std::vector<forms::Field>& frmPartida::ultimaDelLibro() const {
   return ultima_->second;
 }
 
-const std::vector<forms::Field>& frmPartida::anterior() const {
-  const auto& anteriores = Memoria::de(contexto_).anteriores;
-  const auto enEsteRato = anteriores.find(name());
-  return enEsteRato == anteriores.end() ? ultimaDelLibro() : enEsteRato->second;
-}
-
-/// Through the control, as the user would. False when there is nothing to be taken.
-bool frmPartida::tomar(forms::Control& campo) {
-  for (ParProvinciaPoblacion& par : pares_) {
-    if (!par.tiene(campo)) continue;
-    const forms::Field* de = buscar(anterior(), par.poblacion().name());
-    if (!de || de->data == 0) return false;
-    par.elegir(de->data);
-    return true;
-  }
-  const forms::Field* de = buscar(anterior(), campo.name());
-  if (!de || enBlanco(de->text)) return false;
-  if (auto* texto = dynamic_cast<forms::TextBox*>(&campo)) texto->enterText(de->text);
-  if (auto* lista = dynamic_cast<forms::ComboBox*>(&campo))
-    for (int i = 0; i < lista->listCount(); ++i)
-      if (lista->list(i) == de->text) lista->userSelect(i);
-  return true;
-}
-
-/// Blank, or as the program proposed it.
-bool frmPartida::sinTocar(const forms::Control& campo) const {
-  const auto* texto = dynamic_cast<const forms::TextBox*>(&campo);
-  const auto* lista = dynamic_cast<const forms::ListControl*>(&campo);
-  const std::string ahora = texto ? texto->text() : lista ? lista->text() : "?";
-  const forms::Field* era = buscar(saved().fields, campo.name());
-  return text::trim(ahora).empty() || (era && era->text == ahora);
-}
-
-void frmPartida::takeFormer(forms::Control& campo, bool pagina) {
-  if (!takesFormer()) return;
-  bool tomado = false;
-  if (!pagina) {
-    tomado = tomar(campo);
-    if (auto* texto = dynamic_cast<forms::TextBox*>(&campo)) texto->selectAll();
-  } else {
-    for (forms::Control* otro : tabOrder())
-      if (mismaPagina(*otro, campo) && !deCadaUno_.contains(otro) && !otro->passedByEnter() &&
-          otro->usable() && sinTocar(*otro) && tomar(*otro))
-        tomado = true;
-    if (tomado && !sinTocar(campo)) goOn();
-  }
-  if (!tomado) ui().beep();
-}
-
 /// The only ones that there are need not be looked at.
 bool frmPartida::beginsSettled() const {
   return esAlta() && institucion().listIndex() >= 0 && institucion().listCount() == 1 &&
@@ -162,7 +74,7 @@ bool frmPartida::beginsSettled() const {
 }
 
 bool frmPartida::faltabaEnLaAnterior(const forms::Control& campo) const {
-  const forms::Field* era = buscar(anterior(), campo.name());
+  const forms::Field* era = buscarCampo(anterior(), campo.name());
   return era && enBlanco(era->text);
 }
 
@@ -176,7 +88,7 @@ void frmPartida::heredar(int nombre, int apellido, int delHijo, int otroProgenit
 }
 
 bool frmPartida::settled(const forms::Control& campo) const {
-  if (Form::settled(campo)) return true;
+  if (DialogoConMemoria::settled(campo)) return true;
   if (!esAlta() || visited(campo)) return false;
   if (hechos_.contains(campo.frame())) return true;
   if (std::find(deHoy_.begin(), deHoy_.end(), &campo) != deHoy_.end())
@@ -193,6 +105,7 @@ bool frmPartida::settled(const forms::Control& campo) const {
 /// The year that a date of this entry hardly lies after.
 text::DateSense frmPartida::dateSense(const forms::DateField& campo) const {
   text::DateSense sentido = Dialogo::dateSense(campo);
+  if (esSolicitud() && &campo == fechaSacramento_) sentido.latestYear += ANOS_POR_DELANTE;
   const bool antigua =
       Operacion == cCOperacion::ANTIGUA || (Operacion == cCOperacion::EDITAR && !libroNuevo_);
   if (!antigua || !fechaSacramento_) return sentido;
@@ -207,7 +120,7 @@ text::DateSense frmPartida::dateSense(const forms::DateField& campo) const {
 
 /// Of the last entry of the book, or of the day on which the book begins; 0 when neither is known.
 int frmPartida::anoDeLaUltima() const {
-  if (const forms::Field* fecha = buscar(ultimaDelLibro(), fechaSacramento_->name()))
+  if (const forms::Field* fecha = buscarCampo(ultima(), fechaSacramento_->name()))
     if (const auto dia = text::parseShort(fecha->text)) return dia->year;
   int ano = 0;
   procedimiento("dateSense", [&] {

@@ -2,7 +2,6 @@
 
 #include "registers/entry/frmPartida.h"
 
-#include "core/contract/Teclado.h"
 #include "registers/common/Guiones.h"
 
 namespace fidaleon {
@@ -21,7 +20,7 @@ constexpr int LINEAS_OBSERVACIONES = 5;
 }  // namespace
 
 frmPartida::frmPartida(Contexto& contexto, const VariantePartida& variante)
-    : Dialogo(contexto, std::string("frmPartida") + variante.sacramento.palabra),
+    : DialogoConMemoria(contexto, std::string("frmPartida") + variante.sacramento.palabra),
       mstPartida(*this, std::string("mst") + variante.sacramento.palabra, variante.pestanas),
       txtPartida(*this, std::string("txt") + variante.sacramento.palabra),
       adtpPartida(*this, std::string("adtp") + variante.sacramento.palabra),
@@ -36,7 +35,6 @@ frmPartida::frmPartida(Contexto& contexto, const VariantePartida& variante)
       cmdAltaProvincia(*this, "cmdAltaProvincia", "Agregar Provincia"),
       cmdAltaPoblacion(*this, "cmdAltaPoblacion", "Agregar Población"),
       variante_(variante) {
-  setEntersFields(introPasaDeCampo(contexto.entorno.settings));
   cboPartida.add(variante_.listaInstitucion, "INSTITUCIÓN:").setWidthChars(40);
   cboPartida.add(variante_.listaLibro, "LIBRO:").setWidthChars(40);
   for (auto [indice, etiqueta] : {std::pair{FOLIO, "FOLIO:"}, {NUMERO, "NÚMERO:"}}) {

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstdint>
-#include <deque>
 #include <functional>
 #include <map>
 #include <optional>
@@ -10,10 +9,8 @@
 #include <utility>
 #include <vector>
 
-#include "core/dialogs/Dialogo.h"
+#include "core/lists/DialogoConMemoria.h"
 #include "core/lists/Elecciones.h"
-#include "core/lists/Memoria.h"
-#include "core/lists/ParProvinciaPoblacion.h"
 #include "registers/allocation/PosicionPartida.h"
 #include "registers/common/LimiteNotas.h"
 #include "registers/common/ListasDeLibro.h"
@@ -33,10 +30,8 @@ namespace fidaleon {
 /// what fields there are (texto, fecha, municipio and their like), whom the entry is about
 /// (persona), which fields mean something to all (ponerNotas, fechaDelSacramento, serie), then
 /// calls disponer() with its tabs.
-class frmPartida : public Dialogo {
+class frmPartida : public DialogoConMemoria {
  public:
-  /// Not owned; must be set before the dialog loads.
-  FDAPI::Conexion* conBaseDatos = nullptr;
   /// The entry, for EDITAR and EDITARSOLICITUD from the tree.
   std::int32_t lngID = 0;
   FDAPI::cCOperacion Operacion{};
@@ -51,13 +46,9 @@ class frmPartida : public Dialogo {
   /// The institution of a new request, 0 to let the user choose.
   std::int32_t InstitucionSolicitud = 0;
 
-  /// Of the entry stored last at this desk, or of the last one of the book. The page leaves out
-  /// what is of each entry alone.
-  void takeFormer(forms::Control& field, bool page) override;
   bool takesFormer() const override { return esAlta() && !isReadOnly(); }
   /// The century is that of the book.
   text::DateSense dateSense(const forms::DateField& field) const override;
-  bool workBeside() override;
   std::string ownWork() const override;
   std::string putBackOwnWork(const std::string& work) override;
 
@@ -132,8 +123,6 @@ class frmPartida : public Dialogo {
   void heredar(int nombre, int apellido, int delHijo, int otroProgenitor = -1);
   /// What a look-up has filled as a whole: Enter stops no more in it, not at what is blank either.
   void darPorHecho(const forms::Frame& grupo) { hechos_.insert(&grupo); }
-  /// Hardly the same in two entries: taken over alone, never with its page.
-  void deCadaUno(const forms::Control& campo) { deCadaUno_.insert(&campo); }
   RevisionFechas& revision() { return fechasRevisadas_; }
   /// What the institution gives for a field, unless something else has been written there.
   void proponer(forms::TextBox& campo, const std::string& valor);
@@ -189,8 +178,6 @@ class frmPartida : public Dialogo {
   void moverFechaDelLibro() const;
   /// "codlibro=1 OR codlibro=2", the books that the repeated-entry check looks in; empty for none.
   std::string librosDondeRepetida() const;
-  /// These are the fields of the entry that has been stored.
-  void recordar(std::vector<forms::Field> campos) const;
   /// The new entry is stored, and something beside it is not: it is gone on with as a correction.
   void seguirCorrigiendo();
 
@@ -236,13 +223,10 @@ class frmPartida : public Dialogo {
   bool settled(const forms::Control& field) const override;
   bool beginsSettled() const override;
   bool faltabaEnLaAnterior(const forms::Control& campo) const;
-  void elegirUnico(forms::ComboBox& lista);
   void mirarApellidos();
   void mirarApellido(forms::TextBox& campo);
-  const std::vector<forms::Field>& ultimaDelLibro() const;
-  const std::vector<forms::Field>& anterior() const;
-  bool tomar(forms::Control& campo);
-  bool sinTocar(const forms::Control& campo) const;
+  /// Of the book.
+  const std::vector<forms::Field>& ultima() const override;
   int anoDeLaUltima() const;
 
   // Events
@@ -279,7 +263,6 @@ class frmPartida : public Dialogo {
   std::vector<forms::DateField*> fechas_;
   std::vector<forms::TimeField*> horas_;
   std::vector<forms::ComboBox*> elegibles_;
-  std::deque<ParProvinciaPoblacion> pares_;
   std::vector<Persona> personas_;
   forms::TextBox* notas_ = nullptr;
   const forms::DateField* fechaSacramento_ = nullptr;
@@ -290,7 +273,6 @@ class frmPartida : public Dialogo {
   std::vector<forms::CheckBox*> marcas_;
   std::vector<forms::TextBox*> anexos_;
   std::vector<forms::TextBox*> apellidos_;
-  std::set<const forms::Control*> deCadaUno_;
   std::vector<forms::Control*> deHoy_;
   std::set<const forms::Frame*> hechos_;
   mutable std::optional<std::pair<std::int64_t, std::vector<forms::Field>>> ultima_;  // of a book
@@ -302,7 +284,6 @@ class frmPartida : public Dialogo {
   std::optional<std::vector<Posicion>> ocupadas_;  // in the list, until it changes
   std::optional<LimiteNotas> limiteNotas_;
   RevisionFechas fechasRevisadas_{contexto_};
-  bool leeAlLado_ = true;  // what has been written, while the user writes
   bool anulada_ = false;
   bool libroNuevo_ = true;
   bool cargando_ = false;

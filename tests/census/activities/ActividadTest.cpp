@@ -51,6 +51,7 @@ struct Actividades : En<GruposWorld> {
 };
 
 TEST_F(Actividades, New_StoresGroupsAndMembersInOneTransaction) {
+  institucion("San Blas");
   escrito();
   espera("frmActividad", [&](FormDriver& d) {
     user.expectMessage("¡Debe seleccionar una Institución!");

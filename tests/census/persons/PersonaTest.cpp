@@ -124,6 +124,7 @@ TEST_F(Personas, Amount_IsTypedInOneCurrencyAndStoredInBoth) {
 }
 
 TEST_F(Personas, NoInstitutionChosen_OtherTabsStayShutUnlessOneOnlyLooks) {
+  institucion("San Blas");
   altaPersona([&](FormDriver& u) {
     user.expectMessage("¡Debe seleccionar una Institución!");
     u.tab(MST, P::TAB_DEFUNCION);
@@ -191,16 +192,46 @@ TEST_F(Personas, KeysThatDoNotFitAField_BeepOrAreChanged) {
   });
 }
 
-TEST_F(Personas, PersonsThere_SuggestTheirPositionsAndCivilStatus) {
+TEST_F(Personas, PersonsThere_OfferWhatWasWrittenOfThem) {
   for (const char* posicion : {"Padre", "Hijo", "Padre", ""})
     ejecutar(std::string("UPDATE Padron SET EstadoCivil='Soltero',PosicionFamiliar='") + posicion +
              "' WHERE IDPadron=" + texto(rosa()));
   altaPersona([&](FormDriver& u) {
-    const auto de = [&](P::Texto campo) { return u.get<forms::TextBox>(t(campo)).suggestions(); };
-    EXPECT_EQ(de(P::PosicionFamiliar), (Sentencias{"Hijo", "Padre"}));
-    EXPECT_EQ(de(P::EstadoCivil), Sentencias{"Soltero"});
+    EXPECT_EQ(u.offered(t(P::PosicionFamiliar), ""), (Sentencias{"Padre", "Hijo"}));
+    EXPECT_EQ(u.offered(t(P::EstadoCivil), "sol"), Sentencias{"Soltero"});
+    EXPECT_EQ(u.offered(t(P::Direccion), "mayor"), Sentencias{"Calle Mayor, 3"});
+    EXPECT_EQ(u.offered(t(P::ParroquiaConf), "gines"), Sentencias{"San Ginés"});
     u.escape();
   });
+}
+
+TEST_F(Personas, NextOfTheFamily_TakesWhatTheyHaveInCommonAndNothingElse) {
+  altaPersona([&](FormDriver& u) {
+    poner(u, MINIMO);
+    poner(u, DATOS);
+    u.click(ACEPTAR);
+  });
+  for (const bool trasOtraSesion : {false, true}) {
+    if (trasOtraSesion) contexto.memoria.reset();
+    altaPersona([&](FormDriver& u) {
+      u.focus(t(P::Nombre));
+      u.former(true);
+      comprobar(u, l(P::Institucion), "San Ginés", t(P::Direccion), "Calle, 3",
+                l(P::ProvinciaDireccion + 1), "Illescas", t(P::CPostal), "45200", t(P::Telefono),
+                "925111222");
+      u.focus(t(P::PosicionFamiliar));
+      u.former();
+      poner(u, t(P::NombrePadre), "Juan");
+      u.former(true);
+      comprobar(u, t(P::PosicionFamiliar), "Madre", t(P::NombrePadre), "Juan", t(P::NombreMadre),
+                "Carmen", t(P::ParroquiaBaut), "La Paz", l(P::ProvinciaNac + 1), "Ocaña");
+      for (const std::string& suyo : {t(P::Nombre), t(P::PrimerApellido), t(P::NIF), t(P::LetraNIF),
+                                      l(P::Sexo), t(P::Telefono2), t(P::CorreoElectronico),
+                                      t(P::EstadoCivil), f(P::FechaNacimiento), f(P::FechaBautizo)})
+        EXPECT_EQ(u.text(suyo), "") << suyo;
+      u.form().Unload();
+    });
+  }
 }
 
 TEST_F(Personas, CatalogueGrowsFromTheCard_ListsShowItAndKeepWhatWasChosen) {
@@ -380,7 +411,7 @@ TEST_F(Personas, Notes_AreListedInShortAndOnlyAChosenOneIsChangedOrRemoved) {
     espera("frmPadronNotas", [](FormDriver& n) {
       EXPECT_EQ(n.caption(), "Propiedades nota personal Otra");
       poner(n, "txtTitulo", "Cambiada");
-      n.enter();
+      n.ctrlEnter();
     });
     u.doubleClick("msgNotas", 2);
     EXPECT_EQ(columna(u, "msgNotas"), "Vieja|Cambiada|Nueva|Pasajera");
