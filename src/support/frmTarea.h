@@ -21,6 +21,10 @@ class frmTarea : public Ficha {
 
  protected:
   void cargar() override;
+  /// The end that is proposed is the one that is changed most.
+  bool settled(const forms::Control& field) const override {
+    return &field != &txtHoraFin && Form::settled(field);
+  }
   bool comprobar() override;
   void guardar() override;
 

@@ -51,7 +51,7 @@ TEST_F(Catalogues, NewProvince_IsRefusedUntilItIsOneOfItsOwn) {
     refused(u, "¡Ya existe una provincia con ese código oficial!");
     EXPECT_EQ(w.count("Provincia"), 52);
     u.type("txtCodigoOficial", "");
-    u.enter();
+    u.ctrlEnter();
   });
   EXPECT_TRUE(addProvince());
   EXPECT_EQ(w.value("SELECT Nombre FROM Provincia WHERE IDProvincia=53"), "La ''Isla''");

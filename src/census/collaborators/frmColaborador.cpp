@@ -87,8 +87,9 @@ void frmColaborador::crearTextos() {
     ofrecer(campo, c.voz);
     enlaces_.textos.push_back({&campo, c.miembro});
   }
-  for (const Texto suyo : {Nombre, PrimerApellido, SegundoApellido, Telefono2, CorreoElectronico,
-                           ProfesionColegio, Comentarios, Cumpleaños, AñoNacimiento, Observaciones})
+  for (const Texto suyo :
+       {Nombre, PrimerApellido, SegundoApellido, Telefono, Telefono2, CorreoElectronico,
+        ProfesionColegio, Comentarios, Cumpleaños, AñoNacimiento, Observaciones})
     deCadaUno(txtColaborador[suyo]);
   for (const Texto cifras : {CPostal, Telefono, Telefono2, AñoNacimiento})
     soloDigitos(contexto_, txtColaborador[cifras]);
