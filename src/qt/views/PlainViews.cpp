@@ -1,5 +1,6 @@
 #include "qt/views/PlainViews.h"
 
+#include <QAbstractButton>
 #include <QEvent>
 #include <QGroupBox>
 #include <QLabel>
@@ -22,7 +23,8 @@ QWidget* LabelView::widget() const {
 }
 
 void LabelView::setBuddy(const forms::Control& control, QWidget* field) {
-  named_ = &control;
+  // A button bears its letter itself.
+  named_ = qobject_cast<QAbstractButton*>(field) ? nullptr : &control;
   label_->setBuddy(field);
 }
 
