@@ -11,6 +11,7 @@ struct Option {
   const char* name;
   CommandLine::Task task;
   const char* needs;
+  const char* goesWith = nullptr;
 };
 
 constexpr std::array<Option, 18> OPTIONS{{
@@ -24,14 +25,14 @@ constexpr std::array<Option, 18> OPTIONS{{
     {"--guion", CommandLine::Task::Script, "el nombre de una base de datos"},
     // Go with --servidor or --trasladar.
     {"--base", CommandLine::Task::Wrong, "SERVIDOR[:PUERTO]/BASE"},
-    {"--usuario", CommandLine::Task::Wrong, "un usuario del servidor"},
-    {"--clave", CommandLine::Task::Wrong, "un archivo con la contraseña"},
-    {"--certificado", CommandLine::Task::Wrong, "un archivo"},
-    {"--a", CommandLine::Task::Wrong, "una carpeta"},
-    {"--nueva", CommandLine::Task::Wrong, "el nombre de la parroquia"},
-    {"--poblacion", CommandLine::Task::Wrong, "una población"},
-    {"--provincia", CommandLine::Task::Wrong, "el código de una provincia, del 1 al 52"},
-    {"--edicion", CommandLine::Task::Wrong, "Madrid, Santiago, Zaragoza o Menorca"},
+    {"--usuario", CommandLine::Task::Wrong, "un usuario del servidor", "--base"},
+    {"--clave", CommandLine::Task::Wrong, "un archivo con la contraseña", "--base"},
+    {"--certificado", CommandLine::Task::Wrong, "un archivo", "--base"},
+    {"--a", CommandLine::Task::Wrong, "una carpeta", "--trasladar"},
+    {"--nueva", CommandLine::Task::Wrong, "el nombre de la parroquia", "--servidor"},
+    {"--poblacion", CommandLine::Task::Wrong, "una población", "--nueva"},
+    {"--provincia", CommandLine::Task::Wrong, "el código de una provincia, del 1 al 52", "--nueva"},
+    {"--edicion", CommandLine::Task::Wrong, "Madrid, Santiago, Zaragoza o Menorca", "--nueva"},
     // Goes with --tabla.
     {"--codigos", CommandLine::Task::Table, "una página de códigos, como 850 o 1252"},
 }};
@@ -44,6 +45,20 @@ CommandLine wrong(const std::string& complaint) {
 const Option* optionNamed(const std::string& name) {
   for (const Option& o : OPTIONS)
     if (name == o.name) return &o;
+  return nullptr;
+}
+
+bool isGiven(const CommandLine& line, const std::string& name) {
+  const Option* option = optionNamed(name);
+  return line.more.contains(name) ||
+         (option->task == line.task && line.task != CommandLine::Task::Wrong);
+}
+
+/// An option that would be passed over without a word.
+const Option* leftAlone(const CommandLine& line) {
+  for (const Option& o : OPTIONS)
+    if (o.goesWith != nullptr && line.more.contains(o.name) && !isGiven(line, o.goesWith))
+      return &o;
   return nullptr;
 }
 
@@ -92,6 +107,8 @@ CommandLine CommandLine::parse(const std::vector<std::string>& arguments) {
     return wrong("La opción --codigos solo va con --tabla.");
   if (!line.more.empty() && line.task != Task::Server && line.task != Task::Move)
     return wrong("La opción " + line.more.begin()->first + " va con --servidor o --trasladar.");
+  if (const Option* alone = leftAlone(line))
+    return wrong("La opción " + std::string(alone->name) + " va con " + alone->goesWith + ".");
   return line;
 }
 

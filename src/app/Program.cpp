@@ -78,14 +78,11 @@ int runProgram(int argc, char** argv) {
     return 2;
   }
   if (line.task == CommandLine::Task::Table) return printTable(line);
-  if (line.task == CommandLine::Task::Import) return importRegisters(line.path);
   store::keepPasswordsIn(std::make_unique<SecretKeeper>(std::make_unique<store::PassFile>()));
+  if (line.task == CommandLine::Task::Import) return importRegisters(line.path);
   if (line.task == CommandLine::Task::Server) return connectServer(line);
   if (line.task == CommandLine::Task::Move) return moveToServer(line);
-  if (line.task == CommandLine::Task::Script) {
-    std::cout << rolesScript(line.path.string());
-    return 0;
-  }
+  if (line.task == CommandLine::Task::Script) return printScript(line);
   if (needsNoWindow(line)) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
   } else if (qEnvironmentVariableIsEmpty("DISPLAY") &&

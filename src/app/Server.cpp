@@ -10,6 +10,7 @@
 
 #include "parish/ParishFiles.h"
 #include "parish/Preferences.h"
+#include "parish/server/ServerLook.h"
 #include "parish/server/ServerParish.h"
 #include "store/postgres/Link.h"
 #include "store/postgres/ServerAccess.h"
@@ -63,14 +64,17 @@ std::string firstLineOf(const std::filesystem::path& file) {
   if (!std::getline(in, line))
     throw store::Error(store::ErrorKind::Missing,
                        "No se puede leer la contraseña de «" + file.string() + "».");
+  if (line.ends_with('\r')) line.pop_back();
   return line;
 }
 
 std::string asked(const store::ServerAddress& address) {
   std::cerr << "Contraseña de " << address.user << " para " << address.shown() << ": ";
+  const Interruption heeded;
   const NoEcho silent;
   std::string password;
   std::getline(std::cin, password);
+  if (interrupted != 0) throw store::Error(store::ErrorKind::Cancelled, "Se ha cancelado.");
   return password;
 }
 
@@ -98,7 +102,9 @@ store::ServerAddress addressOf(const CommandLine& line) {
     throw std::invalid_argument(
         "Hacen falta --base SERVIDOR[:PUERTO]/BASE y --usuario USUARIO, como en --base "
         "archivo.diocesis.es/sanblas --usuario ana.");
-  address->rootCertificate = line.with("--certificado");
+  const std::string certificate = line.with("--certificado");
+  if (!certificate.empty())  // the desktop starts the program in another folder
+    address->rootCertificate = std::filesystem::absolute(certificate).string();
   return *address;
 }
 
@@ -193,13 +199,20 @@ int connectServer(const CommandLine& line) {
   return told([&] {
     const store::ServerAddress address = addressOf(line);
     enter(address, line.with("--clave"));
-    if (line.with("--nueva").empty())
-      connectParish(line.path, address);
-    else
+    const bool isNew = !line.with("--nueva").empty();
+    const ServerLook look = lookAt(address);
+    if (isNew ? !look.owns : !look.canBeJoined()) throw std::runtime_error(spoken(look, address));
+    if (isNew)
       create(line, address);
+    else
+      connectParish(line.path, address);
     std::cout << "La carpeta «" << line.path.string() << "» es desde ahora la de la parroquia de "
               << address.shown() << ".\n";
   });
+}
+
+int printScript(const CommandLine& line) {
+  return told([&] { std::cout << rolesScript(line.path.string()); });
 }
 
 int moveToServer(const CommandLine& line) {

@@ -9,6 +9,8 @@ namespace fidaleon::app {
 int connectServer(const CommandLine& line);
 /// Moves a parish to another folder, into a file or onto a server. Ctrl+C gives it up; the same
 /// command goes on with it.
+/// The script of an administrator on the standard output.
+int printScript(const CommandLine& line);
 int moveToServer(const CommandLine& line);
 
 }  // namespace fidaleon::app

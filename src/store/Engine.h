@@ -97,7 +97,11 @@ class Engine {
   /// do, here and in the next two.
   virtual void requireSound(Check, const Progress&) {}
   void requireSound() { requireSound(Check::Whole, {}); }
-  /// Builds indexes anew for the order of text that the libraries of this machine have now.
+  /// Whether a server's libraries order text in another way than those that built its indexes.
+  /// Throws ReadOnly where they do and this user may not build them anew.
+  virtual bool isTextOrderOld() { return false; }
+  /// Builds indexes anew for the order of text that the libraries of this machine, or of the
+  /// server, have now.
   virtual void renewTextOrder() {}
   virtual void prepareFor(Writing) {}
   /// Must hold whenever something is written from now on; null for nothing. Outlives the engine or

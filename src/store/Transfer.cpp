@@ -301,6 +301,7 @@ std::vector<std::int64_t> moveDatabase(Backend& from, Backend& to, const Schema&
   source->beginReading();
   {
     const Backend::Unfinished target = to.unfinished(schema);
+    if (watch.begun) watch.begun();
     if (target.resumed && watch.tell) watch.tell("Se sigue donde se quedó la otra vez.");
     copyRows(*source, *target.engine, schema, partOf(progress, 0, 550),
              target.resumed ? watch.tell : Telling(), watch.at);

@@ -25,6 +25,7 @@ struct TransferWatch {
   Progress progress;
   Telling tell;
   AtTable at;
+  std::function<void()> begun = {};  // the target is this one's to fill
 };
 
 /// The tables of `to` hold then what those of `from` hold, row by row with the same keys, in the

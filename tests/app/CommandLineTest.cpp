@@ -26,6 +26,12 @@ TEST(CommandLine, saysWhatIsWrong) {
   EXPECT_EQ(CommandLine::parse({"--demo="}).task, Task::Wrong);
   EXPECT_EQ(CommandLine::parse({"--demo", "a", "--datos", "b"}).task, Task::Wrong);
   EXPECT_EQ(CommandLine::parse({"--datos", "Bu\xF1uel"}).task, Task::Wrong);
+  for (const std::vector<std::string>& alone : std::vector<std::vector<std::string>>{
+           {"--trasladar", "x", "--a", "y", "--usuario", "ana"},
+           {"--trasladar", "x", "--a", "y", "--nueva", "San Blas"},
+           {"--servidor", "x", "--base", "s/b", "--usuario", "ana", "--a", "y"},
+           {"--servidor", "x", "--base", "s/b", "--usuario", "ana", "--poblacion", "Ávila"}})
+    EXPECT_EQ(CommandLine::parse(alone).task, Task::Wrong) << alone[alone.size() - 2];
 }
 
 }  // namespace fidaleon::app::CommandLineTest

@@ -1,8 +1,10 @@
 // The windows through which a desk comes to a parish on a server, and a parish goes there.
 
+#include <fstream>
 #include <future>
 
 #include "parish/server/ServerLook.h"
+#include "parish/server/ServerParish.h"
 #include "support/PostgresCluster.h"
 #include "window/Beside.h"
 #include "window/CopiesFixture.h"
@@ -130,6 +132,53 @@ TEST_F(ServerWindows, GivenPassword_IsUsedBeforeTheKeptOneAndForgottenWhenNotWan
   store::usePassword(guest(), "abierto", store::Remember::No);
   EXPECT_EQ(store::passwordFor(guest()), "abierto");
   EXPECT_EQ(file.find(guest()), std::nullopt);
+}
+
+/// What the script of an administrator leaves behind on the server of all tests.
+struct Roles {
+  explicit Roles(const std::filesystem::path& folder) {
+    const store::ServerAddress all = tests::PostgresCluster::running().address();
+    std::ofstream(folder / "guion.sql") << rolesScript(base);
+    const std::string order = "psql -X -q -h " + all.host + " -U " + all.user + " -d postgres -f " +
+                              (folder / "guion.sql").string();
+    EXPECT_EQ(std::system((order + " && " + order).c_str()), 0) << "it may be repeated";
+    tests::PostgresCluster::running().link().run("CREATE ROLE " + base + "_ana LOGIN IN ROLE " +
+                                                 base + "_usuario");
+    tests::PostgresCluster::running().link().run("CREATE ROLE " + base + "_leo LOGIN IN ROLE " +
+                                                 base + "_lector");
+  }
+  ~Roles() {
+    store::Link& link = tests::PostgresCluster::running().link();
+    link.run("DROP DATABASE " + base + " WITH (FORCE)");
+    for (const char* role : {"_ana", "_leo", "_dueno", "_usuario", "_lector"})
+      link.run("DROP ROLE " + base + role);
+  }
+  Roles(const Roles&) = delete;
+  Roles& operator=(const Roles&) = delete;
+  store::ServerAddress of(const std::string& who) const {
+    store::ServerAddress address = tests::PostgresCluster::running().address(base);
+    address.user = base + who;
+    return address;
+  }
+
+  std::string base = "papeles_" + std::to_string(getpid());
+};
+
+TEST_F(ServerWindows, RolesOfTheScript_SufficeForWorkAndForNoMore) {
+  const Roles roles(directory());
+  NewParish parish = onServer();
+  parish.server = roles.of("_dueno");
+  createParish(parish, clock.today());
+  EXPECT_FALSE(lookAt(roles.of("_leo")).canBeJoined());
+  connectParish(directory() / "puesto", roles.of("_ana"));
+  Desk ana(ParishFiles(directory() / "puesto"), "Ana", user, settings, clock);
+  ana.parish().Execute("INSERT INTO Cargo (Nombre) VALUES ('Sacristana')");
+  for (const char* who : {"_ana", "_leo"})
+    for (const char* sql : {"DROP TABLE fidaleon.\"Cargo\"", "TRUNCATE fidaleon.\"Cargo\""})
+      EXPECT_THROW(store::Link(roles.of(who)).run(sql), store::Error) << who << sql;
+  EXPECT_THROW(store::Link(roles.of("_leo")).run("DELETE FROM fidaleon.\"Cargo\""), store::Error);
+  for (const char* name : {"o'neill", "a=b", "a\"b"})
+    EXPECT_THROW(rolesScript(name), std::invalid_argument) << name;
 }
 
 /// A server that does not answer.

@@ -2,6 +2,7 @@
 
 #include "files/Machine.h"
 #include "store/FailingEngine.h"
+#include "store/schema/Installer.h"
 #include "support/NewDatabase.h"
 #include "support/Relay.h"
 
@@ -52,6 +53,23 @@ TEST_F(PostgresFaults, ServerRestarted_CostsOnlyTheTransactionThatWasOpen) {
   add("c");
   connection.CommitTrans();
   EXPECT_EQ(names(), "abc");
+}
+
+TEST_F(PostgresFaults, WhatTheServerDoesByItself_ChangesNothing) {
+  const std::string name = Link::name(database.address().database);
+  Link& cluster = tests::PostgresCluster::running().link();
+  cluster.run("ALTER DATABASE " + name + " SET default_transaction_isolation TO serializable");
+  cluster.run("ALTER DATABASE " + name + " SET statement_timeout TO '1s'");
+  Link(database.address()).run("UPDATE pg_collation SET collversion = '1' WHERE collname = 'es'");
+  PostgresEngine engine(database.address());
+  EXPECT_TRUE(engine.isTextOrderOld()) << "as after another version of ICU";
+  Installer(engine, parishSchema()).upgrade();
+  EXPECT_FALSE(engine.isTextOrderOld());
+  EXPECT_EQ(engine.link().ask("SHOW statement_timeout").text(0, 0), "0");
+  engine.begin(0);
+  engine.run("INSERT INTO \"Cargo\" (\"Nombre\") VALUES ('a')");
+  EXPECT_EQ(engine.link().ask("SHOW transaction_isolation").text(0, 0), "read committed");
+  engine.rollback(0);
 }
 
 TEST_F(PostgresFaults, CutAtTheEndOfATransaction_NeitherDoublesNorLosesIt) {

@@ -78,7 +78,8 @@ TEST(PostgresLink, Address_IsReadAsItWasWritten) {
   const ServerAddress address{"archivo.diocesis.es", 5433, "parroquia", "ana", "/etc/raiz.pem"};
   EXPECT_EQ(ServerAddress::parse("# diócesis\n" + address.written()), address);
   EXPECT_FALSE(address.isThisMachine());
-  for (const auto& [hosts, here] : {std::pair{"/run/a,127.0.0.1", true}, {"/run/a,b.es", false}})
+  for (const auto& [hosts, here] :
+       {std::pair{"/run/a,127.0.0.1", true}, {"/run/a,b.es", false}, {"127.0.0.1.es", false}})
     EXPECT_EQ(ServerAddress({hosts, 5432, "p", "ana", {}}).isThisMachine(), here) << hosts;
   for (const char* broken : {"", "servidor=a\nbase=b", "servidor=a\nbase=b\nusuario=c\npuerto=0"})
     EXPECT_EQ(kindOf([&] { ServerAddress::parse(broken); }), ErrorKind::NotADatabase);

@@ -21,7 +21,8 @@ namespace fidaleon::tests {
 
 class Relay {
  public:
-  /// What becomes of the first packet to the server that holds the text of cutAt().
+  /// What becomes of the first packet to the server with a statement that begins with the text of
+  /// cutAt().
   enum class Cut { None, Before, Behind };
 
   /// Its socket lies in `folder`, which outlives it.
@@ -45,7 +46,7 @@ class Relay {
   void setDelay(std::chrono::microseconds delay) { delay_ = delay; }
   /// The link is cut there, and those who come later are turned away until open().
   void cutAt(const std::string& text, Cut cut) {
-    text_ = text;
+    text_ = '\0' + text;
     cut_ = cut;
   }
   void open() { closed_ = false; }

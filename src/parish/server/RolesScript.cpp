@@ -1,3 +1,5 @@
+#include <stdexcept>
+
 #include "parish/server/ServerParish.h"
 #include "store/postgres/Link.h"
 #include "text/Utf8.h"
@@ -5,6 +7,8 @@
 namespace fidaleon::app {
 
 namespace {
+
+constexpr std::size_t LONGEST = 55;  // with the ends of its roles, as long as names may be
 
 constexpr const char* SCRIPT =
     R"sql(-- Fidaleon: papeles y base de datos «{base}» en un servidor PostgreSQL (14 o posterior).
@@ -53,8 +57,11 @@ GRANT SELECT ON ALL SEQUENCES IN SCHEMA fidaleon TO {lector};
 }  // namespace
 
 std::string rolesScript(const std::string& database) {
+  if (database.size() > LONGEST || database.find_first_of("'\"=\\/") != std::string::npos)
+    throw std::invalid_argument("La base de datos no puede llamarse «" + database +
+                                "»: sin comillas ni los signos = \\ /, y con " +
+                                std::to_string(LONGEST) + " letras como mucho.");
   std::string script = SCRIPT;
-  // Within a text that \gexec carries out, an apostrophe would stand twice; names have none.
   for (const char* role : {"dueno", "usuario", "lector"}) {
     const std::string name = database + "_" + role;
     script = text::replaceAll(script, "{" + std::string(role) + "}", store::Link::name(name));

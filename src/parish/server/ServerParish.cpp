@@ -83,7 +83,10 @@ std::optional<store::ServerAddress> addressFrom(const std::string& written,
   address.user = user;
   const std::size_t colon = address.host.rfind(':');
   const bool inBrackets = address.host.starts_with('[');
-  if (colon != std::string::npos && (!inBrackets || address.host[colon - 1] == ']')) {
+  const bool colons = colon != std::string::npos && address.host.find(':') != colon;
+  if (colons && address.host.find(',') != std::string::npos) return std::nullopt;  // one port
+  if (colon != std::string::npos && (inBrackets || !colons) &&
+      (!inBrackets || address.host[colon - 1] == ']')) {
     const auto port = text::toInteger(address.host.substr(colon + 1));
     if (!port || *port < 1 || *port > 65535) return std::nullopt;
     address.port = static_cast<int>(*port);
@@ -121,9 +124,9 @@ Moved moveParish(const MoveOrder& order, const std::string& user, const std::str
     throw store::Error(store::ErrorKind::Missing,
                        "En la carpeta «" + order.from.string() + "» no hay ninguna parroquia.");
   makeFolder(order.to);
-  // Stays, so that what is half done can be gone on with.
+  std::optional<NewAddress> address;
   if (order.address)
-    NewAddress(order.to, *order.address).keep();
+    address.emplace(order.to, *order.address);
   else if (target.exists())
     throw store::NameTaken(target.parish());
   MoveNote note{fs::absolute(order.to), since};
@@ -133,9 +136,14 @@ Moved moveParish(const MoveOrder& order, const std::string& user, const std::str
     const auto meeting = locks::meetingAt(order.to);
     const auto guard = meeting->enter();
     const auto there = store::backendAt(target.parish());
-    writeMoveNote(source, note);
+    store::TransferWatch also = watch;
+    // From here on something is half done, and can be gone on with.
+    also.begun = [&] {
+      if (address) address->keep();
+      writeMoveNote(source, note);
+    };
     moved = counted(store::moveDatabase(*store::backendAt(source.parish()), *there,
-                                        store::parishSchema(), watch));
+                                        store::parishSchema(), also));
     note.done = true;
     writeMoveNote(source, note);
   }));

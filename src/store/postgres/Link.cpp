@@ -17,6 +17,8 @@ constexpr int kOldest = 140000;  // the first that looks whether its client is s
 constexpr const char* kSettings =
     "SET search_path TO fidaleon; SET standard_conforming_strings TO on; "
     "SET client_min_messages TO warning; SET lock_timeout TO '4s'; "
+    "SET statement_timeout TO 0; SET idle_in_transaction_session_timeout TO 0; "
+    "SET idle_session_timeout TO 0; "
     "SET jit TO off; "  // it takes longer than any statement of ours
     "SET tcp_keepalives_idle TO 10; SET tcp_keepalives_interval TO 5; "
     "SET tcp_keepalives_count TO 3; SET tcp_user_timeout TO '25s'; "
@@ -81,6 +83,7 @@ Link::Link(const ServerAddress& address, const std::string& password, const std:
 void Link::settle() {
   if (!isOpen()) throw connectionError(link_.get(), address_.shown());
   requireRecent(PQserverVersion(link_.get()));
+  requireAllSigns();
   PQsetNoticeProcessor(
       link_.get(), [](void*, const char*) {}, nullptr);
   {
@@ -95,6 +98,15 @@ void Link::requireRecent(int version) {
   throw Error(ErrorKind::NotADatabase, "El servidor tiene PostgreSQL " +
                                            std::to_string(version / 10000) +
                                            ": hace falta PostgreSQL 14 o posterior.");
+}
+
+void Link::requireAllSigns() const {
+  const char* encoding = PQparameterStatus(link_.get(), "server_encoding");
+  if (encoding != nullptr && std::string_view(encoding) == "UTF8") return;
+  throw Error(ErrorKind::NotADatabase,
+              "La base de datos " + address_.shown() +
+                  " no puede guardar todas las letras: no está en UTF-8. Hay que crear otra, como "
+                  "hace el guion de fidaleon --guion.");
 }
 
 void Link::renew() {

@@ -67,6 +67,8 @@ class Link {
 
   /// Throws as the maker does; a version as the library numbers it, 150006 for 15.6.
   static void requireRecent(int version);
+  /// Throws NotADatabase for a database that cannot keep every letter.
+  void requireAllSigns() const;
 
   const ServerAddress& address() const { return address_; }
   /// False once an answer has not come. That a silent link is lost is not known before it is used.

@@ -120,7 +120,9 @@ void PostgresEngine::open() {
   takeUp();
   stage_ = Stage::Open;
   if (reading_) return link_.add({{}, "BEGIN ISOLATION LEVEL REPEATABLE READ READ ONLY"});
-  link_.add({{}, "BEGIN"});
+  // Whatever the server does by itself: what is read under the turn must be what the one before
+  // has stored.
+  link_.add({{}, "BEGIN ISOLATION LEVEL READ COMMITTED READ WRITE"});
   link_.add({{},
              "SELECT pg_advisory_xact_lock(" + std::to_string(kFamily) + ", " +
                  std::to_string(kWriters) + "), pg_current_xact_id(), " + ServerTransaction::kEra},
@@ -128,6 +130,28 @@ void PostgresEngine::open() {
               transaction_ = {std::string(answer.text(0, 1)), std::string(answer.text(0, 2))};
             });
   if (fence_ != nullptr) link_.add({{}, fence_->statement()});
+}
+
+bool PostgresEngine::isTextOrderOld() {
+  const Answer old = link_.ask(
+      "SELECT pg_has_role(collowner, 'USAGE') FROM pg_collation WHERE oid = "
+      "to_regcollation('fidaleon.es') AND collversion IS DISTINCT FROM "
+      "pg_collation_actual_version(oid)");
+  if (old.rows() == 0) return false;
+  if (old.text(0, 0) == "t") return true;
+  throw Error(
+      ErrorKind::ReadOnly,
+      "El servidor se ha actualizado y ordena los textos de otro modo: mientras sus índices "
+      "no se hagan de nuevo, podría no encontrarse a quien está. Tiene que abrir la "
+      "parroquia una vez el dueño de la base de datos.");
+}
+
+void PostgresEngine::renewTextOrder() {
+  run("DO $$ DECLARE t regclass; BEGIN "
+      "FOR t IN SELECT oid FROM pg_class WHERE relkind = 'r' AND "
+      "relnamespace = 'fidaleon'::regnamespace LOOP "
+      "EXECUTE 'REINDEX TABLE ' || t; END LOOP; "
+      "ALTER COLLATION fidaleon.es REFRESH VERSION; END $$");
 }
 
 void PostgresEngine::begin(int depth) {

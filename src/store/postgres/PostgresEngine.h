@@ -47,6 +47,8 @@ class PostgresEngine : public Engine {
   std::int64_t othersStored() override;
   void backup(const std::filesystem::path& to, const Schema& schema,
               const Progress& progress) override;
+  bool isTextOrderOld() override;
+  void renewTextOrder() override;
   void prepareFor(Writing writing) override;
   void fenceWith(Fence* fence) override { fence_ = fence; }
   void interrupt() override { link_.cancel(); }

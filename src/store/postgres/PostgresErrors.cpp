@@ -37,6 +37,8 @@ constexpr Meaning kMeanings[] = {
     {"55P03", ErrorKind::Busy, kBusy},
     {"55006", ErrorKind::Busy, "Alguien tiene abierta la base de datos del servidor."},
     {"42501", ErrorKind::ReadOnly, "El usuario del servidor no tiene permiso para hacer eso."},
+    {"0A", ErrorKind::Other,
+     "A ese servidor PostgreSQL le falta algo que hace falta: las reglas de orden de ICU."},
     {"42P04", ErrorKind::Constraint, "El servidor ya tiene una base de datos con ese nombre."},
     {"42", ErrorKind::Syntax, "La base de datos no entiende la instrucción."},
     {"53100", ErrorKind::DiskFull,
@@ -86,6 +88,10 @@ struct Refusal {
   const char* meaning;
 };
 
+constexpr const char* kNoRoom =
+    "el servidor no admite más puestos a la vez. Espere a que alguno cierre el programa, y avise a "
+    "quien lleva el servidor.";
+
 /// The first that fits counts: the name of a file that is missing is one of the certificate's.
 constexpr Refusal kRefusals[] = {
     {"pg_hba.conf", "pg_hba.conf", ErrorKind::Connection,
@@ -104,8 +110,12 @@ constexpr Refusal kRefusals[] = {
      "no se encuentra ningún equipo con ese nombre. Compruebe cómo está escrito, y la red."},
     {"does not exist", "no existe", ErrorKind::Missing,
      "el servidor no tiene esa base o ese usuario."},
-    {"too many c", "demasiadas conexiones", ErrorKind::Busy,
-     "el servidor no admite más puestos a la vez."},
+    {"not permitted to log in", "no se le permite conectarse", ErrorKind::Connection,
+     "ese usuario no puede entrar en el servidor. Pídalo a quien lo lleva."},
+    {"permission denied for database", "permiso denegado a la base", ErrorKind::Connection,
+     "ese usuario no tiene permiso para entrar en esa base. Pídalo a quien lleva el servidor."},
+    {"too many c", "demasiad", ErrorKind::Busy, kNoRoom},
+    {"remaining connection slots", "conexiones restantes", ErrorKind::Busy, kNoRoom},
     {"", "", ErrorKind::Connection,
      "el servidor no responde. Compruebe que está encendido y la red."},
 };
@@ -116,8 +126,9 @@ Error connectionError(PGconn* link, const std::string& shown) {
   if (PQconnectionNeedsPassword(link) != 0 || says(link, "password authentication") ||
       says(link, "autentificación password"))
     return Error(ErrorKind::Connection, kRefused, kWrongPassword);
-  if (says(link, "starting up") || says(link, "shutting down"))
-    return Error(ErrorKind::Connection, kStopping);
+  for (const char* words : {"starting up", "iniciándose", "shutting down", "apagándose",
+                            "recovery mode", "modo de recuperación"})
+    if (says(link, words)) return Error(ErrorKind::Connection, kStopping);
   const Refusal* refusal = kRefusals;
   while (!says(link, refusal->words) && !says(link, refusal->spanish)) ++refusal;
   return Error(refusal->kind, "No se puede entrar en " + shown + ": " + refusal->meaning);

@@ -23,7 +23,7 @@ void read(ServerAddress& address, std::string_view key, const std::string& value
 
 bool isLocal(std::string_view host) {
   return host.starts_with('/') || host.starts_with('@') || host == "localhost" || host == "::1" ||
-         host.starts_with("127.");
+         (host.starts_with("127.") && host.find_first_not_of("0123456789.") == host.npos);
 }
 
 }  // namespace

@@ -123,11 +123,13 @@ int Installer::version() {
 
 void Installer::adoptTextOrder() {
   const Spelling& spell = engine_.spelling();
-  if (!spell.ordersTextHere() || stored("Orden").text() == text::orderVersion()) return;
+  const bool here = spell.ordersTextHere();
+  if (here ? stored("Orden").text() == text::orderVersion() : !engine_.isTextOrderOld()) return;
   Step step(engine_);
   engine_.renewTextOrder();
-  engine_.run("UPDATE " + spell.name("Esquema") + " SET " + spell.name("Orden") + " = " +
-              spell.text(text::orderVersion()));
+  if (here)
+    engine_.run("UPDATE " + spell.name("Esquema") + " SET " + spell.name("Orden") + " = " +
+                spell.text(text::orderVersion()));
   step.commit();
 }
 
