@@ -173,6 +173,7 @@ store::Answer Seat::carryOut(const Step& step) {
 }
 
 void Seat::refuse(const Error& error) {
+  if (isLostLink(error)) throw Unusable(error.what());
   const std::string beginning =
       "No se puede trabajar con los bloqueos de " + link_.address().shown() + ": ";
   if (error.number() != SHUT) throw Unusable(beginning + error.what());

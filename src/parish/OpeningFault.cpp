@@ -3,6 +3,7 @@
 #include "locks/MeetingPlace.h"
 #include "parish/copies/SafetyCopies.h"
 #include "store/postgres/PostgresErrors.h"
+#include "store/schema/Installer.h"
 
 namespace fidaleon::app {
 namespace {
@@ -70,6 +71,8 @@ OpeningFault describeServerFault(const store::Error& error, const ParishFiles& f
 }  // namespace
 
 OpeningFault describeFault(const store::Error& error, const ParishFiles& files) {
+  if (error.number() == store::kBeingUpgraded)
+    return fault("Otro puesto está poniendo al día la parroquia", error.what(), WAIT);
   if (files.isOnServer()) return describeServerFault(error, files);
   const std::string file = named(files);
   switch (error.kind()) {

@@ -137,6 +137,11 @@ TEST(PostgresUpgrade, OfTwoAtOnce_OneWaitsAndFindsItDone) {
   Installer(one, version(1)).create();
   Link keeper(database.address());
   keeper.run("SELECT pg_advisory_lock(1330, 2)");
+  two.run("SET lock_timeout TO '20ms'");
+  std::string words;
+  EXPECT_EQ(kindOf([&] { Installer(two, version(2)).upgrade(); }, &words), ErrorKind::Busy);
+  EXPECT_NE(words.find("poniendo al día"), std::string::npos) << words;
+  two.run("SET lock_timeout TO '4s'");
   const auto upgrade = [&](PostgresEngine& engine) {
     Installer(engine, version(2)).upgrade();
     engine.run("INSERT INTO \"Persona\" (\"Edad\") VALUES (7)");

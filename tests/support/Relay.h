@@ -51,7 +51,7 @@ class Relay {
   }
   void open() { closed_ = false; }
   /// Those who come later are let in at once.
-  void stayOpen() { staysOpen_ = true; }
+  void stayOpen(bool stays = true) { staysOpen_ = stays; }
 
  private:
   struct Pair {

@@ -115,7 +115,11 @@ void Link::renew() {
   PQreset(link_.get());
   isLost_ = false;
   ++generation_;
-  settle();
+  try {
+    settle();
+  } catch (const Error& error) {
+    throw stillAway(error);
+  }
 }
 
 void Link::cancel() {

@@ -134,4 +134,13 @@ Error connectionError(PGconn* link, const std::string& shown) {
   return Error(refusal->kind, "No se puede entrar en " + shown + ": " + refusal->meaning);
 }
 
+Error stillAway(const Error& error) {
+  return Error(
+      error.kind(),
+      std::string(error.what()) +
+          "\n\nLo que no estaba guardado no se ha guardado: no cierre lo que tiene escrito "
+          "y vuelva a aceptar cuando el servidor responda.",
+      error.number());
+}
+
 }  // namespace fidaleon::store

@@ -23,5 +23,7 @@ constexpr int kWrongPassword = sqlState("28P01");
 Error postgresError(const PGresult* answer);
 /// The same when no link came about; the library tells only words. `shown` names the server.
 Error connectionError(PGconn* link, const std::string& shown);
+/// The same in the middle of work, with what becomes of that.
+Error stillAway(const Error& error);
 
 }  // namespace fidaleon::store

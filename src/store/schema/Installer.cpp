@@ -77,20 +77,29 @@ void Installer::remove() {
 }
 
 void Installer::upgrade() {
-  if (version() < schema_.version()) {
-    Step step(engine_);
-    const std::string alone = engine_.spelling().exclusiveUpgrade();
-    if (!alone.empty()) engine_.run(alone);
-    // Another workstation may have been faster.
-    if (const int old = version(); old < schema_.version()) {
-      addSince(old);
-      const Spelling& spell = engine_.spelling();
-      engine_.run("UPDATE " + spell.name("Esquema") + " SET " + spell.name("Version") + " = " +
-                  std::to_string(schema_.version()));
-    }
-    step.commit();
-  }
+  if (version() < schema_.version()) upgradeAlone();
   adoptTextOrder();
+}
+
+void Installer::upgradeAlone() try {
+  Step step(engine_);
+  const std::string alone = engine_.spelling().exclusiveUpgrade();
+  if (!alone.empty()) engine_.run(alone);
+  // Another workstation may have been faster.
+  if (const int old = version(); old < schema_.version()) {
+    addSince(old);
+    const Spelling& spell = engine_.spelling();
+    engine_.run("UPDATE " + spell.name("Esquema") + " SET " + spell.name("Version") + " = " +
+                std::to_string(schema_.version()));
+  }
+  step.commit();
+} catch (const Error& error) {
+  if (error.kind() != ErrorKind::Busy) throw;
+  throw Error(ErrorKind::Busy,
+              "Otro puesto está poniendo al día la parroquia para esta versión del programa, o "
+              "guardando en ella. Si hay muchas partidas, puede tardar unos minutos. Espere a que "
+              "termine y vuelva a intentarlo.",
+              kBeingUpgraded);
 }
 
 /// Empty where there is no such table.

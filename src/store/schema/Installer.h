@@ -7,6 +7,9 @@
 
 namespace fidaleon::store {
 
+/// Number of the error (Busy) of whoever finds another at it.
+inline constexpr int kBeingUpgraded = -1;
+
 /// Brings a database in line with a schema. The table Esquema of the database names the schema
 /// and its version.
 class Installer {
@@ -24,7 +27,8 @@ class Installer {
   /// Whether there is anything of this program.
   bool isThere();
   /// Throws NotADatabase for a database of another kind, NewerSchema for a newer one. An older
-  /// one gets what it lacks, as one step.
+  /// one gets what it lacks, as one step; while another workstation is at that, it throws Busy
+  /// with kBeingUpgraded.
   void upgrade();
   /// The version kept in the database; throws NotADatabase when it is none of this schema.
   int version();
@@ -35,6 +39,7 @@ class Installer {
 
  private:
   void createAs(const std::string& name);
+  void upgradeAlone();
   void addSince(int version);
   std::string storedName();
   std::string unfinishedName() const { return schema_.name() + " (a medias)"; }
