@@ -75,7 +75,7 @@ TEST_F(PostgresFaults, WhatTheServerDoesByItself_ChangesNothing) {
 TEST_F(PostgresFaults, CutAtTheEndOfATransaction_NeitherDoublesNorLosesIt) {
   relay.stayOpen();
   const auto store = [&](const std::string& name, Relay::Cut cut) {
-    relay.cutAt("COMMIT", cut);
+    relay.cutAt(Relay::COMMIT, cut);
     connection.BeginTrans();
     add(name);
     connection.CommitTrans();
@@ -86,7 +86,7 @@ TEST_F(PostgresFaults, CutAtTheEndOfATransaction_NeitherDoublesNorLosesIt) {
   connection.RollbackTrans();
   store("b", Relay::Cut::None);
   EXPECT_EQ(names(), "ab");
-  relay.cutAt("COMMIT", Relay::Cut::Behind);
+  relay.cutAt(Relay::COMMIT, Relay::Cut::Behind);
   add("c");
   EXPECT_EQ(names(), "abc") << "also a statement by itself";
 }
@@ -94,7 +94,7 @@ TEST_F(PostgresFaults, CutAtTheEndOfATransaction_NeitherDoublesNorLosesIt) {
 TEST_F(PostgresFaults, CutAndNoServerToAsk_IsSettledBeforeAnythingElseIsStored) {
   connection.BeginTrans();
   add("a");
-  relay.cutAt("COMMIT", Relay::Cut::Behind);
+  relay.cutAt(Relay::COMMIT, Relay::Cut::Behind);
   EXPECT_EQ(kindOf([&] { connection.CommitTrans(); }), ErrorKind::Connection);
   connection.RollbackTrans();
   EXPECT_EQ(kindOf([&] { add("a"); }), ErrorKind::Connection) << "nobody can be asked yet";

@@ -21,9 +21,10 @@ namespace fidaleon::tests {
 
 class Relay {
  public:
-  /// What becomes of the first packet to the server with a statement that begins with the text of
-  /// cutAt().
+  /// What becomes of the first packet to the server that holds the text of cutAt().
   enum class Cut { None, Before, Behind };
+  /// The whole statement: what begins a transaction has the word in it too.
+  static inline const std::string COMMIT{"COMMIT", 7};
 
   /// Its socket lies in `folder`, which outlives it.
   Relay(store::ServerAddress server, const std::filesystem::path& folder)
@@ -46,7 +47,7 @@ class Relay {
   void setDelay(std::chrono::microseconds delay) { delay_ = delay; }
   /// The link is cut there, and those who come later are turned away until open().
   void cutAt(const std::string& text, Cut cut) {
-    text_ = '\0' + text;
+    text_ = text;
     cut_ = cut;
   }
   void open() { closed_ = false; }

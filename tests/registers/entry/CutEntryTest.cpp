@@ -36,9 +36,9 @@ TEST_P(CutEntry, IsKeptInTheDialogAndStoredOnce) {
   } cases[] = {
       {"Ana", last, Relay::Cut::Before, true, lost, FURTHER_ENTRY},
       {"Eva", "", Relay::Cut::Before, false, lost, FURTHER_ENTRY},
-      {"Luz", "COMMIT", Relay::Cut::Before, true, lost, FURTHER_ENTRY},
-      {"Sol", "COMMIT", Relay::Cut::Behind, true, FURTHER_ENTRY, nullptr},
-      {"Paz", "COMMIT", Relay::Cut::Behind, false, "no puede saberse", "sí quedó guardado"},
+      {"Luz", Relay::COMMIT, Relay::Cut::Before, true, lost, FURTHER_ENTRY},
+      {"Sol", Relay::COMMIT, Relay::Cut::Behind, true, FURTHER_ENTRY, nullptr},
+      {"Paz", Relay::COMMIT, Relay::Cut::Behind, false, "no puede saberse", "sí quedó guardado"},
   };
   int stored = 0;
   for (const auto& c : cases) {
